@@ -1,0 +1,65 @@
+# The four binaries: hxacore, plugin.nsp, zenx.pi and hxahost. Each folder's .cpp files belong to the binary of the
+# folder; what differs between systems stands in a folder windows/ or posix/ beside them.
+if(WIN32)
+  set(system windows)
+else()
+  set(system posix)
+endif()
+
+# Sets VARIABLE to the sources of the folders, those for this system included.
+function(sources_of VARIABLE)
+  set(patterns)
+  foreach(folder ${ARGN})
+    list(APPEND patterns ${folder}/*.cpp ${folder}/${system}/*.cpp)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  set(${VARIABLE} ${sources} PARENT_SCOPE)
+endfunction()
+
+sources_of(hxacore_sources host/hxacore)
+add_library(hxacore SHARED ${hxacore_sources} plugin/host_interface/assertion_failed.cpp)
+target_compile_definitions(hxacore PRIVATE HXACORE_BUILD)
+target_link_libraries(hxacore PUBLIC compile_options)
+if(WIN32)
+  set_target_properties(hxacore PROPERTIES PREFIX "")
+endif()
+
+# What every other binary has a copy of.
+add_library(host_interface STATIC plugin/host_interface/assertion_failed.cpp)
+target_link_libraries(host_interface PUBLIC hxacore)
+
+sources_of(plugin_manager_sources host/plugin_manager)
+add_library(plugin_manager SHARED ${plugin_manager_sources})
+target_compile_definitions(plugin_manager PRIVATE PLUGIN_NSP_BUILD)
+target_link_libraries(plugin_manager PUBLIC hxacore PRIVATE host_interface)
+set_target_properties(plugin_manager PROPERTIES PREFIX "" OUTPUT_NAME plugin SUFFIX .nsp)
+
+sources_of(zenx_sources collect tools/qcmdrun tools/arcconf tools/hrconf logs publish platform)
+add_library(zenx_objects OBJECT ${zenx_sources} plugin/callbacks.cpp plugin/query.cpp)
+target_link_libraries(zenx_objects PUBLIC host_interface plugin_manager)
+add_library(zenx SHARED plugin/library_entry_${system}.cpp)
+target_link_libraries(zenx PRIVATE zenx_objects)
+set_target_properties(zenx PROPERTIES PREFIX "" OUTPUT_NAME zenx SUFFIX .pi)
+if(WIN32)
+  target_link_libraries(zenx_objects PUBLIC setupapi cfgmgr32)
+endif()
+
+# The program's own code is a library, so that tests can call it.
+sources_of(hxahost_sources host/hxahost)
+list(REMOVE_ITEM hxahost_sources ${CMAKE_SOURCE_DIR}/host/hxahost/main.cpp)
+add_library(hxahost_objects OBJECT ${hxahost_sources} cmake/empty.cpp)
+target_link_libraries(hxahost_objects PUBLIC host_interface plugin_manager)
+target_compile_definitions(hxahost_objects PRIVATE ZENX_VERSION="${PROJECT_VERSION}")
+add_executable(hxahost host/hxahost/main.cpp)
+target_link_libraries(hxahost PRIVATE hxahost_objects)
+add_dependencies(hxahost zenx)
+
+# Programs find a DLL beside themselves: the compiler's runtime is put there, so that the folder runs as it is.
+if(MINGW)
+  foreach(runtime libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime} OUTPUT_VARIABLE path
+                    OUTPUT_STRIP_TRAILING_WHITESPACE)
+    file(REAL_PATH ${path} path)
+    configure_file(${path} ${CMAKE_BINARY_DIR}/bin/${runtime} COPYONLY)
+  endforeach()
+endif()

@@ -1,0 +1,13 @@
+# How every binary is compiled. Warnings are errors.
+add_library(compile_options INTERFACE)
+target_include_directories(compile_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(compile_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_link_libraries(compile_options INTERFACE header_libraries)
+if(WIN32)
+  target_compile_definitions(compile_options INTERFACE _WIN32_WINNT=0x0601 WIN32_LEAN_AND_MEAN NOMINMAX)
+endif()
+if(ZENX_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(compile_options INTERFACE ${sanitizers})
+  target_link_options(compile_options INTERFACE ${sanitizers})
+endif()

@@ -1,0 +1,27 @@
+# One program for each level of tests: unit (a parser on text), host (the plug-in in a host with scripted services) and
+# end_to_end (the program on the sample machine, with real processes).
+enable_testing()
+if(CMAKE_CROSSCOMPILING)
+  add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+  add_library(test_framework INTERFACE)
+  target_link_libraries(test_framework INTERFACE gmock gtest)
+else()
+  find_package(GTest REQUIRED)
+  add_library(test_framework INTERFACE)
+  target_link_libraries(test_framework INTERFACE GTest::gmock GTest::gtest)
+endif()
+
+# A program that does what a test asks of a child process.
+add_executable(test_child tests/programs/test_child.cpp)
+target_link_libraries(test_child PRIVATE compile_options)
+
+foreach(level unit host end_to_end)
+  file(GLOB sources CONFIGURE_DEPENDS tests/${level}/*.cpp tests/support/*.cpp)
+  add_executable(${level}_tests ${sources} tests/main.cpp)
+  target_link_libraries(${level}_tests PRIVATE zenx_objects hxahost_objects test_framework)
+  target_compile_definitions(${level}_tests PRIVATE ZENX_SAMPLES="${CMAKE_SOURCE_DIR}/samples"
+                                                    ZENX_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
+  add_dependencies(${level}_tests hxahost zenx sample_machine test_child)
+  add_test(NAME ${level} COMMAND ${level}_tests --gtest_brief=1)
+  set_tests_properties(${level} PROPERTIES TIMEOUT 900)
+endforeach()

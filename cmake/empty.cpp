@@ -1,0 +1,1 @@
+// Keeps a library of objects from being empty.

@@ -1,0 +1,61 @@
+#include "collect/collected_data.h"
+
+namespace {
+
+constexpr std::string_view kBlankTabLineFeed = " \t\n";
+
+}  // namespace
+
+CollectedData::CollectedData(HostHandle host, std::string_view text) : host_(host) {
+  std::size_t begin = 0;
+  for (std::size_t end = text.find('\n'); end != text.npos; end = text.find('\n', begin)) {
+    lines_.emplace_back(text.substr(begin, end + 1 - begin));
+    begin = end + 1;
+  }
+}
+
+std::string_view CollectedData::FindLine(std::string_view label) {
+  for (std::size_t index = 0; index < lines_.size(); ++index) {
+    if (!Contains(lines_[index], label)) continue;
+    cursor_ = static_cast<int>(index);
+    return lines_[index];
+  }
+  return {};
+}
+
+std::string_view CollectedData::FindValue(std::string_view label) { return ValueAfterColon(FindLine(label)); }
+
+std::string_view CollectedData::CurrentLine() const { return lines_.at(static_cast<std::size_t>(cursor_)); }
+
+std::string_view CollectedData::NextLine() {
+  ++cursor_;
+  return CurrentLine();
+}
+
+void CollectedData::StepBack() { --cursor_; }
+
+std::string_view CollectedData::ValueOfCurrentLine() const { return ValueAfterColon(CurrentLine()); }
+
+std::string_view CollectedData::ValueAfterColon(std::string_view line) {
+  const std::size_t colon = line.find(':');
+  if (colon == line.npos) return {};
+  const std::size_t lineFeed = line.find('\n', colon);
+  if (lineFeed == line.npos) return {};
+  return line.substr(colon + 1, lineFeed - colon);
+}
+
+std::string_view CollectedData::NextLineValueIf(std::string_view label) {
+  const std::string_view line = NextLine();
+  return Contains(line, label) ? ValueAfterColon(line) : std::string_view();
+}
+
+std::string_view CollectedData::TrimLeft(std::string_view text) {
+  const std::size_t begin = text.find_first_not_of(kBlankTabLineFeed);
+  if (begin != text.npos) return text.substr(begin);
+  return text.substr(text.empty() ? 0 : text.size() - 1);
+}
+
+std::string_view CollectedData::TrimRight(std::string_view text) {
+  const std::size_t last = text.find_last_not_of(kBlankTabLineFeed);
+  return text.substr(0, last == text.npos ? 0 : last + 1);
+}

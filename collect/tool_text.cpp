@@ -1,0 +1,47 @@
+#include "collect/tool_text.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+namespace {
+
+std::string_view UpToLineEnd(std::string_view line, std::size_t begin) {
+  if (begin >= line.size()) return {};
+  const std::string_view rest = line.substr(begin);
+  const std::size_t carriageReturn = rest.find('\r');
+  return rest.substr(0, carriageReturn == rest.npos ? rest.find('\n') : carriageReturn);
+}
+
+}  // namespace
+
+std::string_view CutLogicalDriveNumber(std::string_view line, std::string_view label) {
+  constexpr std::size_t kLabelAndBlank = 21;
+  return UpToLineEnd(line, line.find(label) + kLabelAndBlank);
+}
+
+std::string_view CutDeviceType(std::string_view line) {
+  constexpr std::string_view kLabel = "Device is a";
+  const std::size_t label = line.find(kLabel);
+  if (label == line.npos) return {};
+  // "a Hard drive", but "an Enclosure services device".
+  const std::size_t articleRest = Contains(line, "Enclosure") ? 2 : 1;
+  return UpToLineEnd(line, label + kLabel.size() + articleRest);
+}
+
+std::string Joined(std::string_view text, std::string_view separator, std::string_view part) {
+  const std::size_t last = text.find_last_not_of(" \t\r\n");
+  const std::size_t first = part.find_first_not_of(' ');
+  std::string joined(text.substr(0, last == text.npos ? 0 : last + 1));
+  joined.append(separator);
+  return joined.append(first == part.npos ? std::string_view() : part.substr(first));
+}
+
+bool BeginsWithDigit(std::string_view text) { return !text.empty() && text.front() >= '0' && text.front() <= '9'; }
+
+int LeadingNumber(std::string_view text) {
+  // atoi leaves open what a number past its range gives, and platforms differ; this keeps to the nearest one.
+  constexpr long long kLowest = std::numeric_limits<int>::min();
+  constexpr long long kHighest = std::numeric_limits<int>::max();
+  return static_cast<int>(std::clamp(std::strtoll(std::string(text).c_str(), nullptr, 10), kLowest, kHighest));
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include "collect/records.h"
+
+class QcmdrunData;
+class HrconfData;
+class ArcconfData;
+
+// Runs the adapters one after the other and merges what they found. Controllers are numbered on from adapter to
+// adapter, so that a number is never given twice.
+class ZenxCollectData {
+ public:
+  explicit ZenxCollectData(HostHandle host);
+  virtual ~ZenxCollectData();
+
+  // To be called once. What an adapter lets pass (the legacy utility's cut-off output) passes here too, and the lists
+  // then hold what the adapters before it found.
+  void Collect(bool skipHrconf);
+
+  ControllerList GetControllers() const { return controllers_; }
+  RawDataList GetRawData() const { return rawData_; }
+
+ private:
+  template <class Adapter>
+  void Run(std::unique_ptr<Adapter>& adapter);
+
+  ControllerList controllers_;
+  RawDataList rawData_;
+  std::unique_ptr<QcmdrunData> qcmdrun_;
+  std::unique_ptr<HrconfData> hrconf_;
+  std::unique_ptr<ArcconfData> arcconf_;
+  HostHandle host_;
+};

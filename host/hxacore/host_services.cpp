@@ -1,0 +1,53 @@
+#include "host/hxacore/host_services.h"
+
+#include <utility>
+
+#include "host/hxacore/operating_system.h"
+#include "plugin/host_interface/services.h"
+
+namespace NKVRHXA20 {
+
+namespace {
+
+// The log that plug-ins know. Where an entry goes is the services' business.
+class TCoreLogger final : public ILogger {
+ public:
+  void Log(int level, const std::string& message) override { CurrentServices().log(level, message); }
+};
+
+// One of each for the process, as plug-ins reach them through static operations.
+struct HostState {
+  HostServices services = RealServices();
+  TCoreLogger logger;
+  boost::shared_ptr<ICIMNamespace> pluginManager;
+};
+
+HostState& State() {
+  static HostState state;
+  return state;
+}
+
+}  // namespace
+
+HostServices RealServices() {
+  return {SpawnProcess, CaptureFile, MachineName, LocalTime, [](int, const std::string&) {}};
+}
+
+const HostServices& CurrentServices() { return State().services; }
+void SetServices(HostServices services) { State().services = std::move(services); }
+void SetPluginManager(boost::shared_ptr<ICIMNamespace> manager) { State().pluginManager = std::move(manager); }
+
+boost::shared_ptr<ICIMNamespace> TRootObject::GetPluginManager() { return State().pluginManager; }
+ILogger* TRootObject::GetCoreLogger() { return &State().logger; }
+
+std::string TOSSpecific::GetMachineName() { return CurrentServices().machineName(); }
+TCIMDateTime TOSSpecific::GetLocalTime() { return CurrentServices().localTime(); }
+std::string TOSSpecific::SpawnProcess(std::string path, std::vector<std::string> arguments, int limitSeconds) {
+  return CurrentServices().spawn(path, arguments, limitSeconds);
+}
+std::string TOSSpecific::CaptureFile(std::string path) { return CurrentServices().capture(path); }
+
+const char* const TCIMSchemaHelper::kContextName = "ContextName";
+const char* const TCIMSchemaHelper::kPluginNSPName = "plugin";
+
+}  // namespace NKVRHXA20

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "plugin/host_interface/cim.h"
+#include "plugin/host_interface/date_time.h"
+#include "plugin/host_interface/export.h"
+
+namespace NKVRHXA20 {
+
+// All that plug-ins get from outside comes through one value of this kind. A program replaces it, whole or in part, to
+// script, record or replay.
+struct HostServices {
+  std::function<std::string(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds)>
+      spawn;
+  std::function<std::string(const std::string& path)> capture;
+  std::function<std::string()> machineName;
+  std::function<TCIMDateTime()> localTime;
+  std::function<void(int level, const std::string& message)> log;
+};
+
+// The services of the system: real processes, real files, its clock and name; the log goes nowhere.
+HXACORE_API HostServices RealServices();
+
+// The services in force are RealServices() until they are replaced. Not to be called while a query runs.
+HXACORE_API const HostServices& CurrentServices();
+HXACORE_API void SetServices(HostServices services);
+
+// What TRootObject::GetPluginManager() gives.
+HXACORE_API void SetPluginManager(boost::shared_ptr<ICIMNamespace> manager);
+
+}  // namespace NKVRHXA20

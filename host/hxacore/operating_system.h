@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "plugin/host_interface/date_time.h"
+
+// What the host asks of the operating system; one file per subject in posix/ and in windows/.
+namespace NKVRHXA20 {
+
+// See TOSSpecific::SpawnProcess. Standard input of the program is the null device; its environment is the host's with
+// the C locale. Throws THXAException with path and reason when it cannot be started, when the limit passes, and when
+// it writes more than kOutputLimit bytes; nothing that it started is left running then.
+std::string SpawnProcess(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds);
+
+constexpr std::size_t kOutputLimit = std::size_t{64} << 20U;
+
+// The bytes of a file. Throws THXAException with path and reason.
+std::string CaptureFile(const std::string& path);
+
+std::string MachineName();
+
+// The local time with its offset from UTC.
+TCIMDateTime LocalTime();
+
+}  // namespace NKVRHXA20

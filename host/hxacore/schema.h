@@ -1,0 +1,38 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "plugin/host_interface/export.h"
+#include "plugin/host_interface/value.h"
+
+namespace NKVRHXA20 {
+
+// One property of a class.
+struct PropertyDeclaration {
+  std::string_view name;
+  ECIMType type;
+  bool isArray;
+  bool isKey;
+  std::string_view referencedClass;  // of a reference; "" otherwise
+  std::string_view description;
+};
+
+// One class of the repository.
+struct ClassDeclaration {
+  std::string_view name;
+  std::string_view description;
+  bool isAssociation;
+  std::span<const PropertyDeclaration> properties;
+};
+
+// The classes that the plug-in publishes, in the order of its catalogue.
+HXACORE_API std::span<const ClassDeclaration> PublishedClasses();
+
+// Any class that the repository knows, the host's own too, found without regard to case; null where there is none.
+HXACORE_API const ClassDeclaration* FindClass(std::string_view name);
+
+// A property of a class, found without regard to case; null where there is none.
+HXACORE_API const PropertyDeclaration* FindProperty(const ClassDeclaration& declaration, std::string_view name);
+
+}  // namespace NKVRHXA20

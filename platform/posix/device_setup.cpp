@@ -1,0 +1,3 @@
+#include "platform/device_setup.h"
+
+std::string LookupSlotDevice(HostHandle, unsigned) { return {}; }

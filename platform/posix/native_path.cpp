@@ -1,0 +1,9 @@
+#include "platform/native_path.h"
+
+#include <algorithm>
+
+std::string NativePath(const std::string& windowsPath) {
+  std::string path = windowsPath;
+  std::ranges::replace(path, '\\', '/');
+  return path;
+}

@@ -1,0 +1,3 @@
+#include "platform/native_path.h"
+
+std::string NativePath(const std::string& windowsPath) { return windowsPath; }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/hxacore/host_services.h"
+#include "tests/support/recording_log.h"
+
+// Stands in for the outside while it lives: tools answer from a script, files come from a map, the clock stands still.
+// The real services are back when it is gone.
+class ScriptedServices {
+ public:
+  ScriptedServices();
+  ~ScriptedServices();
+  ScriptedServices(const ScriptedServices&) = delete;
+  ScriptedServices& operator=(const ScriptedServices&) = delete;
+
+  // What a command prints, by tool name and arguments: "qcmdrun getconfig 1 al". A command that is not here cannot be
+  // started: THXAException("<path> is not here").
+  std::map<std::string, std::string> answers;
+
+  // Files by path, as CaptureFile is asked for them. Any other cannot be read.
+  std::map<std::string, std::string> files;
+
+  std::string machineName = "MACHINE";
+  NKVRHXA20::TCIMDateTime localTime{2026, 3, 5, 12, 30, 15, 250000, 60};
+
+  // What happened, in order.
+  std::vector<std::string> runs;  // the keys of answers, whether answered or not
+  std::vector<LogEntry> log;
+
+  // The texts of the log.
+  std::vector<std::string> LogTexts() const;
+};

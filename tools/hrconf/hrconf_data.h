@@ -1,0 +1,21 @@
+#pragma once
+
+#include "collect/records.h"
+
+// Collects the controllers that hrconf answers for.
+class HrconfData {
+ public:
+  explicit HrconfData(HostHandle host) : host_(host) {}
+  virtual ~HrconfData() = default;
+
+  // To be called once, with the number of controllers found before: numbering goes on from there.
+  void Collect(unsigned firstControllerNumber);
+
+  ControllerList GetControllers() const { return controllers_; }
+  RawDataList GetRawData() const { return rawData_; }
+
+ private:
+  ControllerList controllers_;
+  RawDataList rawData_;
+  HostHandle host_;
+};
