@@ -22,6 +22,6 @@ foreach(level unit host end_to_end)
   target_compile_definitions(${level}_tests PRIVATE ZENX_SAMPLES="${CMAKE_SOURCE_DIR}/samples"
                                                     ZENX_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
   add_dependencies(${level}_tests hxahost zenx sample_machine test_child)
-  add_test(NAME ${level} COMMAND ${level}_tests --gtest_brief=1)
+  add_test(NAME ${level} COMMAND ${level}_tests --gtest_brief=1 --gtest_output=xml:results-${level}.xml)
   set_tests_properties(${level} PROPERTIES TIMEOUT 900)
 endforeach()
