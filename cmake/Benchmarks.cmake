@@ -1,0 +1,11 @@
+# Benchmarks run natively, in a release build. scripts/bench runs them all.
+find_package(benchmark REQUIRED)
+add_library(bench_support OBJECT bench/machine_text.cpp bench/scripted_machine.cpp bench/whole_query.cpp)
+target_link_libraries(bench_support PUBLIC zenx_objects)
+foreach(name collection_cost peak_memory)
+  add_executable(${name} bench/${name}.cpp)
+  target_link_libraries(${name} PRIVATE bench_support)
+endforeach()
+add_executable(parse_and_publish bench/parse_and_publish.cpp)
+target_link_libraries(parse_and_publish PRIVATE bench_support benchmark::benchmark)
+add_dependencies(collection_cost sample_machine)
