@@ -1,0 +1,101 @@
+#include "host/hxacore/instance.h"
+
+#include <algorithm>
+#include <mutex>
+#include <set>
+#include <utility>
+
+#include <boost/make_shared.hpp>
+
+#include "host/hxacore/ignore_case.h"
+#include "host/hxacore/value_reader.h"
+#include "host/hxacore/value_type.h"
+#include "plugin/host_interface/exception.h"
+
+namespace NKVRHXA20 {
+
+namespace {
+
+// The value that the property had when it was asked for.
+class TProperty final : public ICIMProperty {
+ public:
+  explicit TProperty(TCIMValue value) : value_(std::move(value)) {}
+  TCIMValue GetValue(const TPropertyMap&) override { return value_; }
+
+ private:
+  TCIMValue value_;
+};
+
+// A name as it was set, without a copy of it for every instance. Spellings other than the declared one are few, and
+// kept to the end of the process.
+std::string_view Spelling(std::string_view declared, const std::string& asSet) {
+  if (asSet == declared) return declared;
+  static std::mutex mutex;
+  static auto* const others = new std::set<std::string>;
+  const std::lock_guard lock(mutex);
+  return *others->insert(asSet).first;
+}
+
+const PropertyDeclaration& Declared(const ClassDeclaration& declaration, const std::string& name) {
+  const PropertyDeclaration* const property = FindProperty(declaration, name);
+  if (!property)
+    throw THXAException("The class \"" + std::string(declaration.name) + "\" has no property \"" + name + "\".");
+  return *property;
+}
+
+}  // namespace
+
+TPublishedInstance::~TPublishedInstance() = default;
+
+TInstance::TInstance(const ClassDeclaration& declaration, TKeep keep)
+    : declaration_(declaration), keep_(std::move(keep)) {
+  properties_.reserve(declaration.properties.size());
+}
+
+void TInstance::Commit(TPropertyMap) {
+  if (!keep_) throw THXAException("An instance of \"" + std::string(declaration_.name) + "\" is committed already.");
+  std::exchange(keep_, nullptr)(shared_from_this());
+}
+
+TCIMReference TInstance::GetReference(const TPropertyMap&) { return Reference(); }
+
+boost::shared_ptr<ICIMProperty> TInstance::GetProperty(const std::string& name, const TPropertyMap&) {
+  const PublishedProperty* const property = Find(Declared(declaration_, name).name);
+  return boost::make_shared<TProperty>(property ? property->value : TCIMValue());
+}
+
+void TInstance::SetProperty(const std::string& name, const TCIMValue& value, const TPropertyMap&) {
+  const PropertyDeclaration& declared = Declared(declaration_, name);
+  const std::string place = std::string(declaration_.name) + "." + std::string(declared.name);
+  if (!keep_) throw THXAException("\"" + place + "\" cannot be set: the instance is committed already.");
+  if (!HasDeclaredType(value, declared)) {
+    throw THXAException("\"" + place + "\" is " + TypeText(declared) + ", which the value set is not.");
+  }
+  const auto isSame = [&](const PublishedProperty& property) { return EqualIgnoringCase(property.name, name); };
+  const auto found = std::ranges::find_if(properties_, isSame);
+  if (found == properties_.end()) {
+    properties_.push_back({Spelling(declared.name, name), value});
+  } else {
+    *found = {Spelling(declared.name, name), value};
+  }
+}
+
+// A reference names no namespace: it stays within its own. With one, a link that the repository keeps would keep the
+// repository. A key that has no value is left out: the path says only what is known.
+TCIMReference TInstance::Reference() const {
+  TPropertyMap keys;
+  for (const PropertyDeclaration& declared : declaration_.properties) {
+    const PublishedProperty* const property = declared.isKey ? Find(declared.name) : nullptr;
+    if (!property || TCIMValueReader::Kind(property->value) == ValueKind::kNone) continue;
+    keys.emplace(declared.name, property->value);
+  }
+  return TCIMReferenceFactory::Make(nullptr, std::string(declaration_.name), keys);
+}
+
+const PublishedProperty* TInstance::Find(std::string_view name) const {
+  const auto found = std::ranges::find_if(
+      properties_, [&](const PublishedProperty& property) { return EqualIgnoringCase(property.name, name); });
+  return found == properties_.end() ? nullptr : &*found;
+}
+
+}  // namespace NKVRHXA20

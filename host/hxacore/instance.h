@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <boost/enable_shared_from_this.hpp>
+#include <boost/shared_ptr.hpp>
+
+#include "host/hxacore/repository.h"
+
+namespace NKVRHXA20 {
+
+// An instance from its creation to what the host keeps of it. Committing hands it to the host; from then on it stays
+// as it is: a second commit and a property that is set later are THXAException.
+class TInstance final : public ICIMInstance,
+                        public TPublishedInstance,
+                        public boost::enable_shared_from_this<TInstance> {
+ public:
+  // What keeps the instance when it is committed.
+  using TKeep = std::function<void(const boost::shared_ptr<TInstance>&)>;
+
+  // The declaration must outlive the instance.
+  TInstance(const ClassDeclaration& declaration, TKeep keep);
+
+  void Commit(TPropertyMap context) override;
+  TCIMReference GetReference(const TPropertyMap& context) override;
+  boost::shared_ptr<ICIMProperty> GetProperty(const std::string& name, const TPropertyMap& context) override;
+  void SetProperty(const std::string& name, const TCIMValue& value, const TPropertyMap& context) override;
+
+  const ClassDeclaration& Class() const override { return declaration_; }
+  const std::vector<PublishedProperty>& Properties() const override { return properties_; }
+  TCIMReference Reference() const override;
+
+ private:
+  const PublishedProperty* Find(std::string_view name) const;
+
+  const ClassDeclaration& declaration_;
+  TKeep keep_;  // empty once committed, which also lets go of the host's lists
+  std::vector<PublishedProperty> properties_;
+};
+
+}  // namespace NKVRHXA20
