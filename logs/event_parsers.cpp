@@ -1,0 +1,88 @@
+#include "logs/event_parsers.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+#include <string>
+
+#include "collect/collected_data.h"
+#include "logs/event_records.h"
+#include "logs/table_columns.h"
+
+using NKVRHXA20::TCIMDateTime;
+
+namespace {
+
+struct Column {
+  int number;
+  std::string ZenxEventDddData::*field;
+};
+
+// "| 03/15/2005 | 14:02:33 | 1 | 3 | 04 | Drive did not answer"
+constexpr Column kColumns[] = {
+    {1, &ZenxEventDddData::Date   },
+    {2, &ZenxEventDddData::Time   },
+    {3, &ZenxEventDddData::Channel},
+    {4, &ZenxEventDddData::ID     },
+    {5, &ZenxEventDddData::Reason },
+};
+constexpr int kDescription = 6;
+
+// The characters that the text has of the piece.
+std::string Piece(const std::string& text, std::size_t offset, std::size_t length) {
+  return text.substr(std::min(offset, text.size()), length);
+}
+
+// "03/15/2005" and "14:02:33" to "20050315140233.000000+000".
+std::string TimestampText(const std::string& date, const std::string& time) {
+  const std::string day = Piece(date, 6, 4) + Piece(date, 0, 2) + Piece(date, 3, 2);
+  return day + Piece(time, 0, 2) + Piece(time, 3, 2) + Piece(time, 6, 2) + ".000000+000";
+}
+
+std::string FourHexDigits(std::uint32_t number) {
+  std::array<char, 16> text{};
+  std::snprintf(text.data(), text.size(), "%04x", static_cast<unsigned>(number));
+  return text.data();
+}
+
+// A line without hexadecimal digits counts as 0, a number that has no room as the largest.
+std::uint32_t ReadCode(std::string_view line) {
+  constexpr unsigned long long kLargest = std::numeric_limits<std::uint32_t>::max();
+  return static_cast<std::uint32_t>(std::min(std::strtoull(std::string(line).c_str(), nullptr, 16), kLargest));
+}
+
+// These logs carry no time; every one of them gets the same, so that nobody takes it for a real one.
+TCIMDateTime FixedTime() { return TCIMDateTime(2000, 1, 1, 1, 1, 1, 1, 1); }
+
+template <class Record>
+void ParseCodes(Record& record, CollectedData& text, std::string_view controllerNumber) {
+  record.Controller = controllerNumber;
+  record.LogTitle = text.CurrentLine();
+  for (text.NextLine(); !Contains(text.CurrentLine(), "Command completed successfully"); text.NextLine()) {
+    if (!Contains(text.CurrentLine(), "-----------")) record.Codes.push_back(ReadCode(text.CurrentLine()));
+  }
+  record.MessageTimestamp = FixedTime();
+  record.RecordID = "1";
+}
+
+}  // namespace
+
+void ParseDddRow(ZenxEventDddData& record, const CollectedData& text, std::string_view controllerNumber,
+                 std::uint32_t entryNumber) {
+  record.Controller = controllerNumber;
+  const std::string_view line = text.CurrentLine();
+  for (const Column& column : kColumns) record.*column.field = CutColumn(line, column.number);
+  record.Descrip = CutLastColumn(line, kDescription);
+  record.MessageTimestamp = TCIMDateTime(TimestampText(record.Date, record.Time));
+  record.RecordID = FourHexDigits(entryNumber);
+}
+
+void ParseSoftLog(ZenxEventSoftData& record, CollectedData& text, std::string_view controllerNumber) {
+  ParseCodes(record, text, controllerNumber);
+}
+
+void ParseHardLog(ZenxEventHardData& record, CollectedData& text, std::string_view controllerNumber) {
+  ParseCodes(record, text, controllerNumber);
+}
