@@ -1,0 +1,87 @@
+#include "tools/qcmdrun/log_walk.h"
+
+#include "collect/collected_data.h"
+#include "collect/records.h"
+#include "logs/event_parsers.h"
+#include "logs/event_records.h"
+#include "logs/statistics_parsers.h"
+#include "logs/statistics_records.h"
+#include "plugin/host_interface/exception.h"
+
+namespace qcmdrun {
+
+namespace {
+
+constexpr std::string_view kEnd = "Command completed successfully";
+
+bool IsRule(std::string_view line) { return Contains(line, "-"); }
+
+}  // namespace
+
+void AttachBadStripes(ZenxController& controller, CollectedData& text, BadStripeParser parse) {
+  if (text.FindLine("Get bad stripe information").empty()) return;
+  try {
+    while (Contains(text.NextLine(), "-")) {
+      auto record = std::make_shared<ZenxBstData>(controller.Host);
+      parse(*record, text, controller.ControllerNum);
+      controller.BadStripes.push_back(std::move(record));
+    }
+  } catch (const NKVRHXA20::THXAException&) {
+    Log(controller.Host, kLogRoutine, "Bad Stripe data is junk: Quit BST data collection");
+  }
+}
+
+// Behind the title stand a rule, the heads of the columns and a rule. The next controller's heading ends the table
+// where the utility prints several.
+void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine("Device event table:").empty()) return;
+  constexpr int kLinesToFirstRow = 3;
+  for (int line = 0; line < kLinesToFirstRow; ++line) text.NextLine();
+  for (; !Contains(text.CurrentLine(), kEnd) && !Contains(text.CurrentLine(), "Controller "); text.NextLine()) {
+    if (IsRule(text.CurrentLine())) continue;
+    auto record = std::make_shared<ZenxEventData>(controller.Host);
+    ParseDeviceEvent(*record, text, controller.ControllerNum);
+    controller.DeviceEvents.push_back(std::move(record));
+  }
+}
+
+void AttachDddEvents(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine("+---").empty()) return;
+  std::uint32_t entryNumber = 1;
+  try {
+    for (text.NextLine(); !Contains(text.CurrentLine(), kEnd); text.NextLine()) {
+      if (IsRule(text.CurrentLine())) continue;
+      auto record = std::make_shared<ZenxEventDddData>(controller.Host);
+      ParseDddRow(*record, text, controller.ControllerNum, entryNumber);
+      controller.DddEvents.push_back(std::move(record));
+      ++entryNumber;
+    }
+  } catch (const NKVRHXA20::THXAException&) {
+    Log(controller.Host, kLogRoutine, "Time Stamp is junk: Quit DDD data collection");
+  }
+}
+
+void SetSoftEvents(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine("Controller Soft Event Log").empty()) return;
+  auto record = std::make_shared<ZenxEventSoftData>(controller.Host);
+  ParseSoftLog(*record, text, controller.ControllerNum);
+  controller.SoftEvents = std::move(record);
+}
+
+void SetHardEvents(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine("Controller Hard Event Log").empty()) return;
+  auto record = std::make_shared<ZenxEventHardData>(controller.Host);
+  ParseHardLog(*record, text, controller.ControllerNum);
+  controller.HardEvents = std::move(record);
+}
+
+void AttachSubStats(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine("A:").empty()) return;
+  for (; !Contains(text.CurrentLine(), kEnd); text.NextLine()) {
+    auto record = std::make_shared<ZenxSubStatData>(controller.Host);
+    ParseSubStat(*record, text, controller.ControllerNum);
+    controller.SubStats.push_back(std::move(record));
+  }
+}
+
+}  // namespace qcmdrun

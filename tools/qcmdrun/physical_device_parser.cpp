@@ -1,0 +1,89 @@
+#include "tools/qcmdrun/physical_device_parser.h"
+
+#include <algorithm>
+#include <string>
+
+#include "collect/labelled_fields.h"
+#include "collect/records.h"
+
+namespace qcmdrun {
+
+namespace {
+
+// Tapes and processors print only some of these lines.
+constexpr LabelledField<ZenxPhysicalDevice> kDevice[] = {
+    {"SCSI ID",                   &ZenxPhysicalDevice::ScsiId        },
+    {"PFA (Yes/No)",              &ZenxPhysicalDevice::PFA           },
+    {"State",                     &ZenxPhysicalDevice::State         },
+    {"Size (in MB)/(in sectors)", &ZenxPhysicalDevice::Size          },
+    {"Device ID",                 &ZenxPhysicalDevice::DeviceIdSuffix},
+};
+
+constexpr LabelledField<ZenxPhysicalDevice> kReplacementPart[] = {
+    {"FRU part number", &ZenxPhysicalDevice::FRU},
+};
+
+// Where a piece stands in the identifier of a hard disk. Offset 0 is the blank behind the colon.
+struct Piece {
+  std::size_t offset;
+  std::size_t length;
+  std::string ZenxPhysicalDevice::*field;
+};
+
+constexpr Piece kModel = {0, 16, &ZenxPhysicalDevice::Model};
+
+// " TALVERA T36LW10 S96H8B01234": firmware and serial number share a character.
+constexpr Piece kHardDiskPieces[] = {
+    {9,  8, &ZenxPhysicalDevice::DeviceCode     },
+    {17, 4, &ZenxPhysicalDevice::Firmware       },
+    {20, 8, &ZenxPhysicalDevice::DeviceSerialNum},
+};
+
+// An identifier shorter than this, blank and line end counted, ends before the serial number does.
+constexpr std::size_t kFullIdentifier = 28;
+
+// Takes the piece out of the identifier; where that is too short, what there is of it.
+void Cut(ZenxPhysicalDevice& device, const Piece& piece) {
+  const std::string& identifier = device.DeviceIdSuffix;
+  device.*piece.field = identifier.substr(std::min(piece.offset, identifier.size()), piece.length);
+}
+
+void CutHardDisk(ZenxPhysicalDevice& device) {
+  Cut(device, kModel);
+  if (device.DeviceIdSuffix.size() < kFullIdentifier) return;
+  for (const Piece& piece : kHardDiskPieces) Cut(device, piece);
+}
+
+// The last four characters of a tape's identifier, before the line end, are its firmware version.
+void CutTape(ZenxPhysicalDevice& device) {
+  constexpr std::size_t kLineEnd = 2;
+  constexpr std::size_t kFirmware = 4;
+  const std::string& identifier = device.DeviceIdSuffix;
+  const std::size_t end = identifier.size() - std::min(identifier.size(), kLineEnd);
+  const std::size_t begin = end - std::min(end, kFirmware);
+  device.Model = identifier;
+  device.Firmware = identifier.substr(begin, end - begin);
+  Log(device.Host, kLogRoutine, "We get one tape drive, and it's firmware version is:" + device.Firmware);
+}
+
+// "     Device is a Hard disk": what follows the label, line end included.
+std::string_view CutType(std::string_view line) {
+  constexpr std::string_view kLabel = "Device is a";
+  const std::size_t label = line.find(kLabel);
+  return label == line.npos ? std::string_view() : line.substr(label + kLabel.size());
+}
+
+}  // namespace
+
+void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::string_view controllerNumber,
+                         std::string_view channel) {
+  device.ControllerNum = controllerNumber;
+  device.Channel = channel;
+  device.DeviceType = CutType(text.NextLine());
+  ReadInOrder<ZenxPhysicalDevice>(text, device, kDevice);
+  if (Contains(device.DeviceType, "Tape")) CutTape(device);
+  if (Contains(device.DeviceType, "Hard disk")) CutHardDisk(device);
+  ReadInOrder<ZenxPhysicalDevice>(text, device, kReplacementPart);
+}
+
+}  // namespace qcmdrun

@@ -1,0 +1,28 @@
+#include "tools/qcmdrun/stripe_order_parser.h"
+
+#include "collect/collected_data.h"
+#include "collect/records.h"
+#include "collect/tool_text.h"
+
+namespace qcmdrun {
+
+// "Array A stripe order (Channel/SCSI ID) : 1,0  1,1  1,2  1,3"
+// "                                         2,0  2,1"
+// A list never takes more than two lines.
+void ParseStripeOrder(ArrayStripeOrder& order, CollectedData& text, std::string_view controllerNumber) {
+  order.ControllerNum = controllerNumber;
+  const std::string_view line = text.CurrentLine();
+  const std::size_t label = line.find(kStripeOrderLabel);
+  if (label == line.npos) return;
+  order.Array = line.at(label - 1);
+  order.CollectionID = "Zentraxis" + order.ControllerNum + "Array" + order.Array;
+  order.StripeOrder = text.ValueOfCurrentLine();
+  const std::string_view next = CollectedData::TrimLeft(text.NextLine());
+  if (BeginsWithDigit(next)) {
+    order.StripeOrder = Joined(order.StripeOrder, " ", next);
+  } else {
+    text.StepBack();
+  }
+}
+
+}  // namespace qcmdrun
