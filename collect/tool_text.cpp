@@ -29,6 +29,11 @@ std::string_view CutDeviceType(std::string_view line) {
   return UpToLineEnd(line, label + kLabel.size() + articleRest);
 }
 
+std::string_view CutDeviceName(std::string_view line) {
+  constexpr std::size_t kNameLength = 12;
+  return line.substr(line.find(kDeviceNumberLabel), kNameLength);
+}
+
 std::string Joined(std::string_view text, std::string_view separator, std::string_view part) {
   const std::size_t last = text.find_last_not_of(" \t\r\n");
   const std::size_t first = part.find_first_not_of(' ');

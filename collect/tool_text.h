@@ -7,6 +7,9 @@
 
 // Cuts that the texts of several tools have in common.
 
+// Begins a line that begins a device.
+constexpr std::string_view kDeviceNumberLabel = "Device #";
+
 // "Logical drive number 1": the text from 21 characters after the start of the label to the carriage return, or to
 // the line feed where there is none. A line too short for it gives "". The label must be in the line.
 std::string_view CutLogicalDriveNumber(std::string_view line, std::string_view label);
@@ -14,6 +17,10 @@ std::string_view CutLogicalDriveNumber(std::string_view line, std::string_view l
 // "Device is a Hard drive", "Device is an Enclosure services device": the type, to the carriage return, or to the
 // line feed where there is none. "" when the line does not contain "Device is a".
 std::string_view CutDeviceType(std::string_view line);
+
+// "Device #1": what a line that begins a device has from "Device #" on, 12 characters at most, so that the line end
+// is part of it when the number is short. The label must be in the line.
+std::string_view CutDeviceName(std::string_view line);
 
 // Puts a further part behind a text: line end, blanks and tabs that close the text and blanks that open the part are
 // dropped, and the separator stands between the two.

@@ -1,0 +1,18 @@
+#include "collect/stripe_order.h"
+
+#include "collect/tool_text.h"
+
+bool ContinueList(CollectedData& text, std::string& list) {
+  const std::string_view line = CollectedData::TrimLeft(text.NextLine());
+  if (!BeginsWithDigit(line)) {
+    text.StepBack();
+    return false;
+  }
+  list = Joined(list, " ", line);
+  return true;
+}
+
+std::string StripeOrderId(const ArrayStripeOrder& order, std::string_view logicalDriveNumber) {
+  std::string id = "ZentraxisCntrlr" + order.ControllerNum + "LogicalDrv";
+  return id.append(logicalDriveNumber).append(order.StripeOrder);
+}
