@@ -1,6 +1,7 @@
 #pragma once
 
 #include "collect/records.h"
+#include "collect/tool_runner.h"
 
 // Collects the controllers that arcconf answers for.
 class ArcconfData {
@@ -15,6 +16,11 @@ class ArcconfData {
   RawDataList GetRawData() const { return rawData_; }
 
  private:
+  void RecordOutputs();
+  void RecordOutput(const ToolCommand& command, unsigned controllerNumber);
+  void ParseControllers(unsigned firstControllerNumber);
+  void ParseConfig(const std::string& config, unsigned controllerNumber);
+
   ControllerList controllers_;
   RawDataList rawData_;
   HostHandle host_;

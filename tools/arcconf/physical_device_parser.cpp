@@ -1,0 +1,122 @@
+#include "tools/arcconf/physical_device_parser.h"
+
+#include "collect/end_of_text.h"
+#include "collect/labelled_fields.h"
+#include "collect/tool_text.h"
+
+namespace arcconf {
+namespace {
+
+using Device = ZenxPhysicalDevice;
+
+constexpr LabelledField<Device> kUnknown[] = {
+    {"State",            &Device::State          },
+    {"Reported Channel", &Device::ReportedChannel},
+    {"Vendor",           &Device::Vendor         },
+    {"Model",            &Device::Model          },
+    {"Firmware",         &Device::Firmware       },
+};
+
+constexpr LabelledField<Device> kEnclosure[] = {
+    {"State",            &Device::State          },
+    {"Transfer Speed",   &Device::TransferSpeed  },
+    {"Reported Channel", &Device::ReportedChannel},
+    {"Enclosure ID",     &Device::EnclosureId    },
+    {"Type",             &Device::Type           },
+    {"Vendor",           &Device::Vendor         },
+    {"Model",            &Device::Model          },
+    {"Firmware",         &Device::Firmware       },
+};
+
+constexpr LabelledField<Device> kEnclosureStatus[] = {
+    {"Temperature", &Device::Temperature},
+};
+
+constexpr LabelledField<Device> kHardDriveState[] = {
+    {"State", &Device::State},
+};
+
+constexpr LabelledField<Device> kHardDrive[] = {
+    {"Supported",          &Device::Supported       },
+    {"Transfer Speed",     &Device::TransferSpeed   },
+    {"Reported Channel",   &Device::ReportedChannel },
+    {"Reported Enclosure", &Device::Enclosure       },
+    {"Reported Location",  &Device::ReportedLocation},
+    {"Reported ESD",       &Device::ReportedESD     },
+    {"Vendor",             &Device::Vendor          },
+    {"Model",              &Device::Model           },
+    {"Firmware",           &Device::Firmware        },
+    {"Serial",             &Device::DeviceSerialNum },
+    {"World-wide name",    &Device::WorldWideName   },
+    {"Size",               &Device::Size            },
+    {"Write Cache",        &Device::WriteCache      },
+    {"FRU",                &Device::FRU             },
+    {"PFA",                &Device::PFA             },
+};
+
+void ReadUnknown(Device& device, CollectedData& text) { ReadInOrder(text, device, kUnknown); }
+
+void ReadEnclosure(Device& device, CollectedData& text) {
+  ReadInOrder(text, device, kEnclosure);
+  // Heads the readings of the enclosure's sensors; it has no value of its own.
+  if (!Contains(text.NextLine(), "Status of Enclosure services device")) text.StepBack();
+  ReadInOrder(text, device, kEnclosureStatus);
+}
+
+// "State : Hot Spare" and below it "Assigned Spare for : Logical drive 1" are one state.
+void ReadAssignedSpare(Device& device, CollectedData& text) {
+  const std::string_view spareFor = text.NextLineValueIf("Assigned Spare for");
+  if (spareFor.empty()) return text.StepBack();
+  device.State = Joined(device.State, " for ", spareFor);
+}
+
+void ReadHardDrive(Device& device, CollectedData& text) {
+  ReadInOrder(text, device, kHardDriveState);
+  ReadAssignedSpare(device, text);
+  ReadInOrder(text, device, kHardDrive);
+}
+
+// "0,3": channel 0, device 3.
+void SplitReportedChannel(Device& device) {
+  const std::string_view reported = CollectedData::TrimRight(CollectedData::TrimLeft(device.ReportedChannel));
+  const std::size_t comma = reported.find(',');
+  device.Channel = reported.substr(0, comma);
+  device.ScsiId = comma == reported.npos ? std::string_view() : reported.substr(comma + 1);
+}
+
+enum class Place { kReportedOnly, kSplit };
+
+struct Branch {
+  std::string_view type;
+  void (*read)(Device& device, CollectedData& text);
+  Place place;
+};
+
+// The first whose type is in the device's counts. Of other devices (tapes, processors) the type is all that is taken.
+constexpr Branch kBranches[] = {
+    {"Unknown",    ReadUnknown,   Place::kReportedOnly},
+    {"Enclosure",  ReadEnclosure, Place::kSplit       },
+    {"Hard drive", ReadHardDrive, Place::kSplit       },
+};
+
+void ReadDevice(Device& device, CollectedData& text) {
+  UntilEndOfText([&] { device.DeviceType = CutDeviceType(text.NextLine()); });
+  for (const auto& [type, read, place] : kBranches) {
+    if (!Contains(device.DeviceType, type)) continue;
+    UntilEndOfText([&] { read(device, text); });
+    if (place == Place::kSplit && !device.ReportedChannel.empty()) SplitReportedChannel(device);
+    return;
+  }
+}
+
+}  // namespace
+
+void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::string_view controllerNumber,
+                         std::string_view channel, std::string_view deviceName) {
+  device.ControllerNum = controllerNumber;
+  device.DeviceNumber = deviceName;
+  ReadDevice(device, text);
+  device.DeviceIdSuffix.append("Controller: ").append(channel).append(deviceName);
+}
+
+}  // namespace arcconf
