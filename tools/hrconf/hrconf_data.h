@@ -1,6 +1,7 @@
 #pragma once
 
 #include "collect/records.h"
+#include "collect/tool_runner.h"
 
 // Collects the controllers that hrconf answers for.
 class HrconfData {
@@ -15,6 +16,12 @@ class HrconfData {
   RawDataList GetRawData() const { return rawData_; }
 
  private:
+  void RecordOutputs();
+  void RecordOutput(const ToolCommand& command, unsigned controllerNumber);
+  void ParseControllers(unsigned firstControllerNumber);
+  void ParseConfig(const std::string& config, unsigned toolNumber, unsigned controllerNumber);
+  std::shared_ptr<ZenxHrConfBios> ReadVersions(unsigned toolNumber) const;
+
   ControllerList controllers_;
   RawDataList rawData_;
   HostHandle host_;

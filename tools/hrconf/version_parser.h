@@ -1,0 +1,12 @@
+#pragma once
+
+#include "collect/collected_data.h"
+#include "collect/records.h"
+
+namespace hrconf {
+
+// Fills the versions from the answer to "getversion N". An answer that ends too early is logged; what was read by then
+// is kept.
+void ParseVersion(ZenxHrConfBios& versions, CollectedData& text);
+
+}  // namespace hrconf
