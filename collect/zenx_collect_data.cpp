@@ -1,5 +1,7 @@
 #include "collect/zenx_collect_data.h"
 
+#include <utility>
+
 #include "tools/arcconf/arcconf_data.h"
 #include "tools/hrconf/hrconf_data.h"
 #include "tools/qcmdrun/qcmdrun_data.h"
@@ -13,7 +15,8 @@ void Append(std::vector<std::shared_ptr<Record>>& to, const std::vector<std::sha
 
 }  // namespace
 
-ZenxCollectData::ZenxCollectData(HostHandle host) : host_(host) {}
+ZenxCollectData::ZenxCollectData(HostHandle host, ControllerList controllers, RawDataList rawData)
+    : controllers_(std::move(controllers)), rawData_(std::move(rawData)), host_(host) {}
 ZenxCollectData::~ZenxCollectData() = default;
 
 void ZenxCollectData::Collect(bool skipHrconf) {

@@ -12,7 +12,8 @@ class ArcconfData;
 // adapter, so that a number is never given twice.
 class ZenxCollectData {
  public:
-  explicit ZenxCollectData(HostHandle host);
+  // Starts with the lists that it is given: records that are published without any tool being run.
+  explicit ZenxCollectData(HostHandle host, ControllerList controllers = {}, RawDataList rawData = {});
   virtual ~ZenxCollectData();
 
   // To be called once. What an adapter lets pass (the legacy utility's cut-off output) passes here too, and the lists
