@@ -19,35 +19,56 @@ double PeakMiB() {
   return static_cast<double>(usage.ru_maxrss) / 1024;
 }
 
-void Measure(const char* name, ScriptedTool tool, int disks) {
+struct Case {
+  const char* name;
+  ScriptedTool tool;
+};
+constexpr Case kCases[] = {
+    {"qcmdrun", ScriptedTool::kQcmdrun},
+    {"arcconf", ScriptedTool::kArcconf},
+    {"hrconf",  ScriptedTool::kHrconf },
+};
+
+void PrintPeak(const char* what, std::size_t text) {
+  const double textMiB = static_cast<double>(text) / (1 << 20);
+  std::printf("  %s peak %8.2f MiB (3 x %.2f MiB of text + 16 MiB = %.2f MiB)\n", what, PeakMiB(), textMiB,
+              3 * textMiB + 16);
+}
+
+void Collect(const Case& tool, int disks) {
   std::size_t text = 0;
-  NKVRHXA20::SetServices(ScriptedMachine(tool, disks, &text));
+  NKVRHXA20::SetServices(ScriptedMachine(tool.tool, disks, &text));
   ZenxCollectData collector(NKVRHXA20::TRootObject::GetCoreLogger());
   collector.Collect(false);
-  const double collected = PeakMiB();
-  const double textMiB = static_cast<double>(text) / (1 << 20);
-  WholeQuery query;
-  const std::size_t instances = query.Run();
-  std::printf("%-8s %6d disks %8.2f MiB text  collection %8.2f MiB (bound %8.2f)  with %zu instances %8.2f MiB\n", name,
-              disks, textMiB, collected, 3 * textMiB + 16, instances, PeakMiB());
+  PrintPeak("collection                 ", text);
+}
+
+void CollectAndPublish(const Case& tool, int disks) {
+  std::size_t text = 0;
+  NKVRHXA20::SetServices(ScriptedMachine(tool.tool, disks, &text));
+  WholeQuery().Run();
+  PrintPeak("collection and publication ", text);
+}
+
+template <class Work>
+void InAProcessOfItsOwn(const Work& work) {
+  std::fflush(stdout);
+  if (fork() == 0) {
+    work();
+    std::fflush(stdout);
+    _exit(0);
+  }
+  wait(nullptr);
 }
 
 }  // namespace
 
 int main() {
   for (const int disks : {8, 512, 4096, 32768}) {
-    for (const auto& [name, tool] : {
-             std::pair{"qcmdrun", ScriptedTool::kQcmdrun},
-             std::pair{"arcconf", ScriptedTool::kArcconf},
-             std::pair{"hrconf",  ScriptedTool::kHrconf }
-    }) {
-      std::fflush(stdout);
-      if (fork() == 0) {
-        Measure(name, tool, disks);
-        std::fflush(stdout);
-        _exit(0);
-      }
-      wait(nullptr);
+    for (const Case& tool : kCases) {
+      std::printf("%s, %d disks\n", tool.name, disks);
+      InAProcessOfItsOwn([&] { Collect(tool, disks); });
+      InAProcessOfItsOwn([&] { CollectAndPublish(tool, disks); });
     }
   }
 }
