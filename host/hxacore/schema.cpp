@@ -282,11 +282,11 @@ constexpr PropertyDeclaration kControllerForUnit[] = {
     End("Dependent", "KVRSG_zxLogicalDisk", "A logical drive of the controller."), kFromController};
 constexpr PropertyDeclaration kControllerForDisk[] = {
     End("Dependent", "KVRSG_zxDiskDrive", "A device on a channel of the controller."), kFromController};
-constexpr PropertyDeclaration kDriveInGroup[] = {End("Dependent", "KVRSG_zxDiskGroup", "The group."),
+constexpr PropertyDeclaration kDriveInGroup[] = {End("Dependent", "KVRSG_zxDiskGroup", "The group of drives."),
                                                  End("Antecedent", "KVRSG_zxDiskDrive", "A drive of the group.")};
 constexpr PropertyDeclaration kExtentInGroup[] = {
     End("Dependent", "KVRSG_zxLogicalDisk", "A logical drive that lies on the group."),
-    End("Antecedent", "KVRSG_zxDiskGroup", "The group.")};
+    End("Antecedent", "KVRSG_zxDiskGroup", "The group of drives.")};
 constexpr PropertyDeclaration kGroupForController[] = {
     End("Dependent", "KVRSG_zxDiskGroup", "A group of drives of the controller."), kFromController};
 constexpr PropertyDeclaration kFirmwareOnController[] = {
@@ -295,14 +295,14 @@ constexpr PropertyDeclaration kBootBlockOnController[] = {
     End("Dependent", "KVRSG_zxBootBlockVersion", "The boot block that it has."), kFromController};
 constexpr PropertyDeclaration kFirmwareOnDrive[] = {
     End("Dependent", "KVRSG_zxDiskDriveVersion", "The firmware that it runs."),
-    End("Antecedent", "KVRSG_zxDiskDrive", "The drive.")};
+    End("Antecedent", "KVRSG_zxDiskDrive", "The drive that runs it.")};
 constexpr PropertyDeclaration kBiosOnController[] = {End("Dependent", "KVRSG_zxBiosVersion", "The BIOS that it has."),
                                                      kFromController};
 constexpr PropertyDeclaration kElementDeviceStatistics[] = {
-    End("Stats", "KVRSG_zxSCSIDeviceData", "The counters."),
+    End("Stats", "KVRSG_zxSCSIDeviceData", "The counters of the drive."),
     End("ManagedElement", "KVRSG_zxDiskDrive", "The drive that they were counted on.")};
 constexpr PropertyDeclaration kElementBadStripes[] = {
-    End("Stats", "KVRSG_BadStripeData", "The count."),
+    End("Stats", "KVRSG_BadStripeData", "The count of bad stripes."),
     End("ManagedElement", "KVRSG_zxLogicalDisk", "The logical drive whose stripes were counted.")};
 
 constexpr PropertyDeclaration kOperatingSystems[] = {
