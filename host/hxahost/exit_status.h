@@ -1,0 +1,21 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace hxahost {
+
+// What the program ends with. Scripts depend on the numbers.
+enum class ExitStatus { kDone = 0, kQueryFailed = 1, kWrongArguments = 2, kPluginNotLoaded = 3 };
+
+// Ends the program with a status. The message is the one line that a person gets: what is wrong and what to do.
+class ProgramError : public std::runtime_error {
+ public:
+  ProgramError(ExitStatus status, const std::string& message) : std::runtime_error(message), status_(status) {}
+  ExitStatus Status() const { return status_; }
+
+ private:
+  ExitStatus status_;
+};
+
+}  // namespace hxahost

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// Text on its way out of the program. What tools print is bytes: nothing says in what they are encoded.
+namespace hxahost {
+
+// The bytes themselves when they are valid UTF-8; otherwise each byte as the ISO 8859-1 character that it is.
+std::string AsUtf8(std::string_view bytes);
+
+// UTF-8 with control characters and characters that change the direction of text as escapes (\t, \r, \n, \x1b,
+// \u202e): one line, and nothing in it reaches a terminal as a command.
+std::string EscapeControls(std::string_view bytes);
+
+// The same for people, without the white space at both ends.
+std::string Printable(std::string_view bytes);
+
+// The columns that UTF-8 text takes on a terminal.
+std::size_t DisplayWidth(std::string_view utf8);
+
+// The text, cut to the columns, with an ellipsis as its last character where something is missing.
+std::string CutToWidth(std::string_view utf8, std::size_t columns);
+
+// Paths are UTF-8 everywhere in the program.
+std::filesystem::path PathFromUtf8(std::string_view text);
+std::string Utf8FromPath(const std::filesystem::path& path);
+
+}  // namespace hxahost
