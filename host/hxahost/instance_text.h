@@ -1,0 +1,36 @@
+#pragma once
+
+#include <ostream>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "host/hxahost/query_result.h"
+#include "host/hxahost/table.h"
+
+// Instances as people read them.
+namespace hxahost {
+
+// What of a property stands in a column.
+enum class Shows { kText, kCount };
+
+// A column of a table of instances.
+struct InstanceColumn {
+  std::string_view title;
+  std::string_view property;  // under the name under which it is set
+  std::size_t widest = 30;
+  Shows what = Shows::kText;
+};
+
+// A property for people, printable: the elements of an array with ", " between them, event codes in hexadecimal. ""
+// for a property that was not set.
+std::string PropertyText(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
+
+// "2026-03-05 12:30:15 +01:00" from the CIM form.
+std::string ReadableTime(const std::string& cimDateTime);
+
+// Writes the heading and one row for each instance; nothing at all where there is no instance.
+void WriteInstances(std::ostream& out, std::string_view heading, std::span<const InstanceColumn> columns,
+                    const InstanceList& instances);
+
+}  // namespace hxahost

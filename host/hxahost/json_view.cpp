@@ -1,0 +1,95 @@
+#include "host/hxahost/json_view.h"
+
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+#include "host/hxacore/value_reader.h"
+#include "host/hxahost/text.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json ValueJson(const TCIMValue& value) {
+  switch (TCIMValueReader::Kind(value)) {
+    case ValueKind::kNone: return nullptr;
+    case ValueKind::kString: return AsUtf8(TCIMValueReader::Text(value));
+    case ValueKind::kUInt16:
+    case ValueKind::kUInt32: return TCIMValueReader::Number(value);
+    case ValueKind::kDateTime: return TCIMValueReader::DateTime(value);
+    case ValueKind::kReference: return AsUtf8(TCIMReferenceFactory::ObjectPath(TCIMValueReader::Reference(value)));
+    case ValueKind::kArray: break;
+  }
+  Json elements = Json::array();
+  for (const TCIMValue& element : TCIMValueReader::Elements(value)) elements.push_back(ValueJson(element));
+  return elements;
+}
+
+Json InstanceJson(const TPublishedInstance& instance) {
+  Json properties = Json::object();
+  for (const PublishedProperty& property : instance.Properties()) {
+    properties[std::string(property.name)] = ValueJson(property.value);
+  }
+  Json json = Json::object();
+  json["class"] = instance.Class().name;
+  json["path"] = AsUtf8(TCIMReferenceFactory::ObjectPath(instance.Reference()));
+  json["properties"] = std::move(properties);
+  return json;
+}
+
+Json EntryJson(const LoggedEntry& entry) {
+  Json json = Json::object();
+  json["level"] = entry.level;
+  json["text"] = AsUtf8(entry.text);
+  return json;
+}
+
+// Line feeds within strings are escapes, so each one here ends a line of the layout.
+void WriteIndented(std::ostream& out, const Json& json, std::string_view indent) {
+  const std::string text = json.dump(2);
+  std::string_view rest = text;
+  while (true) {
+    const std::size_t end = rest.find('\n');
+    out << indent << rest.substr(0, end);
+    if (end == rest.npos) return;
+    out << '\n';
+    rest.remove_prefix(end + 1);
+  }
+}
+
+// One item is turned into JSON at a time: the text of all of them would take several times the memory of the data.
+template <class Items, class ToJson>
+void WriteArray(std::ostream& out, std::string_view name, const Items& items, ToJson toJson) {
+  out << "      \"" << name << "\": [";
+  std::string_view separator = "\n";
+  for (const auto& item : items) {
+    out << separator;
+    WriteIndented(out, toJson(item), "        ");
+    separator = ",\n";
+  }
+  out << (items.empty() ? "]" : "\n      ]");
+}
+
+}  // namespace
+
+void BeginJson(std::ostream& out, const QueryHeader& header) {
+  out << "{\n  \"format\": 1,\n  \"machine\": " << Json(AsUtf8(header.machine)).dump() << ",\n  \"queries\": [";
+}
+
+void WriteQueryJson(std::ostream& out, const QueryHeader&, const QueryResult& result) {
+  out << (result.number == 1 ? "\n    {\n" : ",\n    {\n");
+  WriteArray(out, "instances", result.instances, [](const auto& instance) { return InstanceJson(*instance); });
+  out << ",\n";
+  WriteArray(out, "log", result.log, EntryJson);
+  out << "\n    }";
+}
+
+void EndJson(std::ostream& out, const QueryHeader&) { out << "\n  ]\n}\n"; }
+
+}  // namespace hxahost

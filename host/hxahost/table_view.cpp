@@ -1,0 +1,71 @@
+#include "host/hxahost/table_view.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "host/hxahost/controller_blocks.h"
+#include "host/hxahost/instance_text.h"
+#include "host/hxahost/record_sections.h"
+#include "host/hxahost/table.h"
+#include "host/hxahost/text.h"
+
+namespace hxahost {
+
+namespace {
+
+// Commands that found nothing leave their raw texts behind all the same.
+bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != "KVRSG_zxRawData"; }
+
+// Every command says so in the log when its tool cannot be started; the same words once are enough.
+void WriteFailedRuns(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  constexpr std::string_view kToolFolder = "zenx//";
+  std::map<std::string, unsigned> lines;
+  for (const LoggedEntry& entry : result.log) {
+    if (entry.text.find(kToolFolder) != std::string::npos) ++lines[Printable(entry.text)];
+  }
+  if (lines.empty()) return;
+  out << "Tools could not be run. They belong into the folder zenx of " << Printable(header.directory)
+      << "; the log says:\n";
+  for (const auto& [text, times] : lines) {
+    const std::string suffix = times == 1 ? "" : " (" + std::to_string(times) + " times)";
+    out << "  " << CutToWidth(text, kViewWidth - 2 - suffix.size()) << suffix << '\n';
+  }
+}
+
+void WriteNothingFound(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  if (std::ranges::any_of(result.instances, [](const auto& instance) { return IsFound(*instance); })) return;
+  out << "\nNothing was found: no controller, no drive and no log record of the classes asked for.\n";
+  WriteFailedRuns(out, header, result);
+}
+
+void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  std::map<std::string_view, std::size_t> counts;
+  for (const auto& instance : result.instances) ++counts[instance->Class().name];
+  Table table;
+  table.titles = {"Class asked for", "Instances"};
+  table.widest = {60, 12};
+  for (const std::string& name : header.classes) table.rows.push_back({name, std::to_string(counts[name])});
+  out << '\n';
+  WriteTable(out, table);
+}
+
+}  // namespace
+
+void BeginTables(std::ostream& out, const QueryHeader& header) {
+  out << "RAID controllers of " << Printable(header.machine) << ", collected in " << Printable(header.directory)
+      << " on " << ReadableTime(header.time.ToString()) << '\n';
+}
+
+void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  if (header.queryCount > 1) out << "\nQuery " << result.number << " of " << header.queryCount << '\n';
+  WriteControllerBlocks(out, header, result.instances);
+  WriteRecordSections(out, result.instances);
+  WriteNothingFound(out, header, result);
+  WriteCounts(out, header, result);
+}
+
+void EndTables(std::ostream&, const QueryHeader&) {}
+
+}  // namespace hxahost

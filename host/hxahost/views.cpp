@@ -1,0 +1,27 @@
+#include "host/hxahost/views.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "host/hxahost/json_view.h"
+#include "host/hxahost/table_view.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr View kViews[] = {
+    {"table", BeginTables, WriteQueryTables, EndTables},
+    {"json",  BeginJson,   WriteQueryJson,   EndJson  },
+};
+
+}  // namespace
+
+std::span<const View> Views() { return kViews; }
+
+const View* FindView(std::string_view format) {
+  const auto* const view = std::ranges::find(kViews, format, &View::format);
+  return view == std::end(kViews) ? nullptr : view;
+}
+
+}  // namespace hxahost
