@@ -1,0 +1,165 @@
+#include "host/hxahost/options.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+#include <CLI/CLI.hpp>
+
+#include "host/hxahost/exit_status.h"
+#include "host/hxahost/text.h"
+#include "host/hxahost/views.h"
+#include "plugin/host_interface/exception.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr const char* kExamples =
+    "Examples:\n"
+    "  hxahost query                                       run the tools in ./zenx, show what they say\n"
+    "  hxahost query --directory C:\\tools                  run the tools in C:\\tools\\zenx\n"
+    "  hxahost query --class KVRSG_zxLogicalDisk           the logical drives alone\n"
+    "  hxahost query --format json --output machine.json   everything, for a program to read\n"
+    "  hxahost query --log log.txt                         with a log of every command that was run\n"
+    "\n"
+    "Exit status: 0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded.";
+
+// Options as they were typed; their meaning is read when all of them are there.
+struct TypedOptions {
+  QueryOptions read;
+  std::string repeat = "1";
+  std::string osType = "none";
+  std::string machineName;
+  std::string localTime;
+  bool noProgress = false;
+};
+
+[[noreturn]] void Reject(const std::string& option, const std::string& typed, const std::string& whatToGive) {
+  throw ProgramError(ExitStatus::kWrongArguments, option + " " + Printable("\"" + typed + "\"") + ": " + whatToGive);
+}
+
+// A decimal number and nothing else.
+std::optional<unsigned> WholeNumber(const std::string& text) {
+  unsigned number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return number;
+}
+
+unsigned ReadRepeat(const std::string& text) {
+  const auto number = WholeNumber(text);
+  if (!number || *number == 0) Reject("--repeat", text, "give a whole number from 1 on.");
+  return *number;
+}
+
+std::optional<std::uint16_t> ReadOsType(const std::string& text) {
+  if (text == "none") return std::nullopt;
+  const auto number = WholeNumber(text);
+  if (!number || *number > std::numeric_limits<std::uint16_t>::max()) {
+    Reject("--os-type", text, "give a number from 0 to 65535, or none.");
+  }
+  return static_cast<std::uint16_t>(*number);
+}
+
+NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text) {
+  try {
+    return NKVRHXA20::TCIMDateTime(text);
+  } catch (const NKVRHXA20::THXAException&) {
+    Reject("--local-time", text,
+           "give a CIM date and time, yyyymmddhhmmss.mmmmmmsutc, such as 20260305123015.250000+060.");
+  }
+}
+
+std::string FormatNames() {
+  std::string names;
+  for (const View& view : Views()) names += (names.empty() ? "" : " or ") + std::string(view.format);
+  return names;
+}
+
+void CheckFormat(const std::string& format) {
+  if (FindView(format) == nullptr) Reject("--format", format, "give " + FormatNames() + ".");
+}
+
+CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
+  CLI::App* const query = program.add_subcommand("query", "Run the controller utilities and show what they say");
+  QueryOptions& read = typed.read;
+  query->add_option("--plugin", read.plugin, "The plug-in to load (default: zenx.pi beside this program)")
+      ->type_name("FILE");
+  query->add_option("--directory", read.directory, "Where the folder zenx with the tools is (default: here)")
+      ->type_name("DIR");
+  query->add_option("--class", read.classes, "A class to ask for; may be given again, the order counts (default: all)")
+      ->type_name("NAME")
+      ->allow_extra_args(false);
+  query->add_option("--repeat", typed.repeat, "How often to query; the tools are run by the first query alone")
+      ->type_name("N")
+      ->capture_default_str();
+  query->add_option("--format", read.format, FormatNames() + ": tables for people, JSON for programs")
+      ->type_name("FORMAT")
+      ->capture_default_str();
+  query->add_option("--output", read.output, "Where to write (default: standard output); complete or not at all")
+      ->type_name("FILE");
+  query->add_option("--log", read.log, "Write the log there: one line for an entry, its level first")
+      ->type_name("FILE");
+  query
+      ->add_option("--os-type", typed.osType,
+                   "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
+      ->type_name("N|none")
+      ->capture_default_str();
+  query->add_option("--machine-name", typed.machineName, "What the machine is called (default: its own name)")
+      ->type_name("NAME");
+  query->add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
+      ->type_name("CIMDATETIME");
+  query->add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
+  query->footer(kExamples);
+  return query;
+}
+
+void RejectEmptyValues(const CLI::App& query) {
+  for (const CLI::Option* const option : query.get_options()) {
+    if (option->get_type_size() > 0 && std::ranges::count(option->results(), std::string()) > 0) {
+      Reject(option->get_name(), "", "give a value, or leave the option out.");
+    }
+  }
+}
+
+QueryOptions Read(const CLI::App& query, const TypedOptions& typed) {
+  RejectEmptyValues(query);
+  QueryOptions options = typed.read;
+  CheckFormat(options.format);
+  options.repeat = ReadRepeat(typed.repeat);
+  options.osType = ReadOsType(typed.osType);
+  if (!typed.machineName.empty()) options.machineName = typed.machineName;
+  if (!typed.localTime.empty()) options.localTime = ReadLocalTime(typed.localTime);
+  options.showProgress = !typed.noProgress;
+  return options;
+}
+
+}  // namespace
+
+CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
+  CLI::App program("hxahost - loads the collector plug-in, queries it and shows what it publishes", "hxahost");
+  program.allow_windows_style_options(false);  // the same command line on every system
+  program.set_version_flag("--version", "hxahost " ZENX_VERSION, "Show the version");
+  program.require_subcommand(1);
+  program.footer(kExamples);
+  TypedOptions typed;
+  const CLI::App* const query = AddQuery(program, typed);
+  const CLI::App* const classes = program.add_subcommand("classes", "List the classes that the plug-in publishes");
+  program.add_subcommand("schema", "Show these classes as MOF");
+  try {
+    program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+  } catch (const CLI::CallForHelp&) {
+    return {Command::kShowText, program.help(), {}};
+  } catch (const CLI::CallForVersion& version) {
+    return {Command::kShowText, std::string(version.what()) + "\n", {}};
+  } catch (const CLI::ParseError& error) {
+    const std::string help = query->parsed() ? "hxahost query --help" : "hxahost --help";
+    throw ProgramError(ExitStatus::kWrongArguments, Printable(error.what()) + ": see " + help + ".");
+  }
+  if (query->parsed()) return {Command::kQuery, "", Read(*query, typed)};
+  return {classes->parsed() ? Command::kClasses : Command::kSchema, "", {}};
+}
+
+}  // namespace hxahost

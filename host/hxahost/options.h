@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "plugin/host_interface/date_time.h"
+
+namespace hxahost {
+
+// What "hxahost query" is asked for. Texts are UTF-8; an empty path was not given.
+struct QueryOptions {
+  std::string plugin;
+  std::string directory;
+  std::vector<std::string> classes;  // in the order given; none: every class that the plug-in publishes
+  unsigned repeat = 1;
+  std::string format = "table";
+  std::string output;
+  std::string log;
+  std::optional<std::uint16_t> osType;
+  std::optional<std::string> machineName;
+  std::optional<NKVRHXA20::TCIMDateTime> localTime;
+  bool showProgress = true;
+};
+
+enum class Command { kShowText, kQuery, kClasses, kSchema };
+
+struct CommandLine {
+  Command command = Command::kShowText;
+  std::string text;  // to be shown: the help or the version
+  QueryOptions query;
+};
+
+// Reads the arguments that follow the program's name. Throws ProgramError for wrong ones.
+CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
+
+}  // namespace hxahost

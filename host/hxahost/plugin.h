@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "plugin/host_interface/cim.h"
+#include "plugin/host_interface/plugin_manager.h"
+
+namespace hxahost {
+
+// A plug-in, from its loading to its release. Its library stays loaded: what it keeps for the process may still run.
+class Plugin {
+ public:
+  // The file by its absolute path. Throws ProgramError when it cannot be loaded or registers nothing to query.
+  explicit Plugin(const std::filesystem::path& file);
+  ~Plugin();
+  Plugin(const Plugin&) = delete;
+  Plugin& operator=(const Plugin&) = delete;
+
+  // Has it publish the classes, in their order. What it throws passes on.
+  void Query(const boost::shared_ptr<NKVRHXA20::ICIMNamespace>& nameSpace,
+             const std::vector<boost::shared_ptr<NKVRHXA20::ICIMClass>>& classes);
+
+ private:
+  boost::shared_ptr<NKVRHXA20::TPluginManagerNamespace> manager_;
+  NKVRHXA20::IPluginBasicQueryCallbacks* query_ = nullptr;
+};
+
+}  // namespace hxahost

@@ -1,0 +1,56 @@
+#include "host/hxahost/progress.h"
+
+#include <algorithm>
+
+#include "host/hxahost/text.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::size_t kWidth = 79;  // a line that fills a terminal's last column may wrap
+constexpr std::size_t kRoomForSeconds = 9;
+
+}  // namespace
+
+Progress::Progress(std::ostream& terminal) : terminal_(terminal), clock_([this] { Run(); }) {}
+
+Progress::~Progress() {
+  {
+    const std::lock_guard lock(mutex_);
+    isOver_ = true;
+  }
+  changed_.notify_one();
+  clock_.join();
+  Draw("");
+  terminal_ << '\r' << std::flush;
+}
+
+void Progress::Begin(const std::string& what) {
+  const std::lock_guard lock(mutex_);
+  what_ = CutToWidth(Printable(what), kWidth - kRoomForSeconds);
+  since_ = std::chrono::steady_clock::now();
+  Draw(what_);
+}
+
+void Progress::End() {
+  const std::lock_guard lock(mutex_);
+  what_.clear();
+}
+
+void Progress::Run() {
+  std::unique_lock lock(mutex_);
+  while (!changed_.wait_for(lock, std::chrono::seconds(1), [this] { return isOver_; })) {
+    if (what_.empty()) continue;
+    const auto running = std::chrono::steady_clock::now() - since_;
+    Draw(what_ + " " + std::to_string(std::chrono::duration_cast<std::chrono::seconds>(running).count()) + " s");
+  }
+}
+
+void Progress::Draw(const std::string& line) {
+  const std::size_t width = DisplayWidth(line);
+  terminal_ << '\r' << line << std::string(drawnWidth_ - std::min(drawnWidth_, width), ' ') << std::flush;
+  drawnWidth_ = width;
+}
+
+}  // namespace hxahost

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <ostream>
+#include <string>
+#include <thread>
+
+namespace hxahost {
+
+// One line on a terminal that says what is running and for how many seconds. It is gone when the object is.
+class Progress {
+ public:
+  explicit Progress(std::ostream& terminal);
+  ~Progress();
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+
+  // From here on this runs.
+  void Begin(const std::string& what);
+  // Nothing runs. The line stays until the next begins, so that it does not flicker.
+  void End();
+
+ private:
+  void Run();
+  void Draw(const std::string& line);
+
+  std::ostream& terminal_;
+  std::mutex mutex_;  // guards all that follows
+  std::condition_variable changed_;
+  std::string what_;  // empty: nothing runs
+  std::chrono::steady_clock::time_point since_;
+  std::size_t drawnWidth_ = 0;
+  bool isOver_ = false;
+  std::thread clock_;  // last: it uses the others
+};
+
+}  // namespace hxahost

@@ -1,0 +1,139 @@
+#include "host/hxahost/query_command.h"
+
+#include <exception>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "host/hxacore/host_services.h"
+#include "host/hxacore/repository.h"
+#include "host/hxahost/class_dependencies.h"
+#include "host/hxahost/collection_lock.h"
+#include "host/hxahost/exit_status.h"
+#include "host/hxahost/output_file.h"
+#include "host/hxahost/plugin.h"
+#include "host/hxahost/progress.h"
+#include "host/hxahost/query_log.h"
+#include "host/hxahost/session_services.h"
+#include "host/hxahost/system.h"
+#include "host/hxahost/text.h"
+#include "host/hxahost/views.h"
+
+using namespace NKVRHXA20;
+namespace fs = std::filesystem;
+
+namespace hxahost {
+
+namespace {
+
+// Paths on the command line are relative to where the program was started, not to where the tools run.
+struct Paths {
+  fs::path plugin;
+  fs::path log;
+  fs::path output;
+};
+
+fs::path FromHere(const std::string& path) { return path.empty() ? fs::path() : fs::absolute(PathFromUtf8(path)); }
+
+Paths ReadPaths(const QueryOptions& options) {
+  return {options.plugin.empty() ? ProgramFolder() / "zenx.pi" : FromHere(options.plugin), FromHere(options.log),
+          FromHere(options.output)};
+}
+
+void EnterDirectory(const std::string& directory) {
+  std::error_code error;
+  if (!directory.empty()) fs::current_path(PathFromUtf8(directory), error);
+  if (error) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       "--directory " + Printable(directory) +
+                           " cannot be entered: name the folder that has the folder zenx with the tools in it.");
+  }
+}
+
+// The declared names, in the order asked for; all that the plug-in publishes where none was asked for.
+std::vector<std::string> DeclaredNames(const std::vector<std::string>& asked) {
+  std::vector<std::string> names;
+  for (const std::string& name : asked) {
+    const ClassDeclaration* const declaration = FindClass(name);
+    if (declaration == nullptr) {
+      throw ProgramError(ExitStatus::kWrongArguments,
+                         "--class " + Printable(name) + " is not known: \"hxahost classes\" lists what there is.");
+    }
+    names.emplace_back(declaration->name);
+  }
+  if (!asked.empty()) return names;
+  for (const ClassDeclaration& declaration : PublishedClasses()) names.emplace_back(declaration.name);
+  return names;
+}
+
+std::vector<boost::shared_ptr<ICIMClass>> Classes(ICIMNamespace& nameSpace, const std::vector<std::string>& names) {
+  std::vector<boost::shared_ptr<ICIMClass>> classes;
+  for (const std::string& name : names) classes.push_back(nameSpace.GetClass(name, {}));
+  return classes;
+}
+
+QueryHeader MakeHeader(const QueryOptions& options, const std::vector<std::string>& classes) {
+  const HostServices& services = CurrentServices();
+  return {services.machineName(), Utf8FromPath(fs::current_path()), services.localTime(), classes, options.repeat};
+}
+
+// Everything that a query needs, in the order in which it is set up.
+class Session {
+ public:
+  Session(const QueryOptions& options, const Paths& paths, std::ostream& err)
+      : log_(paths.log),
+        progress_(options.showProgress && StandardErrorIsTerminal() ? std::make_unique<Progress>(err) : nullptr),
+        services_(options, log_, progress_.get()),
+        plugin_(paths.plugin),
+        repository_(TRepository::Make(options.osType)) {}
+
+  // Queries and shows as often as the header says.
+  void Run(const View& view, const QueryHeader& header, std::ostream& out) {
+    const auto classes = Classes(*repository_, header.classes);
+    view.Begin(out, header);
+    for (unsigned number = 1; number <= header.queryCount; ++number) {
+      repository_->BeginQuery(classes);
+      plugin_.Query(repository_, classes);
+      view.Query(out, header, {number, repository_->Published(), log_.Take()});
+    }
+    view.End(out, header);
+    progress_.reset();
+    log_.Finish();
+  }
+
+ private:
+  QueryLog log_;
+  std::unique_ptr<Progress> progress_;
+  SessionServices services_;
+  Plugin plugin_;
+  boost::shared_ptr<TRepository> repository_;
+};
+
+}  // namespace
+
+void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
+  const Paths paths = ReadPaths(options);
+  const std::vector<std::string> classes = DeclaredNames(options.classes);
+  for (const std::string& line : MissingDependencies(classes)) err << "hxahost: " << line << std::endl;
+  EnterDirectory(options.directory);
+  std::optional<OutputFile> file;
+  if (!paths.output.empty()) file.emplace(paths.output);
+  Session session(options, paths, err);
+  const CollectionLock lock("zenx", [&err] {
+    err << "hxahost: another program collects from this folder zenx: waiting until it is done." << std::endl;
+  });
+  std::ostream& shown = file ? file->Stream() : out;
+  try {
+    session.Run(*FindView(options.format), MakeHeader(options, classes), shown);
+  } catch (const ProgramError&) {
+    throw;
+  } catch (const std::exception& failure) {
+    throw ProgramError(ExitStatus::kQueryFailed,
+                       "The query failed: " + Printable(failure.what()) + ". --log FILE shows how far it came.");
+  }
+  if (file) file->Finish();
+}
+
+}  // namespace hxahost

@@ -1,0 +1,49 @@
+#include "host/hxahost/session_services.h"
+
+#include <utility>
+
+#include "host/hxacore/host_services.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+// Ends what runs however the command ends.
+class RunningCommand {
+ public:
+  RunningCommand(Progress& progress, const std::string& path, const std::vector<std::string>& arguments)
+      : progress_(progress) {
+    std::string command = path;
+    for (const std::string& argument : arguments) command += " " + argument;
+    progress_.Begin(command);
+  }
+  ~RunningCommand() { progress_.End(); }
+  RunningCommand(const RunningCommand&) = delete;
+  RunningCommand& operator=(const RunningCommand&) = delete;
+
+ private:
+  Progress& progress_;
+};
+
+}  // namespace
+
+SessionServices::SessionServices(const QueryOptions& options, QueryLog& log, Progress* progress) {
+  HostServices services = RealServices();
+  services.log = [&log](int level, const std::string& text) { log.Add(level, text); };
+  if (options.machineName) services.machineName = [name = *options.machineName] { return name; };
+  if (options.localTime) services.localTime = [time = *options.localTime] { return time; };
+  if (progress != nullptr) {
+    services.spawn = [spawn = services.spawn, progress](const std::string& path,
+                                                        const std::vector<std::string>& arguments, int limitSeconds) {
+      const RunningCommand running(*progress, path, arguments);
+      return spawn(path, arguments, limitSeconds);
+    };
+  }
+  SetServices(std::move(services));
+}
+
+SessionServices::~SessionServices() { SetServices(RealServices()); }
+
+}  // namespace hxahost
