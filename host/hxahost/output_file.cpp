@@ -25,7 +25,9 @@ fs::path WrittenName(const fs::path& path) {
   const fs::file_status status = fs::status(path, error);
   if (fs::exists(status) && !fs::is_regular_file(status)) return path;
   fs::path name = path;
-  name += "." + std::to_string(ProcessId()) + ".part";
+  name += ".";
+  name += std::to_string(ProcessId());
+  name += ".part";
   return name;
 }
 
