@@ -16,7 +16,7 @@ add_executable(test_child tests/programs/test_child.cpp)
 target_link_libraries(test_child PRIVATE compile_options)
 
 foreach(level unit host end_to_end)
-  file(GLOB sources CONFIGURE_DEPENDS tests/${level}/*.cpp tests/support/*.cpp)
+  sources_of(sources tests/${level} tests/support)
   add_executable(${level}_tests ${sources} tests/main.cpp)
   target_link_libraries(${level}_tests PRIVATE zenx_objects hxahost_objects test_framework)
   target_compile_definitions(${level}_tests PRIVATE ZENX_SAMPLES="${CMAKE_SOURCE_DIR}/samples"
