@@ -1,0 +1,170 @@
+#include "tools/qcmdrun/physical_device_parser.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "collect/collected_data.h"
+#include "collect/records.h"
+#include "tests/support/recording_log.h"
+#include "tests/support/table_cases.h"
+#include "tests/support/tool_text.h"
+
+namespace {
+
+const FieldCases<ZenxPhysicalDevice> kLabels = {
+    {"SCSI ID",                   &ZenxPhysicalDevice::ScsiId        },
+    {"PFA (Yes/No)",              &ZenxPhysicalDevice::PFA           },
+    {"State",                     &ZenxPhysicalDevice::State         },
+    {"Size (in MB)/(in sectors)", &ZenxPhysicalDevice::Size          },
+    {"Device ID",                 &ZenxPhysicalDevice::DeviceIdSuffix},
+    {"FRU part number",           &ZenxPhysicalDevice::FRU           },
+};
+
+struct Block {
+  ZenxPhysicalDevice device;
+  std::string currentLine;  // after the block
+};
+
+Block Read(const std::string& lines, HostHandle log = nullptr) {
+  CollectedData text(log, "   Target on SCSI ID 3\r\n" + lines + "next\r\nlast\r\n");
+  ZenxPhysicalDevice device(log);
+  qcmdrun::ParsePhysicalDevice(device, text, "5", "2");
+  return {device, std::string(text.CurrentLine())};
+}
+
+std::vector<std::string> ValuesOf(const std::vector<std::string>& lines) {
+  return FieldValues(Read("   Device is a Changer\r\n" + Concatenated(lines)).device, kLabels);
+}
+
+std::vector<std::string> AllValues() { return NumberedValues(kLabels.size(), " ", "\r\n"); }
+
+ZenxPhysicalDevice WithIdentifier(const std::string& type, const std::string& identifier, HostHandle log = nullptr) {
+  return Read("   Device is a " + type + "\r\n   Device ID :" + identifier + "\n", log).device;
+}
+
+TEST(QcmdrunPhysicalDeviceParser, StoresControllerAndChannel) {
+  const ZenxPhysicalDevice device = Read("   Device is a Changer\r\n").device;
+  EXPECT_EQ(device.ControllerNum, "5");
+  EXPECT_EQ(device.Channel, "2");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, ReadsEveryLabelIntoItsField) {
+  EXPECT_EQ(ValuesOf(LabelledLines(kLabels)), AllValues());
+}
+
+TEST(QcmdrunPhysicalDeviceParser, LosesOnlyTheFieldOfAMissingLine) {
+  for (std::size_t missing = 0; missing < kLabels.size(); ++missing) {
+    SCOPED_TRACE(kLabels[missing].first);
+    EXPECT_EQ(ValuesOf(Without(LabelledLines(kLabels), missing)), WithEmpty(AllValues(), missing, missing));
+  }
+}
+
+// The later label is found, the earlier one then stands in the way of all others.
+TEST(QcmdrunPhysicalDeviceParser, KeepsOnlyTheLaterOfTwoSwappedLinesAndNothingBehindThem) {
+  for (std::size_t index = 0; index + 1 < kLabels.size(); ++index) {
+    SCOPED_TRACE(kLabels[index].first);
+    std::vector<std::string> expected = WithEmpty(AllValues(), index, kLabels.size() - 1);
+    expected[index + 1] = AllValues()[index + 1];
+    EXPECT_EQ(ValuesOf(WithSwapped(LabelledLines(kLabels), index, index + 1)), expected);
+  }
+}
+
+TEST(QcmdrunPhysicalDeviceParser, EndsOnTheLastLineThatBelongsToTheDevice) {
+  EXPECT_EQ(Read("   Device is a Changer\r\n   SCSI ID : 3\r\n").currentLine, "   SCSI ID : 3\r\n");
+  EXPECT_EQ(Read("   Device is a Hard disk\r\n   FRU part number : 7\r\n").currentLine, "   FRU part number : 7\r\n");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, KeepsTheTypeAsItStandsBehindTheLabel) {
+  EXPECT_EQ(Read("   Device is a Hard disk\r\n").device.DeviceType, " Hard disk\r\n");
+  EXPECT_EQ(Read("   Device is an Optical drive\r\n").device.DeviceType, "n Optical drive\r\n");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, UsesUpTheLineBehindTheTargetAlsoWithoutADeviceType) {
+  const ZenxPhysicalDevice device = Read("   SCSI ID : 3\r\n   State : Online\r\n").device;
+  EXPECT_EQ(device.DeviceType, "");
+  EXPECT_EQ(device.ScsiId, "");
+  EXPECT_EQ(device.State, " Online\r\n");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, CutsModelCodeFirmwareAndSerialNumberOutOfAHardDisksIdentifier) {
+  const ZenxPhysicalDevice device = WithIdentifier("Hard disk", " TALVERA T36LW10 S96H8B01234\r");
+  EXPECT_EQ(device.DeviceIdSuffix, " TALVERA T36LW10 S96H8B01234\r\n");
+  EXPECT_EQ(device.Model, " TALVERA T36LW10");
+  EXPECT_EQ(device.DeviceCode, "T36LW10 ");
+  EXPECT_EQ(device.Firmware, "S96H");
+  EXPECT_EQ(device.DeviceSerialNum, "H8B01234");
+}
+
+// Blank and line end count: the value is measured as it is kept.
+TEST(QcmdrunPhysicalDeviceParser, GivesAHardDiskWithAnIdentifierOf27CharactersItsModelAlone) {
+  const ZenxPhysicalDevice device = WithIdentifier("Hard disk", " TALVERA T36LW10 S96H8B012");
+  ASSERT_EQ(device.DeviceIdSuffix.size(), 27u);
+  EXPECT_EQ(device.Model, " TALVERA T36LW10");
+  EXPECT_EQ(device.DeviceCode, "");
+  EXPECT_EQ(device.Firmware, "");
+  EXPECT_EQ(device.DeviceSerialNum, "");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, CutsTheLineEndIntoTheSerialNumberOfAnIdentifierOf28Characters) {
+  const ZenxPhysicalDevice device = WithIdentifier("Hard disk", " TALVERA T36LW10 S96H8B0123");
+  ASSERT_EQ(device.DeviceIdSuffix.size(), 28u);
+  EXPECT_EQ(device.Firmware, "S96H");
+  EXPECT_EQ(device.DeviceSerialNum, "H8B0123\n");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, TakesAsMuchOfTheModelAsAShortIdentifierHas) {
+  EXPECT_EQ(WithIdentifier("Hard disk", " TAL\r").Model, " TAL\r\n");
+  EXPECT_EQ(Read("   Device is a Hard disk\r\n").device.Model, "");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, TakesFourCharactersBeforeTheLineEndForATapesFirmwareAndLogsThem) {
+  RecordingLog log;
+  const ZenxPhysicalDevice device = WithIdentifier("Tape", " ORBITEK DAT72LP  A119\r", &log);
+  EXPECT_EQ(device.Model, " ORBITEK DAT72LP  A119\r\n");
+  EXPECT_EQ(device.Firmware, "A119");
+  EXPECT_EQ(log.entries, (std::vector<LogEntry>{
+                             {3, "We get one tape drive, and it's firmware version is:A119"}
+  }));
+}
+
+TEST(QcmdrunPhysicalDeviceParser, TakesWhatAShortTapeIdentifierHasOfTheFirmware) {
+  struct Case {
+    std::string identifier;
+    std::string firmware;
+  };
+  const std::vector<Case> cases = {
+      {" A11\r",   " A11"},
+      {"A11\r",    "A11" },
+      {"1\r",      "1"   },
+      {"\r",       ""    },
+      {"",         ""    },
+      {" 2 119\r", " 119"},
+  };
+  for (const Case& tapeCase : cases) {
+    SCOPED_TRACE("[" + tapeCase.identifier + "]");
+    RecordingLog log;
+    EXPECT_EQ(WithIdentifier("Tape", tapeCase.identifier, &log).Firmware, tapeCase.firmware);
+  }
+}
+
+TEST(QcmdrunPhysicalDeviceParser, CutsNothingOutOfTheIdentifierOfOtherDevices) {
+  const ZenxPhysicalDevice device = WithIdentifier("Processor device", " KVR     SAFTE21 0203 AND FAR LONGER\r");
+  EXPECT_EQ(device.Model, "");
+  EXPECT_EQ(device.Firmware, "");
+  EXPECT_EQ(device.DeviceCode, "");
+  EXPECT_EQ(device.DeviceSerialNum, "");
+}
+
+TEST(QcmdrunPhysicalDeviceParser, FailsWhereTheTextEndsInsideTheBlock) {
+  const std::vector<std::string> lines = LabelledLines(kLabels);
+  for (std::size_t count = 0; count < lines.size(); ++count) {
+    SCOPED_TRACE(count);
+    const std::vector<std::string> cut(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(count));
+    CollectedData text(nullptr, "Target\r\nDevice is a Changer\r\n" + Concatenated(cut));
+    ZenxPhysicalDevice device(nullptr);
+    EXPECT_THROW(qcmdrun::ParsePhysicalDevice(device, text, "1", "1"), std::out_of_range);
+  }
+}
+
+}  // namespace
