@@ -1,0 +1,193 @@
+#include "tools/qcmdrun/configuration_walk.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "collect/collected_data.h"
+#include "collect/records.h"
+#include "tests/support/recording_log.h"
+#include "tests/support/tool_text.h"
+
+namespace {
+
+class QcmdrunConfigurationWalk : public testing::Test {
+ protected:
+  QcmdrunConfigurationWalk() { controller_.ControllerNum = "3"; }
+
+  void AttachLogicalDrives(const std::string& text) {
+    CollectedData scanner(&log_, CrLf(text));
+    qcmdrun::AttachLogicalDrives(controller_, scanner);
+  }
+
+  void AttachStripeOrders(const std::string& text) {
+    CollectedData scanner(&log_, CrLf(text));
+    qcmdrun::AttachStripeOrders(controller_, scanner);
+  }
+
+  bool AttachPhysicalDevices(const std::string& text) {
+    CollectedData scanner(&log_, CrLf(text));
+    return qcmdrun::AttachPhysicalDevices(controller_, scanner);
+  }
+
+  std::vector<std::string> DriveNumbers() const {
+    std::vector<std::string> numbers;
+    for (const auto& drive : controller_.LogicalDevices) numbers.push_back(drive->LogicalDriveNum);
+    return numbers;
+  }
+
+  // "channel/SCSI ID" of each device.
+  std::vector<std::string> Devices() const {
+    std::vector<std::string> devices;
+    for (const auto& device : controller_.PhysicalDevices) {
+      devices.push_back(device->Channel + "/" + std::string(CollectedData::TrimLeft(device->ScsiId)));
+      devices.back().resize(devices.back().find_last_not_of("\r\n") + 1);
+    }
+    return devices;
+  }
+
+  RecordingLog log_;
+  ZenxController controller_{&log_};
+};
+
+using Entries = std::vector<LogEntry>;
+
+// A drive's lines behind its number.
+const std::string kDrive = R"(Status of logical drive : Okay
+RAID level : 5
+Size (in MB) : 1
+Write cache status : WB
+Number of chunks : 3
+Stripe-unit size : 8
+Access blocked : No
+Part of array : A
+)";
+
+TEST_F(QcmdrunConfigurationWalk, AttachesDrivesForAsLongAsLinesWithANumberFollow) {
+  AttachLogicalDrives("Logical drive information\n-----\n  Logical drive number 1\n" + kDrive +
+                      "  Logical drive number 12\n" + kDrive + "-----\n  Logical drive number 3\n" + kDrive +
+                      "-----\n");
+  EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{"1", "12"}));
+  EXPECT_EQ(controller_.LogicalDevices[1]->ControllerNum, "3");
+  EXPECT_EQ(log_.entries, (Entries{
+                              {3, "Parsing for QCMRUN logical drive information\n"},
+                              {3, "Found QCMDRUN Logical Drive Information\n"     }
+  }));
+}
+
+TEST_F(QcmdrunConfigurationWalk, UsesTheNumberBeforeForALineWithoutABlankBehindTheLabel) {
+  AttachLogicalDrives("Logical drive information\n-----\nLogical drive number: 9\n" + kDrive +
+                      "Logical drive number 4\n" + kDrive + "Logical drive number: 5\n" + kDrive + "-----\n");
+  EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{"", "4", "4"}));
+}
+
+TEST_F(QcmdrunConfigurationWalk, StartsTheNumberBeforeAnewForEachController) {
+  AttachLogicalDrives("Logical drive information\n-----\nLogical drive number 4\n" + kDrive + "-----\n");
+  controller_.LogicalDevices.clear();
+  AttachLogicalDrives("Logical drive information\n-----\nLogical drive number: 9\n" + kDrive + "-----\n");
+  EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{""}));
+}
+
+TEST_F(QcmdrunConfigurationWalk, AttachesNoDriveWithoutTheSection) {
+  AttachLogicalDrives("Controller information\n-----\nLogical drive number 1\n" + kDrive + "-----\n");
+  EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{}));
+  EXPECT_EQ(log_.entries, (Entries{
+                              {3, "Parsing for QCMRUN logical drive information\n"}
+  }));
+}
+
+TEST_F(QcmdrunConfigurationWalk, AttachesNoDriveWhereTheNumberIsNotOnTheSecondLine) {
+  AttachLogicalDrives("Logical drive information\n-----\n\nLogical drive number 1\n" + kDrive + "-----\n");
+  EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{}));
+}
+
+TEST_F(QcmdrunConfigurationWalk, AttachesStripeOrdersThatFollowOneAnother) {
+  AttachStripeOrders(R"(Array information
+  Array A stripe order (Channel/SCSI ID) : 1,0 1,1
+                                           1,2
+  Array B stripe order (Channel/SCSI ID) : 2,0
+-----
+  Array C stripe order (Channel/SCSI ID) : 2,1
+-----
+)");
+  ASSERT_EQ(controller_.StripeOrders.size(), 2u);
+  EXPECT_EQ(controller_.StripeOrders[0]->StripeOrder, " 1,0 1,1 1,2\r\n");
+  EXPECT_EQ(controller_.StripeOrders[0]->CollectionID, "Zentraxis3ArrayA");
+  EXPECT_EQ(controller_.StripeOrders[1]->StripeOrder, " 2,0\r\n");
+  EXPECT_EQ(controller_.StripeOrders[1]->CollectionID, "Zentraxis3ArrayB");
+  EXPECT_EQ(log_.entries, (Entries{
+                              {3, "Parse For  QCMDRUN Stripe Order\n"},
+                              {3, "Found QCMDRUN Stripe Order Data\n"},
+                              {3, "Found QCMDRUN Stripe Order Data\n"}
+  }));
+}
+
+TEST_F(QcmdrunConfigurationWalk, AttachesNoStripeOrderWithoutItsLabel) {
+  AttachStripeOrders("Array A stripe order : 1,0\nend\n");
+  EXPECT_TRUE(controller_.StripeOrders.empty());
+  EXPECT_EQ(log_.entries, (Entries{
+                              {3, "Parse For  QCMDRUN Stripe Order\n"}
+  }));
+}
+
+// A device's lines with its ID.
+std::string Device(const std::string& id) {
+  return "    Target on SCSI ID " + id + "\n      Device is a Hard disk\n      SCSI ID : " + id + "\n";
+}
+
+const std::string kSection = "Physical device information\n-----\n";
+const std::string kEnd = "Command completed successfully.\n";
+
+TEST_F(QcmdrunConfigurationWalk, ReadsTheDevicesOfEveryChannelWithItsNumber) {
+  EXPECT_TRUE(AttachPhysicalDevices(kSection + "  Channel #1:\n  Initiator\n" + Device("0") + Device("5") +
+                                    "  Channel #2:\n  Initiator\n" + Device("3") + kEnd));
+  EXPECT_EQ(Devices(), (std::vector<std::string>{"1/0", "1/5", "2/3"}));
+  EXPECT_EQ(controller_.PhysicalDevices[0]->ControllerNum, "3");
+  EXPECT_EQ(log_.entries, (Entries{
+                              {3, "Parse For QCMDRUN Physical Devices\n"}
+  }));
+}
+
+TEST_F(QcmdrunConfigurationWalk, WalksOverStrayLinesOneByOne) {
+  struct Case {
+    std::string name;
+    std::string text;
+    std::vector<std::string> devices;
+  };
+  const std::vector<Case> cases = {
+      {"no device",                      kEnd,                                                      {}     },
+      {"channel without a device",       "Channel #1:\nInitiator\n" + kEnd,                         {}     },
+      {"stray line before the end",      "Channel #1:\nInitiator\n" + Device("0") + "\n" + kEnd,    {"1/0"}},
+      {"two stray lines before the end", "Channel #1:\nInitiator\n" + Device("0") + "\n\n" + kEnd,  {"1/0"}},
+      {"blank line between devices",
+       "Channel #1:\nInitiator\n" + Device("0") + "\n" + Device("1") + kEnd,
+       {"1/0", "1/1"}                                                                                      },
+      {"stray line behind the heading",  "Channel #1:\nInitiator\n\n" + Device("0") + kEnd,         {"1/0"}},
+      {"device without a heading",       Device("0") + kEnd,                                        {"/0"} },
+      {"heading without a colon",        "Channel #1\nInitiator\n" + Device("0") + kEnd,            {"/0"} },
+      {"heading with more behind it",    "Channel #1: 160 MB/s:\nInitiator\n" + Device("0") + kEnd, {"1/0"}},
+      {"end behind an unread heading",   "Channel #1:\nInitiator\n" + kEnd + Device("0"),           {}     },
+  };
+  for (const Case& walkCase : cases) {
+    SCOPED_TRACE(walkCase.name);
+    controller_.PhysicalDevices.clear();
+    EXPECT_TRUE(AttachPhysicalDevices(kSection + walkCase.text));
+    EXPECT_EQ(Devices(), walkCase.devices);
+  }
+}
+
+TEST_F(QcmdrunConfigurationWalk, SaysWhenThereIsNoDeviceSection) {
+  EXPECT_FALSE(AttachPhysicalDevices("Channel #1:\nInitiator\n" + Device("0") + kEnd));
+  EXPECT_TRUE(controller_.PhysicalDevices.empty());
+}
+
+TEST_F(QcmdrunConfigurationWalk, FailsWhereASectionIsCutOff) {
+  EXPECT_THROW(AttachLogicalDrives("Logical drive information\n"), std::out_of_range);
+  EXPECT_THROW(AttachLogicalDrives("Logical drive information\n-----\nLogical drive number 1\n"), std::out_of_range);
+  EXPECT_THROW(AttachStripeOrders("A stripe order (Channel/SCSI ID) : 1,0\n"), std::out_of_range);
+  EXPECT_THROW(AttachPhysicalDevices(kSection + "Channel #1:\nInitiator\n" + Device("0")), std::out_of_range);
+}
+
+}  // namespace

@@ -1,0 +1,198 @@
+#include "tools/qcmdrun/log_walk.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "collect/collected_data.h"
+#include "collect/records.h"
+#include "logs/event_records.h"
+#include "logs/statistics_parsers.h"
+#include "logs/statistics_records.h"
+#include "plugin/host_interface/exception.h"
+#include "tests/support/recording_log.h"
+#include "tests/support/scripted_services.h"
+#include "tests/support/tool_text.h"
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+// Accepts drive 1 only.
+void RejectSecondDrive(ZenxBstData& record, const CollectedData& text, std::string_view controllerNumber) {
+  ParseBadStripe(record, text, controllerNumber);
+  if (record.LogicalDrive != "1") throw NKVRHXA20::THXAException("no");
+}
+
+class QcmdrunLogWalk : public testing::Test {
+ protected:
+  QcmdrunLogWalk() { controller_.ControllerNum = "3"; }
+
+  // "drive:count" of each record.
+  Texts BadStripes(const std::string& text, qcmdrun::BadStripeParser parse = ParseBadStripe) {
+    CollectedData scanner(&log_, CrLf(text));
+    controller_.BadStripes.clear();
+    qcmdrun::AttachBadStripes(controller_, scanner, parse);
+    Texts texts;
+    for (const auto& record : controller_.BadStripes) {
+      texts.push_back(record->LogicalDrive + ":" + record->NumBadStripes);
+    }
+    return texts;
+  }
+
+  // "channel/SCSI ID" of each record.
+  Texts DeviceEvents(const std::string& text) {
+    CollectedData scanner(&log_, CrLf(text));
+    controller_.DeviceEvents.clear();
+    qcmdrun::AttachDeviceEvents(controller_, scanner);
+    Texts texts;
+    for (const auto& record : controller_.DeviceEvents) texts.push_back(record->Channel + "/" + record->ScsiId);
+    return texts;
+  }
+
+  // "number:SCSI ID" of each record.
+  Texts DddEvents(const std::string& text) {
+    CollectedData scanner(&log_, CrLf(text));
+    controller_.DddEvents.clear();
+    qcmdrun::AttachDddEvents(controller_, scanner);
+    Texts texts;
+    for (const auto& record : controller_.DddEvents) texts.push_back(record->RecordID + ":" + record->ID);
+    return texts;
+  }
+
+  // The instance identifier of each record.
+  Texts SubStats(const std::string& text) {
+    CollectedData scanner(&log_, CrLf(text));
+    controller_.SubStats.clear();
+    qcmdrun::AttachSubStats(controller_, scanner);
+    Texts texts;
+    for (const auto& record : controller_.SubStats) texts.push_back(record->InstanceID);
+    return texts;
+  }
+
+  ScriptedServices services_;
+  RecordingLog log_;
+  ZenxController controller_{&log_};
+};
+
+TEST_F(QcmdrunLogWalk, ReadsBadStripesForAsLongAsLinesHaveADash) {
+  EXPECT_EQ(
+      BadStripes("Get bad stripe information\nLogical drive 1 - 0\nLogical drive 2 - 3\nend\nLogical drive 3 - 1\n"),
+      (Texts{"1:0", "2:3"}));
+  EXPECT_EQ(controller_.BadStripes[0]->ControllerNum, "3");
+}
+
+TEST_F(QcmdrunLogWalk, ReadsNoBadStripesWithoutTheirTitleOrWithAnotherLineBehindIt) {
+  EXPECT_EQ(BadStripes("Logical drive 1 - 0\nend\n"), Texts{});
+  EXPECT_EQ(BadStripes("Get bad stripe information\nNone\nLogical drive 1 - 0\nend\n"), Texts{});
+  EXPECT_EQ(BadStripes(""), Texts{});
+}
+
+TEST_F(QcmdrunLogWalk, KeepsBadStripesBeforeARejectedLineAndLogsTheRejection) {
+  EXPECT_EQ(BadStripes("Get bad stripe information\nLogical drive 1 - 0\nLogical drive 2 - 3\nLogical drive 1 - 5\n"
+                       "end\n",
+                       RejectSecondDrive),
+            (Texts{"1:0"}));
+  EXPECT_EQ(log_.entries, (std::vector<LogEntry>{
+                              {3, "Bad Stripe data is junk: Quit BST data collection"}
+  }));
+}
+
+const std::string kTable = "Device event table:\n+---+\n| heads |\n+---+\n";
+const std::string kRows = "| 1 | 0 | 0 |\n| 1 | 1 | 0 |\n";
+const std::string kEnd = "Command completed successfully.\n";
+
+TEST_F(QcmdrunLogWalk, ReadsDeviceEventsFromTheThirdLineBehindTheTitleToTheEnd) {
+  EXPECT_EQ(DeviceEvents(kTable + kRows + "+---+\n| 2 | 0 | 0 |\n" + kEnd + "| 9 | 9 | 9 |\n"),
+            (Texts{"1/0", "1/1", "2/0"}));
+  EXPECT_EQ(controller_.DeviceEvents[0]->ControllerNum, "3");
+}
+
+TEST_F(QcmdrunLogWalk, EndsDeviceEventsAtTheNextControllersHeading) {
+  EXPECT_EQ(DeviceEvents(kTable + kRows + "Controller 2\n| 2 | 0 | 0 |\n" + kEnd), (Texts{"1/0", "1/1"}));
+}
+
+TEST_F(QcmdrunLogWalk, GoesOnWithDeviceEventsBehindALineThatNamesControllersWithoutABlank) {
+  EXPECT_EQ(DeviceEvents(kTable + "| 1 | 0 | Controllers: |\n" + kEnd), (Texts{"1/0"}));
+}
+
+TEST_F(QcmdrunLogWalk, MakesAnEmptyDeviceEventOfALineWithoutColumns) {
+  EXPECT_EQ(DeviceEvents(kTable + "\n" + kEnd), (Texts{"/"}));
+}
+
+TEST_F(QcmdrunLogWalk, ReadsNoDeviceEventWithoutTheTitle) { EXPECT_EQ(DeviceEvents(kRows + kEnd), Texts{}); }
+
+std::string DddRow(const std::string& month, const std::string& id) {
+  return "| " + month + "/15/2005 | 14:02:33 | 1 | " + id + " | 07 | gone\n";
+}
+
+TEST_F(QcmdrunLogWalk, NumbersDefunctDriveRowsFromOneAndPassesOverRules) {
+  EXPECT_EQ(DddEvents("heads\n+---+\n" + DddRow("01", "4") + "+---+\n" + DddRow("02", "5") + "+---+\n" + kEnd),
+            (Texts{"0001:4", "0002:5"}));
+  EXPECT_EQ(controller_.DddEvents[0]->Controller, "3");
+}
+
+TEST_F(QcmdrunLogWalk, GivesTheTenthDefunctDriveRowTheNumber000a) {
+  std::string rows;
+  for (int row = 0; row < 10; ++row) rows += DddRow("01", "4");
+  EXPECT_EQ(DddEvents("+---+\n" + rows + kEnd).back(), "000a:4");
+}
+
+TEST_F(QcmdrunLogWalk, KeepsTwoDefunctDriveRowsWhenTheThirdHasABadTimeStamp) {
+  EXPECT_EQ(DddEvents("+---+\n" + DddRow("01", "4") + DddRow("02", "5") + DddRow("13", "6") + DddRow("03", "7") + kEnd),
+            (Texts{"0001:4", "0002:5"}));
+  EXPECT_EQ(log_.entries, (std::vector<LogEntry>{
+                              {3, "Time Stamp is junk: Quit DDD data collection"}
+  }));
+}
+
+TEST_F(QcmdrunLogWalk, ReadsNoDefunctDriveRowWithoutARule) { EXPECT_EQ(DddEvents(DddRow("01", "4") + kEnd), Texts{}); }
+
+TEST_F(QcmdrunLogWalk, SetsEachCodeLogFromItsOwnTitle) {
+  CollectedData both(&log_,
+                     CrLf("Controller Soft Event Log\n0001\n" + kEnd + "Controller Hard Event Log\n0002\n" + kEnd));
+  qcmdrun::SetSoftEvents(controller_, both);
+  qcmdrun::SetHardEvents(controller_, both);
+  ASSERT_TRUE(controller_.SoftEvents);
+  ASSERT_TRUE(controller_.HardEvents);
+  EXPECT_EQ(controller_.SoftEvents->Codes, (std::vector<std::uint32_t>{1}));
+  EXPECT_EQ(controller_.SoftEvents->Controller, "3");
+  EXPECT_EQ(controller_.HardEvents->Codes, (std::vector<std::uint32_t>{2}));
+  EXPECT_EQ(controller_.HardEvents->Controller, "3");
+}
+
+TEST_F(QcmdrunLogWalk, LeavesACodeLogUnsetWithoutItsTitle) {
+  CollectedData soft(&log_, CrLf("Controller Soft Event Log\n" + kEnd));
+  CollectedData hard(&log_, CrLf("Controller Hard Event Log\n" + kEnd));
+  qcmdrun::SetSoftEvents(controller_, hard);
+  qcmdrun::SetHardEvents(controller_, soft);
+  EXPECT_FALSE(controller_.SoftEvents);
+  EXPECT_FALSE(controller_.HardEvents);
+}
+
+TEST_F(QcmdrunLogWalk, ReadsSubStatusFromTheFirstLineWithATokenToTheEnd) {
+  EXPECT_EQ(
+      SubStats("Sub status\n-----\nA:1 C:1 I:0 PARAMS:0\nA:1 C:1 I:1 PARAMS:0\n" + kEnd + "A:9 C:9 I:9 PARAMS:0\n"),
+      (Texts{"Zentraxis:1C1S0", "Zentraxis:1C1S1"}));
+}
+
+TEST_F(QcmdrunLogWalk, MakesASubStatusOfEveryLineUpToTheEnd) {
+  EXPECT_EQ(SubStats("A:1 C:1 I:0 PARAMS:0\n\n" + kEnd), (Texts{"Zentraxis:1C1S0", "Zentraxis:CS"}));
+}
+
+TEST_F(QcmdrunLogWalk, ReadsNoSubStatusWithoutAToken) { EXPECT_EQ(SubStats("C:1 I:0\n" + kEnd), Texts{}); }
+
+TEST_F(QcmdrunLogWalk, FailsWhereATableIsCutOff) {
+  EXPECT_THROW(BadStripes("Get bad stripe information\nLogical drive 1 - 0\n"), std::out_of_range);
+  EXPECT_THROW(DeviceEvents("Device event table:\n+---+\n"), std::out_of_range);
+  EXPECT_THROW(DeviceEvents(kTable + kRows), std::out_of_range);
+  EXPECT_THROW(DddEvents("+---+\n" + DddRow("01", "4")), std::out_of_range);
+  EXPECT_THROW(SubStats("A:1 C:1 I:0 PARAMS:0\n"), std::out_of_range);
+  CollectedData soft(&log_, CrLf("Controller Soft Event Log\n0001\n"));
+  EXPECT_THROW(qcmdrun::SetSoftEvents(controller_, soft), std::out_of_range);
+  EXPECT_FALSE(controller_.SoftEvents);
+}
+
+}  // namespace
