@@ -1,0 +1,118 @@
+#include "logs/collect_raid_mgr_data.h"
+
+#include <exception>
+
+#include "collect/collected_data.h"
+#include "logs/raid_mgr_event_time.h"
+#include "logs/raid_mgr_fields.h"
+#include "platform/native_path.h"
+#include "platform/registry.h"
+#include "plugin/host_interface/services.h"
+
+using namespace NKVRHXA20;
+
+namespace {
+
+// The installer of the RAID manager is a 32-bit program: 64-bit Windows keeps its keys under Wow6432Node.
+constexpr const char* kRegistryKey = "SOFTWARE\\Wow6432Node\\Adaptec\\RAIDController";
+constexpr const char* kRegistryValue = "LogDir";
+constexpr const char* kSubFolder = "KVR\\Zentraxis Manager\\";
+constexpr const char* kFileName = "RaidEvtA.log";
+
+// With its end. Longer paths count as no log.
+constexpr std::size_t kPathSize = 256;
+// Longer lines are read in pieces, each a line of its own.
+constexpr std::size_t kLongestLine = 511;
+
+}  // namespace
+
+unsigned& ProcessWideEventCounter() {
+  static unsigned counter = 0;
+  return counter;
+}
+
+CollectRaidMgrData::CollectRaidMgrData(HostHandle host, unsigned& eventCounter)
+    : host_(host), eventCounter_(eventCounter) {
+  if (!SetRaidMgrPath()) return;
+  SetInformationRecord("Registry Key Found.");
+  logAvailable_ = OpenRaidMgrLog();
+}
+
+RaidMgrRead CollectRaidMgrData::ReadNextRecord() {
+  record_.RecordID = std::to_string(eventCounter_++);
+  if (!file_.IsOpen()) return RaidMgrRead::kEnd;
+  if (file_.HasMetEnd()) {
+    SetInformationRecord("No RAID Manager log entries.");
+    Log(host_, kLogRoutine, "Unexpected end of file reached.");
+    return RaidMgrRead::kEnd;
+  }
+  const std::string line = file_.ReadLine(kLongestLine);
+  if (line.empty()) return RaidMgrRead::kEnd;
+  const auto time = ReadEventTime(line);
+  if (!time) {
+    Log(host_, kLogProblem, "In RaidEvtA.log file, there has invalid line for zentraxis log, please check it.");
+    return RaidMgrRead::kOtherLine;
+  }
+  const auto [when, severity, machineName, message] = SplitFields(line);
+  record_.MessageTimestamp = *time;
+  record_.Severity = CollectedData::TrimRight(severity);
+  record_.MachineName = machineName;
+  record_.Message = message;
+  return RaidMgrRead::kRecord;
+}
+
+bool CollectRaidMgrData::SetRaidMgrPath() {
+  Log(host_, kLogRoutine, "Enter CollectRaidMgrData::SetRaidMgrPath()");
+  const bool hasSubFolder = IsVersionSixOrLater(host_, GetOsVersion);
+  const auto folder = ReadLocalMachineText(kRegistryKey, kRegistryValue, kPathSize);
+  if (!folder) return false;
+  const std::string path = *folder + (hasSubFolder ? kSubFolder : "");
+  if ((path + kFileName).size() >= kPathSize) return false;
+  path_ = path;
+  Log(host_, kLogRoutine, "ZXM LogPath: " + path_);
+  Log(host_, kLogRoutine, "Exit CollectRaidMgrData::SetRaidMgrPath()");
+  return true;
+}
+
+bool CollectRaidMgrData::OpenRaidMgrLog() {
+  path_ += kFileName;
+  const std::string nativePath = NativePath(path_);
+  file_ = TextFile(nativePath);
+  if (!file_.IsOpen()) {
+    // The path ends in the file's name already: it stands twice in this line.
+    Log(host_, kLogRoutine, path_ + kFileName + " not found.");
+    return false;
+  }
+  Capture(nativePath);
+  return true;
+}
+
+// A log that opens and yet cannot be captured is still read for its events.
+void CollectRaidMgrData::Capture(const std::string& nativePath) {
+  try {
+    const std::string text = TOSSpecific::CaptureFile(nativePath);
+    if (!text.empty()) rawData_.push_back(std::make_shared<ZenxRawData>(path_, "", 0, "", text));
+  } catch (const std::exception& failure) {
+    Log(host_, kLogWarning,
+        path_ + " is not among the raw data, as it could not be captured: " + std::string(failure.what()));
+  }
+}
+
+// Says in the form of an event how far the log was found. The query publishes no such record.
+void CollectRaidMgrData::SetInformationRecord(const std::string& message) {
+  record_.MessageTimestamp = TOSSpecific::GetLocalTime();
+  record_.Severity = "INF";
+  record_.Message = message;
+  record_.RecordID = "1";
+}
+
+bool IsVersionSixOrLater(HostHandle host, OsVersion (*ask)()) {
+  try {
+    const OsVersion version = ask();
+    return version.isWindowsNt && version.major >= 6;
+  } catch (...) {
+    Log(host, kLogSevere,
+        "Can not get OS version from GetVersionEx(), please report the issue to customer service to fix it!");
+    return false;
+  }
+}
