@@ -5,8 +5,13 @@
 #include <string>
 
 #include "plugin/host_interface/services.h"
+#include "publish/publish_associations.h"
 #include "publish/publish_common.h"
 #include "publish/publish_devices.h"
+#include "publish/publish_logs.h"
+#include "publish/publish_raw_data.h"
+#include "publish/publish_statistics.h"
+#include "publish/publish_versions.h"
 
 using namespace NKVRHXA20;
 
@@ -19,35 +24,35 @@ constexpr unsigned short kOsTypeWithoutHrconf = 82;
 void PublishNothing(const PublishContext&, ICIMClass&) {}
 
 constexpr CatalogueEntry kCatalogue[] = {
-    {"KVRSG_zxManagerRawData",                    PublishNothing     },
-    {"KVRSG_zxRawData",                           PublishNothing     },
-    {"KVRSG_zxSCSIProtocolController",            PublishControllers },
-    {"KVRSG_zxLogicalDisk",                       PublishLogicalDisks},
-    {"KVRSG_zxDiskGroup",                         PublishDiskGroups  },
-    {"KVRSG_zxDiskDrive",                         PublishDiskDrives  },
-    {"KVRSG_DiskGroup",                           PublishNothing     },
-    {"KVRSG_BadStripeData",                       PublishNothing     },
-    {"KVRSG_zxSCSIDeviceData",                    PublishNothing     },
-    {"KVRSG_zxSCSISubStatData",                   PublishNothing     },
-    {"KVRSG_LogRecord_SoftEvent",                 PublishNothing     },
-    {"KVRSG_LogRecord_zxDDD",                     PublishNothing     },
-    {"KVRSG_LogRecord_HardEvent",                 PublishNothing     },
-    {"KVRSG_LogRecord_RAIDMgrEvent",              PublishNothing     },
-    {"KVRSG_zxFirmwareVersion",                   PublishNothing     },
-    {"KVRSG_zxBootBlockVersion",                  PublishNothing     },
-    {"KVRSG_zxDiskDriveVersion",                  PublishNothing     },
-    {"KVRSG_zxBiosVersion",                       PublishNothing     },
-    {"KVRSG_zxProtocolControllerForUnit",         PublishNothing     },
-    {"KVRSG_zxProtocolControllerForPhysicalDisk", PublishNothing     },
-    {"KVRSG_zxDriveInDiskGroup",                  PublishNothing     },
-    {"KVRSG_zxExtenInDiskGroup",                  PublishNothing     },
-    {"KVRSG_zxStripeOrderForController",          PublishNothing     },
-    {"KVRSG_zxFirmwareOnController",              PublishNothing     },
-    {"KVRSG_zxBootBlockOnController",             PublishNothing     },
-    {"KVRSG_zxFirmwareOnDiskDrive",               PublishNothing     },
-    {"KVRSG_zxBiosOnController",                  PublishNothing     },
-    {"KVRSG_ElementZxScsiDeviceData",             PublishNothing     },
-    {"KVRSG_ElementBadStripeData",                PublishNothing     },
+    {"KVRSG_zxManagerRawData",                    PublishManagerRawData          },
+    {"KVRSG_zxRawData",                           PublishRawData                 },
+    {"KVRSG_zxSCSIProtocolController",            PublishControllers             },
+    {"KVRSG_zxLogicalDisk",                       PublishLogicalDisks            },
+    {"KVRSG_zxDiskGroup",                         PublishDiskGroups              },
+    {"KVRSG_zxDiskDrive",                         PublishDiskDrives              },
+    {"KVRSG_DiskGroup",                           PublishNothing                 },
+    {"KVRSG_BadStripeData",                       PublishBadStripes              },
+    {"KVRSG_zxSCSIDeviceData",                    PublishDeviceData              },
+    {"KVRSG_zxSCSISubStatData",                   PublishSubStats                },
+    {"KVRSG_LogRecord_SoftEvent",                 PublishSoftEvents              },
+    {"KVRSG_LogRecord_zxDDD",                     PublishDddEvents               },
+    {"KVRSG_LogRecord_HardEvent",                 PublishHardEvents              },
+    {"KVRSG_LogRecord_RAIDMgrEvent",              PublishRaidManagerEvents       },
+    {"KVRSG_zxFirmwareVersion",                   PublishFirmwareVersions        },
+    {"KVRSG_zxBootBlockVersion",                  PublishBootBlockVersions       },
+    {"KVRSG_zxDiskDriveVersion",                  PublishDiskDriveVersions       },
+    {"KVRSG_zxBiosVersion",                       PublishBiosVersions            },
+    {"KVRSG_zxProtocolControllerForUnit",         PublishControllerToLogicalDisks},
+    {"KVRSG_zxProtocolControllerForPhysicalDisk", PublishControllerToDiskDrives  },
+    {"KVRSG_zxDriveInDiskGroup",                  PublishNothing                 },
+    {"KVRSG_zxExtenInDiskGroup",                  PublishNothing                 },
+    {"KVRSG_zxStripeOrderForController",          PublishControllerToDiskGroups  },
+    {"KVRSG_zxFirmwareOnController",              PublishControllerToFirmware    },
+    {"KVRSG_zxBootBlockOnController",             PublishControllerToBootBlock   },
+    {"KVRSG_zxFirmwareOnDiskDrive",               PublishDiskDriveToFirmware     },
+    {"KVRSG_zxBiosOnController",                  PublishControllerToBios        },
+    {"KVRSG_ElementZxScsiDeviceData",             PublishDiskDriveToDeviceData   },
+    {"KVRSG_ElementBadStripeData",                PublishLogicalDiskToBadStripes },
 };
 
 TPropertyMap PluginContext() {
