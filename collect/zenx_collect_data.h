@@ -8,8 +8,9 @@ class QcmdrunData;
 class HrconfData;
 class ArcconfData;
 
-// Runs the adapters one after the other and merges what they found. Controllers are numbered on from adapter to
-// adapter, so that a number is never given twice.
+// Runs the adapters one after the other and merges what they found. Each adapter adds its utility's own number to the
+// count of the controllers before it. Where a utility's numbers have a gap (1 and 3), the next adapter therefore starts
+// at a number that is given already, and two controllers bear it; hosts know them under these numbers.
 class ZenxCollectData {
  public:
   // Starts with the lists that it is given: records that are published without any tool being run.
