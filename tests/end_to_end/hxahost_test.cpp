@@ -1,0 +1,199 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/hxacore/schema.h"
+#include "host/hxahost/collection_lock.h"
+#include "host/hxahost/system.h"
+#include "host/hxahost/text.h"
+#include "tests/support/file_text.h"
+#include "tests/support/hxahost_run.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using hxahost::Utf8FromPath;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+// A machine without any tool.
+class Hxahost : public testing::Test {
+ protected:
+  ProgramResult Query(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), {"query", "--directory", Utf8FromPath(folder_.Path())});
+    return RunHxahost(arguments);
+  }
+
+  std::string InFolder(const std::string& name) const { return Utf8FromPath(folder_.Path() / name); }
+
+  std::vector<std::string> FilesInFolder() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+      names.push_back(Utf8FromPath(entry.path().filename()));
+    }
+    std::ranges::sort(names);
+    return names;
+  }
+
+  TemporaryFolder folder_;
+};
+
+// One line: what is wrong and what to do.
+void ExpectOneLine(const std::string& err) {
+  EXPECT_EQ(std::ranges::count(err, '\n'), 1) << err;
+  EXPECT_THAT(err, StartsWith("hxahost: "));
+}
+
+TEST_F(Hxahost, ShowsItsHelpWithExamplesAndExitStatuses) {
+  const ProgramResult result = RunHxahost({"query", "--help"});
+  EXPECT_EQ(result.exitStatus, 0);
+  EXPECT_THAT(result.out, HasSubstr("hxahost query --format json --output machine.json"));
+  EXPECT_THAT(result.out, HasSubstr("3 the plug-in could not be loaded"));
+  EXPECT_EQ(result.err, "");
+}
+
+TEST_F(Hxahost, EndsWithStatus2AndOneLineForWrongArguments) {
+  struct Case {
+    const char* name;
+    std::vector<std::string> arguments;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"no command",           {},                                                  "--help"         },
+      {"unknown option",       {"query", "--bogus"},                                "--bogus"        },
+      {"unknown class",        {"query", "--class", "KVRSG_Nothing"},               "hxahost classes"},
+      {"missing directory",    {"query", "--directory", InFolder("missing")},       "--directory"    },
+      {"output in no folder",  {"query", "--output", InFolder("missing/out.json")}, "--output"       },
+      {"log in no folder",     {"query", "--log", InFolder("missing/log.txt")},     "--log"          },
+      {"output is a folder",   {"query", "--output", Utf8FromPath(folder_.Path())}, "--output"       },
+      {"repeat nothing",       {"query", "--repeat", "0"},                          "from 1 on"      },
+      {"format of the future", {"query", "--format", "html"},                       "table or json"  },
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.name);
+    const ProgramResult result = RunHxahost(each.arguments);
+    EXPECT_EQ(result.exitStatus, 2);
+    EXPECT_EQ(result.out, "");
+    ExpectOneLine(result.err);
+    EXPECT_THAT(result.err, HasSubstr(each.says));
+  }
+}
+
+TEST_F(Hxahost, EndsWithStatus3WhenThePluginCannotBeLoaded) {
+  WriteFileText(InFolder("text.pi"), "no library");
+  const fs::path bin = hxahost::ProgramFolder();
+  const fs::path core = fs::exists(bin / "hxacore.dll") ? bin / "hxacore.dll" : bin / "libhxacore.so";
+  struct Case {
+    const char* name;
+    std::string plugin;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"missing",                        InFolder("missing.pi"), "is missing"        },
+      {"no library",                     InFolder("text.pi"),    "cannot be loaded"  },
+      {"library that registers nothing", Utf8FromPath(core),     "registered nothing"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.name);
+    const ProgramResult result = Query({"--plugin", each.plugin, "--output", InFolder("out.json")});
+    EXPECT_EQ(result.exitStatus, 3);
+    EXPECT_EQ(result.out, "");
+    ExpectOneLine(result.err);
+    EXPECT_THAT(result.err, HasSubstr(each.says));
+    EXPECT_THAT(result.err, HasSubstr("--plugin"));
+  }
+  EXPECT_THAT(FilesInFolder(), testing::ElementsAre("text.pi")) << "no output, and no half of one";
+}
+
+TEST_F(Hxahost, FindsThePluginBesideItselfWhereverTheToolsAre) {
+  EXPECT_EQ(Query({}).exitStatus, 0);
+  EXPECT_EQ(Query({"--plugin", Utf8FromPath(hxahost::ProgramFolder() / "zenx.pi")}).exitStatus, 0);
+}
+
+TEST_F(Hxahost, ListsTheClassesAndTheirMof) {
+  const ProgramResult classes = RunHxahost({"classes"});
+  EXPECT_EQ(classes.exitStatus, 0);
+  EXPECT_EQ(static_cast<std::size_t>(std::ranges::count(classes.out, '\n')), NKVRHXA20::PublishedClasses().size());
+  EXPECT_THAT(classes.out, StartsWith("KVRSG_zxManagerRawData "));
+
+  const ProgramResult schema = RunHxahost({"schema"});
+  EXPECT_EQ(schema.exitStatus, 0);
+  EXPECT_THAT(schema.out, HasSubstr("\nclass KVRSG_zxLogicalDisk {\n"));
+}
+
+TEST_F(Hxahost, ShowsEveryClassThatWasAskedForUnderItsDeclaredName) {
+  const ProgramResult result = Query({"--class", "kvrsg_DISKGROUP", "--class", "KVRSG_zxLogicalDisk", "--machine-name",
+                                      "K\xc3\xa4se 1", "--local-time", "20260305123015.250000+060"});
+  EXPECT_EQ(result.exitStatus, 0);
+  EXPECT_THAT(result.out, StartsWith("RAID controllers of K\xc3\xa4se 1, collected in "));
+  EXPECT_THAT(result.out, HasSubstr(" on 2026-03-05 12:30:15 +01:00\n"));
+  EXPECT_THAT(result.out, HasSubstr("  Class asked for      Instances\n"
+                                    "  KVRSG_DiskGroup      0\n"
+                                    "  KVRSG_zxLogicalDisk  0\n"));
+  EXPECT_THAT(result.out, HasSubstr("Nothing was found"));
+  EXPECT_EQ(result.err, "") << "standard error is no terminal here, so no progress is shown";
+}
+
+TEST_F(Hxahost, RepeatsTheQueryInOneProcess) {
+  const ProgramResult result = Query({"--format", "json", "--repeat", "3", "--machine-name", "M"});
+  EXPECT_EQ(result.exitStatus, 0);
+  const auto json = nlohmann::json::parse(result.out);
+  EXPECT_EQ(json["format"], 1);
+  EXPECT_EQ(json["machine"], "M");
+  ASSERT_EQ(json["queries"].size(), 3U);
+  for (const auto& query : json["queries"]) {
+    EXPECT_TRUE(query["instances"].is_array());
+    EXPECT_TRUE(query["log"].is_array());
+  }
+}
+
+TEST_F(Hxahost, WritesTheSameBytesToAFileAsToStandardOutput) {
+  const std::vector<std::string> fixed = {
+      "--machine-name", "M", "--local-time", "20260305123015.250000+060", "--class", "KVRSG_zxDiskDrive"};
+  std::vector<std::string> withOutput = fixed;
+  withOutput.insert(withOutput.end(), {"--output", InFolder("out.txt"), "--log", InFolder("log.txt")});
+  const ProgramResult shown = Query(fixed);
+  const ProgramResult written = Query(withOutput);
+  EXPECT_EQ(written.exitStatus, 0);
+  EXPECT_EQ(written.out, "");
+  EXPECT_EQ(FileText(InFolder("out.txt")), shown.out);
+  EXPECT_THAT(shown.out, Not(HasSubstr("\r")));
+  EXPECT_THAT(FilesInFolder(), testing::ElementsAre("log.txt", "out.txt"));
+}
+
+TEST_F(Hxahost, NamesTheClassesThatMustComeBefore) {
+  const ProgramResult result = Query({"--class", "KVRSG_zxBiosOnController"});
+  EXPECT_EQ(result.exitStatus, 0);
+  ExpectOneLine(result.err);
+  EXPECT_THAT(result.err, HasSubstr("--class KVRSG_zxSCSIProtocolController --class KVRSG_zxBiosVersion before it"));
+}
+
+TEST_F(Hxahost, WaitsForAnotherCollectionInTheSameFolderAndSaysSo) {
+  fs::create_directory(folder_.Path() / "zenx");
+  const std::vector<std::string> arguments = {"query", "--directory", Utf8FromPath(folder_.Path())};
+  auto other = std::make_unique<hxahost::CollectionLock>(folder_.Path() / "zenx", [] { FAIL() << "nobody else"; });
+  RunningProgram waiting(HxahostPath(), arguments);
+  EXPECT_TRUE(waiting.SaysOnStandardError("waiting"));
+  other.reset();
+  const ProgramResult result = waiting.Wait();
+  EXPECT_EQ(result.exitStatus, 0);
+  ExpectOneLine(result.err);
+  EXPECT_THAT(result.out, HasSubstr("Nothing was found"));
+}
+
+TEST_F(Hxahost, LeavesNothingInTheFolderOfTheTools) {
+  fs::create_directory(folder_.Path() / "zenx");
+  EXPECT_EQ(Query({}).exitStatus, 0);
+  EXPECT_TRUE(fs::is_empty(folder_.Path() / "zenx"));
+  EXPECT_EQ(Query({}).err, "") << "the lock ended with its program";
+}
+
+}  // namespace

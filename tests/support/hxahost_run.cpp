@@ -1,0 +1,28 @@
+#include "tests/support/hxahost_run.h"
+
+#include <stdexcept>
+
+#include "host/hxahost/system.h"
+#include "host/hxahost/text.h"
+
+namespace fs = std::filesystem;
+
+fs::path HxahostPath() {
+  const fs::path plain = hxahost::ProgramFolder() / "hxahost";
+  return fs::exists(plain) ? plain : fs::path(plain).replace_extension(".exe");
+}
+
+ProgramResult RunHxahost(const std::vector<std::string>& arguments) {
+  return RunningProgram(HxahostPath(), arguments).Wait();
+}
+
+fs::path SampleMachine() { return hxahost::ProgramFolder().parent_path() / "sample-machine"; }
+
+nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArguments) {
+  std::vector<std::string> arguments = {"query", "--format", "json", "--directory",
+                                        hxahost::Utf8FromPath(SampleMachine())};
+  arguments.insert(arguments.end(), furtherArguments.begin(), furtherArguments.end());
+  const ProgramResult result = RunHxahost(arguments);
+  if (result.exitStatus != 0) throw std::runtime_error("hxahost failed: " + result.err);
+  return nlohmann::ordered_json::parse(result.out);
+}

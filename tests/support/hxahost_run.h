@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/support/running_program.h"
+
+// The program under test, which lies beside the test program.
+std::filesystem::path HxahostPath();
+
+// Runs it to its end.
+ProgramResult RunHxahost(const std::vector<std::string>& arguments);
+
+// The sample machine of this build.
+std::filesystem::path SampleMachine();
+
+// What "hxahost query" on the sample machine shows as JSON, with the keys in their order. The query must succeed.
+nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArguments = {});
