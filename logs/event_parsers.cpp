@@ -8,6 +8,7 @@
 #include <string>
 
 #include "collect/collected_data.h"
+#include "collect/tool_answers.h"
 #include "logs/event_records.h"
 #include "logs/table_columns.h"
 
@@ -60,7 +61,7 @@ template <class Record>
 void ParseCodes(Record& record, CollectedData& text, std::string_view controllerNumber) {
   record.Controller = controllerNumber;
   record.LogTitle = text.CurrentLine();
-  for (text.NextLine(); !Contains(text.CurrentLine(), "Command completed successfully"); text.NextLine()) {
+  for (text.NextLine(); !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
     if (!Contains(text.CurrentLine(), "-----------")) record.Codes.push_back(ReadCode(text.CurrentLine()));
   }
   record.MessageTimestamp = FixedTime();

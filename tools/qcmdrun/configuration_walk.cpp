@@ -4,6 +4,7 @@
 
 #include "collect/collected_data.h"
 #include "collect/records.h"
+#include "collect/tool_answers.h"
 #include "collect/tool_text.h"
 #include "tools/qcmdrun/logical_drive_parser.h"
 #include "tools/qcmdrun/physical_device_parser.h"
@@ -71,7 +72,7 @@ bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Physical device information").empty()) return false;
   StepOverRule(text);
   std::string channel;
-  while (!Contains(text.CurrentLine(), "Command completed successfully")) {
+  while (!Contains(text.CurrentLine(), kCommandCompleted)) {
     const std::string_view line = text.CurrentLine();
     if (Contains(line, "#")) {
       channel = CutChannel(line);

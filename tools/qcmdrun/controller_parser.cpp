@@ -3,6 +3,7 @@
 #include <string>
 
 #include "collect/labelled_fields.h"
+#include "collect/model_table.h"
 #include "collect/records.h"
 #include "collect/tool_text.h"
 #include "platform/device_setup.h"
@@ -43,13 +44,8 @@ constexpr LabelledField<ZenxController> kController[] = {
     {"Configuration update count",      &ZenxController::ConfigurationUpdateCount   },
 };
 
-struct Model {
-  std::string_view search;
-  std::string_view name;
-};
-
 // The first hit wins: "C6-e" stands before "C6", which it contains. The two oldest models are written with a hyphen.
-constexpr Model kModels[] = {
+constexpr ModelName kModels[] = {
     {"C4",   "Zentraxis C4"  },
     {"C6-e", "Zentraxis C6-e"},
     {"C6",   "Zentraxis C6"  },
@@ -58,21 +54,13 @@ constexpr Model kModels[] = {
     {"A2",   "Zentraxis-A2"  },
 };
 
-// A type that no row knows stays as the utility printed it.
-std::string ModelName(const std::string& type) {
-  for (const Model& model : kModels) {
-    if (Contains(type, model.search)) return std::string(model.name);
-  }
-  return type;
-}
-
 }  // namespace
 
 void ParseController(ZenxController& controller, std::string_view text, unsigned number) {
   controller.ControllerNum = std::to_string(number);
   if (!Contains(text, "Controller information")) return;
   for (const auto& row : kController) controller.*row.field = GetSectionValue(row.label, text);
-  controller.ControllerType = ModelName(controller.ControllerType);
+  controller.ControllerType = std::string(NameOfModel(controller.ControllerType, kModels));
   controller.Parsed = true;
   const int slot = LeadingNumber(controller.ControllerSlotInfo);
   controller.SlotDeviceId = LookupSlotDevice(controller.Host, static_cast<unsigned>(slot));

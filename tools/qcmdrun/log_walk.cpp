@@ -2,6 +2,7 @@
 
 #include "collect/collected_data.h"
 #include "collect/records.h"
+#include "collect/tool_answers.h"
 #include "logs/event_parsers.h"
 #include "logs/event_records.h"
 #include "logs/statistics_parsers.h"
@@ -11,8 +12,6 @@
 namespace qcmdrun {
 
 namespace {
-
-constexpr std::string_view kEnd = "Command completed successfully";
 
 bool IsRule(std::string_view line) { return Contains(line, "-"); }
 
@@ -37,7 +36,8 @@ void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Device event table:").empty()) return;
   constexpr int kLinesToFirstRow = 3;
   for (int line = 0; line < kLinesToFirstRow; ++line) text.NextLine();
-  for (; !Contains(text.CurrentLine(), kEnd) && !Contains(text.CurrentLine(), "Controller "); text.NextLine()) {
+  for (; !Contains(text.CurrentLine(), kCommandCompleted) && !Contains(text.CurrentLine(), "Controller ");
+       text.NextLine()) {
     if (IsRule(text.CurrentLine())) continue;
     auto record = std::make_shared<ZenxEventData>(controller.Host);
     ParseDeviceEvent(*record, text, controller.ControllerNum);
@@ -49,7 +49,7 @@ void AttachDddEvents(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("+---").empty()) return;
   std::uint32_t entryNumber = 1;
   try {
-    for (text.NextLine(); !Contains(text.CurrentLine(), kEnd); text.NextLine()) {
+    for (text.NextLine(); !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
       if (IsRule(text.CurrentLine())) continue;
       auto record = std::make_shared<ZenxEventDddData>(controller.Host);
       ParseDddRow(*record, text, controller.ControllerNum, entryNumber);
@@ -77,7 +77,7 @@ void SetHardEvents(ZenxController& controller, CollectedData& text) {
 
 void AttachSubStats(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("A:").empty()) return;
-  for (; !Contains(text.CurrentLine(), kEnd); text.NextLine()) {
+  for (; !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
     auto record = std::make_shared<ZenxSubStatData>(controller.Host);
     ParseSubStat(*record, text, controller.ControllerNum);
     controller.SubStats.push_back(std::move(record));

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "collect/collected_data.h"
+#include "collect/tool_answers.h"
 #include "collect/tool_runner.h"
 #include "logs/statistics_parsers.h"
 #include "plugin/host_interface/exception.h"
@@ -48,9 +49,6 @@ constexpr LogCommand kLogs[] = {
     {kGetSubStats,     qcmdrun::AttachSubStats    },
 };
 
-// The utility numbers its controllers from 1 and knows no more than these.
-constexpr unsigned kLastUtilityNumber = 8;
-
 // No controller has this number or a higher one.
 constexpr std::string_view kNoneFound = "Found 0 KVR Zentraxis controller(s)";
 
@@ -64,14 +62,14 @@ QcmdrunParsers::QcmdrunParsers() : status(qcmdrun::ParseStatus), badStripe(Parse
 // Two passes over the utility: what is recorded is what it says at one time, whatever the parsing makes of it.
 void QcmdrunData::Collect(unsigned firstControllerNumber) {
   RecordAnswers();
-  for (unsigned number = 1; number <= kLastUtilityNumber; ++number) {
+  for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     if (CollectController(number, firstControllerNumber) == Next::kStop) return;
   }
 }
 
 // The record names the utility's own number, which is the one to ask it with.
 void QcmdrunData::RecordAnswers() {
-  for (unsigned number = 1; number <= kLastUtilityNumber; ++number) {
+  for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     const std::string configuration = RunTool(kTool, host_, kGetConfig, number);
     if (Contains(configuration, kNoneFound)) return;
     if (Contains(configuration, kAborted)) continue;

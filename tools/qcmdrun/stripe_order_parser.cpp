@@ -2,7 +2,7 @@
 
 #include "collect/collected_data.h"
 #include "collect/records.h"
-#include "collect/tool_text.h"
+#include "collect/stripe_order.h"
 
 namespace qcmdrun {
 
@@ -17,12 +17,7 @@ void ParseStripeOrder(ArrayStripeOrder& order, CollectedData& text, std::string_
   order.Array = line.at(label - 1);
   order.CollectionID = "Zentraxis" + order.ControllerNum + "Array" + order.Array;
   order.StripeOrder = text.ValueOfCurrentLine();
-  const std::string_view next = CollectedData::TrimLeft(text.NextLine());
-  if (BeginsWithDigit(next)) {
-    order.StripeOrder = Joined(order.StripeOrder, " ", next);
-  } else {
-    text.StepBack();
-  }
+  ContinueList(text, order.StripeOrder);
 }
 
 }  // namespace qcmdrun
