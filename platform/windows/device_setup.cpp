@@ -35,8 +35,8 @@ bool StandsInSlot(HDEVINFO set, SP_DEVINFO_DATA& device, unsigned slotNumber) {
          uiNumber == slotNumber;
 }
 
-// The list is one block: texts with their ends, one behind the other. It is read for the sake of the read alone:
-// a driver that cannot answer for the device shows here.
+// The list is one block: texts with their ends, one behind the other. Nothing uses it; what a log may show of it is
+// that there was no memory for it, a sign of a machine in trouble.
 std::vector<std::string> CompatibleIds(HDEVINFO set, SP_DEVINFO_DATA& device) {
   DWORD size = 0;
   SetupDiGetDeviceRegistryPropertyA(set, &device, SPDRP_COMPATIBLEIDS, nullptr, nullptr, 0, &size);
