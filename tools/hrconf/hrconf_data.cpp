@@ -109,7 +109,7 @@ void HrconfData::Collect(unsigned firstControllerNumber) {
 
 void HrconfData::RecordOutputs() {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
-    const bool isOsVersion60 = hrconf::IsOsVersion60(host_);
+    const bool isOsVersion60 = hrconf::IsOsVersion60(host_, getOsVersion_);
     const std::string config = RunTool(kHrconf, host_, kGetConfig, number);
     if (Contains(config, kNoControllers)) return;
     if (Contains(config, kInvalidController)) continue;
@@ -152,7 +152,7 @@ void HrconfData::ParseConfig(const std::string& config, unsigned toolNumber, uns
 
 std::shared_ptr<ZenxHrConfBios> HrconfData::ReadVersions(unsigned toolNumber) const {
   std::string answer;
-  if (!hrconf::IsOsVersion60(host_)) answer = RunTool(kHrconf, host_, kGetVersion, toolNumber);
+  if (!hrconf::IsOsVersion60(host_, getOsVersion_)) answer = RunTool(kHrconf, host_, kGetVersion, toolNumber);
   if (answer.empty()) answer = kNoVersions;
   CollectedData text(host_, answer);
   auto versions = std::make_shared<ZenxHrConfBios>(host_);

@@ -2,11 +2,14 @@
 
 #include "collect/records.h"
 #include "collect/tool_runner.h"
+#include "platform/os_version.h"
 
 // Collects the controllers that hrconf answers for.
 class HrconfData {
  public:
-  explicit HrconfData(HostHandle host) : host_(host) {}
+  // Systems of version 6.0 are collected from differently; getOsVersion tells which this is.
+  explicit HrconfData(HostHandle host, OsVersion (*getOsVersion)() = GetOsVersion)
+      : host_(host), getOsVersion_(getOsVersion) {}
   virtual ~HrconfData() = default;
 
   // To be called once, with the number of controllers found before: numbering goes on from there.
@@ -25,4 +28,5 @@ class HrconfData {
   ControllerList controllers_;
   RawDataList rawData_;
   HostHandle host_;
+  OsVersion (*getOsVersion_)();
 };

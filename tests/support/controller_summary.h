@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "collect/records.h"
+
+// What hangs on the controllers, one line each, line ends cut:
+//   5 SERIAL
+//    drive 1| 100 MB
+//    order 5LogicalDrv1 0,0 0,1
+//    device Controller: Device #0|Hard drive| Online
+std::string Summary(const ControllerList& controllers);
