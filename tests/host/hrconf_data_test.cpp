@@ -1,0 +1,354 @@
+#include "tools/hrconf/hrconf_data.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "plugin/host_interface/services.h"
+#include "tests/support/controller_summary.h"
+#include "tests/support/filled_fields.h"
+#include "tests/support/scripted_services.h"
+#include "tests/support/tool_text.h"
+
+namespace {
+
+using NKVRHXA20::TRootObject;
+
+const std::string kNoControllers = CrLf("Controllers found: 0\n");
+const std::string kInvalidNumber = CrLf("Controllers found: 2\nInvalid controller number.\n");
+const std::string kVersions = CrLf("1\n2\n3\n4\nBIOS : 4.2\nDriver : 4.3\n");
+
+OsVersion Version52() { return {true, 5, 2}; }
+OsVersion Version60() { return {true, 6, 0}; }
+
+std::string Config(const std::string& status) {
+  return CrLf("Controller information\n   Controller Status : " + status +
+              "\n"
+              "Logical drive information\n----\n"
+              "Logical drive number 1\n   Size : 100 MB\n\n\n"
+              "Physical drive information\n----\n"
+              "   Device #0\n   Device is a Hard drive\n   State : Online\n"
+              "Command completed successfully.\n");
+}
+
+std::string GetConfig(unsigned number) { return "hrconf_64 getconfig " + std::to_string(number) + " al"; }
+std::string GetStatus(unsigned number) { return "hrconf_64 getstatus " + std::to_string(number); }
+std::string GetVersion(unsigned number) { return "hrconf_64 getversion " + std::to_string(number); }
+
+// What is found of a controller made from Config.
+std::string Found(unsigned number) {
+  return std::to_string(number) + " \n drive 1| 100 MB\n device Controller: 0Device #0|Hard drive| Online\n";
+}
+
+// A machine on which hrconf answers for no controller; a test gives it some.
+class HrconfDataTest : public testing::Test {
+ protected:
+  HrconfDataTest() {
+    for (unsigned number = 1; number <= 9; ++number) services_.answers[GetConfig(number)] = kNoControllers;
+  }
+
+  void AddController(unsigned number, const std::string& status = "Okay") {
+    services_.answers[GetConfig(number)] = Config(status);
+    services_.answers[GetStatus(number)] = "status " + std::to_string(number) + "\r\n";
+    services_.answers[GetVersion(number)] = kVersions;
+  }
+
+  void Collect(unsigned firstControllerNumber = 0, OsVersion (*version)() = Version52) {
+    HrconfData hrconf(TRootObject::GetCoreLogger(), version);
+    hrconf.Collect(firstControllerNumber);
+    controllers_ = hrconf.GetControllers();
+    rawData_ = hrconf.GetRawData();
+  }
+
+  std::string CollectOne(const std::string& config) {
+    AddController(1);
+    services_.answers[GetConfig(1)] = config;
+    Collect();
+    return Summary(controllers_);
+  }
+
+  std::vector<std::string> Commands() const {
+    std::vector<std::string> commands;
+    for (const auto& raw : rawData_) commands.push_back(raw->Command);
+    return commands;
+  }
+
+  ScriptedServices services_;
+  ControllerList controllers_;
+  RawDataList rawData_;
+};
+
+TEST_F(HrconfDataTest, AsksTwiceAndFindsNothingOnAMachineWithoutControllers) {
+  Collect();
+  EXPECT_EQ(services_.runs, (std::vector<std::string>{GetConfig(1), GetConfig(1)}));
+  EXPECT_TRUE(controllers_.empty());
+  EXPECT_TRUE(rawData_.empty());
+}
+
+TEST_F(HrconfDataTest, AsksThreeControllersByTheirNumbersAndStopsAtTheFourth) {
+  for (unsigned number = 1; number <= 3; ++number) AddController(number);
+  Collect();
+  std::vector<std::string> runs;
+  for (unsigned number = 1; number <= 3; ++number) {
+    for (const auto& run : {GetConfig(number), GetConfig(number), GetStatus(number), GetVersion(number)}) {
+      runs.push_back(run);
+    }
+  }
+  runs.push_back(GetConfig(4));
+  for (unsigned number = 1; number <= 3; ++number) {
+    for (const auto& run : {GetConfig(number), GetVersion(number)}) runs.push_back(run);
+  }
+  runs.push_back(GetConfig(4));
+  EXPECT_EQ(services_.runs, runs);
+  EXPECT_EQ(controllers_.size(), 3u);
+}
+
+TEST_F(HrconfDataTest, LogsEveryCommandAndEveryConfigurationThatItParses) {
+  AddController(1);
+  Collect(4);
+  const std::string run = " HRCCONF  using Spawnprocess. Controller# :";
+  EXPECT_EQ(services_.log, (std::vector<LogEntry>{
+                               {3, run + "1 opt1: getconfig opt2: al"             },
+                               {3, run + "1 opt1: getconfig opt2: al"             },
+                               {3, run + "1 opt1: getstatus"                      },
+                               {3, run + "1 opt1: getversion"                     },
+                               {3, run + "2 opt1: getconfig opt2: al"             },
+                               {3, run + "1 opt1: getconfig opt2: al"             },
+                               {3, "HRCONFDATA-Getconfig 1 al:\n" + Config("Okay")},
+                               {3, run + "1 opt1: getversion"                     },
+                               {3, "Found HRCONF Physical Drive Info\n"           },
+                               {3, run + "2 opt1: getconfig opt2: al"             },
+                               {3, "HRCONFDATA-Getconfig 2 al:\n" + kNoControllers}
+  }));
+}
+
+TEST_F(HrconfDataTest, KeepsTheOutputOfEachCommandWithTheWordForNoOption) {
+  AddController(1);
+  Collect();
+  EXPECT_EQ(Commands(),
+            (std::vector<std::string>{"zenx//hrconf_64.exe getconfig 1 al", "zenx//hrconf_64.exe getstatus 1 nuthin",
+                                      "zenx//hrconf_64.exe getversion 1 nuthin"}));
+  EXPECT_EQ(rawData_[1]->RawResults, (std::vector<std::string>{"status 1"}));
+}
+
+TEST_F(HrconfDataTest, KeepsARecordOfAFailedOrEmptyCommandToo) {
+  AddController(1);
+  services_.answers.erase(GetStatus(1));
+  services_.answers[GetVersion(1)] = "";
+  Collect();
+  ASSERT_EQ(Commands().size(), 3u);
+  EXPECT_TRUE(rawData_[1]->RawResults.empty());
+  EXPECT_TRUE(rawData_[2]->RawResults.empty());
+  EXPECT_THAT(services_.log, testing::Contains(LogEntry{3, "hrconf aborted: zenx//hrconf_64.exe is not here"}));
+}
+
+TEST_F(HrconfDataTest, NumbersControllersFromTheOnesFoundBeforeAndToleratesGaps) {
+  AddController(1);
+  services_.answers[GetConfig(2)] = kInvalidNumber;
+  AddController(3);
+  Collect(4);
+  EXPECT_EQ(Summary(controllers_), Found(5) + Found(7));
+  // The record names the utility's own numbers.
+  ASSERT_EQ(rawData_.size(), 6u);
+  EXPECT_EQ(rawData_[3]->Command, "zenx//hrconf_64.exe getconfig 3 al");
+}
+
+TEST_F(HrconfDataTest, LooksAtEightControllersAtMost) {
+  for (unsigned number = 1; number <= 9; ++number) AddController(number);
+  Collect();
+  EXPECT_EQ(controllers_.size(), 8u);
+  EXPECT_EQ(rawData_.size(), 24u);
+  EXPECT_THAT(services_.runs, testing::Not(testing::Contains(GetConfig(9))));
+}
+
+TEST_F(HrconfDataTest, TriesEveryNumberOfAMissingToolAndKeepsARecordOfEachCommand) {
+  services_.answers.clear();
+  Collect();
+  EXPECT_EQ(services_.runs.size(), 8u * 4u + 8u);
+  EXPECT_TRUE(controllers_.empty());
+  EXPECT_EQ(rawData_.size(), 24u);
+}
+
+TEST_F(HrconfDataTest, AsksForNoVersionOnASystemOfVersionSixPointNought) {
+  AddController(1);
+  Collect(0, Version60);
+  EXPECT_EQ(services_.runs, (std::vector<std::string>{GetConfig(1), GetConfig(1), GetStatus(1), GetConfig(2),
+                                                      GetConfig(1), GetConfig(2)}));
+  EXPECT_EQ(Commands(),
+            (std::vector<std::string>{"zenx//hrconf_64.exe getconfig 1 al", "zenx//hrconf_64.exe getstatus 1 nuthin"}));
+  ASSERT_EQ(controllers_.size(), 1u);
+  EXPECT_EQ(controllers_[0]->BiosVersion, "");
+  EXPECT_EQ(controllers_[0]->DeviceDriverVersion, "");
+  // The answer put in place of the missing one is a proper one, so nothing complains of bad data.
+  EXPECT_THAT(services_.LogTexts(), testing::Not(testing::Contains(testing::HasSubstr("Bad Data"))));
+}
+
+TEST_F(HrconfDataTest, AsksForTheSystemsVersionOnceForEachControllerInEachPass) {
+  AddController(1);
+  AddController(2);
+  static int asked = 0;
+  asked = 0;
+  Collect(0, [] {
+    ++asked;
+    return OsVersion{true, 5, 2};
+  });
+  // Numbers 1 to 3 in the first pass, controllers 1 and 2 in the second.
+  EXPECT_EQ(asked, 5);
+}
+
+TEST_F(HrconfDataTest, GoesOnWhereTheSystemCannotTellItsVersion) {
+  AddController(1);
+  Collect(0, []() -> OsVersion { throw std::runtime_error("no version"); });
+  EXPECT_EQ(Summary(controllers_), Found(1));
+  EXPECT_EQ(rawData_.size(), 3u);
+  EXPECT_EQ(services_.log[0].level, 0);
+}
+
+TEST_F(HrconfDataTest, HangsTheVersionsOnTheController) {
+  AddController(1);
+  Collect(4);
+  ASSERT_EQ(controllers_.size(), 1u);
+  EXPECT_EQ(FilledFields(*controllers_[0]),
+            (std::set<std::string>{"ControllerNum=5", "ControllerStatus= Okay\r\n", "BiosVersion= 4.2\r\n",
+                                   "DeviceDriverVersion= 4.3\r\n"}));
+  ASSERT_EQ(controllers_[0]->HrConfVersions.size(), 1u);
+  EXPECT_EQ(controllers_[0]->HrConfVersions[0]->ControllerNum, "5");
+  EXPECT_EQ(controllers_[0]->HrConfVersions[0]->BIOS, " 4.2\r\n");
+  EXPECT_EQ(controllers_[0]->HrConfVersions[0]->Driver, " 4.3\r\n");
+}
+
+TEST_F(HrconfDataTest, KeepsAControllerWhoseVersionAnswerIsCutOff) {
+  AddController(1);
+  services_.answers[GetVersion(1)] = CrLf("1\n2\n3\n4\nBIOS : 4.2\n") + "Driv";
+  Collect();
+  EXPECT_EQ(Summary(controllers_), Found(1));
+  EXPECT_EQ(controllers_[0]->BiosVersion, " 4.2\r\n");
+  EXPECT_THAT(services_.LogTexts(), testing::Contains(testing::StartsWith("Bad Data From Getversion output: ")));
+}
+
+TEST_F(HrconfDataTest, GoesOnBehindAnAnswerThatIsNoReport) {
+  AddController(2);
+  for (const std::string& answer :
+       {std::string(), std::string("nonsense\r\n"), std::string("Controller information")}) {
+    services_.answers[GetConfig(1)] = answer;
+    services_.runs.clear();
+    Collect();
+    EXPECT_EQ(Summary(controllers_), Found(2)) << answer;
+    // The first pass asks for the version whatever the report says, the second only where there is one.
+    EXPECT_THAT(services_.runs, testing::Contains(GetVersion(1)).Times(1)) << answer;
+  }
+}
+
+struct WalkCase {
+  const char* name;
+  const char* section;
+  const char* found;
+};
+
+TEST_F(HrconfDataTest, ReadsLogicalDrivesThatFollowEachOther) {
+  const WalkCase cases[] = {
+      {"a line between",          "LD number 1\n Size : 1\n\nLD number 2\n Size : 2\n\n\n",                                     " drive 1| 1\n drive 2| 2\n"                                 },
+      {"no line between",         "LD number 1\n Size : 1\nLD number 2\n Size : 2\n\n",                                         " drive 1| 1\n"                                              },
+      {"two lines between",       "LD number 1\n Size : 1\n\n\nLD number 2\n\n",                                                " drive 1| 1\n"                                              },
+      {"a stripe order",          "LD number 1\n Size : 1\n Stripe order (Channel,Device) : 0,0\nLD number 2\n Size : 2\n\n\n",
+       " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0\n"                                                                                                                                 },
+      {"of three lines",
+       "LD number 1\n Size : 1\n Stripe order (Channel,Device) : 0,0\n 0,1\n 0,2\nLD number 2\n Size : 2\n\n\n",                " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0 0,1 0,2\n"},
+      {"a size out of order",
+       "LD number 1\n Size : 1\n Segment size : 8\n Stripe order (Channel,Device) : 0,0\nLD number 2\n Size : 2\n\n\n",         " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0\n"        },
+      {"a size and nothing else", "LD number 1\n Size : 1\n Segment size : 8\n\nLD number 2\n Size : 2\n\n\n",
+       " drive 1| 1\n drive 2| 2\n"                                                                                                                                                          },
+      {"another list",            "LD number 1\n Size : 1\n Stripe order : 0,0\n 0,1\nLD number 2\n Size : 2\n\n\n",
+       " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,1\n"                                                                                                                                 },
+      {"a long number",           "LD number 12 (12)\n Size : 1\n\n\n",                                                         " drive 12 (12)| 1\n"                                        },
+      {"no number",               "LD number\n Size : 1\n\n\n",                                                                 " drive | 1\n"                                               },
+      {"no drive",                "No logical drives\n\n",                                                                      ""                                                           },
+  };
+  for (const auto& [name, section, found] : cases) {
+    std::string text = section;
+    for (std::size_t at = text.find("LD"); at != text.npos; at = text.find("LD", at))
+      text.replace(at, 2, "Logical drive");
+    EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n----\n" + text)),
+              std::string("1 \n") + found)
+        << name;
+  }
+}
+
+// The devices' channels and numbers: "0/0 0/1 ".
+std::string Places(const ControllerList& controllers) {
+  std::string places;
+  for (const auto& controller : controllers) {
+    for (const auto& device : controller->PhysicalDevices) {
+      const std::string number = device->DeviceNumber.substr(0, device->DeviceNumber.find_first_of("\r\n"));
+      places += device->Channel + "/" + number + " ";
+    }
+  }
+  return places;
+}
+
+TEST_F(HrconfDataTest, WalksDevicesWithAndWithoutChannels) {
+  const WalkCase cases[] = {
+      {"channel 0 without headings", "Device #0\n type\nDevice #1\n type\n",                             "0/0 0/1 "  },
+      {"a heading that comes late",  "Device #0\n type\nChannel #1:\nDevice #1\n type\n",                "0/0 0/1 "  },
+      {"two channels",               "Channel #0:\nDevice #0\n type\n\nChannel #1:\nDevice #1\n type\n", "0/0 1/1 "  },
+      {"gaps between devices",       "Channel #0:\n\n\nDevice #0\n type\n\n\n\nDevice #1\n type\n",      "0/0 0/1 "  },
+      {"an initiator",               "Channel #2:\n Initiator at SCSI ID 7\nDevice #0\n type\n",         "2/0 "      },
+      {"a heading of another kind",  "Channel list\nBus #4 of 5: fast\nDevice #0\n type\n",              "4 of 5/0 " },
+      {"no heading behind the line", "Channel list\nDevice #0\n type\n",                                 "/0 "       },
+      {"no colon behind the sign",   "Channel #3\nDevice #0\n type\n",                                   "/0 "       },
+      {"a colon before the sign",    "Channel: #3\nDevice #0\n type\n",                                  "/0 "       },
+      {"a device line with a colon", "Channel #1:\nDevice #7: here\n type\n",                            "1/7: here "},
+      {"a long number",              "Channel #1:\nDevice #1234567\n type\n",                            "1/1234567 "},
+      {"the line behind is used up", "Device #0\nDevice #1\nDevice #2\n type\n",                         "0/0 0/2 "  },
+      {"no number",                  "Device #\n type\n",                                                "0/ "       },
+      {"no device",                  "Channel #1:\n",                                                    ""          },
+  };
+  for (const char* const head : {"Physical drive information", "Physical Device information"}) {
+    for (const auto& [name, section, found] : cases) {
+      CollectOne(CrLf(std::string("Controller information\n") + head + "\n----\n" + section +
+                      "Command completed successfully.\nDevice #9\n type\n"));
+      EXPECT_EQ(Places(controllers_), found) << name;
+    }
+  }
+}
+
+TEST_F(HrconfDataTest, TakesThePhysicalDrivesWhereBothHeadsAreThere) {
+  CollectOne(
+      CrLf("Controller information\nPhysical Device information\n----\nDevice #1\n type\nend\n"
+           "Physical drive information\n----\nDevice #2\n type\nend\n"));
+  EXPECT_EQ(Places(controllers_), "0/2 ");
+}
+
+TEST_F(HrconfDataTest, SetsTheNumberAndTheIdentifierOfADevice) {
+  CollectOne(
+      CrLf("Controller information\nPhysical drive information\n----\nChannel #1:\nDevice #0\n type\n"
+           "Device #12 front\n type\n"));
+  ASSERT_EQ(controllers_[0]->PhysicalDevices.size(), 2u);
+  EXPECT_EQ(FilledFields(*controllers_[0]->PhysicalDevices[0]),
+            (std::set<std::string>{"ControllerNum=1", "Channel=1", "DeviceNumber=0\r\n",
+                                   "DeviceIdSuffix=Controller: 1Device #0\r\n"}));
+  EXPECT_EQ(FilledFields(*controllers_[0]->PhysicalDevices[1]),
+            (std::set<std::string>{"ControllerNum=1", "Channel=1", "DeviceNumber=12 front\r\n",
+                                   "DeviceIdSuffix=Controller: 1Device #12 f"}));
+}
+
+TEST_F(HrconfDataTest, EndsABlockQuietlyAtTheEndOfTheTextAndReadsTheBlocksBehindIt) {
+  const std::string devices =
+      "Physical drive information\n----\n   Device #0\n   Device is a Hard drive\n   State : Online\n";
+  const std::string drives = "Logical drive information\n----\nLogical drive number 1\n   Size : 100 MB\n";
+  EXPECT_EQ(CollectOne(CrLf("Controller information\n" + devices + drives)), Found(1));
+  EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n")), "1 \n");
+  EXPECT_EQ(CollectOne(CrLf("Controller information\nPhysical drive information\n")), "1 \n");
+  EXPECT_EQ(CollectOne(CrLf("Controller information\n")), "1 \n");
+}
+
+TEST_F(HrconfDataTest, CompletesADeviceThatTheEndOfTheTextCutsOff) {
+  CollectOne(CrLf("Controller information\nPhysical drive information\n----\nDevice #0\n"));
+  ASSERT_EQ(controllers_[0]->PhysicalDevices.size(), 1u);
+  EXPECT_EQ(FilledFields(*controllers_[0]->PhysicalDevices[0]),
+            (std::set<std::string>{"ControllerNum=1", "Channel=0", "DeviceNumber=0\r\n",
+                                   "DeviceIdSuffix=Controller: 0Device #0\r\n"}));
+}
+
+}  // namespace
