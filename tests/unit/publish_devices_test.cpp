@@ -18,9 +18,6 @@ constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
 constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
-// A row whose property has the value of the field of the same name.
-std::string SameName(const std::string& name) { return name + " = \"" + name + '"'; }
-
 // The rows that are given, then one for each name.
 Properties Rows(Properties rows, const std::vector<std::string>& sameNames) {
   for (const std::string& name : sameNames) rows.push_back(SameName(name));

@@ -1,0 +1,134 @@
+#include "publish/publish_logs.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/log_fields.h"
+#include "tests/support/publishing.h"
+#include "tests/support/raid_log_machine.h"
+
+namespace {
+
+using Properties = std::vector<std::string>;
+using Instances = std::vector<Properties>;
+
+constexpr const char* kSoft = "KVRSG_LogRecord_SoftEvent";
+constexpr const char* kHard = "KVRSG_LogRecord_HardEvent";
+constexpr const char* kDdd = "KVRSG_LogRecord_zxDDD";
+constexpr const char* kRaidManager = "KVRSG_LogRecord_RAIDMgrEvent";
+
+const NKVRHXA20::TCIMDateTime kTime(2005, 3, 15, 14, 2, 33, 0, 0);
+
+// A log with all its fields named.
+template <class Log, class Fields>
+std::shared_ptr<Log> NamedLog(const Fields& fields, const std::vector<std::uint32_t>& codes) {
+  const auto log = std::make_shared<Log>(nullptr);
+  NameFields<Log>(*log, fields);
+  log->Codes = codes;
+  log->MessageTimestamp = kTime;
+  return log;
+}
+
+TEST(PublishLogs, ASoftEventLogGoesByTheControllersNumber) {
+  Publishing host;
+  host.AddController("3").SoftEvents = NamedLog<ZenxEventSoftData>(kSoftEventFields, {1, 163, 0xffffffff});
+  host.Run(PublishSoftEvents, kSoft);
+  EXPECT_EQ(host.nameSpace.Published(kSoft),
+            (Instances{
+                {"CreationClassName = \"KVRSG_LogRecord_SoftEvent\"",
+                 "LogCreationClassName = \"KVRSG_LogRecord_SoftEvent\"", "LogName = \"KVRSG_LogRecord_SoftEvent\"",
+                 "MessageTimestamp = datetime 20050315140233.000000+000", "RecordID = \"3\"", "ControllerNum = \"3\"",
+                 "NumEntries = \"3\"", "HexSoftEvent = uint32[uint32 1, uint32 163, uint32 4294967295]"}
+  }));
+}
+
+TEST(PublishLogs, AHardEventLogShowsTheSoftEventClassInAllThreeNamingProperties) {
+  Publishing host;
+  host.AddController("3").HardEvents = NamedLog<ZenxEventHardData>(kHardEventFields, {7});
+  host.Run(PublishHardEvents, kHard);
+  EXPECT_EQ(host.nameSpace.Published(kHard),
+            (Instances{
+                {"CreationClassName = \"KVRSG_LogRecord_SoftEvent\"",
+                 "LogCreationClassName = \"KVRSG_LogRecord_SoftEvent\"", "LogName = \"KVRSG_LogRecord_SoftEvent\"",
+                 "ControllerNum = \"3\"", "MessageTimestamp = datetime 20050315140233.000000+000", "RecordID = \"3\"",
+                 "NumEntries = \"1\"", "HexHardEvent = uint32[uint32 7]"}
+  }));
+}
+
+TEST(PublishLogs, ALogWithoutCodesIsPublishedAndAMissingLogIsNot) {
+  Publishing host;
+  host.AddController("1");
+  ZenxController& second = host.AddController("2");
+  second.SoftEvents = std::make_shared<ZenxEventSoftData>(nullptr);
+  second.HardEvents = std::make_shared<ZenxEventHardData>(nullptr);
+  host.Run(PublishSoftEvents, kSoft);
+  host.Run(PublishHardEvents, kHard);
+  EXPECT_EQ(host.nameSpace.Published(kSoft, "RecordID"), Properties{"2"});
+  EXPECT_EQ(host.nameSpace.Published(kSoft).at(0).back(), "HexSoftEvent = uint32[]");
+  EXPECT_EQ(host.nameSpace.Published(kSoft, "NumEntries"), Properties{"0"});
+  EXPECT_EQ(host.nameSpace.Published(kHard, "RecordID"), Properties{"2"});
+  EXPECT_EQ(host.log.entries, std::vector<LogEntry>{});
+}
+
+TEST(PublishLogs, PublishesADddRowFieldByFieldAsItWasPrinted) {
+  Publishing host;
+  ZenxEventDddData& row = Add(host.AddController("1").DddEvents);
+  NameFields<ZenxEventDddData>(row, kDddFields);
+  row.MessageTimestamp = kTime;
+  host.Run(PublishDddEvents, kDdd);
+  EXPECT_EQ(host.nameSpace.Published(kDdd),
+            (Instances{
+                {"CreationClassName = \"KVRSG_LogRecord_zxDDD\"", "LogCreationClassName = \"KVRSG_LogRecord_zxDDD\"",
+                 "LogName = \"KVRSG_LogRecord_zxDDD\"", SameNameAsPrinted("Controller"),
+                 "MessageTimestamp = datetime 20050315140233.000000+000", SameNameAsPrinted("RecordID"),
+                 SameNameAsPrinted("Date"), SameNameAsPrinted("Time"), SameNameAsPrinted("Channel"),
+                 SameNameAsPrinted("ID"), SameNameAsPrinted("Reason"), SameNameAsPrinted("Descrip")}
+  }));
+}
+
+TEST(PublishLogs, DddRowsStandControllerByControllerInListOrder) {
+  Publishing host;
+  for (const char* const number : {"2", "1"}) {
+    ZenxController& controller = host.AddController(number);
+    for (const char* const id : {"0002", "0001"}) Add(controller.DddEvents).RecordID = number + std::string("-") + id;
+  }
+  host.Run(PublishDddEvents, kDdd);
+  EXPECT_EQ(host.nameSpace.Published(kDdd, "RecordID"), (Properties{"2-0002", "2-0001", "1-0002", "1-0001"}));
+}
+
+TEST(PublishLogs, ALogWhoseReadsReturn2And1And2And0PublishesExactlyOneInstance) {
+  Publishing host;
+  const RaidLogMachine machine(host.services, "***\n2007/03/05 11:02:03 PST\tWRN \tSERVER \tText.\n***\n");
+  host.Run(PublishRaidManagerEvents, kRaidManager);
+  const Instances published = host.nameSpace.Published(kRaidManager);
+  ASSERT_EQ(published.size(), 1U);
+  Properties properties = published[0];
+  EXPECT_TRUE(properties.at(4).starts_with("RecordID = \""));
+  properties.erase(properties.begin() + 4);  // goes on from what the process has read before
+  EXPECT_EQ(properties,
+            (Properties{"CreationClassName = \"KVRSG_LogRecord_RAIDMgrEvent\"",
+                        "LogCreationClassName = \"KVRSG_LogRecord_RAIMgrEvent\"", "LogName = \"Zentraxis Manager\"",
+                        "MessageTimestamp = datetime 20070305110203.000000-480", "Severity = \"WRN\"",
+                        "MachineName = \"SERVER \"", "Message = \"Text.\n\""}));
+  const LogEntry invalid = {1, "In RaidEvtA.log file, there has invalid line for zentraxis log, please check it."};
+  EXPECT_EQ(host.log.entries, (std::vector<LogEntry>{invalid, invalid}));
+}
+
+TEST(PublishLogs, AMissingRaidManagerLogIsAWarningAndNoInstance) {
+  Publishing host;
+  const RaidLogSetting none(std::nullopt);
+  host.Run(PublishRaidManagerEvents, kRaidManager);
+  EXPECT_TRUE(host.nameSpace.Published(kRaidManager).empty());
+  EXPECT_EQ(host.log.entries, (std::vector<LogEntry>{
+                                  {2, "There are no KVRSG_LogRecord_RAIDMgrEvent Log file or no path to it"}
+  }));
+}
+
+TEST(PublishLogs, AnEmptyRaidManagerLogIsNoWarningAndNoInstance) {
+  Publishing host;
+  const RaidLogMachine machine(host.services, "");
+  host.Run(PublishRaidManagerEvents, kRaidManager);
+  EXPECT_TRUE(host.nameSpace.Published(kRaidManager).empty());
+  EXPECT_EQ(host.log.entries, std::vector<LogEntry>{});
+}
+
+}  // namespace
