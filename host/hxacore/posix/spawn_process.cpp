@@ -1,8 +1,21 @@
 #include "host/hxacore/operating_system.h"
-#include "plugin/host_interface/exception.h"
+#include "host/hxacore/posix/child_process.h"
+#include "host/hxacore/posix/process_tree.h"
+#include "host/hxacore/spawn_failure.h"
 
 namespace NKVRHXA20 {
 
-std::string SpawnProcess(const std::string& path, const std::vector<std::string>&, int) { throw THXAException(path); }
+std::string SpawnProcess(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+  const Deadline deadline = std::chrono::steady_clock::now() + std::chrono::seconds(limitSeconds);
+  const ChildProcess child = StartProcess(path, arguments);
+  std::string output;
+  const OutputEnd end = CollectOutput(child, deadline, output);
+  if (end != OutputEnd::kComplete) EndProcessTree(child);
+  if (HasEnded(child)) Reap(child);  // where even the kernel cannot end it, waiting would last for ever
+
+  if (end == OutputEnd::kTooLong) ThrowTooLong(path, limitSeconds);
+  if (end == OutputEnd::kTooMuch) ThrowTooMuchOutput(path);
+  return output;
+}
 
 }  // namespace NKVRHXA20

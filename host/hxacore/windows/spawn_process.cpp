@@ -1,8 +1,21 @@
+#include <algorithm>
+
 #include "host/hxacore/operating_system.h"
-#include "plugin/host_interface/exception.h"
+#include "host/hxacore/spawn_failure.h"
+#include "host/hxacore/windows/child_process.h"
 
 namespace NKVRHXA20 {
 
-std::string SpawnProcess(const std::string& path, const std::vector<std::string>&, int) { throw THXAException(path); }
+std::string SpawnProcess(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+  const ULONGLONG deadline = GetTickCount64() + ULONGLONG{1000} * static_cast<ULONGLONG>(std::max(limitSeconds, 0));
+  const ChildProcess child = StartProcess(path, arguments);
+  std::string output;
+  const OutputEnd end = CollectOutput(child, deadline, output);
+  if (end != OutputEnd::kComplete) EndProcessTree(child);
+
+  if (end == OutputEnd::kTooLong) ThrowTooLong(path, limitSeconds);
+  if (end == OutputEnd::kTooMuch) ThrowTooMuchOutput(path);
+  return output;
+}
 
 }  // namespace NKVRHXA20
