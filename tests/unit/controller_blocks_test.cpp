@@ -1,0 +1,163 @@
+#include "host/hxahost/controller_blocks.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "tests/support/filled_repository.h"
+
+namespace {
+
+using namespace hxahost;
+
+constexpr const char* kController = "KVRSG_zxSCSIProtocolController";
+constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
+constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
+constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
+
+std::string Blocks(const FilledRepository& repository, const std::vector<std::string>& askedFor = {kController}) {
+  std::ostringstream out;
+  WriteControllerBlocks(out, {"", "", {}, askedFor, 1}, repository.Instances());
+  return out.str();
+}
+
+TEST(ControllerBlocks, ShowAControllerWithAllThatHangsOnIt) {
+  FilledRepository repository;
+  repository.Publish(kController, {
+                                      {"ControllerNum",           "1"           },
+                                      {"ControllerType",          "Zentraxis-6M"},
+                                      {"ControllerStatus",        "Okay"        },
+                                      {"SerialNum",               "8A1234"      },
+                                      {"ControllerSlotInfo",      "3"           },
+                                      {"DefunctDiskDriveCnt",     "1"           },
+                                      {"ControllerBatteryStatus", "Charging"    },
+  });
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum",   "1"         },
+                                     {"Channel",         "0"         },
+                                     {"ScsiId",          "3"         },
+                                     {"DeviceType",      "Hard disk" },
+                                     {"PFA",             "No"        },
+                                     {"State",           "Online"    },
+                                     {"Size",            "34715 MB"  },
+                                     {"DeviceSerialNum", "3KR0123"   },
+                                     {"Firmware",        "B26A"      },
+                                     {"Model",           "ST336607LC"},
+  });
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum",   "1"                                 },
+                                     {"Channel",         "0"                                 },
+                                     {"ScsiId",          "4"                                 },
+                                     {"DeviceType",      "Hard disk"                         },
+                                     {"PFA",             "Yes"                               },
+                                     {"State",           "Defunct for a very, very long time"},
+                                     {"Size",            "34715 MB"                          },
+                                     {"DeviceSerialNum", "3KR0124"                           },
+                                     {"Firmware",        "B26A"                              },
+                                     {"Model",           "ST336607LC"                        },
+  });
+  repository.Publish(kLogicalDisk, {
+                                       {"ControllerNum",      "1"             },
+                                       {"LogicalDriveNum",    "1"             },
+                                       {"LogicalDriveStatus", "Critical (CRT)"},
+                                       {"RaidLevel",          "5"             },
+                                       {"Size",               "69430 MB"      },
+                                       {"LogicalDriveName",   "data"          },
+  });
+  repository.Publish(kDiskGroup, {
+                                     {"CollectionID",  "Zentraxis1ArrayA"},
+                                     {"Array",         "A"               },
+                                     {"ControllerNum", "1"               },
+                                     {"StripeOrder",   "0,3 0,4"         },
+  });
+  EXPECT_EQ(Blocks(repository), R"(
+Controller 1: Zentraxis-6M - Okay
+  serial 8A1234, slot 3
+  defunct drives 1, battery Charging
+  Logical drives
+  Drive  Name  RAID  Size      State
+  1      data  5     69430 MB  Critical (CRT)
+  Disk groups
+  Array  Stripe order  Identifier
+  A      0,3 0,4       Zentraxis1ArrayA
+  Disks
+  Channel  ID  Type       Model       State                         Size      Serial   Firmware  PFA
+  0        3   Hard disk  ST336607LC  Online                        34715 MB  3KR0123  B26A      No
+  0        4   Hard disk  ST336607LC  Defunct for a very, very lo…  34715 MB  3KR0124  B26A      Yes
+)");
+}
+
+TEST(ControllerBlocks, ShowWhatHangsOnAControllerThatHasNoInstance) {
+  FilledRepository repository;
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum", "2"},
+                                     {"Channel",       "1"},
+  });
+  repository.Publish(kController, {
+                                      {"ControllerNum", "1"}
+  });
+  EXPECT_EQ(Blocks(repository), R"(
+Controller 1
+
+Controller 2 was not published: its status may say "Failed"
+  Disks
+  Channel
+  1
+)");
+  EXPECT_EQ(Blocks(repository, {kDiskDrive}).substr(14), R"(
+Controller 2 (controllers were not asked for)
+  Disks
+  Channel
+  1
+)");
+}
+
+TEST(ControllerBlocks, ShowTwoInstancesOfOneNumber) {
+  FilledRepository repository;
+  repository.Publish(kController, {
+                                      {"ControllerNum",  "1"},
+                                      {"ControllerType", "A"}
+  });
+  repository.Publish(kController, {
+                                      {"ControllerNum",  "1"},
+                                      {"ControllerType", "B"}
+  });
+  EXPECT_EQ(Blocks(repository), "\nController 1: A\nController 1: B\n");
+}
+
+TEST(ControllerBlocks, BreakTheFactsBetweenTwoOfThem) {
+  FilledRepository repository;
+  repository.Publish(kController, {
+                                      {"ControllerNum",  "1"            },
+                                      {"ControllerName", std::string(60,  'n')},
+                                      {"SerialNum",                std::string(30,                     's')},
+                                      {"ControllerSlotInfo",            std::string(200,       'i')},
+                                      {"InstalledMemory","128 MB"},
+  });
+  EXPECT_EQ(Blocks(repository), "\nController 1\n  name " + std::string(60, 'n') + ",\n  serial " +
+                                    std::string(30, 's') + ",\n  slot " + std::string(91, 'i') +
+                                    "\u2026,\n  memory 128 MB\n");
+}
+
+TEST(ControllerBlocks, NeverSendAControlCharacterToATerminal) {
+  FilledRepository repository;
+  repository.Publish(kController, {
+                                      {"ControllerNum",    "\x1b[1m"},
+                                      {"ControllerType",   "\x1b[2m"},
+                                      {"ControllerStatus", "\x07"   },
+                                      {"SerialNum",        "a\nb"   }
+  });
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum", "\x1b[1m"},
+                                     {"Model",         "\x9b"   }
+  });
+  EXPECT_EQ(Blocks(repository), R"(
+Controller \x1b[1m: \x1b[2m - \x07
+  serial a\nb
+  Disks
+  Model
+  \x9b
+)");
+}
+
+}  // namespace

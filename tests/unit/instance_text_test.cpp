@@ -1,0 +1,82 @@
+#include "host/hxahost/instance_text.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "tests/support/filled_repository.h"
+
+namespace {
+
+using namespace hxahost;
+using namespace NKVRHXA20;
+
+TEST(InstanceText, ShowsEveryKindOfValue) {
+  FilledRepository repository;
+  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", {
+                                                                          {"CollectionID", "G1"}
+  });
+  repository.Publish("KVRSG_LogRecord_HardEvent",
+                     {
+                         {"NumEntries", " 2\r\n"},
+                         {   "MessageTimestamp", TCIMDateTime(2026,                  3, 5, 12, 30, 15, 0, -330)},
+                         { "HexHardEvent",                 TCIMValue(kCIMUInt32,              0, {TCIMValue(0xdeadbeefU), TCIMValue(7U)})},
+  });
+  repository.Publish("KVRSG_zxFirmwareVersion", {
+                                                    {"SoftwareElementState", static_cast<unsigned short>(3)}
+  });
+  repository.Publish("KVRSG_zxRawData", {
+                                            {"RawResults", Texts({"a\x1b", " b\n"})}
+  });
+  repository.Publish("KVRSG_zxStripeOrderForController", {
+                                                             {"Dependent", group}
+  });
+  const InstanceList instances = repository.Instances();
+  EXPECT_EQ(PropertyText(*instances[1], "NumEntries"), "2");
+  EXPECT_EQ(PropertyText(*instances[1], "MessageTimestamp"), "2026-03-05 12:30:15 -05:30");
+  EXPECT_EQ(PropertyText(*instances[1], "HexHardEvent"), "0xdeadbeef, 0x00000007");
+  EXPECT_EQ(PropertyText(*instances[1], "LogName"), "") << "declared and not set";
+  EXPECT_EQ(PropertyText(*instances[1], "Nothing"), "") << "not declared";
+  EXPECT_EQ(PropertyText(*instances[2], "SoftwareElementState"), "3");
+  EXPECT_EQ(PropertyText(*instances[3], "RawResults"), "a\\x1b, b");
+  EXPECT_EQ(PropertyText(*instances[4], "Dependent"), "KVRSG_zxDiskGroup.CollectionID=\"G1\"");
+}
+
+TEST(InstanceText, ShowsATimeThatHasNoSuchFormAsItIs) {
+  EXPECT_EQ(ReadableTime("20261121070000.000000+000"), "2026-11-21 07:00:00 +00:00");
+  EXPECT_EQ(ReadableTime("20260021070000.000000+840"), "2026-00-21 07:00:00 +14:00");
+  EXPECT_EQ(ReadableTime("2026112107000000.000000+000"), "2026112107000000.000000+000");
+}
+
+TEST(InstanceText, CountsTheElementsOfAnArrayWhereAColumnAsksForIt) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxRawData", {
+                                            {"Command",    "a"              },
+                                            {"RawResults", Texts({"1", "2"})}
+  });
+  repository.Publish("KVRSG_zxRawData", {
+                                            {"Command", "b"}
+  });
+  constexpr InstanceColumn kColumns[] = {
+      {"Command",     "Command", 20           },
+      { "Lines", "RawResults",         8, Shows::kCount},
+  };
+  std::ostringstream out;
+  WriteInstances(out, "Heading", kColumns, repository.Instances());
+  EXPECT_EQ(out.str(),
+            "Heading\n"
+            "  Command  Lines\n"
+            "  a        2\n"
+            "  b\n");
+}
+
+TEST(InstanceText, WritesNoHeadingWithoutInstances) {
+  constexpr InstanceColumn kColumns[] = {
+      {"Command", "Command"}
+  };
+  std::ostringstream out;
+  WriteInstances(out, "Heading", kColumns, {});
+  EXPECT_EQ(out.str(), "");
+}
+
+}  // namespace

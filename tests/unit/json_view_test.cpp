@@ -1,0 +1,201 @@
+#include "host/hxahost/json_view.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/support/filled_repository.h"
+
+namespace {
+
+using namespace hxahost;
+using namespace NKVRHXA20;
+using namespace std::string_literals;
+
+std::string Json(const QueryHeader& header, const std::vector<QueryResult>& results) {
+  std::ostringstream out;
+  BeginJson(out, header);
+  for (const QueryResult& result : results) WriteQueryJson(out, header, result);
+  EndJson(out, header);
+  return out.str();
+}
+
+nlohmann::ordered_json Properties(const FilledRepository& repository) {
+  const auto json = nlohmann::ordered_json::parse(Json(
+      {
+  },
+      {QueryResult{1, repository.Instances(), {}}}));
+  return json["queries"][0]["instances"].back()["properties"];
+}
+
+TEST(JsonView, WritesEveryKindOfValueInTheOrderInWhichItWasSet) {
+  FilledRepository repository;
+  const TCIMReference soft =
+      repository.Publish("KVRSG_LogRecord_SoftEvent",
+                         {
+                             {"RecordID", "1"     },
+                             {                         "ControllerNum", "1"},
+                             { "MessageTimestamp", TCIMDateTime(2026,              3, 5, 12, 30, 15, 250000, -60)},
+                             {                                    "HexSoftEvent",                                             TCIMValue(kCIMUInt32,     0, {TCIMValue(0xffffffffU), TCIMValue(7U)})},
+  });
+  repository.Publish("KVRSG_zxFirmwareVersion", {
+                                                    {"Name",                 "Zentraxis1 Firmware"         },
+                                                    {"SoftwareElementState", static_cast<unsigned short>(3)},
+                                                    {"Version",              ""                            },
+  });
+  repository.Publish("KVRSG_zxRawData", {
+                                            {"RawResults", Texts({"a \"quoted\" line", "b\\"})},
+                                            {"Command",    "zenx//qcmdrun.exe getconfig 1 al" },
+  });
+  const QueryHeader header{"MACHINE", "", {}, {}, 1};
+  const QueryResult result{
+      1, repository.Instances(), {{3, "one"}, {100, "two\n"}}
+  };
+  EXPECT_EQ(Json(header, {result}), R"({
+  "format": 1,
+  "machine": "MACHINE",
+  "queries": [
+    {
+      "instances": [
+        {
+          "class": "KVRSG_LogRecord_SoftEvent",
+          "path": "KVRSG_LogRecord_SoftEvent.MessageTimestamp=\"20260305123015.250000-060\",RecordID=\"1\"",
+          "properties": {
+            "RecordID": "1",
+            "ControllerNum": "1",
+            "MessageTimestamp": "20260305123015.250000-060",
+            "HexSoftEvent": [
+              4294967295,
+              7
+            ]
+          }
+        },
+        {
+          "class": "KVRSG_zxFirmwareVersion",
+          "path": "KVRSG_zxFirmwareVersion.Name=\"Zentraxis1 Firmware\",SoftwareElementState=3,Version=\"\"",
+          "properties": {
+            "Name": "Zentraxis1 Firmware",
+            "SoftwareElementState": 3,
+            "Version": ""
+          }
+        },
+        {
+          "class": "KVRSG_zxRawData",
+          "path": "KVRSG_zxRawData.Command=\"zenx//qcmdrun.exe getconfig 1 al\"",
+          "properties": {
+            "RawResults": [
+              "a \"quoted\" line",
+              "b\\"
+            ],
+            "Command": "zenx//qcmdrun.exe getconfig 1 al"
+          }
+        }
+      ],
+      "log": [
+        {
+          "level": 3,
+          "text": "one"
+        },
+        {
+          "level": 100,
+          "text": "two\n"
+        }
+      ]
+    }
+  ]
+}
+)");
+}
+
+TEST(JsonView, KeepsTheQueriesApart) {
+  EXPECT_EQ(Json(
+                {
+                    "M", "", {                                     },
+                      {},
+                      2
+  },
+                {QueryResult{1, {}, {}}, QueryResult{2, {}, {}}}),
+            R"({
+  "format": 1,
+  "machine": "M",
+  "queries": [
+    {
+      "instances": [],
+      "log": []
+    },
+    {
+      "instances": [],
+      "log": []
+    }
+  ]
+}
+)");
+}
+
+TEST(JsonView, KeepsNamesAsTheyWereSet) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxDiskDrive", {
+                                              {"CreationClassname", "KVRSG_zxDiskDrive"}
+  });
+  EXPECT_EQ(Properties(repository).dump(), R"({"CreationClassname":"KVRSG_zxDiskDrive"})");
+}
+
+TEST(JsonView, ShowsAReferenceAsTheObjectPathOfWhatItRefersTo) {
+  FilledRepository repository;
+  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", {
+                                                                          {"CollectionID", "a\"b\\c"}
+  });
+  repository.Publish("KVRSG_zxStripeOrderForController", {
+                                                             {"Dependent", group}
+  });
+  EXPECT_EQ(Properties(repository)["Dependent"], R"(KVRSG_zxDiskGroup.CollectionID="a\"b\\c")");
+}
+
+TEST(JsonView, KeepsEveryByte) {
+  struct Case {
+    const char* name;
+    std::string bytes;
+    std::string expected;
+  };
+  const Case cases[] = {
+      {"valid UTF-8",          "K\xc3\xa4se",   "K\xc3\xa4se"        },
+      {"ISO 8859-1",           "K\xe4se\xff",   "K\xc3\xa4se\xc3\xbf"},
+      {"controls",             "\x1b[2J\x7f\t", "\x1b[2J\x7f\t"      },
+      {"line ends and blanks", " a \r\n",       " a \r\n"            },
+      {"NUL",                  "a\0b"s,         "a\0b"s              },
+  };
+  for (const Case& each : cases) {
+    FilledRepository repository;
+    repository.Publish("KVRSG_zxRawData", {
+                                              {"Command",    each.bytes         },
+                                              {"RawResults", Texts({each.bytes})},
+    });
+    const auto properties = Properties(repository);
+    EXPECT_EQ(properties["Command"].get<std::string>(), each.expected) << each.name;
+    EXPECT_EQ(properties["RawResults"][0].get<std::string>(), each.expected) << each.name;
+  }
+}
+
+TEST(JsonView, KeepsTheBytesOfMachineAndLog) {
+  const auto json = nlohmann::json::parse(Json(
+      {
+          "K\xe4se\n", "", {                                     },
+            {},
+            1
+  },
+      {QueryResult{1, {}, {{0, "\xe4\x00"s}}}}));
+  EXPECT_EQ(json["machine"], "K\xc3\xa4se\n");
+  EXPECT_EQ(json["queries"][0]["log"][0]["text"].get<std::string>(), "\xc3\xa4\0"s);
+}
+
+TEST(JsonView, ShowsAnEmptyArrayAndAnEmptyValue) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxRawData", {
+                                            {"RawResults", Texts({})},
+  });
+  EXPECT_EQ(Properties(repository).dump(), R"({"RawResults":[]})");
+}
+
+}  // namespace

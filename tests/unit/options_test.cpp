@@ -1,0 +1,166 @@
+#include "host/hxahost/options.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/hxahost/exit_status.h"
+
+namespace {
+
+using namespace hxahost;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+QueryOptions Query(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), "query");
+  const CommandLine commandLine = ParseCommandLine(arguments);
+  EXPECT_EQ(commandLine.command, Command::kQuery);
+  return commandLine.query;
+}
+
+TEST(Options, HaveDefaultsForEverything) {
+  const QueryOptions options = Query({});
+  EXPECT_EQ(options.plugin, "");
+  EXPECT_EQ(options.directory, "");
+  EXPECT_THAT(options.classes, IsEmpty());
+  EXPECT_EQ(options.repeat, 1U);
+  EXPECT_EQ(options.format, "table");
+  EXPECT_EQ(options.output, "");
+  EXPECT_EQ(options.log, "");
+  EXPECT_FALSE(options.osType);
+  EXPECT_FALSE(options.machineName);
+  EXPECT_FALSE(options.localTime);
+  EXPECT_TRUE(options.showProgress);
+}
+
+TEST(Options, TakeEveryOptionOfAQuery) {
+  const QueryOptions options = Query({"--plugin",
+                                      "p.pi",
+                                      "--directory=dir with blank",
+                                      "--class",
+                                      "B",
+                                      "--class",
+                                      "A",
+                                      "--class",
+                                      "B",
+                                      "--repeat",
+                                      "3",
+                                      "--format",
+                                      "json",
+                                      "--output",
+                                      "o.json",
+                                      "--log",
+                                      "l.txt",
+                                      "--os-type",
+                                      "65535",
+                                      "--machine-name",
+                                      "K\xc3\xa4se",
+                                      "--local-time",
+                                      "20260305123015.250000+060",
+                                      "--no-progress"});
+  EXPECT_EQ(options.plugin, "p.pi");
+  EXPECT_EQ(options.directory, "dir with blank");
+  EXPECT_THAT(options.classes, ElementsAre("B", "A", "B"));
+  EXPECT_EQ(options.repeat, 3U);
+  EXPECT_EQ(options.format, "json");
+  EXPECT_EQ(options.output, "o.json");
+  EXPECT_EQ(options.log, "l.txt");
+  EXPECT_EQ(options.osType, 65535);
+  EXPECT_EQ(options.machineName, "K\xc3\xa4se");
+  ASSERT_TRUE(options.localTime);
+  EXPECT_EQ(options.localTime->ToString(), "20260305123015.250000+060");
+  EXPECT_FALSE(options.showProgress);
+}
+
+TEST(Options, TakeZeroAndNoneAsTypesOfTheOperatingSystem) {
+  EXPECT_EQ(Query({"--os-type", "0"}).osType, 0);
+  EXPECT_EQ(Query({"--os-type", "none"}).osType, std::nullopt);
+}
+
+TEST(Options, SelectTheCommand) {
+  EXPECT_EQ(ParseCommandLine({"classes"}).command, Command::kClasses);
+  EXPECT_EQ(ParseCommandLine({"schema"}).command, Command::kSchema);
+}
+
+TEST(Options, ShowHelpWithDefaultsAndExamples) {
+  for (const std::vector<std::string>& arguments : {
+           std::vector<std::string>{"--help" },
+           { "query", "--help"}
+  }) {
+    const CommandLine help = ParseCommandLine(arguments);
+    EXPECT_EQ(help.command, Command::kShowText);
+    EXPECT_THAT(help.text, HasSubstr("Examples:"));
+    EXPECT_THAT(help.text, HasSubstr("Exit status:"));
+  }
+  const std::string help = ParseCommandLine({"query", "--help"}).text;
+  for (const char* const said : {"zenx.pi beside this program", "--repeat N=1", "--format FORMAT=table",
+                                 "--os-type N|none=none", "--no-progress"}) {
+    EXPECT_THAT(help, HasSubstr(said));
+  }
+}
+
+TEST(Options, ShowTheVersionOfTheBuild) {
+  const CommandLine version = ParseCommandLine({"--version"});
+  EXPECT_EQ(version.command, Command::kShowText);
+  EXPECT_THAT(version.text, testing::MatchesRegex("hxahost [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
+  struct Case {
+    const char* name;
+    std::vector<std::string> arguments;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"nothing",                   {},                                                     "--help"             },
+      {"unknown command",           {"collect"},                                            "--help"             },
+      {"two commands",              {"query", "classes"},                                   "classes"            },
+      {"unknown option",            {"query", "--bogus"},                                   "--bogus"            },
+      {"stray word",                {"query", "word"},                                      "word"               },
+      {"option without its value",  {"query", "--output"},                                  "--output"           },
+      {"second value",              {"query", "--class", "A", "B"},                         "B"                  },
+      {"option given twice",        {"query", "--repeat", "1", "--repeat", "2"},            "--repeat"           },
+      {"value of a flag",           {"query", "--no-progress=maybe"},                       "--no-progress"      },
+      {"option of another command", {"classes", "--repeat", "2"},                           "--repeat"           },
+      {"short form",                {"query", "--rep", "2"},                                "--rep"              },
+      {"Windows form",              {"query", "/repeat", "2"},                              "/repeat"            },
+      {"repeat zero",               {"query", "--repeat", "0"},                             "from 1 on"          },
+      {"repeat less",               {"query", "--repeat=-1"},                               "from 1 on"          },
+      {"repeat word",               {"query", "--repeat", "twice"},                         "from 1 on"          },
+      {"repeat half",               {"query", "--repeat", "1.5"},                           "from 1 on"          },
+      {"repeat blank",              {"query", "--repeat", " 1"},                            "from 1 on"          },
+      {"repeat too often",          {"query", "--repeat", "4294967296"},                    "from 1 on"          },
+      {"format unknown",            {"query", "--format", "xml"},                           "table or json"      },
+      {"format in capitals",        {"query", "--format", "JSON"},                          "table or json"      },
+      {"OS type too high",          {"query", "--os-type", "65536"},                        "0 to 65535, or none"},
+      {"OS type less",              {"query", "--os-type=-1"},                              "0 to 65535, or none"},
+      {"OS type word",              {"query", "--os-type", "windows"},                      "0 to 65535, or none"},
+      {"time of no form",           {"query", "--local-time", "12:30"},                     "yyyymmddhhmmss"     },
+      {"time of no calendar",       {"query", "--local-time", "20260230123015.250000+060"}, "yyyymmddhhmmss"     },
+      {"empty plug-in",             {"query", "--plugin", ""},                              "--plugin"           },
+      {"empty directory",           {"query", "--directory", ""},                           "--directory"        },
+      {"empty output",              {"query", "--output", ""},                              "--output"           },
+      {"empty log",                 {"query", "--log", ""},                                 "--log"              },
+      {"empty class",               {"query", "--class", ""},                               "--class"            },
+      {"empty format",              {"query", "--format", ""},                              "--format"           },
+      {"empty machine name",        {"query", "--machine-name", ""},                        "--machine-name"     },
+      {"empty time",                {"query", "--local-time", ""},                          "--local-time"       },
+      {"terminal command",          {"query", "--\x1b[2J"},                                 "\\x1b[2J"           },
+      {"two lines",                 {"query", "--format", "a\nb"},                          "a\\nb"              },
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.name);
+    try {
+      ParseCommandLine(each.arguments);
+      ADD_FAILURE() << "was taken";
+    } catch (const ProgramError& error) {
+      EXPECT_EQ(error.Status(), ExitStatus::kWrongArguments);
+      EXPECT_THAT(error.what(), HasSubstr(each.says));
+      EXPECT_THAT(error.what(), Not(HasSubstr("\n")));
+    }
+  }
+}
+
+}  // namespace

@@ -1,0 +1,63 @@
+#include "host/hxahost/output_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "host/hxahost/exit_status.h"
+#include "tests/support/file_text.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+using namespace hxahost;
+namespace fs = std::filesystem;
+
+std::size_t FileCount(const fs::path& folder) {
+  return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+}
+
+TEST(OutputFile, IsThereWhenItIsFinished) {
+  const TemporaryFolder folder;
+  const fs::path path = folder.Path() / "out.json";
+  OutputFile file(path);
+  file.Stream() << "line\n";
+  EXPECT_FALSE(fs::exists(path));
+  file.Finish();
+  EXPECT_EQ(FileText(path), "line\n");
+  EXPECT_EQ(FileCount(folder.Path()), 1U);
+}
+
+TEST(OutputFile, LeavesWhatWasThereWhenItIsNotFinished) {
+  const TemporaryFolder folder;
+  const fs::path path = folder.Path() / "out.json";
+  WriteFileText(path, "before");
+  { OutputFile(path).Stream() << "half"; }
+  EXPECT_EQ(FileText(path), "before");
+  EXPECT_EQ(FileCount(folder.Path()), 1U);
+}
+
+TEST(OutputFile, ReplacesWhatWasThere) {
+  const TemporaryFolder folder;
+  const fs::path path = folder.Path() / "out.json";
+  WriteFileText(path, "before, and longer");
+  OutputFile file(path);
+  file.Stream() << "after";
+  file.Finish();
+  EXPECT_EQ(FileText(path), "after");
+}
+
+TEST(OutputFile, RefusesAFolderAndAFileInAFolderThatIsMissing) {
+  const TemporaryFolder folder;
+  for (const fs::path& path : {folder.Path(), folder.Path() / "missing" / "out.json"}) {
+    try {
+      const OutputFile file(path);
+      ADD_FAILURE() << path << " was taken";
+    } catch (const ProgramError& error) {
+      EXPECT_EQ(error.Status(), ExitStatus::kWrongArguments);
+    }
+  }
+  EXPECT_EQ(FileCount(folder.Path()), 0U);
+}
+
+}  // namespace

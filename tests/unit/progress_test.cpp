@@ -1,0 +1,54 @@
+#include "host/hxahost/progress.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+using namespace hxahost;
+using testing::HasSubstr;
+
+TEST(Progress, ShowsEachCommandOverTheOneBeforeAndErasesTheLast) {
+  std::ostringstream terminal;
+  {
+    Progress progress(terminal);
+    progress.Begin("a long command");
+    progress.End();
+    progress.Begin("short");
+    progress.End();
+  }
+  EXPECT_EQ(terminal.str(),
+            "\ra long command"
+            "\rshort         "
+            "\r     \r");
+}
+
+TEST(Progress, CountsTheSecondsOfALongCommand) {
+  std::ostringstream terminal;
+  {
+    Progress progress(terminal);
+    progress.Begin("tool");
+    std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+  }
+  EXPECT_THAT(terminal.str(), HasSubstr("\rtool 1 s"));
+  EXPECT_TRUE(terminal.str().ends_with("\r        \r")) << "erased";
+}
+
+TEST(Progress, KeepsToOneLineWithoutControlCharacters) {
+  std::ostringstream terminal;
+  {
+    Progress progress(terminal);
+    progress.Begin("\x1b[2J" + std::string(200, 'x'));
+  }
+  EXPECT_THAT(terminal.str(), testing::StartsWith("\r\\x1b[2J" + std::string(62, 'x') + "\u2026\r"));
+}
+
+TEST(Progress, ShowsNothingWhenNothingRuns) {
+  std::ostringstream terminal;
+  { const Progress progress(terminal); }
+  EXPECT_EQ(terminal.str(), "\r\r");
+}
+
+}  // namespace

@@ -1,0 +1,174 @@
+#include "host/hxahost/record_sections.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+
+#include "host/hxahost/controller_columns.h"
+#include "tests/support/filled_repository.h"
+
+namespace {
+
+using namespace hxahost;
+using namespace NKVRHXA20;
+
+std::string Sections(const FilledRepository& repository) {
+  std::ostringstream out;
+  WriteRecordSections(out, repository.Instances());
+  return out.str();
+}
+
+TEST(RecordSections, NamePropertiesThatOneOfTheirClassesDeclares) {
+  for (const RecordSection& section : RecordSections()) {
+    for (const InstanceColumn& column : section.columns) {
+      bool isDeclared = false;
+      for (const std::string_view name : section.classes) {
+        const auto* const declaration = FindClass(name);
+        ASSERT_NE(declaration, nullptr) << name;
+        isDeclared = isDeclared || FindProperty(*declaration, column.property) != nullptr;
+      }
+      EXPECT_TRUE(isDeclared) << section.heading << ": " << column.property;
+    }
+  }
+}
+
+TEST(RecordSections, AndControllerBlocksShowEveryClassButAssociationsAndTheOneThatIsNeverPublished) {
+  std::multiset<std::string_view> shown;
+  for (const DeviceKind& kind : DeviceKinds()) shown.insert(kind.className);
+  for (const RecordSection& section : RecordSections()) shown.insert(section.classes.begin(), section.classes.end());
+  for (const ClassDeclaration& declaration : PublishedClasses()) {
+    const bool isCountedOnly = declaration.isAssociation || declaration.name == "KVRSG_DiskGroup";
+    EXPECT_EQ(shown.count(declaration.name), isCountedOnly ? 0U : 1U) << declaration.name;
+  }
+}
+
+TEST(RecordSections, ShowNothingWithoutInstances) { EXPECT_EQ(Sections(FilledRepository()), ""); }
+
+TEST(RecordSections, ShowVersionsOfAllKindsInOneTable) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxFirmwareVersion", {
+                                                    {"Name",                 "Zentraxis1 Firmware"         },
+                                                    {"Version",              "5.2-0 (12345)"               },
+                                                    {"BuildNumber",          "12345"                       },
+                                                    {"SoftwareElementState", static_cast<unsigned short>(3)},
+                                                    {"SoftwareElementID",    "1"                           },
+  });
+  repository.Publish("KVRSG_zxDiskDriveVersion", {
+                                                     {"Name",              "Zentraxis Disk"   },
+                                                     {"Version",           "5.2-0 "           },
+                                                     {"SoftwareElementID", "1-C1 CH0 I03:3KR0"},
+                                                     {"Manufacturer",      "SEAGULL"          },
+  });
+  EXPECT_EQ(Sections(repository), R"(
+Versions
+  Name                 Version        Build  Element            Manufacturer
+  Zentraxis1 Firmware  5.2-0 (12345)  12345  1
+  Zentraxis Disk       5.2-0                 1-C1 CH0 I03:3KR0  SEAGULL
+)");
+}
+
+TEST(RecordSections, ShowStatisticsLogsAndRawTexts) {
+  FilledRepository repository;
+  const TCIMDateTime time(2026, 3, 5, 12, 30, 15, 0, 60);
+  const TCIMValue softCodes(kCIMUInt32, 0, {TCIMValue(255U)});
+  const TCIMValue hardCodes(kCIMUInt32, 0, {TCIMValue(16U)});
+  repository.Publish("KVRSG_BadStripeData", {
+                                                {"ControllerNum", "1"},
+                                                {"LogicalDrive",  "2"},
+                                                {"NumBadStripes", "3"}
+  });
+  repository.Publish("KVRSG_zxSCSIDeviceData", {
+                                                   {"StatisticTime",   time},
+                                                   {"ControllerNum",   "1" },
+                                                   {"Channel",         "0" },
+                                                   {"Misc",            "m" },
+                                                   {"NumHardErrors",   "h" },
+                                                   {"NumParityErrors", "p" },
+                                                   {"NumSoftErrors",   "s" },
+                                                   {"PFA",             "f" },
+                                                   {"ScsiId",          "3" }
+  });
+  repository.Publish("KVRSG_zxSCSISubStatData", {
+                                                    {"ControllerNum", "1"  },
+                                                    {"Channel",       "0"  },
+                                                    {"ScsiId",        "3"  },
+                                                    {"Params",        "p"  },
+                                                    {"Req_Off",       "r"  },
+                                                    {"Max_Txer_P",    "max"},
+                                                    {"Cur_Txer_p",    "cur"}
+  });
+  repository.Publish("KVRSG_LogRecord_zxDDD", {
+                                                  {"Controller", "1"          },
+                                                  {"RecordID",   "7"          },
+                                                  {"Date",       "03/05/26"   },
+                                                  {"Time",       "12:30:15"   },
+                                                  {"Channel",    "0"          },
+                                                  {"ID",         "3"          },
+                                                  {"Reason",     "0x24"       },
+                                                  {"Descrip",    "Timed out\r"}
+  });
+  repository.Publish(
+      "KVRSG_LogRecord_SoftEvent",
+      {
+          {"MessageTimestamp", time     },
+          {"ControllerNum",    "1"      },
+          {"NumEntries",       "1"      },
+          {"HexSoftEvent",     softCodes}
+  });
+  repository.Publish(
+      "KVRSG_LogRecord_HardEvent",
+      {
+          {"MessageTimestamp", time     },
+          {"ControllerNum",    "1"      },
+          {"NumEntries",       "1"      },
+          {"HexHardEvent",     hardCodes}
+  });
+  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", {
+                                                         {"MessageTimestamp", time      },
+                                                         {"RecordID",         "1"       },
+                                                         {"Severity",         "Error"   },
+                                                         {"MachineName",      "M"       },
+                                                         {"Message",          "Bad disk"}
+  });
+  repository.Publish("KVRSG_zxRawData",
+                     {
+                         {"Command",    "zenx//qcmdrun.exe getconfig 1 al"},
+                         {"RawResults", Texts({"a", "b"})                 }
+  });
+  EXPECT_EQ(Sections(repository), R"(
+Bad stripes
+  Controller  Logical drive  Bad stripes
+  1           2              3
+
+Device statistics
+  Controller  Channel  ID  Hard errors  Soft errors  Parity errors  Misc  PFA
+  1           0        3   h            s            p              m     f
+
+SCSI sub-status
+  Controller  Channel  ID  Parameters  Req/Off  Highest transfer  Current transfer
+  1           0        3   p           r        max               cur
+
+Defunct drives log
+  Controller  Record  Date      Time      Channel  ID  Reason  Description
+  1           7       03/05/26  12:30:15  0        3   0x24    Timed out
+
+Soft events
+  Controller  Time                        Entries  Codes
+  1           2026-03-05 12:30:15 +01:00  1        0x000000ff
+
+Hard events
+  Controller  Time                        Entries  Codes
+  1           2026-03-05 12:30:15 +01:00  1        0x00000010
+
+RAID manager events
+  Time                        Severity  Message   Machine  Record
+  2026-03-05 12:30:15 +01:00  Error     Bad disk  M        1
+
+Raw texts of the tools
+  Command                           Lines
+  zenx//qcmdrun.exe getconfig 1 al  2
+)");
+}
+
+}  // namespace

@@ -1,0 +1,120 @@
+#include "host/hxahost/table_view.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "tests/support/filled_repository.h"
+
+namespace {
+
+using namespace hxahost;
+using namespace NKVRHXA20;
+
+QueryHeader Header(const std::vector<std::string>& classes, unsigned queryCount = 1) {
+  return {"MACHINE", "C:\\tools", TCIMDateTime(2026, 3, 5, 12, 30, 15, 0, 60), classes, queryCount};
+}
+
+std::string Tables(const QueryHeader& header, const std::vector<QueryResult>& results) {
+  std::ostringstream out;
+  BeginTables(out, header);
+  for (const QueryResult& result : results) WriteQueryTables(out, header, result);
+  EndTables(out, header);
+  return out.str();
+}
+
+TEST(TableView, SaysWhatWhereAndWhenThenTheBlocksThenTheSectionsThenTheCounts) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxFirmwareVersion", {
+                                                    {"Name", "Zentraxis1 Firmware"}
+  });
+  repository.Publish("KVRSG_zxSCSIProtocolController", {
+                                                           {"ControllerNum",    "1"   },
+                                                           {"ControllerStatus", "Okay"}
+  });
+  const QueryHeader header = Header({"KVRSG_zxFirmwareVersion", "KVRSG_zxSCSIProtocolController", "KVRSG_zxDiskDrive"});
+  EXPECT_EQ(Tables(header,
+                   {
+                       QueryResult{1, repository.Instances(), {}}
+  }),
+            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
+
+Controller 1 - Okay
+
+Versions
+  Name
+  Zentraxis1 Firmware
+
+  Class asked for                 Instances
+  KVRSG_zxFirmwareVersion         1
+  KVRSG_zxSCSIProtocolController  1
+  KVRSG_zxDiskDrive               0
+)");
+}
+
+TEST(TableView, SaysWhenNothingWasFoundAndWhichToolsCouldNotBeRun) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxRawData", {
+                                            {"Command", "zenx//hrconf_64.exe getversion  nuthin"}
+  });
+  const std::vector<LoggedEntry> log = {
+      {3, " QCMDRUN is using Spawnprocess. Controller# :1 opt1: getconfig opt2: al"},
+      {3, "Qcmdrun aborted: zenx//qcmdrun.exe: No such file or directory"          },
+      {3, "Qcmdrun aborted: zenx//qcmdrun.exe: No such file or directory"          },
+      {3, "hrconf aborted: zenx//hrconf_64.exe: Permission denied\r\n"             },
+  };
+  EXPECT_EQ(Tables(Header({
+                       "KVRSG_zxRawData"
+  }),
+                   {QueryResult{1, repository.Instances(), log}}),
+            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
+
+Raw texts of the tools
+  Command
+  zenx//hrconf_64.exe getversion  nuthin
+
+Nothing was found: no controller, no drive and no log record of the classes asked for.
+Tools could not be run. They belong into the folder zenx of C:\tools; the log says:
+  Qcmdrun aborted: zenx//qcmdrun.exe: No such file or directory (2 times)
+  hrconf aborted: zenx//hrconf_64.exe: Permission denied
+
+  Class asked for  Instances
+  KVRSG_zxRawData  1
+)");
+}
+
+TEST(TableView, BlamesNoToolWhenAllOfThemRan) {
+  EXPECT_EQ(Tables(Header({
+                       "KVRSG_zxDiskDrive"
+  }),
+                   {QueryResult{1, {}, {{3, "configData is not empty!\n"}}}}),
+            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
+
+Nothing was found: no controller, no drive and no log record of the classes asked for.
+
+  Class asked for    Instances
+  KVRSG_zxDiskDrive  0
+)");
+}
+
+TEST(TableView, NumbersTheQueriesWhereThereAreSeveral) {
+  EXPECT_EQ(Tables(Header(
+                       {
+  },
+                       2),
+                   {QueryResult{1, {}, {}}, QueryResult{2, {}, {}}}),
+            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
+
+Query 1 of 2
+
+Nothing was found: no controller, no drive and no log record of the classes asked for.
+
+
+Query 2 of 2
+
+Nothing was found: no controller, no drive and no log record of the classes asked for.
+
+)");
+}
+
+}  // namespace
