@@ -38,17 +38,17 @@ std::string ValueText(const TCIMValue& value) {
   return text;
 }
 
-std::string CountText(const TPublishedInstance& instance, std::string_view property) {
-  const TCIMValue* const value = FindValue(instance, property);
-  const bool isArray = value != nullptr && TCIMValueReader::Kind(*value) == ValueKind::kArray;
-  return isArray ? std::to_string(TCIMValueReader::Elements(*value).size()) : "";
-}
-
 }  // namespace
 
 std::string PropertyText(const TPublishedInstance& instance, std::string_view property) {
   const TCIMValue* const value = FindValue(instance, property);
   return value == nullptr ? "" : ValueText(*value);
+}
+
+std::size_t ElementCount(const TPublishedInstance& instance, std::string_view property) {
+  const TCIMValue* const value = FindValue(instance, property);
+  const bool isArray = value != nullptr && TCIMValueReader::Kind(*value) == ValueKind::kArray;
+  return isArray ? TCIMValueReader::Elements(*value).size() : 0;
 }
 
 std::string ReadableTime(const std::string& cimDateTime) {
@@ -72,10 +72,7 @@ void WriteInstances(std::ostream& out, std::string_view heading, std::span<const
   }
   for (const auto& instance : instances) {
     auto& row = table.rows.emplace_back();
-    for (const InstanceColumn& column : columns) {
-      row.push_back(column.what == Shows::kCount ? CountText(*instance, column.property)
-                                                 : PropertyText(*instance, column.property));
-    }
+    for (const InstanceColumn& column : columns) row.push_back(PropertyText(*instance, column.property));
   }
   out << heading << '\n';
   WriteTable(out, table);

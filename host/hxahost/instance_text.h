@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <ostream>
 #include <span>
 #include <string>
@@ -11,20 +12,19 @@
 // Instances as people read them.
 namespace hxahost {
 
-// What of a property stands in a column.
-enum class Shows { kText, kCount };
-
 // A column of a table of instances.
 struct InstanceColumn {
   std::string_view title;
   std::string_view property;  // under the name under which it is set
   std::size_t widest = 30;
-  Shows what = Shows::kText;
 };
 
 // A property for people, printable: the elements of an array with ", " between them, event codes in hexadecimal. ""
 // for a property that was not set.
 std::string PropertyText(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
+
+// How many elements an array has; 0 for what is none.
+std::size_t ElementCount(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
 
 // "2026-03-05 12:30:15 +01:00" from the CIM form.
 std::string ReadableTime(const std::string& cimDateTime);

@@ -16,7 +16,6 @@ constexpr std::string_view kDddClasses[] = {"KVRSG_LogRecord_zxDDD"};
 constexpr std::string_view kSoftClasses[] = {"KVRSG_LogRecord_SoftEvent"};
 constexpr std::string_view kHardClasses[] = {"KVRSG_LogRecord_HardEvent"};
 constexpr std::string_view kManagerClasses[] = {"KVRSG_LogRecord_RAIDMgrEvent"};
-constexpr std::string_view kRawClasses[] = {"KVRSG_zxRawData", "KVRSG_zxManagerRawData"};
 
 constexpr InstanceColumn kVersions[] = {
     {"Name",         "Name",              30},
@@ -86,21 +85,15 @@ constexpr InstanceColumn kManager[] = {
     {"Record",   "RecordID",         8 },
 };
 
-constexpr InstanceColumn kRaw[] = {
-    {"Command",     "Command", 80           },
-    { "Lines", "RawResults",         8, Shows::kCount},
-};
-
 constexpr RecordSection kSections[] = {
-    {"Versions",               kVersionClasses,    kVersions  },
-    {"Bad stripes",            kBadStripeClasses,  kBadStripes},
-    {"Device statistics",      kStatisticsClasses, kStatistics},
-    {"SCSI sub-status",        kSubStatusClasses,  kSubStatus },
-    {"Defunct drives log",     kDddClasses,        kDdd       },
-    {"Soft events",            kSoftClasses,       kSoft      },
-    {"Hard events",            kHardClasses,       kHard      },
-    {"RAID manager events",    kManagerClasses,    kManager   },
-    {"Raw texts of the tools", kRawClasses,        kRaw       },
+    {"Versions",            kVersionClasses,    kVersions  },
+    {"Bad stripes",         kBadStripeClasses,  kBadStripes},
+    {"Device statistics",   kStatisticsClasses, kStatistics},
+    {"SCSI sub-status",     kSubStatusClasses,  kSubStatus },
+    {"Defunct drives log",  kDddClasses,        kDdd       },
+    {"Soft events",         kSoftClasses,       kSoft      },
+    {"Hard events",         kHardClasses,       kHard      },
+    {"RAID manager events", kManagerClasses,    kManager   },
 };
 
 }  // namespace

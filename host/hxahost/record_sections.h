@@ -8,8 +8,7 @@
 
 namespace hxahost {
 
-// A table of instances that stand beside the controllers: versions, statistics, logs, raw texts. Associations have
-// none: the counts name them.
+// A table of instances that stand beside the controllers: versions, statistics, logs.
 struct RecordSection {
   std::string_view heading;
   std::span<const std::string_view> classes;

@@ -7,6 +7,7 @@
 
 #include "host/hxahost/controller_blocks.h"
 #include "host/hxahost/instance_text.h"
+#include "host/hxahost/raw_text_summary.h"
 #include "host/hxahost/record_sections.h"
 #include "host/hxahost/table.h"
 #include "host/hxahost/text.h"
@@ -19,25 +20,24 @@ namespace {
 bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != "KVRSG_zxRawData"; }
 
 // Every command says so in the log when its tool cannot be started; the same words once are enough.
-void WriteFailedRuns(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+void WriteFailedRuns(std::ostream& out, const QueryResult& result) {
   constexpr std::string_view kToolFolder = "zenx//";
   std::map<std::string, unsigned> lines;
   for (const LoggedEntry& entry : result.log) {
     if (entry.text.find(kToolFolder) != std::string::npos) ++lines[Printable(entry.text)];
   }
   if (lines.empty()) return;
-  out << "Tools could not be run. They belong into the folder zenx of " << Printable(header.directory)
-      << "; the log says:\n";
+  out << "Tools could not be run. Is the folder zenx with them in the directory named above? The log says:\n";
   for (const auto& [text, times] : lines) {
     const std::string suffix = times == 1 ? "" : " (" + std::to_string(times) + " times)";
     out << "  " << CutToWidth(text, kViewWidth - 2 - suffix.size()) << suffix << '\n';
   }
 }
 
-void WriteNothingFound(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+void WriteNothingFound(std::ostream& out, const QueryResult& result) {
   if (std::ranges::any_of(result.instances, [](const auto& instance) { return IsFound(*instance); })) return;
   out << "\nNothing was found: no controller, no drive and no log record of the classes asked for.\n";
-  WriteFailedRuns(out, header, result);
+  WriteFailedRuns(out, result);
 }
 
 void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
@@ -54,15 +54,17 @@ void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult
 }  // namespace
 
 void BeginTables(std::ostream& out, const QueryHeader& header) {
-  out << "RAID controllers of " << Printable(header.machine) << ", collected in " << Printable(header.directory)
-      << " on " << ReadableTime(header.time.ToString()) << '\n';
+  const std::string line = "RAID controllers of " + Printable(header.machine) + " on " +
+                           ReadableTime(header.time.ToString()) + ", collected in " + Printable(header.directory);
+  out << CutToWidth(line, kViewWidth) << '\n';
 }
 
 void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   if (header.queryCount > 1) out << "\nQuery " << result.number << " of " << header.queryCount << '\n';
+  WriteNothingFound(out, result);
   WriteControllerBlocks(out, header, result.instances);
   WriteRecordSections(out, result.instances);
-  WriteNothingFound(out, header, result);
+  WriteRawTextSummary(out, result.instances);
   WriteCounts(out, header, result);
 }
 

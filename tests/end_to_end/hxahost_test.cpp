@@ -133,8 +133,7 @@ TEST_F(Hxahost, ShowsEveryClassThatWasAskedForUnderItsDeclaredName) {
   const ProgramResult result = Query({"--class", "kvrsg_DISKGROUP", "--class", "KVRSG_zxLogicalDisk", "--machine-name",
                                       "K\xc3\xa4se 1", "--local-time", "20260305123015.250000+060"});
   EXPECT_EQ(result.exitStatus, 0);
-  EXPECT_THAT(result.out, StartsWith("RAID controllers of K\xc3\xa4se 1, collected in "));
-  EXPECT_THAT(result.out, HasSubstr(" on 2026-03-05 12:30:15 +01:00\n"));
+  EXPECT_THAT(result.out, StartsWith("RAID controllers of K\xc3\xa4se 1 on 2026-03-05 12:30:15 +01:00, collected in "));
   EXPECT_THAT(result.out, HasSubstr("  Class asked for      Instances\n"
                                     "  KVRSG_DiskGroup      0\n"
                                     "  KVRSG_zxLogicalDisk  0\n"));

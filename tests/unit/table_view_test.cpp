@@ -37,7 +37,7 @@ TEST(TableView, SaysWhatWhereAndWhenThenTheBlocksThenTheSectionsThenTheCounts) {
                    {
                        QueryResult{1, repository.Instances(), {}}
   }),
-            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
+            R"(RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in C:\tools
 
 Controller 1 - Okay
 
@@ -67,16 +67,15 @@ TEST(TableView, SaysWhenNothingWasFoundAndWhichToolsCouldNotBeRun) {
                        "KVRSG_zxRawData"
   }),
                    {QueryResult{1, repository.Instances(), log}}),
-            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
-
-Raw texts of the tools
-  Command
-  zenx//hrconf_64.exe getversion  nuthin
+            R"(RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in C:\tools
 
 Nothing was found: no controller, no drive and no log record of the classes asked for.
-Tools could not be run. They belong into the folder zenx of C:\tools; the log says:
+Tools could not be run. Is the folder zenx with them in the directory named above? The log says:
   Qcmdrun aborted: zenx//qcmdrun.exe: No such file or directory (2 times)
   hrconf aborted: zenx//hrconf_64.exe: Permission denied
+
+  Raw texts of         Commands  Answered  Lines
+  zenx//hrconf_64.exe  1         0         0
 
   Class asked for  Instances
   KVRSG_zxRawData  1
@@ -88,7 +87,7 @@ TEST(TableView, BlamesNoToolWhenAllOfThemRan) {
                        "KVRSG_zxDiskDrive"
   }),
                    {QueryResult{1, {}, {{3, "configData is not empty!\n"}}}}),
-            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
+            R"(RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in C:\tools
 
 Nothing was found: no controller, no drive and no log record of the classes asked for.
 
@@ -97,13 +96,20 @@ Nothing was found: no controller, no drive and no log record of the classes aske
 )");
 }
 
+TEST(TableView, KeepsItsFirstLineWithinTheWidth) {
+  QueryHeader header = Header({});
+  header.directory = std::string(200, 'd') + "\n";
+  EXPECT_EQ(Tables(header, {}), "RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in " +
+                                    std::string(27, 'd') + "\u2026\n");
+}
+
 TEST(TableView, NumbersTheQueriesWhereThereAreSeveral) {
   EXPECT_EQ(Tables(Header(
                        {
   },
                        2),
                    {QueryResult{1, {}, {}}, QueryResult{2, {}, {}}}),
-            R"(RAID controllers of MACHINE, collected in C:\tools on 2026-03-05 12:30:15 +01:00
+            R"(RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in C:\tools
 
 Query 1 of 2
 
