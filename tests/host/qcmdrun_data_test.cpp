@@ -126,7 +126,7 @@ class QcmdrunDataTest : public testing::Test {
   }
 
   // How often a text was logged.
-  long Logged(const std::string& text) const {
+  std::ptrdiff_t Logged(const std::string& text) const {
     const Texts texts = services_.LogTexts();
     return std::count(texts.begin(), texts.end(), text);
   }
