@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "collect/collected_data.h"
 #include "collect/records.h"
 #include "tests/support/recording_log.h"
+#include "tests/support/sample_text.h"
 #include "tests/support/tool_text.h"
 
 namespace {
@@ -188,6 +190,27 @@ TEST_F(QcmdrunConfigurationWalk, FailsWhereASectionIsCutOff) {
   EXPECT_THROW(AttachLogicalDrives("Logical drive information\n-----\nLogical drive number 1\n"), std::out_of_range);
   EXPECT_THROW(AttachStripeOrders("A stripe order (Channel/SCSI ID) : 1,0\n"), std::out_of_range);
   EXPECT_THROW(AttachPhysicalDevices(kSection + "Channel #1:\nInitiator\n" + Device("0")), std::out_of_range);
+}
+
+TEST_F(QcmdrunConfigurationWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay) {
+  const std::string text = SampleAnswer("qcmdrun/1/getconfig-al");
+  std::size_t most = 0;
+  for (std::size_t length = 0; length <= text.size(); ++length) {
+    controller_ = ZenxController(&log_);
+    CollectedData scanner(&log_, std::string_view(text).substr(0, length));
+    try {
+      qcmdrun::AttachLogicalDrives(controller_, scanner);
+      qcmdrun::AttachStripeOrders(controller_, scanner);
+      qcmdrun::AttachPhysicalDevices(controller_, scanner);
+    } catch (const std::out_of_range&) {
+      EXPECT_LT(length, text.size());
+    }
+    const std::size_t records =
+        controller_.LogicalDevices.size() + controller_.StripeOrders.size() + controller_.PhysicalDevices.size();
+    EXPECT_GE(records, most) << "more of the text gives less, at " << length;
+    most = std::max(most, records);
+  }
+  EXPECT_EQ(most, 18u);
 }
 
 }  // namespace

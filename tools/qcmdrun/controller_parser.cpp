@@ -5,8 +5,6 @@
 #include "collect/labelled_fields.h"
 #include "collect/model_table.h"
 #include "collect/records.h"
-#include "collect/tool_text.h"
-#include "platform/device_setup.h"
 
 namespace qcmdrun {
 
@@ -62,8 +60,6 @@ void ParseController(ZenxController& controller, std::string_view text, unsigned
   for (const auto& row : kController) controller.*row.field = GetSectionValue(row.label, text);
   controller.ControllerType = std::string(NameOfModel(controller.ControllerType, kModels));
   controller.Parsed = true;
-  const int slot = LeadingNumber(controller.ControllerSlotInfo);
-  controller.SlotDeviceId = LookupSlotDevice(controller.Host, static_cast<unsigned>(slot));
 }
 
 }  // namespace qcmdrun

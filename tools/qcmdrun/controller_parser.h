@@ -6,8 +6,8 @@ struct ZenxController;
 
 namespace qcmdrun {
 
-// Fills the controller from the whole answer to "getconfig" and looks up the device in its slot. Without the line
-// "Controller information" only the number is set and the controller stays unparsed.
+// Fills the controller from the whole answer to "getconfig". Without the line "Controller information" only the number
+// is set and the controller stays unparsed.
 void ParseController(ZenxController& controller, std::string_view text, unsigned number);
 
 }  // namespace qcmdrun

@@ -5,7 +5,9 @@
 #include "collect/collected_data.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_runner.h"
+#include "collect/tool_text.h"
 #include "logs/statistics_parsers.h"
+#include "platform/device_setup.h"
 #include "plugin/host_interface/exception.h"
 #include "tools/qcmdrun/configuration_walk.h"
 #include "tools/qcmdrun/controller_parser.h"
@@ -55,6 +57,11 @@ constexpr std::string_view kNoneFound = "Found 0 KVR Zentraxis controller(s)";
 // No controller has this number; a higher one may be in use.
 constexpr std::string_view kAborted = "Command aborted";
 
+// Text without a number counts as slot 0.
+unsigned SlotNumber(const ZenxController& controller) {
+  return static_cast<unsigned>(LeadingNumber(controller.ControllerSlotInfo));
+}
+
 }  // namespace
 
 QcmdrunParsers::QcmdrunParsers() : status(qcmdrun::ParseStatus), badStripe(ParseBadStripe) {}
@@ -95,6 +102,7 @@ QcmdrunData::Next QcmdrunData::CollectController(unsigned utilityNumber, unsigne
   const auto controller = std::make_shared<ZenxController>(host_);
   qcmdrun::ParseController(*controller, configuration, firstControllerNumber + utilityNumber);
   if (!controller->Parsed) return Next::kGoOn;
+  controller->SlotDeviceId = LookupSlotDevice(host_, SlotNumber(*controller));
 
   qcmdrun::AttachLogicalDrives(*controller, text);
   qcmdrun::AttachStripeOrders(*controller, text);
