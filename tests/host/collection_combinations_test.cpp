@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include "collect/zenx_collect_data.h"
+#include "plugin/host_interface/services.h"
+#include "tests/support/sample_text.h"
+#include "tests/support/scripted_services.h"
+#include "tools/arcconf/arcconf_data.h"
+#include "tools/hrconf/hrconf_data.h"
+#include "tools/qcmdrun/qcmdrun_data.h"
+
+// Machines that have all, some or none of the three utilities, with the controllers of the sample machine behind each.
+namespace {
+
+using NKVRHXA20::TRootObject;
+using Lines = std::vector<std::string>;
+
+// What was found, recorded and logged, and what was run for it.
+struct Outcome {
+  Lines controllers;
+  Lines commands;
+  Lines runs;
+  std::vector<LogEntry> log;
+
+  friend bool operator==(const Outcome&, const Outcome&) = default;
+};
+
+template <class Collector, class Start>
+Outcome Collect(const std::map<std::string, std::string>& answers, Start start) {
+  ScriptedServices services;
+  services.answers = answers;
+  Collector collector(TRootObject::GetCoreLogger());
+  collector.Collect(start);
+  Outcome outcome;
+  for (const auto& controller : collector.GetControllers()) outcome.controllers.push_back(controller->ControllerNum);
+  for (const auto& raw : collector.GetRawData()) outcome.commands.push_back(raw->Command);
+  outcome.runs = services.runs;
+  outcome.log = services.log;
+  return outcome;
+}
+
+template <class List>
+void Append(List& to, const List& from) {
+  to.insert(to.end(), from.begin(), from.end());
+}
+
+void Append(Outcome& to, const Outcome& from) {
+  Append(to.controllers, from.controllers);
+  Append(to.commands, from.commands);
+  Append(to.runs, from.runs);
+  Append(to.log, from.log);
+}
+
+struct Machine {
+  const char* name;
+  std::vector<std::string> tools;
+  Lines controllers;
+  std::size_t recorded;  // commands
+};
+
+std::map<std::string, std::string> AnswersOf(const Machine& machine) {
+  std::map<std::string, std::string> answers;
+  for (const std::string& tool : machine.tools) answers.merge(SampleAnswers(tool));
+  return answers;
+}
+
+// A missing qcmdrun is recorded as 64 failures, a missing hrconf as 24, a missing arcconf not at all. With their
+// controllers they record 16, 3 and 10. Numbers go on from the count of controllers before: the legacy utility has none
+// under its number 2, so the number 3 comes twice.
+const Machine kMachines[] = {
+    {"none",                {},                                  {},                        64 + 24     },
+    {"qcmdrun",             {"qcmdrun"},                         {"1", "3"},                16 + 24     },
+    {"hrconf",              {"hrconf_64"},                       {"1"},                     64 + 3      },
+    {"arcconf",             {"arcconf"},                         {"1", "2"},                64 + 24 + 10},
+    {"qcmdrun and hrconf",  {"qcmdrun", "hrconf_64"},            {"1", "3", "3"},           16 + 3      },
+    {"qcmdrun and arcconf", {"qcmdrun", "arcconf"},              {"1", "3", "3", "4"},      16 + 24 + 10},
+    {"hrconf and arcconf",  {"hrconf_64", "arcconf"},            {"1", "2", "3"},           64 + 3 + 10 },
+    {"all",                 {"qcmdrun", "hrconf_64", "arcconf"}, {"1", "3", "3", "4", "5"}, 16 + 3 + 10 },
+};
+
+TEST(CollectionCombinations, NumberControllersOnFromToolToTool) {
+  for (const Machine& machine : kMachines) {
+    const Outcome outcome = Collect<ZenxCollectData>(AnswersOf(machine), false);
+    EXPECT_EQ(outcome.controllers, machine.controllers) << machine.name;
+    EXPECT_EQ(outcome.commands.size(), machine.recorded) << machine.name;
+  }
+}
+
+TEST(CollectionCombinations, RunRecordAndLogWhatTheThreeToolsDoOneAfterTheOther) {
+  for (const Machine& machine : kMachines) {
+    const auto answers = AnswersOf(machine);
+    Outcome expected = Collect<QcmdrunData>(answers, 0u);
+    Append(expected, Collect<HrconfData>(answers, static_cast<unsigned>(expected.controllers.size())));
+    Append(expected, Collect<ArcconfData>(answers, static_cast<unsigned>(expected.controllers.size())));
+    const Outcome outcome = Collect<ZenxCollectData>(answers, false);
+    EXPECT_TRUE(outcome == expected) << machine.name;
+    EXPECT_EQ(outcome.log, expected.log) << machine.name;
+    EXPECT_FALSE(outcome.log.empty()) << machine.name;
+  }
+}
+
+TEST(CollectionCombinations, RunNoHrconfCommandWhereItIsSkippedAndStartArcconfAtTheLegacyCount) {
+  const Machine& all = std::end(kMachines)[-1];
+  const Outcome outcome = Collect<ZenxCollectData>(AnswersOf(all), true);
+  EXPECT_EQ(outcome.controllers, (Lines{"1", "3", "3", "4"}));
+  EXPECT_EQ(outcome.commands.size(), 16u + 10u);
+  for (const std::string& run : outcome.runs) EXPECT_FALSE(run.starts_with("hrconf_64")) << run;
+}
+
+TEST(CollectionCombinations, LogOneLineForEachFailureOfAMissingTool) {
+  const Outcome outcome = Collect<ZenxCollectData>({}, false);
+  std::size_t qcmdrun = 0;
+  std::size_t hrconf = 0;
+  std::size_t arcconf = 0;
+  for (const LogEntry& entry : outcome.log) {
+    qcmdrun += entry == LogEntry{3, "Qcmdrun aborted: zenx//qcmdrun.exe is not here"};
+    hrconf += entry == LogEntry{3, "hrconf aborted: zenx//hrconf_64.exe is not here"};
+    arcconf += entry == LogEntry{3, "ArcConf Aborted: zenx//arcconf.exe is not here"};
+  }
+  EXPECT_EQ(qcmdrun, 8u + 64u + 8u);
+  EXPECT_EQ(hrconf, 8u + 24u + 8u);
+  EXPECT_EQ(arcconf, 8u + 40u + 8u);
+  EXPECT_EQ(outcome.runs.size(), qcmdrun + hrconf + arcconf);
+}
+
+}  // namespace
