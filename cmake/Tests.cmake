@@ -1,5 +1,6 @@
 # One program for each level of tests: unit (a parser on text), host (the plug-in in a host with scripted services) and
-# end_to_end (the program on the sample machine, with real processes).
+# end_to_end (the program on the sample machine, with real processes). What differs between systems stands in a folder
+# windows/ or posix/, as it does in the binaries.
 enable_testing()
 if(CMAKE_CROSSCOMPILING)
   add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
@@ -11,9 +12,14 @@ else()
   target_link_libraries(test_framework INTERFACE GTest::gmock GTest::gtest)
 endif()
 
-# A program that does what a test asks of a child process.
-add_executable(test_child tests/programs/test_child.cpp)
-target_link_libraries(test_child PRIVATE compile_options)
+# A program that does what a test asks of a child process. On every system with .exe, as the utilities. It is run a
+# thousand times in a row, so it goes without sanitizers and libraries, which take longer to start than it does.
+sources_of(test_child_sources tests/programs)
+add_executable(test_child ${test_child_sources})
+target_include_directories(test_child PRIVATE ${CMAKE_SOURCE_DIR})
+target_compile_options(test_child PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_link_options(test_child PRIVATE -static)
+set_target_properties(test_child PROPERTIES SUFFIX .exe)
 
 foreach(level unit host end_to_end)
   sources_of(sources tests/${level} tests/support)
