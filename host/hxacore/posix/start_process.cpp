@@ -6,7 +6,7 @@
 
 #include <fcntl.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 
 #include "host/hxacore/posix/child_process.h"
 #include "host/hxacore/spawn_failure.h"
@@ -108,7 +108,7 @@ ChildProcess StartProcess(const std::string& path, const std::vector<std::string
   const int failure = posix_spawn(&child.pid, path.c_str(), actions.Get(), attributes.Get(), argumentPointers.data(),
                                   environment.data());
   if (failure != 0) ThrowNotStarted(path, ErrorText(failure));
-  child.end = TDescriptor(pidfd_open(child.pid, 0));
+  child.end = TDescriptor(static_cast<int>(syscall(SYS_pidfd_open, child.pid, 0)));
   return child;
 }
 

@@ -3,12 +3,14 @@
 #include <string>
 #include <vector>
 
+#include "plugin/host_interface/export.h"
+
 namespace NKVRHXA20 {
 
 // One argument as it stands in a command line, so that CommandLineToArgvW and the C runtimes give it back unchanged.
-std::wstring QuotedArgument(const std::wstring& argument);
+HXACORE_API std::wstring QuotedArgument(const std::wstring& argument);
 
 // The whole command line: the program as given, then the arguments.
-std::wstring CommandLine(const std::string& path, const std::vector<std::string>& arguments);
+HXACORE_API std::wstring CommandLine(const std::string& path, const std::vector<std::string>& arguments);
 
 }  // namespace NKVRHXA20

@@ -1,0 +1,254 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+
+#include "plugin/host_interface/exception.h"
+#include "plugin/host_interface/services.h"
+#include "tests/support/test_system.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace NKVRHXA20;
+using std::chrono::seconds;
+using std::chrono::steady_clock;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+using testing::ThrowsMessage;
+
+constexpr int kGenerous = 60;
+const std::string kForLong = "300";
+
+std::string ChildPath() { return (ProgramFolder() / "test_child.exe").string(); }
+
+std::string RunChild(const std::vector<std::string>& arguments, int limitSeconds = kGenerous) {
+  return TOSSpecific::SpawnProcess(ChildPath(), arguments, limitSeconds);
+}
+
+// A file in which a process writes its number, gone afterwards.
+class NumberFile {
+ public:
+  NumberFile() { fs::remove(path_); }
+  ~NumberFile() {
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+  }
+  NumberFile(const NumberFile&) = delete;
+  NumberFile& operator=(const NumberFile&) = delete;
+
+  std::string Path() const { return path_.string(); }
+  unsigned long Number() const {
+    unsigned long number = 0;
+    std::ifstream(path_) >> number;
+    return number;
+  }
+
+ private:
+  fs::path path_ = ProgramFolder() / "spawn_process_test.number";
+};
+
+class WorkingDirectory {
+ public:
+  explicit WorkingDirectory(const fs::path& path) { fs::current_path(path); }
+  ~WorkingDirectory() { fs::current_path(before_); }
+  WorkingDirectory(const WorkingDirectory&) = delete;
+  WorkingDirectory& operator=(const WorkingDirectory&) = delete;
+
+ private:
+  fs::path before_ = fs::current_path();
+};
+
+TEST(SpawnProcess, GivesArgumentsToTheProgramAsTheyAre) {
+  const std::vector<std::string> cases = {
+      "plain",
+      "two words",
+      "",
+      " ",
+      "tab\there",
+      "\"",
+      "say \"hi\"",
+      "back\\slash",
+      "ends in a backslash\\",
+      "\\",
+      "\\\"",
+      "two\\\\\" quotes\\\\",
+      "Gr\xC3\xB6\xC3\x9F"
+      "e \xE2\x82\xAC",
+      "a'b",
+      "$HOME %PATH% *?",
+      "new\nline",
+      "--option=a b\\\\",
+      "&|<>^!;",
+  };
+  std::vector<std::string> arguments = {"arguments"};
+  std::string expected;
+  for (const std::string& argument : cases) {
+    arguments.push_back(argument);
+    expected += std::to_string(argument.size()) + ":" + argument + "\n";
+  }
+  EXPECT_EQ(RunChild(arguments), expected);
+}
+
+TEST(SpawnProcess, KeepsStandardOutputAndStandardErrorInTheOrderWritten) {
+  EXPECT_EQ(RunChild({"both", "6"}), "out 0\nerr 1\nout 2\nerr 3\nout 4\nerr 5\n");
+}
+
+TEST(SpawnProcess, ReturnsTheOutputWhateverTheExitStatus) {
+  EXPECT_EQ(RunChild({"exit", "0"}), "done\n");
+  EXPECT_EQ(RunChild({"exit", "77"}), "done\n");
+}
+
+TEST(SpawnProcess, ReturnsEveryByteOfAnOutputThatNoPipeHolds) {
+  for (const std::size_t count : {0U, 1U, 65535U, 65536U, 65537U, 5000000U}) {
+    EXPECT_EQ(RunChild({"bytes", std::to_string(count)}), std::string(count, 'x'));
+  }
+}
+
+TEST(SpawnProcess, GivesTheNullDeviceAsStandardInput) { EXPECT_EQ(RunChild({"input"}), "0 bytes\n"); }
+
+TEST(SpawnProcess, PutsTheCLocaleIntoTheEnvironmentAndNoOther) {
+  for (const char* const name : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_ALL"}) SetVariable(name, "xx_XX.UTF-8");
+  EXPECT_EQ(RunChild({"locale"}), "LC_ALL=C\n");
+}
+
+TEST(SpawnProcess, GivesTheProgramTheRestOfTheEnvironment) {
+  SetVariable("ZENX_TEST_VARIABLE", "one two");
+  EXPECT_EQ(RunChild({"variable", "ZENX_TEST_VARIABLE"}), "one two\n");
+}
+
+TEST(SpawnProcess, TakesARelativePathFromTheWorkingDirectoryWithOneSlashOrTwo) {
+  const std::string folder = ProgramFolder().filename().string();
+  {
+    const WorkingDirectory above(ProgramFolder().parent_path());
+    EXPECT_EQ(TOSSpecific::SpawnProcess(folder + "/test_child.exe", {"exit", "0"}, kGenerous), "done\n");
+    EXPECT_EQ(TOSSpecific::SpawnProcess(folder + "//test_child.exe", {"exit", "0"}, kGenerous), "done\n");
+    EXPECT_THROW(TOSSpecific::SpawnProcess("test_child.exe", {"exit", "0"}, kGenerous), THXAException);
+  }
+  const WorkingDirectory inside(ProgramFolder());
+  EXPECT_EQ(TOSSpecific::SpawnProcess("test_child.exe", {"exit", "0"}, kGenerous), "done\n");
+}
+
+TEST(SpawnProcess, SaysInOneLineWhichProgramCannotBeStartedAndWhy) {
+  const auto isOneLine = AllOf(Not(HasSubstr("\n")), Not(HasSubstr("\r")), Not(EndsWith(": ")));
+  EXPECT_THAT([] { TOSSpecific::SpawnProcess("zenx//missing.exe", {}, kGenerous); },
+              ThrowsMessage<THXAException>(AllOf(StartsWith("\"zenx//missing.exe\" cannot be started: "), isOneLine)));
+  const std::string folder = ProgramFolder().string();
+  EXPECT_THAT([&] { TOSSpecific::SpawnProcess(folder, {}, kGenerous); },
+              ThrowsMessage<THXAException>(AllOf(StartsWith("\"" + folder + "\" cannot be started: "), isOneLine)));
+  EXPECT_THROW(TOSSpecific::SpawnProcess("", {}, kGenerous), THXAException);
+}
+
+TEST(SpawnProcess, EndsAProgramThatRunsBeyondTheLimit) {
+  const auto begin = steady_clock::now();
+  EXPECT_THAT(
+      [] {
+        RunChild({"sleep", kForLong}, 1);
+      },
+      ThrowsMessage<THXAException>("\"" + ChildPath() + "\" was ended: it ran longer than 1 seconds"));
+  EXPECT_GE(steady_clock::now() - begin, seconds(1));
+  EXPECT_LT(steady_clock::now() - begin, seconds(30));
+}
+
+TEST(SpawnProcess, EndsAProgramThatIgnoresTermination) {
+  const NumberFile file;
+  EXPECT_THROW(RunChild({"sleep-unasked", file.Path(), kForLong}, 3), THXAException);
+  ASSERT_NE(file.Number(), 0U);
+  EXPECT_FALSE(IsRunning(file.Number()));
+}
+
+TEST(SpawnProcess, EndsAProgramThatClosesItsOutputAndRunsBeyondTheLimit) {
+  EXPECT_THROW(RunChild({"sleep-silently", kForLong}, 1), THXAException);
+}
+
+TEST(SpawnProcess, WaitsForAProgramThatClosesItsOutputAndEndsInTime) {
+  const auto begin = steady_clock::now();
+  EXPECT_EQ(RunChild({"sleep-silently", "1"}), "before\n");
+  EXPECT_GE(steady_clock::now() - begin, seconds(1));
+}
+
+struct ModeCase {
+  const char* name;
+  const char* mode;
+};
+
+void PrintTo(const ModeCase& mode, std::ostream* out) { *out << mode.name; }
+
+// The program has ended by itself: its output counts, and what it has left is not waited for.
+class SpawnProcessLeft : public testing::TestWithParam<ModeCase> {};
+
+TEST_P(SpawnProcessLeft, ReturnsTheOutputAndEndsWhatStillHoldsThePipe) {
+  const NumberFile file;
+  const auto begin = steady_clock::now();
+  const std::string output = RunChild({GetParam().mode, file.Path()});
+  EXPECT_NE(output.find("left\n"), std::string::npos) << output.size() << " bytes without it";
+  EXPECT_LT(steady_clock::now() - begin, seconds(kGenerous / 2));
+  ASSERT_NE(file.Number(), 0U);
+  EXPECT_FALSE(IsRunning(file.Number()));
+}
+
+INSTANTIATE_TEST_SUITE_P(What, SpawnProcessLeft,
+                         testing::Values(ModeCase{"InTheGroup", "leave"}, ModeCase{"OutOfTheGroup", "detach"},
+                                         ModeCase{"WritingForEver", "leave-flood"}),
+                         [](const auto& mode) { return mode.param.name; });
+
+// The program runs beyond the limit, and has started something.
+class SpawnProcessTree : public testing::TestWithParam<ModeCase> {};
+
+TEST_P(SpawnProcessTree, EndsWhatTheProgramHasStartedWhenTheLimitPasses) {
+  const NumberFile file;
+  EXPECT_THROW(RunChild({GetParam().mode, file.Path(), kForLong}, 3), THXAException);
+  ASSERT_NE(file.Number(), 0U);
+  EXPECT_FALSE(IsRunning(file.Number()));
+}
+
+INSTANTIATE_TEST_SUITE_P(What, SpawnProcessTree,
+                         testing::Values(ModeCase{"OutOfTheGroup", "detach-sleep"},
+                                         ModeCase{"WithoutOutputGroupOrParent", "daemon-sleep"}),
+                         [](const auto& mode) { return mode.param.name; });
+
+TEST(SpawnProcess, EndsAProgramThatFloodsItsOutput) {
+  EXPECT_THAT([] { RunChild({"flood"}); },
+              ThrowsMessage<THXAException>("\"" + ChildPath() + "\" was ended: it wrote more than 64 MiB"));
+}
+
+TEST(SpawnProcess, TakesAsMuchOutputAsIsAllowedAndNotAByteMore) {
+  constexpr std::size_t kMost = std::size_t{64} << 20U;
+  EXPECT_EQ(RunChild({"bytes", std::to_string(kMost)}).size(), kMost);
+  EXPECT_THROW(RunChild({"bytes", std::to_string(kMost + 1)}), THXAException);
+}
+
+TEST(SpawnProcess, AThousandRunsLeaveNeitherHandlesNorChildren) {
+  RunChild({"exit", "0"});
+  const std::size_t before = OpenHandleCount();
+  for (int run = 0; run < 1000; ++run) ASSERT_EQ(RunChild({"exit", "1"}), "done\n") << run;
+  EXPECT_EQ(OpenHandleCount(), before);
+  EXPECT_FALSE(HasChildren());
+}
+
+TEST(SpawnProcess, AHandleThatIsLeftWouldBeCounted) {
+  const std::size_t before = OpenHandleCount();
+  const std::ifstream file(ChildPath());
+  EXPECT_GT(OpenHandleCount(), before);
+}
+
+TEST(SpawnProcess, FailuresLeaveNeitherHandlesNorChildren) {
+  const auto fail = [] {
+    const NumberFile file;
+    EXPECT_THROW(TOSSpecific::SpawnProcess("missing", {}, kGenerous), THXAException);
+    EXPECT_THROW(RunChild({"sleep", kForLong}, 0), THXAException);
+    EXPECT_EQ(RunChild({"leave", file.Path()}), "left\n");
+  };
+  fail();
+  const std::size_t before = OpenHandleCount();
+  for (int run = 0; run < 5; ++run) fail();
+  EXPECT_EQ(OpenHandleCount(), before);
+  EXPECT_FALSE(HasChildren());
+}
+
+}  // namespace

@@ -1,0 +1,78 @@
+#include "tests/programs/test_child_system.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <shellapi.h>
+
+namespace {
+
+std::string ToUtf8(const wchar_t* wide) {
+  const int size = WideCharToMultiByte(CP_UTF8, 0, wide, -1, nullptr, 0, nullptr, nullptr);
+  std::string text(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, wide, -1, text.data(), size, nullptr, nullptr);
+  text.pop_back();
+  return text;
+}
+
+}  // namespace
+
+std::vector<std::string> Arguments(int, char**) {
+  int count = 0;
+  wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> arguments;
+  for (int word = 1; word < count; ++word) arguments.push_back(ToUtf8(words[word]));
+  LocalFree(words);
+  return arguments;
+}
+
+void WriteBytesAsTheyAre() {
+  _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
+}
+
+// The C runtime keeps the handles that the process was given apart from its own files.
+void CloseStandardOutput() {
+  std::fclose(stdout);
+  std::fclose(stderr);
+  CloseHandle(GetStdHandle(STD_OUTPUT_HANDLE));
+}
+
+void IgnoreTermination() {
+  SetConsoleCtrlHandler([](DWORD) -> BOOL { return TRUE; }, TRUE);
+}
+
+unsigned long OwnProcessId() { return GetCurrentProcessId(); }
+
+void LeaveBehind(Ties ties, Rest rest, const std::string& file) {
+  std::array<char, 1024> program{};
+  GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));
+  std::string line =
+      std::string("test_child ") + (rest == Rest::kFloods ? "rest-floods" : "rest-sleeps") + " \"" + file + "\"";
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  const DWORD flags = ties == Ties::kAll ? 0 : DETACHED_PROCESS | CREATE_NEW_PROCESS_GROUP;
+  PROCESS_INFORMATION started{};
+  if (!CreateProcessA(program.data(), line.data(), nullptr, nullptr, ties != Ties::kNothing, flags, nullptr, nullptr,
+                      &startup, &started)) {
+    std::exit(3);
+  }
+  CloseHandle(started.hThread);
+  CloseHandle(started.hProcess);
+}
+
+std::vector<std::string> Environment() {
+  std::vector<std::string> variables;
+  wchar_t* const strings = GetEnvironmentStringsW();
+  for (const wchar_t* next = strings; *next; next += std::wstring_view(next).size() + 1) {
+    variables.push_back(ToUtf8(next));
+  }
+  FreeEnvironmentStringsW(strings);
+  return variables;
+}

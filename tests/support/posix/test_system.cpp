@@ -1,0 +1,31 @@
+#include "tests/support/test_system.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include <sys/wait.h>
+
+namespace fs = std::filesystem;
+
+fs::path ProgramFolder() { return fs::read_symlink("/proc/self/exe").parent_path(); }
+
+// "417 (name) S ...": the state follows the last parenthesis.
+bool IsRunning(unsigned long process) {
+  std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+  const std::string status{std::istreambuf_iterator<char>(file), {}};
+  const auto nameEnd = status.rfind(") ");
+  return nameEnd != std::string::npos && status[nameEnd + 2] != 'Z' && status[nameEnd + 2] != 'X';
+}
+
+std::size_t OpenHandleCount() {
+  return static_cast<std::size_t>(std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
+}
+
+bool HasChildren() {
+  siginfo_t child{};
+  return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0 || errno != ECHILD;
+}
+
+void SetVariable(const std::string& name, const std::string& value) { setenv(name.c_str(), value.c_str(), 1); }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+// What tests need of the operating system.
+
+// The folder of the test program, and so of everything that is built with it.
+std::filesystem::path ProgramFolder();
+
+// Whether a process of this number runs; one that has ended and only waits for its parent to notice does not.
+bool IsRunning(unsigned long process);
+
+// How many files, pipes and the like this process holds.
+std::size_t OpenHandleCount();
+
+// Whether this process has children, ended ones that nobody waited for included.
+bool HasChildren();
+
+// Sets a variable of this process's environment.
+void SetVariable(const std::string& name, const std::string& value);

@@ -1,0 +1,44 @@
+#include "tests/support/test_system.h"
+
+#include <array>
+#include <stdexcept>
+
+#include <windows.h>
+
+#include <tlhelp32.h>
+
+std::filesystem::path ProgramFolder() {
+  std::array<wchar_t, 1024> program{};
+  GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
+  return std::filesystem::path(program.data()).parent_path();
+}
+
+bool IsRunning(unsigned long process) {
+  const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
+  if (!handle) return false;
+  const bool isRunning = WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
+  CloseHandle(handle);
+  return isRunning;
+}
+
+std::size_t OpenHandleCount() {
+  DWORD count = 0;
+  if (!GetProcessHandleCount(GetCurrentProcess(), &count)) throw std::runtime_error("no handle count");
+  return count;
+}
+
+bool HasChildren() {
+  const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
+  PROCESSENTRY32W entry{};
+  entry.dwSize = sizeof entry;
+  bool isFound = false;
+  for (BOOL more = Process32FirstW(snapshot, &entry); more && !isFound; more = Process32NextW(snapshot, &entry)) {
+    isFound = entry.th32ParentProcessID == GetCurrentProcessId();
+  }
+  CloseHandle(snapshot);
+  return isFound;
+}
+
+void SetVariable(const std::string& name, const std::string& value) {
+  SetEnvironmentVariableA(name.c_str(), value.c_str());
+}
