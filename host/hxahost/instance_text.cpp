@@ -67,8 +67,7 @@ void WriteInstances(std::ostream& out, std::string_view heading, std::span<const
   if (instances.empty()) return;
   Table table;
   for (const InstanceColumn& column : columns) {
-    table.titles.emplace_back(column.title);
-    table.widest.push_back(column.widest);
+    table.columns.push_back({std::string(column.title), column.widest, column.least});
   }
   for (const auto& instance : instances) {
     auto& row = table.rows.emplace_back();

@@ -47,8 +47,12 @@ std::vector<Source> Sources(const InstanceList& instances) {
 
 void WriteRawTextSummary(std::ostream& out, const InstanceList& instances) {
   Table table;
-  table.titles = {"Raw texts of", "Commands", "Answered", "Lines"};
-  table.widest = {60, 10, 10, 10};
+  table.columns = {
+      {"Raw texts of", 60},
+      {"Commands"             },
+      {"Answered"},
+      {"Lines"             }
+  };
   for (const Source& source : Sources(instances)) {
     table.rows.push_back(
         {source.name, std::to_string(source.commands), std::to_string(source.answers), std::to_string(source.lines)});

@@ -11,12 +11,13 @@ namespace {
 
 constexpr std::size_t kIndent = 2;
 constexpr std::size_t kGap = 2;
-constexpr std::size_t kNarrowest = 8;  // what a column is narrowed to at most
+constexpr std::string_view kMoreColumns = "  \u2026";
 
 // A column that is shown.
 struct Shown {
   std::size_t index = 0;
   std::size_t width = 0;
+  std::size_t least = 0;
 };
 
 std::string_view Cell(const std::vector<std::string>& row, std::size_t index) {
@@ -24,14 +25,16 @@ std::string_view Cell(const std::vector<std::string>& row, std::size_t index) {
 }
 
 std::vector<Shown> ColumnsWithText(const Table& table) {
-  std::vector<Shown> columns;
-  for (std::size_t index = 0; index < table.titles.size(); ++index) {
+  std::vector<Shown> shown;
+  for (std::size_t index = 0; index < table.columns.size(); ++index) {
+    const TableColumn& column = table.columns[index];
     std::size_t width = 0;
     for (const auto& row : table.rows) width = std::max(width, DisplayWidth(Cell(row, index)));
     if (width == 0) continue;
-    columns.push_back({index, std::min(std::max(width, DisplayWidth(table.titles[index])), table.widest[index])});
+    width = std::min(std::max(width, DisplayWidth(column.title)), column.widest);
+    shown.push_back({index, width, std::min(width, column.least)});
   }
-  return columns;
+  return shown;
 }
 
 std::size_t TotalWidth(const std::vector<Shown>& columns) {
@@ -39,16 +42,23 @@ std::size_t TotalWidth(const std::vector<Shown>& columns) {
                          [](std::size_t sum, const Shown& column) { return sum + column.width; });
 }
 
-// Takes from the widest columns, one after the other, so that all of them stay readable.
-void NarrowToView(std::vector<Shown>& columns) {
+// Takes from the widest of the columns that may be narrower.
+void Narrow(std::vector<Shown>& columns) {
   while (TotalWidth(columns) > kViewWidth) {
-    const auto widest = std::ranges::max_element(columns, {}, &Shown::width);
-    if (widest->width <= kNarrowest) return;
+    const auto widest = std::ranges::max_element(
+        columns, {}, [](const Shown& column) { return column.width > column.least ? column.width : 0; });
+    if (widest->width <= widest->least) return;
     --widest->width;
   }
 }
 
-void WriteRow(std::ostream& out, const std::vector<Shown>& columns, const std::vector<std::string>& row) {
+// What matters least stands at the right. The first column stays, whatever its width.
+void LeaveOutFromTheRight(std::vector<Shown>& columns) {
+  const std::size_t room = kViewWidth - DisplayWidth(kMoreColumns);
+  while (columns.size() > 1 && TotalWidth(columns) > room) columns.pop_back();
+}
+
+std::string RowText(const std::vector<Shown>& columns, const std::vector<std::string>& row) {
   std::string line(kIndent, ' ');
   std::size_t missing = 0;  // blanks that are owed: none are put at the end of a line
   for (const Shown& column : columns) {
@@ -56,7 +66,7 @@ void WriteRow(std::ostream& out, const std::vector<Shown>& columns, const std::v
     if (!text.empty()) line.append(missing, ' ').append(text);
     missing = (text.empty() ? missing : 0) + column.width - DisplayWidth(text) + kGap;
   }
-  out << CutToWidth(line, kViewWidth) << '\n';
+  return line;
 }
 
 }  // namespace
@@ -64,9 +74,13 @@ void WriteRow(std::ostream& out, const std::vector<Shown>& columns, const std::v
 void WriteTable(std::ostream& out, const Table& table) {
   std::vector<Shown> columns = ColumnsWithText(table);
   if (columns.empty()) return;
-  NarrowToView(columns);
-  WriteRow(out, columns, table.titles);
-  for (const auto& row : table.rows) WriteRow(out, columns, row);
+  Narrow(columns);
+  const bool isTooWide = TotalWidth(columns) > kViewWidth;
+  if (isTooWide) LeaveOutFromTheRight(columns);
+  std::vector<std::string> titles;
+  for (const TableColumn& column : table.columns) titles.push_back(column.title);
+  out << RowText(columns, titles) << (isTooWide ? kMoreColumns : "") << '\n';
+  for (const auto& row : table.rows) out << RowText(columns, row) << '\n';
 }
 
 }  // namespace hxahost

@@ -10,15 +10,21 @@ namespace hxahost {
 // No line of the table view is wider: it fits a terminal and a mail.
 constexpr std::size_t kViewWidth = 100;
 
-// A table of texts that are printable already. A row may be shorter than the titles.
+struct TableColumn {
+  std::string title;
+  std::size_t widest = 30;  // a longer text is cut
+  std::size_t least = 8;    // what the column is narrowed to at most, to make room for others
+};
+
+// A table of texts that are printable already. A row may be shorter than the columns.
 struct Table {
-  std::vector<std::string> titles;
-  std::vector<std::size_t> widest;  // of each column; what is longer is cut
+  std::vector<TableColumn> columns;
   std::vector<std::vector<std::string>> rows;
 };
 
 // Writes the table, indented by two columns. A column in which no row has a text is left out. Where it all is wider
-// than the view, the widest columns are narrowed first; what is still too wide is cut at the right.
+// than the view, the widest columns are narrowed; where that does not do, columns are left out from the right, and an
+// ellipsis behind the titles says so.
 void WriteTable(std::ostream& out, const Table& table);
 
 }  // namespace hxahost

@@ -44,8 +44,10 @@ void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult
   std::map<std::string_view, std::size_t> counts;
   for (const auto& instance : result.instances) ++counts[instance->Class().name];
   Table table;
-  table.titles = {"Class asked for", "Instances"};
-  table.widest = {60, 12};
+  table.columns = {
+      {"Class asked for", 60},
+      {"Instances"                }
+  };
   for (const std::string& name : header.classes) table.rows.push_back({name, std::to_string(counts[name])});
   out << '\n';
   WriteTable(out, table);

@@ -81,9 +81,9 @@ Controller 1: Zentraxis-6M - Okay
   Array  Stripe order  Identifier
   A      0,3 0,4       Zentraxis1ArrayA
   Disks
-  Channel  ID  Type       Model       State                         Size      Serial   Firmware  PFA
-  0        3   Hard disk  ST336607LC  Online                        34715 MB  3KR0123  B26A      No
-  0        4   Hard disk  ST336607LC  Defunct for a very, very lo…  34715 MB  3KR0124  B26A      Yes
+  Ch  ID  Type       Model       State                           Size      Serial   Firmware  PFA
+  0   3   Hard disk  ST336607LC  Online                          34715 MB  3KR0123  B26A      No
+  0   4   Hard disk  ST336607LC  Defunct for a very, very long…  34715 MB  3KR0124  B26A      Yes
 )");
 }
 
@@ -101,13 +101,13 @@ Controller 1
 
 Controller 2 was not published: its status may say "Failed"
   Disks
-  Channel
+  Ch
   1
 )");
   EXPECT_EQ(Blocks(repository, {kDiskDrive}).substr(14), R"(
 Controller 2 (controllers were not asked for)
   Disks
-  Channel
+  Ch
   1
 )");
 }

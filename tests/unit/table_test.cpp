@@ -10,17 +10,20 @@ namespace {
 
 using namespace hxahost;
 
-std::string Text(const Table& table) {
+std::string Text(const std::vector<TableColumn>& columns, const std::vector<std::vector<std::string>>& rows) {
   std::ostringstream out;
-  WriteTable(out, table);
+  WriteTable(out, {columns, rows});
   return out.str();
 }
 
+const std::vector<TableColumn> kAB = {{"A"}, {"B"}};
+
 TEST(Table, PutsCellsUnderTheirTitles) {
-  EXPECT_EQ(Text({
-                {"Drive",       "Name"               },
-                {10,            10                   },
-                {{"1", "data"}, {"12", "K\xc3\xa4se"}}
+  const std::vector<TableColumn> columns = {{"Drive"}, {"Name"}};
+  EXPECT_EQ(Text(columns,
+                 {
+                     {"1",  "data"       },
+                     {"12", "K\xc3\xa4se"}
   }),
             "  Drive  Name\n"
             "  1      data\n"
@@ -28,10 +31,11 @@ TEST(Table, PutsCellsUnderTheirTitles) {
 }
 
 TEST(Table, LeavesOutColumnsWithoutAnyText) {
-  EXPECT_EQ(Text({
-                {"A", "B", "C"},
-                {5,   5,      5},
-                {{"1", "", "2"},  {"3", "", ""}}
+  const std::vector<TableColumn> columns = {{"A"}, {"B"}, {"C"}};
+  EXPECT_EQ(Text(columns,
+                 {
+                     {"1", "", "2"},
+                     {"3", "", "" }
   }),
             "  A  C\n"
             "  1  2\n"
@@ -39,15 +43,19 @@ TEST(Table, LeavesOutColumnsWithoutAnyText) {
 }
 
 TEST(Table, IsNothingWithoutRowsOrText) {
-  EXPECT_EQ(Text({{"A"}, {5}, {}}), "");
-  EXPECT_EQ(Text({{"A"}, {5}, {{""}}}), "");
+  EXPECT_EQ(Text(kAB, {}), "");
+  EXPECT_EQ(Text(kAB,
+                 {
+                     {"", ""}
+  }),
+            "");
 }
 
 TEST(Table, TakesARowThatIsShorterThanTheTitles) {
-  EXPECT_EQ(Text({
-                {"A",   "B"       },
-                {5,     5         },
-                {{"1"}, {"1", "2"}}
+  EXPECT_EQ(Text(kAB,
+                 {
+                     {"1" },
+                     { "1", "2"}
   }),
             "  A  B\n"
             "  1\n"
@@ -55,38 +63,56 @@ TEST(Table, TakesARowThatIsShorterThanTheTitles) {
 }
 
 TEST(Table, CutsACellThatIsWiderThanItsColumnMayBe) {
-  EXPECT_EQ(Text({{"State"}, {9}, {{"Optimal, rebuilding"}}}),
+  const std::vector<TableColumn> columns = {
+      {"State", 9}
+  };
+  EXPECT_EQ(Text(columns, {{"Optimal, rebuilding"}}),
             "  State\n"
             "  Optimal,\u2026\n");
 }
 
-TEST(Table, NarrowsTheWidestColumnsToFitTheView) {
-  const std::string text = Text({
-      {"A",  "B", "C"},
-      {100, 100, 100},
-      {{"short", std::string(90, 'b'), std::string(60, 'c')} }
-  });
-  EXPECT_EQ(text, "  A      B" + std::string(45, ' ') + "C\n" + "  short  " + std::string(43, 'b') + "\u2026  " +
-                      std::string(44, 'c') + "\u2026\n");
+TEST(Table, NarrowsTheWidestColumnsThatMayBeNarrower) {
+  const std::vector<TableColumn> columns = {
+      {"A", 60, 8 },
+      {"B", 60, 60},
+      {"C", 60, 8 }
+  };
+  EXPECT_EQ(Text(columns,
+                 {
+                     {std::string(40, 'a'), std::string(40, 'b'), std::string(30, 'c')}
+  }),
+            "  A" + std::string(28, ' ') + "B" + std::string(41, ' ') + "C\n  " + std::string(26, 'a') + "\u2026  " +
+                std::string(40, 'b') + "  " + std::string(26, 'c') + "\u2026\n");
+}
+
+TEST(Table, LeavesOutColumnsFromTheRightWhenTheyCannotBeNarrowedAndSaysSo) {
+  const std::vector<TableColumn> columns = {
+      {"A", 60, 40},
+      {"B", 60, 40},
+      {"C", 60, 40}
+  };
+  EXPECT_EQ(Text(columns,
+                 {
+                     {std::string(50, 'a'), std::string(50, 'b'), std::string(50, 'c')}
+  }),
+            "  A" + std::string(41, ' ') + "B  \u2026\n  " + std::string(39, 'a') + "\u2026  " + std::string(39, 'b') +
+                "\u2026\n");
 }
 
 TEST(Table, IsNeverWiderThanTheView) {
-  Table table;
-  std::vector<std::string> row;
-  for (int index = 0; index < 20; ++index) {
-    table.titles.push_back("Title" + std::to_string(index));
-    table.widest.push_back(50);
-    row.push_back("a long value that stands in column " + std::to_string(index));
+  for (const std::size_t least : {0, 1, 8, 50}) {
+    std::vector<TableColumn> columns;
+    std::vector<std::string> row;
+    for (int index = 0; index < 20; ++index) {
+      columns.push_back({"Title" + std::to_string(index), 50, least});
+      row.push_back("a long value that stands in column " + std::to_string(index));
+    }
+    std::istringstream lines(Text(columns, {row, row}));
+    std::string line;
+    int count = 0;
+    for (; std::getline(lines, line); ++count) EXPECT_LE(DisplayWidth(line), kViewWidth) << line;
+    EXPECT_EQ(count, 3) << "no row is wrapped";
   }
-  table.rows = {row, row};
-  std::istringstream lines(Text(table));
-  std::string line;
-  int count = 0;
-  for (; std::getline(lines, line); ++count) {
-    EXPECT_EQ(DisplayWidth(line), kViewWidth) << line;
-    EXPECT_TRUE(line.ends_with("\u2026")) << line;
-  }
-  EXPECT_EQ(count, 3) << "no row is wrapped";
 }
 
 }  // namespace
