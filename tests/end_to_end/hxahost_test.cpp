@@ -141,6 +141,23 @@ TEST_F(Hxahost, ShowsEveryClassThatWasAskedForUnderItsDeclaredName) {
   EXPECT_EQ(result.err, "") << "standard error is no terminal here, so no progress is shown";
 }
 
+TEST_F(Hxahost, FindsNothingWithoutTheFolderOfToolsAndNamesTheTools) {
+  const ProgramResult result = Query({"--format", "json"});
+  EXPECT_EQ(result.exitStatus, 0);
+  const auto query = nlohmann::json::parse(result.out)["queries"][0];
+  for (const auto& instance : query["instances"]) {
+    EXPECT_EQ(instance["class"], "KVRSG_zxRawData") << "commands that failed, and nothing else";
+  }
+  const ProgramResult tables = Query({});
+  EXPECT_EQ(tables.exitStatus, 0);
+  for (const char* const tool : {"zenx//qcmdrun.exe", "zenx//arcconf.exe"}) {
+    EXPECT_TRUE(std::ranges::any_of(query["log"], [tool](const auto& entry) {
+      return entry["text"].template get<std::string>().find(tool) != std::string::npos;
+    })) << tool;
+    EXPECT_THAT(tables.out.substr(0, tables.out.find("Raw texts of")), HasSubstr(tool));
+  }
+}
+
 TEST_F(Hxahost, RepeatsTheQueryInOneProcess) {
   const ProgramResult result = Query({"--format", "json", "--repeat", "3", "--machine-name", "M"});
   EXPECT_EQ(result.exitStatus, 0);
