@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "host/hxahost/exit_status.h"
 
 namespace {
@@ -104,7 +106,10 @@ TEST(Options, ShowHelpWithDefaultsAndExamples) {
 TEST(Options, ShowTheVersionOfTheBuild) {
   const CommandLine version = ParseCommandLine({"--version"});
   EXPECT_EQ(version.command, Command::kShowText);
-  EXPECT_THAT(version.text, testing::MatchesRegex("hxahost [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  EXPECT_THAT(version.text, testing::StartsWith("hxahost "));
+  EXPECT_EQ(version.text.find_first_not_of("0123456789.", 8), version.text.size() - 1) << version.text;
+  EXPECT_EQ(std::ranges::count(version.text, '.'), 2) << version.text;
+  EXPECT_TRUE(version.text.ends_with("\n"));
 }
 
 TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
