@@ -16,7 +16,7 @@ using testing::IsEmpty;
 using testing::Not;
 
 std::string SampleLog() {
-  std::ifstream file(ZENX_SAMPLES "/machine/raid-manager/RaidEvtA.log", std::ios::binary);
+  std::ifstream file(ZENX_SAMPLES "/machine/raid-manager/KVR/Zentraxis Manager/RaidEvtA.log", std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <stdexcept>
-
-#include "publish/publish_common.h"
 #include "tests/support/device_fields.h"
 #include "tests/support/publishing.h"
 
@@ -193,16 +190,6 @@ TEST(PublishDevices, DrivesAreListedControllerByControllerInListOrder) {
   host.Run(PublishDiskDrives, kDiskDrive);
   EXPECT_EQ(host.nameSpace.Published(kDiskDrive, "DeviceID"),
             (Properties{"C1 CH0 I09:", "C1 CH0 I04:", "C0 CH0 I09:", "C0 CH0 I04:"}));
-}
-
-TEST(PublishCommon, AControllerListThatCannotBeReadIsLoggedAndCountsAsEmpty) {
-  RecordingLog log;
-  const ControllerList read =
-      ReadControllers(&log, []() -> ControllerList { throw std::runtime_error("out of order"); });
-  EXPECT_TRUE(read.empty());
-  EXPECT_EQ(log.entries, (std::vector<LogEntry>{
-                             {3, "GetControllers() Failed: inside ZxPlugin"}
-  }));
 }
 
 }  // namespace
