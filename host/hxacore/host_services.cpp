@@ -43,7 +43,7 @@ ILogger* TRootObject::GetCoreLogger() { return &State().logger; }
 std::string TOSSpecific::GetMachineName() { return CurrentServices().machineName(); }
 TCIMDateTime TOSSpecific::GetLocalTime() { return CurrentServices().localTime(); }
 std::string TOSSpecific::SpawnProcess(std::string path, std::vector<std::string> arguments, int limitSeconds) {
-  return CurrentServices().spawn(path, arguments, limitSeconds);
+  return CurrentServices().spawn(path, arguments, limitSeconds).output;
 }
 std::string TOSSpecific::CaptureFile(std::string path) { return CurrentServices().capture(path); }
 

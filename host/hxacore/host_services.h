@@ -6,17 +6,20 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "host/hxacore/spawn_result.h"
 #include "plugin/host_interface/cim.h"
 #include "plugin/host_interface/date_time.h"
 #include "plugin/host_interface/export.h"
 
 namespace NKVRHXA20 {
 
+using SpawnFunction =
+    std::function<SpawnResult(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds)>;
+
 // All that plug-ins get from outside comes through one value of this kind. A program replaces it, whole or in part, to
 // script, record or replay.
 struct HostServices {
-  std::function<std::string(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds)>
-      spawn;
+  SpawnFunction spawn;
   std::function<std::string(const std::string& path)> capture;
   std::function<std::string()> machineName;
   std::function<TCIMDateTime()> localTime;
