@@ -1,5 +1,6 @@
 #include "host/hxahost/json_view.h"
 
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -50,6 +51,19 @@ Json EntryJson(const LoggedEntry& entry) {
   return json;
 }
 
+Json RunJson(const ToolRun& run) {
+  Json json = Json::object();
+  json["command"] = AsUtf8(run.path);
+  json["arguments"] = Json::array();
+  for (const std::string& argument : run.arguments) json["arguments"].push_back(AsUtf8(argument));
+  json["seconds"] = std::round(run.seconds * 1000) / 1000;
+  json["exitStatus"] = run.exitStatus ? Json(*run.exitStatus) : Json();
+  json["bytes"] = run.bytes;
+  json["outcome"] = OutcomeWord(run.outcome);
+  json["failure"] = run.failure;
+  return json;
+}
+
 // Line feeds within strings are escapes, so each one here ends a line of the layout.
 void WriteIndented(std::ostream& out, const Json& json, std::string_view indent) {
   const std::string text = json.dump(2);
@@ -82,11 +96,15 @@ void BeginJson(std::ostream& out, const QueryHeader& header) {
   out << "{\n  \"format\": 1,\n  \"machine\": " << Json(AsUtf8(header.machine)).dump() << ",\n  \"queries\": [";
 }
 
-void WriteQueryJson(std::ostream& out, const QueryHeader&, const QueryResult& result) {
+void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   out << (result.number == 1 ? "\n    {\n" : ",\n    {\n");
   WriteArray(out, "instances", result.instances, [](const auto& instance) { return InstanceJson(*instance); });
   out << ",\n";
   WriteArray(out, "log", result.log, EntryJson);
+  if (header.withRuns) {
+    out << ",\n";
+    WriteArray(out, "runs", result.runs, RunJson);
+  }
   out << "\n    }";
 }
 

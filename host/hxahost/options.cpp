@@ -111,6 +111,7 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
       ->type_name("NAME");
   query->add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
       ->type_name("CIMDATETIME");
+  query->add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query->add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
   query->footer(kExamples);
   return query;

@@ -21,6 +21,7 @@ struct QueryOptions {
   std::optional<std::uint16_t> osType;
   std::optional<std::string> machineName;
   std::optional<NKVRHXA20::TCIMDateTime> localTime;
+  bool showRuns = false;
   bool showProgress = true;
 };
 

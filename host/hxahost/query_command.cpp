@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/hxacore/host_services.h"
@@ -76,7 +77,8 @@ std::vector<boost::shared_ptr<ICIMClass>> Classes(ICIMNamespace& nameSpace, cons
 
 QueryHeader MakeHeader(const QueryOptions& options, const std::vector<std::string>& classes) {
   const HostServices& services = CurrentServices();
-  return {services.machineName(), Utf8FromPath(fs::current_path()), services.localTime(), classes, options.repeat};
+  return {services.machineName(), Utf8FromPath(fs::current_path()), services.localTime(), classes, options.repeat,
+          options.showRuns};
 }
 
 // Everything that a query needs, in the order in which it is set up.
@@ -85,7 +87,7 @@ class Session {
   Session(const QueryOptions& options, const Paths& paths, std::ostream& err)
       : log_(paths.log),
         progress_(options.showProgress && StandardErrorIsTerminal() ? std::make_unique<Progress>(err) : nullptr),
-        services_(options, log_, progress_.get()),
+        services_(options, log_, runs_, progress_.get()),
         plugin_(paths.plugin),
         repository_(TRepository::Make(options.osType)) {}
 
@@ -96,7 +98,7 @@ class Session {
     for (unsigned number = 1; number <= header.queryCount; ++number) {
       repository_->BeginQuery(classes);
       plugin_.Query(repository_, classes);
-      view.Query(out, header, {number, repository_->Published(), log_.Take()});
+      view.Query(out, header, {number, repository_->Published(), log_.Take(), std::exchange(runs_, {})});
     }
     view.End(out, header);
     progress_.reset();
@@ -105,6 +107,7 @@ class Session {
 
  private:
   QueryLog log_;
+  ToolRunList runs_;
   std::unique_ptr<Progress> progress_;
   SessionServices services_;
   Plugin plugin_;

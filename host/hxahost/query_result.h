@@ -6,6 +6,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "host/hxacore/repository.h"
+#include "host/hxahost/tool_run.h"
 #include "plugin/host_interface/date_time.h"
 
 namespace hxahost {
@@ -17,6 +18,7 @@ struct QueryHeader {
   NKVRHXA20::TCIMDateTime time;
   std::vector<std::string> classes;  // asked for, in their order, under their declared names
   unsigned queryCount = 1;
+  bool withRuns = false;  // what programs read has the runs of the tools
 };
 
 // One entry of the plug-in's log.
@@ -32,6 +34,7 @@ struct QueryResult {
   unsigned number = 1;  // counted from 1
   InstanceList instances;
   std::vector<LoggedEntry> log;  // since the previous query ended
+  ToolRunList runs;              // since the previous query ended
 };
 
 }  // namespace hxahost

@@ -13,34 +13,35 @@ namespace {
 // Ends what runs however the command ends.
 class RunningCommand {
  public:
-  RunningCommand(Progress& progress, const std::string& path, const std::vector<std::string>& arguments)
+  RunningCommand(Progress* progress, const std::string& path, const std::vector<std::string>& arguments)
       : progress_(progress) {
+    if (progress_ == nullptr) return;
     std::string command = path;
     for (const std::string& argument : arguments) command += " " + argument;
-    progress_.Begin(command);
+    progress_->Begin(command);
   }
-  ~RunningCommand() { progress_.End(); }
+  ~RunningCommand() {
+    if (progress_ != nullptr) progress_->End();
+  }
   RunningCommand(const RunningCommand&) = delete;
   RunningCommand& operator=(const RunningCommand&) = delete;
 
  private:
-  Progress& progress_;
+  Progress* progress_;
 };
 
 }  // namespace
 
-SessionServices::SessionServices(const QueryOptions& options, QueryLog& log, Progress* progress) {
+SessionServices::SessionServices(const QueryOptions& options, QueryLog& log, ToolRunList& runs, Progress* progress) {
   HostServices services = RealServices();
   services.log = [&log](int level, const std::string& text) { log.Add(level, text); };
   if (options.machineName) services.machineName = [name = *options.machineName] { return name; };
   if (options.localTime) services.localTime = [time = *options.localTime] { return time; };
-  if (progress != nullptr) {
-    services.spawn = [spawn = services.spawn, progress](const std::string& path,
-                                                        const std::vector<std::string>& arguments, int limitSeconds) {
-      const RunningCommand running(*progress, path, arguments);
-      return spawn(path, arguments, limitSeconds);
-    };
-  }
+  services.spawn = [spawn = services.spawn, &runs, progress](
+                       const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+    const RunningCommand running(progress, path, arguments);
+    return SpawnAndRecord(spawn, path, arguments, limitSeconds, runs);
+  };
   SetServices(std::move(services));
 }
 

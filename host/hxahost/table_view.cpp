@@ -11,6 +11,7 @@
 #include "host/hxahost/record_sections.h"
 #include "host/hxahost/table.h"
 #include "host/hxahost/text.h"
+#include "host/hxahost/tool_summary.h"
 
 namespace hxahost {
 
@@ -19,25 +20,9 @@ namespace {
 // Commands that found nothing leave their raw texts behind all the same.
 bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != "KVRSG_zxRawData"; }
 
-// Every command says so in the log when its tool cannot be started; the same words once are enough.
-void WriteFailedRuns(std::ostream& out, const QueryResult& result) {
-  constexpr std::string_view kToolFolder = "zenx//";
-  std::map<std::string, unsigned> lines;
-  for (const LoggedEntry& entry : result.log) {
-    if (entry.text.find(kToolFolder) != std::string::npos) ++lines[Printable(entry.text)];
-  }
-  if (lines.empty()) return;
-  out << "Tools could not be run. Is the folder zenx with them in the directory named above? The log says:\n";
-  for (const auto& [text, times] : lines) {
-    const std::string suffix = times == 1 ? "" : " (" + std::to_string(times) + " times)";
-    out << "  " << CutToWidth(text, kViewWidth - 2 - suffix.size()) << suffix << '\n';
-  }
-}
-
 void WriteNothingFound(std::ostream& out, const QueryResult& result) {
   if (std::ranges::any_of(result.instances, [](const auto& instance) { return IsFound(*instance); })) return;
   out << "\nNothing was found: no controller, no drive and no log record of the classes asked for.\n";
-  WriteFailedRuns(out, result);
 }
 
 void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
@@ -68,6 +53,7 @@ void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryR
   WriteRecordSections(out, result.instances);
   WriteRawTextSummary(out, result.instances);
   WriteCounts(out, header, result);
+  WriteToolSummaries(out, header, result);
 }
 
 void EndTables(std::ostream&, const QueryHeader&) {}

@@ -1,0 +1,110 @@
+#include "host/hxahost/tool_answer.h"
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+
+#include "host/hxahost/text.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::string_view kWords[] = {"ok", "refused", "empty", "failed", "cut off", "timed out", "not started"};
+static_assert(std::size(kWords) == static_cast<std::size_t>(Outcome::kNotStarted) + 1);
+
+// The command that asks for a controller as a whole: its answer decides whether the plug-in takes the controller.
+constexpr std::string_view kProbe = "getconfig";
+constexpr std::string_view kControllerHeading = "Controller information";
+
+// Every answer of every utility ends in this line.
+constexpr std::string_view kClosing = "Command completed successfully";
+
+struct Sign {
+  std::string_view text;
+  Outcome outcome;
+};
+
+constexpr Sign kQcmdrunSigns[] = {
+    {"Found 0 KVR Zentraxis controller(s)", Outcome::kRefused},
+    {"Command aborted",                     Outcome::kRefused},
+};
+
+constexpr Sign kHrconfSigns[] = {
+    {"Controllers found: 0",      Outcome::kRefused},
+    {"Invalid controller number", Outcome::kRefused},
+};
+
+// A driver that is too old for the utility keeps a controller from being read: it is there all the same.
+constexpr Sign kArcconfSigns[] = {
+    {"Driver Update Required",    Outcome::kFailed },
+    {"Controllers found: 0",      Outcome::kRefused},
+    {"Invalid controller number", Outcome::kRefused},
+};
+
+struct Tool {
+  std::string_view name;
+  std::span<const Sign> signs;
+};
+
+constexpr Tool kTools[] = {
+    {"qcmdrun",   kQcmdrunSigns},
+    {"hrconf_64", kHrconfSigns },
+    {"arcconf",   kArcconfSigns},
+};
+
+bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+
+// The whole line in which the text at this place stands.
+std::string LineAt(std::string_view text, std::size_t place) {
+  const std::size_t before = text.rfind('\n', place);
+  const std::size_t first = before == text.npos ? 0 : before + 1;
+  constexpr std::size_t kWidest = 200;
+  return CutToWidth(Printable(text.substr(first, text.find('\n', place) - first)), kWidest);
+}
+
+// A log may quote any text; a complete answer to another command is no refusal for having it.
+const Sign* FindSign(std::span<const Sign> signs, bool isProbe, std::string_view output) {
+  if (!isProbe && Contains(output, kClosing)) return nullptr;
+  const auto sign = std::ranges::find_if(signs, [output](const Sign& each) { return Contains(output, each.text); });
+  return sign == signs.end() ? nullptr : &*sign;
+}
+
+std::string LastLine(std::string_view output) {
+  const std::size_t end = output.find_last_not_of(" \t\r\n");
+  return end == output.npos ? "" : LineAt(output, end);
+}
+
+}  // namespace
+
+std::string_view OutcomeWord(Outcome outcome) { return kWords[static_cast<std::size_t>(outcome)]; }
+
+std::string ToolName(std::string_view path) {
+  const std::size_t slash = path.find_last_of("/\\");
+  std::string_view name = slash == path.npos ? path : path.substr(slash + 1);
+  if (name.ends_with(".exe")) name.remove_suffix(4);
+  return std::string(name);
+}
+
+std::vector<std::string_view> KnownTools() {
+  std::vector<std::string_view> names;
+  for (const Tool& tool : kTools) names.push_back(tool.name);
+  return names;
+}
+
+ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output) {
+  if (output.find_first_not_of(" \t\r\n") == output.npos) return {Outcome::kEmpty, "it wrote nothing"};
+  const auto* const known = std::ranges::find(kTools, tool, &Tool::name);
+  if (known == std::end(kTools)) return {};
+  const bool isProbe = !arguments.empty() && arguments.front() == kProbe;
+  if (const Sign* const sign = FindSign(known->signs, isProbe, output)) {
+    return {sign->outcome, LineAt(output, output.find(sign->text))};
+  }
+  if (!Contains(output, kClosing)) return {Outcome::kCutOff, "its last line is \"" + LastLine(output) + "\""};
+  if (isProbe && !Contains(output, kControllerHeading)) {
+    return {Outcome::kFailed, "its answer has no \"" + std::string(kControllerHeading) + "\""};
+  }
+  return {};
+}
+
+}  // namespace hxahost
