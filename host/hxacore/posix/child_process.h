@@ -38,7 +38,7 @@ OutputEnd CollectOutput(const ChildProcess& child, Deadline deadline, std::strin
 // Whether the program has ended.
 bool HasEnded(const ChildProcess& child);
 
-// Waits for the program's end and lets go of its number.
-void Reap(const ChildProcess& child);
+// Waits for the program's end, lets go of its number and says how it ended, as waitpid does.
+int Reap(const ChildProcess& child);
 
 }  // namespace NKVRHXA20

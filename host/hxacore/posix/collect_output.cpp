@@ -97,9 +97,11 @@ bool HasEnded(const ChildProcess& child) {
   return failure != 0 ? errno == ECHILD : how.si_pid == child.pid;
 }
 
-void Reap(const ChildProcess& child) {
-  while (waitpid(child.pid, nullptr, 0) < 0 && errno == EINTR) {
+int Reap(const ChildProcess& child) {
+  int status = 0;
+  while (waitpid(child.pid, &status, 0) < 0 && errno == EINTR) {
   }
+  return status;
 }
 
 }  // namespace NKVRHXA20

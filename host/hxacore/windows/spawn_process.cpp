@@ -6,16 +6,18 @@
 
 namespace NKVRHXA20 {
 
-std::string SpawnProcess(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+SpawnResult SpawnProcess(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
   const ULONGLONG deadline = GetTickCount64() + ULONGLONG{1000} * static_cast<ULONGLONG>(std::max(limitSeconds, 0));
   const ChildProcess child = StartProcess(path, arguments);
-  std::string output;
-  const OutputEnd end = CollectOutput(child, deadline, output);
+  SpawnResult result;
+  const OutputEnd end = CollectOutput(child, deadline, result.output);
   if (end != OutputEnd::kComplete) EndProcessTree(child);
 
   if (end == OutputEnd::kTooLong) ThrowTooLong(path, limitSeconds);
   if (end == OutputEnd::kTooMuch) ThrowTooMuchOutput(path);
-  return output;
+  DWORD exitCode = 0;
+  if (GetExitCodeProcess(child.process.get(), &exitCode) != 0) result.exitStatus = exitCode;
+  return result;
 }
 
 }  // namespace NKVRHXA20
