@@ -1,0 +1,43 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "host/hxahost/text.h"
+#include "tests/support/file_text.h"
+#include "tests/support/hxahost_run.h"
+#include "tests/support/temporary_folder.h"
+
+// A copy of the sample machine, for a test to break. Answers are named "arcconf/1/getconfig-al".
+class MachineCopy {
+ public:
+  MachineCopy() { std::filesystem::copy(SampleMachine(), folder_.Path(), std::filesystem::copy_options::recursive); }
+
+  std::string Directory() const { return hxahost::Utf8FromPath(folder_.Path()); }
+
+  void RemoveTool(const std::string& tool) const { std::filesystem::remove(Zenx() / (tool + ".exe")); }
+
+  // From here on the tool has none of its controllers.
+  void RemoveControllers(const std::string& tool) const {
+    for (const auto& entry : std::filesystem::directory_iterator(Zenx() / "answers" / tool)) {
+      if (entry.is_directory()) std::filesystem::remove_all(entry.path());
+    }
+  }
+
+  std::string Answer(const std::string& name) const { return FileText(AnswerFile(name)); }
+  void SetAnswer(const std::string& name, std::string_view text) const {
+    folder_.Write(std::filesystem::relative(AnswerFile(name), folder_.Path()), text);
+  }
+  // Puts a text into the place of the first that is like another, which must be there.
+  void Replace(const std::string& name, const std::string& from, const std::string& to) const {
+    std::string text = Answer(name);
+    SetAnswer(name, text.replace(text.find(from), from.size(), to));
+  }
+
+ private:
+  std::filesystem::path Zenx() const { return folder_.Path() / "zenx"; }
+  std::filesystem::path AnswerFile(const std::string& name) const { return Zenx() / "answers" / (name + ".txt"); }
+
+  TemporaryFolder folder_;
+};

@@ -1,0 +1,97 @@
+#include "host/hxahost/tool_answer.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/support/tool_text.h"
+
+namespace {
+
+using hxahost::KnownTools;
+using hxahost::Outcome;
+using hxahost::OutcomeWord;
+using hxahost::ReadAnswer;
+using hxahost::ReadToolAnswer;
+using hxahost::ToolName;
+
+const std::vector<std::string> kProbe = {"getconfig", "1", "al"};
+const std::vector<std::string> kLog = {"getlogs", "1", "event"};
+const std::string kWhole = "Controller information\nCommand completed successfully.\n";
+
+TEST(ToolAnswer, TellsWhatAnAnswerAmountsTo) {
+  struct Case {
+    const char* name;
+    const char* tool;
+    std::vector<std::string> arguments;
+    std::string output;
+    Outcome outcome;
+    const char* reason;
+  };
+  const Case cases[] = {
+      {"a controller",                "arcconf",   kProbe, kWhole,                                                   Outcome::kOk,      ""                          },
+      {"a log",                       "arcconf",   kLog,   "x\nCommand completed successfully.\n",                   Outcome::kOk,      ""                          },
+      {"no arcconf controller",       "arcconf",   kProbe, "Controllers found: 0\n",                                 Outcome::kRefused, "Controllers found: 0"      },
+      {"no such arcconf controller",  "arcconf",   kProbe, "Controllers found: 2\nInvalid controller number.\n",
+       Outcome::kRefused,                                                                                                               "Invalid controller number."},
+      {"no hrconf controller",        "hrconf_64", kProbe, "Controllers found: 0\n",                                 Outcome::kRefused,
+       "Controllers found: 0"                                                                                                                                       },
+      {"no such hrconf controller",   "hrconf_64", kProbe, "Invalid controller number.\n",                           Outcome::kRefused,
+       "Invalid controller number."                                                                                                                                 },
+      {"no qcmdrun controller",       "qcmdrun",   kProbe, "Found 0 KVR Zentraxis controller(s)\n",                  Outcome::kRefused,
+       "Found 0 KVR Zentraxis controller(s)"                                                                                                                        },
+      {"no such qcmdrun controller",  "qcmdrun",   kProbe, "Not in use.\n  Command aborted.\n",                      Outcome::kRefused,
+       "Command aborted."                                                                                                                                           },
+      {"another tool's refusal",      "qcmdrun",   kProbe, "Controllers found: 0\n" + kWhole,                        Outcome::kOk,      ""                          },
+      {"refusal in a complete probe", "arcconf",   kProbe, "Controllers found: 0\n" + kWhole,                        Outcome::kRefused,
+       "Controllers found: 0"                                                                                                                                       },
+      {"refusal quoted by a log",     "qcmdrun",   kLog,   "| Command aborted |\nCommand completed successfully.\n",
+       Outcome::kOk,                                                                                                                    ""                          },
+      {"refusal instead of a log",    "qcmdrun",   kLog,   "Command aborted.\n",                                     Outcome::kRefused, "Command aborted."          },
+      {"a driver that is too old",    "arcconf",   kProbe, "Controllers found: 1\nDriver Update Required\n",
+       Outcome::kFailed,                                                                                                                "Driver Update Required"    },
+      {"something else altogether",   "arcconf",   kProbe, "Command completed successfully.\n",                      Outcome::kFailed,
+       "its answer has no \"Controller information\""                                                                                                               },
+      {"nothing",                     "arcconf",   kProbe, "",                                                       Outcome::kEmpty,   "it wrote nothing"          },
+      {"blank lines alone",           "arcconf",   kLog,   " \n\t\n",                                                Outcome::kEmpty,   "it wrote nothing"          },
+      {"cut in a line",               "arcconf",   kProbe, "Controller information\n   Mod",                         Outcome::kCutOff,
+       "its last line is \"Mod\""                                                                                                                                   },
+      {"cut in the closing line",     "arcconf",   kLog,   "x\nCommand completed succ",                              Outcome::kCutOff,
+       "its last line is \"Command completed succ\""                                                                                                                },
+      {"a program nobody knows",      "other",     kProbe, "whatever",                                               Outcome::kOk,      ""                          },
+      {"no arguments",                "arcconf",   {},     "x\n",                                                    Outcome::kCutOff,  "its last line is \"x\""    },
+  };
+  for (const Case& each : cases) {
+    for (const std::string& output : {each.output, CrLf(each.output)}) {
+      const ReadAnswer answer = ReadToolAnswer(each.tool, each.arguments, output);
+      EXPECT_EQ(OutcomeWord(answer.outcome), OutcomeWord(each.outcome)) << each.name;
+      EXPECT_EQ(answer.reason, each.reason) << each.name;
+    }
+  }
+}
+
+TEST(ToolAnswer, NamesEachOutcomeInTheWordsThatProgramsRelyOn) {
+  EXPECT_EQ(OutcomeWord(Outcome::kOk), "ok");
+  EXPECT_EQ(OutcomeWord(Outcome::kRefused), "refused");
+  EXPECT_EQ(OutcomeWord(Outcome::kEmpty), "empty");
+  EXPECT_EQ(OutcomeWord(Outcome::kFailed), "failed");
+  EXPECT_EQ(OutcomeWord(Outcome::kCutOff), "cut off");
+  EXPECT_EQ(OutcomeWord(Outcome::kTimedOut), "timed out");
+  EXPECT_EQ(OutcomeWord(Outcome::kNotStarted), "not started");
+}
+
+TEST(ToolAnswer, LetsNoTerminalCommandThroughInAReason) {
+  const ReadAnswer answer = ReadToolAnswer("arcconf", kProbe, "\x1b[2J gone");
+  EXPECT_EQ(answer.reason, "its last line is \"\\x1b[2J gone\"");
+}
+
+TEST(ToolAnswer, NamesAToolByItsFileWithoutFolderAndSuffix) {
+  EXPECT_EQ(ToolName("zenx//arcconf.exe"), "arcconf");
+  EXPECT_EQ(ToolName("C:\\tools\\hrconf_64.exe"), "hrconf_64");
+  EXPECT_EQ(ToolName("qcmdrun"), "qcmdrun");
+  EXPECT_EQ(ToolName(""), "");
+  EXPECT_EQ(KnownTools(), (std::vector<std::string_view>{"qcmdrun", "hrconf_64", "arcconf"}));
+}
+
+}  // namespace

@@ -1,0 +1,135 @@
+#include "host/hxahost/tool_run.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <new>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "plugin/host_interface/exception.h"
+
+using namespace NKVRHXA20;
+
+namespace {
+
+using hxahost::ArgumentsText;
+using hxahost::Outcome;
+using hxahost::OutcomeWord;
+using hxahost::SpawnAndRecord;
+using hxahost::ToolRun;
+using hxahost::ToolRunList;
+
+constexpr int kLimit = 300;
+const std::vector<std::string> kArguments = {"getconfig", "1", "al"};
+const std::string kWhole = "Controller information\r\nCommand completed successfully.\r\n";
+
+ToolRun RecordOne(const SpawnFunction& spawn) {
+  ToolRunList runs;
+  try {
+    SpawnAndRecord(spawn, "zenx//arcconf.exe", kArguments, kLimit, runs);
+  } catch (const std::exception&) {
+    EXPECT_EQ(runs.size(), 1U);
+  }
+  return runs.at(0);
+}
+
+ToolRun RecordResult(const SpawnResult& result) {
+  return RecordOne([&result](const std::string&, const std::vector<std::string>&, int) { return result; });
+}
+
+ToolRun RecordFailure(SpawnFailure failure) {
+  return RecordOne([failure](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw TSpawnException(failure, "reason");
+  });
+}
+
+TEST(ToolRun, KeepsTheExactCommandAndTheSizeOfWhatItWrote) {
+  const ToolRun run = RecordResult(kWhole);
+  EXPECT_EQ(run.path, "zenx//arcconf.exe");
+  EXPECT_EQ(run.arguments, kArguments);
+  EXPECT_EQ(run.bytes, kWhole.size());
+  EXPECT_EQ(OutcomeWord(run.outcome), "ok");
+  EXPECT_EQ(run.failure, "");
+  EXPECT_FALSE(run.exitStatus.has_value());  // a text alone says nothing of it
+}
+
+TEST(ToolRun, HandsPathArgumentsAndLimitToTheServiceAndItsResultBack) {
+  ToolRunList runs;
+  const auto spawn = [](const std::string& path, const std::vector<std::string>& arguments, int limit) {
+    return path + " " + arguments.at(0) + " " + std::to_string(limit);
+  };
+  EXPECT_EQ(SpawnAndRecord(spawn, "tool", kArguments, kLimit, runs).output, "tool getconfig 300");
+}
+
+TEST(ToolRun, MeasuresHowLongTheServiceTook) {
+  const ToolRun run = RecordOne([](const std::string&, const std::vector<std::string>&, int) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    return kWhole;
+  });
+  EXPECT_GE(run.seconds, 0.019);
+  EXPECT_LT(run.seconds, 60);
+}
+
+TEST(ToolRun, CallsACompleteAnswerWithAnExitStatusFailed) {
+  SpawnResult result(kWhole);
+  result.exitStatus = 0;
+  EXPECT_EQ(OutcomeWord(RecordResult(result).outcome), "ok");
+  result.exitStatus = 3221225477;
+  const ToolRun run = RecordResult(result);
+  EXPECT_EQ(OutcomeWord(run.outcome), "failed");
+  EXPECT_EQ(run.exitStatus, 3221225477);
+  EXPECT_EQ(run.failure, "its exit status is 3221225477");
+}
+
+TEST(ToolRun, CallsACompleteAnswerOfAProgramThatASignalEndedFailed) {
+  SpawnResult result(kWhole);
+  result.ending = "signal 11";
+  const ToolRun run = RecordResult(result);
+  EXPECT_EQ(OutcomeWord(run.outcome), "failed");
+  EXPECT_FALSE(run.exitStatus.has_value());
+  EXPECT_EQ(run.failure, "it was ended by the system: signal 11");
+}
+
+TEST(ToolRun, LeavesARefusalARefusalWhateverTheExitStatus) {
+  SpawnResult result(std::string("Controllers found: 0\r\n"));
+  result.exitStatus = 1;
+  EXPECT_EQ(OutcomeWord(RecordResult(result).outcome), "refused");
+}
+
+TEST(ToolRun, TellsTheWaysApartInWhichNothingCame) {
+  EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotStarted).outcome), "not started");
+  EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kTooLong).outcome), "timed out");
+  EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kTooMuchOutput).outcome), "cut off");
+  EXPECT_EQ(RecordFailure(SpawnFailure::kTooLong).failure, "reason");
+}
+
+TEST(ToolRun, TakesAnyOtherFailureForARunThatWasNotStarted) {
+  const ToolRun run = RecordOne([](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw THXAException("no \x1b such file");
+  });
+  EXPECT_EQ(OutcomeWord(run.outcome), "not started");
+  EXPECT_EQ(run.failure, "no \\x1b such file");
+}
+
+TEST(ToolRun, LetsWhatTheServiceThrowsGoOnAsItIs) {
+  ToolRunList runs;
+  const auto failing = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw TSpawnException(SpawnFailure::kTooLong, "reason");
+  };
+  EXPECT_THROW(SpawnAndRecord(failing, "tool", {}, kLimit, runs), TSpawnException);
+  const auto outOfMemory = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw std::bad_alloc();
+  };
+  EXPECT_THROW(SpawnAndRecord(outOfMemory, "tool", {}, kLimit, runs), std::bad_alloc);
+  EXPECT_EQ(runs.size(), 2U);
+}
+
+TEST(ToolRun, WritesItsArgumentsOnOneLine) {
+  ToolRun run;
+  run.arguments = {"getlogs", "1", "a\nb"};
+  EXPECT_EQ(ArgumentsText(run), "getlogs 1 a\\nb");
+}
+
+}  // namespace
