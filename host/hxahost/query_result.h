@@ -34,7 +34,7 @@ struct QueryResult {
   unsigned number = 1;  // counted from 1
   InstanceList instances;
   std::vector<LoggedEntry> log;  // since the previous query ended
-  ToolRunList runs;              // since the previous query ended
+  ToolRunList runs = {};         // since the previous query ended
 };
 
 }  // namespace hxahost

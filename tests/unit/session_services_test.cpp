@@ -18,7 +18,8 @@ TEST(SessionServices, GiveWhatTheOptionsReplace) {
   options.machineName = "OTHER";
   options.localTime = TCIMDateTime("20260305123015.250000+060");
   QueryLog log({});
-  const SessionServices services(options, log, nullptr);
+  ToolRunList runs;
+  const SessionServices services(options, log, runs, nullptr);
   EXPECT_EQ(TOSSpecific::GetMachineName(), "OTHER");
   EXPECT_EQ(TOSSpecific::GetLocalTime().ToString(), "20260305123015.250000+060");
 }
@@ -26,7 +27,8 @@ TEST(SessionServices, GiveWhatTheOptionsReplace) {
 TEST(SessionServices, KeepTheLogWhileTheyLive) {
   QueryLog log({});
   {
-    const SessionServices services({}, log, nullptr);
+    ToolRunList runs;
+    const SessionServices services({}, log, runs, nullptr);
     TRootObject::GetCoreLogger()->Log(100, "text");
   }
   TRootObject::GetCoreLogger()->Log(3, "afterwards");
@@ -38,7 +40,8 @@ TEST(SessionServices, KeepTheLogWhileTheyLive) {
 
 TEST(SessionServices, LeaveNameAndClockOfTheSystemWhereNothingReplacesThem) {
   QueryLog log({});
-  const SessionServices services({}, log, nullptr);
+  ToolRunList runs;
+  const SessionServices services({}, log, runs, nullptr);
   EXPECT_EQ(TOSSpecific::GetMachineName(), RealServices().machineName());
   EXPECT_EQ(TOSSpecific::GetLocalTime().ToString().substr(0, 8), RealServices().localTime().ToString().substr(0, 8));
 }
@@ -48,10 +51,21 @@ TEST(SessionServices, ShowTheCommandThatRunsAlsoWhenItFails) {
   QueryLog log({});
   {
     Progress progress(terminal);
-    const SessionServices services({}, log, &progress);
+    ToolRunList runs;
+    const SessionServices services({}, log, runs, &progress);
     EXPECT_THROW(TOSSpecific::SpawnProcess("no//such.exe", {"getconfig", "1", "al"}, 300), THXAException);
   }
   EXPECT_THAT(terminal.str(), testing::StartsWith("\rno//such.exe getconfig 1 al\r"));
+}
+
+TEST(SessionServices, KeepTheRunsOfTools) {
+  QueryLog log({});
+  ToolRunList runs;
+  const SessionServices services({}, log, runs, nullptr);
+  EXPECT_THROW(CurrentServices().spawn("no//such.exe", {"getconfig", "1"}, 300), THXAException);
+  ASSERT_EQ(runs.size(), 1U);
+  EXPECT_EQ(runs[0].path, "no//such.exe");
+  EXPECT_EQ(OutcomeWord(runs[0].outcome), "not started");
 }
 
 }  // namespace

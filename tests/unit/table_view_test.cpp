@@ -49,6 +49,11 @@ Versions
   KVRSG_zxFirmwareVersion         1
   KVRSG_zxSCSIProtocolController  1
   KVRSG_zxDiskDrive               0
+
+Runs of the tools
+  qcmdrun: not run
+  hrconf_64: not run
+  arcconf: not run
 )");
 }
 
@@ -57,32 +62,35 @@ TEST(TableView, SaysWhenNothingWasFoundAndWhichToolsCouldNotBeRun) {
   repository.Publish("KVRSG_zxRawData", {
                                             {"Command", "zenx//hrconf_64.exe getversion  nuthin"}
   });
-  const std::vector<LoggedEntry> log = {
-      {3, " QCMDRUN is using Spawnprocess. Controller# :1 opt1: getconfig opt2: al"},
-      {3, "Qcmdrun aborted: zenx//qcmdrun.exe: No such file or directory"          },
-      {3, "Qcmdrun aborted: zenx//qcmdrun.exe: No such file or directory"          },
-      {3, "hrconf aborted: zenx//hrconf_64.exe: Permission denied\r\n"             },
-  };
+  ToolRun run;
+  run.path = "zenx//qcmdrun.exe";
+  run.arguments = {"getconfig", "1", "al"};
+  run.outcome = Outcome::kNotStarted;
+  run.failure = "zenx//qcmdrun.exe: No such file or directory";
   EXPECT_EQ(Tables(Header({
                        "KVRSG_zxRawData"
   }),
-                   {QueryResult{1, repository.Instances(), log}}),
+                   {QueryResult{1, repository.Instances(), {}, {run, run}}}),
             R"(RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in C:\tools
 
 Nothing was found: no controller, no drive and no log record of the classes asked for.
-Tools could not be run. Is the folder zenx with them in the directory named above? The log says:
-  Qcmdrun aborted: zenx//qcmdrun.exe: No such file or directory (2 times)
-  hrconf aborted: zenx//hrconf_64.exe: Permission denied
 
   Raw texts of         Commands  Answered  Lines
   zenx//hrconf_64.exe  1         0         0
 
   Class asked for  Instances
   KVRSG_zxRawData  1
+
+Runs of the tools
+  qcmdrun: 2 runs, no controller answered, 2 not started, 0.0 s
+    not started (2 runs, the first getconfig 1 al): zenx//qcmdrun.exe: No such file or directory
+  hrconf_64: not run
+  arcconf: not run
+  Tools belong into the folder zenx of C:\tools.
 )");
 }
 
-TEST(TableView, BlamesNoToolWhenAllOfThemRan) {
+TEST(TableView, BlamesNoToolThatWasNotRun) {
   EXPECT_EQ(Tables(Header({
                        "KVRSG_zxDiskDrive"
   }),
@@ -93,6 +101,11 @@ Nothing was found: no controller, no drive and no log record of the classes aske
 
   Class asked for    Instances
   KVRSG_zxDiskDrive  0
+
+Runs of the tools
+  qcmdrun: not run
+  hrconf_64: not run
+  arcconf: not run
 )");
 }
 
@@ -116,10 +129,18 @@ Query 1 of 2
 Nothing was found: no controller, no drive and no log record of the classes asked for.
 
 
+Runs of the tools
+  qcmdrun: not run
+  hrconf_64: not run
+  arcconf: not run
+
 Query 2 of 2
 
 Nothing was found: no controller, no drive and no log record of the classes asked for.
 
+
+Runs of the tools
+  none: the answers are those of the first query
 )");
 }
 
