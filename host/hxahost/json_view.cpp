@@ -8,6 +8,7 @@
 
 #include "host/hxacore/value_reader.h"
 #include "host/hxahost/text.h"
+#include "host/hxahost/unread_lines.h"
 
 using namespace NKVRHXA20;
 
@@ -64,6 +65,19 @@ Json RunJson(const ToolRun& run) {
   return json;
 }
 
+Json UnreadJson(const UnreadText& text) {
+  Json json = Json::object();
+  json["command"] = AsUtf8(text.command);
+  json["lines"] = Json::array();
+  for (std::size_t index = 0; index < text.unread.size(); ++index) {
+    Json line = Json::object();
+    line["number"] = text.unread[index] + 1;
+    line["text"] = AsUtf8(text.unreadLines[index]);
+    json["lines"].push_back(std::move(line));
+  }
+  return json;
+}
+
 // Line feeds within strings are escapes, so each one here ends a line of the layout.
 void WriteIndented(std::ostream& out, const Json& json, std::string_view indent) {
   const std::string text = json.dump(2);
@@ -104,6 +118,10 @@ void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryRes
   if (header.withRuns) {
     out << ",\n";
     WriteArray(out, "runs", result.runs, RunJson);
+  }
+  if (header.withUnread) {
+    out << ",\n";
+    WriteArray(out, "unread", FindUnreadLines(result.instances), UnreadJson);
   }
   out << "\n    }";
 }

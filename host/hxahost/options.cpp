@@ -112,6 +112,7 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
   query->add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
       ->type_name("CIMDATETIME");
   query->add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
+  query->add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
   query->add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
   query->footer(kExamples);
   return query;
@@ -129,6 +130,11 @@ QueryOptions Read(const CLI::App& query, const TypedOptions& typed) {
   RejectEmptyValues(query);
   QueryOptions options = typed.read;
   CheckFormat(options.format);
+  if (options.showUnread && !options.classes.empty()) {
+    throw ProgramError(
+        ExitStatus::kWrongArguments,
+        "--unread needs every class: leave --class out, or what was not asked for would count as unread.");
+  }
   options.repeat = ReadRepeat(typed.repeat);
   options.osType = ReadOsType(typed.osType);
   if (!typed.machineName.empty()) options.machineName = typed.machineName;

@@ -22,6 +22,7 @@ struct QueryOptions {
   std::optional<std::string> machineName;
   std::optional<NKVRHXA20::TCIMDateTime> localTime;
   bool showRuns = false;
+  bool showUnread = false;
   bool showProgress = true;
 };
 

@@ -77,8 +77,10 @@ std::vector<boost::shared_ptr<ICIMClass>> Classes(ICIMNamespace& nameSpace, cons
 
 QueryHeader MakeHeader(const QueryOptions& options, const std::vector<std::string>& classes) {
   const HostServices& services = CurrentServices();
-  return {services.machineName(), Utf8FromPath(fs::current_path()), services.localTime(), classes, options.repeat,
-          options.showRuns};
+  return {services.machineName(), Utf8FromPath(fs::current_path()),
+          services.localTime(),   classes,
+          options.repeat,         options.showRuns,
+          options.showUnread};
 }
 
 // Everything that a query needs, in the order in which it is set up.

@@ -18,7 +18,8 @@ struct QueryHeader {
   NKVRHXA20::TCIMDateTime time;
   std::vector<std::string> classes;  // asked for, in their order, under their declared names
   unsigned queryCount = 1;
-  bool withRuns = false;  // what programs read has the runs of the tools
+  bool withRuns = false;    // what programs read has the runs of the tools
+  bool withUnread = false;  // lines of the raw texts that no property shows are listed
 };
 
 // One entry of the plug-in's log.

@@ -12,6 +12,7 @@
 #include "host/hxahost/table.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/tool_summary.h"
+#include "host/hxahost/unread_view.h"
 
 namespace hxahost {
 
@@ -54,6 +55,7 @@ void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryR
   WriteRawTextSummary(out, result.instances);
   WriteCounts(out, header, result);
   WriteToolSummaries(out, header, result);
+  if (header.withUnread) WriteUnreadLines(out, result.instances);
 }
 
 void EndTables(std::ostream&, const QueryHeader&) {}

@@ -1,0 +1,36 @@
+#include "host/hxahost/unread_view.h"
+
+#include <string>
+#include <vector>
+
+#include "host/hxahost/table.h"
+#include "host/hxahost/text.h"
+#include "host/hxahost/unread_lines.h"
+
+namespace hxahost {
+
+namespace {
+
+std::size_t CountLines(const std::vector<UnreadText>& texts) {
+  std::size_t count = 0;
+  for (const UnreadText& text : texts) count += text.unread.size();
+  return count;
+}
+
+void WriteText(std::ostream& out, const UnreadText& text) {
+  out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), kViewWidth) << '\n';
+  for (std::size_t index = 0; index < text.unread.size(); ++index) {
+    const std::string line = std::to_string(text.unread[index] + 1) + "  " + Printable(text.unreadLines[index]);
+    out << CutToWidth("    " + line, kViewWidth) << '\n';
+  }
+}
+
+}  // namespace
+
+void WriteUnreadLines(std::ostream& out, const InstanceList& instances) {
+  const std::vector<UnreadText> texts = FindUnreadLines(instances);
+  out << "\nLines of the tools' texts that nothing above shows: " << CountLines(texts) << '\n';
+  for (const UnreadText& text : texts) WriteText(out, text);
+}
+
+}  // namespace hxahost
