@@ -6,6 +6,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "host/hxahost/diff_view.h"
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/views.h"
@@ -118,6 +119,21 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
   return query;
 }
 
+std::string DiffFormatNames() {
+  std::string names;
+  for (const DiffView& view : DiffViews()) names += (names.empty() ? "" : " or ") + std::string(view.format);
+  return names;
+}
+
+CLI::App* AddDiff(CLI::App& program, DiffOptions& read) {
+  CLI::App* const diff = program.add_subcommand("diff", "Show what is different between two JSON results");
+  diff->add_option("OLD", read.oldFile, "What \"hxahost query --format json --output OLD\" wrote first")->required();
+  diff->add_option("NEW", read.newFile, "What it wrote later")->required();
+  diff->add_option("--format", read.format, DiffFormatNames())->type_name("FORMAT")->capture_default_str();
+  diff->footer("Exit status: 0 nothing is different, 1 something is, 2 it could not be told.");
+  return diff;
+}
+
 void RejectEmptyValues(const CLI::App& query) {
   for (const CLI::Option* const option : query.get_options()) {
     if (option->get_type_size() > 0 && std::ranges::count(option->results(), std::string()) > 0) {
@@ -143,6 +159,12 @@ QueryOptions Read(const CLI::App& query, const TypedOptions& typed) {
   return options;
 }
 
+DiffOptions ReadDiff(const CLI::App& diff, const DiffOptions& read) {
+  RejectEmptyValues(diff);
+  if (FindDiffView(read.format) == nullptr) Reject("--format", read.format, "give " + DiffFormatNames() + ".");
+  return read;
+}
+
 }  // namespace
 
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
@@ -155,6 +177,8 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   const CLI::App* const query = AddQuery(program, typed);
   const CLI::App* const classes = program.add_subcommand("classes", "List the classes that the plug-in publishes");
   program.add_subcommand("schema", "Show these classes as MOF");
+  DiffOptions typedDiff;
+  const CLI::App* const diff = AddDiff(program, typedDiff);
   try {
     program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::CallForHelp&) {
@@ -162,10 +186,13 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   } catch (const CLI::CallForVersion& version) {
     return {Command::kShowText, std::string(version.what()) + "\n", {}};
   } catch (const CLI::ParseError& error) {
-    const std::string help = query->parsed() ? "hxahost query --help" : "hxahost --help";
+    const std::string help = query->parsed()  ? "hxahost query --help"
+                             : diff->parsed() ? "hxahost diff --help"
+                                              : "hxahost --help";
     throw ProgramError(ExitStatus::kWrongArguments, Printable(error.what()) + ": see " + help + ".");
   }
   if (query->parsed()) return {Command::kQuery, "", Read(*query, typed)};
+  if (diff->parsed()) return {Command::kDiff, "", {}, ReadDiff(*diff, typedDiff)};
   return {classes->parsed() ? Command::kClasses : Command::kSchema, "", {}};
 }
 

@@ -26,12 +26,20 @@ struct QueryOptions {
   bool showProgress = true;
 };
 
-enum class Command { kShowText, kQuery, kClasses, kSchema };
+// What "hxahost diff" is asked for: two results that were written before.
+struct DiffOptions {
+  std::string oldFile;
+  std::string newFile;
+  std::string format = "text";
+};
+
+enum class Command { kShowText, kQuery, kClasses, kSchema, kDiff };
 
 struct CommandLine {
   Command command = Command::kShowText;
   std::string text;  // to be shown: the help or the version
   QueryOptions query;
+  DiffOptions diff = {};
 };
 
 // Reads the arguments that follow the program's name. Throws ProgramError for wrong ones.

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+// Results that "hxahost query --format json" wrote earlier.
+namespace hxahost {
+
+// One published instance. Texts are UTF-8, as the file holds them.
+struct ResultInstance {
+  std::string className;
+  std::string path;
+  nlohmann::ordered_json properties;  // an object
+};
+
+struct JsonResult {
+  std::string machine;
+  std::vector<ResultInstance> instances;  // of the last query
+};
+
+// Throws ProgramError (wrong arguments) for a file that cannot be read and for one that is no such result.
+JsonResult ReadJsonResult(const std::filesystem::path& file);
+
+// The property as text; "" where it is not there.
+std::string ResultText(const ResultInstance& instance, const std::string& property);
+
+}  // namespace hxahost
