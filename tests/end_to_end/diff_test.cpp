@@ -1,0 +1,100 @@
+// "hxahost diff" on results of the sample machine: unchanged, and with a disk that failed and one that was taken out.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "tests/support/hxahost_run.h"
+#include "tests/support/machine_copy.h"
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class Diff : public testing::Test {
+ protected:
+  // Writes what the machine gives and names the file.
+  std::string Collect(const std::string& directory, const std::string& name) const {
+    const std::string file = Utf8(name);
+    const ProgramResult result =
+        RunHxahost({"query", "--format", "json", "--directory", directory, "--output", file, "--machine-name", "M"});
+    EXPECT_EQ(result.exitStatus, 0) << result.err;
+    return file;
+  }
+  std::string Utf8(const std::string& name) const { return hxahost::Utf8FromPath(folder_.Path() / name); }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(Diff, EndsWithStatus0WhereOnlyTimeHasPassed) {
+  const std::string first = Collect(hxahost::Utf8FromPath(SampleMachine()), "1.json");
+  const std::string second = Collect(hxahost::Utf8FromPath(SampleMachine()), "2.json");
+  const ProgramResult result = RunHxahost({"diff", first, second});
+  EXPECT_EQ(result.exitStatus, 0);
+  EXPECT_THAT(result.out, HasSubstr(" (M): no difference.\n"));
+}
+
+TEST_F(Diff, ShowsAFailedDiskAndALostOneFirst) {
+  const MachineCopy machine;
+  const std::string before = Collect(machine.Directory(), "1.json");
+  machine.Replace("arcconf/1/getconfig-al", "State                              : Online",
+                  "State                              : Failed");
+  std::string text = machine.Answer("qcmdrun/1/getconfig-al");
+  const std::size_t disk = text.find("      Target on SCSI ID 5");
+  text.erase(disk, text.find("   Channel #2:") - disk);
+  machine.SetAnswer("qcmdrun/1/getconfig-al", text);
+  const std::string after = Collect(machine.Directory(), "2.json");
+
+  const ProgramResult shown = RunHxahost({"diff", before, after});
+  EXPECT_EQ(shown.exitStatus, 1);
+  EXPECT_THAT(shown.out,
+              HasSubstr(":\n\nDisappeared: 2\n  - KVRSG_zxDiskDrive.CreationClassName=\"KVRSG_zxDiskDrive\","
+                        "DeviceID=\"C1 CH1 I05:TALVERA T36LW10 S96H8B01290\"\n  - KVRSG_zxDiskDriveVersion."));
+  EXPECT_THAT(shown.out, HasSubstr("\n\nStates that changed: 1\n  ! KVRSG_zxDiskDrive."));
+  EXPECT_THAT(shown.out, HasSubstr(": State \"Online\" -> \"Failed\"\n"));
+  EXPECT_THAT(shown.out, HasSubstr("  ! zenx//qcmdrun.exe getconfig 1 al: 8 lines gone, 0 new\n"));
+
+  const Json json = Json::parse(RunHxahost({"diff", "--format", "json", before, after}).out);
+  EXPECT_EQ(json["format"], 1);
+  EXPECT_EQ(json["same"], false);
+  EXPECT_EQ(json["old"]["machine"], "M");
+  EXPECT_EQ(json["changes"][0]["kind"], "disappeared");
+  EXPECT_EQ(json["changes"][2]["group"], "state");
+  EXPECT_EQ(json["changes"][2]["old"], "Online");
+  EXPECT_EQ(json["changes"][2]["new"], "Failed");
+  EXPECT_EQ(json["rawTexts"].size(), 2U);
+}
+
+TEST_F(Diff, EndsWithStatus2AndOneLineWhereItCannotTell) {
+  const std::string foreign = hxahost::Utf8FromPath(folder_.Write("foreign.json", "{\"format\": \"other\"}"));
+  const std::string damaged = hxahost::Utf8FromPath(folder_.Write("damaged.json", "{\"format\": 1, "));
+  struct Case {
+    const char* name;
+    std::vector<std::string> arguments;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"no file",        {"diff"},                                       "hxahost diff --help"        },
+      {"one file",       {"diff", foreign},                              "hxahost diff --help"        },
+      {"three files",    {"diff", foreign, foreign, foreign},            "hxahost diff --help"        },
+      {"a missing file", {"diff", Utf8("missing.json"), foreign},        "missing.json cannot be read"},
+      {"a foreign file", {"diff", foreign, foreign},                     "foreign.json is no result"  },
+      {"a damaged file", {"diff", damaged, foreign},                     "damaged.json is no result"  },
+      {"a wrong format", {"diff", "--format", "html", foreign, foreign}, "give text or json"          },
+      {"an empty name",  {"diff", "", foreign},                          "give a value"               },
+  };
+  for (const Case& each : cases) {
+    const ProgramResult result = RunHxahost(each.arguments);
+    EXPECT_EQ(result.exitStatus, 2) << each.name;
+    EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << each.name << ": " << result.err;
+    EXPECT_THAT(result.err, StartsWith("hxahost: ")) << each.name;
+    EXPECT_THAT(result.err, HasSubstr(each.says)) << each.name;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,80 @@
+#include "host/hxahost/json_result.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "host/hxahost/exit_status.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+using hxahost::JsonResult;
+using hxahost::ReadJsonResult;
+
+constexpr const char* kWhole =
+    R"({"format": 1, "machine": "M", "queries": [{"instances": []}, {"instances": [
+        {"class": "C", "path": "P", "properties": {"Text": "t", "Number": 7}}], "log": []}]})";
+
+TEST(JsonResult, ReadsTheInstancesOfTheLastQuery) {
+  const TemporaryFolder folder;
+  const JsonResult result = ReadJsonResult(folder.Write("r.json", kWhole));
+  EXPECT_EQ(result.machine, "M");
+  ASSERT_EQ(result.instances.size(), 1U);
+  EXPECT_EQ(result.instances[0].className, "C");
+  EXPECT_EQ(result.instances[0].path, "P");
+  EXPECT_EQ(ResultText(result.instances[0], "Text"), "t");
+  EXPECT_EQ(ResultText(result.instances[0], "Number"), "7");
+  EXPECT_EQ(ResultText(result.instances[0], "Other"), "");
+}
+
+std::string Rejection(const std::filesystem::path& file) {
+  try {
+    ReadJsonResult(file);
+  } catch (const hxahost::ProgramError& error) {
+    EXPECT_EQ(error.Status(), hxahost::ExitStatus::kWrongArguments);
+    return error.what();
+  }
+  return "read";
+}
+
+TEST(JsonResult, RejectsWhatIsNoResultAndSaysWhy) {
+  struct Case {
+    const char* name;
+    const char* text;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"nothing",           "",                                                                             "damaged"               },
+      {"no JSON",           "<html>",                                                                       "damaged"               },
+      {"no object",         "[1]",                                                                          "an object is missing"  },
+      {"another program's", "{}",                                                                           "\"format\" is missing" },
+      {"a later format",    R"({"format": 2})",                                                             "its format is 2, not 1"},
+      {"no query",          R"({"format": 1, "machine": "M", "queries": []})",                              "it has no query"       },
+      {"a query of text",   R"({"format": 1, "machine": "M", "queries": ["x"]})",                           "an object is missing"  },
+      {"no machine",        R"({"format": 1, "queries": [{}]})",                                            "\"machine\" is missing"},
+      {"a bare instance",   R"({"format": 1, "machine": "M", "queries": [{"instances": [{"class": 1}]}]})",
+       "\"class\" is missing"                                                                                                       },
+  };
+  const TemporaryFolder folder;
+  for (const Case& each : cases) {
+    EXPECT_THAT(Rejection(folder.Write("r.json", each.text)), testing::HasSubstr(each.says)) << each.name;
+  }
+}
+
+TEST(JsonResult, RejectsAResultCutOffAnywhere) {
+  const TemporaryFolder folder;
+  const std::string whole = kWhole;
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    EXPECT_THAT(Rejection(folder.Write("r.json", whole.substr(0, length))), testing::HasSubstr("damaged")) << length;
+  }
+}
+
+TEST(JsonResult, RejectsAFileThatIsNotThere) {
+  const TemporaryFolder folder;
+  EXPECT_THAT(Rejection(folder.Path() / "missing.json"), testing::HasSubstr("cannot be read"));
+  EXPECT_THAT(Rejection(folder.Path()), testing::HasSubstr("cannot be read"));
+}
+
+}  // namespace
