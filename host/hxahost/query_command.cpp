@@ -94,15 +94,15 @@ class Session {
         repository_(TRepository::Make(options.osType)) {}
 
   // Queries and shows as often as the header says.
-  void Run(const View& view, const QueryHeader& header, std::ostream& out) {
+  void Run(const QueryDisplay& display, const QueryHeader& header, std::ostream& out) {
     const auto classes = Classes(*repository_, header.classes);
-    view.Begin(out, header);
+    display.begin(out, header);
     for (unsigned number = 1; number <= header.queryCount; ++number) {
       repository_->BeginQuery(classes);
       plugin_.Query(repository_, classes);
-      view.Query(out, header, {number, repository_->Published(), log_.Take(), std::exchange(runs_, {})});
+      display.query(out, header, {number, repository_->Published(), log_.Take(), std::exchange(runs_, {})});
     }
-    view.End(out, header);
+    display.end(out, header);
     progress_.reset();
     log_.Finish();
   }
@@ -118,7 +118,7 @@ class Session {
 
 }  // namespace
 
-void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
+void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
   const Paths paths = ReadPaths(options);
   const std::vector<std::string> classes = DeclaredNames(options.classes);
   for (const std::string& line : MissingDependencies(classes)) err << "hxahost: " << line << std::endl;
@@ -131,7 +131,7 @@ void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostrea
   });
   std::ostream& shown = file ? file->Stream() : out;
   try {
-    session.Run(*FindView(options.format), MakeHeader(options, classes), shown);
+    session.Run(display, MakeHeader(options, classes), shown);
   } catch (const ProgramError&) {
     throw;
   } catch (const std::exception& failure) {
@@ -139,6 +139,11 @@ void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostrea
                        "The query failed: " + Printable(failure.what()) + ". --log FILE shows how far it came.");
   }
   if (file) file->Finish();
+}
+
+void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
+  const View& view = *FindView(options.format);
+  RunQueries(options, {view.Begin, view.Query, view.End}, out, err);
 }
 
 }  // namespace hxahost
