@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <span>
 
 #include <CLI/CLI.hpp>
 
 #include "host/hxahost/diff_view.h"
 #include "host/hxahost/exit_status.h"
+#include "host/hxahost/health_views.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/views.h"
 #include "plugin/host_interface/exception.h"
@@ -26,6 +28,16 @@ constexpr const char* kExamples =
     "\n"
     "Exit status: 0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded.";
 
+constexpr const char* kHealthExamples =
+    "Examples:\n"
+    "  hxahost health                                                what is wrong, one line each, worst first\n"
+    "  hxahost health --directory C:\\tools                           with the tools in C:\\tools\\zenx\n"
+    "  hxahost health --format prometheus --output DIR/zenx.prom     for the node exporter's textfile collector\n"
+    "  hxahost health --rules                                        which words mean what\n"
+    "\n"
+    "Exit status, as monitoring programs want it: 0 nothing is wrong, 1 warning, 2 critical, 3 unknown. The worst\n"
+    "finding decides: critical over warning over unknown. What keeps the command from its answer is 3, too.";
+
 // Options as they were typed; their meaning is read when all of them are there.
 struct TypedOptions {
   QueryOptions read;
@@ -34,6 +46,8 @@ struct TypedOptions {
   std::string machineName;
   std::string localTime;
   bool noProgress = false;
+  std::string healthFormat = "text";
+  bool healthRules = false;
 };
 
 [[noreturn]] void Reject(const std::string& option, const std::string& typed, const std::string& whatToGive) {
@@ -73,48 +87,71 @@ NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text) {
   }
 }
 
-std::string FormatNames() {
+template <class AnyView>
+std::string FormatNames(std::span<const AnyView> views) {
   std::string names;
-  for (const View& view : Views()) names += (names.empty() ? "" : " or ") + std::string(view.format);
+  for (const AnyView& view : views) names += (names.empty() ? "" : " or ") + std::string(view.format);
   return names;
 }
 
-void CheckFormat(const std::string& format) {
-  if (FindView(format) == nullptr) Reject("--format", format, "give " + FormatNames() + ".");
+template <class AnyView>
+void CheckFormat(const std::string& format, std::span<const AnyView> views) {
+  if (std::ranges::find(views, format, &AnyView::format) == views.end()) {
+    Reject("--format", format, "give " + FormatNames(views) + ".");
+  }
+}
+
+// What every command that collects is told.
+void AddCollecting(CLI::App& command, TypedOptions& typed) {
+  QueryOptions& read = typed.read;
+  command.add_option("--plugin", read.plugin, "The plug-in to load (default: zenx.pi beside this program)")
+      ->type_name("FILE");
+  command.add_option("--directory", read.directory, "Where the folder zenx with the tools is (default: here)")
+      ->type_name("DIR");
+  command.add_option("--output", read.output, "Where to write (default: standard output); complete or not at all")
+      ->type_name("FILE");
+  command.add_option("--log", read.log, "Write the log there: one line for an entry, its level first")
+      ->type_name("FILE");
+  command
+      .add_option("--os-type", typed.osType,
+                  "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
+      ->type_name("N|none")
+      ->capture_default_str();
+  command.add_option("--machine-name", typed.machineName, "What the machine is called (default: its own name)")
+      ->type_name("NAME");
+  command.add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
+      ->type_name("CIMDATETIME");
+  command.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
+}
+
+CLI::App* AddHealth(CLI::App& program, TypedOptions& typed) {
+  CLI::App* const health = program.add_subcommand("health", "Say what is wrong with the controllers and their drives");
+  health
+      ->add_option("--format", typed.healthFormat,
+                   FormatNames(HealthViews()) + ": lines for people, JSON for programs, metrics")
+      ->type_name("FORMAT")
+      ->capture_default_str();
+  health->add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
+  AddCollecting(*health, typed);
+  health->footer(kHealthExamples);
+  return health;
 }
 
 CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
   CLI::App* const query = program.add_subcommand("query", "Run the controller utilities and show what they say");
   QueryOptions& read = typed.read;
-  query->add_option("--plugin", read.plugin, "The plug-in to load (default: zenx.pi beside this program)")
-      ->type_name("FILE");
-  query->add_option("--directory", read.directory, "Where the folder zenx with the tools is (default: here)")
-      ->type_name("DIR");
   query->add_option("--class", read.classes, "A class to ask for; may be given again, the order counts (default: all)")
       ->type_name("NAME")
       ->allow_extra_args(false);
   query->add_option("--repeat", typed.repeat, "How often to query; the tools are run by the first query alone")
       ->type_name("N")
       ->capture_default_str();
-  query->add_option("--format", read.format, FormatNames() + ": tables for people, JSON for programs")
+  query->add_option("--format", read.format, FormatNames(Views()) + ": tables for people, JSON for programs")
       ->type_name("FORMAT")
       ->capture_default_str();
-  query->add_option("--output", read.output, "Where to write (default: standard output); complete or not at all")
-      ->type_name("FILE");
-  query->add_option("--log", read.log, "Write the log there: one line for an entry, its level first")
-      ->type_name("FILE");
-  query
-      ->add_option("--os-type", typed.osType,
-                   "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
-      ->type_name("N|none")
-      ->capture_default_str();
-  query->add_option("--machine-name", typed.machineName, "What the machine is called (default: its own name)")
-      ->type_name("NAME");
-  query->add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
-      ->type_name("CIMDATETIME");
   query->add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query->add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
-  query->add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
+  AddCollecting(*query, typed);
   query->footer(kExamples);
   return query;
 }
@@ -142,15 +179,9 @@ void RejectEmptyValues(const CLI::App& query) {
   }
 }
 
-QueryOptions Read(const CLI::App& query, const TypedOptions& typed) {
+QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   RejectEmptyValues(query);
   QueryOptions options = typed.read;
-  CheckFormat(options.format);
-  if (options.showUnread && !options.classes.empty()) {
-    throw ProgramError(
-        ExitStatus::kWrongArguments,
-        "--unread needs every class: leave --class out, or what was not asked for would count as unread.");
-  }
   options.repeat = ReadRepeat(typed.repeat);
   options.osType = ReadOsType(typed.osType);
   if (!typed.machineName.empty()) options.machineName = typed.machineName;
@@ -165,6 +196,30 @@ DiffOptions ReadDiff(const CLI::App& diff, const DiffOptions& read) {
   return read;
 }
 
+CommandLine ReadQuery(const CLI::App& query, const TypedOptions& typed) {
+  CommandLine line{Command::kQuery, "", ReadCollecting(query, typed)};
+  CheckFormat(line.query.format, Views());
+  if (line.query.showUnread && !line.query.classes.empty()) {
+    throw ProgramError(
+        ExitStatus::kWrongArguments,
+        "--unread needs every class: leave --class out, or what was not asked for would count as unread.");
+  }
+  return line;
+}
+
+CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
+  CommandLine line{typed.healthRules ? Command::kHealthRules : Command::kHealth, "", ReadCollecting(health, typed)};
+  line.query.format = typed.healthFormat;
+  CheckFormat(line.query.format, HealthViews());
+  return line;
+}
+
+std::string HelpOf(const CLI::App& query, const CLI::App& health, const CLI::App& diff) {
+  if (query.parsed()) return "hxahost query --help";
+  if (health.parsed()) return "hxahost health --help";
+  return diff.parsed() ? "hxahost diff --help" : "hxahost --help";
+}
+
 }  // namespace
 
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
@@ -175,6 +230,7 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   program.footer(kExamples);
   TypedOptions typed;
   const CLI::App* const query = AddQuery(program, typed);
+  const CLI::App* const health = AddHealth(program, typed);
   const CLI::App* const classes = program.add_subcommand("classes", "List the classes that the plug-in publishes");
   program.add_subcommand("schema", "Show these classes as MOF");
   DiffOptions typedDiff;
@@ -186,12 +242,11 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   } catch (const CLI::CallForVersion& version) {
     return {Command::kShowText, std::string(version.what()) + "\n", {}};
   } catch (const CLI::ParseError& error) {
-    const std::string help = query->parsed()  ? "hxahost query --help"
-                             : diff->parsed() ? "hxahost diff --help"
-                                              : "hxahost --help";
-    throw ProgramError(ExitStatus::kWrongArguments, Printable(error.what()) + ": see " + help + ".");
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       Printable(error.what()) + ": see " + HelpOf(*query, *health, *diff) + ".");
   }
-  if (query->parsed()) return {Command::kQuery, "", Read(*query, typed)};
+  if (query->parsed()) return ReadQuery(*query, typed);
+  if (health->parsed()) return ReadHealth(*health, typed);
   if (diff->parsed()) return {Command::kDiff, "", {}, ReadDiff(*diff, typedDiff)};
   return {classes->parsed() ? Command::kClasses : Command::kSchema, "", {}};
 }

@@ -33,12 +33,12 @@ struct DiffOptions {
   std::string format = "text";
 };
 
-enum class Command { kShowText, kQuery, kClasses, kSchema, kDiff };
+enum class Command { kShowText, kQuery, kHealth, kHealthRules, kDiff, kClasses, kSchema };
 
 struct CommandLine {
   Command command = Command::kShowText;
-  std::string text;  // to be shown: the help or the version
-  QueryOptions query;
+  std::string text;    // to be shown: the help or the version
+  QueryOptions query;  // "hxahost health" takes those of a query that it has a use for
   DiffOptions diff = {};
 };
 

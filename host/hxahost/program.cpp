@@ -5,6 +5,8 @@
 #include "host/hxacore/schema.h"
 #include "host/hxahost/diff_command.h"
 #include "host/hxahost/exit_status.h"
+#include "host/hxahost/health_command.h"
+#include "host/hxahost/health_views.h"
 #include "host/hxahost/options.h"
 #include "host/hxahost/query_command.h"
 #include "host/hxahost/schema_view.h"
@@ -16,19 +18,29 @@ namespace {
 
 // Gives the exit status.
 int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
+  int status = static_cast<int>(ExitStatus::kDone);
   switch (commandLine.command) {
     case Command::kShowText: out << commandLine.text; break;
     case Command::kQuery: RunQueryCommand(commandLine.query, out, err); break;
+    case Command::kHealth: status = static_cast<int>(RunHealthCommand(commandLine.query, out, err)); break;
+    case Command::kHealthRules: WriteHealthRules(out); break;
     case Command::kClasses: WriteClassList(out, NKVRHXA20::PublishedClasses()); break;
     case Command::kSchema: WriteMof(out, NKVRHXA20::PublishedClasses()); break;
-    case Command::kDiff: return RunDiffCommand(commandLine.diff, out);
+    case Command::kDiff: status = RunDiffCommand(commandLine.diff, out); break;
   }
   out.flush();
   if (!out) {
     throw ProgramError(ExitStatus::kQueryFailed,
                        "Standard output could not be written: see whether there is room where it goes.");
   }
-  return static_cast<int>(ExitStatus::kDone);
+  return status;
+}
+
+// To a monitoring program 1 is a warning and 2 a disaster. What keeps "health" from its answer leaves the health
+// unknown.
+ExitStatus StatusFor(const std::vector<std::string>& arguments, ExitStatus status) {
+  const bool isHealth = !arguments.empty() && arguments.front() == "health";
+  return isHealth ? ExitStatus::kHealthUnknown : status;
 }
 
 int Fail(std::ostream& err, ExitStatus status, const std::string& message) {
@@ -42,9 +54,9 @@ int RunProgram(const std::vector<std::string>& arguments, std::ostream& out, std
   try {
     return Run(ParseCommandLine(arguments), out, err);
   } catch (const ProgramError& error) {
-    return Fail(err, error.Status(), error.what());
+    return Fail(err, StatusFor(arguments, error.Status()), error.what());
   } catch (const std::exception& failure) {
-    return Fail(err, ExitStatus::kQueryFailed, "Failed: " + Printable(failure.what()) + ".");
+    return Fail(err, StatusFor(arguments, ExitStatus::kQueryFailed), "Failed: " + Printable(failure.what()) + ".");
   }
 }
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "host/hxahost/query_result.h"
+
+// How people and programs tell one instance from another.
+namespace hxahost {
+
+// "DeviceID" of a device, "InstanceID" of statistics; "" for every other class.
+std::string IdentifierOf(const NKVRHXA20::TPublishedInstance& instance);
+
+// "controller 4 (Zentraxis C6-e)", "logical drive 3 (Archive) of controller 4", "Hard drive at channel 0, ID 8 of
+// controller 4": bytes as the tools printed them; "" for a class of no device.
+std::string NameOf(const NKVRHXA20::TPublishedInstance& instance);
+
+}  // namespace hxahost

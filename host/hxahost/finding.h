@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hxahost {
+
+// How bad something is. The numbers are the exit statuses of monitoring plug-ins.
+enum class Severity { kFine = 0, kWarning = 1, kCritical = 2, kUnknown = 3 };
+
+// "ok", "warning", "critical", "unknown".
+std::string_view SeverityWord(Severity severity);
+
+// Critical over warning over unknown over fine: a fault that is known outweighs one that is merely possible.
+bool IsWorse(Severity left, Severity right);
+
+// One thing that is wrong, or that cannot be told to be right.
+struct Finding {
+  Severity severity = Severity::kUnknown;
+  std::string className;   // of the instance that says so; "tool run" or "log" where it is none
+  std::string identifier;  // "DeviceID" or "InstanceID" of the instance, or the tool's name
+  std::string name;        // as people call it: "logical drive 3 (Archive) of controller 4"
+  std::string property;
+  std::string text;     // as the tool printed it, bytes, without the white space at both ends
+  std::string meaning;  // what it means and what to do
+};
+
+using Findings = std::vector<Finding>;
+
+// The worst of them; fine where there is none.
+Severity WorstOf(const Findings& findings);
+
+}  // namespace hxahost

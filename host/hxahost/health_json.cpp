@@ -1,0 +1,39 @@
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "host/hxahost/health_views.h"
+#include "host/hxahost/text.h"
+
+namespace hxahost {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json FindingJson(const Finding& finding) {
+  Json json = Json::object();
+  json["severity"] = SeverityWord(finding.severity);
+  json["class"] = finding.className;
+  json["identifier"] = AsUtf8(finding.identifier);
+  json["name"] = AsUtf8(finding.name);
+  json["property"] = finding.property;
+  json["text"] = AsUtf8(finding.text);
+  json["meaning"] = finding.meaning;
+  return json;
+}
+
+}  // namespace
+
+void WriteHealthJson(std::ostream& out, const HealthReport& report) {
+  Json json = Json::object();
+  json["format"] = 1;
+  json["machine"] = AsUtf8(report.header.machine);
+  json["time"] = report.header.time.ToString();
+  json["status"] = SeverityWord(WorstOf(report.findings));
+  json["findings"] = Json::array();
+  for (const Finding& finding : report.findings) json["findings"].push_back(FindingJson(finding));
+  out << json.dump(2) << '\n';
+}
+
+}  // namespace hxahost

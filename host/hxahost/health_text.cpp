@@ -1,0 +1,101 @@
+#include <algorithm>
+#include <cctype>
+#include <set>
+#include <string>
+
+#include "host/hxahost/health_rules.h"
+#include "host/hxahost/health_views.h"
+#include "host/hxahost/table.h"
+#include "host/hxahost/text.h"
+
+namespace hxahost {
+
+namespace {
+
+// A log entry can be a page; what it says of health stands in its beginning.
+constexpr std::size_t kWidestText = 160;
+
+std::string InCapitals(std::string_view word) {
+  std::string capitals(word);
+  std::ranges::transform(capitals, capitals.begin(),
+                         [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
+  return capitals;
+}
+
+std::string Counted(std::size_t count, const std::string& one, const std::string& several) {
+  return std::to_string(count) + " " + (count == 1 ? one : several);
+}
+
+std::size_t CountOf(const InstanceList& instances, std::string_view className) {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(instances, [&](const auto& instance) { return instance->Class().name == className; }));
+}
+
+std::string Inventory(const InstanceList& instances) {
+  return Counted(CountOf(instances, "KVRSG_zxSCSIProtocolController"), "controller", "controllers") + ", " +
+         Counted(CountOf(instances, "KVRSG_zxLogicalDisk"), "logical drive", "logical drives") + ", " +
+         Counted(CountOf(instances, "KVRSG_zxDiskDrive"), "device", "devices");
+}
+
+// "4 critical, 1 warning"
+std::string Tally(const Findings& findings) {
+  std::string tally;
+  for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
+    const auto count = std::ranges::count(findings, severity, &Finding::severity);
+    if (count == 0) continue;
+    tally += (tally.empty() ? "" : ", ") + std::to_string(count) + " " + std::string(SeverityWord(severity));
+  }
+  return tally;
+}
+
+std::string ToolsOf(const ToolRunList& runs) {
+  std::set<std::string> seen;
+  std::string names;
+  for (const ToolRun& run : runs) {
+    const std::string tool = Printable(ToolName(run.path));
+    if (seen.insert(tool).second) names += (names.empty() ? "" : ", ") + tool;
+  }
+  return names;
+}
+
+std::string Summary(const HealthReport& report) {
+  const std::string machine = Printable(report.header.machine);
+  const InstanceList& instances = report.result.instances;
+  if (!report.findings.empty()) {
+    return Tally(report.findings) + " on " + machine + " (" + Inventory(instances) + ")";
+  }
+  if (CountOf(instances, "KVRSG_zxSCSIProtocolController") > 0) {
+    return "nothing is wrong on " + machine + " (" + Inventory(instances) + ")";
+  }
+  return "no controller on " + machine + ": " + ToolsOf(report.result.runs) + " answered that there is none";
+}
+
+void WriteFinding(std::ostream& out, const Finding& finding) {
+  out << SeverityWord(finding.severity) << ": " << Printable(finding.name);
+  if (!finding.identifier.empty() && finding.identifier != finding.name) {
+    out << " [" << Printable(finding.identifier) << "]";
+  }
+  out << ": " << Printable(finding.property) << " \"" << CutToWidth(Printable(finding.text), kWidestText)
+      << "\": " << finding.meaning << '\n';
+}
+
+}  // namespace
+
+// The first line is what monitoring programs show.
+void WriteHealthText(std::ostream& out, const HealthReport& report) {
+  out << InCapitals(SeverityWord(WorstOf(report.findings))) << ": " << Summary(report) << '\n';
+  for (const Finding& finding : report.findings) WriteFinding(out, finding);
+}
+
+void WriteHealthRules(std::ostream& out) {
+  const auto wordOf = [](const HealthRule& rule) {
+    if (rule.word.empty()) return std::string("(nothing)");
+    return std::string(rule.word) + (rule.code.empty() ? "" : " (" + std::string(rule.code) + ")");
+  };
+  for (const HealthRule& rule : HealthRules()) {
+    out << SeverityWord(rule.severity) << '\t' << rule.value->className << '\t' << rule.value->property << '\t'
+        << wordOf(rule) << '\t' << rule.tools << '\t' << rule.meaning << '\n';
+  }
+}
+
+}  // namespace hxahost
