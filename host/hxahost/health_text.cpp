@@ -5,7 +5,6 @@
 
 #include "host/hxahost/health_rules.h"
 #include "host/hxahost/health_views.h"
-#include "host/hxahost/table.h"
 #include "host/hxahost/text.h"
 
 namespace hxahost {
@@ -79,6 +78,27 @@ void WriteFinding(std::ostream& out, const Finding& finding) {
       << "\": " << finding.meaning << '\n';
 }
 
+std::string Padded(std::string_view text, std::size_t width) {
+  return std::string(text) + std::string(width - std::min(width, text.size()), ' ');
+}
+
+std::string WordOf(const HealthRule& rule) {
+  if (rule.word.empty()) return "nothing";
+  return "\"" + std::string(rule.word) + "\"" + (rule.code.empty() ? "" : " (" + std::string(rule.code) + ")");
+}
+
+std::string_view WhereOf(Where where) {
+  switch (where) {
+    case Where::kAnywhere: return "";
+    case Where::kOnHardDisk: return " of a hard disk";
+    case Where::kWithChannelLine: return " beside a description of the channel";
+    case Where::kOnUnguardedArray: return " in a logical drive that is not guarded";
+    case Where::kOnConfiguration: return " to getconfig";
+    case Where::kOnState: break;
+  }
+  return " to any command but getlogs";
+}
+
 }  // namespace
 
 // The first line is what monitoring programs show.
@@ -88,13 +108,13 @@ void WriteHealthText(std::ostream& out, const HealthReport& report) {
 }
 
 void WriteHealthRules(std::ostream& out) {
-  const auto wordOf = [](const HealthRule& rule) {
-    if (rule.word.empty()) return std::string("(nothing)");
-    return std::string(rule.word) + (rule.code.empty() ? "" : " (" + std::string(rule.code) + ")");
-  };
+  const WatchedValue* value = nullptr;
   for (const HealthRule& rule : HealthRules()) {
-    out << SeverityWord(rule.severity) << '\t' << rule.value->className << '\t' << rule.value->property << '\t'
-        << wordOf(rule) << '\t' << rule.tools << '\t' << rule.meaning << '\n';
+    if (rule.value != value)
+      out << (value == nullptr ? "" : "\n") << rule.value->className << ", " << rule.value->property << '\n';
+    value = rule.value;
+    out << "  " << Padded(SeverityWord(rule.severity), 9) << WordOf(rule) << WhereOf(rule.where) << ", printed by "
+        << rule.tools << (rule.meaning.empty() ? "" : ": ") << rule.meaning << '\n';
   }
 }
 
