@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "host/hxacore/value_reader.h"
@@ -26,7 +27,12 @@ struct FailedStatus {
   std::string text;
 };
 
-// Those that carry a controller's number but have no such controller, each once, in the order of their appearance.
+// Decimal numbers without leading zeros.
+bool IsLower(const std::string& left, const std::string& right) {
+  return std::make_pair(left.size(), left) < std::make_pair(right.size(), right);
+}
+
+// The numbers of controllers that something belongs to but that are not there, from the lowest.
 std::vector<std::string> UnpublishedNumbers(const InstanceList& instances) {
   std::set<std::string> seen;
   for (const auto& instance : instances) {
@@ -38,6 +44,7 @@ std::vector<std::string> UnpublishedNumbers(const InstanceList& instances) {
     const std::string number = PublishedText(*instance, "ControllerNum");
     if (seen.insert(number).second) numbers.push_back(number);
   }
+  std::ranges::sort(numbers, IsLower);
   return numbers;
 }
 

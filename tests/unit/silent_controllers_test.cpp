@@ -50,9 +50,9 @@ TEST_F(SilentControllersTest, AreNamedOnceByDrivesDisksAndGroups) {
   Drive("KVRSG_zxSCSIProtocolController", "1");
   Drive("KVRSG_zxLogicalDisk", "2");
   Drive("KVRSG_zxLogicalDisk", "2");
-  Drive("KVRSG_zxDiskDrive", "3");
+  Drive("KVRSG_zxDiskDrive", "10");
   Drive("KVRSG_zxDiskGroup", "4");
-  EXPECT_THAT(Found(), ElementsAre("Zentraxis2 \"\"", "Zentraxis4 \"\"", "Zentraxis3 \"\""));
+  EXPECT_THAT(Found(), ElementsAre("Zentraxis2 \"\"", "Zentraxis4 \"\"", "Zentraxis10 \"\""));
 }
 
 TEST_F(SilentControllersTest, ShowTheStatusThatTheUtilityPrinted) {

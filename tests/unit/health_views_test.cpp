@@ -1,0 +1,193 @@
+#include "host/hxahost/health_views.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "host/hxahost/health.h"
+#include "tests/support/file_text.h"
+#include "tests/support/healthy_machine.h"
+
+namespace {
+
+using namespace hxahost;
+using testing::HasSubstr;
+using testing::Not;
+
+std::string Written(const HealthyMachine& machine, std::string_view format) {
+  const QueryHeader header = machine.Header();
+  const QueryResult result = machine.Result();
+  std::ostringstream out;
+  FindHealthView(format)->Write(out, {header, result, EvaluateHealth(header, result), 1.25});
+  return out.str();
+}
+
+HealthyMachine BrokenMachine() {
+  HealthyMachine machine;
+  machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", "Degraded");
+  machine.SetOf("C2 CH0 I01:Controller: Device #1", "State", "Failed");
+  machine.SetOf("C1 CH1 I01:B", "PFA", "Yes");
+  machine.SetOf("Zentraxis:1LD1", "NumBadStripes", "3");
+  machine.SetOf("Zentraxis2", "ControllerStatus", "Puzzled");
+  machine.runs.push_back(RunOf("hrconf_64", {"getconfig", "2", "al"}, Outcome::kTimedOut, "no answer for 300 s"));
+  return machine;
+}
+
+// What tools print is data: quotes, backslashes, line ends, terminal commands, bytes that are no UTF-8.
+HealthyMachine HostileMachine() {
+  HealthyMachine machine;
+  machine.SetOf("Zentraxis2LD1", "LogicalDriveName", "a\"b\\c\nd\x1b[2J\xe4");
+  machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", "<b>\"Odd\"\\\n\xe4\x1b]0;x\x07");
+  return machine;
+}
+
+// What the file holds. With ZENX_RENEW_GOLDEN in the environment it is written first; read the difference before it is
+// committed.
+std::string Golden(const std::string& name, const std::string& actual) {
+  const std::filesystem::path file = std::filesystem::path(ZENX_TEST_DATA) / "golden" / name;
+  if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) WriteFileText(file, actual);
+  return FileText(file);
+}
+
+TEST(HealthViews, AreFoundByTheirFormat) {
+  EXPECT_EQ(HealthViews().front().format, "text");
+  EXPECT_EQ(FindHealthView("prometheus")->format, "prometheus");
+  EXPECT_EQ(FindHealthView("html"), nullptr);
+}
+
+TEST(HealthText, SumsUpInItsFirstLineAndHasALineForEachFinding) {
+  EXPECT_EQ(
+      Written(BrokenMachine(), "text"),
+      "CRITICAL: 3 critical, 2 warning, 1 unknown on HOST (2 controllers, 2 logical drives, 9 devices)\n"
+      "critical: logical drive 1 (Data) of controller 2 [Zentraxis2LD1]: LogicalDriveStatus \"Degraded\": one more "
+      "failed disk loses its data; replace the failed disk now\n"
+      "critical: logical drive 1 of controller 1 [Zentraxis:1LD1]: NumBadStripes \"3\": data was lost in these "
+      "stripes; "
+      "restore the logical drive from a backup\n"
+      "critical: Hard drive at channel 0, ID 1 of controller 2 [C2 CH0 I01:Controller: Device #1]: State \"Failed\": "
+      "the disk has failed; replace it\n"
+      "warning: Hard disk at channel 1, ID 1 of controller 1 [C1 CH1 I01:B]: PFA \"Yes\": the disk predicts that it "
+      "will "
+      "fail; replace it soon\n"
+      "warning: hrconf_64 getconfig 2 al [hrconf_64]: outcome \"timed out: no answer for 300 s\": it hung, as it does "
+      "when a controller does not answer; its controllers are not seen\n"
+      "unknown: controller 2 (Zentraxis C5) [Zentraxis2]: ControllerStatus \"Puzzled\": no rule knows what this says; "
+      "see "
+      "the manual of the utility\n");
+}
+
+TEST(HealthText, SaysThatNothingIsWrong) {
+  EXPECT_EQ(Written(HealthyMachine(), "text"),
+            "OK: nothing is wrong on HOST (2 controllers, 2 logical drives, 9 devices)\n");
+}
+
+TEST(HealthText, SaysWhoSaidThatThereIsNoController) {
+  HealthyMachine machine;
+  machine.devices.clear();
+  machine.runs = {RunOf("qcmdrun", {"getconfig", "1", "al"}, Outcome::kRefused),
+                  RunOf("qcmdrun", {"getconfig", "1", "al"}, Outcome::kRefused),
+                  RunOf("arcconf", {"getconfig", "1", "al"}, Outcome::kRefused)};
+  EXPECT_EQ(Written(machine, "text"), "OK: no controller on HOST: qcmdrun, arcconf answered that there is none\n");
+}
+
+TEST(HealthText, CountsOneOfAKindInTheSingular) {
+  HealthyMachine machine;
+  std::erase_if(machine.devices, [](const HealthyMachine::Device& device) {
+    return device.className != "KVRSG_zxSCSIProtocolController" || device.properties.size() > 6;
+  });
+  machine.runs = {RunOf("qcmdrun", {"getconfig", "1", "al"}, Outcome::kOk)};
+  EXPECT_THAT(Written(machine, "text"), HasSubstr("(1 controller, 0 logical drives, 0 devices)"));
+}
+
+TEST(HealthText, LetsNothingThatAToolPrintsReachTheTerminal) {
+  const std::string text = Written(HostileMachine(), "text");
+  EXPECT_THAT(text, HasSubstr("LogicalDriveStatus \"<b>\"Odd\"\\\\n\xc3\xa4\\x1b]0;x\\x07\""));
+  EXPECT_EQ(std::ranges::count(text, '\n'), 2);
+  EXPECT_EQ(text.find('\x1b'), text.npos);
+}
+
+TEST(HealthText, CutsALogEntryToItsBeginning) {
+  HealthyMachine machine;
+  machine.log = {
+      {3, "Collection aborted: " + std::string(1000, 'x')}
+  };
+  EXPECT_LT(Written(machine, "text").size(), 500U);
+}
+
+TEST(HealthJson, HasTheAgreedForm) {
+  const std::string actual = Written(BrokenMachine(), "json");
+  EXPECT_EQ(actual, Golden("health.json", actual));
+}
+
+TEST(HealthJson, HasAnEmptyListWhereNothingIsWrong) {
+  const auto json = nlohmann::json::parse(Written(HealthyMachine(), "json"));
+  EXPECT_EQ(json["status"], "ok");
+  EXPECT_TRUE(json["findings"].is_array());
+  EXPECT_TRUE(json["findings"].empty());
+}
+
+TEST(HealthJson, HoldsWhatAToolPrintsByteForByteAndReadsBadUtf8AsLatin1) {
+  const auto json = nlohmann::json::parse(Written(HostileMachine(), "json"));
+  EXPECT_EQ(json["findings"][0]["text"], "<b>\"Odd\"\\\n\xc3\xa4\x1b]0;x\x07");
+}
+
+TEST(HealthMetrics, HaveTheAgreedForm) {
+  const std::string actual = Written(BrokenMachine(), "prometheus");
+  EXPECT_EQ(actual, Golden("health.prom", actual));
+}
+
+TEST(HealthMetrics, EscapeWhatToolsPrint) {
+  const std::string text = Written(HostileMachine(), "prometheus");
+  EXPECT_THAT(text, HasSubstr("name=\"a\\\"b\\\\c\\nd\\\\x1b[2J\xc3\xa4\""));
+  EXPECT_THAT(text, HasSubstr("state=\"<b>\\\"Odd\\\"\\\\\\n\xc3\xa4\\\\x1b]0;x\\\\x07\"} 3\n"));
+  EXPECT_EQ(text.find('\x1b'), text.npos);
+}
+
+TEST(HealthMetrics, GiveEachSampleOnceAndOfEqualOnesTheLarger) {
+  HealthyMachine machine;
+  auto copies = machine.devices;
+  machine.devices.insert(machine.devices.end(), copies.begin(), copies.end());
+  machine.devices.back().properties.back().second = "7";
+  const std::string text = Written(machine, "prometheus");
+  std::istringstream lines(text);
+  std::set<std::string> seen;
+  for (std::string line; std::getline(lines, line);) {
+    const std::string sample = line.starts_with('#') ? line : line.substr(0, line.rfind(' '));
+    EXPECT_TRUE(seen.insert(sample).second) << sample;
+  }
+  EXPECT_THAT(text, HasSubstr("zenx_bad_stripes{identifier=\"Zentraxis:2LD1\",controller=\"2\",drive=\"1\"} 7\n"));
+}
+
+TEST(HealthMetrics, LeaveOutACountThatIsNone) {
+  HealthyMachine machine;
+  machine.SetOf("Zentraxis:1LD1", "NumBadStripes", "NaN");
+  EXPECT_THAT(Written(machine, "prometheus"), Not(HasSubstr("NaN")));
+}
+
+TEST(HealthMetrics, LeaveOutATimeThatIsNone) {
+  HealthyMachine machine;
+  QueryHeader header = machine.Header();
+  header.time = NKVRHXA20::TCIMDateTime(2026, 0, 5, 12, 30, 15, 0, 60);
+  std::ostringstream out;
+  WriteHealthMetrics(out, {header, machine.Result(), {}, 0});
+  EXPECT_THAT(out.str(), Not(HasSubstr("timestamp")));
+}
+
+TEST(HealthRulesText, ShowsEachRule) {
+  std::ostringstream out;
+  WriteHealthRules(out);
+  EXPECT_THAT(out.str(), HasSubstr("KVRSG_zxLogicalDisk, LogicalDriveStatus\n"));
+  EXPECT_THAT(out.str(), HasSubstr("  critical \"offline\" (ofl), printed by all: its data cannot be reached"));
+  EXPECT_THAT(out.str(),
+              HasSubstr("  warning  \"rebuild\" (rbl) in a logical drive that is not guarded, printed by all"));
+  EXPECT_THAT(out.str(), HasSubstr("  unknown  nothing of a hard disk, printed by all: the utility printed no state"));
+}
+
+}  // namespace
