@@ -24,6 +24,7 @@ constexpr const char* kExamples =
     "  hxahost query --directory C:\\tools                  run the tools in C:\\tools\\zenx\n"
     "  hxahost query --class KVRSG_zxLogicalDisk           the logical drives alone\n"
     "  hxahost query --format json --output machine.json   everything, for a program to read\n"
+    "  hxahost query --format html --output report.html    everything, for a browser and for paper\n"
     "  hxahost query --log log.txt                         with a log of every command that was run\n"
     "\n"
     "Exit status: 0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded.";
@@ -146,7 +147,9 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
   query->add_option("--repeat", typed.repeat, "How often to query; the tools are run by the first query alone")
       ->type_name("N")
       ->capture_default_str();
-  query->add_option("--format", read.format, FormatNames(Views()) + ": tables for people, JSON for programs")
+  query
+      ->add_option("--format", read.format,
+                   FormatNames(Views()) + ": tables for a terminal, JSON for programs, a page for browsers")
       ->type_name("FORMAT")
       ->capture_default_str();
   query->add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "host/hxahost/html_view.h"
 #include "host/hxahost/json_view.h"
 #include "host/hxahost/table_view.h"
 
@@ -13,6 +14,7 @@ namespace {
 constexpr View kViews[] = {
     {"table", BeginTables, WriteQueryTables, EndTables},
     {"json",  BeginJson,   WriteQueryJson,   EndJson  },
+    {"html",  BeginHtml,   WriteQueryHtml,   EndHtml  },
 };
 
 }  // namespace

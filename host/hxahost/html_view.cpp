@@ -1,0 +1,44 @@
+#include "host/hxahost/html_view.h"
+
+#include "host/hxahost/json_view.h"
+#include "host/hxahost/report_data.h"
+#include "host/hxahost/report_template.h"
+#include "host/hxahost/script_data.h"
+#include "host/hxahost/write_template.h"
+
+namespace hxahost {
+
+namespace {
+
+// The document that "--format json" gives for a program run that made this one query.
+void WriteJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  BeginJson(out, header);
+  QueryResult only = result;
+  only.number = 1;
+  WriteQueryJson(out, header, only);
+  EndJson(out, header);
+}
+
+}  // namespace
+
+void BeginHtml(std::ostream&, const QueryHeader&) {}
+
+void WriteQueryHtml(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  if (result.number != header.queryCount) return;
+  const auto writeEscaped = [](std::ostream& page, const auto& write) {
+    ScriptData buffer(page);
+    std::ostream data(&buffer);
+    write(data);
+  };
+  const TemplateSlot slots[] = {
+      {"@QUERY_DATA@",
+       [&](std::ostream& page) { writeEscaped(page, [&](std::ostream& data) { WriteJson(data, header, result); }); }},
+      {"@REPORT_DATA@",
+       [&](std::ostream& page) { writeEscaped(page, [&](std::ostream& data) { WriteReportData(data, header); }); }  },
+  };
+  WriteTemplate(out, ReportTemplate(), slots);
+}
+
+void EndHtml(std::ostream&, const QueryHeader&) {}
+
+}  // namespace hxahost

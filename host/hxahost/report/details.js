@@ -1,0 +1,82 @@
+// The details of one object, in a dialog. "#object-17" in the address opens them, so that links, the keyboard and the
+// browser's way back all work by themselves.
+
+const kMostRelated = 60;
+
+function definition(name, text) {
+  return [make("dt", {}, name), make("dd", {}, text)];
+}
+
+function propertyList(object) {
+  const entries = Object.keys(object.properties).map((name) => [name, textOf(object, name)]);
+  const said = entries.filter(([, text]) => text !== "");
+  const unsaid = entries.filter(([, text]) => text === "").map(([name]) => name);
+  const parts = [make("dl", {}, ...said.flatMap(([name, text]) => definition(name, text)))];
+  if (unsaid.length > 0) parts.push(make("p", { class: "quiet" }, "Not said by the tool: " + unsaid.join(", ") + "."));
+  return parts;
+}
+
+function relatedItem(object) {
+  const item = make("li", {}, linkTo(object, nameOf(object)));
+  if (kStateProperties[object.class] && stateText(object) !== "") item.append(" ", stateBadge(object));
+  if (!kDeviceClasses.includes(object.class)) item.append(make("span", { class: "quiet" }, " " + object.class));
+  return item;
+}
+
+function relatedList(model, object) {
+  const related = model.related(object);
+  if (related.length === 0) return [];
+  const items = related.slice(0, kMostRelated).map(relatedItem);
+  if (related.length > items.length) {
+    items.push(make("li", { class: "quiet" }, `and ${counted(related.length - items.length, "more", "more")}: see the tables`));
+  }
+  return [make("h3", {}, "Belongs together"), make("ul", { class: "related" }, ...items)];
+}
+
+function findingList(model, object) {
+  return model.findingsOf(object).map((finding) => make("p", {}, findingBadge(finding), " ", findingWords(finding)));
+}
+
+function stateBadge(object) {
+  const state = stateText(object) || "not said";
+  return badge(report.model.level(object), isPredicted(object) ? `${state}, PFA ${textOf(object, "PFA")}` : state);
+}
+
+function detailParts(model, object) {
+  const close = make("button", { type: "button", class: "close", id: "close-details" }, "Close");
+  close.addEventListener("click", () => byId("details").close());
+  const parts = [
+    make("div", { class: "dialog-head" }, make("h2", { id: "details-title", tabindex: "-1" }, nameOf(object)), close),
+    make("p", { class: "quiet" }, object.class),
+  ];
+  if (kStateProperties[object.class]) parts.push(make("p", {}, stateBadge(object)));
+  return [...parts, ...findingList(model, object), ...propertyList(object), ...relatedList(model, object)];
+}
+
+function showDetails(model, object) {
+  const dialog = byId("details");
+  dialog.replaceChildren(...detailParts(model, object));
+  if (!dialog.open) dialog.showModal();
+  dialog.scrollTop = 0;
+  byId("details-title").focus();
+}
+
+function showFromAddress(model) {
+  const found = /^#object-(\d+)$/.exec(window.location.hash);
+  const object = found ? model.objects[Number(found[1])] : undefined;
+  if (object) showDetails(model, object);
+  else if (byId("details").open) byId("details").close();
+}
+
+function setUpDetails(model) {
+  const dialog = byId("details");
+  window.addEventListener("hashchange", () => showFromAddress(model));
+  // The address must change back, or the same link would not be followed a second time.
+  dialog.addEventListener("close", () => {
+    if (window.location.hash.startsWith("#object-")) window.history.replaceState(null, "", "#");
+  });
+  dialog.addEventListener("click", (event) => {
+    if (event.target === dialog) dialog.close();
+  });
+  showFromAddress(model);
+}

@@ -1,0 +1,195 @@
+// The page: its sections in their order. A section that cannot be drawn says so in its place, and the others stand.
+
+const report = { model: null, data: null, tables: [] };
+
+function readData(id) {
+  return JSON.parse(byId(id).textContent);
+}
+
+// Health: the findings, where the program gives them; always the state words as the tools printed them.
+
+function findingBadge(finding) {
+  return badge(levelOfSeverity(finding.severity), printable(String(finding.severity)));
+}
+
+function findingWords(finding) {
+  const parts = [finding.text, finding.meaning].filter((part) => typeof part === "string" && part !== "");
+  return parts.map(printable).join(" \u2014 ");
+}
+
+function findingRows(findings) {
+  return findings.map((finding) => {
+    const object = report.model.objects.find((each) => isAbout(finding, each));
+    const identifier = printable(String(finding.name || finding.identifier || ""));
+    return make("tr", {}, make("td", {}, findingBadge(finding)), make("td", {}, object ? linkTo(object, identifier) : identifier),
+      make("td", {}, findingWords(finding)));
+  });
+}
+
+function findingTable(findings) {
+  if (findings.length === 0) return make("p", { id: "findings" }, badge("good", "Nothing needs attention"));
+  const heads = ["Severity", "What", "Finding"].map((title) => make("th", { scope: "col" }, title));
+  return make("div", { class: "scroll", tabindex: "0", role: "region", "aria-label": "Findings, table" },
+    make("table", { id: "findings" }, make("caption", {}, counted(findings.length, "finding", "findings")),
+      make("thead", {}, make("tr", {}, ...heads)), make("tbody", {}, ...findingRows(findings))));
+}
+
+const kKinds = { [kControllers]: "Controllers", [kLogicalDrives]: "Logical drives", [kDisks]: "Disks" };
+
+function stateCounts(model, className) {
+  const counts = new Map();
+  for (const object of model.all(className)) {
+    const key = [stateText(object) || "not said", ...(isPredicted(object) ? ["PFA " + textOf(object, "PFA")] : [])].join(", ");
+    const entry = counts.get(key) || { words: key, level: model.level(object), count: 0 };
+    entry.count += 1;
+    counts.set(key, entry);
+  }
+  return [...counts.values()].sort((one, other) => kWorstFirst.indexOf(one.level) - kWorstFirst.indexOf(other.level));
+}
+
+function stateList(model, className) {
+  const total = model.all(className).length;
+  if (total === 0) return [];
+  const items = stateCounts(model, className).map(({ words, level, count }) =>
+    make("li", {}, make("span", { class: "number" }, count.toLocaleString("en-US")), " ", badge(level, words)));
+  return [make("section", { class: "states" }, make("h3", {}, `${kKinds[className]}: ${total.toLocaleString("en-US")}`), make("ul", {}, ...items))];
+}
+
+function badStripeList(model) {
+  const bad = model.all(kBadStripes).filter((object) => textOf(object, "NumBadStripes") !== "0");
+  if (bad.length === 0) return [];
+  const items = bad.map((object) => make("li", {}, linkTo(object,
+    `Controller ${textOf(object, "ControllerNum")}, logical drive ${textOf(object, "LogicalDrive")}: ${textOf(object, "NumBadStripes")}`)));
+  return [make("section", { class: "states" }, make("h3", {}, "Bad stripes"), make("ul", {}, ...items))];
+}
+
+// Every command says so in the log when its tool cannot be started; the same words once are enough.
+function failedRuns(log) {
+  const texts = [...new Set(log.map((entry) => entry.text).filter((text) => text.includes("zenx//")))];
+  if (texts.length === 0) return [];
+  return [make("section", { class: "states trouble" }, make("h3", {}, "Tools could not be run"),
+    make("ul", {}, ...texts.map((text) => make("li", {}, printable(text)))))];
+}
+
+function healthSection(model, query) {
+  const counts = Object.keys(kKinds).flatMap((className) => stateList(model, className));
+  const parts = [...counts, ...badStripeList(model), ...failedRuns(query.log)];
+  const found = model.objects.some((object) => object.class !== "KVRSG_zxRawData");
+  const nothing = found ? [] : [make("p", { class: "trouble" },
+    "Nothing was found: no controller, no drive and no log record of the classes asked for.")];
+  const findings = model.findings ? [findingTable(model.findings)] : [];
+  if (parts.length + nothing.length + findings.length === 0) return null;
+  return make("div", {}, ...findings, ...nothing, make("div", { class: "state-lists" }, ...parts));
+}
+
+function drawingSection(model) {
+  if (model.owners.size === 0) return null;
+  report.drawing = new Drawing(model);
+  return report.drawing.element;
+}
+
+// Tables in the program's order; logs and raw texts have sections of their own.
+const kElsewhere = [kDddEvents, kManagerEvents, kSoftEvents, kHardEvents, ...kRawTexts];
+
+function tableSection(model) {
+  return (table) => ({ title: table.heading, content: () => instanceTable(model, table) });
+}
+
+function otherClasses(model, tables) {
+  const shown = [...kElsewhere, ...tables.flatMap((table) => table.classes)];
+  return [...model.byClass.keys()].filter((name) => !shown.includes(name));
+}
+
+function otherSection(model, classes) {
+  const folded = classes.map((name) => {
+    const element = make("details", {}, make("summary", {}, make("code", {}, name), make("span", { class: "quiet" }, ` ${counted(model.all(name).length, "instance", "instances")}`)));
+    element.addEventListener("toggle", () => element.append(generalTable(model, name)), { once: true });
+    return element;
+  });
+  return folded.length === 0 ? null : make("div", {}, ...folded);
+}
+
+function countSection(model, data) {
+  const rows = data.classes.map((name) => ({ name, count: model.all(name).length }));
+  return newTable("Classes asked for", [
+    { title: "Class", cell: (row) => ({ text: row.name }) },
+    { title: "Instances", cell: (row) => ({ text: String(row.count) }) },
+  ], rows);
+}
+
+function logSection(query) {
+  if (query.log.length === 0) return null;
+  const rows = query.log.map((entry) => ({ level: String(entry.level), text: printable(entry.text) }));
+  return make("details", {}, make("summary", {}, `What the plug-in logged: ${counted(rows.length, "entry", "entries")}`),
+    newTable("Log of the plug-in", [
+      { title: "Level", cell: (row) => ({ text: row.level }) },
+      { title: "Text", cell: (row) => ({ text: row.text }) },
+    ], rows));
+}
+
+function sectionList(model, query, data) {
+  const tables = data.tables.filter((table) => !table.classes.some((name) => kElsewhere.includes(name)));
+  const isDevice = (table) => table.classes.some((name) => kDeviceClasses.includes(name));
+  const others = otherClasses(model, tables);
+  return [
+    { title: "Health", content: () => healthSection(model, query) },
+    { title: "Drawing", content: () => drawingSection(model) },
+    ...tables.filter(isDevice).map(tableSection(model)),
+    { title: "Events", content: () => eventSection(model) },
+    ...tables.filter((table) => !isDevice(table)).map(tableSection(model)),
+    { title: "Raw texts of the tools", content: () => rawSection(model) },
+    { title: "Other classes", content: () => otherSection(model, others) },
+    { title: "Log", content: () => logSection(query) },
+    { title: "Counts", content: () => countSection(model, data) },
+  ];
+}
+
+function troubleNote(title, error) {
+  return make("p", { class: "trouble" }, `${title} could not be drawn: ${printable(String(error))}`);
+}
+
+function contentOf(section) {
+  try {
+    return section.content();
+  } catch (error) {
+    return troubleNote(section.title, error);
+  }
+}
+
+function addSection(section) {
+  const content = contentOf(section);
+  if (!content) return;
+  const id = section.title.toLowerCase().replace(/[^a-z]+/g, "-");
+  byId("content").append(make("section", { "aria-labelledby": id }, make("h2", { id, tabindex: "-1" }, section.title), content));
+  byId("sections").append(make("li", {}, make("a", { href: "#" + id }, section.title)));
+}
+
+function writeHead(json, data) {
+  const title = "RAID report: " + printable(json.machine);
+  document.title = title;
+  byId("title").textContent = title;
+  byId("subtitle").textContent = `Collected in ${printable(data.directory)} on ${readableTime(data.time)}`;
+  byId("footer").textContent = `Written by ${data.program}. Everything is in this file; nothing is loaded from elsewhere.`;
+  if (data.queryCount > 1) {
+    byId("note").textContent = `${data.queryCount} queries were made; this is the last one. Its log begins where the one before it ended.`;
+  }
+}
+
+function start() {
+  const json = readData("query-data");
+  report.data = readData("report-data");
+  const query = json.queries[json.queries.length - 1];
+  writeHead(json, report.data);
+  report.model = new Model(query, report.data.findings);
+  for (const section of sectionList(report.model, query, report.data)) addSection(section);
+  if (report.drawing) setUpDrawing(report.drawing);
+  setUpDetails(report.model);
+  window.addEventListener("beforeprint", () => report.tables.forEach((table) => table.showAll()));
+  document.documentElement.dataset.ready = "true";
+}
+
+try {
+  start();
+} catch (error) {
+  byId("content").append(troubleNote("The report", error));
+}
