@@ -75,7 +75,7 @@ TEST_F(Hxahost, EndsWithStatus2AndOneLineForWrongArguments) {
       {"log in no folder",     {"query", "--log", InFolder("missing/log.txt")},     "--log"          },
       {"output is a folder",   {"query", "--output", Utf8FromPath(folder_.Path())}, "--output"       },
       {"repeat nothing",       {"query", "--repeat", "0"},                          "from 1 on"      },
-      {"format of the future", {"query", "--format", "html"},                       "table or json"  },
+      {"format of the future", {"query", "--format", "yaml"},                       "table or json"  },
   };
   for (const Case& each : cases) {
     SCOPED_TRACE(each.name);
