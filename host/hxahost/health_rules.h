@@ -51,7 +51,7 @@ struct HealthRule {
   std::string_view tools;  // which print it
   Severity severity;
   std::string_view meaning;  // "" where it is fine
-  Where where = Where::kAnywhere;
+  Where where;
 };
 
 // Rules of one value stand together; what matters most comes first.

@@ -184,10 +184,13 @@ TEST(HealthRulesText, ShowsEachRule) {
   std::ostringstream out;
   WriteHealthRules(out);
   EXPECT_THAT(out.str(), HasSubstr("KVRSG_zxLogicalDisk, LogicalDriveStatus\n"));
-  EXPECT_THAT(out.str(), HasSubstr("  critical \"offline\" (ofl), printed by all: its data cannot be reached"));
   EXPECT_THAT(out.str(),
-              HasSubstr("  warning  \"rebuild\" (rbl) in a logical drive that is not guarded, printed by all"));
-  EXPECT_THAT(out.str(), HasSubstr("  unknown  nothing of a hard disk, printed by all: the utility printed no state"));
+              HasSubstr("  critical \"offline\" (ofl), printed by every utility: its data cannot be reached"));
+  EXPECT_THAT(
+      out.str(),
+      HasSubstr("  warning  \"rebuild\" (rbl) in a logical drive that is not guarded, printed by every utility"));
+  EXPECT_THAT(out.str(),
+              HasSubstr("  unknown  nothing of a hard disk, printed by every utility: the utility printed no state"));
 }
 
 }  // namespace
