@@ -81,6 +81,28 @@ TEST(Options, TakeZeroAndNoneAsTypesOfTheOperatingSystem) {
   EXPECT_EQ(Query({"--os-type", "none"}).osType, std::nullopt);
 }
 
+TEST(Options, TakeEveryOptionOfHealth) {
+  const CommandLine line =
+      ParseCommandLine({"health", "--plugin", "p.pi", "--directory", "d", "--format", "prometheus", "--output",
+                        "o.prom", "--log", "l.txt", "--os-type", "82", "--machine-name", "M", "--local-time",
+                        "20260305123015.250000+060", "--no-progress"});
+  EXPECT_EQ(line.command, Command::kHealth);
+  EXPECT_EQ(line.query.plugin, "p.pi");
+  EXPECT_EQ(line.query.directory, "d");
+  EXPECT_EQ(line.query.format, "prometheus");
+  EXPECT_EQ(line.query.output, "o.prom");
+  EXPECT_EQ(line.query.log, "l.txt");
+  EXPECT_EQ(line.query.osType, 82);
+  EXPECT_EQ(line.query.machineName, "M");
+  EXPECT_TRUE(line.query.localTime);
+  EXPECT_FALSE(line.query.showProgress);
+}
+
+TEST(Options, OfHealthHaveATextForPeopleAsDefault) {
+  EXPECT_EQ(ParseCommandLine({"health"}).query.format, "text");
+  EXPECT_EQ(ParseCommandLine({"health", "--rules"}).command, Command::kHealthRules);
+}
+
 TEST(Options, SelectTheCommand) {
   EXPECT_EQ(ParseCommandLine({"classes"}).command, Command::kClasses);
   EXPECT_EQ(ParseCommandLine({"schema"}).command, Command::kSchema);

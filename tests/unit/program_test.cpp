@@ -25,6 +25,16 @@ TEST(Program, PutsItsNameBeforeAnError) {
   EXPECT_EQ(err.str(), "hxahost: --repeat \"0\": give a whole number from 1 on.\n");
 }
 
+TEST(Program, LeavesTheHealthUnknownWhateverKeepsItFromItsAnswer) {
+  std::ostringstream out;
+  std::ostringstream err;
+  EXPECT_EQ(RunProgram({"health", "--format", "html"}, out, err), 3);
+  EXPECT_EQ(out.str(), "");
+  EXPECT_EQ(err.str(), "hxahost: --format \"html\": give text or json or prometheus.\n");
+  out.setstate(std::ios::badbit);
+  EXPECT_EQ(RunProgram({"health", "--rules"}, out, err), 3);
+}
+
 TEST(Program, FailsWhenOutTakesNothing) {
   std::ostringstream out;
   out.setstate(std::ios::badbit);
