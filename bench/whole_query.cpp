@@ -1,5 +1,7 @@
 #include "bench/whole_query.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "plugin/host_interface/services.h"
@@ -13,7 +15,13 @@ WholeQuery::WholeQuery() : repository_(TRepository::Make(std::nullopt)) {
 }
 
 std::size_t WholeQuery::Run() {
-  repository_->BeginQuery(classes_);
-  RunQuery(state_, TRootObject::GetCoreLogger(), *repository_, classes_);
+  return Run([](std::string_view) { return true; });
+}
+
+std::size_t WholeQuery::Run(const std::function<bool(std::string_view name)>& picks) {
+  std::vector<boost::shared_ptr<ICIMClass>> classes;
+  std::ranges::copy_if(classes_, std::back_inserter(classes), [&](const auto& one) { return picks(one->GetName({})); });
+  repository_->BeginQuery(classes);
+  RunQuery(state_, TRootObject::GetCoreLogger(), *repository_, classes);
   return repository_->Published().size();
 }

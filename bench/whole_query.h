@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
@@ -15,6 +17,9 @@ class WholeQuery {
 
   // Queries; the first time this collects. Returns how many instances were published.
   std::size_t Run();
+
+  // The same for the classes that the test picks by name; what was published of the others stays.
+  std::size_t Run(const std::function<bool(std::string_view name)>& picks);
 
  private:
   QueryState state_;

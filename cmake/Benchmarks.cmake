@@ -2,7 +2,7 @@
 find_package(benchmark REQUIRED)
 add_library(bench_support OBJECT bench/machine_text.cpp bench/scripted_machine.cpp bench/whole_query.cpp)
 target_link_libraries(bench_support PUBLIC zenx_objects)
-foreach(name collection_cost peak_memory)
+foreach(name collection_cost peak_memory raid_manager_log)
   add_executable(${name} bench/${name}.cpp)
   target_link_libraries(${name} PRIVATE bench_support zenx_objects)
 endforeach()

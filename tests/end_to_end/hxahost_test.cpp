@@ -172,8 +172,8 @@ TEST_F(Hxahost, RepeatsTheQueryInOneProcess) {
 }
 
 TEST_F(Hxahost, WritesTheSameBytesToAFileAsToStandardOutput) {
-  const std::vector<std::string> fixed = {
-      "--machine-name", "M", "--local-time", "20260305123015.250000+060", "--format", "json"};
+  const std::vector<std::string> fixed = {"--machine-name", "M",   "--local-time", "20260305123015.250000+060",
+                                          "--format",       "json"};
   std::vector<std::string> withOutput = fixed;
   withOutput.insert(withOutput.end(), {"--output", InFolder("out.txt"), "--log", InFolder("log.txt")});
   const ProgramResult shown = Query(fixed);
