@@ -1,0 +1,90 @@
+// Runs tests one after the other in a real browser, each on a page of its own, and says what failed.
+import { mkdtempSync, rmSync, writeFileSync } from "node:fs";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { chromium } from "playwright-core";
+
+const kBrowser = process.env.CHROMIUM || "/usr/bin/chromium";
+const kArguments = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+  "--disable-component-update", "--disable-sync"];
+
+const kMostSeconds = 60; // a test takes
+
+const tests = [];
+
+// run is given (open): open(file, options) gives a page that has drawn the report.
+export function test(name, run) {
+  tests.push({ name, run });
+}
+
+// What a page must never do: complain, ask, or load anything beside itself.
+function watch(page, file, troubles) {
+  page.on("console", (message) => {
+    if (message.type() === "error" || message.type() === "warning") troubles.push(`console: ${message.text()}`);
+  });
+  page.on("pageerror", (error) => troubles.push(`error: ${error.message}`));
+  page.on("dialog", (dialog) => {
+    troubles.push(`dialog: ${dialog.message()}`);
+    dialog.dismiss();
+  });
+  page.on("request", (request) => {
+    if (request.url().split("#")[0] !== file.href) troubles.push(`request: ${request.url()}`);
+  });
+}
+
+async function runOne(browser, { name, run }) {
+  const contexts = [];
+  const troubles = [];
+  const open = async (file, options = {}) => {
+    const context = await browser.newContext({ viewport: { width: 1280, height: 900 }, offline: true, ...options });
+    context.setDefaultTimeout(20000);
+    contexts.push(context);
+    const page = await context.newPage();
+    watch(page, file, troubles);
+    if (options.media) await page.emulateMedia({ media: options.media });
+    await page.goto(file.href + (options.hash || ""));
+    await page.waitForSelector("html[data-ready]", { state: "attached", timeout: 60000 });
+    return page;
+  };
+  let timer;
+  const tooLong = new Promise((_, reject) => {
+    timer = setTimeout(() => reject(new Error(`not done after ${kMostSeconds} seconds`)), kMostSeconds * 1000);
+  });
+  try {
+    await Promise.race([run(open, troubles), tooLong]);
+    return troubles.length === 0 ? null : troubles.join("\n");
+  } catch (error) {
+    return [error.stack, ...troubles].join("\n");
+  } finally {
+    clearTimeout(timer);
+    for (const context of contexts) await context.close();
+  }
+}
+
+function writeResults(file, results) {
+  const escaped = (text) => text.replace(/[&<>"]/g, (character) => `&#${character.charCodeAt(0)};`).replace(/[\u0000-\u0008\u000b-\u001f]/g, "?");
+  const cases = results.map(({ name, failure }) =>
+    `    <testcase name="${escaped(name)}">${failure === null ? "" : `<failure message="${escaped(failure)}"/>`}</testcase>\n`);
+  const counts = `tests="${results.length}" failures="${results.filter(({ failure }) => failure !== null).length}"`;
+  writeFileSync(file, `<?xml version="1.0" encoding="UTF-8"?>\n<testsuites ${counts}>\n  <testsuite name="browser" ${counts}>\n${cases.join("")}  </testsuite>\n</testsuites>\n`);
+}
+
+// Gives the number of failures.
+export async function runTests(resultFile, only) {
+  const profile = mkdtempSync(join(tmpdir(), "zenx-browser-"));
+  const browser = await chromium.launch({ executablePath: kBrowser, args: kArguments, env: { ...process.env, HOME: profile } });
+  const results = [];
+  for (const each of tests.filter(({ name }) => !only || name.includes(only))) {
+    const began = Date.now();
+    const failure = await runOne(browser, each);
+    results.push({ name: each.name, failure });
+    const seconds = ((Date.now() - began) / 1000).toFixed(1);
+    console.log(`${failure === null ? "passed" : "FAILED"}  ${each.name} (${seconds} s)${failure === null ? "" : "\n" + failure}`);
+  }
+  await browser.close();
+  rmSync(profile, { recursive: true, force: true });
+  writeResults(resultFile, results);
+  const failed = results.filter(({ failure }) => failure !== null).length;
+  console.log(`${results.length - failed} passed, ${failed} failed`);
+  return results.length === 0 ? 1 : failed;
+}
