@@ -145,10 +145,10 @@ InstanceList HostileMachine() {
       repository.Publish(each.name, properties);
     }
   }
+  const TCIMDateTime noDay(2026, 0, 99, 12, 0, 0, 0, 60);
   repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", {
-                                                         {"Message",          "on no day"                               },
-                                                         {"RecordID",         "0"                                       },
-                                                         {"MessageTimestamp", TCIMDateTime(2026, 0, 99, 12, 0, 0, 0, 60)},
+                                                         {"RecordID",         "0"  },
+                                                         {"MessageTimestamp", noDay},
   });
   return repository.Instances();
 }

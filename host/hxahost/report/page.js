@@ -145,7 +145,7 @@ function sectionList(model, query, data) {
 }
 
 function troubleNote(title, error) {
-  return make("p", { class: "trouble" }, `${title} could not be drawn: ${printable(String(error))}`);
+  return make("p", { class: "trouble broken" }, `${title} could not be drawn: ${printable(String(error))}`);
 }
 
 function contentOf(section) {

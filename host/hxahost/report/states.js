@@ -29,10 +29,10 @@ function levelOfWord(text) {
 }
 
 // Severities of findings, as the program's health rules name them.
-const kSeverities = { critical: "bad", warning: "warn", unknown: "unknown" };
+const kSeverities = new Map([["critical", "bad"], ["warning", "warn"], ["unknown", "unknown"], ["ok", "good"]]);
 
 function levelOfSeverity(severity) {
-  return kSeverities[severity] || "good";
+  return kSeverities.get(severity) || "unknown";
 }
 
 // A badge: colour, symbol and words together.

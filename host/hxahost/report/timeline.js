@@ -1,7 +1,8 @@
 // The events of all logs that have a time, in one order, and beside them the logs that have none.
 
 const kBins = 120;
-const kEventLevels = { ERR: "bad", FAT: "bad", CRI: "bad", WRN: "warn", INF: "idle" };
+// A map: what a log says, "__proto__" for one, must not find anything but these.
+const kEventLevels = new Map([["ERR", "bad"], ["FAT", "bad"], ["CRI", "bad"], ["WRN", "warn"], ["INF", "idle"]]);
 
 function dddEvent(object) {
   const place = `Channel ${textOf(object, "Channel")}, ID ${textOf(object, "ID")}`;
@@ -11,7 +12,7 @@ function dddEvent(object) {
 
 function managerEvent(object) {
   const severity = textOf(object, "Severity");
-  return { object, log: "RAID manager", number: "", severity, level: kEventLevels[severity] || "unknown",
+  return { object, log: "RAID manager", number: "", severity, level: kEventLevels.get(severity) || "unknown",
     text: textOf(object, "Message"), machine: textOf(object, "MachineName") };
 }
 
