@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/contains_pattern.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/machine_copy.h"
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -61,9 +61,9 @@ TEST(Runs, AreSummedUpByToolAtTheEndOfTheTables) {
   const ProgramResult result = RunHxahost({"query", "--directory", hxahost::Utf8FromPath(SampleMachine())});
   const std::string seconds = kSeconds;
   EXPECT_THAT(result.out,
-              ContainsRegex("  qcmdrun: 46 runs, 2 controllers [(]1, 3[)], numbers 2, 4-8 refused, " + seconds +
-                            "  hrconf_64: 8 runs, 1 controller [(]1[)], number 2 refused, " + seconds +
-                            "  arcconf: 26 runs, 2 controllers [(]1, 2[)], numbers 3-8 refused, " + seconds));
+              ContainsPattern("  qcmdrun: 46 runs, 2 controllers [(]1, 3[)], numbers 2, 4-8 refused, " + seconds +
+                              "  hrconf_64: 8 runs, 1 controller [(]1[)], number 2 refused, " + seconds +
+                              "  arcconf: 26 runs, 2 controllers [(]1, 2[)], numbers 3-8 refused, " + seconds));
 }
 
 TEST(Runs, TellAMissingToolACutAnswerAndAnEmptyAnswerApart) {
