@@ -5,6 +5,7 @@
 #include "collect/collected_data.h"
 #include "logs/raid_mgr_event_time.h"
 #include "logs/raid_mgr_fields.h"
+#include "platform/ask_os_version.h"
 #include "platform/native_path.h"
 #include "platform/registry.h"
 #include "plugin/host_interface/services.h"
@@ -107,12 +108,6 @@ void CollectRaidMgrData::SetInformationRecord(const std::string& message) {
 }
 
 bool IsVersionSixOrLater(HostHandle host, OsVersion (*ask)()) {
-  try {
-    const OsVersion version = ask();
-    return version.isWindowsNt && version.major >= 6;
-  } catch (...) {
-    Log(host, kLogSevere,
-        "Can not get OS version from GetVersionEx(), please report the issue to customer service to fix it!");
-    return false;
-  }
+  const OsVersion version = AskOsVersion(host, ask);
+  return version.isWindowsNt && version.major >= 6;
 }

@@ -31,8 +31,8 @@ TCIMValue DriveIdentifyingInfo(const ZenxController&, const ZenxPhysicalDevice& 
   return StringArray({std::string(Trimmed(drive.DeviceType)), "Channel:" + channel + "|" + "SCSI ID:" + scsiId});
 }
 
-// The controller, logical disk and disk drive classes declare "CreationClassname" with a small n; the log classes do
-// not.
+// Controllers, logical disks and disk drives have always been published with "CreationClassname", with a small n; logs
+// have not. Programs read the property under the name that they know.
 using Controller = ZenxController;
 constexpr Property<Controller> kControllerProperties[] = {
     {"SystemCreationClassName",     kComputerSystem                         },
