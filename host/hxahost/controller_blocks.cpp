@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/hxahost/controller_columns.h"
+#include "host/hxahost/page.h"
 #include "host/hxahost/table.h"
 #include "host/hxahost/text.h"
 
@@ -47,8 +48,9 @@ void WriteFacts(std::ostream& out, const TPublishedInstance& controller, std::sp
   for (const Fact& fact : facts) {
     const std::string text = PropertyText(controller, fact.property);
     if (text.empty()) continue;
-    const std::string labelled = CutToWidth(std::string(fact.label) + " " + text, kViewWidth - kIndent.size() - 1);
-    if (!line.empty() && kIndent.size() + DisplayWidth(line) + 2 + DisplayWidth(labelled) >= kViewWidth) {
+    const std::string labelled =
+        CutToWidth(std::string(fact.label) + " " + text, PageOf(out).width - kIndent.size() - 1);
+    if (!line.empty() && kIndent.size() + DisplayWidth(line) + 2 + DisplayWidth(labelled) >= PageOf(out).width) {
       out << kIndent << line << ",\n";
       line.clear();
     }
@@ -63,7 +65,7 @@ void WriteController(std::ostream& out, const std::string& number, const TPublis
     const std::string text = PropertyText(controller, property);
     if (!text.empty()) heading += (property == "ControllerType" ? ": " : " - ") + text;
   }
-  out << CutToWidth(heading, kViewWidth) << '\n';
+  out << CutToWidth(heading, PageOf(out).width) << '\n';
   WriteFacts(out, controller, IdentityFacts());
   WriteFacts(out, controller, StateFacts());
 }
@@ -77,7 +79,7 @@ std::string_view WhyWithoutInstance(const QueryHeader& header) {
 void WriteBlock(std::ostream& out, const QueryHeader& header, const Block& block) {
   const InstanceList& controllers = block.kinds.front();
   if (controllers.empty()) {
-    out << CutToWidth("Controller " + block.number, kViewWidth / 2) << WhyWithoutInstance(header) << '\n';
+    out << CutToWidth("Controller " + block.number, PageOf(out).width / 2) << WhyWithoutInstance(header) << '\n';
   }
   for (const auto& controller : controllers) WriteController(out, block.number, *controller);
   for (std::size_t index = 1; index < block.kinds.size(); ++index) {

@@ -67,7 +67,7 @@ void WriteInstances(std::ostream& out, std::string_view heading, std::span<const
   if (instances.empty()) return;
   Table table;
   for (const InstanceColumn& column : columns) {
-    table.columns.push_back({std::string(column.title), column.widest, column.least});
+    table.columns.push_back({std::string(column.title), column.widest, column.least, column.isState});
   }
   for (const auto& instance : instances) {
     auto& row = table.rows.emplace_back();

@@ -18,6 +18,7 @@ struct InstanceColumn {
   std::string_view property;  // under the name under which it is set
   std::size_t widest = 30;
   std::size_t least = 8;  // what it may be narrowed to
+  bool isState = false;
 };
 
 // A property for people, printable: the elements of an array with ", " between them, event codes in hexadecimal. ""

@@ -10,6 +10,7 @@
 #include "host/hxahost/diff_view.h"
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/health_views.h"
+#include "host/hxahost/page.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/views.h"
 #include "plugin/host_interface/exception.h"
@@ -49,6 +50,7 @@ struct TypedOptions {
   bool noProgress = false;
   std::string healthFormat = "text";
   bool healthRules = false;
+  std::string width;
 };
 
 [[noreturn]] void Reject(const std::string& option, const std::string& typed, const std::string& whatToGive) {
@@ -86,6 +88,19 @@ NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text) {
     Reject("--local-time", text,
            "give a CIM date and time, yyyymmddhhmmss.mmmmmmsutc, such as 20260305123015.250000+060.");
   }
+}
+
+unsigned ReadWidth(const std::string& text) {
+  const auto number = WholeNumber(text);
+  if (!number || *number < kNarrowestPage || *number > kWidestPage) {
+    Reject("--width", text, "give a whole number from 40 to 1000.");
+  }
+  return *number;
+}
+
+void CheckColor(const std::string& text) {
+  constexpr std::string_view kWords[] = {"auto", "always", "never"};
+  if (std::ranges::count(kWords, text) == 0) Reject("--color", text, "give auto, always or never.");
 }
 
 template <class AnyView>
@@ -154,6 +169,12 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
       ->capture_default_str();
   query->add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query->add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
+  query->add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")
+      ->type_name("N");
+  query->add_flag("--ascii", read.isAscii, "Tables in ASCII alone (default where the terminal shows nothing else)");
+  query->add_option("--color", read.color, "State words in colour; never where NO_COLOR is set")
+      ->type_name("auto|always|never")
+      ->capture_default_str();
   AddCollecting(*query, typed);
   query->footer(kExamples);
   return query;
@@ -190,6 +211,8 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   if (!typed.machineName.empty()) options.machineName = typed.machineName;
   if (!typed.localTime.empty()) options.localTime = ReadLocalTime(typed.localTime);
   options.showProgress = !typed.noProgress;
+  if (!typed.width.empty()) options.width = ReadWidth(typed.width);
+  CheckColor(options.color);
   return options;
 }
 

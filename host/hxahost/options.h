@@ -24,6 +24,9 @@ struct QueryOptions {
   bool showRuns = false;
   bool showUnread = false;
   bool showProgress = true;
+  std::optional<unsigned> width;  // of the tables
+  bool isAscii = false;
+  std::string color = "auto";
 };
 
 // What "hxahost diff" is asked for: two results that were written before.

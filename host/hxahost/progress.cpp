@@ -8,12 +8,13 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::size_t kWidth = 79;  // a line that fills a terminal's last column may wrap
 constexpr std::size_t kRoomForSeconds = 9;
 
 }  // namespace
 
-Progress::Progress(std::ostream& terminal) : terminal_(terminal), clock_([this] { Run(); }) {}
+// A line that fills a terminal's last column may wrap.
+Progress::Progress(std::ostream& terminal, std::size_t width, std::size_t atMost)
+    : terminal_(terminal), width_(width - 1), atMost_(atMost), clock_([this] { Run(); }) {}
 
 Progress::~Progress() {
   {
@@ -28,7 +29,10 @@ Progress::~Progress() {
 
 void Progress::Begin(const std::string& what) {
   const std::lock_guard lock(mutex_);
-  what_ = CutToWidth(Printable(what), kWidth - kRoomForSeconds);
+  ++begun_;
+  const std::string place =
+      atMost_ == 0 ? "" : " (" + std::to_string(begun_) + " of at most " + std::to_string(atMost_) + ")";
+  what_ = CutToWidth(Printable(what), width_ - kRoomForSeconds - place.size()) + place;
   since_ = std::chrono::steady_clock::now();
   Draw(what_);
 }

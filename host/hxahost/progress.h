@@ -12,7 +12,8 @@ namespace hxahost {
 // One line on a terminal that says what is running and for how many seconds. It is gone when the object is.
 class Progress {
  public:
-  explicit Progress(std::ostream& terminal);
+  // The terminal's width in columns. How many commands there may be at most; 0: nobody knows.
+  explicit Progress(std::ostream& terminal, std::size_t width = 80, std::size_t atMost = 0);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
@@ -27,10 +28,13 @@ class Progress {
   void Draw(const std::string& line);
 
   std::ostream& terminal_;
+  const std::size_t width_;
+  const std::size_t atMost_;
   std::mutex mutex_;  // guards all that follows
   std::condition_variable changed_;
   std::string what_;  // empty: nothing runs
   std::chrono::steady_clock::time_point since_;
+  std::size_t begun_ = 0;
   std::size_t drawnWidth_ = 0;
   bool isOver_ = false;
   std::thread clock_;  // last: it uses the others

@@ -10,15 +10,18 @@
 
 #include "host/hxacore/host_services.h"
 #include "host/hxacore/repository.h"
+#include "host/hxahost/ascii_output.h"
 #include "host/hxahost/class_dependencies.h"
 #include "host/hxahost/collection_lock.h"
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/output_file.h"
+#include "host/hxahost/page.h"
 #include "host/hxahost/plugin.h"
 #include "host/hxahost/progress.h"
 #include "host/hxahost/query_log.h"
 #include "host/hxahost/session_services.h"
 #include "host/hxahost/system.h"
+#include "host/hxahost/terminal_page.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/views.h"
 
@@ -88,7 +91,9 @@ class Session {
  public:
   Session(const QueryOptions& options, const Paths& paths, std::ostream& err)
       : log_(paths.log),
-        progress_(options.showProgress && StandardErrorIsTerminal() ? std::make_unique<Progress>(err) : nullptr),
+        progress_(options.showProgress && StandardErrorIsTerminal()
+                      ? std::make_unique<Progress>(err, ProgressWidth(), MostRuns())
+                      : nullptr),
         services_(options, log_, runs_, progress_.get()),
         plugin_(paths.plugin),
         repository_(TRepository::Make(options.osType)) {}
@@ -130,8 +135,14 @@ void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::o
     err << "hxahost: another program collects from this folder zenx: waiting until it is done." << std::endl;
   });
   std::ostream& shown = file ? file->Stream() : out;
+  TAsciiBuffer asciiBuffer(shown);
+  std::ostream ascii(&asciiBuffer);
+  const bool isTable = options.format == Views().front().format;
+  std::ostream& page = isTable && IsAsciiPage(options) ? ascii : shown;
+  if (isTable) SetPage(page, PageFor(options));
   try {
-    session.Run(display, MakeHeader(options, classes), shown);
+    session.Run(display, MakeHeader(options, classes), page);
+    page.flush();
   } catch (const ProgramError&) {
     throw;
   } catch (const std::exception& failure) {

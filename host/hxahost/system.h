@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +18,13 @@ std::filesystem::path ProgramFolder();
 unsigned long ProcessId();
 
 bool StandardErrorIsTerminal();
+bool StandardOutputIsTerminal();
+
+// What the terminal behind a stream can show. Asked only where there is one.
+enum class TerminalStream { kOutput, kError };
+std::optional<std::size_t> TerminalWidth(TerminalStream stream);
+bool TerminalShowsUtf8();
+bool TerminalTakesColours();  // of standard output
 
 // Loads a library for good. Throws std::runtime_error with the system's reason.
 void LoadPluginLibrary(const std::filesystem::path& file);

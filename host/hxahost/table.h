@@ -7,13 +7,11 @@
 
 namespace hxahost {
 
-// No line of the table view is wider: it fits a terminal and a mail.
-constexpr std::size_t kViewWidth = 100;
-
 struct TableColumn {
   std::string title;
   std::size_t widest = 30;  // a longer text is cut
   std::size_t least = 8;    // what the column is narrowed to at most, to make room for others
+  bool isState = false;     // its texts are coloured by what they say, where the page has colours
 };
 
 // A table of texts that are printable already. A row may be shorter than the columns.
@@ -23,8 +21,8 @@ struct Table {
 };
 
 // Writes the table, indented by two columns. A column in which no row has a text is left out. Where it all is wider
-// than the view, the widest columns are narrowed; where that does not do, columns are left out from the right, and an
-// ellipsis behind the titles says so.
+// than the page of the stream, the widest columns are narrowed; where that does not do, columns are left out from the
+// right, and an ellipsis behind the titles says so.
 void WriteTable(std::ostream& out, const Table& table);
 
 }  // namespace hxahost

@@ -7,6 +7,7 @@
 
 #include "host/hxahost/controller_blocks.h"
 #include "host/hxahost/instance_text.h"
+#include "host/hxahost/page.h"
 #include "host/hxahost/raw_text_summary.h"
 #include "host/hxahost/record_sections.h"
 #include "host/hxahost/table.h"
@@ -44,7 +45,7 @@ void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult
 void BeginTables(std::ostream& out, const QueryHeader& header) {
   const std::string line = "RAID controllers of " + Printable(header.machine) + " on " +
                            ReadableTime(header.time.ToString()) + ", collected in " + Printable(header.directory);
-  out << CutToWidth(line, kViewWidth) << '\n';
+  out << CutToWidth(line, PageOf(out).width) << '\n';
 }
 
 void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {

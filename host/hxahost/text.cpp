@@ -48,6 +48,21 @@ constexpr Range kUnsafe[] = {
     {0xfff9, 0xfffb},
 };
 
+// None: they are drawn over the character before. Marks of scripts whose letters change shape are counted as one.
+constexpr Range kCombining[] = {
+    {0x300,   0x36f  },
+    {0x483,   0x489  },
+    {0x591,   0x5bd  },
+    {0x610,   0x61a  },
+    {0x64b,   0x65f  },
+    {0x1ab0,  0x1aff },
+    {0x1dc0,  0x1dff },
+    {0x20d0,  0x20ff },
+    {0xfe00,  0xfe0f },
+    {0xfe20,  0xfe2f },
+    {0xe0100, 0xe01ef},
+};
+
 // Two columns each.
 constexpr Range kWide[] = {
     {0x1100,  0x115f },
@@ -124,7 +139,10 @@ std::string Escaped(char32_t code) {
   return escape.data();
 }
 
-std::size_t Columns(char32_t code) { return IsIn(code, kWide) ? 2 : 1; }
+std::size_t Columns(char32_t code) {
+  if (IsIn(code, kCombining)) return 0;
+  return IsIn(code, kWide) ? 2 : 1;
+}
 
 // What cannot be decoded is taken byte by byte, so that every loop over characters goes on.
 Character NextCharacter(std::string_view utf8) { return FirstCharacter(utf8).value_or(Character{}); }

@@ -45,12 +45,13 @@ constexpr Sign kArcconfSigns[] = {
 struct Tool {
   std::string_view name;
   std::span<const Sign> signs;
+  std::size_t mostRuns;  // with eight controllers
 };
 
 constexpr Tool kTools[] = {
-    {"qcmdrun",   kQcmdrunSigns},
-    {"hrconf_64", kHrconfSigns },
-    {"arcconf",   kArcconfSigns},
+    {"qcmdrun",   kQcmdrunSigns, 8 + 8 * 8 + 8 + 8 * 7},
+    {"hrconf_64", kHrconfSigns,  8 + 8 * 3 + 8 + 8    },
+    {"arcconf",   kArcconfSigns, 8 + 8 * 5 + 8        },
 };
 
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
@@ -90,6 +91,12 @@ std::vector<std::string_view> KnownTools() {
   std::vector<std::string_view> names;
   for (const Tool& tool : kTools) names.push_back(tool.name);
   return names;
+}
+
+std::size_t MostRuns() {
+  std::size_t runs = 0;
+  for (const Tool& tool : kTools) runs += tool.mostRuns;
+  return runs;
 }
 
 ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output) {

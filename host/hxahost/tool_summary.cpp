@@ -8,7 +8,7 @@
 #include <optional>
 #include <string_view>
 
-#include "host/hxahost/table.h"
+#include "host/hxahost/page.h"
 #include "host/hxahost/text.h"
 
 namespace hxahost {
@@ -122,7 +122,7 @@ std::vector<std::string> ToolsOf(const ToolRunList& runs) {
 }
 
 void WriteLine(std::ostream& out, std::size_t indent, const std::string& text) {
-  out << std::string(indent, ' ') << CutToWidth(text, kViewWidth - indent) << '\n';
+  out << std::string(indent, ' ') << CutToWidth(text, PageOf(out).width - indent) << '\n';
 }
 
 void WriteSummary(std::ostream& out, const ToolSummary& summary) {

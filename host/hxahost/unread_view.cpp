@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "host/hxahost/table.h"
+#include "host/hxahost/page.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/unread_lines.h"
 
@@ -18,10 +18,11 @@ std::size_t CountLines(const std::vector<UnreadText>& texts) {
 }
 
 void WriteText(std::ostream& out, const UnreadText& text) {
-  out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), kViewWidth) << '\n';
+  out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), PageOf(out).width)
+      << '\n';
   for (std::size_t index = 0; index < text.unread.size(); ++index) {
     const std::string line = std::to_string(text.unread[index] + 1) + "  " + Printable(text.unreadLines[index]);
-    out << CutToWidth("    " + line, kViewWidth) << '\n';
+    out << CutToWidth("    " + line, PageOf(out).width) << '\n';
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include <sstream>
 
+#include "host/hxahost/page.h"
 #include "host/hxahost/text.h"
 
 namespace {
@@ -110,7 +111,7 @@ TEST(Table, IsNeverWiderThanTheView) {
     std::istringstream lines(Text(columns, {row, row}));
     std::string line;
     int count = 0;
-    for (; std::getline(lines, line); ++count) EXPECT_LE(DisplayWidth(line), kViewWidth) << line;
+    for (; std::getline(lines, line); ++count) EXPECT_LE(DisplayWidth(line), Page().width) << line;
     EXPECT_EQ(count, 3) << "no row is wrapped";
   }
 }
