@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -22,9 +23,22 @@ namespace {
 // Commands that found nothing leave their raw texts behind all the same.
 bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != "KVRSG_zxRawData"; }
 
+// Where nothing was found, the first thing to know is whether anything looked.
+void WriteToolsNotStarted(std::ostream& out, const QueryResult& result) {
+  std::string names;
+  std::set<std::string> known;
+  for (const ToolRun& run : result.runs) {
+    if (run.outcome != Outcome::kNotStarted || !known.insert(run.path).second) continue;
+    names += (names.empty() ? "" : ", ") + Printable(run.path);
+  }
+  if (names.empty()) return;
+  out << CutToWidth("Not started: " + names, PageOf(out).width) << '\n';
+}
+
 void WriteNothingFound(std::ostream& out, const QueryResult& result) {
   if (std::ranges::any_of(result.instances, [](const auto& instance) { return IsFound(*instance); })) return;
   out << "\nNothing was found: no controller, no drive and no log record of the classes asked for.\n";
+  WriteToolsNotStarted(out, result);
 }
 
 void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {

@@ -125,10 +125,26 @@ void WriteLine(std::ostream& out, std::size_t indent, const std::string& text) {
   out << std::string(indent, ' ') << CutToWidth(text, PageOf(out).width - indent) << '\n';
 }
 
+std::string TroubleHead(const ToolTrouble& trouble) {
+  const std::string which =
+      trouble.times == 1 ? trouble.firstCommand : Counted(trouble.times, "run") + ", the first " + trouble.firstCommand;
+  return std::string(OutcomeWord(trouble.outcome)) + " (" + which + "):";
+}
+
+// The reason matters most: where the line has no room for all of it, it gets one of its own.
+void WriteTrouble(std::ostream& out, const ToolTrouble& trouble) {
+  constexpr std::size_t kIndent = 4;
+  if (kIndent + DisplayWidth(TroubleText(trouble)) <= PageOf(out).width) {
+    return WriteLine(out, kIndent, TroubleText(trouble));
+  }
+  WriteLine(out, kIndent, TroubleHead(trouble));
+  WriteLine(out, kIndent + 2, trouble.reason);
+}
+
 void WriteSummary(std::ostream& out, const ToolSummary& summary) {
   WriteLine(out, 2, SummaryText(summary));
   const std::size_t shown = std::min(summary.troubles.size(), kMostTroubles);
-  for (std::size_t index = 0; index < shown; ++index) WriteLine(out, 4, TroubleText(summary.troubles[index]));
+  for (std::size_t index = 0; index < shown; ++index) WriteTrouble(out, summary.troubles[index]);
   if (summary.troubles.size() > shown) {
     WriteLine(out, 4, "and " + Counted(summary.troubles.size() - shown, "other trouble") + ": --log FILE shows all");
   }
@@ -161,11 +177,7 @@ std::string SummaryText(const ToolSummary& summary) {
          TroubleCounts(summary) + ", " + SecondsText(summary.seconds);
 }
 
-std::string TroubleText(const ToolTrouble& trouble) {
-  const std::string which =
-      trouble.times == 1 ? trouble.firstCommand : Counted(trouble.times, "run") + ", the first " + trouble.firstCommand;
-  return std::string(OutcomeWord(trouble.outcome)) + " (" + which + "): " + trouble.reason;
-}
+std::string TroubleText(const ToolTrouble& trouble) { return TroubleHead(trouble) + " " + trouble.reason; }
 
 void WriteToolSummaries(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   out << "\nRuns of the tools\n";

@@ -36,6 +36,25 @@ TEST(Progress, CountsTheSecondsOfALongCommand) {
   EXPECT_TRUE(terminal.str().ends_with("\r        \r")) << "erased";
 }
 
+TEST(Progress, SaysWhichOfHowManyCommandsAtMostRuns) {
+  std::ostringstream terminal;
+  {
+    Progress progress(terminal, 80, 240);
+    progress.Begin("first");
+    progress.Begin("second");
+  }
+  EXPECT_THAT(terminal.str(), HasSubstr("\rfirst (1 of at most 240)\rsecond (2 of at most 240)"));
+}
+
+TEST(Progress, LeavesRoomInANarrowTerminal) {
+  std::ostringstream terminal;
+  {
+    Progress progress(terminal, 40, 240);
+    progress.Begin(std::string(200, 'x'));
+  }
+  EXPECT_THAT(terminal.str(), testing::StartsWith("\r" + std::string(10, 'x') + "\u2026 (1 of at most 240)\r"));
+}
+
 TEST(Progress, KeepsToOneLineWithoutControlCharacters) {
   std::ostringstream terminal;
   {

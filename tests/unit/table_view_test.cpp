@@ -74,6 +74,7 @@ TEST(TableView, SaysWhenNothingWasFoundAndWhichToolsCouldNotBeRun) {
             R"(RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in C:\tools
 
 Nothing was found: no controller, no drive and no log record of the classes asked for.
+Not started: zenx//qcmdrun.exe
 
   Raw texts of         Commands  Answered  Lines
   zenx//hrconf_64.exe  1         0         0

@@ -70,4 +70,9 @@ TEST(Text, PathsKeepEveryCharacter) {
   EXPECT_EQ(Utf8FromPath(PathFromUtf8("folder/K\xc3\xa4se \xe6\xbc\xa2")), "folder/K\xc3\xa4se \xe6\xbc\xa2");
 }
 
+TEST(Text, CountsNoColumnForACombiningMarkAndCutsItWithItsLetter) {
+  EXPECT_EQ(DisplayWidth("e\u0301a\u20dd"), 2U);
+  EXPECT_EQ(CutToWidth("e\u0301e\u0301e\u0301", 2), "e\u0301\u2026");
+}
+
 }  // namespace

@@ -108,6 +108,13 @@ TEST(ToolSummary, SaysOncePerReasonWhatWentWrongAndWithWhichCommandFirst) {
   EXPECT_THAT(text, HasSubstr("  Tools belong into the folder zenx of /machine.\n"));
 }
 
+TEST(ToolSummary, GivesALongReasonALineOfItsOwn) {
+  QueryResult result;
+  const std::string reason(80, 'r');
+  result.runs = {MakeRun("arcconf", "getconfig", 1, Outcome::kTimedOut, reason)};
+  EXPECT_THAT(Written(result), HasSubstr("    timed out (getconfig 1 al):\n      " + reason + "\n"));
+}
+
 TEST(ToolSummary, SaysWhereToolsBelongOnlyWhereOneIsMissing) {
   QueryResult result;
   result.runs = {Probe(1, Outcome::kTimedOut)};

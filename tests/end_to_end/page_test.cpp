@@ -1,0 +1,49 @@
+// Tables that go to a file or a pipe: as wide as asked for, in ASCII where asked for, without colours.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "host/hxahost/text.h"
+#include "tests/support/hxahost_run.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+ProgramResult Tables(std::vector<std::string> further) {
+  further.insert(further.begin(),
+                 {"query", "--directory", hxahost::Utf8FromPath(SampleMachine()), "--class", "KVRSG_zxDiskDrive"});
+  return RunHxahost(further);
+}
+
+TEST(PageOfAPipe, IsAHundredColumnsWideAndWithoutColours) {
+  const ProgramResult result = Tables({});
+  EXPECT_EQ(result.exitStatus, 0);
+  EXPECT_THAT(result.out, Not(HasSubstr("\x1b")));
+  EXPECT_THAT(result.out, HasSubstr("Failed"));
+}
+
+TEST(PageOfAPipe, HasColoursAndAsciiWhereAskedFor) {
+  const ProgramResult result = Tables({"--color", "always", "--ascii", "--width", "80"});
+  EXPECT_THAT(result.out, HasSubstr("\x1b[31mFailed\x1b[0m"));
+  for (const char character : result.out) ASSERT_LT(static_cast<unsigned char>(character), 0x80U) << result.out;
+}
+
+TEST(PageOfAPipe, RejectsWrongValuesInOneLine) {
+  for (const std::vector<std::string>& wrong : {
+           std::vector<std::string>{"--width", "39"  },
+           {"--width", "1001"},
+           {"--width", "wide"},
+           {"--color", "red" }
+  }) {
+    const ProgramResult result = Tables(wrong);
+    EXPECT_EQ(result.exitStatus, 2) << wrong[1];
+    EXPECT_THAT(result.err, HasSubstr(wrong[0] + " \"" + wrong[1] + "\": give "));
+  }
+}
+
+}  // namespace
