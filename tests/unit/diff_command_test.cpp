@@ -1,0 +1,51 @@
+#include "host/hxahost/diff_command.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "host/hxahost/exit_status.h"
+#include "host/hxahost/text.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+using namespace hxahost;
+
+constexpr const char* kEmpty = R"({"format": 1, "machine": "M", "queries": [{"instances": [], "log": []}]})";
+constexpr const char* kOneDisk =
+    R"({"format": 1, "machine": "M", "queries": [{"instances": [
+        {"class": "KVRSG_zxDiskDrive", "path": "d\u001b[2J", "properties": {"State": "Online\u0007"}}]}]})";
+
+class DiffCommand : public testing::Test {
+ protected:
+  DiffOptions Options(const char* before, const char* after) const {
+    return {Utf8FromPath(folder_.Write("1.json", before)), Utf8FromPath(folder_.Write("2.json", after)), "text"};
+  }
+
+  TemporaryFolder folder_;
+  std::ostringstream out_;
+};
+
+TEST_F(DiffCommand, GivesStatus0ForTheSameAnd1ForADifference) {
+  EXPECT_EQ(RunDiffCommand(Options(kEmpty, kEmpty), out_), 0);
+  EXPECT_EQ(RunDiffCommand(Options(kEmpty, kOneDisk), out_), 1);
+}
+
+TEST_F(DiffCommand, SendsNoControlCharacterOfAResultToTheTerminal) {
+  RunDiffCommand(Options(kOneDisk, kEmpty), out_);
+  EXPECT_EQ(out_.str().find('\x1b'), std::string::npos);
+  EXPECT_NE(out_.str().find("  - d\\x1b[2J\n"), std::string::npos) << out_.str();
+}
+
+TEST_F(DiffCommand, IsInTroubleWhereTheOutputCannotBeWritten) {
+  out_.setstate(std::ios::badbit);
+  try {
+    RunDiffCommand(Options(kEmpty, kEmpty), out_);
+    ADD_FAILURE() << "it said that nothing is different";
+  } catch (const ProgramError& error) {
+    EXPECT_EQ(static_cast<int>(error.Status()), 2);
+  }
+}
+
+}  // namespace
