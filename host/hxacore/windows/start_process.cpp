@@ -81,13 +81,22 @@ PROCESS_INFORMATION CreateSuspended(const std::string& path, const std::vector<s
   startup.StartupInfo.hStdError = output;
   startup.lpAttributeList = handles.Get();
 
-  std::wstring line = CommandLine(path, arguments);
+  const std::wstring program = FullPath(path);
   std::wstring environment = ChildEnvironment();
   PROCESS_INFORMATION started{};
-  if (!CreateProcessW(FullPath(path).c_str(), line.data(), nullptr, nullptr, TRUE,
-                      CREATE_SUSPENDED | CREATE_NO_WINDOW | CREATE_UNICODE_ENVIRONMENT | EXTENDED_STARTUPINFO_PRESENT,
-                      environment.data(), nullptr, &startup.StartupInfo, &started)) {
-    ThrowLastError(path);
+  // A busy system may fail with an internal error before the program has begun (Wine does, about once in a thousand
+  // runs). It is created suspended, so nothing of it has run, and trying again does no harm.
+  constexpr int kTries = 5;
+  constexpr DWORD kPauseMilliseconds = 50;
+  for (int attempt = 1;; ++attempt) {
+    std::wstring line = CommandLine(path, arguments);  // the call may write into it
+    if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE,
+                       CREATE_SUSPENDED | CREATE_NO_WINDOW | CREATE_UNICODE_ENVIRONMENT | EXTENDED_STARTUPINFO_PRESENT,
+                       environment.data(), nullptr, &startup.StartupInfo, &started)) {
+      break;
+    }
+    if (GetLastError() != ERROR_INTERNAL_ERROR || attempt == kTries) ThrowLastError(path);
+    Sleep(kPauseMilliseconds);
   }
   return started;
 }
