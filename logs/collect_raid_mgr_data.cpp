@@ -7,6 +7,7 @@
 #include "logs/raid_mgr_fields.h"
 #include "platform/ask_os_version.h"
 #include "platform/native_path.h"
+#include "platform/raid_manager_key.h"
 #include "platform/registry.h"
 #include "plugin/host_interface/services.h"
 
@@ -14,14 +15,9 @@ using namespace NKVRHXA20;
 
 namespace {
 
-// The installer of the RAID manager is a 32-bit program: 64-bit Windows keeps its keys under Wow6432Node.
-constexpr const char* kRegistryKey = "SOFTWARE\\Wow6432Node\\Adaptec\\RAIDController";
-constexpr const char* kRegistryValue = "LogDir";
 constexpr const char* kSubFolder = "KVR\\Zentraxis Manager\\";
 constexpr const char* kFileName = "RaidEvtA.log";
 
-// With its end. Longer paths count as no log.
-constexpr std::size_t kPathSize = 256;
 // Longer lines are read in pieces, each a line of its own.
 constexpr std::size_t kLongestLine = 511;
 
@@ -65,10 +61,10 @@ RaidMgrRead CollectRaidMgrData::ReadNextRecord() {
 bool CollectRaidMgrData::SetRaidMgrPath() {
   Log(host_, kLogRoutine, "Enter CollectRaidMgrData::SetRaidMgrPath()");
   const bool hasSubFolder = IsVersionSixOrLater(host_, GetOsVersion);
-  const auto folder = ReadLocalMachineText(kRegistryKey, kRegistryValue, kPathSize);
+  const auto folder = ReadLocalMachineText(kRaidManagerKey, kRaidLogDirValue, kRaidLogPathSize);
   if (!folder) return false;
   const std::string path = *folder + (hasSubFolder ? kSubFolder : "");
-  if ((path + kFileName).size() >= kPathSize) return false;
+  if ((path + kFileName).size() >= kRaidLogPathSize) return false;
   path_ = path;
   Log(host_, kLogRoutine, "ZXM LogPath: " + path_);
   Log(host_, kLogRoutine, "Exit CollectRaidMgrData::SetRaidMgrPath()");

@@ -1,5 +1,7 @@
 #include "logs/text_file.h"
 
+#include "platform/native_path.h"
+
 namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{64} << 10U;
@@ -8,7 +10,7 @@ constexpr int kNone = -1;
 }  // namespace
 
 // Opened as bytes: where systems have a text mode, each has its own.
-TextFile::TextFile(const std::string& path) : file_(std::fopen(path.c_str(), "rb")), buffer_(kBufferSize) {}
+TextFile::TextFile(const std::string& path) : file_(OpenNativeFile(path)), buffer_(kBufferSize) {}
 
 std::string TextFile::ReadLine(std::size_t limit) {
   std::string line;

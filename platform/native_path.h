@@ -1,7 +1,12 @@
 #pragma once
 
+#include <cstdio>
 #include <string>
 
 // The path under which the system opens what a Windows path names: on Windows the path itself, elsewhere with its
-// backslashes read as slashes.
+// backslashes read as slashes. Where answers come from the environment and it names a file in the log's place
+// (ZENX_RAID_LOG_FILE), that file, in UTF-8.
 std::string NativePath(const std::string& windowsPath);
+
+// Opens such a path to read its bytes; null where it cannot be opened.
+std::FILE* OpenNativeFile(const std::string& nativePath);

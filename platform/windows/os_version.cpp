@@ -2,7 +2,10 @@
 
 #include <windows.h>
 
+#include "platform/environment_answers.h"
+
 OsVersion GetOsVersion() {
+  if (AsksEnvironment()) return OsVersionFromEnvironment();
   OSVERSIONINFOEXA version = {};
   auto* const basic = reinterpret_cast<OSVERSIONINFOA*>(&version);
   version.dwOSVersionInfoSize = sizeof(OSVERSIONINFOEXA);

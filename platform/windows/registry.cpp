@@ -4,7 +4,10 @@
 
 #include <windows.h>
 
+#include "platform/environment_answers.h"
+
 std::optional<std::string> ReadLocalMachineText(const char* key, const char* value, std::size_t limit) {
+  if (AsksEnvironment()) return RegistryTextFromEnvironment(value, limit);
   HKEY opened = nullptr;
   if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, key, 0, KEY_READ, &opened) != ERROR_SUCCESS) return std::nullopt;
   std::vector<char> text(limit);
