@@ -101,10 +101,10 @@ constexpr Branch kBranches[] = {
 
 void ReadDevice(Device& device, CollectedData& text) {
   UntilEndOfText([&] { device.DeviceType = CutDeviceType(text.NextLine()); });
-  for (const auto& [type, read, place] : kBranches) {
-    if (!Contains(device.DeviceType, type)) continue;
-    UntilEndOfText([&] { read(device, text); });
-    if (place == Place::kSplit && !device.ReportedChannel.empty()) SplitReportedChannel(device);
+  for (const Branch& branch : kBranches) {
+    if (!Contains(device.DeviceType, branch.type)) continue;
+    UntilEndOfText([&] { branch.read(device, text); });
+    if (branch.place == Place::kSplit && !device.ReportedChannel.empty()) SplitReportedChannel(device);
     return;
   }
 }
