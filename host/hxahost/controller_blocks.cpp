@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/hxahost/controller_columns.h"
+#include "host/hxahost/device_owners.h"
 #include "host/hxahost/page.h"
 #include "host/hxahost/table.h"
 #include "host/hxahost/text.h"
@@ -19,23 +20,23 @@ namespace hxahost {
 
 namespace {
 
-// Everything that carries one controller number, by kind in the order of kDeviceKinds.
+// Everything of one controller, by kind in the order of kDeviceKinds.
 struct Block {
-  std::string number;
+  std::string owner;
   std::vector<InstanceList> kinds;
 };
 
 std::vector<Block> BlocksOf(const InstanceList& instances) {
+  const std::vector<std::string> owners = DeviceOwners(instances);
   std::vector<Block> blocks;
   std::unordered_map<std::string, std::size_t> places;
   for (const DeviceKind& kind : DeviceKinds()) {
     const auto index = static_cast<std::size_t>(&kind - DeviceKinds().data());
-    for (const auto& instance : instances) {
-      if (instance->Class().name != kind.className) continue;
-      const std::string number = PropertyText(*instance, "ControllerNum");
-      const auto [place, isNew] = places.emplace(number, blocks.size());
-      if (isNew) blocks.push_back({number, std::vector<InstanceList>(DeviceKinds().size())});
-      blocks[place->second].kinds[index].push_back(instance);
+    for (std::size_t instance = 0; instance < instances.size(); ++instance) {
+      if (instances[instance]->Class().name != kind.className) continue;
+      const auto [place, isNew] = places.emplace(owners[instance], blocks.size());
+      if (isNew) blocks.push_back({Printable(owners[instance]), std::vector<InstanceList>(DeviceKinds().size())});
+      blocks[place->second].kinds[index].push_back(instances[instance]);
     }
   }
   return blocks;
@@ -59,8 +60,8 @@ void WriteFacts(std::ostream& out, const TPublishedInstance& controller, std::sp
   if (!line.empty()) out << kIndent << line << '\n';
 }
 
-void WriteController(std::ostream& out, const std::string& number, const TPublishedInstance& controller) {
-  std::string heading = "Controller " + number;
+void WriteController(std::ostream& out, const std::string& owner, const TPublishedInstance& controller) {
+  std::string heading = "Controller " + owner;
   for (const std::string_view property : {"ControllerType", "ControllerStatus"}) {
     const std::string text = PropertyText(controller, property);
     if (!text.empty()) heading += (property == "ControllerType" ? ": " : " - ") + text;
@@ -79,9 +80,9 @@ std::string_view WhyWithoutInstance(const QueryHeader& header) {
 void WriteBlock(std::ostream& out, const QueryHeader& header, const Block& block) {
   const InstanceList& controllers = block.kinds.front();
   if (controllers.empty()) {
-    out << CutToWidth("Controller " + block.number, PageOf(out).width / 2) << WhyWithoutInstance(header) << '\n';
+    out << CutToWidth("Controller " + block.owner, PageOf(out).width / 2) << WhyWithoutInstance(header) << '\n';
   }
-  for (const auto& controller : controllers) WriteController(out, block.number, *controller);
+  for (const auto& controller : controllers) WriteController(out, block.owner, *controller);
   for (std::size_t index = 1; index < block.kinds.size(); ++index) {
     const DeviceKind& kind = DeviceKinds()[index];
     WriteInstances(out, "  " + std::string(kind.heading), kind.columns, block.kinds[index]);

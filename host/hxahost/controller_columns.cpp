@@ -30,7 +30,7 @@ constexpr Fact kState[] = {
     {"battery time",             "BatteryTimeRemaining"       },
 };
 
-// States are not narrowed: they are what people look for.
+// States are not narrowed, and stand where no narrow page cuts them off: they are what people look for.
 constexpr InstanceColumn kLogicalDrives[] = {
     {"Drive", "LogicalDriveNum",    8,   5                               },
     {"Name",  "LogicalDriveName",   20,  8                               },
@@ -53,17 +53,17 @@ constexpr InstanceColumn kDiskGroups[] = {
 };
 
 constexpr InstanceColumn kDisks[] = {
-    {"Ch",    "Channel",    8,            2            },
-    {"ID",    "ScsiId",     6,            2            },
-    {"Type",  "DeviceType", 24,           9            },
-    {"Model", "Model",      20,           10           },
-    {"State", "State",      30,           30,            true},
-    {"Size",       "Size",              16,              8           },
-    {"Serial",       "DeviceSerialNum",            24, 20},
-    {"Firmware",       "Firmware",          10,      8                  },
-    {"PFA",       "PFA",               8,                3,true},
-    {"FRU",   "FRU",               12,                       8                                 },
-    {"Vendor",      "Vendor",                  10, 8},
+    {"Ch",    "Channel",    8,  2                    },
+    {"ID",    "ScsiId",     6,  2                    },
+    {"Type",  "DeviceType", 24, 9                    },
+    {"Model", "Model",      20, 10                   },
+    {"State", "State",      30, 30,                    true},
+    {"PFA",       "PFA",               8,      3,            true},
+    {"Size",   "Size",               16,            8             },
+    {"Serial",      "DeviceSerialNum",                  24,  20},
+    {"Firmware",     "Firmware",                 10,         8                            },
+    {"FRU",      "FRU",                  12,        8},
+    {"Vendor",      "Vendor",                  10,      8                       },
 };
 
 constexpr DeviceKind kKinds[] = {

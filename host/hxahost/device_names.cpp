@@ -14,18 +14,16 @@ namespace {
 
 std::string InParentheses(const std::string& text) { return text.empty() ? "" : " (" + text + ")"; }
 
-std::string OfController(const TPublishedInstance& instance) {
-  return " of controller " + PublishedText(instance, "ControllerNum");
+// "3 (arcconf)" and a model share one pair of parentheses: "3 (arcconf, Zentraxis C6-e)".
+std::string ControllerName(const TPublishedInstance& controller, const std::string& owner) {
+  const std::string model = PublishedText(controller, "ControllerType");
+  if (!owner.ends_with(')') || model.empty()) return "controller " + owner + InParentheses(model);
+  return "controller " + owner.substr(0, owner.size() - 1) + ", " + model + ")";
 }
 
-std::string ControllerName(const TPublishedInstance& controller) {
-  return "controller " + PublishedText(controller, "ControllerNum") +
-         InParentheses(PublishedText(controller, "ControllerType"));
-}
-
-std::string LogicalDriveName(const TPublishedInstance& drive) {
+std::string LogicalDriveName(const TPublishedInstance& drive, const std::string& owner) {
   return "logical drive " + PublishedText(drive, "LogicalDriveNum") +
-         InParentheses(PublishedText(drive, "LogicalDriveName")) + OfController(drive);
+         InParentheses(PublishedText(drive, "LogicalDriveName")) + " of controller " + owner;
 }
 
 // "Device #4" of one utility is "4" of the other.
@@ -42,23 +40,23 @@ std::string Place(const TPublishedInstance& device) {
   return reported.empty() ? "number " + DeviceNumber(device) : "channel,ID " + reported;
 }
 
-std::string DeviceName(const TPublishedInstance& device) {
+std::string DeviceName(const TPublishedInstance& device, const std::string& owner) {
   const std::string type = PublishedText(device, "DeviceType");
-  return (type.empty() ? "device" : type) + " at " + Place(device) + OfController(device);
+  return (type.empty() ? "device" : type) + " at " + Place(device) + " of controller " + owner;
 }
 
-std::string CountersName(const TPublishedInstance& counters) {
-  return "device at " + Place(counters) + OfController(counters);
+std::string CountersName(const TPublishedInstance& counters, const std::string& owner) {
+  return "device at " + Place(counters) + " of controller " + owner;
 }
 
-std::string BadStripesName(const TPublishedInstance& stripes) {
-  return "logical drive " + PublishedText(stripes, "LogicalDrive") + OfController(stripes);
+std::string BadStripesName(const TPublishedInstance& stripes, const std::string& owner) {
+  return "logical drive " + PublishedText(stripes, "LogicalDrive") + " of controller " + owner;
 }
 
 struct Naming {
   std::string_view className;
   std::string_view identifier;
-  std::string (*name)(const TPublishedInstance&);
+  std::string (*name)(const TPublishedInstance& instance, const std::string& owner);
 };
 
 constexpr Naming kNamings[] = {
@@ -81,9 +79,10 @@ std::string IdentifierOf(const TPublishedInstance& instance) {
   return naming == nullptr ? "" : PublishedText(instance, naming->identifier);
 }
 
-std::string NameOf(const TPublishedInstance& instance) {
+std::string NameOf(const TPublishedInstance& instance, const std::string& owner) {
   const Naming* const naming = FindNaming(instance);
-  return naming == nullptr ? "" : naming->name(instance);
+  if (naming == nullptr) return "";
+  return naming->name(instance, owner.empty() ? PublishedText(instance, "ControllerNum") : owner);
 }
 
 }  // namespace hxahost

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,8 +24,9 @@ struct Finding {
   std::string identifier;  // "DeviceID" or "InstanceID" of the instance, or the tool's name
   std::string name;        // as people call it: "logical drive 3 (Archive) of controller 4"
   std::string property;
-  std::string text;     // as the tool printed it, bytes, without the white space at both ends
-  std::string meaning;  // what it means and what to do
+  std::string text;                          // as the tool printed it, bytes, without the white space at both ends
+  std::string meaning;                       // what it means and what to do
+  std::optional<std::size_t> instance = {};  // the place of the instance among those of the query
 };
 
 using Findings = std::vector<Finding>;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/hxahost/device_names.h"
+#include "host/hxahost/device_owners.h"
 #include "host/hxahost/published_text.h"
 #include "host/hxahost/silent_controllers.h"
 #include "host/hxahost/tool_findings.h"
@@ -88,16 +89,18 @@ InstanceList UnguardedDrives(const InstanceList& instances) {
 class Examination {
  public:
   explicit Examination(const InstanceList& instances)
-      : instances_(instances), arrays_(UnguardedDrives(instances), instances) {}
+      : instances_(instances), owners_(DeviceOwners(instances)), arrays_(UnguardedDrives(instances), instances) {}
 
   void Examine(const WatchedValue& value, Findings& findings) const {
-    for (const auto& instance : instances_) {
-      if (instance->Class().name != value.className) continue;
-      const std::string text = PublishedText(*instance, value.property);
-      const Judgement judgement = Judge(value, text, [&](Where where) { return Holds(where, *instance); });
+    for (std::size_t place = 0; place < instances_.size(); ++place) {
+      const TPublishedInstance& instance = *instances_[place];
+      if (instance.Class().name != value.className) continue;
+      const std::string text = PublishedText(instance, value.property);
+      const Judgement judgement = Judge(value, text, [&](Where where) { return Holds(where, instance); });
       if (judgement.severity == Severity::kFine) continue;
-      findings.push_back({judgement.severity, std::string(value.className), IdentifierOf(*instance), NameOf(*instance),
-                          std::string(value.property), text, std::string(judgement.meaning)});
+      findings.push_back({judgement.severity, std::string(value.className), IdentifierOf(instance),
+                          NameOf(instance, owners_[place]), std::string(value.property), text,
+                          std::string(judgement.meaning), place});
     }
   }
 
@@ -116,6 +119,7 @@ class Examination {
   }
 
   const InstanceList& instances_;
+  std::vector<std::string> owners_;
   UnguardedArrays arrays_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "host/hxahost/finding_json.h"
 #include "host/hxahost/health_views.h"
 #include "host/hxahost/text.h"
 
@@ -10,18 +11,6 @@ namespace hxahost {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-Json FindingJson(const Finding& finding) {
-  Json json = Json::object();
-  json["severity"] = SeverityWord(finding.severity);
-  json["class"] = finding.className;
-  json["identifier"] = AsUtf8(finding.identifier);
-  json["name"] = AsUtf8(finding.name);
-  json["property"] = finding.property;
-  json["text"] = AsUtf8(finding.text);
-  json["meaning"] = finding.meaning;
-  return json;
-}
 
 }  // namespace
 

@@ -34,7 +34,9 @@ void WriteQueryHtml(std::ostream& out, const QueryHeader& header, const QueryRes
       {"@QUERY_DATA@",
        [&](std::ostream& page) { writeEscaped(page, [&](std::ostream& data) { WriteJson(data, header, result); }); }},
       {"@REPORT_DATA@",
-       [&](std::ostream& page) { writeEscaped(page, [&](std::ostream& data) { WriteReportData(data, header); }); }  },
+       [&](std::ostream& page) {
+         writeEscaped(page, [&](std::ostream& data) { WriteReportData(data, header, result); });
+       }                                                                                                            },
   };
   WriteTemplate(out, ReportTemplate(), slots);
 }

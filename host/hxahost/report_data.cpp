@@ -1,13 +1,22 @@
 #include "host/hxahost/report_data.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 #include <nlohmann/json.hpp>
 
+#include "host/hxacore/schema.h"
 #include "host/hxahost/controller_columns.h"
+#include "host/hxahost/device_owners.h"
+#include "host/hxahost/finding_json.h"
+#include "host/hxahost/health.h"
 #include "host/hxahost/record_sections.h"
 #include "host/hxahost/text.h"
+#include "host/hxahost/unread_lines.h"
+
+using NKVRHXA20::ClassDeclaration;
+using NKVRHXA20::PublishedClasses;
 
 namespace hxahost {
 
@@ -65,9 +74,50 @@ Json TablesJson() {
   return tables;
 }
 
+bool IsAskedFor(const QueryHeader& header, std::string_view className) {
+  return std::ranges::find(header.classes, className) != header.classes.end();
+}
+
+Json UnjudgedJson(const QueryHeader& header) {
+  Json json = Json::array();
+  for (const std::string_view className : HealthClasses()) {
+    if (!IsAskedFor(header, className)) json.push_back(className);
+  }
+  return json;
+}
+
+Json FindingsJson(const QueryHeader& header, const QueryResult& result) {
+  Json json = Json::array();
+  for (const Finding& finding : EvaluateHealth(header, result)) {
+    json.push_back(FindingJson(finding));
+    if (finding.instance) json.back()["instance"] = *finding.instance;
+  }
+  return json;
+}
+
+Json OwnersJson(const QueryResult& result) {
+  Json json = Json::array();
+  for (const std::string& owner : DeviceOwners(result.instances)) json.push_back(AsUtf8(owner));
+  return json;
+}
+
+Json UnreadJson(const QueryHeader& header, const QueryResult& result) {
+  const bool isWhole = std::ranges::all_of(
+      PublishedClasses(), [&header](const ClassDeclaration& each) { return IsAskedFor(header, each.name); });
+  if (!isWhole) return nullptr;
+  Json json = Json::array();
+  for (const UnreadText& text : FindUnreadLines(result.instances)) {
+    Json each = Json::object();
+    each["instance"] = text.instance;
+    each["lines"] = text.unread;
+    json.push_back(std::move(each));
+  }
+  return json;
+}
+
 }  // namespace
 
-void WriteReportData(std::ostream& out, const QueryHeader& header) {
+void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   Json json = Json::object();
   json["program"] = "hxahost " ZENX_VERSION;
   json["directory"] = AsUtf8(header.directory);
@@ -75,6 +125,10 @@ void WriteReportData(std::ostream& out, const QueryHeader& header) {
   json["classes"] = header.classes;
   json["queryCount"] = header.queryCount;
   json["tables"] = TablesJson();
+  json["owners"] = OwnersJson(result);
+  json["findings"] = FindingsJson(header, result);
+  json["unjudged"] = UnjudgedJson(header);
+  json["unread"] = UnreadJson(header, result);
   out << json.dump(2);
 }
 

@@ -122,17 +122,19 @@ std::vector<std::size_t> UnreadLines(const std::vector<std::string>& lines, cons
 std::vector<UnreadText> FindUnreadLines(const InstanceList& instances) {
   const ShownValues shown(instances);
   std::vector<UnreadText> texts;
-  for (const auto& instance : instances) {
-    if (!IsRawText(*instance)) continue;
+  for (std::size_t place = 0; place < instances.size(); ++place) {
+    const TPublishedInstance& instance = *instances[place];
+    if (!IsRawText(instance)) continue;
     UnreadText text;
+    text.instance = place;
     std::vector<std::string> lines;
-    for (const PublishedProperty& property : instance->Properties()) {
+    for (const PublishedProperty& property : instance.Properties()) {
       if (property.name == "Command") text.command = TCIMValueReader::Text(property.value);
       if (property.name != "RawResults") continue;
       for (const TCIMValue& line : TCIMValueReader::Elements(property.value)) lines.emplace_back(std::string(line));
     }
     text.unread = UnreadLines(lines, shown);
-    for (const std::size_t place : text.unread) text.unreadLines.push_back(lines[place]);
+    for (const std::size_t line : text.unread) text.unreadLines.push_back(lines[line]);
     if (!text.unread.empty()) texts.push_back(std::move(text));
   }
   return texts;

@@ -30,6 +30,7 @@ class ShownValues {
 
 // The raw text of one command.
 struct UnreadText {
+  std::size_t instance = 0;              // its place among the instances
   std::string command;                   // as published
   std::vector<std::size_t> unread;       // places in its lines, in order
   std::vector<std::string> unreadLines;  // the same lines, as published

@@ -7,16 +7,17 @@ import { pathToFileURL } from "node:url";
 const kBuild = resolve(process.argv[2] || "build/asan");
 const kFolder = join(kBuild, "report-pages");
 
-function run(program, ...given) {
+function run(program, given, expected = 0) {
   const environment = { ...process.env, ZENX_OS_VERSION: "6.1", ZENX_RAID_LOG_DIR: "raid-manager\\" };
   const result = spawnSync(join(kBuild, "bin", program), given, { encoding: "utf8", env: environment });
-  if (result.status !== 0) throw new Error(`${program} ended with ${result.status ?? result.error}: ${result.stderr}`);
+  if (result.status !== expected) throw new Error(`${program} ended with ${result.status ?? result.error}: ${result.stderr}`);
 }
 
+const kSampleMachine = ["--directory", join(kBuild, "sample-machine"), "--local-time", "20260305123015.000000+060", "--machine-name", "DBSERVER"];
+
 function query(name, ...further) {
-  const common = ["--directory", join(kBuild, "sample-machine"), "--local-time", "20260305123015.000000+060", "--machine-name", "DBSERVER"];
   for (const format of ["html", "json"]) {
-    run("hxahost", "query", ...common, ...further, "--format", format, "--output", join(kFolder, `${name}.${format}`));
+    run("hxahost", ["query", ...kSampleMachine, ...further, "--format", format, "--output", join(kFolder, `${name}.${format}`)]);
   }
 }
 
@@ -24,8 +25,10 @@ export const kResults = join(kBuild, "results-browser.xml");
 
 export function makePages() {
   mkdirSync(kFolder, { recursive: true });
-  run("report_pages", kFolder);
+  run("report_pages", [kFolder]);
   query("sample");
+  run("hxahost", ["query", ...kSampleMachine, "--unread", "--format", "json", "--output", join(kFolder, "unread.json")]);
+  run("hxahost", ["health", ...kSampleMachine, "--format", "json", "--output", join(kFolder, "health.json")], 2);
   query("repeated", "--repeat", "3");
   query("disks", "--class", "KVRSG_zxDiskDrive");
   query("raw", "--class", "KVRSG_zxRawData");
@@ -46,11 +49,22 @@ export function countOf(name, ...classes) {
   return lastQuery(name).instances.filter((instance) => classes.includes(instance.class)).length;
 }
 
-// The page of a machine with something added to what it says of itself.
-export function pageWith(name, newName, added) {
+// The page of a machine with something else in the data that it has beside the query.
+export function pageWith(name, newName, changed) {
   const page = readFileSync(pageFile(name), "utf8");
-  const changed = page.replace('id="report-data">{', () => `id="report-data">{${JSON.stringify(added).slice(1, -1).replaceAll("<", "\\u003c")},`);
-  if (changed === page) throw new Error("The page has no place for what is to be added.");
-  writeFileSync(pageFile(newName), changed);
+  const begin = page.indexOf('id="report-data">') + 'id="report-data">'.length;
+  const end = page.indexOf("</script>", begin);
+  const data = { ...JSON.parse(page.slice(begin, end)), ...changed };
+  writeFileSync(pageFile(newName), page.slice(0, begin) + JSON.stringify(data).replaceAll("<", "\\u003c") + page.slice(end));
   return pageFile(newName);
+}
+
+// What "hxahost health" finds on the sample machine.
+export function findings() {
+  return JSON.parse(readFileSync(join(kFolder, "health.json"), "utf8")).findings;
+}
+
+// The numbers of unread lines by command, as "hxahost query --unread" counts them.
+export function unreadLines() {
+  return new Map(lastQuery("unread").unread.map(({ command, lines }) => [command.trim(), lines.map(({ number }) => number)]));
 }

@@ -1,7 +1,7 @@
 // What the page shows, held against the JSON of the same query.
 import assert from "node:assert/strict";
 import { test } from "./harness.mjs";
-import { countOf, lastQuery, pageFile, pageWith } from "./pages.mjs";
+import { countOf, findings, lastQuery, pageFile, pageWith, unreadLines } from "./pages.mjs";
 
 const kDevices = ["KVRSG_zxSCSIProtocolController", "KVRSG_zxLogicalDisk", "KVRSG_zxDiskGroup", "KVRSG_zxDiskDrive"];
 
@@ -62,8 +62,9 @@ test("The drawing has a box for every device and says its state in words", async
   }
 });
 
+// A finding counts more than the word of a state: without findings there are all colours.
 test("Colours never stand alone: failed, suspect and unknown states have their symbols", async (open) => {
-  const page = await open(pageFile("sample"));
+  const page = await open(pageWith("sample", "words-alone", { findings: [] }));
   const symbols = await page.locator(".drawing a.box").evaluateAll((links) =>
     links.map((link) => [[...link.classList].find((name) => name.startsWith("level-")), link.querySelector("text.symbol").textContent]));
   const bySymbol = new Map(symbols.map(([level, symbol]) => [symbol, level]));
@@ -124,24 +125,103 @@ test("Bad stripes and the counts of states stand at the top", async (open) => {
   assert.match(text, /Disks: 44/);
 });
 
-test("Findings are shown where the program gives them, and lead to what they are about", async (open) => {
+test("The findings of the program's rules stand first on the page, worst first, and lead to what they are about", async (open) => {
+  const page = await open(pageFile("sample"));
+  const expected = findings();
+  assert.ok(expected.length > 3);
+  assert.equal(await page.locator("main > section:first-child #findings").count(), 1);
+  const rows = await page.locator("#findings tbody tr").evaluateAll((each) => each.map((row) => [...row.cells].map((cell) => cell.innerText)));
+  assert.deepEqual(rows.map(([severity]) => severity.replace(/^[^a-z]+/, "")), expected.map(({ severity }) => severity));
+  expected.forEach((finding, index) => {
+    for (const word of [finding.name, finding.identifier]) assert.ok(rows[index][1].includes(word), `${rows[index][1]}: ${word}`);
+    assert.equal(rows[index][2], `${finding.property} "${finding.text}"`);
+    assert.equal(rows[index][3], finding.meaning);
+  });
+  const verdict = await page.locator("#findings .verdict").innerText();
+  assert.ok(verdict.includes(`${expected.filter(({ severity }) => severity === "critical").length} critical`), verdict);
+
   const instances = lastQuery("sample").instances;
-  const index = instances.findIndex(({ properties }) => properties.State === "Online (ONL)");
-  const disk = instances[index].properties.DeviceID;
-  const findings = [{ severity: "critical", identifier: disk, text: "<b>Online</b> (ONL)", meaning: "It says so itself" },
-    { severity: "warning", identifier: "nothing of this name", text: "text" }];
-  const page = await open(pageWith("sample", "findings", { findings }));
-  const rows = page.locator("#findings tbody tr");
-  assert.equal(await rows.count(), 2);
-  assert.match(await rows.first().textContent(), /critical\s*C1 CH1 I00.*\s*<b>Online<\/b> \(ONL\) \u2014 It says so itself/);
-  await rows.first().getByRole("link").click();
-  assert.match(await page.locator("dialog").innerText(), /It says so itself/);
+  const about = expected.findIndex(({ class: name }) => name === "KVRSG_zxDiskDrive");
+  await page.locator("#findings tbody tr").nth(about).getByRole("link").click();
+  const dialog = await page.locator("dialog").innerText();
+  assert.ok(dialog.includes(expected[about].meaning), dialog);
+  assert.ok(dialog.includes(expected[about].identifier), dialog);
+  const index = instances.findIndex(({ properties }) => properties.DeviceID === expected[about].identifier);
   assert.equal(await page.locator(`.drawing a.level-bad[data-object="${index}"]`).count(), 1, "the finding colours the disk");
 });
 
-test("No findings are good news", async (open) => {
+test("A finding is about one object alone, also where two share an identifier", async (open) => {
+  const instances = lastQuery("sample").instances;
+  const twins = instances.flatMap(({ properties }, index) => (properties.DeviceID === "Zentraxis3" ? [index] : []));
+  assert.equal(twins.length, 2);
+  const finding = { severity: "critical", class: kDevices[0], identifier: "Zentraxis3", name: "controller 3", property: "ControllerStatus",
+    text: "<b>Failed</b>", meaning: "it has failed", instance: twins[1] };
+  const page = await open(pageWith("sample", "twins", { findings: [finding] }));
+  assert.equal(await page.locator(`.drawing a.level-bad[data-object="${twins[0]}"]`).count(), 0);
+  assert.equal(await page.locator(`.drawing a.level-bad[data-object="${twins[1]}"]`).count(), 1);
+  assert.match(await page.locator("#findings tbody tr").innerText(), /ControllerStatus "<b>Failed<\/b>"/);
+});
+
+test("Of very many findings the worst are shown until the rest is asked for", async (open) => {
+  const many = Array.from({ length: 300 }, (_, index) => ({ severity: "warning", class: "tool run", identifier: "t", name: "n" + index, property: "p", text: "", meaning: "m" }));
+  const page = await open(pageWith("sample", "many-findings", { findings: many }));
+  assert.equal(await page.locator("#findings tbody tr").count(), 50);
+  await page.getByRole("button", { name: "Show the other 250 rows" }).click();
+  assert.equal(await page.locator("#findings tbody tr").count(), 300);
+});
+
+test("No findings are good news only where everything was looked at", async (open) => {
   const page = await open(pageWith("sample", "no-findings", { findings: [] }));
   assert.match(await page.locator("#findings").innerText(), /Nothing needs attention/);
+  const part = await open(pageFile("associations"));
+  const text = await part.locator("#findings").innerText();
+  assert.doesNotMatch(text, /Nothing needs attention/);
+  assert.match(text, /Not asked for, so not judged: KVRSG_zxDiskGroup, KVRSG_zxDiskDrive,/);
+});
+
+test("Where several queries were made the page does not pretend to judge the runs of the tools", async (open) => {
+  const page = await open(pageFile("repeated"));
+  assert.match(await page.locator("#findings").innerText(), /run by the first query alone; how their runs went is not judged here/);
+});
+
+test("The lines of the raw texts that nothing else shows are marked and counted by command", async (open) => {
+  const page = await open(pageFile("sample"));
+  const shown = await page.locator("details.raw").evaluateAll((each) => each.map((one) => {
+    const text = one.querySelector("pre").textContent.split("\n");
+    const lines = [...one.querySelectorAll(".unread")].map((line) => line.textContent);
+    const before = (line) => {
+      const range = document.createRange();
+      range.setStart(one.querySelector("pre"), 0);
+      range.setEndBefore(line);
+      return range.toString().split("\n").length;
+    };
+    const numbers = [...one.querySelectorAll(".unread")].map(before);
+    return { command: one.querySelector("summary code").textContent, numbers, isWhole: numbers.every((number, index) => text[number - 1] === lines[index]),
+      count: one.querySelector(".unread-count")?.textContent ?? "" };
+  }));
+  const expected = unreadLines();
+  assert.ok(expected.size > 3);
+  for (const { command, numbers, isWhole, count } of shown) {
+    const wanted = expected.get(command) || [];
+    assert.deepEqual(numbers, wanted, command);
+    assert.ok(isWhole, command);
+    assert.equal(count, wanted.length === 0 ? "" : `${wanted.length} line${wanted.length === 1 ? "" : "s"} not shown elsewhere`, command);
+  }
+  const total = [...expected.values()].reduce((sum, lines) => sum + lines.length, 0);
+  assert.ok((await page.locator(".unread-legend").innerText()).includes(`${total} lines in ${expected.size} texts`));
+});
+
+test("The mark of an unread line is a sign beside it, not its colour alone, and no part of its text", async (open) => {
+  const page = await open(pageFile("sample"));
+  const line = page.locator("details.raw .unread").first();
+  assert.equal(await line.evaluate((each) => getComputedStyle(each, "::before").content), '"\u25b8"');
+  assert.ok(!(await line.textContent()).includes("\u25b8"));
+});
+
+test("A page of a few classes marks no line and says why", async (open) => {
+  const page = await open(pageFile("raw"));
+  assert.equal(await page.locator(".unread").count(), 0);
+  assert.match(await sectionText(page, "Raw texts of the tools"), /can be told only where every class was asked for/);
 });
 
 test("A query of one class alone gives a page", async (open) => {

@@ -147,6 +147,43 @@ test("Pointing at an array or focusing it marks its disks and drives", async (op
   assert.equal(await page.locator(".drawing .marked").count(), 2 + 8);
 });
 
+test("The keys N and P go from one unread line to the next and back, round the end", async (open) => {
+  const page = await open(pageFile("sample"));
+  const place = () => page.evaluate(() => [...document.querySelectorAll("details.raw .unread")].indexOf(document.activeElement));
+  const total = await page.locator("details.raw .unread").count();
+  assert.ok(total > 3);
+  await page.locator("details.raw summary").first().focus();
+  const places = [];
+  for (const key of ["n", "n", "p", "p", "n"]) {
+    await page.keyboard.press(key);
+    places.push(await place());
+  }
+  assert.deepEqual(places, [0, 1, 0, total - 1, 0]);
+  assert.ok(await page.locator("details.raw .unread").first().isVisible(), "its text is unfolded");
+  await page.getByRole("button", { name: "Next such line" }).press("Enter");
+  assert.equal(await place(), 1);
+  assert.match(await section(page, "Raw texts of the tools").innerText(), new RegExp(`2 of ${total}`));
+});
+
+test("The keys for unread lines are letters while one searches, and pass over what the search left out", async (open) => {
+  const page = await open(pageFile("sample"));
+  const input = page.getByLabel("Search all texts");
+  await input.pressSequentially("npnp");
+  assert.equal(await input.inputValue(), "npnp");
+  await page.getByRole("button", { name: "Next such line" }).click();
+  assert.match(await section(page, "Raw texts of the tools").innerText(), /None in these texts/);
+});
+
+test("A search marks its words within unread lines, and the text stays the same", async (open) => {
+  const page = await open(pageFile("sample"));
+  const word = await page.locator("details.raw .unread").first().evaluate((line) => /[A-Za-z]{4,}/.exec(line.textContent)[0]);
+  const texts = () => page.locator("details.raw pre").evaluateAll((each) => each.map((one) => one.textContent));
+  const before = await texts();
+  await page.getByLabel("Search all texts").fill(word);
+  assert.ok((await page.locator("details.raw .unread mark").count()) > 0);
+  assert.deepEqual(await texts(), before);
+});
+
 test("2,000 disks stay usable", async (open) => {
   const began = Date.now();
   const page = await open(pageFile("many"));

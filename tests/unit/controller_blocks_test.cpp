@@ -81,9 +81,9 @@ Controller 1: Zentraxis-6M - Okay
   Array  Stripe order  Identifier
   A      0,3 0,4       Zentraxis1ArrayA
   Disks
-  Ch  ID  Type       Model       State                           Size      Serial   Firmware  PFA
-  0   3   Hard disk  ST336607LC  Online                          34715 MB  3KR0123  B26A      No
-  0   4   Hard disk  ST336607LC  Defunct for a very, very long…  34715 MB  3KR0124  B26A      Yes
+  Ch  ID  Type       Model       State                           PFA  Size      Serial   Firmware
+  0   3   Hard disk  ST336607LC  Online                          No   34715 MB  3KR0123  B26A
+  0   4   Hard disk  ST336607LC  Defunct for a very, very long…  Yes  34715 MB  3KR0124  B26A
 )");
 }
 
@@ -158,6 +158,38 @@ Controller \x1b[1m: \x1b[2m - \x07
   Model
   \x9b
 )");
+}
+
+TEST(ControllerBlocks, AreTwoWhereTwoToolsGiveOneNumber) {
+  FilledRepository repository;
+  repository.Publish(kController, {
+                                      {"ControllerNum",  "3"     },
+                                      {"ReadAhead",      "On"    },
+                                      {"ControllerType", "Legacy"}
+  });
+  repository.Publish(kController,
+                     {
+                         {"ControllerNum",      "3"      },
+                         {"ChannelDescription", "SAS"    },
+                         {"ControllerStatus",   "Optimal"}
+  });
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum", "3"  },
+                                     {"ScsiId",        "1"  },
+                                     {"Model",         "OLD"}
+  });
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum", "3"  },
+                                     {"DeviceNumber",  "0"  },
+                                     {"Model",         "NEW"}
+  });
+  const std::string blocks = Blocks(repository);
+  const std::size_t legacy = blocks.find("\nController 3 (qcmdrun): Legacy\n");
+  const std::size_t newer = blocks.find("\nController 3 (hrconf_64) - Optimal\n");
+  ASSERT_NE(legacy, blocks.npos) << blocks;
+  ASSERT_NE(newer, blocks.npos) << blocks;
+  EXPECT_LT(blocks.find("OLD"), newer) << blocks;
+  EXPECT_GT(blocks.find("NEW"), newer) << blocks;
 }
 
 }  // namespace

@@ -52,8 +52,27 @@ TEST(DeviceNames, AreWhatPeopleCallTheDevices) {
     repository.Publish(each.className, each.properties);
     const auto instance = repository.Instances().front();
     EXPECT_EQ(hxahost::IdentifierOf(*instance), each.identifier) << each.description;
-    EXPECT_EQ(hxahost::NameOf(*instance), each.name) << each.description;
+    EXPECT_EQ(hxahost::NameOf(*instance, ""), each.name) << each.description;
   }
+}
+
+TEST(DeviceNames, SayWhatTellsTheControllerFromAnotherOfItsNumber) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxSCSIProtocolController", {
+                                                           {"ControllerNum",  "3" },
+                                                           {"ControllerType", "C6"}
+  });
+  repository.Publish("KVRSG_zxSCSIProtocolController", {
+                                                           {"ControllerNum", "3"}
+  });
+  repository.Publish("KVRSG_zxLogicalDisk", {
+                                                {"ControllerNum",   "3"},
+                                                {"LogicalDriveNum", "1"}
+  });
+  const auto instances = repository.Instances();
+  EXPECT_EQ(hxahost::NameOf(*instances[0], "3 (arcconf)"), "controller 3 (arcconf, C6)");
+  EXPECT_EQ(hxahost::NameOf(*instances[1], "3 (arcconf)"), "controller 3 (arcconf)");
+  EXPECT_EQ(hxahost::NameOf(*instances[2], "3 (arcconf)"), "logical drive 1 of controller 3 (arcconf)");
 }
 
 }  // namespace

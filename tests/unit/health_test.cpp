@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/hxahost/published_text.h"
 #include "tests/support/healthy_machine.h"
 
 namespace {
@@ -48,6 +49,8 @@ TEST(Health, GivesEverythingThatThereIsToSayOfAFinding) {
   EXPECT_EQ(findings[0].property, "LogicalDriveStatus");
   EXPECT_EQ(findings[0].text, "Degraded");
   EXPECT_EQ(findings[0].meaning, "one more failed disk loses its data; replace the failed disk now");
+  ASSERT_TRUE(findings[0].instance.has_value());
+  EXPECT_EQ(PublishedText(*machine.Result().instances.at(*findings[0].instance), "DeviceID"), "Zentraxis2LD1");
 }
 
 TEST(Health, ShowsTheWorstFirstAndKeepsTheOrderOfTheRulesWithinASeverity) {

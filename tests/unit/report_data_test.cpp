@@ -9,7 +9,10 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxahost/controller_columns.h"
+#include "host/hxahost/health.h"
+#include "host/hxahost/published_text.h"
 #include "host/hxahost/record_sections.h"
+#include "tests/support/healthy_machine.h"
 
 namespace {
 
@@ -18,9 +21,9 @@ using namespace NKVRHXA20;
 using nlohmann::ordered_json;
 using testing::ElementsAre;
 
-ordered_json ReportData(const QueryHeader& header) {
+ordered_json ReportData(const QueryHeader& header, const QueryResult& result = {}) {
   std::ostringstream out;
-  WriteReportData(out, header);
+  WriteReportData(out, header, result);
   return ordered_json::parse(out.str());
 }
 
@@ -60,6 +63,48 @@ TEST(ReportData, MakesTheFactsOfAControllerColumns) {
   for (const Fact& fact : IdentityFacts()) properties.emplace_back(fact.property);
   for (const Fact& fact : StateFacts()) properties.emplace_back(fact.property);
   EXPECT_EQ(Texts(json["tables"][0]["columns"], "property"), properties);
+}
+
+TEST(ReportData, HasTheFindingsWithThePlacesOfWhatTheyAreAbout) {
+  HealthyMachine machine;
+  EXPECT_EQ(ReportData(machine.Header(), machine.Result())["findings"], ordered_json::array());
+  machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", "Degraded");
+  machine.runs.push_back(RunOf("arcconf", {"getconfig", "7", "al"}, Outcome::kTimedOut, "60 s passed"));
+  const QueryResult result = machine.Result();
+  const auto findings = ReportData(machine.Header(), result)["findings"];
+  ASSERT_EQ(findings.size(), 2U);
+  EXPECT_EQ(findings[0]["severity"], "critical");
+  EXPECT_EQ(findings[0]["name"], "logical drive 1 (Data) of controller 2");
+  EXPECT_EQ(PublishedText(*result.instances.at(findings[0]["instance"]), "DeviceID"), "Zentraxis2LD1");
+  EXPECT_EQ(findings[1]["class"], "tool run");
+  EXPECT_FALSE(findings[1].contains("instance"));
+}
+
+TEST(ReportData, NamesTheClassesThatHealthIsReadFromAndThatWereNotAskedFor) {
+  QueryHeader header;
+  header.classes.assign(HealthClasses().begin(), HealthClasses().end());
+  EXPECT_EQ(ReportData(header)["unjudged"], ordered_json::array());
+  header.classes.erase(header.classes.begin());
+  EXPECT_THAT(ReportData(header)["unjudged"], ElementsAre(HealthClasses().front()));
+}
+
+TEST(ReportData, TellsUnreadLinesWhereEveryClassWasAskedFor) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxLogicalDisk", {
+                                                {"Size", "5 MB"}
+  });
+  repository.Publish("KVRSG_zxRawData", {
+                                            {"Command",    "tool"                             },
+                                            {"RawResults", Texts({"Size : 5 MB", "New : new"})}
+  });
+  const QueryResult result{1, repository.Instances(), {}};
+  QueryHeader header;
+  EXPECT_TRUE(ReportData(header, result)["unread"].is_null());
+  for (const ClassDeclaration& each : PublishedClasses()) header.classes.emplace_back(each.name);
+  const auto unread = ReportData(header, result)["unread"];
+  ASSERT_EQ(unread.size(), 1U);
+  EXPECT_EQ(unread[0]["instance"], 1);
+  EXPECT_THAT(unread[0]["lines"], ElementsAre(1));
 }
 
 }  // namespace

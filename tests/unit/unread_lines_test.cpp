@@ -80,6 +80,8 @@ TEST(UnreadLines, AreListedByTextWithTheirPlaces) {
   EXPECT_EQ(texts[0].unread, (std::vector<std::size_t>{1, 3}));
   EXPECT_EQ(texts[0].unreadLines, (std::vector<std::string>{"Mode : new", "More : news"}));
   EXPECT_EQ(texts[1].command, "log");
+  EXPECT_EQ(texts[0].instance, 1U);
+  EXPECT_EQ(texts[1].instance, 3U);
 }
 
 TEST(UnreadLines, AreNotShownByTheRawTextsThemselves) {

@@ -21,16 +21,18 @@ function listOf(map, key) {
 }
 
 class Model {
-  constructor(query, findings) {
+  constructor(query, findings, owners) {
     this.objects = query.instances.map((instance, index) => ({ index, ...instance }));
     this.findings = findings;
+    this.findingsByObject = new Map();
+    for (const finding of findings) listOf(this.findingsByObject, finding.instance).push(finding);
     this.byClass = new Map();
     this.byPath = new Map();
     for (const object of this.objects) {
       listOf(this.byClass, object.class).push(object);
       listOf(this.byPath, object.path).push(object);
     }
-    this.setOwners();
+    for (const object of this.devices()) object.owner = "Controller " + printable(owners[object.index]);
     this.owners = this.findOwners();
     this.places = this.findPlaces();
     this.links = this.findLinks();
@@ -42,22 +44,6 @@ class Model {
 
   devices() {
     return kDeviceClasses.flatMap((className) => this.all(className));
-  }
-
-  // Each tool counts its controllers by itself, so two controllers of different tools may share a number. What belongs
-  // to which is then told by the tool that described it.
-  setOwners() {
-    const drives = this.all(kLogicalDrives);
-    const toolsOfNumber = new Map();
-    for (const object of this.devices()) {
-      object.tool = toolOf(object, drives);
-      if (object.tool !== "") listOf(toolsOfNumber, textOf(object, "ControllerNum")).push(object.tool);
-    }
-    for (const object of this.devices()) {
-      const number = textOf(object, "ControllerNum");
-      const isShared = new Set(toolsOfNumber.get(number)).size > 1;
-      object.owner = isShared ? `Controller ${number} (${object.tool || "tool not known"})` : "Controller " + number;
-    }
   }
 
   // Objects by the controller that owns them, then by class; controllers in the order in which they are met.
@@ -155,7 +141,7 @@ class Model {
   }
 
   findingsOf(object) {
-    return (this.findings || []).filter((finding) => isAbout(finding, object));
+    return this.findingsByObject.get(object.index) || [];
   }
 
   // The level of what the tool printed, or of the worst finding about it.
@@ -169,45 +155,6 @@ class Model {
 
 function textOf(object, property) {
   return valueText(object.properties[property]);
-}
-
-// A finding names an object as its keys do, and its class where it can.
-function isAbout(finding, object) {
-  const names = [textOf(object, "DeviceID"), textOf(object, "InstanceID")].filter((name) => name !== "");
-  return names.includes(finding.identifier) && (finding.class === undefined || finding.class === object.class);
-}
-
-// What only one of the tools says, by class. The first row that has a text counts.
-const kSignatures = {
-  [kControllers]: [
-    { tool: "qcmdrun", properties: ["ScsiChannelDescr", "InitiatorChannelScsiId", "MaxPhysicalDevices", "ReadAhead"] },
-    { tool: "arcconf", properties: ["ControllerType", "SerialNum", "InstalledMemory", "CopyBackEnabled", "VPD"] },
-    { tool: "hrconf_64", properties: ["ChannelDescription", "ControllerStatus"] },
-  ],
-  [kLogicalDrives]: [
-    { tool: "qcmdrun", properties: ["AccessBlocked", "PartOfArray", "PartOfMergeGroup"] },
-    { tool: "arcconf", properties: ["NumOfSegments", "Partitioned", "DefunctSegments", "WriteCacheSetting"] },
-    { tool: "hrconf_64", properties: ["DriveList", "NumOfChunks"] },
-  ],
-  [kDisks]: [
-    { tool: "arcconf", properties: ["ReportedESD", "ReportedLocation", "EnclosureId"] },
-    { tool: "hrconf_64", properties: ["DeviceNumber"] },
-    { tool: "qcmdrun", properties: ["ScsiId", "Channel"] },
-  ],
-};
-
-// The tool that described a device; "" where nothing tells. arcconf numbers a device "Device #4", hrconf_64 "4". An
-// array without a letter is of the tool whose drive has the same disks.
-function toolOf(object, drives) {
-  if (object.class === kArrays) {
-    if (textOf(object, "Array") !== "") return "qcmdrun";
-    const disks = namedPositions(object).join(" ");
-    const drive = drives.find((each) => isBuiltOn(each, object) && positionLists(each).includes(disks));
-    return drive ? toolOf(drive, drives) : "";
-  }
-  if (/^Device/.test(textOf(object, "DeviceNumber"))) return "arcconf";
-  const row = kSignatures[object.class].find(({ properties }) => properties.some((name) => textOf(object, name) !== ""));
-  return row ? row.tool : "";
 }
 
 // "channel,ID": the tools name places so in stripe orders and drive lists.
@@ -232,10 +179,6 @@ function positionsIn(text) {
 
 function namedPositions(object) {
   return positionsIn(textOf(object, "StripeOrder") + " " + textOf(object, "DriveList"));
-}
-
-function positionLists(drive) {
-  return ["StripeOrder", "DriveList"].map((name) => positionsIn(textOf(drive, name)).join(" "));
 }
 
 // Arrays with a letter are named by their drives. Those without one carry their drive's number in the identifier:

@@ -6,32 +6,63 @@ function readData(id) {
   return JSON.parse(byId(id).textContent);
 }
 
-// Health: the findings, where the program gives them; always the state words as the tools printed them.
+// Health: the findings of the program's rules, then the state words as the tools printed them.
 
 function findingBadge(finding) {
   return badge(levelOfSeverity(finding.severity), printable(String(finding.severity)));
 }
 
 function findingWords(finding) {
-  const parts = [finding.text, finding.meaning].filter((part) => typeof part === "string" && part !== "");
-  return parts.map(printable).join(" \u2014 ");
+  return `${finding.property} "${printable(finding.text)}": ${finding.meaning}`;
 }
 
-function findingRows(findings) {
-  return findings.map((finding) => {
-    const object = report.model.objects.find((each) => isAbout(finding, each));
-    const identifier = printable(String(finding.name || finding.identifier || ""));
-    return make("tr", {}, make("td", {}, findingBadge(finding)), make("td", {}, object ? linkTo(object, identifier) : identifier),
-      make("td", {}, findingWords(finding)));
-  });
+// More of them would push everything else out of sight.
+const kMostFindings = 50;
+
+function severityCell(finding) {
+  const rank = kWorstFirst.indexOf(levelOfSeverity(finding.severity));
+  return { text: finding.severity, sortText: String(rank), node: () => findingBadge(finding) };
+}
+
+function subjectCell(finding) {
+  const object = report.model.objects[finding.instance];
+  const name = printable(finding.name);
+  const identifier = finding.identifier === finding.name ? "" : printable(finding.identifier);
+  return {
+    text: `${name} ${identifier}`,
+    node: () => make("span", {}, object ? linkTo(object, name) : name, identifier === "" ? "" : make("span", { class: "quiet identifier" }, identifier)),
+  };
+}
+
+function tallyOf(findings) {
+  const severities = [...kSeverities.keys()].filter((severity) => findings.some((finding) => finding.severity === severity));
+  return severities.map((severity) => badge(levelOfSeverity(severity),
+    `${findings.filter((finding) => finding.severity === severity).length.toLocaleString("en-US")} ${severity}`));
 }
 
 function findingTable(findings) {
-  if (findings.length === 0) return make("p", { id: "findings" }, badge("good", "Nothing needs attention"));
-  const heads = ["Severity", "What", "Finding"].map((title) => make("th", { scope: "col" }, title));
-  return make("div", { class: "scroll", tabindex: "0", role: "region", "aria-label": "Findings, table" },
-    make("table", { id: "findings" }, make("caption", {}, counted(findings.length, "finding", "findings")),
-      make("thead", {}, make("tr", {}, ...heads)), make("tbody", {}, ...findingRows(findings))));
+  return newTable("Findings", [
+    { title: "Severity", cell: severityCell },
+    { title: "What", cell: subjectCell },
+    { title: "Says", cell: (finding) => ({ text: `${finding.property} "${printable(finding.text)}"` }) },
+    { title: "Which means", cell: (finding) => ({ text: finding.meaning }) },
+  ], findings, kMostFindings);
+}
+
+// What the findings cannot tell: nothing is fine that nobody looked at.
+function findingLimits(data) {
+  const limits = [];
+  if (data.unjudged.length > 0) limits.push(`Not asked for, so not judged: ${data.unjudged.join(", ")}.`);
+  if (data.queryCount > 1) limits.push("The tools were run by the first query alone; how their runs went is not judged here.");
+  return limits.map((text) => make("p", { class: "quiet" }, text));
+}
+
+function findingSection(findings, data) {
+  const isWhole = data.unjudged.length === 0;
+  const verdict = findings.length > 0 ? tallyOf(findings)
+    : [isWhole ? badge("good", "Nothing needs attention") : badge("unsaid", "No finding in what was asked for")];
+  return make("div", { id: "findings" }, make("p", { class: "verdict" }, ...verdict.flatMap((each) => [each, " "])),
+    ...findingLimits(data), ...(findings.length > 0 ? [findingTable(findings)] : []));
 }
 
 const kKinds = { [kControllers]: "Controllers", [kLogicalDrives]: "Logical drives", [kDisks]: "Disks" };
@@ -71,15 +102,13 @@ function failedRuns(log) {
     make("ul", {}, ...texts.map((text) => make("li", {}, printable(text)))))];
 }
 
-function healthSection(model, query) {
+function healthSection(model, query, data) {
   const counts = Object.keys(kKinds).flatMap((className) => stateList(model, className));
   const parts = [...counts, ...badStripeList(model), ...failedRuns(query.log)];
   const found = model.objects.some((object) => object.class !== "KVRSG_zxRawData");
   const nothing = found ? [] : [make("p", { class: "trouble" },
     "Nothing was found: no controller, no drive and no log record of the classes asked for.")];
-  const findings = model.findings ? [findingTable(model.findings)] : [];
-  if (parts.length + nothing.length + findings.length === 0) return null;
-  return make("div", {}, ...findings, ...nothing, make("div", { class: "state-lists" }, ...parts));
+  return make("div", {}, findingSection(model.findings, data), ...nothing, make("div", { class: "state-lists" }, ...parts));
 }
 
 function drawingSection(model) {
@@ -132,12 +161,12 @@ function sectionList(model, query, data) {
   const isDevice = (table) => table.classes.some((name) => kDeviceClasses.includes(name));
   const others = otherClasses(model, tables);
   return [
-    { title: "Health", content: () => healthSection(model, query) },
+    { title: "Health", content: () => healthSection(model, query, data) },
     { title: "Drawing", content: () => drawingSection(model) },
     ...tables.filter(isDevice).map(tableSection(model)),
     { title: "Events", content: () => eventSection(model) },
     ...tables.filter((table) => !isDevice(table)).map(tableSection(model)),
-    { title: "Raw texts of the tools", content: () => rawSection(model) },
+    { title: "Raw texts of the tools", content: () => rawSection(model, data.unread) },
     { title: "Other classes", content: () => otherSection(model, others) },
     { title: "Log", content: () => logSection(query) },
     { title: "Counts", content: () => countSection(model, data) },
@@ -180,7 +209,7 @@ function start() {
   report.data = readData("report-data");
   const query = json.queries[json.queries.length - 1];
   writeHead(json, report.data);
-  report.model = new Model(query, report.data.findings);
+  report.model = new Model(query, report.data.findings, report.data.owners);
   for (const section of sectionList(report.model, query, report.data)) addSection(section);
   if (report.drawing) setUpDrawing(report.drawing);
   setUpDetails(report.model);

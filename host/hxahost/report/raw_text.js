@@ -1,37 +1,82 @@
-// The raw text of every command, folded; a search opens what has the words and marks them.
+// The raw text of every command, folded; a search opens what has the words and marks them. Lines whose values no
+// property shows are marked in the margin: where a tool has a new layout, they grow in number.
 
 const kMostMarks = 2000;
 
-function rawTexts(model) {
+// Places of unread lines by the index of their text; null where nobody can tell.
+function unreadPlaces(unread) {
+  return unread === null ? null : new Map(unread.map(({ instance, lines }) => [instance, new Set(lines)]));
+}
+
+function rawTexts(model, unread) {
+  const places = unreadPlaces(unread);
   return kRawTexts.flatMap((className) => model.all(className)).map((object) => {
-    const lines = Array.isArray(object.properties.RawResults) ? object.properties.RawResults : [];
-    const text = lines.map((line) => visibleLines(String(line)).replace(/[\r\n]/g, (character) => kLineCharacters[character])).join("\n");
-    return { command: textOf(object, "Command"), lineCount: lines.length, text };
+    const results = Array.isArray(object.properties.RawResults) ? object.properties.RawResults : [];
+    const lines = results.map((line) => visibleLines(String(line)).replace(/[\r\n]/g, (character) => kLineCharacters[character]));
+    const marked = (places && places.get(object.index)) || new Set();
+    return { command: textOf(object, "Command"), lineCount: lines.length, unreadCount: marked.size, text: lines.join("\n"), parts: partsOf(lines, marked) };
   });
 }
 
+// The text cut where unread lines begin and end; each unread line is a part of its own, without its line end.
+function partsOf(lines, marked) {
+  const parts = [{ begin: 0, end: 0, isUnread: false }];
+  let begin = 0;
+  lines.forEach((line, index) => {
+    const end = begin + line.length;
+    const last = parts[parts.length - 1];
+    last.end = begin;
+    if (marked.has(index)) parts.push({ begin, end, isUnread: true }, { begin: end, end, isUnread: false });
+    else last.end = end;
+    begin = end + 1;
+  });
+  return parts;
+}
+
+function unreadWords(count) {
+  return counted(count, "line", "lines") + " not shown elsewhere";
+}
+
 function rawElement(raw) {
-  const body = make("pre", { tabindex: "0", "aria-label": "Text of " + raw.command }, raw.text);
+  const body = make("pre", { tabindex: "0", "aria-label": "Text of " + raw.command });
   const lines = raw.lineCount === 0 ? "no lines" : counted(raw.lineCount, "line", "lines");
+  const unread = raw.unreadCount === 0 ? [] : [make("span", { class: "unread-count" }, unreadWords(raw.unreadCount))];
   const element = make("details", { class: "raw" },
-    make("summary", {}, make("code", {}, raw.command), make("span", { class: "quiet" }, " " + lines)), body);
+    make("summary", {}, make("code", {}, raw.command), make("span", { class: "quiet" }, " " + lines), " ", ...unread), body);
   return { ...raw, element, body };
 }
 
 function matchesIn(text, words) {
   const escaped = words.replace(/[.*+?^${}()|[\]\\]/g, "\\$&");
-  return [...text.matchAll(new RegExp(escaped, "gi"))];
+  return [...text.matchAll(new RegExp(escaped, "gi"))].map((match) => ({ begin: match.index, end: match.index + match[0].length }));
 }
 
-// The text with the first of its matches marked.
-function markedText(text, matches) {
+// From begin to end, with what of the matches lies there marked.
+function markedPart(text, begin, end, matches) {
   const content = document.createDocumentFragment();
-  let end = 0;
+  let done = begin;
   for (const match of matches) {
-    content.append(text.slice(end, match.index), make("mark", {}, match[0]));
-    end = match.index + match[0].length;
+    if (match.end <= begin || match.begin >= end) continue;
+    const first = Math.max(match.begin, begin);
+    const last = Math.min(match.end, end);
+    content.append(text.slice(done, first), make("mark", {}, text.slice(first, last)));
+    done = last;
   }
-  content.append(text.slice(end));
+  content.append(text.slice(done, end));
+  return content;
+}
+
+// The text with its unread lines and the first of its matches marked. The matches stand in order, as the parts do.
+function markedText(raw, matches) {
+  const content = document.createDocumentFragment();
+  let next = 0;
+  for (const part of raw.parts) {
+    while (next < matches.length && matches[next].end <= part.begin) next += 1;
+    let after = next;
+    while (after < matches.length && matches[after].begin < part.end) after += 1;
+    const marked = markedPart(raw.text, part.begin, part.end, matches.slice(next, after));
+    content.append(part.isUnread ? make("span", { class: "unread", tabindex: "-1" }, marked) : marked);
+  }
   return content;
 }
 
@@ -46,7 +91,7 @@ function searchRaw(raws, words, result) {
     raw.element.open = matches.length > 0;
     const marked = matches.slice(0, marksLeft);
     marksLeft -= marked.length;
-    raw.body.replaceChildren(markedText(raw.text, marked));
+    raw.body.replaceChildren(markedText(raw, marked));
     total += matches.length;
     texts += isFound ? 1 : 0;
   }
@@ -54,21 +99,78 @@ function searchRaw(raws, words, result) {
     : `${counted(total, "match", "matches")} in ${counted(texts, "text", "texts")}` + (total > kMostMarks ? `, the first ${kMostMarks} marked` : "");
 }
 
-function unfoldButton(words, raws, isOpen) {
-  const button = make("button", { type: "button" }, words);
-  button.addEventListener("click", () => raws.forEach((raw) => { raw.element.open = isOpen; }));
+function commandButton(words, command, attributes = {}) {
+  const button = make("button", { type: "button", ...attributes }, words);
+  button.addEventListener("click", command);
   return button;
 }
 
-function rawSection(model) {
-  const raws = rawTexts(model).map(rawElement);
+function unfoldButton(words, raws, isOpen) {
+  return commandButton(words, () => raws.forEach((raw) => { raw.element.open = isOpen; }));
+}
+
+// Goes from one unread line to the next or the one before, round the end, among the texts that the search left.
+class UnreadWalk {
+  constructor(section) {
+    this.section = section;
+    this.at = null;
+    this.place = make("output", { class: "count" });
+  }
+
+  go(step) {
+    const lines = [...this.section.querySelectorAll("details.raw:not([hidden]) .unread")];
+    if (lines.length === 0) {
+      this.place.textContent = "None in these texts";
+      return;
+    }
+    const from = lines.indexOf(this.at);
+    const to = from < 0 ? (step > 0 ? 0 : lines.length - 1) : (from + step + lines.length) % lines.length;
+    this.at = lines[to];
+    this.at.closest("details").open = true;
+    this.at.focus({ preventScroll: true });
+    this.at.scrollIntoView({ block: "center", inline: "nearest" });
+    this.at.closest("pre").scrollLeft = 0;  // a long line would push its mark out of sight
+    this.place.textContent = `${to + 1} of ${lines.length}`;
+  }
+
+  // Letters alone, and only where no text is typed and the section has the focus.
+  onKey(event) {
+    if (event.ctrlKey || event.altKey || event.metaKey || event.target.closest("input")) return;
+    const step = { n: 1, p: -1 }[event.key];
+    if (step === undefined) return;
+    event.preventDefault();
+    this.go(step);
+  }
+}
+
+function unreadTools(section, raws, unread) {
+  if (unread === null) return [make("p", { class: "quiet" }, "Which lines nothing else shows can be told only where every class was asked for.")];
+  const texts = raws.filter((raw) => raw.unreadCount > 0);
+  const total = texts.reduce((sum, raw) => sum + raw.unreadCount, 0);
+  if (total === 0) return [make("p", { class: "quiet" }, "The value of every line is shown by some property.")];
+  const walk = new UnreadWalk(section);
+  section.addEventListener("keydown", (event) => walk.onKey(event));
+  return [
+    make("p", { class: "unread-legend" }, make("span", { class: "unread" }, "A line with this mark"),
+      ` has a value that no property shows: ${counted(total, "line", "lines")} in ${counted(texts.length, "text", "texts")}.`),
+    make("div", { class: "tools" },
+      commandButton("Next such line", () => walk.go(1), { "aria-keyshortcuts": "n", title: "Key N within these texts" }),
+      commandButton("Previous", () => walk.go(-1), { "aria-keyshortcuts": "p", title: "Key P within these texts" }), walk.place),
+  ];
+}
+
+function rawSection(model, unread) {
+  const raws = rawTexts(model, unread).map(rawElement);
   if (raws.length === 0) return null;
   const input = make("input", { type: "search", id: "raw-search", autocomplete: "off", spellcheck: "false" });
   const result = make("output", { class: "count" });
   input.addEventListener("input", () => searchRaw(raws, input.value, result));
   searchRaw(raws, "", result);
-  return make("div", {},
+  const section = make("div", { class: "raw-texts" });
+  section.append(
     make("div", { class: "tools" }, make("label", {}, "Search all texts ", input), result,
       unfoldButton("Unfold all", raws, true), unfoldButton("Fold all", raws, false)),
+    ...unreadTools(section, raws, unread),
     ...raws.map((raw) => raw.element));
+  return section;
 }

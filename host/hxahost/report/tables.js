@@ -8,14 +8,14 @@ const kMostPrintedColumns = 14;
 
 // columns: {title, cell}; cell gives {text, node} of an object, node where more than text is shown.
 class SortedTable {
-  constructor(caption, columns, objects) {
+  constructor(caption, columns, objects, most = kMostRows) {
     this.rows = objects.map((object) => columns.map((column) => column.cell(object)));
     const shown = columns.map((_, index) => index).filter((index) => this.rows.some((row) => row[index].text !== ""));
     this.columns = shown.map((index) => columns[index]);
     this.rows = this.rows.map((row) => shown.map((index) => row[index]));
     this.lowered = this.rows.map((row) => row.map((cell) => cell.text.toLowerCase()).join("\n"));
     this.caption = caption;
-    this.most = kMostRows;
+    this.most = most;
     this.sortColumn = -1;
     this.isDescending = false;
     this.order = this.rows.map((_, index) => index);
@@ -122,8 +122,8 @@ function generalTable(model, className) {
   return newTable(className, [{ title: "Details", cell: linkCell }, ...columns], objects);
 }
 
-function newTable(caption, columns, objects) {
-  const table = new SortedTable(caption, columns, objects);
+function newTable(caption, columns, objects, most) {
+  const table = new SortedTable(caption, columns, objects, most);
   report.tables.push(table);
   return table.element;
 }
