@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "host/hxahost/finding_json.h"
+#include "host/hxahost/finding_text.h"
 #include "host/hxahost/text.h"
 
 namespace hxahost {
@@ -43,6 +45,19 @@ void WriteChanges(std::ostream& out, const ResultDiff& diff) {
   }
 }
 
+std::string FindingChangeText(const FindingChange& change) {
+  if (!change.before) return "+ " + FindingText(*change.after);
+  if (!change.after) return "- " + FindingText(*change.before);
+  return "! " + std::string(SeverityWord(change.before->severity)) + " -> " + FindingText(*change.after) + " (was " +
+         QuotedText(*change.before) + ")";
+}
+
+void WriteFindings(std::ostream& out, const ResultDiff& diff) {
+  if (diff.findings.empty()) return;
+  out << "\nHealth findings: " << diff.findings.size() << '\n';
+  for (const FindingChange& change : diff.findings) out << "  " << FindingChangeText(change) << '\n';
+}
+
 void WriteRawTexts(std::ostream& out, const ResultDiff& diff) {
   if (diff.rawTexts.empty()) return;
   out << "\nRaw texts of commands: " << diff.rawTexts.size() << '\n';
@@ -57,6 +72,7 @@ std::string NameText(const ComparedFile& file) { return Printable(file.name) + "
 
 void WriteText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
   out << "From " << NameText(before) << " to " << NameText(after) << (IsSame(diff) ? ": no difference.\n" : ":\n");
+  WriteFindings(out, diff);
   WriteChanges(out, diff);
   WriteRawTexts(out, diff);
 }
@@ -91,12 +107,25 @@ Json RawTextJson(const RawTextChange& change) {
   return json;
 }
 
+Json FindingChangeJson(const FindingChange& change) {
+  Json json = Json::object();
+  const ChangeKind kind = !change.before  ? ChangeKind::kAppeared
+                          : !change.after ? ChangeKind::kDisappeared
+                                          : ChangeKind::kChanged;
+  json["kind"] = KindWord(kind);
+  json["old"] = change.before ? FindingJson(*change.before) : Json();
+  json["new"] = change.after ? FindingJson(*change.after) : Json();
+  return json;
+}
+
 void WriteJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
   Json json = Json::object();
   json["format"] = 1;
   json["old"] = FileJson(before);
   json["new"] = FileJson(after);
   json["same"] = IsSame(diff);
+  json["findings"] = Json::array();
+  for (const FindingChange& change : diff.findings) json["findings"].push_back(FindingChangeJson(change));
   json["changes"] = Json::array();
   for (const Change& change : diff.changes) json["changes"].push_back(ChangeJson(change));
   json["rawTexts"] = Json::array();

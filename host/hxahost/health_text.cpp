@@ -3,6 +3,7 @@
 #include <set>
 #include <string>
 
+#include "host/hxahost/finding_text.h"
 #include "host/hxahost/health_rules.h"
 #include "host/hxahost/health_views.h"
 #include "host/hxahost/text.h"
@@ -10,9 +11,6 @@
 namespace hxahost {
 
 namespace {
-
-// A log entry can be a page; what it says of health stands in its beginning.
-constexpr std::size_t kWidestText = 160;
 
 std::string InCapitals(std::string_view word) {
   std::string capitals(word);
@@ -69,15 +67,6 @@ std::string Summary(const HealthReport& report) {
   return "no controller on " + machine + ": " + ToolsOf(report.result.runs) + " answered that there is none";
 }
 
-void WriteFinding(std::ostream& out, const Finding& finding) {
-  out << SeverityWord(finding.severity) << ": " << Printable(finding.name);
-  if (!finding.identifier.empty() && finding.identifier != finding.name) {
-    out << " [" << Printable(finding.identifier) << "]";
-  }
-  out << ": " << Printable(finding.property) << " \"" << CutToWidth(Printable(finding.text), kWidestText)
-      << "\": " << finding.meaning << '\n';
-}
-
 std::string Padded(std::string_view text, std::size_t width) {
   return std::string(text) + std::string(width - std::min(width, text.size()), ' ');
 }
@@ -104,7 +93,7 @@ std::string_view WhereOf(Where where) {
 // The first line is what monitoring programs show.
 void WriteHealthText(std::ostream& out, const HealthReport& report) {
   out << InCapitals(SeverityWord(WorstOf(report.findings))) << ": " << Summary(report) << '\n';
-  for (const Finding& finding : report.findings) WriteFinding(out, finding);
+  for (const Finding& finding : report.findings) out << FindingText(finding) << '\n';
 }
 
 void WriteHealthRules(std::ostream& out) {

@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <string_view>
+#include <utility>
 
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/text.h"
@@ -16,16 +17,50 @@ class NoResult : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-const Json& Member(const Json& object, const char* name, Json::value_t type) {
+const Json& Member(const Json& object, const char* name) {
   if (!object.is_object()) throw NoResult("an object is missing");
   const auto member = object.find(name);
-  if (member == object.end() || member->type() != type) throw NoResult("\"" + std::string(name) + "\" is missing");
+  if (member == object.end()) throw NoResult("\"" + std::string(name) + "\" is missing");
   return *member;
+}
+
+const Json& Member(const Json& object, const char* name, Json::value_t type) {
+  const Json& member = Member(object, name);
+  if (member.type() != type) throw NoResult("\"" + std::string(name) + "\" is missing");
+  return member;
 }
 
 ResultInstance ReadInstance(const Json& json) {
   return {Member(json, "class", Json::value_t::string), Member(json, "path", Json::value_t::string),
           Member(json, "properties", Json::value_t::object)};
+}
+
+LoggedEntry ReadEntry(const Json& json) {
+  if (!Member(json, "level").is_number_integer()) throw NoResult("\"level\" is missing");
+  return {json["level"].get<int>(), Member(json, "text", Json::value_t::string)};
+}
+
+ToolRun ReadRun(const Json& json) {
+  ToolRun run;
+  run.path = Member(json, "command", Json::value_t::string);
+  for (const Json& argument : Member(json, "arguments", Json::value_t::array)) {
+    if (!argument.is_string()) throw NoResult("an argument is no text");
+    run.arguments.push_back(argument);
+  }
+  const std::string outcome = Member(json, "outcome", Json::value_t::string);
+  const auto read = OutcomeOfWord(outcome);
+  if (!read) throw NoResult("the outcome \"" + outcome + "\" is not known");
+  run.outcome = *read;
+  run.failure = Member(json, "failure", Json::value_t::string);
+  return run;
+}
+
+// What is in a list of a query that may be missing. Gives whether it was there.
+template <class Items, class Read>
+bool AddItems(Items& items, const Json& query, const char* name, Read read) {
+  if (!query.is_object() || !query.contains(name)) return false;
+  for (const Json& json : Member(query, name, Json::value_t::array)) items.push_back(read(json));
+  return true;
 }
 
 JsonResult ReadResult(const Json& json) {
@@ -39,6 +74,13 @@ JsonResult ReadResult(const Json& json) {
   for (const Json& instance : Member(queries.back(), "instances", Json::value_t::array)) {
     result.instances.push_back(ReadInstance(instance));
   }
+  ToolRunList runs;
+  bool haveRuns = true;
+  for (const Json& query : queries) {
+    AddItems(result.log, query, "log", ReadEntry);
+    haveRuns = AddItems(runs, query, "runs", ReadRun) && haveRuns;
+  }
+  if (haveRuns) result.runs = std::move(runs);
   return result;
 }
 

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <nlohmann/json.hpp>
+
+#include "host/hxahost/query_result.h"
 
 // Results that "hxahost query --format json" wrote earlier.
 namespace hxahost {
@@ -19,6 +22,8 @@ struct ResultInstance {
 struct JsonResult {
   std::string machine;
   std::vector<ResultInstance> instances;  // of the last query
+  std::vector<LoggedEntry> log = {};      // of all queries
+  std::optional<ToolRunList> runs = {};   // of all queries; nothing where the result was written without them
 };
 
 // Throws ProgramError (wrong arguments) for a file that cannot be read and for one that is no such result.

@@ -168,11 +168,12 @@ ResultDiff CompareResults(const JsonResult& before, const JsonResult& after) {
   }
   std::ranges::stable_sort(diff.changes, {}, &Change::group);
   diff.rawTexts = CompareRawTexts(before, after);
+  diff.findings = CompareFindings(before, after, matched);
   return diff;
 }
 
 bool IsSame(const ResultDiff& diff) {
-  return diff.rawTexts.empty() &&
+  return diff.rawTexts.empty() && diff.findings.empty() &&
          std::ranges::all_of(diff.changes, [](const Change& change) { return change.group == ChangeGroup::kTime; });
 }
 

@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "host/hxahost/finding_diff.h"
 #include "host/hxahost/json_result.h"
 
 // What is different between two results, the worst first.
@@ -51,6 +52,7 @@ struct RawTextChange {
 struct ResultDiff {
   std::vector<Change> changes;  // by group, then in the order of the results
   std::vector<RawTextChange> rawTexts;
+  std::vector<FindingChange> findings = {};  // of the rules of health
 };
 
 ResultDiff CompareResults(const JsonResult& before, const JsonResult& after);

@@ -80,6 +80,12 @@ std::string LastLine(std::string_view output) {
 
 std::string_view OutcomeWord(Outcome outcome) { return kWords[static_cast<std::size_t>(outcome)]; }
 
+std::optional<Outcome> OutcomeOfWord(std::string_view word) {
+  const auto found = std::ranges::find(kWords, word);
+  if (found == std::end(kWords)) return std::nullopt;
+  return static_cast<Outcome>(found - std::begin(kWords));
+}
+
 std::string ToolName(std::string_view path) {
   const std::size_t slash = path.find_last_of("/\\");
   std::string_view name = slash == path.npos ? path : path.substr(slash + 1);

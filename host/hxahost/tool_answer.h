@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,9 @@ enum class Outcome {
 
 // "ok", "refused", "empty", "failed", "cut off", "timed out", "not started": programs rely on the words.
 std::string_view OutcomeWord(Outcome outcome);
+
+// Nothing where it is none of these words.
+std::optional<Outcome> OutcomeOfWord(std::string_view word);
 
 struct ReadAnswer {
   Outcome outcome = Outcome::kOk;

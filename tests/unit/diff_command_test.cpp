@@ -38,6 +38,41 @@ TEST_F(DiffCommand, SendsNoControlCharacterOfAResultToTheTerminal) {
   EXPECT_NE(out_.str().find("  - d\\x1b[2J\n"), std::string::npos) << out_.str();
 }
 
+TEST_F(DiffCommand, ShowsTheFindingsBeforeEverythingElse) {
+  const auto disk = [](const std::string& state) {
+    return R"({"format": 1, "machine": "M", "queries": [{"instances": [{"class": "KVRSG_zxDiskDrive", "path": "d",
+        "properties": {"DeviceID": "D\u001b", "ControllerNum": "1", "DeviceType": "Hard drive", "State": ")" +
+           state + "\"}}]}]}";
+  };
+  const std::string online = disk("Online");
+  const std::string failed = disk("Failed");
+  const std::string strange = disk("Strange\\u0007");
+  RunDiffCommand(Options(online.c_str(), failed.c_str()), out_);
+  EXPECT_NE(
+      out_.str().find(":\n\nHealth findings: 1\n  + critical: Hard drive at number  of controller 1 [D\\x1b]: State "
+                      "\"Failed\": the disk has failed; replace it\n\nStates that changed: 1\n"),
+      std::string::npos)
+      << out_.str();
+  out_.str("");
+  RunDiffCommand(Options(strange.c_str(), failed.c_str()), out_);
+  EXPECT_NE(out_.str().find("  ! unknown -> critical: "), std::string::npos) << out_.str();
+  EXPECT_NE(out_.str().find("replace it (was \"Strange\\x07\")\n"), std::string::npos) << out_.str();
+  out_.str("");
+  RunDiffCommand(Options(failed.c_str(), online.c_str()), out_);
+  EXPECT_NE(out_.str().find("  - critical: "), std::string::npos) << out_.str();
+}
+
+TEST_F(DiffCommand, GivesProgramsBothSidesOfAFinding) {
+  DiffOptions options = Options(kEmpty, kOneDisk);
+  options.format = "json";
+  RunDiffCommand(options, out_);
+  const auto json = nlohmann::json::parse(out_.str());
+  ASSERT_EQ(json["findings"].size(), 1U);
+  EXPECT_EQ(json["findings"][0]["kind"], "appeared");
+  EXPECT_TRUE(json["findings"][0]["old"].is_null());
+  EXPECT_EQ(json["findings"][0]["new"]["severity"], "unknown");
+}
+
 TEST_F(DiffCommand, IsInTroubleWhereTheOutputCannotBeWritten) {
   out_.setstate(std::ios::badbit);
   try {

@@ -29,6 +29,28 @@ TEST(JsonResult, ReadsTheInstancesOfTheLastQuery) {
   EXPECT_EQ(ResultText(result.instances[0], "Other"), "");
 }
 
+TEST(JsonResult, HasTheLogsAndTheRunsOfAllQueries) {
+  const TemporaryFolder folder;
+  const JsonResult result = ReadJsonResult(folder.Write("r.json", R"({"format": 1, "machine": "M", "queries": [
+      {"instances": [], "log": [{"level": 3, "text": "a"}], "runs": [
+        {"command": "zenx//arcconf.exe", "arguments": ["getconfig", "1"], "outcome": "cut off", "failure": "why"}]},
+      {"instances": [], "log": [{"level": 100, "text": "b"}], "runs": []}]})"));
+  ASSERT_EQ(result.log.size(), 2U);
+  EXPECT_EQ(result.log[1].level, 100);
+  EXPECT_EQ(result.log[1].text, "b");
+  ASSERT_TRUE(result.runs.has_value());
+  ASSERT_EQ(result.runs->size(), 1U);
+  EXPECT_EQ(result.runs->front().path, "zenx//arcconf.exe");
+  EXPECT_EQ(result.runs->front().arguments.size(), 2U);
+  EXPECT_EQ(result.runs->front().outcome, hxahost::Outcome::kCutOff);
+  EXPECT_EQ(result.runs->front().failure, "why");
+}
+
+TEST(JsonResult, HasNoRunsWhereAQueryWasWrittenWithoutThem) {
+  const TemporaryFolder folder;
+  EXPECT_FALSE(ReadJsonResult(folder.Write("r.json", kWhole)).runs.has_value());
+}
+
 std::string Rejection(const std::filesystem::path& file) {
   try {
     ReadJsonResult(file);
@@ -46,16 +68,27 @@ TEST(JsonResult, RejectsWhatIsNoResultAndSaysWhy) {
     const char* says;
   };
   const Case cases[] = {
-      {"nothing",           "",                                                                             "damaged"               },
-      {"no JSON",           "<html>",                                                                       "damaged"               },
-      {"no object",         "[1]",                                                                          "an object is missing"  },
-      {"another program's", "{}",                                                                           "\"format\" is missing" },
-      {"a later format",    R"({"format": 2})",                                                             "its format is 2, not 1"},
-      {"no query",          R"({"format": 1, "machine": "M", "queries": []})",                              "it has no query"       },
-      {"a query of text",   R"({"format": 1, "machine": "M", "queries": ["x"]})",                           "an object is missing"  },
-      {"no machine",        R"({"format": 1, "queries": [{}]})",                                            "\"machine\" is missing"},
-      {"a bare instance",   R"({"format": 1, "machine": "M", "queries": [{"instances": [{"class": 1}]}]})",
-       "\"class\" is missing"                                                                                                       },
+      {"nothing",                      "",                                                                                                 "damaged"                 },
+      {"no JSON",                      "<html>",                                                                                           "damaged"                 },
+      {"no object",                    "[1]",                                                                                              "an object is missing"    },
+      {"another program's",            "{}",                                                                                               "\"format\" is missing"   },
+      {"a later format",               R"({"format": 2})",                                                                                 "its format is 2, not 1"  },
+      {"no query",                     R"({"format": 1, "machine": "M", "queries": []})",                                                  "it has no query"         },
+      {"a query of text",              R"({"format": 1, "machine": "M", "queries": ["x"]})",                                               "an object is missing"    },
+      {"no machine",                   R"({"format": 1, "queries": [{}]})",                                                                "\"machine\" is missing"  },
+      {"a bare instance",              R"({"format": 1, "machine": "M", "queries": [{"instances": [{"class": 1}]}]})",
+       "\"class\" is missing"                                                                                                                                        },
+      {"a log of text",                R"({"format": 1, "machine": "M", "queries": [{"instances": [], "log": ["x"]}]})",
+       "an object is missing"                                                                                                                                        },
+      {"a level of text",
+       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "log": [{"level": "3", "text": ""}]}]})",                            "\"level\" is missing"    },
+      {"a run without arguments",
+       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "runs": [{"command": "c"}]}]})",                                     "\"arguments\" is missing"},
+      {"an argument that is a number",
+       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "runs": [{"command": "c", "arguments": [1]}]}]})",                   "an argument is no text"  },
+      {"an outcome of the future",
+       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "runs": [{"command": "c", "arguments": [], "outcome": "lost"}]}]})",
+       "the outcome \"lost\" is not known"                                                                                                                           },
   };
   const TemporaryFolder folder;
   for (const Case& each : cases) {

@@ -67,7 +67,18 @@ TEST(Progress, KeepsToOneLineWithoutControlCharacters) {
 TEST(Progress, ShowsNothingWhenNothingRuns) {
   std::ostringstream terminal;
   { const Progress progress(terminal); }
-  EXPECT_EQ(terminal.str(), "\r\r");
+  EXPECT_EQ(terminal.str(), "");
+}
+
+TEST(Progress, IsOutOfTheWayBeforeOthersWrite) {
+  std::ostringstream terminal;
+  Progress progress(terminal);
+  progress.Begin("tool");
+  progress.End();
+  progress.Clear();
+  EXPECT_EQ(terminal.str(), "\rtool\r    \r");
+  progress.Clear();
+  EXPECT_EQ(terminal.str(), "\rtool\r    \r") << "there was nothing left to erase";
 }
 
 }  // namespace

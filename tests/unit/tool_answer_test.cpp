@@ -94,4 +94,12 @@ TEST(ToolAnswer, NamesAToolByItsFileWithoutFolderAndSuffix) {
   EXPECT_EQ(KnownTools(), (std::vector<std::string_view>{"qcmdrun", "hrconf_64", "arcconf"}));
 }
 
+TEST(ToolAnswer, FindsAnOutcomeByItsWord) {
+  for (const Outcome outcome : {Outcome::kOk, Outcome::kRefused, Outcome::kEmpty, Outcome::kFailed, Outcome::kCutOff,
+                                Outcome::kTimedOut, Outcome::kNotStarted}) {
+    EXPECT_EQ(OutcomeOfWord(OutcomeWord(outcome)), outcome);
+  }
+  EXPECT_FALSE(OutcomeOfWord("OK").has_value());
+}
+
 }  // namespace
