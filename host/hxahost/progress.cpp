@@ -23,8 +23,7 @@ Progress::~Progress() {
   }
   changed_.notify_one();
   clock_.join();
-  Draw("");
-  terminal_ << '\r' << std::flush;
+  Clear();
 }
 
 void Progress::Begin(const std::string& what) {
@@ -40,6 +39,14 @@ void Progress::Begin(const std::string& what) {
 void Progress::End() {
   const std::lock_guard lock(mutex_);
   what_.clear();
+}
+
+void Progress::Clear() {
+  const std::lock_guard lock(mutex_);
+  what_.clear();
+  if (drawnWidth_ == 0) return;
+  Draw("");
+  terminal_ << '\r' << std::flush;
 }
 
 void Progress::Run() {

@@ -22,6 +22,8 @@ class Progress {
   void Begin(const std::string& what);
   // Nothing runs. The line stays until the next begins, so that it does not flicker.
   void End();
+  // Nothing runs, and the line is gone: others write to the terminal now.
+  void Clear();
 
  private:
   void Run();

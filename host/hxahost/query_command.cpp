@@ -105,6 +105,7 @@ class Session {
     for (unsigned number = 1; number <= header.queryCount; ++number) {
       repository_->BeginQuery(classes);
       plugin_.Query(repository_, classes);
+      if (progress_) progress_->Clear();  // or the tables would go on in its line
       display.query(out, header, {number, repository_->Published(), log_.Take(), std::exchange(runs_, {})});
     }
     display.end(out, header);
@@ -146,8 +147,9 @@ void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::o
   } catch (const ProgramError&) {
     throw;
   } catch (const std::exception& failure) {
-    throw ProgramError(ExitStatus::kQueryFailed,
-                       "The query failed: " + Printable(failure.what()) + ". --log FILE shows how far it came.");
+    throw ProgramError(ExitStatus::kQueryFailed, "The query failed: " + Printable(failure.what()) +
+                                                     ". --log FILE shows how far it came." +
+                                                     (file ? "" : " What was written before this is not whole."));
   }
   if (file) file->Finish();
 }
