@@ -1,0 +1,206 @@
+// What is typed wrong, and files that cannot be read or written: for every option of every command one line that says
+// what to do, an exit status that scripts can tell apart, and every file as it was before.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "host/hxahost/text.h"
+#include "tests/support/file_text.h"
+#include "tests/support/hxahost_run.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using hxahost::Utf8FromPath;
+using testing::HasSubstr;
+using testing::StartsWith;
+using Texts = std::vector<std::string>;
+
+// Marks in the arguments of a case: files and folders that are there or not.
+constexpr const char* kFile = "<file>";             // with "good" in it
+constexpr const char* kFolder = "<folder>";         // empty
+constexpr const char* kMissing = "<missing>";       // in a folder that is there
+constexpr const char* kNowhere = "<nowhere>";       // in a folder that is not there
+constexpr const char* kUnderFile = "<under file>";  // in a file, as if that were a folder
+
+struct Case {
+  const char* name;
+  const char* option;  // that the case is about; "" for operands and the like
+  Texts arguments;
+  int exitStatus;
+  const char* says;
+};
+
+const std::vector<Case> kQueryCases = {
+    {"a missing plug-in",           "--plugin",       {"query", "--plugin", kMissing},                        3, "--plugin"                 },
+    {"a folder as plug-in",         "--plugin",       {"query", "--plugin", kFolder},                         3, "--plugin"                 },
+    {"a text as plug-in",           "--plugin",       {"query", "--plugin", kFile},                           3, "--plugin"                 },
+    {"a missing directory",         "--directory",    {"query", "--directory", kMissing},                     2, "name the folder"          },
+    {"a file as directory",         "--directory",    {"query", "--directory", kFile},                        2, "name the folder"          },
+    {"an unknown class",            "--class",        {"query", "--class", "KVRSG_Nothing"},                  2, "\"hxahost classes\" lists"},
+    {"no name of a class",          "--class",        {"query", "--class"},                                   2, "hxahost query --help"     },
+    {"an empty class",              "--class",        {"query", "--class", ""},                               2, "give a value"             },
+    {"no repeat",                   "--repeat",       {"query", "--repeat", "0"},                             2, "a whole number from 1 on" },
+    {"a negative repeat",           "--repeat",       {"query", "--repeat=-1"},                               2, "a whole number from 1 on" },
+    {"a repeat past all numbers",   "--repeat",       {"query", "--repeat", "99999999999"},                   2, "a whole number from 1 on" },
+    {"a repeat in words",           "--repeat",       {"query", "--repeat", "twice"},                         2, "a whole number from 1 on" },
+    {"an unknown format",           "--format",       {"query", "--format", "yaml"},                          2, "give table or json"       },
+    {"a format of another command", "--format",       {"query", "--format", "prometheus"},                    2, "give table or json"       },
+    {"output in no folder",         "--output",       {"query", "--output", kNowhere},                        2, "name a file in a folder"  },
+    {"a folder as output",          "--output",       {"query", "--output", kFolder},                         2, "name a file in a folder"  },
+    {"output under a file",         "--output",       {"query", "--output", kUnderFile},                      2, "name a file in a folder"  },
+    {"a log in no folder",          "--log",          {"query", "--log", kNowhere},                           2, "--log"                    },
+    {"a folder as log",             "--log",          {"query", "--log", kFolder},                            2, "--log"                    },
+    {"a type past all types",       "--os-type",      {"query", "--os-type", "65536"},                        2, "a number from 0 to 65535" },
+    {"a type in words",             "--os-type",      {"query", "--os-type", "linux"},                        2, "a number from 0 to 65535" },
+    {"an empty machine name",       "--machine-name", {"query", "--machine-name", ""},                        2, "give a value"             },
+    {"a time in words",             "--local-time",   {"query", "--local-time", "noon"},                      2, "yyyymmddhhmmss.mmmmmmsutc"},
+    {"a month too many",
+     "--local-time",                                  {"query", "--local-time", "20261305123015.250000+060"},
+     2,                                                                                                          "yyyymmddhhmmss.mmmmmmsutc"},
+    {"too narrow a page",           "--width",        {"query", "--width", "39"},                             2, "from 40 to 1000"          },
+    {"too wide a page",             "--width",        {"query", "--width", "1001"},                           2, "from 40 to 1000"          },
+    {"a width in words",            "--width",        {"query", "--width", "wide"},                           2, "from 40 to 1000"          },
+    {"a colour for the words",      "--color",        {"query", "--color", "red"},                            2, "auto, always or never"    },
+    {"unread lines of one class",
+     "--unread",                                      {"query", "--unread", "--class", "KVRSG_zxDiskDrive"},
+     2,                                                                                                          "leave --class out"        },
+    {"a value for the runs",        "--runs",         {"query", "--runs=some"},                               2, "hxahost query --help"     },
+    {"a value for ASCII",           "--ascii",        {"query", "--ascii=some"},                              2, "hxahost query --help"     },
+    {"a value for no progress",     "--no-progress",  {"query", "--no-progress=some"},                        2, "hxahost query --help"     },
+    {"an unknown option",           "",               {"query", "--colour", "never"},                         2, "hxahost query --help"     },
+    {"an operand",                  "",               {"query", "machine.json"},                              2, "hxahost query --help"     },
+};
+
+const std::vector<Case> kHealthCases = {
+    {"a missing plug-in",       "--plugin",       {"health", "--plugin", kMissing},           3, "--plugin"                       },
+    {"a folder as plug-in",     "--plugin",       {"health", "--plugin", kFolder},            3, "--plugin"                       },
+    {"a missing directory",     "--directory",    {"health", "--directory", kMissing},        3, "name the folder"                },
+    {"a file as directory",     "--directory",    {"health", "--directory", kFile},           3, "name the folder"                },
+    {"an unknown format",       "--format",       {"health", "--format", "html"},             3, "give text or json or prometheus"},
+    {"output in no folder",     "--output",       {"health", "--output", kNowhere},           3, "name a file in a folder"        },
+    {"a folder as output",      "--output",       {"health", "--output", kFolder},            3, "name a file in a folder"        },
+    {"a folder as log",         "--log",          {"health", "--log", kFolder},               3, "--log"                          },
+    {"a type past all types",   "--os-type",      {"health", "--os-type", "-1"},              3, "a number from 0 to 65535"       },
+    {"an empty machine name",   "--machine-name", {"health", "--machine-name", ""},           3, "give a value"                   },
+    {"a time in words",         "--local-time",   {"health", "--local-time", "noon"},         3, "yyyymmddhhmmss.mmmmmmsutc"      },
+    {"a value for the rules",   "--rules",        {"health", "--rules=some"},                 3, "hxahost health --help"          },
+    {"a value for no progress", "--no-progress",  {"health", "--no-progress=some"},           3, "hxahost health --help"          },
+    {"a class",                 "",               {"health", "--class", "KVRSG_zxDiskDrive"}, 3, "hxahost health --help"          },
+};
+
+const std::vector<Case> kOtherCases = {
+    {"no command",                "",         {},                                         2, "hxahost --help"           },
+    {"an unknown command",        "",         {"collect"},                                2, "hxahost --help"           },
+    {"two commands",              "",         {"classes", "schema"},                      2, "--help"                   },
+    {"an option for the classes", "",         {"classes", "--format", "json"},            2, "--help"                   },
+    {"an operand for the schema", "",         {"schema", "KVRSG_zxDiskDrive"},            2, "--help"                   },
+    {"one result",                "",         {"diff", kFile},                            2, "hxahost diff --help"      },
+    {"a missing old result",      "",         {"diff", kMissing, kFile},                  2, "name a file that is there"},
+    {"a missing new result",      "",         {"diff", kFile, kMissing},                  2, "is no result of"          },
+    {"a folder as result",        "",         {"diff", kFolder, kFile},                   2, "name a file that is there"},
+    {"a text as result",          "",         {"diff", kFile, kFile},                     2, "is no result of"          },
+    {"an unknown format",         "--format", {"diff", "--format", "html", kFile, kFile}, 2, "give text or json"        },
+};
+
+// One file with something good in it and one empty folder.
+class UsageErrors : public testing::Test {
+ protected:
+  UsageErrors() {
+    folder_.Write("file", "good");
+    fs::create_directory(folder_.Path() / "folder");
+  }
+
+  Texts Filled(Texts arguments) const {
+    const std::pair<const char*, const char*> marks[] = {
+        {kFile,      "file"       },
+        {kFolder,    "folder"     },
+        {kMissing,   "missing"    },
+        {kNowhere,   "nowhere/out"},
+        {kUnderFile, "file/out"   },
+    };
+    for (std::string& argument : arguments) {
+      for (const auto& [mark, path] : marks) {
+        if (argument == mark) argument = Utf8FromPath(folder_.Path() / path);
+      }
+    }
+    return arguments;
+  }
+
+  void ExpectNothingTouched() const {
+    EXPECT_EQ(FileText(folder_.Path() / "file"), "good");
+    EXPECT_TRUE(fs::is_empty(folder_.Path() / "folder"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator()), 2);
+  }
+
+  void Check(const std::vector<Case>& cases) const {
+    for (const Case& each : cases) {
+      SCOPED_TRACE(each.arguments.empty() ? each.name : each.arguments.front() + ": " + each.name);
+      const ProgramResult result = RunHxahost(Filled(each.arguments));
+      EXPECT_EQ(result.exitStatus, each.exitStatus);
+      EXPECT_EQ(result.out, "");
+      EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << result.err;
+      EXPECT_THAT(result.err, StartsWith("hxahost: "));
+      EXPECT_THAT(result.err, HasSubstr(each.says));
+      ExpectNothingTouched();
+    }
+  }
+
+  TemporaryFolder folder_;
+};
+
+// "  --plugin FILE   The plug-in ..."; the help itself cannot be given wrongly.
+std::set<std::string> OptionsOf(const std::string& command) {
+  std::istringstream help(RunHxahost({command, "--help"}).out);
+  std::set<std::string> options;
+  for (std::string line; std::getline(help, line);) {
+    const std::size_t begin = line.find_first_not_of(' ');
+    if (begin == line.npos || begin == 0 || line.compare(begin, 2, "--") != 0) continue;
+    options.insert(line.substr(begin, line.find_first_of(" =,\r", begin) - begin));
+  }
+  options.erase("--help");
+  return options;
+}
+
+TEST_F(UsageErrors, OfAQueryAreOneLineEachAndTouchNoFile) { Check(kQueryCases); }
+TEST_F(UsageErrors, OfHealthAreOneLineEachWithTheStatusForUnknown) { Check(kHealthCases); }
+TEST_F(UsageErrors, OfTheOtherCommandsAreOneLineEach) { Check(kOtherCases); }
+
+TEST_F(UsageErrors, AreTestedForEveryOptionThatTheHelpNames) {
+  const std::pair<const char*, const std::vector<Case>&> commands[] = {
+      {"query",  kQueryCases },
+      {"health", kHealthCases},
+      {"diff",   kOtherCases },
+  };
+  for (const auto& [command, cases] : commands) {
+    std::set<std::string> tested;
+    for (const Case& each : cases) {
+      if (*each.option != '\0') tested.insert(each.option);
+    }
+    EXPECT_EQ(OptionsOf(command), tested) << command;
+  }
+}
+
+TEST_F(UsageErrors, LeaveAGoodResultWhereItIs) {
+  for (const Texts& arguments : {
+           Texts{"query",  "--output", kFile, "--plugin",    kMissing       },
+           Texts{"query",  "--output", kFile, "--directory", kMissing       },
+           Texts{"query",  "--output", kFile, "--class",     "KVRSG_Nothing"},
+           Texts{"query",  "--output", kFile, "--log",       kNowhere       },
+           Texts{"health", "--output", kFile, "--plugin",    kMissing       },
+           Texts{"health", "--output", kFile, "--format",    "html"         },
+  }) {
+    EXPECT_NE(RunHxahost(Filled(arguments)).exitStatus, 0);
+    ExpectNothingTouched();
+  }
+}
+
+}  // namespace
