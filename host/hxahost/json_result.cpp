@@ -84,19 +84,24 @@ JsonResult ReadResult(const Json& json) {
   return result;
 }
 
-[[noreturn]] void Reject(const std::filesystem::path& file, const std::string& why) {
-  throw ProgramError(ExitStatus::kWrongArguments, Printable(Utf8FromPath(file)) + " " + why);
+[[noreturn]] void Reject(const std::string& name, const std::string& why) {
+  throw ProgramError(ExitStatus::kWrongArguments, Printable(name) + " " + why);
 }
 
 }  // namespace
 
 JsonResult ReadJsonResult(const std::filesystem::path& file) {
+  const std::string name = Utf8FromPath(file);
   std::ifstream stream(file, std::ios::binary);
-  if (!stream || std::filesystem::is_directory(file)) Reject(file, "cannot be read: name a file that is there.");
+  if (!stream || std::filesystem::is_directory(file)) Reject(name, "cannot be read: name a file that is there.");
+  return ReadJsonResult(stream, name);
+}
+
+JsonResult ReadJsonResult(std::istream& stream, const std::string& name) {
   try {
     return ReadResult(Json::parse(stream, nullptr, false));
   } catch (const NoResult& reason) {
-    Reject(file, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
+    Reject(name, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
   }
 }
 
