@@ -1,0 +1,63 @@
+// Texts of dates and times, and versions: each text of the input is one.
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "fuzz/support/fuzzer.h"
+#include "fuzz/support/require.h"
+#include "fuzz/support/sections.h"
+#include "host/hxahost/instance_text.h"
+#include "logs/raid_mgr_event_time.h"
+#include "logs/raid_mgr_fields.h"
+#include "logs/raid_mgr_zones.h"
+#include "plugin/host_interface/date_time.h"
+#include "plugin/host_interface/exception.h"
+#include "publish/version_split.h"
+
+using NKVRHXA20::TCIMDateTime;
+
+namespace {
+
+void TryCimText(const std::string& text) {
+  try {
+    const std::string shown = TCIMDateTime(text).ToString();
+    const bool isMinusNull = text.ends_with("-000");  // is no other time than "+000"
+    Require(shown == text || isMinusNull, "a time that is accepted is shown as it came", text);
+    Require(TCIMDateTime(shown).ToString() == shown, "what is shown is a time again", text);
+  } catch (const NKVRHXA20::THXAException&) {
+    // It is none, and says so.
+  }
+  hxahost::ReadableTime(text);
+}
+
+void TryLogLine(const std::string& line) {
+  const auto time = ReadEventTime(line);
+  const auto again = ReadEventTime(line);
+  Require(time.has_value() == again.has_value(), "the same line gives the same time");
+  if (time) Require(time->ToString() == again->ToString(), "the same line gives the same time", line);
+  const auto fields = SplitFields(line);
+  Require(fields.front() == FirstField(line), "the first field is the first");
+  std::size_t length = fields.size() - 1;
+  for (const std::string_view field : fields) {
+    Require(field.find('\t') == field.npos && field.find('\0') == field.npos, "a tab ends a field", field);
+    length += field.size();
+  }
+  Require(length <= line.size() + fields.size() - 1, "fields do not overlap", line);
+  Require(MonthNumber(line) <= 12, "there are twelve months", line);
+  const VersionAndBuild parts = SplitVersion(line);
+  Require(line.find(parts.version) != line.npos, "a version is part of its text", line);
+  Require(line.find(parts.build) != line.npos, "a build is part of its text", line);
+  const int hours = HoursFromUtc(line);
+  Require(hours >= -12 && hours <= 14, "no zone is further away", line);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  for (const std::string& text : Split(AsText(data, size), kSeparator)) {
+    TryCimText(text);
+    TryLogLine(text);
+  }
+  return 0;
+}

@@ -1,0 +1,13 @@
+// Everything that hrconf may answer, as a whole.
+#include <string_view>
+
+#include "fuzz/support/adapter_trial.h"
+#include "fuzz/support/fuzzer.h"
+#include "tools/hrconf/hrconf_data.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  // The one channel of releases that know of no channels.
+  static constexpr std::string_view kOwnWords[] = {"0"};
+  TryAdapter<HrconfData>(data, size, kHrconf, kOwnWords);
+  return 0;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "fuzz/support/fuzzed_machine.h"
+#include "fuzz/support/record_texts.h"
+#include "fuzz/support/require.h"
+#include "plugin/host_interface/services.h"
+
+// Ends the program unless every field of the records is what the tools printed, but for numbers, identifiers and the
+// given words of the plug-in's own.
+void RequireProvenance(const ControllerList& controllers, const std::string& printed,
+                       std::span<const std::string_view> ownWords);
+
+// Collects from an input that answers for one utility, twice: the same comes of it, no utility is run more often than
+// it may be, and nothing but what it printed is in the records. The adapter may throw std::out_of_range alone.
+template <class Adapter>
+void TryAdapter(const std::uint8_t* data, std::size_t size, const Utility& utility,
+                std::span<const std::string_view> ownWords) {
+  const Sections input(data, size);
+  const FuzzedMachine machine(input, 0, {utility});
+  std::string texts[2];
+  ControllerList controllers;
+  for (std::string& text : texts) {
+    const std::size_t runsBefore = machine.Runs();
+    Adapter adapter(NKVRHXA20::TRootObject::GetCoreLogger());
+    try {
+      adapter.Collect(0);
+    } catch (const std::out_of_range&) {
+      text = "ended early";
+    }
+    controllers = adapter.GetControllers();
+    text += TextOf(controllers, adapter.GetRawData());
+    Require(machine.Runs() - runsBefore <= utility.mostRuns, "a utility is run as often as it may be at most");
+  }
+  Require(texts[0] == texts[1], "the same answers give the same records");
+  RequireProvenance(controllers, std::string(AsText(data, size)), ownWords);
+}

@@ -1,0 +1,113 @@
+// What is shown of what a plug-in may publish: tables, JSON, the page, health in all its forms. The first text of the
+// input is the machine's name, the others are what was published.
+#include <algorithm>
+#include <cstddef>
+#include <sstream>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "fuzz/support/fuzzer.h"
+#include "fuzz/support/instance_texts.h"
+#include "fuzz/support/published_input.h"
+#include "fuzz/support/require.h"
+#include "fuzz/support/sections.h"
+#include "fuzz/support/text_checks.h"
+#include "host/hxacore/value_reader.h"
+#include "host/hxahost/ascii_output.h"
+#include "host/hxahost/health.h"
+#include "host/hxahost/health_views.h"
+#include "host/hxahost/json_result.h"
+#include "host/hxahost/page.h"
+#include "host/hxahost/result_diff.h"
+#include "host/hxahost/text.h"
+#include "host/hxahost/views.h"
+
+using Json = nlohmann::ordered_json;
+using namespace hxahost;
+
+namespace {
+
+std::string Shown(std::string_view format, const QueryHeader& header, const QueryResult& result,
+                  std::size_t width = 100) {
+  std::ostringstream out;
+  SetPage(out, {width, false});
+  const View& view = *FindView(format);
+  view.Begin(out, header);
+  view.Query(out, header, result);
+  view.End(out, header);
+  return out.str();
+}
+
+// JSON is read back as what was published.
+void CheckJson(const QueryHeader& header, const QueryResult& result) {
+  const std::string text = Shown("json", header, result);
+  Require(text == Shown("json", header, result), "the same is shown the same way");
+  const Json json = Json::parse(text);
+  Require(json["machine"] == AsUtf8(header.machine), "the machine's name is read back");
+  const Json& query = json["queries"][0];
+  Require(query["instances"].size() == result.instances.size(), "every instance is read back");
+  for (std::size_t index = 0; index < result.instances.size(); ++index) {
+    const Json& properties = query["instances"][index]["properties"];
+    for (const auto& [name, value] : result.instances[index]->Properties()) {
+      if (NKVRHXA20::TCIMValueReader::Kind(value) != NKVRHXA20::ValueKind::kString) continue;
+      Require(properties[std::string(name)] == AsUtf8(std::string(value)), "every text is read back", name);
+    }
+  }
+  for (std::size_t index = 0; index < result.log.size(); ++index) {
+    Require(query["log"][index]["text"] == AsUtf8(result.log[index].text), "every log entry is read back");
+  }
+  std::istringstream file(text);
+  const JsonResult read = ReadJsonResult(file, "result");
+  Require(IsSame(CompareResults(read, read)), "a result is no different from itself");
+}
+
+// Neither ends the script nor begins another element: all markup is the page's own.
+void CheckPage(const QueryHeader& header, const QueryResult& result) {
+  static const std::string empty = Shown("html", HeaderOf("MACHINE"), {});
+  const std::string page = Shown("html", header, result);
+  for (const char* const markup : {"<", "</script", "<!--", "]]>"}) {
+    Require(CountOf(page, markup) == CountOf(empty, markup), "no markup is made of data", markup);
+  }
+  RequireUtf8(page);
+}
+
+void CheckTables(const QueryHeader& header, const QueryResult& result) {
+  for (const std::size_t width : {kNarrowestPage, std::size_t{100}, kWidestPage}) {
+    const std::string tables = Shown("table", header, result, width);
+    RequirePlainLines(tables);
+    const std::string ascii = ToAscii(tables);
+    Require(ascii.find_first_not_of("\n !\"#$%&'()*+,-./0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`"
+                                    "abcdefghijklmnopqrstuvwxyz{|}~") == ascii.npos,
+            "ASCII is ASCII");
+  }
+}
+
+void CheckHealth(const QueryHeader& header, const QueryResult& result) {
+  const HealthReport report{header, result, EvaluateHealth(header, result), 1.5};
+  for (const HealthView& view : HealthViews()) {
+    std::ostringstream out;
+    view.Write(out, report);
+    if (view.format == "json") {
+      Require(Json::parse(out.str())["findings"].size() == report.findings.size(), "every finding is read back");
+    } else if (view.format == "prometheus") {
+      RequireMetrics(out.str());
+    } else {
+      RequirePlainLines(out.str());
+    }
+  }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string text(AsText(data, size));
+  const std::size_t nameEnd = std::min(text.find(kSeparator), text.size());
+  const QueryHeader header = HeaderOf(text.substr(0, nameEnd));
+  const QueryResult result = ReadPublished(text.substr(std::min(nameEnd + 1, text.size())));
+  CheckJson(header, result);
+  CheckPage(header, result);
+  CheckTables(header, result);
+  CheckHealth(header, result);
+  return 0;
+}
