@@ -1,5 +1,4 @@
-// What collection costs beside its tools: collects from a machine and publishes every class, then runs the same
-// commands in the same order with nothing around them, in turn, and prints the ratio of the wall times.
+#include "bench/collection_cost.h"
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -8,13 +7,11 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <functional>
+#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "bench/measured.h"
 #include "bench/whole_query.h"
 #include "host/hxacore/host_services.h"
 
@@ -48,12 +45,6 @@ void RunBare(const Command& command) {
   if (isStarted) waitpid(child, nullptr, 0);
 }
 
-double Seconds(const std::function<void()>& work) {
-  const auto begin = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
 double Median(std::vector<double> values) {
   std::ranges::sort(values);
   return values[values.size() / 2];
@@ -61,11 +52,8 @@ double Median(std::vector<double> values) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  if (argc != 3 || chdir(argv[1]) != 0) {
-    std::fprintf(stderr, "Usage: %s MACHINE-FOLDER ROUNDS\n", argv[0]);
-    return 2;
-  }
+CollectionCost MeasureCollection(const std::string& machine, int rounds) {
+  std::filesystem::current_path(machine);
   std::vector<Command> commands;
   NKVRHXA20::HostServices services = NKVRHXA20::RealServices();
   services.spawn = [&, spawn = services.spawn](const std::string& path, const Command& arguments, int limit) {
@@ -78,15 +66,12 @@ int main(int argc, char** argv) {
   std::vector<double> whole;
   std::vector<double> bare;
   std::vector<double> ratios;
-  std::size_t published = 0;
-  for (int round = std::atoi(argv[2]); round > 0; --round) {
+  for (int round = 0; round < rounds; ++round) {
     commands.clear();
-    whole.push_back(Seconds([&] { published = WholeQuery().Run(); }));
-    bare.push_back(Seconds([&] { std::ranges::for_each(commands, RunBare); }));
+    whole.push_back(Measured([] { WholeQuery().Run(); }));
+    bare.push_back(Measured([&] { std::ranges::for_each(commands, RunBare); }));
     ratios.push_back(whole.back() / bare.back());
   }
-  std::printf("%zu runs of tools, %zu instances, %zu rounds\n", commands.size(), published, ratios.size());
-  std::printf("whole collection and publication: median %8.2f ms\n", Median(whole) * 1e3);
-  std::printf("the same commands bare:           median %8.2f ms\n", Median(bare) * 1e3);
-  std::printf("ratio (median of the rounds'):           %.3f  (target: at most 1.05)\n", Median(ratios));
+  NKVRHXA20::SetServices(NKVRHXA20::RealServices());
+  return {commands.size(), Median(whole), Median(bare), Median(ratios)};
 }
