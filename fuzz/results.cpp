@@ -18,10 +18,7 @@ using namespace hxahost;
 
 namespace {
 
-JsonResult Read(const std::string& text) {
-  std::istringstream file(text);
-  return ReadJsonResult(file, "result.json");
-}
+JsonResult Read(const std::string& text) { return ParseJsonResult(text, "result.json"); }
 
 std::size_t CountOf(const ResultDiff& diff, ChangeKind kind) {
   std::size_t count = 0;

@@ -57,8 +57,7 @@ void CheckJson(const QueryHeader& header, const QueryResult& result) {
   for (std::size_t index = 0; index < result.log.size(); ++index) {
     Require(query["log"][index]["text"] == AsUtf8(result.log[index].text), "every log entry is read back");
   }
-  std::istringstream file(text);
-  const JsonResult read = ReadJsonResult(file, "result");
+  const JsonResult read = ParseJsonResult(text, "result");
   Require(IsSame(CompareResults(read, read)), "a result is no different from itself");
 }
 

@@ -2,9 +2,9 @@
 
 #include <exception>
 
+#include "host/hxahost/diff_source.h"
 #include "host/hxahost/diff_view.h"
 #include "host/hxahost/exit_status.h"
-#include "host/hxahost/json_result.h"
 #include "host/hxahost/result_diff.h"
 #include "host/hxahost/text.h"
 
@@ -13,8 +13,8 @@ namespace hxahost {
 namespace {
 
 int Compare(const DiffOptions& options, std::ostream& out) {
-  const JsonResult before = ReadJsonResult(PathFromUtf8(options.oldFile));
-  const JsonResult after = ReadJsonResult(PathFromUtf8(options.newFile));
+  const JsonResult before = ReadResultOrBundle(PathFromUtf8(options.oldFile));
+  const JsonResult after = ReadResultOrBundle(PathFromUtf8(options.newFile));
   const ResultDiff diff = CompareResults(before, after);
   FindDiffView(options.format)->Write(out, {options.oldFile, before.machine}, {options.newFile, after.machine}, diff);
   out.flush();

@@ -1,6 +1,7 @@
 #include "host/hxahost/json_result.h"
 
 #include <fstream>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -94,12 +95,13 @@ JsonResult ReadJsonResult(const std::filesystem::path& file) {
   const std::string name = Utf8FromPath(file);
   std::ifstream stream(file, std::ios::binary);
   if (!stream || std::filesystem::is_directory(file)) Reject(name, "cannot be read: name a file that is there.");
-  return ReadJsonResult(stream, name);
+  const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  return ParseJsonResult(text, name);
 }
 
-JsonResult ReadJsonResult(std::istream& stream, const std::string& name) {
+JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
   try {
-    return ReadResult(Json::parse(stream, nullptr, false));
+    return ReadResult(Json::parse(text, nullptr, false));
   } catch (const NoResult& reason) {
     Reject(name, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
   }

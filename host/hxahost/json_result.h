@@ -1,9 +1,9 @@
 #pragma once
 
 #include <filesystem>
-#include <istream>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -30,8 +30,8 @@ struct JsonResult {
 // Throws ProgramError (wrong arguments) for a file that cannot be read and for one that is no such result.
 JsonResult ReadJsonResult(const std::filesystem::path& file);
 
-// The same of what a stream holds, which messages call by the name.
-JsonResult ReadJsonResult(std::istream& stream, const std::string& name);
+// The same from the text itself, which messages call by the name.
+JsonResult ParseJsonResult(std::string_view text, const std::string& name);
 
 // The property as text; "" where it is not there.
 std::string ResultText(const ResultInstance& instance, const std::string& property);

@@ -128,6 +128,10 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
       ->type_name("FILE");
   command.add_option("--log", read.log, "Write the log there: one line for an entry, its level first")
       ->type_name("FILE");
+  command.add_option("--record", read.record, "Keep all that the collection was told in a bundle, to be replayed")
+      ->type_name("BUNDLE");
+  command.add_flag("--mask", read.isMasked, "Hide machine name, serial numbers and given names in that bundle");
+  command.add_option("--replay", read.replay, "Run no tool: take everything from a bundle")->type_name("BUNDLE");
   command
       .add_option("--os-type", typed.osType,
                   "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
@@ -188,11 +192,43 @@ std::string DiffFormatNames() {
 
 CLI::App* AddDiff(CLI::App& program, DiffOptions& read) {
   CLI::App* const diff = program.add_subcommand("diff", "Show what is different between two JSON results");
-  diff->add_option("OLD", read.oldFile, "What \"hxahost query --format json --output OLD\" wrote first")->required();
+  diff->add_option("OLD", read.oldFile, "What \"hxahost query --format json --output OLD\" wrote first, or a bundle")
+      ->required();
   diff->add_option("NEW", read.newFile, "What it wrote later")->required();
   diff->add_option("--format", read.format, DiffFormatNames())->type_name("FORMAT")->capture_default_str();
   diff->footer("Exit status: 0 nothing is different, 1 something is, 2 it could not be told.");
   return diff;
+}
+
+struct TypedBundle {
+  BundleOptions read;
+  std::vector<std::string> items;
+};
+
+constexpr const char* kBundleExamples =
+    "Examples:\n"
+    "  hxahost query --record machine.bundle              collect, and keep all that was seen\n"
+    "  hxahost query --replay machine.bundle              the same result again, on any machine\n"
+    "  hxahost bundle list machine.bundle                 what is in it\n"
+    "  hxahost bundle show machine.bundle 3               what the third command printed\n"
+    "  hxahost bundle mask machine.bundle shared.bundle   without names and serial numbers";
+
+CLI::App* AddBundle(CLI::App& program, TypedBundle& typed) {
+  CLI::App* const bundle = program.add_subcommand("bundle", "Look into what \"hxahost query --record\" wrote");
+  bundle->require_subcommand(1);
+  bundle->footer(kBundleExamples);
+  BundleOptions& read = typed.read;
+  CLI::App* const list = bundle->add_subcommand("list", "One line for each command, and for the log");
+  list->add_option("FILE", read.file, "The bundle")->required();
+  CLI::App* const show = bundle->add_subcommand("show", "What a command printed, or what holds for all of them");
+  show->add_option("FILE", read.file, "The bundle")->required();
+  show->add_option("ITEM", typed.items, "Numbers of the list (default: what stands before the items)");
+  show->add_flag("--raw", read.isRaw, "The bytes themselves, for a file or another program");
+  show->add_option("--output", read.output, "Where to write (default: standard output)")->type_name("FILE");
+  CLI::App* const mask = bundle->add_subcommand("mask", "Hide machine name, serial numbers and given names");
+  mask->add_option("IN", read.file, "The bundle")->required();
+  mask->add_option("OUT", read.output, "The masked one")->required();
+  return bundle;
 }
 
 void RejectEmptyValues(const CLI::App& query) {
@@ -203,16 +239,29 @@ void RejectEmptyValues(const CLI::App& query) {
   }
 }
 
+void CheckBundles(const QueryOptions& options) {
+  if (options.isMasked && options.record.empty()) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       "--mask hides what is in a bundle: name one with --record, or leave it out.");
+  }
+  if (!options.replay.empty() && !options.directory.empty()) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       "--directory is where tools are run, and --replay runs none: leave one of them out.");
+  }
+}
+
 QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   RejectEmptyValues(query);
   QueryOptions options = typed.read;
   options.repeat = ReadRepeat(typed.repeat);
   options.osType = ReadOsType(typed.osType);
+  options.hasOsType = query.get_option("--os-type")->count() > 0;
   if (!typed.machineName.empty()) options.machineName = typed.machineName;
   if (!typed.localTime.empty()) options.localTime = ReadLocalTime(typed.localTime);
   options.showProgress = !typed.noProgress;
   if (!typed.width.empty()) options.width = ReadWidth(typed.width);
   CheckColor(options.color);
+  CheckBundles(options);
   return options;
 }
 
@@ -220,6 +269,26 @@ DiffOptions ReadDiff(const CLI::App& diff, const DiffOptions& read) {
   RejectEmptyValues(diff);
   if (FindDiffView(read.format) == nullptr) Reject("--format", read.format, "give " + DiffFormatNames() + ".");
   return read;
+}
+
+// "hxahost bundle ...": the subcommand that was given decides.
+CommandLine ReadBundleCommand(const CLI::App& bundle, const TypedBundle& typed) {
+  const CLI::App& given = *bundle.get_subcommands().front();
+  RejectEmptyValues(given);
+  CommandLine line;
+  line.bundle = typed.read;
+  for (const std::string& item : typed.items) {
+    const auto number = WholeNumber(item);
+    if (!number || *number == 0) Reject("ITEM", item, "give a number that \"hxahost bundle list\" shows.");
+    line.bundle.items.push_back(*number);
+  }
+  if (line.bundle.isRaw && line.bundle.items.empty()) {
+    throw ProgramError(ExitStatus::kWrongArguments, "--raw needs an ITEM: the bytes of which item are wanted?");
+  }
+  line.command = given.get_name() == "list"   ? Command::kBundleList
+                 : given.get_name() == "show" ? Command::kBundleShow
+                                              : Command::kBundleMask;
+  return line;
 }
 
 CommandLine ReadQuery(const CLI::App& query, const TypedOptions& typed) {
@@ -240,7 +309,8 @@ CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   return line;
 }
 
-std::string HelpOf(const CLI::App& query, const CLI::App& health, const CLI::App& diff) {
+std::string HelpOf(const CLI::App& query, const CLI::App& health, const CLI::App& diff, const CLI::App& bundle) {
+  if (bundle.parsed()) return "hxahost bundle --help";
   if (query.parsed()) return "hxahost query --help";
   if (health.parsed()) return "hxahost health --help";
   return diff.parsed() ? "hxahost diff --help" : "hxahost --help";
@@ -261,6 +331,8 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   program.add_subcommand("schema", "Show these classes as MOF");
   DiffOptions typedDiff;
   const CLI::App* const diff = AddDiff(program, typedDiff);
+  TypedBundle typedBundle;
+  const CLI::App* const bundle = AddBundle(program, typedBundle);
   try {
     program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::CallForHelp&) {
@@ -269,11 +341,12 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
     return {Command::kShowText, std::string(version.what()) + "\n", {}};
   } catch (const CLI::ParseError& error) {
     throw ProgramError(ExitStatus::kWrongArguments,
-                       Printable(error.what()) + ": see " + HelpOf(*query, *health, *diff) + ".");
+                       Printable(error.what()) + ": see " + HelpOf(*query, *health, *diff, *bundle) + ".");
   }
   if (query->parsed()) return ReadQuery(*query, typed);
   if (health->parsed()) return ReadHealth(*health, typed);
   if (diff->parsed()) return {Command::kDiff, "", {}, ReadDiff(*diff, typedDiff)};
+  if (bundle->parsed()) return ReadBundleCommand(*bundle, typedBundle);
   return {classes->parsed() ? Command::kClasses : Command::kSchema, "", {}};
 }
 

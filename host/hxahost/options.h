@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -18,7 +19,11 @@ struct QueryOptions {
   std::string format = "table";
   std::string output;
   std::string log;
+  std::string record;     // the bundle to write
+  bool isMasked = false;  // names and serial numbers in it are hidden
+  std::string replay;     // the bundle to take everything from
   std::optional<std::uint16_t> osType;
+  bool hasOsType = false;  // it was asked for; none is an answer, too
   std::optional<std::string> machineName;
   std::optional<NKVRHXA20::TCIMDateTime> localTime;
   bool showRuns = false;
@@ -29,6 +34,14 @@ struct QueryOptions {
   std::string color = "auto";
 };
 
+// What "hxahost bundle" is asked for.
+struct BundleOptions {
+  std::string file;
+  std::vector<std::size_t> items;  // to be shown, counted from 1; none: what stands before them
+  bool isRaw = false;
+  std::string output;  // where the items, or the masked bundle, go
+};
+
 // What "hxahost diff" is asked for: two results that were written before.
 struct DiffOptions {
   std::string oldFile;
@@ -36,13 +49,25 @@ struct DiffOptions {
   std::string format = "text";
 };
 
-enum class Command { kShowText, kQuery, kHealth, kHealthRules, kDiff, kClasses, kSchema };
+enum class Command {
+  kShowText,
+  kQuery,
+  kHealth,
+  kHealthRules,
+  kDiff,
+  kClasses,
+  kSchema,
+  kBundleList,
+  kBundleShow,
+  kBundleMask
+};
 
 struct CommandLine {
   Command command = Command::kShowText;
   std::string text;    // to be shown: the help or the version
   QueryOptions query;  // "hxahost health" takes those of a query that it has a use for
   DiffOptions diff = {};
+  BundleOptions bundle = {};
 };
 
 // Reads the arguments that follow the program's name. Throws ProgramError for wrong ones.

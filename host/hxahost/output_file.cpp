@@ -1,7 +1,7 @@
 #include "host/hxahost/output_file.h"
 
-#include <string>
 #include <system_error>
+#include <utility>
 
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/system.h"
@@ -33,10 +33,13 @@ fs::path WrittenName(const fs::path& path) {
 
 }  // namespace
 
-OutputFile::OutputFile(const fs::path& path)
-    : path_(WithoutLinks(path)), written_(WrittenName(path_)), stream_(written_, std::ios::binary) {
+OutputFile::OutputFile(const fs::path& path, std::string option)
+    : option_(std::move(option)),
+      path_(WithoutLinks(path)),
+      written_(WrittenName(path_)),
+      stream_(written_, std::ios::binary) {
   if (!stream_) {
-    throw ProgramError(ExitStatus::kWrongArguments, "--output " + Printable(Utf8FromPath(path)) +
+    throw ProgramError(ExitStatus::kWrongArguments, option_ + " " + Printable(Utf8FromPath(path)) +
                                                         " cannot be written: name a file in a folder that is there "
                                                         "and that you may write to.");
   }
@@ -54,7 +57,7 @@ void OutputFile::Finish() {
   std::error_code error;
   if (stream_ && written_ != path_) fs::rename(written_, path_, error);
   if (!stream_ || error) {
-    throw ProgramError(ExitStatus::kQueryFailed, "--output " + Printable(Utf8FromPath(path_)) +
+    throw ProgramError(ExitStatus::kQueryFailed, option_ + " " + Printable(Utf8FromPath(path_)) +
                                                      " could not be written: see whether there is room on the disk "
                                                      "and whether another program has the file open.");
   }

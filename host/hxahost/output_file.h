@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <ostream>
+#include <string>
 
 namespace hxahost {
 
@@ -10,8 +11,8 @@ namespace hxahost {
 // the end. What is no ordinary file (a device, a pipe) is written directly.
 class OutputFile {
  public:
-  // Opens it. Throws ProgramError when it cannot be written there.
-  explicit OutputFile(const std::filesystem::path& path);
+  // Opens it. Throws ProgramError, which names the option, when it cannot be written there.
+  explicit OutputFile(const std::filesystem::path& path, std::string option = "--output");
   // Removes what was written unless it was finished.
   ~OutputFile();
   OutputFile(const OutputFile&) = delete;
@@ -23,6 +24,7 @@ class OutputFile {
   void Finish();
 
  private:
+  std::string option_;
   std::filesystem::path path_;
   std::filesystem::path written_;  // the same as path_ where it is written directly
   std::ofstream stream_;

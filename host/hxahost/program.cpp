@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "host/hxacore/schema.h"
+#include "host/hxahost/bundle_command.h"
 #include "host/hxahost/diff_command.h"
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/health_command.h"
@@ -26,6 +27,9 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
     case Command::kHealthRules: WriteHealthRules(out); break;
     case Command::kClasses: WriteClassList(out, NKVRHXA20::PublishedClasses()); break;
     case Command::kSchema: WriteMof(out, NKVRHXA20::PublishedClasses()); break;
+    case Command::kBundleList: ListBundle(commandLine.bundle, out); break;
+    case Command::kBundleShow: ShowBundle(commandLine.bundle, out); break;
+    case Command::kBundleMask: MaskBundleFile(commandLine.bundle); break;
     case Command::kDiff: status = RunDiffCommand(commandLine.diff, out); break;
   }
   out.flush();

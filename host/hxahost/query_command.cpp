@@ -1,5 +1,6 @@
 #include "host/hxahost/query_command.h"
 
+#include <chrono>
 #include <exception>
 #include <filesystem>
 #include <memory>
@@ -20,6 +21,7 @@
 #include "host/hxahost/progress.h"
 #include "host/hxahost/query_log.h"
 #include "host/hxahost/session_services.h"
+#include "host/hxahost/session_tape.h"
 #include "host/hxahost/system.h"
 #include "host/hxahost/terminal_page.h"
 #include "host/hxahost/text.h"
@@ -37,13 +39,15 @@ struct Paths {
   fs::path plugin;
   fs::path log;
   fs::path output;
+  fs::path record;
+  fs::path replay;
 };
 
 fs::path FromHere(const std::string& path) { return path.empty() ? fs::path() : fs::absolute(PathFromUtf8(path)); }
 
 Paths ReadPaths(const QueryOptions& options) {
   return {options.plugin.empty() ? ProgramFolder() / "zenx.pi" : FromHere(options.plugin), FromHere(options.log),
-          FromHere(options.output)};
+          FromHere(options.output), FromHere(options.record), FromHere(options.replay)};
 }
 
 void EnterDirectory(const std::string& directory) {
@@ -78,25 +82,42 @@ std::vector<boost::shared_ptr<ICIMClass>> Classes(ICIMNamespace& nameSpace, cons
   return classes;
 }
 
-QueryHeader MakeHeader(const QueryOptions& options, const std::vector<std::string>& classes) {
+// Where the tools are run, or were when they were recorded.
+std::string ToolDirectory(const SessionTape& tape) {
+  return tape.Played() != nullptr ? tape.Played()->directory : Utf8FromPath(fs::current_path());
+}
+
+std::optional<std::uint16_t> OsType(const QueryOptions& options, const SessionTape& tape) {
+  return tape.Played() != nullptr && !options.hasOsType ? tape.Played()->osType : options.osType;
+}
+
+void SetUp(SessionTape& tape, const QueryOptions& options, const Paths& paths) {
+  if (!paths.record.empty() && (paths.record == paths.output || paths.record == paths.log)) {
+    throw ProgramError(ExitStatus::kWrongArguments, "--record " + Printable(options.record) +
+                                                        " is named twice: give each output a file of its own.");
+  }
+  if (!paths.replay.empty()) tape.Play(paths.replay);
+  if (!paths.record.empty()) tape.Record(paths.record, OsType(options, tape), ToolDirectory(tape));
+}
+
+QueryHeader MakeHeader(const QueryOptions& options, const SessionTape& tape, const std::vector<std::string>& classes) {
   const HostServices& services = CurrentServices();
-  return {services.machineName(), Utf8FromPath(fs::current_path()),
-          services.localTime(),   classes,
-          options.repeat,         options.showRuns,
-          options.showUnread};
+  return {services.machineName(), ToolDirectory(tape), services.localTime(), classes,
+          options.repeat,         options.showRuns,    options.showUnread};
 }
 
 // Everything that a query needs, in the order in which it is set up.
 class Session {
  public:
-  Session(const QueryOptions& options, const Paths& paths, std::ostream& err)
-      : log_(paths.log),
+  Session(const QueryOptions& options, const Paths& paths, SessionTape& tape, std::ostream& err)
+      : tape_(tape),
+        log_(paths.log),
         progress_(options.showProgress && StandardErrorIsTerminal()
                       ? std::make_unique<Progress>(err, ProgressWidth(), MostRuns())
                       : nullptr),
-        services_(options, log_, runs_, progress_.get()),
+        services_(options, log_, runs_, progress_.get(), tape),
         plugin_(paths.plugin),
-        repository_(TRepository::Make(options.osType)) {}
+        repository_(TRepository::Make(OsType(options, tape))) {}
 
   // Queries and shows as often as the header says.
   void Run(const QueryDisplay& display, const QueryHeader& header, std::ostream& out) {
@@ -104,9 +125,11 @@ class Session {
     display.begin(out, header);
     for (unsigned number = 1; number <= header.queryCount; ++number) {
       repository_->BeginQuery(classes);
+      const auto begin = Clock::now();
       plugin_.Query(repository_, classes);
+      const double seconds = tape_.EndQuery(number, std::chrono::duration<double>(Clock::now() - begin).count());
       if (progress_) progress_->Clear();  // or the tables would go on in its line
-      display.query(out, header, {number, repository_->Published(), log_.Take(), std::exchange(runs_, {})});
+      display.query(out, header, {number, repository_->Published(), log_.Take(), std::exchange(runs_, {}), seconds});
     }
     display.end(out, header);
     progress_.reset();
@@ -114,6 +137,9 @@ class Session {
   }
 
  private:
+  using Clock = std::chrono::steady_clock;
+
+  SessionTape& tape_;
   QueryLog log_;
   ToolRunList runs_;
   std::unique_ptr<Progress> progress_;
@@ -131,10 +157,15 @@ void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::o
   EnterDirectory(options.directory);
   std::optional<OutputFile> file;
   if (!paths.output.empty()) file.emplace(paths.output);
-  Session session(options, paths, err);
-  const CollectionLock lock("zenx", [&err] {
-    err << "hxahost: another program collects from this folder zenx: waiting until it is done." << std::endl;
-  });
+  SessionTape tape;
+  SetUp(tape, options, paths);
+  Session session(options, paths, tape, err);
+  std::optional<CollectionLock> lock;
+  if (paths.replay.empty()) {
+    lock.emplace("zenx", [&err] {
+      err << "hxahost: another program collects from this folder zenx: waiting until it is done." << std::endl;
+    });
+  }
   std::ostream& shown = file ? file->Stream() : out;
   TAsciiBuffer asciiBuffer(shown);
   std::ostream ascii(&asciiBuffer);
@@ -142,16 +173,18 @@ void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::o
   std::ostream& page = isTable && IsAsciiPage(options) ? ascii : shown;
   if (isTable) SetPage(page, PageFor(options));
   try {
-    session.Run(display, MakeHeader(options, classes), page);
+    session.Run(display, MakeHeader(options, tape, classes), page);
     page.flush();
   } catch (const ProgramError&) {
     throw;
   } catch (const std::exception& failure) {
+    tape.Save(options.isMasked);  // whoever looks for the reason needs it most now
     throw ProgramError(ExitStatus::kQueryFailed, "The query failed: " + Printable(failure.what()) +
                                                      ". --log FILE shows how far it came." +
                                                      (file ? "" : " What was written before this is not whole."));
   }
   if (file) file->Finish();
+  tape.Save(options.isMasked);
 }
 
 void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {

@@ -36,6 +36,7 @@ struct QueryResult {
   InstanceList instances;
   std::vector<LoggedEntry> log;  // since the previous query ended
   ToolRunList runs = {};         // since the previous query ended
+  double seconds = 0;            // that it took
 };
 
 }  // namespace hxahost

@@ -169,6 +169,12 @@ std::string EscapeControls(std::string_view bytes) {
 
 std::string Printable(std::string_view bytes) { return EscapeControls(WithoutOuterSpace(bytes)); }
 
+std::size_t PrintableLength(std::string_view bytes) {
+  if (bytes.empty()) return 0;
+  const auto character = FirstCharacter(bytes);
+  return character && !IsIn(character->code, kUnsafe) ? character->length : 0;
+}
+
 std::size_t DisplayWidth(std::string_view utf8) {
   std::size_t width = 0;
   while (!utf8.empty()) {

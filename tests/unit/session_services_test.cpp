@@ -19,7 +19,8 @@ TEST(SessionServices, GiveWhatTheOptionsReplace) {
   options.localTime = TCIMDateTime("20260305123015.250000+060");
   QueryLog log({});
   ToolRunList runs;
-  const SessionServices services(options, log, runs, nullptr);
+  SessionTape tape;
+  const SessionServices services(options, log, runs, nullptr, tape);
   EXPECT_EQ(TOSSpecific::GetMachineName(), "OTHER");
   EXPECT_EQ(TOSSpecific::GetLocalTime().ToString(), "20260305123015.250000+060");
 }
@@ -28,7 +29,8 @@ TEST(SessionServices, KeepTheLogWhileTheyLive) {
   QueryLog log({});
   {
     ToolRunList runs;
-    const SessionServices services({}, log, runs, nullptr);
+    SessionTape tape;
+    const SessionServices services({}, log, runs, nullptr, tape);
     TRootObject::GetCoreLogger()->Log(100, "text");
   }
   TRootObject::GetCoreLogger()->Log(3, "afterwards");
@@ -41,7 +43,8 @@ TEST(SessionServices, KeepTheLogWhileTheyLive) {
 TEST(SessionServices, LeaveNameAndClockOfTheSystemWhereNothingReplacesThem) {
   QueryLog log({});
   ToolRunList runs;
-  const SessionServices services({}, log, runs, nullptr);
+  SessionTape tape;
+  const SessionServices services({}, log, runs, nullptr, tape);
   EXPECT_EQ(TOSSpecific::GetMachineName(), RealServices().machineName());
   EXPECT_EQ(TOSSpecific::GetLocalTime().ToString().substr(0, 8), RealServices().localTime().ToString().substr(0, 8));
 }
@@ -52,7 +55,8 @@ TEST(SessionServices, ShowTheCommandThatRunsAlsoWhenItFails) {
   {
     Progress progress(terminal);
     ToolRunList runs;
-    const SessionServices services({}, log, runs, &progress);
+    SessionTape tape;
+    const SessionServices services({}, log, runs, &progress, tape);
     EXPECT_THROW(TOSSpecific::SpawnProcess("no//such.exe", {"getconfig", "1", "al"}, 300), THXAException);
   }
   EXPECT_THAT(terminal.str(), testing::StartsWith("\rno//such.exe getconfig 1 al\r"));
@@ -61,7 +65,8 @@ TEST(SessionServices, ShowTheCommandThatRunsAlsoWhenItFails) {
 TEST(SessionServices, KeepTheRunsOfTools) {
   QueryLog log({});
   ToolRunList runs;
-  const SessionServices services({}, log, runs, nullptr);
+  SessionTape tape;
+  const SessionServices services({}, log, runs, nullptr, tape);
   EXPECT_THROW(CurrentServices().spawn("no//such.exe", {"getconfig", "1"}, 300), THXAException);
   ASSERT_EQ(runs.size(), 1U);
   EXPECT_EQ(runs[0].path, "no//such.exe");

@@ -10,6 +10,7 @@
 #include <io.h>
 #include <shellapi.h>
 
+#include "host/hxahost/exit_status.h"
 #include "host/hxahost/text.h"
 
 namespace hxahost {
@@ -41,11 +42,13 @@ std::vector<std::string> ProgramArguments(int, char**) {
   return arguments;
 }
 
-std::filesystem::path ProgramFolder() {
+std::filesystem::path ProgramFile() {
   std::wstring name(32768, L'\0');  // the longest path that there is
   name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
-  return std::filesystem::path(name).parent_path();
+  return name;
 }
+
+std::filesystem::path ProgramFolder() { return ProgramFile().parent_path(); }
 
 unsigned long ProcessId() { return GetCurrentProcessId(); }
 
@@ -77,6 +80,39 @@ bool TerminalTakesColours() {
   DWORD mode = 0;
   return GetConsoleMode(output, &mode) != 0 && SetConsoleMode(output, mode | kReadSequences) != 0;
 }
+
+void PutVariable(const char* name, const std::optional<std::string>& bytes) {
+  SetEnvironmentVariableA(name, bytes ? bytes->c_str() : nullptr);
+}
+
+void PutVariable(const char* name, const std::filesystem::path& path) {
+  SetEnvironmentVariableW(std::filesystem::path(name).c_str(), path.c_str());
+}
+
+// The system deletes it with its last handle, also when the program is ended by force: what opens it has to share
+// deleting.
+PrivateFile::PrivateFile(std::string_view bytes) {
+  std::error_code error;
+  const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+  auto file = INVALID_HANDLE_VALUE;
+  for (unsigned number = 0; number < 1000 && file == INVALID_HANDLE_VALUE; ++number) {
+    path_ = folder / ("hxahost-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".log");
+    file = CreateFileW(path_.c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                       nullptr, CREATE_NEW, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+  }
+  DWORD written = 0;
+  if (file == INVALID_HANDLE_VALUE ||
+      WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) == 0 ||
+      written != bytes.size()) {
+    if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+    throw ProgramError(ExitStatus::kQueryFailed, "The log of the bundle cannot be put into " +
+                                                     Printable(Utf8FromPath(folder)) +
+                                                     ": see whether there is room, and whether you may write there.");
+  }
+  handle_ = reinterpret_cast<std::intptr_t>(file);
+}
+
+PrivateFile::~PrivateFile() { CloseHandle(reinterpret_cast<HANDLE>(handle_)); }
 
 // What the plug-in needs is found beside it, wherever the working directory is.
 void LoadPluginLibrary(const std::filesystem::path& file) {

@@ -1,0 +1,115 @@
+#include "host/hxahost/bundle_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <iterator>
+
+#include <boost/crc.hpp>
+
+#include "host/hxahost/text.h"
+
+namespace hxahost {
+
+namespace {
+
+struct Escape {
+  char letter;
+  char byte;
+};
+
+constexpr Escape kEscapes[] = {
+    {'\\', '\\'},
+    {'r',  '\r'},
+    {'t',  '\t'},
+    {'n',  '\n'},
+    {'"',  '"' },
+};
+
+// What a byte is written as; a quotation mark is itself where no text ends at one.
+std::string Escaped(char byte) {
+  const auto* const escape = std::ranges::find(kEscapes, byte, &Escape::byte);
+  if (escape != std::end(kEscapes)) return {'\\', escape->letter};
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "\\x%02x", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+  return text.data();
+}
+
+std::string EscapeAll(std::string_view bytes, bool isQuoted) {
+  std::string text;
+  while (!bytes.empty()) {
+    const bool isMark = bytes.front() == '\\' || (isQuoted && bytes.front() == '"');
+    const std::size_t length = isMark ? 0 : PrintableLength(bytes);
+    if (length == 0) text += Escaped(bytes.front());
+    text += bytes.substr(0, length);
+    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return text;
+}
+
+// Takes an escape, without its backslash, off the front.
+std::optional<char> TakeEscape(std::string_view& text) {
+  if (text.empty()) return std::nullopt;
+  const auto* const escape = std::ranges::find(kEscapes, text.front(), &Escape::letter);
+  if (escape != std::end(kEscapes)) {
+    text.remove_prefix(1);
+    return escape->byte;
+  }
+  constexpr std::size_t kLength = 3;  // x0d
+  unsigned byte = 0;
+  if (text.size() < kLength || text.front() != 'x') return std::nullopt;
+  const auto [end, error] = std::from_chars(text.data() + 1, text.data() + kLength, byte, 16);
+  if (error != std::errc() || end != text.data() + kLength) return std::nullopt;
+  text.remove_prefix(kLength);
+  return static_cast<char>(byte);
+}
+
+}  // namespace
+
+std::string EscapeBytes(std::string_view bytes) { return EscapeAll(bytes, false); }
+
+std::optional<std::string> UnescapeBytes(std::string_view text) {
+  std::string bytes;
+  while (!text.empty()) {
+    const std::size_t length = text.front() == '\\' ? 0 : PrintableLength(text);
+    if (length > 0) {
+      bytes += text.substr(0, length);
+      text.remove_prefix(length);
+      continue;
+    }
+    if (text.front() != '\\') return std::nullopt;
+    text.remove_prefix(1);
+    const auto byte = TakeEscape(text);
+    if (!byte) return std::nullopt;
+    bytes += *byte;
+  }
+  return bytes;
+}
+
+std::string Quote(std::string_view bytes) { return '"' + EscapeAll(bytes, true) + '"'; }
+
+std::optional<std::string> Unquote(std::string_view text) {
+  if (text.size() < 2 || text.front() != '"' || text.back() != '"') return std::nullopt;
+  return UnescapeBytes(text.substr(1, text.size() - 2));
+}
+
+std::uint32_t Crc32(std::string_view bytes) {
+  boost::crc_32_type crc;
+  crc.process_bytes(bytes.data(), bytes.size());
+  return crc.checksum();
+}
+
+std::string HexText(std::uint32_t number) {
+  std::array<char, 16> text{};
+  std::snprintf(text.data(), text.size(), "%08x", static_cast<unsigned>(number));
+  return text.data();
+}
+
+std::string DecimalText(double number) {
+  std::array<char, 32> text{};
+  const auto result = std::to_chars(text.data(), text.data() + text.size(), number);
+  return {text.data(), result.ptr};
+}
+
+}  // namespace hxahost
