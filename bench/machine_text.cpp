@@ -3,11 +3,83 @@
 #include <array>
 #include <cstdarg>
 #include <cstdio>
+#include <span>
 
 namespace {
 
 constexpr int kDisksPerArray = 8;
 constexpr int kDisksPerChannel = 16;
+
+// What the utilities say of the controller itself. A label that is missing here would be looked for in all of the text.
+constexpr const char* kQcmdrunController[] = {
+    "   Controller type                        : Zentraxis C6-e",
+    "   Controller FRU part number             : 61K4417",
+    "   Controller Serial Number               : K6E0412277",
+    "   Part number                            : 61K4402",
+    "   Actual BIOS version                    : 7.10.18 (0398)",
+    "   Firmware version                       : 7.12.05 (0412)",
+    "   Boot block version                     : 7.10.02 (0377)",
+    "   Device driver version                  : 7.12.04",
+    "   Cluster solution version               : None",
+    "   Controller slot information            : 3",
+    "   Controller name                        : DBSERVER",
+    "   SCSI channel description               : 2 channels - 1 internal, 2 external",
+    "   Initiator IDs (Channel/SCSI ID)        : 1/7 2/7",
+    "   Maximum physical devices               : 30",
+    "   Defunct disk drive count               : 1",
+    "   Logical drives/Offline/Critical        : 3/0/1",
+    "   Readahead cache setting                : Adaptive",
+    "   Stripe-unit size                       : 8 KB",
+    "   Rebuild rate (Low/Medium/High)         : High",
+    "   Hot-swap rebuild                       : Enabled",
+    "   Data scrubbing                         : Enabled",
+    "   Hot-spare copy back                    : Enabled",
+    "   Part of cluster (Yes/No)               : No",
+    "   Unattended mode (Yes/No)               : No",
+    "   Concurrent commands supported          : 64",
+    "   Configuration update count             : 17",
+};
+
+constexpr const char* kArcconfController[] = {
+    "   Controller Status                        : Optimal",
+    "   Channel description                      : SAS/SATA",
+    "   Controller Model                         : KVR Zentraxis C6-e",
+    "   Controller Serial Number                 : 3E41A077",
+    "   Physical Slot                            : 3",
+    "   Temperature                              : 46 C/ 114 F (Normal)",
+    "   Installed memory                         : 256 MB",
+    "   Copyback                                 : Disabled",
+    "   Data scrubbing                           : Enabled",
+    "   Defunct disk drive count                 : 1",
+    "   Logical drives/Offline/Critical          : 3/0/1",
+    "   -------------------------------------------------------------------",
+    "   Controller Version Information",
+    "   -------------------------------------------------------------------",
+    "   BIOS                                     : 5.2-0 (15611)",
+    "   Firmware                                 : 5.2-0 (15611)",
+    "   Driver                                   : 5.2-0 (15611)",
+    "   Boot Flash                               : 5.1-0 (15204)",
+    "   -------------------------------------------------------------------",
+    "   Controller Battery Information",
+    "   -------------------------------------------------------------------",
+    "   Status                                   : Optimal",
+    "   Over temperature                         : No",
+    "   Capacity remaining                       : 98 percent",
+    "   Time remaining (at current draw)         : 3 days, 1 hours, 11 minutes",
+    "   -------------------------------------------------------------------",
+    "   Controller Vital Product Data",
+    "   -------------------------------------------------------------------",
+    "   VPD Assigned#                            : ZX10466",
+    "   EC Version#                              : J85096",
+    "   Controller FRU#                          : ZX10471",
+    "   Battery FRU#                             : ZX10478",
+};
+
+constexpr const char* kHrconfController[] = {
+    "   Controller Status                        : Okay",         "   Channel description                      : SATA",
+    "   Boot ROM                                 : 4.2-1 (8710)", "   Defunct disk drive count                 : 0",
+    "   Logical drives/Offline/Critical          : 2/0/0",
+};
 
 // Appends one formatted line with the utilities' line end.
 void AddLine(std::string& text, const char* format, ...) {
@@ -17,6 +89,10 @@ void AddLine(std::string& text, const char* format, ...) {
   std::vsnprintf(line.data(), line.size(), format, arguments);
   va_end(arguments);
   text.append(line.data()).append("\r\n");
+}
+
+void AddLines(std::string& text, std::span<const char* const> lines) {
+  for (const char* const line : lines) AddLine(text, "%s", line);
 }
 
 void AddHead(std::string& text, const char* head) {
@@ -73,8 +149,7 @@ void AddLogicalDrive(std::string& text, int drive) {
 std::string QcmdrunConfig(int disks) {
   std::string text;
   AddHead(text, "Controller information");
-  AddLine(text, "   Controller type                        : Zentraxis C6");
-  AddLine(text, "   Firmware version                       : 7.12.05 (0412)");
+  AddLines(text, kQcmdrunController);
   AddHead(text, "Logical drive information");
   for (int drive = 1; drive <= disks / kDisksPerArray; ++drive) {
     AddLine(text, "   Logical drive number %d", drive);
@@ -127,9 +202,7 @@ std::string ArcconfConfig(int disks) {
   std::string text;
   AddLine(text, "Controllers found: 1");
   AddHead(text, "Controller information");
-  AddLine(text, "   Controller Status                        : Optimal");
-  AddLine(text, "   Controller Model                         : KVR Tolvar NEBULA");
-  AddLine(text, "   Firmware                                 : 5.2-0 (12345)");
+  AddLines(text, kArcconfController);
   AddHead(text, "Logical drive information");
   for (int drive = 1; drive <= disks / kDisksPerArray; ++drive) AddLogicalDrive(text, drive);
   AddHead(text, "Physical Device information");
@@ -141,8 +214,7 @@ std::string ArcconfConfig(int disks) {
 std::string HrconfConfig(int disks) {
   std::string text;
   AddHead(text, "Controller information");
-  AddLine(text, "   Controller Status                        : Optimal");
-  AddLine(text, "   Channel description                      : SAS/SATA");
+  AddLines(text, kHrconfController);
   AddHead(text, "Logical drive information");
   for (int drive = 1; drive <= disks / kDisksPerArray; ++drive) AddLogicalDrive(text, drive);
   AddHead(text, "Physical drive information");

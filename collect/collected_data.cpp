@@ -6,11 +6,11 @@ constexpr std::string_view kBlankTabLineFeed = " \t\n";
 
 }  // namespace
 
-CollectedData::CollectedData(HostHandle host, std::string_view text) : host_(host) {
-  std::size_t begin = 0;
-  for (std::size_t end = text.find('\n'); end != text.npos; end = text.find('\n', begin)) {
-    lines_.emplace_back(text.substr(begin, end + 1 - begin));
-    begin = end + 1;
+CollectedData::CollectedData(HostHandle host, std::string_view text) : text_(text), host_(host) {
+  std::string_view rest = text_;
+  for (std::size_t end = rest.find('\n'); end != rest.npos; end = rest.find('\n')) {
+    lines_.push_back(rest.substr(0, end + 1));
+    rest.remove_prefix(end + 1);
   }
 }
 

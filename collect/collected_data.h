@@ -13,6 +13,8 @@ class CollectedData {
  public:
   CollectedData(HostHandle host, std::string_view text);
   virtual ~CollectedData() = default;
+  CollectedData(const CollectedData&) = delete;
+  CollectedData& operator=(const CollectedData&) = delete;
 
   // The first line of the whole text that contains the label becomes current. No such line: "", and nothing moves.
   std::string_view FindLine(std::string_view label);
@@ -42,7 +44,8 @@ class CollectedData {
   HostHandle Host() const { return host_; }
 
  private:
-  std::vector<std::string> lines_;
+  const std::string text_;
+  std::vector<std::string_view> lines_;  // of text_
   int cursor_ = 0;
   HostHandle host_;
 };
