@@ -1,7 +1,6 @@
 #include "collect/tool_text.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -12,6 +11,9 @@ std::string_view UpToLineEnd(std::string_view line, std::size_t begin) {
   const std::size_t carriageReturn = rest.find('\r');
   return rest.substr(0, carriageReturn == rest.npos ? rest.find('\n') : carriageReturn);
 }
+
+// As the C library's isspace in the C locale.
+bool IsWhiteSpace(char character) { return character == ' ' || (character >= '\t' && character <= '\r'); }
 
 }  // namespace
 
@@ -42,11 +44,16 @@ std::string Joined(std::string_view text, std::string_view separator, std::strin
   return joined.append(first == part.npos ? std::string_view() : part.substr(first));
 }
 
-bool BeginsWithDigit(std::string_view text) { return !text.empty() && text.front() >= '0' && text.front() <= '9'; }
-
 int LeadingNumber(std::string_view text) {
+  while (!text.empty() && IsWhiteSpace(text.front())) text.remove_prefix(1);
+  const bool isNegative = text.starts_with('-');
+  if (isNegative || text.starts_with('+')) text.remove_prefix(1);
   // atoi leaves open what a number past its range gives, and platforms differ; this keeps to the nearest one.
   constexpr long long kLowest = std::numeric_limits<int>::min();
   constexpr long long kHighest = std::numeric_limits<int>::max();
-  return static_cast<int>(std::clamp(std::strtoll(std::string(text).c_str(), nullptr, 10), kLowest, kHighest));
+  long long number = 0;
+  for (; BeginsWithDigit(text); text.remove_prefix(1)) {
+    number = std::min(number * 10 + (text.front() - '0'), kHighest + 1);
+  }
+  return static_cast<int>(std::clamp(isNegative ? -number : number, kLowest, kHighest));
 }

@@ -27,7 +27,9 @@ std::string_view CutDeviceName(std::string_view line);
 std::string Joined(std::string_view text, std::string_view separator, std::string_view part);
 
 // Whether a line goes on with a list: it begins with a decimal digit.
-bool BeginsWithDigit(std::string_view text);
+inline bool BeginsWithDigit(std::string_view text) {
+  return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
 
 // The number that a text begins with, as the C library's atoi reads it: 0 where there is none.
 int LeadingNumber(std::string_view text);

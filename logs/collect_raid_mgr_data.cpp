@@ -43,7 +43,7 @@ RaidMgrRead CollectRaidMgrData::ReadNextRecord() {
     Log(host_, kLogRoutine, "Unexpected end of file reached.");
     return RaidMgrRead::kEnd;
   }
-  const std::string line = file_.ReadLine(kLongestLine);
+  const std::string& line = file_.ReadLine(kLongestLine);
   if (line.empty()) return RaidMgrRead::kEnd;
   const auto time = ReadEventTime(line);
   if (!time) {

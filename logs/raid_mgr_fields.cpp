@@ -2,13 +2,6 @@
 
 #include <algorithm>
 
-namespace {
-
-using namespace std::string_view_literals;
-constexpr std::string_view kFieldEnds = "\t\0"sv;
-
-}  // namespace
-
 std::array<std::string_view, 4> SplitFields(std::string_view line) {
   std::array<std::string_view, 4> fields;
   for (std::string_view& field : fields) {
@@ -18,4 +11,8 @@ std::array<std::string_view, 4> SplitFields(std::string_view line) {
   return fields;
 }
 
-std::string_view FirstField(std::string_view line) { return line.substr(0, line.find_first_of(kFieldEnds)); }
+std::string_view FirstField(std::string_view line) {
+  // Two searches for one character each are several times as fast as one for either.
+  const std::string_view beforeTab = line.substr(0, line.find('\t'));
+  return beforeTab.substr(0, beforeTab.find('\0'));
+}

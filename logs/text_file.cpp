@@ -1,5 +1,8 @@
 #include "logs/text_file.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "platform/native_path.h"
 
 namespace {
@@ -12,14 +15,33 @@ constexpr int kNone = -1;
 // Opened as bytes: where systems have a text mode, each has its own.
 TextFile::TextFile(const std::string& path) : file_(OpenNativeFile(path)), buffer_(kBufferSize) {}
 
-std::string TextFile::ReadLine(std::size_t limit) {
-  std::string line;
-  while (IsOpen() && line.size() < limit && !line.ends_with('\n')) {
-    const int character = TakeCharacter();
-    if (character == kNone) break;
-    line += static_cast<char>(character);
+const std::string& TextFile::ReadLine(std::size_t limit) {
+  line_.clear();
+  while (IsOpen() && line_.size() < limit && !line_.ends_with('\n')) {
+    if (Peek() == kNone) {
+      hasMetEnd_ = true;
+      break;
+    }
+    TakePiece(limit - line_.size());
   }
-  return line;
+  return line_;
+}
+
+// Takes what the buffer holds of the line, at most so many characters.
+void TextFile::TakePiece(std::size_t room) {
+  const std::string_view held(buffer_.data() + position_, filled_ - position_);
+  // A carriage return goes with the line feed behind it, which may stand just behind the room, or behind the buffer.
+  const std::size_t size = std::min({held.substr(0, room + 1).find('\n'), room, held.size()});
+  line_.append(held.substr(0, size));
+  position_ += size;
+  if (Peek() != '\n') return;
+  if (size > 0 && line_.back() == '\r') {
+    line_.back() = '\n';
+    ++position_;
+  } else if (size < room) {
+    line_ += '\n';
+    ++position_;
+  }
 }
 
 // Whether there is a byte to read. A file that cannot be read further ends there.
@@ -31,18 +53,3 @@ bool TextFile::Fill() {
 }
 
 int TextFile::Peek() { return Fill() ? static_cast<unsigned char>(buffer_[position_]) : kNone; }
-
-int TextFile::TakeByte() {
-  const int byte = Peek();
-  if (byte == kNone) {
-    hasMetEnd_ = true;
-  } else {
-    ++position_;
-  }
-  return byte;
-}
-
-int TextFile::TakeCharacter() {
-  const int byte = TakeByte();
-  return byte == '\r' && Peek() == '\n' ? TakeByte() : byte;
-}

@@ -21,8 +21,8 @@ class TextFile {
   bool HasMetEnd() const { return hasMetEnd_; }
 
   // The next line with its line feed, or as many characters of it as the limit allows; the next call goes on behind
-  // them. "" when there is nothing left, and when the file is not open.
-  std::string ReadLine(std::size_t limit);
+  // them. "" when there is nothing left, and when the file is not open. Lasts until the next call.
+  const std::string& ReadLine(std::size_t limit);
 
  private:
   struct Close {
@@ -31,12 +31,12 @@ class TextFile {
 
   bool Fill();
   int Peek();
-  int TakeByte();
-  int TakeCharacter();
+  void TakePiece(std::size_t room);
 
   std::unique_ptr<std::FILE, Close> file_;
   std::vector<char> buffer_;
   std::size_t position_ = 0;
   std::size_t filled_ = 0;
   bool hasMetEnd_ = false;
+  std::string line_;
 };

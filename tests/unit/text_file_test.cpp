@@ -56,6 +56,17 @@ TEST(TextFile, PutsLinesTogetherThatStandAcrossItsBuffer) {
   EXPECT_EQ(Read(bytes), lines);
 }
 
+TEST(TextFile, FindsALineEndWhereverTheBufferCutsIt) {
+  constexpr std::size_t kAroundTheBuffer = std::size_t{64} << 10U;
+  for (std::size_t length = kAroundTheBuffer - 3; length <= kAroundTheBuffer + 1; ++length) {
+    const std::string text(length, 'x');
+    EXPECT_EQ(Read(text + "\r\nnext\r\n", length + 100), (Lines{text + "\n", "next\n"})) << length;
+    EXPECT_EQ(Read(text + "\nnext\n", length + 100), (Lines{text + "\n", "next\n"})) << length;
+    EXPECT_EQ(Read(text + "\r\r\n\r", length + 100), (Lines{text + "\r\n", "\r"})) << length;
+    EXPECT_EQ(Read(text + "\r\nnext\r\n", length), (Lines{text, "\n", "next\n"})) << length;
+  }
+}
+
 TEST(TextFile, NoticesTheEndOnlyWhenAReadRunsIntoIt) {
   const TemporaryFolder folder;
   TextFile ended(folder.Write("ended", "one\n").string());
