@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr std::string_view kBlankTabLineFeed = " \t\n";
+bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\n'; }
 
 }  // namespace
 
@@ -50,12 +50,11 @@ std::string_view CollectedData::NextLineValueIf(std::string_view label) {
 }
 
 std::string_view CollectedData::TrimLeft(std::string_view text) {
-  const std::size_t begin = text.find_first_not_of(kBlankTabLineFeed);
-  if (begin != text.npos) return text.substr(begin);
-  return text.substr(text.empty() ? 0 : text.size() - 1);
+  while (text.size() > 1 && IsBlank(text.front())) text.remove_prefix(1);
+  return text;
 }
 
 std::string_view CollectedData::TrimRight(std::string_view text) {
-  const std::size_t last = text.find_last_not_of(kBlankTabLineFeed);
-  return text.substr(0, last == text.npos ? 0 : last + 1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
 }

@@ -58,7 +58,9 @@ constexpr Token kLastToken = {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p};
 
 // A value that no blank ends goes to the line's end.
 std::string_view UpToBlank(std::string_view line, std::size_t begin) {
-  return line.substr(begin, line.find_first_of(" \r\n", begin) - begin);
+  line.remove_prefix(begin);
+  const auto isEnd = [](char character) { return character == ' ' || character == '\r' || character == '\n'; };
+  return {line.begin(), std::ranges::find_if(line, isEnd)};
 }
 
 }  // namespace

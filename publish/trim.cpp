@@ -2,12 +2,14 @@
 
 namespace {
 
-constexpr std::string_view kBlanksAndLineEnds = " \t\r\n";
+bool IsBlankOrLineEnd(char character) {
+  return character == ' ' || character == '\t' || character == '\r' || character == '\n';
+}
 
 }  // namespace
 
 std::string_view Trimmed(std::string_view text) {
-  const std::size_t begin = text.find_first_not_of(kBlanksAndLineEnds);
-  if (begin == text.npos) return {};
-  return text.substr(begin, text.find_last_not_of(kBlanksAndLineEnds) + 1 - begin);
+  while (!text.empty() && IsBlankOrLineEnd(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlankOrLineEnd(text.back())) text.remove_suffix(1);
+  return text;
 }
