@@ -40,6 +40,21 @@ constexpr const char* kHealthExamples =
     "Exit status, as monitoring programs want it: 0 nothing is wrong, 1 warning, 2 critical, 3 unknown. The worst\n"
     "finding decides: critical over warning over unknown. What keeps the command from its answer is 3, too.";
 
+constexpr const char* kDiffExamples =
+    "Examples:\n"
+    "  hxahost diff monday.json friday.json                 what is worst first\n"
+    "  hxahost diff --format json monday.json friday.json   for a program to read\n"
+    "\n"
+    "Exit status: 0 nothing is different, 1 something is, 2 it could not be told.";
+
+constexpr const char* kClassesExamples =
+    "Examples:\n"
+    "  hxahost classes   what can be asked for with \"hxahost query --class NAME\"";
+
+constexpr const char* kSchemaExamples =
+    "Examples:\n"
+    "  hxahost schema > classes.mof   for a CIM server, or to read";
+
 // Options as they were typed; their meaning is read when all of them are there.
 struct TypedOptions {
   QueryOptions read;
@@ -196,7 +211,7 @@ CLI::App* AddDiff(CLI::App& program, DiffOptions& read) {
       ->required();
   diff->add_option("NEW", read.newFile, "What it wrote later")->required();
   diff->add_option("--format", read.format, DiffFormatNames())->type_name("FORMAT")->capture_default_str();
-  diff->footer("Exit status: 0 nothing is different, 1 something is, 2 it could not be told.");
+  diff->footer(kDiffExamples);
   return diff;
 }
 
@@ -327,8 +342,9 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   TypedOptions typed;
   const CLI::App* const query = AddQuery(program, typed);
   const CLI::App* const health = AddHealth(program, typed);
-  const CLI::App* const classes = program.add_subcommand("classes", "List the classes that the plug-in publishes");
-  program.add_subcommand("schema", "Show these classes as MOF");
+  CLI::App* const classes = program.add_subcommand("classes", "List the classes that the plug-in publishes");
+  classes->footer(kClassesExamples);
+  program.add_subcommand("schema", "Show these classes as MOF")->footer(kSchemaExamples);
   DiffOptions typedDiff;
   const CLI::App* const diff = AddDiff(program, typedDiff);
   TypedBundle typedBundle;

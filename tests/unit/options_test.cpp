@@ -125,6 +125,16 @@ TEST(Options, ShowHelpWithDefaultsAndExamples) {
   }
 }
 
+TEST(Options, ShowExamplesOfEachCommandInItsOwnHelp) {
+  for (const std::string command : {"query", "health", "diff", "classes", "schema"}) {
+    const std::string help = ParseCommandLine({command, "--help"}).text;
+    const std::size_t examples = help.find("\nExamples:\n  hxahost " + command);
+    EXPECT_NE(examples, std::string::npos) << help;
+    const std::string other = command == "query" ? "  hxahost health" : "  hxahost query";
+    EXPECT_EQ(help.find(other, examples), std::string::npos) << help;
+  }
+}
+
 TEST(Options, ShowTheVersionOfTheBuild) {
   const CommandLine version = ParseCommandLine({"--version"});
   EXPECT_EQ(version.command, Command::kShowText);
