@@ -64,7 +64,8 @@ add_dependencies(hxahost zenx)
 
 # Programs find a DLL beside themselves: the compiler's runtime is put there, so that the folder runs as it is.
 if(MINGW)
-  foreach(runtime libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+  set(runtime_libraries libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+  foreach(runtime ${runtime_libraries})
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime} OUTPUT_VARIABLE path
                     OUTPUT_STRIP_TRAILING_WHITESPACE)
     file(REAL_PATH ${path} path)
