@@ -58,7 +58,7 @@ async function runOne(browser, { name, run }) {
     return [error.stack, ...troubles].join("\n");
   } finally {
     clearTimeout(timer);
-    for (const context of contexts) await context.close();
+    for (const context of contexts) await context.close().catch(() => {}); // it went with its browser
   }
 }
 
@@ -73,11 +73,19 @@ function writeResults(file, results) {
 // Gives the number of failures.
 export async function runTests(resultFile, only) {
   const profile = mkdtempSync(join(tmpdir(), "zenx-browser-"));
-  const browser = await chromium.launch({ executablePath: kBrowser, args: kArguments, env: { ...process.env, HOME: profile } });
+  const launch = () => chromium.launch({ executablePath: kBrowser, args: kArguments, env: { ...process.env, HOME: profile } });
+  let browser = await launch();
   const results = [];
   for (const each of tests.filter(({ name }) => !only || name.includes(only))) {
     const began = Date.now();
-    const failure = await runOne(browser, each);
+    let failure = await runOne(browser, each);
+    // A browser that the system ended, for want of memory, says nothing about the page. A page that ends it does so again.
+    if (!browser.isConnected()) {
+      console.log(`The browser ended during "${each.name}": once more`);
+      browser = await launch();
+      failure = await runOne(browser, each);
+      if (!browser.isConnected()) browser = await launch();
+    }
     results.push({ name: each.name, failure });
     const seconds = ((Date.now() - began) / 1000).toFixed(1);
     console.log(`${failure === null ? "passed" : "FAILED"}  ${each.name} (${seconds} s)${failure === null ? "" : "\n" + failure}`);
