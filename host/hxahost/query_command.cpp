@@ -46,6 +46,9 @@ struct Paths {
 fs::path FromHere(const std::string& path) { return path.empty() ? fs::path() : fs::absolute(PathFromUtf8(path)); }
 
 Paths ReadPaths(const QueryOptions& options) {
+  if (!options.log.empty() && FromHere(options.log) == FromHere(options.output)) {
+    throw ProgramError(ExitStatus::kWrongArguments, "--log and --output name one file: name two.");
+  }
   return {options.plugin.empty() ? ProgramFolder() / "zenx.pi" : FromHere(options.plugin), FromHere(options.log),
           FromHere(options.output), FromHere(options.record), FromHere(options.replay)};
 }

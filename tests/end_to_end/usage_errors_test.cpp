@@ -57,6 +57,7 @@ const std::vector<Case> kQueryCases = {
     {"output in no folder",         "--output",       {"query", "--output", kNowhere},                        2, "name a file in a folder"  },
     {"a folder as output",          "--output",       {"query", "--output", kFolder},                         2, "name a file in a folder"  },
     {"output under a file",         "--output",       {"query", "--output", kUnderFile},                      2, "name a file in a folder"  },
+    {"a log in the output",         "--log",          {"query", "--log", kFile, "--output", kFile},           2, "name one file: name two"  },
     {"a log in no folder",          "--log",          {"query", "--log", kNowhere},                           2, "--log"                    },
     {"a folder as log",             "--log",          {"query", "--log", kFolder},                            2, "--log"                    },
     {"a type past all types",       "--os-type",      {"query", "--os-type", "65536"},                        2, "a number from 0 to 65535" },

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <sstream>
@@ -158,6 +159,56 @@ TEST(Terminal, ShowsWhichOfHowManyCommandsRuns) {
       100, {"query", "--directory", hxahost::Utf8FromPath(SampleMachine()), "--class", "KVRSG_zxDiskDrive"}, {});
   EXPECT_THAT(shown, HasSubstr("\rzenx//qcmdrun.exe getconfig 1 al (1 of at most 240)"));
   EXPECT_THAT(shown, HasSubstr("\rzenx//arcconf.exe getconfig 8 al (80 of at most 240)"));
+}
+
+// What stands on the screen when all is written: each carriage return goes back to the begin of the line.
+std::vector<std::string> Screen(const std::string& shown) {
+  std::vector<std::string> lines(1);
+  std::size_t column = 0;
+  for (const char character : shown) {
+    if (character == '\n') {
+      lines.emplace_back();
+      column = 0;
+    } else if (character == '\r') {
+      column = 0;
+    } else {
+      std::string& line = lines.back();
+      if (column < line.size()) {
+        line[column] = character;
+      } else {
+        line += character;
+      }
+      ++column;
+    }
+  }
+  for (std::string& line : lines) line.erase(line.find_last_not_of(' ') + 1);
+  return lines;
+}
+
+TEST(Terminal, HasNothingOfTheProgressLeftBesideTheTables) {
+  const std::string machine = hxahost::Utf8FromPath(SampleMachine());
+  const std::vector<std::string> fixed = {"query",   "--directory",       machine,
+                                          "--class", "KVRSG_zxDiskGroup", "--machine-name",
+                                          "M",       "--local-time",      "20260305123015.250000+060",
+                                          "--ascii"};
+  const Variables noColour = {
+      {"NO_COLOR", "1"}
+  };
+  const std::string with = ShownOnTerminal(100, fixed, noColour);
+  std::vector<std::string> quiet = fixed;
+  quiet.emplace_back("--no-progress");
+  const std::string without = ShownOnTerminal(100, quiet, noColour);
+  EXPECT_THAT(with, HasSubstr("(1 of at most 240)"));
+  EXPECT_THAT(with, Not(HasSubstr("\x1b")));
+  EXPECT_THAT(without, Not(HasSubstr("at most")));
+  // The last lines tell how many seconds the tools took.
+  const auto tables = [](const std::string& shown) {
+    std::vector<std::string> lines = Screen(shown);
+    lines.erase(std::ranges::find(lines, "Runs of the tools"), lines.end());
+    return lines;
+  };
+  EXPECT_EQ(tables(with), tables(without));
+  EXPECT_THAT(with.substr(with.find("Runs of the tools")), Not(HasSubstr("at most")));
 }
 
 }  // namespace
