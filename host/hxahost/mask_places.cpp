@@ -32,6 +32,9 @@ constexpr MaskedLabel kLabels[] = {
     {"Device ID",                21, 1, "Hard disk"}, // " TALVERA T36LW10 S96H8B01234"
 };
 
+// What tools print where there is nothing to hide.
+constexpr std::string_view kNoValues[] = {"None", "N/A", "Not Available", "Not Applicable", "Unknown"};
+
 constexpr std::string_view kSpace = " \t\r";
 constexpr std::string_view kDeviceType = "Device is a";
 constexpr std::string_view kSerialAttribute = "serialNumber=\"";
@@ -62,7 +65,8 @@ Span LabelledValue(std::string_view line, std::string_view deviceType) {
   for (const MaskedLabel& row : kLabels) {
     if (!label.starts_with(row.label) || deviceType.find(row.ofDevice) == deviceType.npos) continue;
     const Span value = Trimmed(line, std::min(colon + 1 + row.from, line.size()), line.size());
-    return value.length < row.shortest ? Span{} : value;
+    const bool isNone = std::ranges::count(kNoValues, line.substr(value.begin, value.length)) > 0;
+    return value.length < row.shortest || isNone ? Span{} : value;
   }
   return {};
 }

@@ -76,6 +76,32 @@ TEST(Options, TakeEveryOptionOfAQuery) {
   EXPECT_FALSE(options.showProgress);
 }
 
+TEST(Options, TakeBundlesToRecordAndToReplay) {
+  const QueryOptions both = Query({"--record", "new", "--mask", "--replay", "old"});
+  EXPECT_EQ(both.record, "new");
+  EXPECT_TRUE(both.isMasked);
+  EXPECT_EQ(both.replay, "old");
+  EXPECT_FALSE(both.hasOsType);
+  EXPECT_TRUE(Query({"--os-type", "none"}).hasOsType);
+  EXPECT_EQ(ParseCommandLine({"health", "--replay", "old"}).query.replay, "old");
+}
+
+TEST(Options, SelectWhatIsDoneWithABundle) {
+  const CommandLine list = ParseCommandLine({"bundle", "list", "f"});
+  EXPECT_EQ(list.command, Command::kBundleList);
+  EXPECT_EQ(list.bundle.file, "f");
+  const CommandLine show = ParseCommandLine({"bundle", "show", "f", "3", "1", "--raw", "--output", "o"});
+  EXPECT_EQ(show.command, Command::kBundleShow);
+  EXPECT_THAT(show.bundle.items, ElementsAre(3U, 1U));
+  EXPECT_TRUE(show.bundle.isRaw);
+  EXPECT_EQ(show.bundle.output, "o");
+  EXPECT_THAT(ParseCommandLine({"bundle", "show", "f"}).bundle.items, IsEmpty());
+  const CommandLine mask = ParseCommandLine({"bundle", "mask", "f", "g"});
+  EXPECT_EQ(mask.command, Command::kBundleMask);
+  EXPECT_EQ(mask.bundle.file, "f");
+  EXPECT_EQ(mask.bundle.output, "g");
+}
+
 TEST(Options, TakeZeroAndNoneAsTypesOfTheOperatingSystem) {
   EXPECT_EQ(Query({"--os-type", "0"}).osType, 0);
   EXPECT_EQ(Query({"--os-type", "none"}).osType, std::nullopt);
@@ -184,6 +210,16 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
       {"empty format",              {"query", "--format", ""},                              "--format"           },
       {"empty machine name",        {"query", "--machine-name", ""},                        "--machine-name"     },
       {"empty time",                {"query", "--local-time", ""},                          "--local-time"       },
+      {"mask without a bundle",     {"query", "--mask"},                                    "--record"           },
+      {"replay and directory",      {"query", "--replay", "f", "--directory", "d"},         "leave one of them"  },
+      {"empty bundle",              {"query", "--record", ""},                              "--record"           },
+      {"bundle alone",              {"bundle"},                                             "hxahost bundle"     },
+      {"bundle without a file",     {"bundle", "list"},                                     "hxahost bundle"     },
+      {"bundle with an empty name", {"bundle", "list", ""},                                 "FILE"               },
+      {"item zero",                 {"bundle", "show", "f", "0"},                           "bundle list"        },
+      {"item word",                 {"bundle", "show", "f", "first"},                       "bundle list"        },
+      {"raw without an item",       {"bundle", "show", "f", "--raw"},                       "needs an ITEM"      },
+      {"mask without a place",      {"bundle", "mask", "f"},                                "hxahost bundle"     },
       {"terminal command",          {"query", "--\x1b[2J"},                                 "\\x1b[2J"           },
       {"two lines",                 {"query", "--format", "a\nb"},                          "a\\nb"              },
   };

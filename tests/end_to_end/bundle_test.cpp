@@ -1,0 +1,247 @@
+// Bundles as people use them: the sample machine recorded by the real program with real processes, and replayed.
+//
+// tests/golden/sample-machine.bundle was recorded by the Windows build, and is replayed on both systems. To renew it
+// run RecordsTheBundleThatIsKept on Windows with ZENX_RENEW_GOLDEN=1 in the environment.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/hxahost/bundle_file.h"
+#include "host/hxahost/bundle_format.h"
+#include "tests/support/machine_copy.h"
+#include "tests/support/raid_log_setting.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using Json = nlohmann::ordered_json;
+using hxahost::Utf8FromPath;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr const char* kRaidLogFolder = "raid-manager\\";
+
+fs::path Golden(const std::string& name) { return fs::path(ZENX_TEST_DATA) / "golden" / name; }
+
+class Bundles : public testing::Test {
+ protected:
+  std::string Name(const std::string& file) const { return Utf8FromPath(folder_.Path() / file); }
+  std::string Text(const std::string& file) const { return FileText(folder_.Path() / file); }
+
+  // Runs the program, which has to end well, and gives what it wrote.
+  static std::string Run(const std::vector<std::string>& arguments) {
+    const ProgramResult result = RunHxahost(arguments);
+    EXPECT_EQ(result.exitStatus, 0) << result.err;
+    EXPECT_EQ(result.err, "");
+    return result.out;
+  }
+
+  // A query of a live machine, twice, which is recorded.
+  std::string Record(const std::string& bundle, const std::string& format, const std::string& directory) const {
+    const RaidLogSetting setting(kRaidLogFolder);
+    return Run(
+        {"query", "--format", format, "--runs", "--repeat", "2", "--directory", directory, "--record", Name(bundle)});
+  }
+
+  std::string Replay(const std::string& bundle, const std::string& format) const {
+    return Run({"query", "--format", format, "--runs", "--repeat", "2", "--replay", Name(bundle)});
+  }
+
+  TemporaryFolder folder_;
+};
+
+std::string Sample() { return Utf8FromPath(SampleMachine()); }
+
+// The file as the query shows it whose bytes do not depend on clock, name and folder of the machine.
+std::vector<std::string> GoldenArguments() {
+  return {"--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060", "--repeat", "2"};
+}
+
+TEST_F(Bundles, GiveTheSameResultAgainInEveryFormat) {
+  const std::string live = Record("m.bundle", "json", Sample());
+  EXPECT_TRUE(Replay("m.bundle", "json") == live) << "other JSON";
+  EXPECT_THAT(live, HasSubstr("KVRSG_LogRecord_RAIDMgrEvent"));
+  for (const char* const format : {"table", "html"}) {
+    const std::string shown = Record("m.bundle", format, Sample());
+    EXPECT_TRUE(Replay("m.bundle", format) == shown) << format;
+  }
+}
+
+TEST_F(Bundles, GiveTheSameHealthAgain) {
+  const ProgramResult live =
+      RunHxahost({"health", "--format", "prometheus", "--directory", Sample(), "--record", Name("m.bundle")});
+  const ProgramResult again = RunHxahost({"health", "--format", "prometheus", "--replay", Name("m.bundle")});
+  EXPECT_EQ(live.exitStatus, 2);
+  EXPECT_EQ(again.exitStatus, 2);
+  EXPECT_EQ(again.out, live.out);
+}
+
+TEST_F(Bundles, GiveFailuresOfToolsAgainAndThatThereIsNoLog) {
+  const MachineCopy machine;
+  machine.RemoveTool("qcmdrun");
+  machine.SetAnswer("arcconf/1/getconfig-al", machine.Answer("arcconf/1/getconfig-al").substr(0, 9000));
+  machine.SetAnswer("arcconf/2/getlogs-dead", "");
+  for (const char* const folder : {"nowhere\\", ""}) {
+    const RaidLogSetting setting(*folder == '\0' ? std::nullopt : std::optional<std::string>(folder));
+    const std::vector<std::string> query = {"query", "--format", "json", "--runs"};
+    std::vector<std::string> live = query;
+    live.insert(live.end(), {"--directory", machine.Directory(), "--record", Name("m.bundle")});
+    std::vector<std::string> again = query;
+    again.insert(again.end(), {"--replay", Name("m.bundle")});
+    EXPECT_TRUE(Run(live) == Run(again)) << folder;
+  }
+}
+
+TEST_F(Bundles, AreTheSameWhenTheyAreRecordedFromAReplay) {
+  Record("m.bundle", "json", Sample());
+  Run({"query", "--format", "json", "--repeat", "2", "--replay", Name("m.bundle"), "--record", Name("n.bundle"),
+       "--output", Name("out")});
+  EXPECT_TRUE(Text("m.bundle") == Text("n.bundle"));
+}
+
+TEST_F(Bundles, OfWindowsAreReplayedOnEverySystem) {
+  const std::string json =
+      Run({"query", "--format", "json", "--repeat", "2", "--replay", Utf8FromPath(Golden("sample-machine.bundle"))});
+  EXPECT_TRUE(Json::parse(json).dump(1) + "\n" == FileText(Golden("sample-machine.json")));
+  const std::string page = Run({"query", "--replay", Utf8FromPath(Golden("sample-machine.bundle"))});
+  EXPECT_THAT(page, HasSubstr("SAMPLE, "));
+}
+
+// What is asked for and told is what was asked for and told when the kept bundle was recorded; times and folder differ.
+TEST_F(Bundles, RecordsTheBundleThatIsKept) {
+  const RaidLogSetting setting(kRaidLogFolder);
+  std::vector<std::string> arguments = {"query",    "--format",       "json",     "--directory", Sample(),
+                                        "--record", Name("m.bundle"), "--output", Name("out")};
+  const std::vector<std::string> further = GoldenArguments();
+  arguments.insert(arguments.end(), further.begin(), further.end());
+  Run(arguments);
+  hxahost::Bundle now = hxahost::ReadBundleFile(folder_.Path() / "m.bundle");
+  now.directory = "C:\\sample-machine";  // it belongs to no machine
+  if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) {
+    WriteFileText(Golden("sample-machine.bundle"), hxahost::WriteBundle(now));
+  }
+  const hxahost::Bundle kept = hxahost::ReadBundleFile(Golden("sample-machine.bundle"));
+  ASSERT_EQ(now.runs.size(), kept.runs.size());
+  for (std::size_t run = 0; run < now.runs.size(); ++run) now.runs[run].seconds = kept.runs[run].seconds;
+  ASSERT_TRUE(now.raidLog);
+  std::ranges::replace(now.raidLog->path, '/', '\\');
+  now.osVersion = kept.osVersion;
+  now.querySeconds = kept.querySeconds;
+  EXPECT_TRUE(hxahost::WriteBundle(now) == hxahost::WriteBundle(kept));
+}
+
+TEST_F(Bundles, ThatAreMaskedPublishAsMuchWithTheSameLinks) {
+  const std::string plain = Utf8FromPath(Golden("sample-machine.bundle"));
+  EXPECT_EQ(Run({"bundle", "mask", plain, Name("masked.bundle")}), "");
+  const Json before = Json::parse(Run({"query", "--format", "json", "--replay", plain}));
+  const Json after = Json::parse(Run({"query", "--format", "json", "--replay", Name("masked.bundle")}));
+  const Json& first = before["queries"][0]["instances"];
+  const Json& second = after["queries"][0]["instances"];
+  ASSERT_EQ(first.size(), second.size());
+  // What each path has become: the same in every place, and no two the same.
+  std::map<std::string, std::string> paths;
+  std::map<std::string, std::string> back;
+  for (std::size_t index = 0; index < first.size(); ++index) {
+    EXPECT_EQ(first[index]["class"], second[index]["class"]);
+    paths.emplace(first[index]["path"], second[index]["path"]);
+    back.emplace(second[index]["path"], first[index]["path"]);
+  }
+  EXPECT_EQ(paths.size(), back.size());
+  int links = 0;
+  for (std::size_t index = 0; index < first.size(); ++index) {
+    const Json& properties = first[index]["properties"];
+    ASSERT_EQ(properties.size(), second[index]["properties"].size());
+    for (const auto& [name, value] : properties.items()) {
+      const Json& masked = second[index]["properties"][name];
+      if (name == "Antecedent" || name == "Dependent") {
+        EXPECT_EQ(paths.at(value), masked);
+        ++links;
+      }
+      if (name.find("Status") != name.npos || name == "State") EXPECT_EQ(value, masked) << name;
+    }
+  }
+  EXPECT_GT(links, 100);
+  for (const char* const secret : {"SAMPLE", "DBSERVER", "NV3LE77Q2H", "5000F0A0001B7800", "S96H8B01234", "K6E0412277",
+                                   "ZX20912", "Database", "sample-machine"}) {
+    EXPECT_THAT(Text("masked.bundle"), Not(HasSubstr(secret)));
+    EXPECT_THAT(FileText(Golden("sample-machine.bundle")), HasSubstr(secret));
+  }
+}
+
+TEST_F(Bundles, AreMaskedAsTheyAreRecordedWhileTheResultIsNot) {
+  const std::string shown = Run({"query", "--format", "json", "--class", "KVRSG_zxDiskDrive", "--directory", Sample(),
+                                 "--record", Name("m.bundle"), "--mask"});
+  EXPECT_THAT(shown, HasSubstr("NV3LE77Q2H"));
+  EXPECT_THAT(Text("m.bundle"), HasSubstr("\nmasked: yes\n"));
+  EXPECT_THAT(Text("m.bundle"), Not(HasSubstr("NV3LE77Q2H")));
+}
+
+TEST_F(Bundles, CanBeComparedWithEachOtherAndWithResults) {
+  const std::string bundle = Utf8FromPath(Golden("sample-machine.bundle"));
+  const std::string json = Utf8FromPath(Golden("sample-machine.json"));
+  EXPECT_EQ(RunHxahost({"diff", bundle, bundle}).exitStatus, 0);
+  // The second query, whose result the file has last, does not read the log again.
+  const ProgramResult result = RunHxahost({"diff", bundle, json});
+  EXPECT_EQ(result.exitStatus, 1);
+  EXPECT_THAT(result.out, HasSubstr("KVRSG_LogRecord_RAIDMgrEvent"));
+  EXPECT_THAT(result.out, Not(HasSubstr("KVRSG_zxDiskDrive")));
+}
+
+// A bundle from which something was taken, and that was closed again.
+std::string Without(const std::string& command) {
+  hxahost::Bundle bundle = hxahost::ReadBundleFile(Golden("sample-machine.bundle"));
+  std::erase_if(bundle.runs, [&command](const auto& run) { return CommandText(run) == command; });
+  return hxahost::WriteBundle(bundle);
+}
+
+TEST_F(Bundles, ThatLackACommandAreAnErrorThatNamesIt) {
+  const std::string lacking = Utf8FromPath(folder_.Write("l.bundle", Without("zenx//arcconf.exe getlogs 2 uart")));
+  for (const std::string command : {"query", "health"}) {
+    const ProgramResult result = RunHxahost({command, "--replay", lacking, "--output", Name("out")});
+    EXPECT_EQ(result.exitStatus, command == "query" ? 1 : 3);
+    EXPECT_THAT(result.err, HasSubstr("zenx//arcconf.exe getlogs 2 uart"));
+    EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << result.err;
+    EXPECT_FALSE(fs::exists(folder_.Path() / "out"));
+  }
+}
+
+TEST_F(Bundles, ThatAreDamagedNewerOrForeignAreRefusedInOneLine) {
+  const std::string text = FileText(Golden("sample-machine.bundle"));
+  std::string newer = text;
+  newer.replace(newer.find("bundle 1\n"), 9, "bundle 9\n");
+  const std::string cut = Utf8FromPath(folder_.Write("cut.bundle", text.substr(0, text.size() / 2)));
+  struct Case {
+    const char* name;
+    std::vector<std::string> arguments;
+    int exitStatus;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"damaged",   {"query", "--replay", cut},                                                2, "is damaged"      },
+      {"health",    {"health", "--replay", cut},                                               3, "is damaged"      },
+      {"list",      {"bundle", "list", cut},                                                   2, "is damaged"      },
+      {"diff",      {"diff", cut, cut},                                                        2, "is damaged"      },
+      {"newer",     {"query", "--replay", Utf8FromPath(folder_.Write("newer.bundle", newer))}, 2, "has the format 9"},
+      {"foreign",   {"query", "--replay", Utf8FromPath(Golden("sample-machine.json"))},        2, "is no bundle"    },
+      {"missing",   {"query", "--replay", Name("missing")},                                    2, "cannot be read"  },
+      {"no folder", {"query", "--record", Name("no/m.bundle")},                                2, "--record "       },
+      {"twice",     {"query", "--record", Name("m"), "--output", Name("m")},                   2, "is named twice"  },
+  };
+  for (const Case& each : cases) {
+    const ProgramResult result = RunHxahost(each.arguments);
+    EXPECT_EQ(result.exitStatus, each.exitStatus) << each.name;
+    EXPECT_EQ(result.out, "") << each.name;
+    EXPECT_THAT(result.err, HasSubstr(each.says)) << each.name;
+    EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << each.name << ": " << result.err;
+  }
+  EXPECT_FALSE(fs::exists(folder_.Path() / "m"));
+}
+
+}  // namespace

@@ -1,0 +1,88 @@
+#include "host/hxahost/bundle_recorder.h"
+
+#include <gtest/gtest.h>
+
+#include <new>
+
+#include "host/hxahost/bundle_format.h"
+#include "host/hxahost/bundle_replay.h"
+#include "tests/support/raid_log_setting.h"
+#include "tests/support/sample_bundle.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+using namespace hxahost;
+using namespace NKVRHXA20;
+
+constexpr auto kNoSeconds = [] { return 0.0; };
+
+// Asks for all that a bundle holds, once each, in its order.
+void AskForAll(const HostServices& services, const Bundle& bundle) {
+  services.machineName();
+  for (const RecordedTime& time : bundle.localTimes) {
+    for (std::size_t count = 0; count < time.count; ++count) services.localTime();
+  }
+  for (const RecordedRun& run : bundle.runs) {
+    try {
+      services.spawn(run.path, run.arguments, run.limitSeconds);
+      EXPECT_FALSE(run.failure);
+    } catch (const TSpawnException& failure) {
+      EXPECT_EQ(failure.what(), run.failure->message);
+    }
+  }
+  EXPECT_EQ(services.capture(bundle.raidLog->path), bundle.raidLog->bytes);
+}
+
+TEST(BundleRecorder, KeepsAllThatTheServicesSay) {
+  const RaidLogSetting setting("C:\\ZXM\\");
+  BundleReplay replay(SampleBundle());
+  BundleRecorder recorder(18, "C:\\tools");
+  AskForAll(recorder.Wrap(replay.Services(), [&replay] { return replay.LastRunSeconds(); }), SampleBundle());
+  recorder.AddQuery(1.25);
+  Bundle recorded = recorder.Recorded();
+  // Where these tests run, the system has a version of its own.
+  recorded.osVersion = SampleBundle().osVersion;
+  EXPECT_EQ(WriteBundle(recorded), WriteBundle(SampleBundle()));
+}
+
+TEST(BundleRecorder, NotesWhatThePlugInIsToldOfTheSystem) {
+  {
+    const RaidLogSetting setting("D:\\");
+    const BundleRecorder recorder(std::nullopt, "");
+    EXPECT_EQ(recorder.Recorded().raidLogDir, "D:\\");
+    EXPECT_TRUE(recorder.Recorded().osVersion.isWindowsNt);
+    EXPECT_GE(recorder.Recorded().osVersion.major, 6U);
+  }
+  const RaidLogSetting none(std::nullopt);
+  EXPECT_EQ(BundleRecorder(std::nullopt, "").Recorded().raidLogDir, std::nullopt);
+}
+
+TEST(BundleRecorder, PassesOnWhatIsThrownAndKeepsItsKind) {
+  BundleRecorder recorder(std::nullopt, "");
+  HostServices services = RealServices();
+  services.spawn = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw THXAException("no");
+  };
+  EXPECT_THROW(recorder.Wrap(services, kNoSeconds).spawn("tool", {}, 1), THXAException);
+  services.spawn = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw std::bad_alloc();
+  };
+  EXPECT_THROW(recorder.Wrap(services, kNoSeconds).spawn("tool", {}, 1), std::bad_alloc);
+  ASSERT_EQ(recorder.Recorded().runs.size(), 2U);
+  EXPECT_EQ(recorder.Recorded().runs[0].failure->kind, FailureKind::kHost);
+  EXPECT_EQ(recorder.Recorded().runs[1].failure->kind, FailureKind::kOther);
+}
+
+TEST(BundleRecorder, KeepsTheBytesOfALogThatCannotBeCaptured) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Write("RaidEvtA.log", "a\r\nb").string();
+  BundleRecorder recorder(std::nullopt, "");
+  HostServices services = RealServices();
+  services.capture = [](const std::string&) -> std::string { throw THXAException("locked"); };
+  EXPECT_THROW(recorder.Wrap(services, kNoSeconds).capture(path), THXAException);
+  EXPECT_EQ(recorder.Recorded().raidLog->bytes, "a\r\nb");
+  EXPECT_EQ(recorder.Recorded().raidLog->failure->message, "locked");
+}
+
+}  // namespace

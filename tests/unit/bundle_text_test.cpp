@@ -1,0 +1,48 @@
+#include "host/hxahost/bundle_text.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+namespace {
+
+using namespace hxahost;
+
+TEST(BundleText, BringsEveryByteBackAlsoBesideEveryOther) {
+  for (int first = 0; first < 256; ++first) {
+    for (int second = 0; second < 256; ++second) {
+      const std::string bytes = {static_cast<char>(first), static_cast<char>(second)};
+      const std::string text = EscapeBytes(bytes);
+      ASSERT_EQ(UnescapeBytes(text), bytes) << first << " " << second;
+      ASSERT_EQ(Unquote(Quote(bytes)), bytes) << first << " " << second;
+      ASSERT_TRUE(std::ranges::none_of(text, [](char character) { return character >= 0 && character < 0x20; }));
+    }
+  }
+}
+
+TEST(BundleText, IsReadable) {
+  EXPECT_EQ(EscapeBytes("a \"b\"\r"), "a \"b\"\\r");
+  EXPECT_EQ(EscapeBytes("\t\\n\x01\x7f"), "\\t\\\\n\\x01\\x7f");
+  EXPECT_EQ(EscapeBytes("K\xc3\xa4se \xe4"), "K\xc3\xa4se \\xe4");
+  EXPECT_EQ(EscapeBytes("\xe2\x80\xae"), "\\xe2\\x80\\xae");  // turns the direction of what follows
+  EXPECT_EQ(Quote("a\"b"), "\"a\\\"b\"");
+}
+
+TEST(BundleText, RefusesWhatItDoesNotWrite) {
+  for (const char* const text : {"\\", "\\x", "\\x1", "\\xg1", "\\u0041", "\r", "\xff", "\x1b", "a\\"}) {
+    EXPECT_EQ(UnescapeBytes(text), std::nullopt) << text;
+  }
+  for (const char* const text : {"", "\"", "a", "\"a", "a\"", "'a'"}) EXPECT_EQ(Unquote(text), std::nullopt) << text;
+}
+
+TEST(BundleText, WritesNumbersThatAreReadBackAsTheSame) {
+  EXPECT_EQ(DecimalText(0.125), "0.125");
+  EXPECT_EQ(std::stod(DecimalText(0.1 + 0.2)), 0.1 + 0.2);
+  EXPECT_EQ(HexText(0xab), "000000ab");
+  EXPECT_EQ(Crc32("123456789"), 0xcbf43926U);
+  EXPECT_EQ(Crc32(""), 0U);
+}
+
+}  // namespace

@@ -1,0 +1,62 @@
+#include "platform/environment_answers.h"
+
+#include <gtest/gtest.h>
+
+#include "host/hxahost/system.h"
+
+namespace {
+
+// A variable with another value while it lives.
+class Variable {
+ public:
+  Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
+    hxahost::PutVariable(name_, value);
+  }
+  ~Variable() { hxahost::PutVariable(name_, std::nullopt); }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+
+ private:
+  const char* name_;
+};
+
+TEST(EnvironmentAnswers, ReadTheVersion) {
+  struct Case {
+    const char* text;
+    bool isWindowsNt;
+    unsigned major;
+    unsigned minor;
+  };
+  const Case cases[] = {
+      {"",       false, 0,  0},
+      {"6",      true,  6,  0},
+      {"6.1",    true,  6,  1},
+      {"10.0.1", true,  10, 0},
+      {"x",      true,  0,  0},
+  };
+  for (const Case& each : cases) {
+    const Variable variable(kOsVersionVariable, each.text);
+    const OsVersion version = OsVersionFromEnvironment();
+    EXPECT_EQ(version.isWindowsNt, each.isWindowsNt) << each.text;
+    EXPECT_EQ(version.major, each.major) << each.text;
+    EXPECT_EQ(version.minor, each.minor) << each.text;
+  }
+  EXPECT_FALSE(OsVersionFromEnvironment().isWindowsNt);
+}
+
+TEST(EnvironmentAnswers, HaveTheLogsFolderAloneAndOnlyWhereItFits) {
+  const Variable variable(kRaidLogDirVariable, "12345");
+  EXPECT_EQ(RegistryTextFromEnvironment("LogDir", 6), "12345");
+  EXPECT_EQ(RegistryTextFromEnvironment("LogDir", 5), std::nullopt);
+  EXPECT_EQ(RegistryTextFromEnvironment("Other", 6), std::nullopt);
+}
+
+TEST(EnvironmentAnswers, AreAskedForOnlyWhereTheVariableSaysSo) {
+  EXPECT_FALSE(AsksEnvironment());
+  const Variable other(kPlatformVariable, "yes");
+  EXPECT_FALSE(AsksEnvironment());
+  const Variable variable(kPlatformVariable, "environment");
+  EXPECT_TRUE(AsksEnvironment());
+}
+
+}  // namespace

@@ -1,0 +1,64 @@
+#include "host/hxahost/mask_places.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace hxahost;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<std::string> Texts(const std::string& text, const std::vector<Span>& spans) {
+  std::vector<std::string> texts;
+  for (const Span& span : spans) texts.push_back(text.substr(span.begin, span.length));
+  return texts;
+}
+
+std::vector<std::string> Secrets(const std::string& text) { return Texts(text, FindInToolText(text).secrets); }
+
+TEST(MaskPlaces, AreTheValuesOfTheLabelsThatAreSecret) {
+  struct Case {
+    const char* name;
+    std::string text;
+    std::vector<std::string> secrets;
+  };
+  const Case cases[] = {
+      {"serial number",         "   Serial number      : NV3LB07Q2H\r\n",                            {"NV3LB07Q2H"}},
+      {"of a controller",       "Controller Serial Number : 3E41A077 \n",                            {"3E41A077"}  },
+      {"without a line end",    "World-wide name : 5000F0",                                          {"5000F0"}    },
+      {"a name with blanks",    "   Logical drive name : My Data\r\n",                               {"My Data"}   },
+      {"no value",              "   Logical drive name :  \r\n",                                     {}            },
+      {"nothing to hide",       "   Battery FRU# : None\r\n",                                        {}            },
+      {"a name with a colon",   "   Logical drive name : a:b\n",                                     {"a:b"}       },
+      {"another label",         "   Vendor : NORDVIK\n   State : Online\n",                          {}            },
+      {"a label in a value",    "   Vendor : FRU\n",                                                 {}            },
+      {"no colon",              "   Serial number\n",                                                {}            },
+      {"place of an enclosure", "   Enclosure ID : 0\n",                                             {}            },
+      {"name of an enclosure",  "   Enclosure ID : 5000F0A1\n",                                      {"5000F0A1"}  },
+      {"hard disk",             "Device is a Hard disk\n Device ID : TALVERA T36LW10 S96H8B01234\n", {"8B01234"}   },
+      {"tape",                  "Device is a Tape\n Device ID : ORBITEK DAT72LP         A119\n",     {}            },
+      {"short identifier",      "Device is a Hard disk\n Device ID : TALVERA\n",                     {}            },
+      {"attribute",             "<x deviceID=\"8\" serialNumber=\"NV3\" />\n",                       {"NV3"}       },
+      {"open attribute",        "<x serialNumber=\"NV3",                                             {}            },
+  };
+  for (const Case& each : cases) EXPECT_EQ(Secrets(each.text), each.secrets) << each.name;
+}
+
+TEST(MaskPlaces, InALogAreItsThirdColumnAndItsMessagesAreProse) {
+  const std::string text = "day\tINF\tDBSERVER\tDisk lost\ton DBSERVER\r\n--- restarted ---\nday\tERR\t\tx";
+  const SecretPlaces places = FindInRaidLog(text);
+  EXPECT_THAT(Texts(text, places.secrets), ElementsAre("DBSERVER"));
+  EXPECT_THAT(Texts(text, places.prose), ElementsAre("\tDisk lost\ton DBSERVER\r", "\tx"));
+  EXPECT_THAT(FindInRaidLog("").secrets, IsEmpty());
+}
+
+TEST(MaskPlaces, InTheToolsLogsAreQuotedTextsProse) {
+  const std::string text = "<event id=\"0x1\" text=\"Archive degraded\" />";
+  EXPECT_THAT(Texts(text, FindInToolText(text).prose), ElementsAre("0x1", "Archive degraded"));
+}
+
+}  // namespace

@@ -1,0 +1,30 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "host/hxahost/bundle_format.h"
+#include "tests/support/file_text.h"
+#include "tests/support/sample_bundle.h"
+
+namespace {
+
+using namespace hxahost;
+
+// The worked example of the description, between the fences that begin with ```bundle.
+std::string DocumentedExample() {
+  const std::string page = FileText(std::filesystem::path(ZENX_TEST_DATA).parent_path() / "docs" / "bundle-format.md");
+  constexpr std::string_view kFence = "```bundle\n";
+  const std::size_t begin = page.find(kFence) + kFence.size();
+  return page.substr(begin, page.find("```", begin) - begin);
+}
+
+TEST(WriteBundle, WritesTheExampleOfTheDescription) { EXPECT_EQ(WriteBundle(SampleBundle()), DocumentedExample()); }
+
+TEST(WriteBundle, WritesWhatIsAbsentAsNone) {
+  const std::string text = WriteBundle({});
+  EXPECT_NE(text.find("\nos-type: none\nos-version: none\nraid-log-dir: none\nitems: 0\n\nend of bundle"), text.npos)
+      << text;
+}
+
+}  // namespace
