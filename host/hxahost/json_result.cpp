@@ -14,6 +14,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+// A result nests seven deep. What is done with a value calls itself for each level, and room for that ends somewhere.
+constexpr int kDeepest = 32;
+
 class NoResult : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
@@ -29,6 +32,11 @@ const Json& Member(const Json& object, const char* name, Json::value_t type) {
   const Json& member = Member(object, name);
   if (member.type() != type) throw NoResult("\"" + std::string(name) + "\" is missing");
   return member;
+}
+
+bool CheckDepth(int depth, Json::parse_event_t, const Json&) {
+  if (depth > kDeepest) throw NoResult("it is nested too deep");
+  return true;
 }
 
 ResultInstance ReadInstance(const Json& json) {
@@ -101,7 +109,7 @@ JsonResult ReadJsonResult(const std::filesystem::path& file) {
 
 JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
   try {
-    return ReadResult(Json::parse(text, nullptr, false));
+    return ReadResult(Json::parse(text, CheckDepth, false));
   } catch (const NoResult& reason) {
     Reject(name, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
   }

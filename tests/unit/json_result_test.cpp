@@ -104,6 +104,23 @@ TEST(JsonResult, RejectsAResultCutOffAnywhere) {
   }
 }
 
+std::string WithValue(const std::string& value) {
+  return R"({"format": 1, "machine": "M", "queries": [{"instances": [
+      {"class": "C", "path": "P", "properties": {"Deep": )" +
+         value + "}}]}]}";
+}
+
+// What is made of a value goes as deep as the value does, and so deep that there is no room for it.
+TEST(JsonResult, RejectsValuesNestedTooDeep) {
+  const TemporaryFolder folder;
+  const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
+  EXPECT_EQ(Rejection(folder.Write("r.json", WithValue(nested(20)))), "read");
+  for (const std::size_t depth : {100U, 100'000U}) {
+    EXPECT_THAT(Rejection(folder.Write("r.json", WithValue(nested(depth)))), testing::HasSubstr("nested too deep"))
+        << depth;
+  }
+}
+
 TEST(JsonResult, RejectsAFileThatIsNotThere) {
   const TemporaryFolder folder;
   EXPECT_THAT(Rejection(folder.Path() / "missing.json"), testing::HasSubstr("cannot be read"));
