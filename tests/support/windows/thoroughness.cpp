@@ -1,0 +1,3 @@
+#include "tests/support/thoroughness.h"
+
+std::size_t CasesForOneTry() { return 1; }
