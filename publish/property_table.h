@@ -41,7 +41,10 @@ struct PropertyReader {
   NKVRHXA20::TCIMValue operator()(unsigned short number) const { return number; }
   template <class Record>
   NKVRHXA20::TCIMValue operator()(std::string Record::*field) const {
-    return std::string(form(std::get<const Record&>(records).*field));
+    const std::string& held = std::get<const Record&>(records).*field;
+    const std::string_view text = form(held);
+    // Most texts are published as they are held; those are not copied on the way.
+    return text.size() == held.size() ? held : std::string(text);
   }
   template <class Record>
   NKVRHXA20::TCIMValue operator()(NKVRHXA20::TCIMDateTime Record::*field) const {

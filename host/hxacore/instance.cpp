@@ -43,6 +43,10 @@ const PropertyDeclaration& Declared(const ClassDeclaration& declaration, const s
   return *property;
 }
 
+std::string Place(const ClassDeclaration& declaration, const PropertyDeclaration& property) {
+  return "\"" + std::string(declaration.name) + "." + std::string(property.name) + "\"";
+}
+
 }  // namespace
 
 TPublishedInstance::~TPublishedInstance() = default;
@@ -66,10 +70,9 @@ boost::shared_ptr<ICIMProperty> TInstance::GetProperty(const std::string& name, 
 
 void TInstance::SetProperty(const std::string& name, const TCIMValue& value, const TPropertyMap&) {
   const PropertyDeclaration& declared = Declared(declaration_, name);
-  const std::string place = std::string(declaration_.name) + "." + std::string(declared.name);
-  if (!keep_) throw THXAException("\"" + place + "\" cannot be set: the instance is committed already.");
+  if (!keep_) throw THXAException(Place(declaration_, declared) + " cannot be set: the instance is committed already.");
   if (!HasDeclaredType(value, declared)) {
-    throw THXAException("\"" + place + "\" is " + TypeText(declared) + ", which the value set is not.");
+    throw THXAException(Place(declaration_, declared) + " is " + TypeText(declared) + ", which the value set is not.");
   }
   const auto isSame = [&](const PublishedProperty& property) { return EqualIgnoringCase(property.name, name); };
   const auto found = std::ranges::find_if(properties_, isSame);
@@ -81,15 +84,19 @@ void TInstance::SetProperty(const std::string& name, const TCIMValue& value, con
 }
 
 // A reference names no namespace: it stays within its own. With one, a link that the repository keeps would keep the
-// repository. A key that has no value is left out: the path says only what is known.
+// repository. A key that has no value is left out: the path says only what is known. All references to a committed
+// instance share their keys.
 TCIMReference TInstance::Reference() const {
+  if (reference_) return *reference_;
   TPropertyMap keys;
   for (const PropertyDeclaration& declared : declaration_.properties) {
     const PublishedProperty* const property = declared.isKey ? Find(declared.name) : nullptr;
     if (!property || TCIMValueReader::Kind(property->value) == ValueKind::kNone) continue;
     keys.emplace(declared.name, property->value);
   }
-  return TCIMReferenceFactory::Make(nullptr, std::string(declaration_.name), keys);
+  TCIMReference reference = TCIMReferenceFactory::Make(nullptr, std::string(declaration_.name), keys);
+  if (!keep_) reference_ = std::make_unique<const TCIMReference>(reference);
+  return reference;
 }
 
 const PublishedProperty* TInstance::Find(std::string_view name) const {

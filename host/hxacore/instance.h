@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,7 @@ class TInstance final : public ICIMInstance,
   const ClassDeclaration& declaration_;
   TKeep keep_;  // empty once committed, which also lets go of the host's lists
   std::vector<PublishedProperty> properties_;
+  mutable std::unique_ptr<const TCIMReference> reference_;  // made when first asked for after the commit
 };
 
 }  // namespace NKVRHXA20
