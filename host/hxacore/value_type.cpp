@@ -24,9 +24,7 @@ constexpr SingleType kSingleTypes[] = {
     {kCIMReference, ValueKind::kReference, "reference"},
 };
 
-const SingleType& TypeOf(const PropertyDeclaration& declared) {
-  return *std::ranges::find(kSingleTypes, declared.type, &SingleType::code);
-}
+const SingleType& TypeOf(ECIMType type) { return *std::ranges::find(kSingleTypes, type, &SingleType::code); }
 
 bool IsOfKind(const TCIMValue& value, ValueKind kind) {
   const ValueKind own = TCIMValueReader::Kind(value);
@@ -49,13 +47,15 @@ bool RefersTo(const TCIMValue& value, std::string_view className) {
 bool HasDeclaredType(const TCIMValue& value, const PropertyDeclaration& declared) {
   const ValueKind kind = TCIMValueReader::Kind(value);
   if (kind == ValueKind::kNone) return true;
-  if (declared.isArray) return kind == ValueKind::kArray && IsArrayOf(value, TypeOf(declared));
-  if (!IsOfKind(value, TypeOf(declared).kind)) return false;
+  if (declared.isArray) return kind == ValueKind::kArray && IsArrayOf(value, TypeOf(declared.type));
+  if (!IsOfKind(value, TypeOf(declared.type).kind)) return false;
   return kind != ValueKind::kReference || RefersTo(value, declared.referencedClass);
 }
 
+std::string TypeName(ECIMType type) { return TypeOf(type).name; }
+
 std::string TypeText(const PropertyDeclaration& declared) {
-  std::string text = TypeOf(declared).name;
+  std::string text = TypeName(declared.type);
   if (declared.isArray) text += "[]";
   if (!declared.referencedClass.empty()) text += " to " + std::string(declared.referencedClass);
   return text;

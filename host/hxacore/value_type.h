@@ -11,6 +11,9 @@ namespace NKVRHXA20 {
 // the declared one.
 HXACORE_API bool HasDeclaredType(const TCIMValue& value, const PropertyDeclaration& declared);
 
+// The type's name in CIM: "string", "uint32".
+HXACORE_API std::string TypeName(ECIMType type);
+
 // The declared type in words: "string", "uint32[]", "reference to KVRSG_zxDiskDrive".
 HXACORE_API std::string TypeText(const PropertyDeclaration& declared);
 

@@ -10,11 +10,6 @@ namespace hxahost {
 
 namespace {
 
-struct Character {
-  char32_t code = 0;
-  std::size_t length = 1;  // in bytes
-};
-
 // The shortest form is the only valid one: what each length holds begins at "lowest".
 struct Lead {
   unsigned mask;
@@ -35,7 +30,7 @@ struct Range {
   char32_t last;
 };
 
-// C0 and C1 controls, and what is invisible or turns the direction of the text around it.
+// C0 and C1 controls, what is invisible or turns the direction of the text around it, and codes that are no character.
 constexpr Range kUnsafe[] = {
     {0x00,   0x1f  },
     {0x7f,   0x9f  },
@@ -46,6 +41,7 @@ constexpr Range kUnsafe[] = {
     {0x2060, 0x206f},
     {0xfeff, 0xfeff},
     {0xfff9, 0xfffb},
+    {0xfffe, 0xffff},
 };
 
 // None: they are drawn over the character before. Marks of scripts whose letters change shape are counted as one.
@@ -144,10 +140,11 @@ std::size_t Columns(char32_t code) {
   return IsIn(code, kWide) ? 2 : 1;
 }
 
-// What cannot be decoded is taken byte by byte, so that every loop over characters goes on.
+}  // namespace
+
 Character NextCharacter(std::string_view utf8) { return FirstCharacter(utf8).value_or(Character{}); }
 
-}  // namespace
+bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe); }
 
 std::string AsUtf8(std::string_view bytes) { return IsUtf8(bytes) ? std::string(bytes) : FromLatin1(bytes); }
 
@@ -157,7 +154,7 @@ std::string EscapeControls(std::string_view bytes) {
   std::string_view rest = utf8;
   while (!rest.empty()) {
     const Character character = NextCharacter(rest);
-    if (IsIn(character.code, kUnsafe)) {
+    if (IsUnsafe(character.code)) {
       printable += Escaped(character.code);
     } else {
       printable += rest.substr(0, character.length);

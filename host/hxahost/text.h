@@ -11,6 +11,20 @@ namespace hxahost {
 // The bytes themselves when they are valid UTF-8; otherwise each byte as the ISO 8859-1 character that it is.
 std::string AsUtf8(std::string_view bytes);
 
+// One character of UTF-8 text.
+struct Character {
+  char32_t code = 0;
+  std::size_t length = 1;  // in bytes
+};
+
+// The first character of the text, which must not be empty. What cannot be decoded is taken byte by byte, as code 0, so
+// that every loop over characters goes on.
+Character NextCharacter(std::string_view utf8);
+
+// Whether a character must not reach a terminal as it is: a control character, one that nobody sees, one that changes
+// the direction of the text around it, or a code that is no character.
+bool IsUnsafe(char32_t code);
+
 // UTF-8 with control characters and characters that change the direction of text as escapes (\t, \r, \n, \x1b,
 // \u202e): one line, and nothing in it reaches a terminal as a command.
 std::string EscapeControls(std::string_view bytes);

@@ -42,6 +42,7 @@ TEST(Text, EscapesWhatWouldActOnATerminal) {
       << "a single byte starts a command, too";
   EXPECT_EQ(EscapeControls("\xc2\x9b"), "\\x9b");
   EXPECT_EQ(EscapeControls("a\xe2\x80\xae."), "a\\u202e.") << "turns the direction of the text";
+  EXPECT_EQ(EscapeControls("\xef\xbf\xbe\xef\xbf\xbf"), "\\ufffe\\uffff") << "no characters";
   EXPECT_EQ(EscapeControls("C:\\zenx"), "C:\\zenx") << "a path stays as it is";
 }
 
@@ -73,6 +74,27 @@ TEST(Text, PathsKeepEveryCharacter) {
 TEST(Text, CountsNoColumnForACombiningMarkAndCutsItWithItsLetter) {
   EXPECT_EQ(DisplayWidth("e\u0301a\u20dd"), 2U);
   EXPECT_EQ(CutToWidth("e\u0301e\u0301e\u0301", 2), "e\u0301\u2026");
+}
+
+TEST(Text, IsReadCharacterByCharacter) {
+  struct Case {
+    const char* name;
+    std::string_view text;
+    char32_t code;
+    std::size_t length;
+  };
+  const Case cases[] = {
+      {"ASCII",                  "ab",               'a',     1},
+      {"two bytes",              "\xc3\xa4x",        0xe4,    2},
+      {"four bytes",             "\xf0\x9f\x92\xbe", 0x1f4be, 4},
+      {"no UTF-8: byte by byte", "\xff\xfe",         0,       1},
+      {"cut off",                "\xf0\x9f",         0,       1},
+  };
+  for (const Case& each : cases) {
+    const Character character = NextCharacter(each.text);
+    EXPECT_EQ(character.code, each.code) << each.name;
+    EXPECT_EQ(character.length, each.length) << each.name;
+  }
 }
 
 }  // namespace

@@ -66,4 +66,12 @@ TEST(ValueType, IsShownInWords) {
   EXPECT_EQ(TypeText(kLink), "reference to KVRSG_BadStripeData");
 }
 
+TEST(ValueType, HasItsNameInCim) {
+  EXPECT_EQ(TypeName(kCIMString), "string");
+  EXPECT_EQ(TypeName(kCIMUInt16), "uint16");
+  EXPECT_EQ(TypeName(kCIMUInt32), "uint32");
+  EXPECT_EQ(TypeName(kCIMDateTime), "datetime");
+  EXPECT_EQ(TypeName(kCIMReference), "reference");
+}
+
 }  // namespace
