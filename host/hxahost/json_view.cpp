@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/object_path.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/unread_lines.h"
 
@@ -25,7 +26,7 @@ Json ValueJson(const TCIMValue& value) {
     case ValueKind::kUInt16:
     case ValueKind::kUInt32: return TCIMValueReader::Number(value);
     case ValueKind::kDateTime: return TCIMValueReader::DateTime(value);
-    case ValueKind::kReference: return AsUtf8(TCIMReferenceFactory::ObjectPath(TCIMValueReader::Reference(value)));
+    case ValueKind::kReference: return ObjectPathText(TCIMValueReader::Reference(value));
     case ValueKind::kArray: break;
   }
   Json elements = Json::array();
@@ -40,7 +41,7 @@ Json InstanceJson(const TPublishedInstance& instance) {
   }
   Json json = Json::object();
   json["class"] = instance.Class().name;
-  json["path"] = AsUtf8(TCIMReferenceFactory::ObjectPath(instance.Reference()));
+  json["path"] = ObjectPathText(instance.Reference());
   json["properties"] = std::move(properties);
   return json;
 }

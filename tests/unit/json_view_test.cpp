@@ -153,6 +153,20 @@ TEST(JsonView, ShowsAReferenceAsTheObjectPathOfWhatItRefersTo) {
   EXPECT_EQ(Properties(repository)["Dependent"], R"(KVRSG_zxDiskGroup.CollectionID="a\"b\\c")");
 }
 
+TEST(JsonView, ReadsEachKeyOfAPathByItselfAsTheProperty) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxFirmwareVersion", {
+                                                    {"Name",    "K\xc3\xa4se"},
+                                                    {"Version", "K\xe4se"    },
+  });
+  const auto json = nlohmann::json::parse(Json(
+      {
+  },
+      {QueryResult{1, repository.Instances(), {}}}));
+  EXPECT_EQ(json["queries"][0]["instances"][0]["path"],
+            "KVRSG_zxFirmwareVersion.Name=\"K\xc3\xa4se\",Version=\"K\xc3\xa4se\"");
+}
+
 TEST(JsonView, KeepsEveryByte) {
   struct Case {
     const char* name;
