@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
+#include "host/hxahost/cim_xml_view.h"
 #include "host/hxahost/html_view.h"
 #include "host/hxahost/json_view.h"
+#include "host/hxahost/mof_view.h"
 #include "host/hxahost/table_view.h"
 
 namespace hxahost {
@@ -12,9 +14,11 @@ namespace hxahost {
 namespace {
 
 constexpr View kViews[] = {
-    {"table", BeginTables, WriteQueryTables, EndTables},
-    {"json",  BeginJson,   WriteQueryJson,   EndJson  },
-    {"html",  BeginHtml,   WriteQueryHtml,   EndHtml  },
+    {"table",   BeginTables, WriteQueryTables, EndTables},
+    {"json",    BeginJson,   WriteQueryJson,   EndJson  },
+    {"html",    BeginHtml,   WriteQueryHtml,   EndHtml  },
+    {"cim-xml", BeginCimXml, WriteQueryCimXml, EndCimXml},
+    {"mof",     BeginMof,    WriteQueryMof,    EndMof   },
 };
 
 }  // namespace

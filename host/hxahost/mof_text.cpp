@@ -1,0 +1,65 @@
+#include "host/hxahost/mof_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <iterator>
+
+#include "host/hxahost/text.h"
+
+namespace hxahost {
+
+namespace {
+
+struct Escape {
+  char32_t code;
+  const char* text;
+};
+
+constexpr Escape kEscapes[] = {
+    {'"',  "\\\""        },
+    {'\\', "\\\\"        },
+    {'\b', "\\b"         },
+    {'\t', "\\t"         },
+    {'\n', "\\n"         },
+    {'\f', "\\f"         },
+    {'\r', "\\r"         },
+    {'\0', "\xe2\x90\x80"},
+};
+
+// In bytes; the last character may go past it.
+constexpr std::size_t kLongestString = 1000;
+
+// Always four digits, so that a digit that follows is no part of it.
+std::string ByNumber(char32_t code) {
+  std::array<char, 16> escape{};
+  std::snprintf(escape.data(), escape.size(), "\\x%04X", static_cast<unsigned>(code));
+  return escape.data();
+}
+
+std::string Escaped(char32_t code, std::string_view character) {
+  const auto* const escape = std::ranges::find(kEscapes, code, &Escape::code);
+  if (escape != std::end(kEscapes)) return escape->text;
+  return IsUnsafe(code) ? ByNumber(code) : std::string(character);
+}
+
+}  // namespace
+
+std::string MofText(std::string_view bytes, std::string_view indent) {
+  const std::string utf8 = AsUtf8(bytes);
+  std::string text = "\"";
+  std::size_t begin = 0;  // of the string that is being written
+  for (std::string_view rest = utf8; !rest.empty();) {
+    if (text.size() - begin > kLongestString) {
+      text.append("\"\n").append(indent);
+      begin = text.size();
+      text += '"';
+    }
+    const auto [code, length] = NextCharacter(rest);
+    text += Escaped(code, rest.substr(0, length));
+    rest.remove_prefix(length);
+  }
+  return text += '"';
+}
+
+}  // namespace hxahost
