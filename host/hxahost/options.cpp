@@ -11,6 +11,7 @@
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/health_views.h"
 #include "host/hxahost/page.h"
+#include "host/hxahost/schema_view.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/views.h"
 #include "plugin/host_interface/exception.h"
@@ -53,7 +54,8 @@ constexpr const char* kClassesExamples =
 
 constexpr const char* kSchemaExamples =
     "Examples:\n"
-    "  hxahost schema > classes.mof   for a CIM server, or to read";
+    "  hxahost schema > classes.mof      for a CIM server\n"
+    "  hxahost schema --format markdown  to read";
 
 // Options as they were typed; their meaning is read when all of them are there.
 struct TypedOptions {
@@ -183,7 +185,9 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
       ->capture_default_str();
   query
       ->add_option("--format", read.format,
-                   FormatNames(Views()) + ": tables for a terminal, JSON for programs, a page for browsers")
+                   FormatNames(Views()) +
+                       ": tables for a terminal, JSON for programs, a page for browsers, "
+                       "instances for CIM repositories")
       ->type_name("FORMAT")
       ->capture_default_str();
   query->add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
@@ -344,7 +348,12 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   const CLI::App* const health = AddHealth(program, typed);
   CLI::App* const classes = program.add_subcommand("classes", "List the classes that the plug-in publishes");
   classes->footer(kClassesExamples);
-  program.add_subcommand("schema", "Show these classes as MOF")->footer(kSchemaExamples);
+  std::string schemaFormat = CommandLine().schemaFormat;
+  CLI::App* const schema = program.add_subcommand("schema", "Show these classes with their properties");
+  schema->footer(kSchemaExamples);
+  schema->add_option("--format", schemaFormat, FormatNames(SchemaViews()) + ": to be compiled, or to be read")
+      ->type_name("FORMAT")
+      ->capture_default_str();
   DiffOptions typedDiff;
   const CLI::App* const diff = AddDiff(program, typedDiff);
   TypedBundle typedBundle;
@@ -363,7 +372,11 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   if (health->parsed()) return ReadHealth(*health, typed);
   if (diff->parsed()) return {Command::kDiff, "", {}, ReadDiff(*diff, typedDiff)};
   if (bundle->parsed()) return ReadBundleCommand(*bundle, typedBundle);
-  return {classes->parsed() ? Command::kClasses : Command::kSchema, "", {}};
+  if (classes->parsed()) return {Command::kClasses, "", {}};
+  CheckFormat(schemaFormat, SchemaViews());
+  CommandLine line{Command::kSchema, "", {}};
+  line.schemaFormat = schemaFormat;
+  return line;
 }
 
 }  // namespace hxahost

@@ -68,6 +68,7 @@ struct CommandLine {
   QueryOptions query;  // "hxahost health" takes those of a query that it has a use for
   DiffOptions diff = {};
   BundleOptions bundle = {};
+  std::string schemaFormat = "mof";
 };
 
 // Reads the arguments that follow the program's name. Throws ProgramError for wrong ones.

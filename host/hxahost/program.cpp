@@ -26,7 +26,7 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
     case Command::kHealth: status = static_cast<int>(RunHealthCommand(commandLine.query, out, err)); break;
     case Command::kHealthRules: WriteHealthRules(out); break;
     case Command::kClasses: WriteClassList(out, NKVRHXA20::PublishedClasses()); break;
-    case Command::kSchema: WriteMof(out, NKVRHXA20::PublishedClasses()); break;
+    case Command::kSchema: FindSchemaView(commandLine.schemaFormat)->Write(out, NKVRHXA20::PublishedClasses()); break;
     case Command::kBundleList: ListBundle(commandLine.bundle, out); break;
     case Command::kBundleShow: ShowBundle(commandLine.bundle, out); break;
     case Command::kBundleMask: MaskBundleFile(commandLine.bundle); break;

@@ -1,10 +1,15 @@
 #include "host/hxahost/schema_view.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "host/hxacore/value_type.h"
+#include "host/hxahost/mof_text.h"
+#include "host/hxahost/property_origins.h"
+#include "host/hxahost/schema_markdown.h"
 
 using namespace NKVRHXA20;
 
@@ -12,38 +17,38 @@ namespace hxahost {
 
 namespace {
 
-std::string MofText(std::string_view text) {
-  std::string quoted = "\"";
-  for (const char character : text) {
-    if (character == '"' || character == '\\') {
-      quoted.append(1, '\\').append(1, character);
-    } else if (character >= '\0' && character < ' ') {
-      std::array<char, 8> escape{};
-      std::snprintf(escape.data(), escape.size(), "\\x%04x", static_cast<unsigned>(character));
-      quoted += escape.data();
-    } else {
-      quoted += character;
-    }
-  }
-  return quoted += '"';
-}
+// CIM's own, word for word: a compiler that has no schema yet needs them.
+constexpr std::string_view kQualifiers =
+    "// The qualifiers are CIM's own. Leave their declarations out where the namespace has them already.\n"
+    "Qualifier Association : boolean = false, Scope(association), Flavor(DisableOverride);\n"
+    "Qualifier Description : string = null, Scope(any), Flavor(Translatable);\n"
+    "Qualifier Key : boolean = false, Scope(property, reference), Flavor(DisableOverride);\n"
+    "Qualifier MappingStrings : string[], Scope(class, property, association, indication, reference);\n";
 
 std::string MofType(const PropertyDeclaration& property) {
-  switch (property.type) {
-    case kCIMUInt16: return "uint16";
-    case kCIMUInt32: return "uint32";
-    case kCIMDateTime: return "datetime";
-    case kCIMReference: return std::string(property.referencedClass) + " REF";
-    case kCIMString:
-    case kCIMEmpty: break;
-  }
-  return "string";
+  if (property.type == kCIMReference) return std::string(property.referencedClass) + " REF";
+  return TypeName(property.type);
 }
 
-void WriteProperty(std::ostream& out, const PropertyDeclaration& property) {
-  out << "  [" << (property.isKey ? "Key, " : "") << "Description(" << MofText(property.description) << ")]\n"
-      << "  " << MofType(property) << ' ' << property.name << (property.isArray ? "[]" : "") << ";\n";
+void WriteOrigins(std::ostream& out, const std::vector<std::string>& lines) {
+  std::string_view separator = ",\n   MappingStrings {";
+  for (const std::string& line : lines) {
+    out << separator << MofText(line);
+    separator = ", ";
+  }
+  if (!lines.empty()) out << '}';
 }
+
+void WriteProperty(std::ostream& out, const ClassDeclaration& declaration, const PropertyDeclaration& property) {
+  out << "  [" << (property.isKey ? "Key, " : "") << "Description(" << MofText(property.description) << ")";
+  WriteOrigins(out, OriginLines(declaration.name, property.name));
+  out << "]\n  " << MofType(property) << ' ' << property.name << (property.isArray ? "[]" : "") << ";\n";
+}
+
+constexpr SchemaView kSchemaViews[] = {
+    {"mof",      WriteSchemaMof     },
+    {"markdown", WriteSchemaMarkdown},
+};
 
 }  // namespace
 
@@ -55,15 +60,21 @@ void WriteClassList(std::ostream& out, std::span<const ClassDeclaration> classes
   }
 }
 
-void WriteMof(std::ostream& out, std::span<const ClassDeclaration> classes) {
-  std::string_view separator;
+void WriteSchemaMof(std::ostream& out, std::span<const ClassDeclaration> classes) {
+  out << kQualifiers;
   for (const ClassDeclaration& declaration : classes) {
-    out << separator << '[' << (declaration.isAssociation ? "Association, " : "") << "Description("
+    out << "\n[" << (declaration.isAssociation ? "Association, " : "") << "Description("
         << MofText(declaration.description) << ")]\nclass " << declaration.name << " {\n";
-    for (const PropertyDeclaration& property : declaration.properties) WriteProperty(out, property);
+    for (const PropertyDeclaration& property : declaration.properties) WriteProperty(out, declaration, property);
     out << "};\n";
-    separator = "\n";
   }
+}
+
+std::span<const SchemaView> SchemaViews() { return kSchemaViews; }
+
+const SchemaView* FindSchemaView(std::string_view format) {
+  const auto* const view = std::ranges::find(kSchemaViews, format, &SchemaView::format);
+  return view == std::end(kSchemaViews) ? nullptr : view;
 }
 
 }  // namespace hxahost

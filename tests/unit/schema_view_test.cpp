@@ -29,12 +29,14 @@ constexpr ClassDeclaration kClasses[] = {
 
 TEST(SchemaView, WritesMofWithKeysTypesArraysReferencesAndEscapes) {
   std::ostringstream out;
-  WriteMof(out, kClasses);
-  EXPECT_EQ(out.str(), R"([Description("A plain class.")]
+  WriteSchemaMof(out, kClasses);
+  const std::string mof = out.str();
+  EXPECT_EQ(mof.substr(mof.find("\n[")), R"(
+[Description("A plain class.")]
 class X_Plain {
   [Key, Description("Says \"who\".")]
   string Name;
-  [Description("C:\\ \x000a")]
+  [Description("C:\\ \n")]
   string Lines[];
   [Description("s")]
   uint16 Small;
@@ -52,6 +54,32 @@ class X_Link {
 )");
 }
 
+TEST(SchemaView, DeclaresEachQualifierBeforeTheClassesHaveIt) {
+  std::ostringstream out;
+  WriteSchemaMof(out, PublishedClasses());
+  const std::string mof = out.str();
+  for (const char* const name : {"Association", "Description", "Key", "MappingStrings"}) {
+    EXPECT_LT(mof.find("\nQualifier " + std::string(name) + " : "), mof.find("\nclass ")) << name;
+  }
+}
+
+TEST(SchemaView, SaysWhereAPropertyComesFrom) {
+  std::ostringstream out;
+  WriteSchemaMof(out, PublishedClasses());
+  EXPECT_NE(out.str().find(R"(
+  [Description("Number under which a replacement of the controller is ordered."),
+   MappingStrings {"qcmdrun: \"Controller FRU\"", "arcconf: \"Controller FRU#\""}]
+  string ControllerFRU;
+)"),
+            std::string::npos);
+}
+
+TEST(SchemaView, IsFoundByItsFormatTheDefaultFirst) {
+  EXPECT_EQ(SchemaViews().front().format, "mof");
+  for (const SchemaView& view : SchemaViews()) EXPECT_EQ(FindSchemaView(view.format), &view);
+  EXPECT_EQ(FindSchemaView("MOF"), nullptr);
+}
+
 TEST(SchemaView, ListsTheClassesWithTheirDescriptionsUnderEachOther) {
   std::ostringstream out;
   WriteClassList(out, kClasses);
@@ -62,7 +90,7 @@ TEST(SchemaView, ListsTheClassesWithTheirDescriptionsUnderEachOther) {
 
 TEST(SchemaView, DeclaresAClassBeforeAnotherRefersToIt) {
   std::ostringstream out;
-  WriteMof(out, PublishedClasses());
+  WriteSchemaMof(out, PublishedClasses());
   const std::string mof = out.str();
   for (const ClassDeclaration& declaration : PublishedClasses()) {
     const std::size_t declared = mof.find("class " + std::string(declaration.name) + " {");

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <ostream>
+#include <span>
+
+#include "host/hxacore/schema.h"
+
+namespace hxahost {
+
+// The classes as a page of documentation: a drawing of the associations, then each class with a table of its properties
+// and where they come from.
+void WriteSchemaMarkdown(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes);
+
+}  // namespace hxahost
