@@ -1,0 +1,54 @@
+// What the program writes for CIM repositories is the same, byte for byte, on both systems: held against sizes and
+// checksums, as the texts are long. Readers of their own take them apart natively (tests/exchange). To renew the
+// checksums, run this test natively with ZENX_RENEW_GOLDEN=1 in the environment, after those readers have passed.
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <boost/crc.hpp>
+
+#include "host/hxahost/text.h"
+#include "tests/support/file_text.h"
+#include "tests/support/hxahost_run.h"
+#include "tests/support/raid_log_setting.h"
+
+namespace {
+
+std::string Output(const std::vector<std::string>& arguments) {
+  const RaidLogSetting setting("raid-manager\\");
+  const ProgramResult result = RunHxahost(arguments);
+  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  return result.out;
+}
+
+std::string QueryOutput(const std::string& format) {
+  return Output({"query", "--format", format, "--directory", hxahost::Utf8FromPath(SampleMachine()), "--machine-name",
+                 "SAMPLE", "--local-time", "20261121093000.000000+060"});
+}
+
+std::string Line(const std::string& name, const std::string& text) {
+  boost::crc_32_type checksum;
+  checksum.process_bytes(text.data(), text.size());
+  return name + ": " + std::to_string(text.size()) + " bytes, CRC " + std::to_string(checksum.checksum()) + "\n";
+}
+
+TEST(Exchange, IsTheSameOnBothSystems) {
+  const std::string actual = Line("cim-xml", QueryOutput("cim-xml")) + Line("mof", QueryOutput("mof")) +
+                             Line("schema mof", Output({"schema"})) +
+                             Line("schema markdown", Output({"schema", "--format", "markdown"}));
+  const std::filesystem::path golden = std::filesystem::path(ZENX_TEST_DATA) / "golden" / "exchange.txt";
+  if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) WriteFileText(golden, actual);
+  EXPECT_EQ(actual, FileText(golden));
+}
+
+TEST(Exchange, RefusesAFormatOfTheSchemaThatIsNone) {
+  const ProgramResult result = RunHxahost({"schema", "--format", "json"});
+  EXPECT_EQ(result.exitStatus, 2);
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err, "hxahost: --format \"json\": give mof or markdown.\n");
+}
+
+}  // namespace
