@@ -1,6 +1,6 @@
 #include "host/hxahost/cim_xml_view.h"
 
-#include <iterator>
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -37,10 +37,20 @@ std::string ControlPicture(char32_t code) { return {'\xe2', '\x90', static_cast<
 
 bool IsLegal(char32_t code) { return code >= 0x20 || code == '\t' || code == '\n' || code == '\r'; }
 
+// Takes what is printable ASCII off the beginning: nearly all of what tools print, and right as it is.
+std::string_view TakePlain(std::string_view& text) {
+  const auto isPlain = [](char character) { return character >= ' ' && character <= '~'; };
+  const auto length = std::ranges::find_if_not(text, isPlain) - text.begin();
+  const std::string_view plain = text.substr(0, static_cast<std::size_t>(length));
+  text.remove_prefix(plain.size());
+  return plain;
+}
+
 std::string LegalText(std::string_view bytes) {
   const std::string utf8 = AsUtf8(bytes);
   std::string legal;
-  for (std::string_view rest = utf8; !rest.empty();) {
+  std::string_view rest = utf8;
+  for (legal += TakePlain(rest); !rest.empty(); legal += TakePlain(rest)) {
     const auto [code, length] = NextCharacter(rest);
     if (!IsLegal(code)) {
       legal += ControlPicture(code);
@@ -57,7 +67,7 @@ std::string LegalText(std::string_view bytes) {
 // Parsers make a line feed of a carriage return that they meet as it is. That and whatever must not reach a terminal is
 // written by its number, which the library does not do.
 void WriteByNumber(std::ostream& out, std::string_view xml) {
-  while (!xml.empty()) {
+  for (out << TakePlain(xml); !xml.empty(); out << TakePlain(xml)) {
     const auto [code, length] = NextCharacter(xml);
     if (IsUnsafe(code) && code != '\n' && code != '\t') {
       out << "&#" << static_cast<unsigned>(code) << ';';
