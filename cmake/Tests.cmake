@@ -44,7 +44,7 @@ endif()
 if(NOT CMAKE_CROSSCOMPILING)
   add_test(NAME exchange COMMAND ${CMAKE_SOURCE_DIR}/tests/exchange/exchange_test.py $<TARGET_FILE:hxahost>
                                  ${CMAKE_BINARY_DIR}/sample-machine ${CMAKE_BINARY_DIR}/results-exchange.xml)
-  set_tests_properties(exchange PROPERTIES TIMEOUT 300 ENVIRONMENT PYTHONDONTWRITEBYTECODE=1)
+  set_tests_properties(exchange PROPERTIES TIMEOUT 900 ENVIRONMENT PYTHONDONTWRITEBYTECODE=1)
 endif()
 
 # The report in a real browser, natively alone: the page does not depend on the system that wrote it.
