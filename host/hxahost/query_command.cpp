@@ -26,6 +26,7 @@
 #include "host/hxahost/terminal_page.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/views.h"
+#include "host/hxahost/writable_tools.h"
 
 using namespace NKVRHXA20;
 namespace fs = std::filesystem;
@@ -51,6 +52,16 @@ Paths ReadPaths(const QueryOptions& options) {
   }
   return {options.plugin.empty() ? ProgramFolder() / "zenx.pi" : FromHere(options.plugin), FromHere(options.log),
           FromHere(options.output), FromHere(options.record), FromHere(options.replay)};
+}
+
+// On systems where a folder can be deleted while a program is in it.
+void CheckWorkingDirectory() {
+  std::error_code error;
+  const fs::path here = fs::current_path(error);
+  if (here.empty()) {
+    throw ProgramError(ExitStatus::kQueryFailed, "The working directory is gone or cannot be read (" +
+                                                     Printable(error.message()) + "): start hxahost in another one.");
+  }
 }
 
 void EnterDirectory(const std::string& directory) {
@@ -151,9 +162,19 @@ class Session {
   boost::shared_ptr<TRepository> repository_;
 };
 
+// What is to be said and waited for before tools are run.
+void EnterCollection(std::optional<CollectionLock>& lock, std::ostream& err) {
+  const std::string warning = WritableToolsWarning(fs::current_path());
+  if (!warning.empty()) err << "hxahost: " << warning << std::endl;
+  lock.emplace("zenx", [&err] {
+    err << "hxahost: another program collects from this folder zenx: waiting until it is done." << std::endl;
+  });
+}
+
 }  // namespace
 
 void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
+  CheckWorkingDirectory();
   const Paths paths = ReadPaths(options);
   const std::vector<std::string> classes = DeclaredNames(options.classes);
   for (const std::string& line : MissingDependencies(classes)) err << "hxahost: " << line << std::endl;
@@ -164,11 +185,7 @@ void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::o
   SetUp(tape, options, paths);
   Session session(options, paths, tape, err);
   std::optional<CollectionLock> lock;
-  if (paths.replay.empty()) {
-    lock.emplace("zenx", [&err] {
-      err << "hxahost: another program collects from this folder zenx: waiting until it is done." << std::endl;
-    });
-  }
+  if (paths.replay.empty()) EnterCollection(lock, err);
   std::ostream& shown = file ? file->Stream() : out;
   TAsciiBuffer asciiBuffer(shown);
   std::ostream ascii(&asciiBuffer);

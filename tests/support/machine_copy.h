@@ -18,6 +18,11 @@ class MachineCopy {
 
   void RemoveTool(const std::string& tool) const { std::filesystem::remove(Zenx() / (tool + ".exe")); }
 
+  // A script in the place of a tool.
+  void SetTool(const std::string& tool, std::string_view script) const {
+    folder_.Write("zenx/" + tool + ".exe", script);
+  }
+
   // From here on the tool has none of its controllers.
   void RemoveControllers(const std::string& tool) const {
     for (const auto& entry : std::filesystem::directory_iterator(Zenx() / "answers" / tool)) {

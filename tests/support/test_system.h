@@ -20,3 +20,15 @@ bool HasChildren();
 
 // Sets a variable of this process's environment.
 void SetVariable(const std::string& name, const std::string& value);
+
+// Lets everybody write to a file or a folder.
+void LetOthersWrite(const std::filesystem::path& path);
+
+// How many bytes of memory this process has allocated.
+std::size_t MemoryInUse();
+
+// Unloads a library that was loaded once. Gives whether it is gone: a system may keep it.
+bool UnloadLibrary(const std::filesystem::path& file);
+
+// How often a test does what must not wear out. Wine takes a hundred times longer to start a program than Linux does.
+extern const int kManyRuns;

@@ -5,6 +5,8 @@
 #include <fstream>
 #include <iterator>
 
+#include <dlfcn.h>
+#include <malloc.h>
 #include <sys/wait.h>
 
 namespace fs = std::filesystem;
@@ -29,3 +31,21 @@ bool HasChildren() {
 }
 
 void SetVariable(const std::string& name, const std::string& value) { setenv(name.c_str(), value.c_str(), 1); }
+
+void LetOthersWrite(const fs::path& path) { fs::permissions(path, fs::perms::others_write, fs::perm_options::add); }
+
+// The sanitizers keep what was freed for a while, so only they know; without them nobody else answers to the name.
+std::size_t MemoryInUse() {
+  void* const allocated = dlsym(RTLD_DEFAULT, "__sanitizer_get_current_allocated_bytes");
+  return allocated ? reinterpret_cast<std::size_t (*)()>(allocated)() : mallinfo2().uordblks;
+}
+
+bool UnloadLibrary(const fs::path& file) {
+  constexpr int kFlags = RTLD_LAZY | RTLD_NOLOAD;
+  void* const library = dlopen(file.c_str(), kFlags);  // one more reference to it
+  dlclose(library);
+  dlclose(library);
+  return dlopen(file.c_str(), kFlags) == nullptr;
+}
+
+const int kManyRuns = 10000;

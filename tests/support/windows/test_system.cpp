@@ -5,6 +5,8 @@
 
 #include <windows.h>
 
+#include <aclapi.h>
+#include <psapi.h>
 #include <tlhelp32.h>
 
 std::filesystem::path ProgramFolder() {
@@ -46,3 +48,28 @@ bool HasChildren() {
 void SetVariable(const std::string& name, const std::string& value) {
   SetEnvironmentVariableA(name.c_str(), value.c_str());
 }
+
+void LetOthersWrite(const std::filesystem::path& path) {
+  wchar_t everyone[] = L"Everyone";
+  std::wstring name = path.wstring();
+  EXPLICIT_ACCESS_W access{};
+  BuildExplicitAccessWithNameW(&access, everyone, GENERIC_ALL, GRANT_ACCESS, NO_INHERITANCE);
+  ACL* list = nullptr;
+  SetEntriesInAclW(1, &access, nullptr, &list);
+  SetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, list, nullptr);
+  LocalFree(list);
+}
+
+std::size_t MemoryInUse() {
+  PROCESS_MEMORY_COUNTERS memory{};
+  memory.cb = sizeof memory;
+  K32GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory);
+  return memory.PagefileUsage;
+}
+
+bool UnloadLibrary(const std::filesystem::path& file) {
+  FreeLibrary(GetModuleHandleW(file.c_str()));
+  return GetModuleHandleW(file.c_str()) == nullptr;
+}
+
+const int kManyRuns = 300;
