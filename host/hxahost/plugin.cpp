@@ -34,7 +34,7 @@ Plugin::Plugin(const std::filesystem::path& file) : manager_(TPluginManagerAcces
   for (IPluginCallbacks* const plugin : TPluginManagerAccess::Plugins(*manager_)) {
     if (query_ == nullptr) query_ = dynamic_cast<IPluginBasicQueryCallbacks*>(plugin);
   }
-  if (query_ == nullptr) Refuse(file, "registered nothing that can be queried");
+  if (query_ == nullptr) Refuse(file, "registered nothing that can be queried (a process loads a plug-in once)");
 }
 
 Plugin::~Plugin() {
@@ -44,6 +44,7 @@ Plugin::~Plugin() {
 
 void Plugin::Query(const boost::shared_ptr<ICIMNamespace>& nameSpace,
                    const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
+  const std::lock_guard lock(oneAtATime_);
   query_->Query(nameSpace, classes);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <mutex>
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
@@ -19,13 +20,15 @@ class Plugin {
   Plugin(const Plugin&) = delete;
   Plugin& operator=(const Plugin&) = delete;
 
-  // Has it publish the classes, in their order. What it throws passes on.
+  // Has it publish the classes, in their order; plug-ins count on one thread at a time, so further ones wait. What it
+  // throws passes on.
   void Query(const boost::shared_ptr<NKVRHXA20::ICIMNamespace>& nameSpace,
              const std::vector<boost::shared_ptr<NKVRHXA20::ICIMClass>>& classes);
 
  private:
   boost::shared_ptr<NKVRHXA20::TPluginManagerNamespace> manager_;
   NKVRHXA20::IPluginBasicQueryCallbacks* query_ = nullptr;
+  std::mutex oneAtATime_;
 };
 
 }  // namespace hxahost
