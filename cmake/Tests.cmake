@@ -21,16 +21,25 @@ target_compile_options(test_child PRIVATE -Wall -Wextra -Wpedantic -Wconversion 
 target_link_options(test_child PRIVATE -static)
 set_target_properties(test_child PROPERTIES SUFFIX .exe)
 
+# What tests put where it must not be loaded from.
+add_library(planted_library MODULE tests/programs/planted/planted_library.cpp)
+target_compile_options(planted_library PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_link_options(planted_library PRIVATE -static-libgcc -static-libstdc++)
+set_target_properties(planted_library PROPERTIES PREFIX "" OUTPUT_NAME planted SUFFIX .library)
+
 foreach(level unit host end_to_end)
   sources_of(sources tests/${level} tests/support)
   add_executable(${level}_tests ${sources} tests/main.cpp)
   target_link_libraries(${level}_tests PRIVATE zenx_objects hxahost_objects test_framework)
   target_compile_definitions(${level}_tests PRIVATE ZENX_SAMPLES="${CMAKE_SOURCE_DIR}/samples"
                                                     ZENX_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
-  add_dependencies(${level}_tests hxahost zenx sample_machine test_child)
+  add_dependencies(${level}_tests hxahost zenx sample_machine test_child planted_library)
   add_test(NAME ${level} COMMAND ${level}_tests --gtest_brief=1 --gtest_output=xml:results-${level}.xml)
   set_tests_properties(${level} PROPERTIES TIMEOUT 900)
 endforeach()
+
+add_test(NAME binaries COMMAND ${CMAKE_SOURCE_DIR}/tests/binaries/binaries_test ${system} ${CMAKE_BINARY_DIR}/bin)
+set_tests_properties(binaries PROPERTIES TIMEOUT 120)
 
 # Debian's Prometheus and its node exporter take what the native program writes; the other system writes the same.
 if(NOT CMAKE_CROSSCOMPILING)

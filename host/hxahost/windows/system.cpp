@@ -114,8 +114,10 @@ PrivateFile::PrivateFile(std::string_view bytes) {
 
 PrivateFile::~PrivateFile() { CloseHandle(reinterpret_cast<HANDLE>(handle_)); }
 
-// What the plug-in needs is found beside it, wherever the working directory is.
+// What the plug-in needs is found beside it and in the system's folders. The working directory, in which anything may
+// lie, is searched neither now nor for a library that one of these loads later.
 void LoadPluginLibrary(const std::filesystem::path& file) {
+  SetDllDirectoryW(L"");
   SetErrorMode(SEM_FAILCRITICALERRORS);  // no window that waits for somebody to close it
   const auto library =
       LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);

@@ -1,0 +1,16 @@
+// A library under a name that somebody else's library has, where it must not be found. Whoever loads it leaves a trace.
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+bool LeaveTrace() {
+  const char* const file = std::getenv("ZENX_TEST_TRACE");
+  std::FILE* const trace = file ? std::fopen(file, "a") : nullptr;
+  if (trace) std::fclose(trace);
+  return trace != nullptr;
+}
+
+const bool isTraced = LeaveTrace();
+
+}  // namespace
