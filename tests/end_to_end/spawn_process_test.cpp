@@ -5,6 +5,9 @@
 #include <filesystem>
 #include <fstream>
 #include <future>
+#include <iterator>
+#include <random>
+#include <string>
 #include <vector>
 
 #include "plugin/host_interface/exception.h"
@@ -36,7 +39,10 @@ std::string RunChild(const std::vector<std::string>& arguments, int limitSeconds
 // A file in which a process writes its number, gone afterwards.
 class NumberFile {
  public:
-  NumberFile() { fs::remove(path_); }
+  explicit NumberFile(const std::string& furtherName = "")
+      : path_(ProgramFolder() / ("spawn_process_test.number" + furtherName)) {
+    fs::remove(path_);
+  }
   ~NumberFile() {
     std::error_code ignored;
     fs::remove(path_, ignored);
@@ -52,7 +58,7 @@ class NumberFile {
   }
 
  private:
-  fs::path path_ = ProgramFolder() / "spawn_process_test.number";
+  fs::path path_;
 };
 
 class WorkingDirectory {
@@ -95,6 +101,73 @@ TEST(SpawnProcess, GivesArgumentsToTheProgramAsTheyAre) {
     expected += std::to_string(argument.size()) + ":" + argument + "\n";
   }
   EXPECT_EQ(RunChild(arguments), expected);
+}
+
+// Whatever a shell, the C runtime or the system takes for something else than a letter.
+std::string RandomArgument(std::mt19937& random) {
+  static const char* const kPieces[] = {"\"",
+                                        "\"\"",
+                                        "\\",
+                                        "\\\\",
+                                        "\\\"",
+                                        " ",
+                                        "\t",
+                                        "\n",
+                                        "\r",
+                                        "\v",
+                                        "%PATH%",
+                                        "%",
+                                        "^",
+                                        "&",
+                                        "&&",
+                                        "|",
+                                        "<",
+                                        ">",
+                                        "(",
+                                        ")",
+                                        "!",
+                                        "'",
+                                        "`",
+                                        "$HOME",
+                                        "$(",
+                                        ";",
+                                        "*",
+                                        "?",
+                                        "[a]",
+                                        "{,}",
+                                        "~",
+                                        ",",
+                                        "=",
+                                        "/",
+                                        "-",
+                                        "--",
+                                        "#",
+                                        "@",
+                                        "a",
+                                        "Z9",
+                                        "\xC3\xA9",
+                                        "\xE2\x82\xAC",
+                                        "\xF0\x9F\x98\x80",
+                                        "\xE2\x80\xAE"};
+  std::uniform_int_distribution<std::size_t> piece(0, std::size(kPieces) - 1);
+  std::string argument;
+  for (unsigned count = std::uniform_int_distribution(0U, 6U)(random); count > 0; --count)
+    argument += kPieces[piece(random)];
+  return argument;
+}
+
+TEST(SpawnProcess, GivesListsOfRandomArgumentsToTheProgramAsTheyAre) {
+  constexpr int kArguments = 100;
+  std::mt19937 random(20260305);
+  for (int run = 0; run < kManyRuns / 50; ++run) {
+    std::vector<std::string> arguments = {"arguments"};
+    std::string expected;
+    for (int count = 0; count < kArguments; ++count) {
+      arguments.push_back(RandomArgument(random));
+      expected += std::to_string(arguments.back().size()) + ":" + arguments.back() + "\n";
+    }
+    ASSERT_EQ(RunChild(arguments), expected) << "list " << run;
+  }
 }
 
 TEST(SpawnProcess, KeepsStandardOutputAndStandardErrorInTheOrderWritten) {
@@ -214,6 +287,18 @@ INSTANTIATE_TEST_SUITE_P(What, SpawnProcessTree,
                                          ModeCase{"WithoutOutputGroupOrParent", "daemon-sleep"}),
                          [](const auto& mode) { return mode.param.name; });
 
+TEST(SpawnProcess, EndsAFamilyInWhichNobodyEndsWhenAskedTo) {
+  const NumberFile itself;
+  const NumberFile child("-child");
+  const NumberFile grandchild("-child-child");
+  const NumberFile daemon("-daemon");
+  EXPECT_THROW(RunChild({"sleep-with-family", itself.Path(), kForLong}, 5), THXAException);
+  for (const NumberFile* const file : {&itself, &child, &grandchild, &daemon}) {
+    ASSERT_NE(file->Number(), 0U) << file->Path();
+    EXPECT_FALSE(IsRunning(file->Number())) << file->Path();
+  }
+}
+
 TEST(SpawnProcess, EndsAProgramThatFloodsItsOutput) {
   EXPECT_THAT([] { RunChild({"flood"}); },
               ThrowsMessage<THXAException>("\"" + ChildPath() + "\" was ended: it wrote more than 64 MiB"));
@@ -226,22 +311,31 @@ TEST(SpawnProcess, TakesAsMuchOutputAsIsAllowedAndNotAByteMore) {
 }
 
 // Four at a time: what one run holds must not get into the program of another either.
-TEST(SpawnProcess, AThousandRunsLeaveNeitherHandlesNorChildren) {
+TEST(SpawnProcess, ManyRunsLeaveNeitherHandlesNorMemoryNorChildren) {
+  constexpr int kThreads = 4;
   const auto runMany = [](int runs) {
     int good = 0;
     for (int run = 0; run < runs; ++run) good += RunChild({"exit", "1"}) == "done\n" ? 1 : 0;
     return good;
   };
-  const auto runFourTimes = [&](int runs) {
+  const auto runInThreads = [&](int runs) {
     std::vector<std::future<int>> threads;
-    for (int thread = 0; thread < 4; ++thread) threads.push_back(std::async(std::launch::async, runMany, runs));
+    for (int thread = 0; thread < kThreads; ++thread) threads.push_back(std::async(std::launch::async, runMany, runs));
     for (std::future<int>& thread : threads) EXPECT_EQ(thread.get(), runs);
   };
-  runFourTimes(1);
-  const std::size_t before = OpenHandleCount();
-  runFourTimes(250);
-  EXPECT_LE(OpenHandleCount(), before + 10) << "the threads' own handles may differ, a run's would be a thousand";
+  runInThreads(1);
+  const std::size_t handles = OpenHandleCount();
+  const std::size_t memory = MemoryInUse();
+  runInThreads(kManyRuns / kThreads);
+  EXPECT_LE(OpenHandleCount(), handles + 10) << "the threads' own handles may differ, a run's would be many";
+  EXPECT_LE(MemoryInUse(), memory + (std::size_t{2} << 20U));
   EXPECT_FALSE(HasChildren());
+}
+
+TEST(SpawnProcess, MemoryThatIsLeftWouldBeCounted) {
+  const std::size_t before = MemoryInUse();
+  const std::vector<char> left(std::size_t{4} << 20U, 'x');
+  EXPECT_GT(MemoryInUse(), before + left.size() / 2);
 }
 
 TEST(SpawnProcess, AHandleThatIsLeftWouldBeCounted) {

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -63,11 +64,15 @@ void PrintVariable(const std::string& name) {
   }
 }
 
+void WaitForNumber(const std::string& file) {
+  std::string number;
+  while (!(std::ifstream(file) >> number)) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+}
+
 // Ends only when the process left behind is there.
 void Leave(Ties ties, Rest rest, const std::string& file) {
   LeaveBehind(ties, rest, file);
-  std::string number;
-  while (!(std::ifstream(file) >> number)) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  WaitForNumber(file);
   Print("left\n");
 }
 
@@ -82,6 +87,14 @@ void SleepUnasked(const std::string& file, const std::string& seconds) {
   Sleep(seconds);
 }
 
+// A child, a grandchild in a group of its own, and one without output, group or parent. Nobody ends when asked to.
+void SleepWithFamily(const std::string& file, const std::string& seconds) {
+  Leave(Ties::kAll, Rest::kBreeds, file + "-child");
+  Leave(Ties::kNothing, Rest::kSleeps, file + "-daemon");
+  WaitForNumber(file + "-child-child");
+  SleepUnasked(file, seconds);
+}
+
 void SleepWithoutOutput(const std::string& seconds) {
   Print("before\n");
   CloseStandardOutput();
@@ -89,33 +102,35 @@ void SleepWithoutOutput(const std::string& seconds) {
 }
 
 const std::map<std::string, std::function<void(const Texts&)>> kModes = {
-    {"arguments",      PrintArguments                                                              },
-    {"bytes",          [](const Texts& given) { PrintBytes(std::stoul(given.at(0))); }             },
-    {"flood",          [](const Texts&) { Flood(); }                                               },
-    {"both",           [](const Texts& given) { PrintOnBothOutputs(std::stoi(given.at(0))); }      },
-    {"input",          [](const Texts&) { PrintInput(); }                                          },
-    {"locale",         [](const Texts&) { PrintLocale(); }                                         },
-    {"variable",       [](const Texts& given) { PrintVariable(given.at(0)); }                      },
-    {"sleep",          [](const Texts& given) { Sleep(given.at(0)); }                              },
-    {"sleep-unasked",  [](const Texts& given) { SleepUnasked(given.at(0), given.at(1)); }          },
-    {"sleep-silently", [](const Texts& given) { SleepWithoutOutput(given.at(0)); }                 },
-    {"exit",           [](const Texts& given) { Exit(std::stoi(given.at(0))); }                    },
-    {"leave",          [](const Texts& given) { Leave(Ties::kAll, Rest::kSleeps, given.at(0)); }   },
-    {"leave-flood",    [](const Texts& given) { Leave(Ties::kAll, Rest::kFloods, given.at(0)); }   },
-    {"detach",         [](const Texts& given) { Leave(Ties::kOutput, Rest::kSleeps, given.at(0)); }},
+    {"arguments",         PrintArguments                                                              },
+    {"bytes",             [](const Texts& given) { PrintBytes(std::stoul(given.at(0))); }             },
+    {"flood",             [](const Texts&) { Flood(); }                                               },
+    {"both",              [](const Texts& given) { PrintOnBothOutputs(std::stoi(given.at(0))); }      },
+    {"input",             [](const Texts&) { PrintInput(); }                                          },
+    {"locale",            [](const Texts&) { PrintLocale(); }                                         },
+    {"variable",          [](const Texts& given) { PrintVariable(given.at(0)); }                      },
+    {"sleep",             [](const Texts& given) { Sleep(given.at(0)); }                              },
+    {"sleep-unasked",     [](const Texts& given) { SleepUnasked(given.at(0), given.at(1)); }          },
+    {"sleep-with-family", [](const Texts& given) { SleepWithFamily(given.at(0), given.at(1)); }       },
+    {"sleep-silently",    [](const Texts& given) { SleepWithoutOutput(given.at(0)); }                 },
+    {"exit",              [](const Texts& given) { Exit(std::stoi(given.at(0))); }                    },
+    {"leave",             [](const Texts& given) { Leave(Ties::kAll, Rest::kSleeps, given.at(0)); }   },
+    {"leave-flood",       [](const Texts& given) { Leave(Ties::kAll, Rest::kFloods, given.at(0)); }   },
+    {"detach",            [](const Texts& given) { Leave(Ties::kOutput, Rest::kSleeps, given.at(0)); }},
     {"detach-sleep",
      [](const Texts& given) {
        Leave(Ties::kOutput, Rest::kSleeps, given.at(0));
        Sleep(given.at(1));
-     }                                                                                             },
+     }                                                                                                },
     {"daemon-sleep",
      [](const Texts& given) {
        Leave(Ties::kNothing, Rest::kSleeps, given.at(0));
        Sleep(given.at(1));
-     }                                                                                             },
+     }                                                                                                },
  // What Windows starts where other systems fork.
-    {"rest-sleeps",    [](const Texts& given) { StayBehind(Rest::kSleeps, given.at(0)); }          },
-    {"rest-floods",    [](const Texts& given) { StayBehind(Rest::kFloods, given.at(0)); }          },
+    {"rest-sleeps",       [](const Texts& given) { StayBehind(Rest::kSleeps, given.at(0)); }          },
+    {"rest-floods",       [](const Texts& given) { StayBehind(Rest::kFloods, given.at(0)); }          },
+    {"rest-breeds",       [](const Texts& given) { StayBehind(Rest::kBreeds, given.at(0)); }          },
 };
 
 }  // namespace
@@ -124,11 +139,13 @@ void StayBehind(Rest rest, const std::string& file) {
   IgnoreTermination();
   std::ofstream(file) << OwnProcessId() << std::endl;
   if (rest == Rest::kFloods) Flood();
+  if (rest == Rest::kBreeds) LeaveBehind(Ties::kOutput, Rest::kSleeps, file + "-child");
   Sleep("300");
 }
 
 int main(int argc, char** argv) {
-  Texts arguments = Arguments(argc, argv);
+  const bool isExact = argc > 1 && std::string_view(argv[1]) == "arguments";
+  Texts arguments = isExact ? ExactArguments(argc, argv) : Texts(argv + 1, argv + argc);
   const auto mode = arguments.empty() ? kModes.end() : kModes.find(arguments.front());
   if (mode == kModes.end()) {
     std::fprintf(stderr, "test_child: no such mode\n");

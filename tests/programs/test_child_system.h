@@ -5,8 +5,8 @@
 
 // What the test child needs of the operating system.
 
-// Its arguments, without its name, in UTF-8.
-std::vector<std::string> Arguments(int argc, char** argv);
+// Its arguments, without its name, in UTF-8: what they are in truth, where the C runtime may have lost something.
+std::vector<std::string> ExactArguments(int argc, char** argv);
 
 // From here on a line feed is written as it is.
 void WriteBytesAsTheyAre();
@@ -25,12 +25,16 @@ enum class Ties {
   kNothing,  // no file, no group, no parent
 };
 
-enum class Rest { kSleeps, kFloods };
+enum class Rest {
+  kSleeps,
+  kFloods,
+  kBreeds,  // leaves one more behind, which has a group of its own, and sleeps
+};
 
 // Starts a process that stays behind.
 void LeaveBehind(Ties ties, Rest rest, const std::string& file);
 
-// What that process does: writes its number to the file and then sleeps or floods its output.
+// What that process does: writes its number to the file and then rests.
 void StayBehind(Rest rest, const std::string& file);
 
 // The environment, "NAME=value" each.

@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-std::vector<std::string> Arguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
+std::vector<std::string> ExactArguments(int argc, char** argv) { return {argv + 1, argv + argc}; }
 
 void WriteBytesAsTheyAre() {}
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
+#include <string>
 #include <string_view>
 
 #include <fcntl.h>
@@ -21,11 +23,20 @@ std::string ToUtf8(const wchar_t* wide) {
   return text;
 }
 
+// The library brings half of the desktop with it and takes longer to load than all else that a child does, so it comes
+// only where it is needed.
+wchar_t** SplitCommandLine(int& count) {
+  const HMODULE shell = LoadLibraryW(L"shell32.dll");
+  const auto split = reinterpret_cast<decltype(&CommandLineToArgvW)>(
+      reinterpret_cast<void*>(GetProcAddress(shell, "CommandLineToArgvW")));
+  return split(GetCommandLineW(), &count);
+}
+
 }  // namespace
 
-std::vector<std::string> Arguments(int, char**) {
+std::vector<std::string> ExactArguments(int, char**) {
   int count = 0;
-  wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+  wchar_t** const words = SplitCommandLine(count);
   std::vector<std::string> arguments;
   for (int word = 1; word < count; ++word) arguments.push_back(ToUtf8(words[word]));
   LocalFree(words);
@@ -53,8 +64,12 @@ unsigned long OwnProcessId() { return GetCurrentProcessId(); }
 void LeaveBehind(Ties ties, Rest rest, const std::string& file) {
   std::array<char, 1024> program{};
   GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));
-  std::string line =
-      std::string("test_child ") + (rest == Rest::kFloods ? "rest-floods" : "rest-sleeps") + " \"" + file + "\"";
+  const std::map<Rest, std::string> modes = {
+      {Rest::kSleeps, "rest-sleeps"},
+      {Rest::kFloods, "rest-floods"},
+      {Rest::kBreeds, "rest-breeds"}
+  };
+  std::string line = "test_child " + modes.at(rest) + " \"" + file + "\"";
   STARTUPINFOA startup{};
   startup.cb = sizeof startup;
   const DWORD flags = ties == Ties::kAll ? 0 : DETACHED_PROCESS | CREATE_NEW_PROCESS_GROUP;

@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include <windows.h>
 
 #include <shellapi.h>
@@ -48,6 +53,26 @@ TEST(CommandLine, IsReadBackAsTheArgumentsThatItWasMadeOf) {
     EXPECT_STREQ(words[1], one.argument) << one.name;
     EXPECT_STREQ(words[2], L"last") << one.name;
     LocalFree(words);
+  }
+}
+
+TEST(CommandLine, OfRandomArgumentsIsReadBackAsThese) {
+  constexpr std::wstring_view kCharacters = L"\"\"\"\\\\\\  \t\n\v\r%^&|<>()!'`$;*?[]{}~,=/-#@aZ9\u00E9\u20AC\u202E";
+  std::mt19937 random(20260305);
+  std::uniform_int_distribution<std::size_t> character(0, kCharacters.size() - 1);
+  std::uniform_int_distribution length(0, 12);
+  for (int list = 0; list < 5000; ++list) {
+    std::vector<std::wstring> arguments(8);
+    std::wstring line = L"\"zenx//qcmdrun.exe\"";
+    for (std::wstring& argument : arguments) {
+      for (int left = length(random); left > 0; --left) argument += kCharacters[character(random)];
+      line += L" " + QuotedArgument(argument);
+    }
+    int count = 0;
+    wchar_t** const words = CommandLineToArgvW(line.c_str(), &count);
+    const std::vector<std::wstring> read(words + 1, words + count);
+    LocalFree(words);
+    ASSERT_EQ(read, arguments) << "list " << list;
   }
 }
 
