@@ -51,6 +51,13 @@ set_target_properties(zenx PROPERTIES PREFIX "" OUTPUT_NAME zenx SUFFIX .pi)
 if(WIN32)
   target_link_libraries(zenx_objects PUBLIC setupapi cfgmgr32)
 endif()
+# Of the plug-in alone: scripts/coverage holds its lines against a list.
+if(ZENX_COVERAGE)
+  foreach(counted zenx_objects zenx)
+    target_compile_options(${counted} PRIVATE --coverage)
+  endforeach()
+  target_link_options(zenx_objects INTERFACE --coverage)
+endif()
 
 # The program's own code is a library, so that tests can call it.
 sources_of(hxahost_sources host/hxahost)
