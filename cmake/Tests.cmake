@@ -56,6 +56,13 @@ if(NOT CMAKE_CROSSCOMPILING)
   set_tests_properties(exchange PROPERTIES TIMEOUT 900 ENVIRONMENT PYTHONDONTWRITEBYTECODE=1)
 endif()
 
+# The examples of the documents for the command prompt, under Wine. All others scripts/test runs on the release build.
+if(CMAKE_CROSSCOMPILING)
+  add_test(NAME documents COMMAND ${CMAKE_SOURCE_DIR}/tests/documentation/documents_test windows ${CMAKE_BINARY_DIR}
+                                  ${CMAKE_BINARY_DIR}/results-documents.xml)
+  set_tests_properties(documents PROPERTIES TIMEOUT 600)
+endif()
+
 # The report in a real browser, natively alone: the page does not depend on the system that wrote it.
 if(NOT CMAKE_CROSSCOMPILING)
   add_executable(report_pages tests/browser/report_pages.cpp)
