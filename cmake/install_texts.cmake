@@ -1,14 +1,17 @@
 # Installs what is made of texts: those with Windows' line ends, zipped ones, and the licences of what is built in.
 set(root "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
 
+function(write_windows_lines FROM TO)
+  file(READ "${FROM}" lines)
+  string(REPLACE "\r\n" "\n" lines "${lines}")
+  string(REPLACE "\n" "\r\n" lines "${lines}")
+  file(WRITE "${TO}" "${lines}")
+endfunction()
+
 # Each element of texts is FROM=TO.
 foreach(text IN LISTS texts)
   string(REGEX MATCH "^(.*)=(.*)$" both "${text}")
-  set(to "${root}/${CMAKE_MATCH_2}")
-  file(READ "${CMAKE_MATCH_1}" lines)
-  string(REPLACE "\r\n" "\n" lines "${lines}")
-  string(REPLACE "\n" "\r\n" lines "${lines}")
-  file(WRITE "${to}" "${lines}")
+  write_windows_lines("${CMAKE_MATCH_1}" "${root}/${CMAKE_MATCH_2}")
 endforeach()
 
 # Without the time and the name of the file, which would make each package another one.
@@ -42,6 +45,10 @@ if(runtime_libraries)
   file(COPY_FILE ${says}/gcc-mingw-w64-x86-64-posix-runtime/copyright "${root}/${licences}/gcc-runtime.txt")
   file(COPY_FILE ${says}/mingw-w64-x86-64-dev/copyright "${root}/${licences}/mingw-w64.txt")
   file(COPY_FILE /usr/share/common-licenses/GPL-3 "${root}/${licences}/gpl-3.txt")
+  file(GLOB copies "${root}/${licences}/*.txt")
+  foreach(copy IN LISTS copies)
+    write_windows_lines("${copy}" "${copy}")
+  endforeach()
 endif()
 
 if(debian_changelog)

@@ -11,16 +11,18 @@ _hxahost() {
       mapfile -t COMPREPLY < <(compgen -d -- "$word")
       return
       ;;
-    --plugin | --output | --log)
+    --plugin | --output | --log | --record | --replay)
       mapfile -t COMPREPLY < <(compgen -f -- "$word")
       return
       ;;
   esac
-  local words
-  if [ "$COMP_CWORD" -eq 1 ]; then
-    words=$("$program" --help 2>/dev/null | sed -n '/^Subcommands:/,/^$/s/^  \([a-z]*\).*/\1/p')
+  local words='' command=("${COMP_WORDS[1]-}")
+  [ "$COMP_CWORD" -gt 1 ] || command=()
+  [ "${command[0]-}" = bundle ] && [ "$COMP_CWORD" -gt 2 ] && command+=("${COMP_WORDS[2]}")
+  if [ "$COMP_CWORD" -eq 1 ] || [[ "$before" = bundle ]]; then
+    words=$("$program" "${command[@]}" --help 2>/dev/null | sed -n '/^Subcommands:/,/^$/s/^  \([a-z]*\).*/\1/p')
   elif [[ $word == -* ]]; then
-    words=$("$program" "${COMP_WORDS[1]}" --help 2>/dev/null | grep -o '^ *\(-[a-z],\)\?--[a-z-]*' | sed 's/.*--/--/')
+    words=$("$program" "${command[@]}" --help 2>/dev/null | grep -o '^ *\(-[a-z],\)\?--[a-z-]*' | sed 's/.*--/--/')
   fi
   if [ -n "$words" ]; then
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
