@@ -3,7 +3,7 @@
 import re
 from dataclasses import dataclass
 
-KINDS = {"sh", "console", "bat", "checkout", "diff", "bundle", "cpp", "json", "text"}
+KINDS = {"sh", "console", "bat", "checkout", "diff", "bundle", "mermaid", "cpp", "json", "text"}
 
 # What a command begins with; no block that is merely shown may hold one.
 COMMAND = re.compile(r"^\s*(\$ |> )?(hxahost (-|\w+\b(?!:))|scripts/\w|cmake -|ctest\b)", re.MULTILINE)
