@@ -6,7 +6,6 @@
 #include <iterator>
 #include <map>
 #include <set>
-#include <span>
 #include <string_view>
 #include <utility>
 
@@ -27,37 +26,61 @@ constexpr std::string_view kLegacy = "qcmdrun";
 constexpr std::string_view kArcconf = "arcconf";
 constexpr std::string_view kHrconf = "hrconf_64";
 
-// Properties that, of all utilities not named before, one alone fills.
+// What a property that has a text says of the utility. Signs that are not certain count where others have shown that
+// two controllers share a number: they tell one utility from those of the rows above them, in an answer that is whole.
+enum class Certainty { kCertain, kLikely };
+
 struct Sign {
   std::string_view className;
+  std::string_view property;
   std::string_view tool;
-  std::string_view properties[5];
+  Certainty certainty;
 };
+
+constexpr auto kCertain = Certainty::kCertain;
+constexpr auto kLikely = Certainty::kLikely;
 
 constexpr Sign kSigns[] = {
-    {kController,  kLegacy,  {"ScsiChannelDescr", "InitiatorChannelScsiId", "MaxPhysicalDevices", "ReadAhead"}},
-    {kController,  kArcconf, {"ControllerType", "SerialNum", "InstalledMemory", "CopyBackEnabled", "VPD"}     },
-    {kController,  kHrconf,  {"ChannelDescription", "ControllerStatus"}                                       },
-    {kLogicalDisk, kLegacy,  {"AccessBlocked", "PartOfArray", "PartOfMergeGroup"}                             },
-    {kLogicalDisk, kArcconf, {"NumOfSegments", "Partitioned", "DefunctSegments", "WriteCacheSetting"}         },
-    {kLogicalDisk, kHrconf,  {"DriveList", "NumOfChunks"}                                                     },
-    {kDiskGroup,   kLegacy,  {"Array"}                                                                        },
-    {kDiskDrive,   kArcconf, {"ReportedESD", "ReportedLocation", "EnclosureId"}                               },
-    {kDiskDrive,   kHrconf,  {"DeviceNumber"}                                                                 },
-    {kDiskDrive,   kLegacy,  {"ScsiId", "Channel"}                                                            },
+    {kController,  "ScsiChannelDescr",       kLegacy,  kCertain},
+    {kController,  "InitiatorChannelScsiId", kLegacy,  kCertain},
+    {kController,  "MaxPhysicalDevices",     kLegacy,  kCertain},
+    {kController,  "ReadAhead",              kLegacy,  kCertain},
+    {kController,  "InstalledMemory",        kArcconf, kCertain},
+    {kController,  "CopyBackEnabled",        kArcconf, kCertain},
+    {kController,  "VPD",                    kArcconf, kCertain},
+    {kController,  "ControllerType",         kArcconf, kLikely },
+    {kController,  "SerialNum",              kArcconf, kLikely },
+    {kController,  "ChannelDescription",     kHrconf,  kLikely },
+    {kController,  "ControllerStatus",       kHrconf,  kLikely },
+    {kLogicalDisk, "AccessBlocked",          kLegacy,  kCertain},
+    {kLogicalDisk, "PartOfArray",            kLegacy,  kCertain},
+    {kLogicalDisk, "PartOfMergeGroup",       kLegacy,  kCertain},
+    {kLogicalDisk, "NumOfSegments",          kArcconf, kCertain},
+    {kLogicalDisk, "Partitioned",            kArcconf, kCertain},
+    {kLogicalDisk, "DefunctSegments",        kArcconf, kCertain},
+    {kLogicalDisk, "WriteCacheSetting",      kArcconf, kCertain},
+    {kLogicalDisk, "NumOfChunks",            kHrconf,  kCertain},
+    {kLogicalDisk, "DriveList",              kHrconf,  kLikely },
+    {kDiskGroup,   "Array",                  kLegacy,  kCertain},
+    {kDiskDrive,   "ReportedESD",            kArcconf, kCertain},
+    {kDiskDrive,   "ReportedLocation",       kArcconf, kCertain},
+    {kDiskDrive,   "EnclosureId",            kArcconf, kCertain},
+    {kDiskDrive,   "DeviceNumber",           kHrconf,  kCertain},
+    {kDiskDrive,   "ScsiId",                 kLegacy,  kLikely },
+    {kDiskDrive,   "Channel",                kLegacy,  kLikely },
 };
 
-bool IsShownBy(const Sign& sign, const TPublishedInstance& instance) {
-  return std::ranges::any_of(sign.properties, [&instance](std::string_view property) {
-    return !property.empty() && !PublishedText(instance, property).empty();
-  });
-}
+struct Told {
+  std::string_view tool;  // empty: nothing tells
+  Certainty certainty = Certainty::kLikely;
+};
 
 // "Device #4" of arcconf is "4" of hrconf_64.
-std::string_view ToolOf(const TPublishedInstance& instance) {
-  if (PublishedText(instance, "DeviceNumber").starts_with("Device")) return kArcconf;
+Told ToolOf(const TPublishedInstance& instance) {
+  if (PublishedText(instance, "DeviceNumber").starts_with("Device")) return {kArcconf, Certainty::kCertain};
   for (const Sign& sign : kSigns) {
-    if (instance.Class().name == sign.className && IsShownBy(sign, instance)) return sign.tool;
+    if (instance.Class().name != sign.className || PublishedText(instance, sign.property).empty()) continue;
+    return {sign.tool, sign.certainty};
   }
   return {};
 }
@@ -97,20 +120,20 @@ DrivesByName LogicalDrives(const InstanceList& instances) {
 }
 
 // An array without a letter is of the utility whose drive has the same disks.
-std::string_view ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
+Told ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
   const std::vector<std::string> places = PlacesIn(PublishedText(array, "StripeOrder"));
   const auto [first, last] = drives.equal_range(DriveOfArray(array));
   const auto drive = std::find_if(first, last, [&places](const auto& each) {
     return places == PlacesIn(PublishedText(*each.second, "StripeOrder")) ||
            places == PlacesIn(PublishedText(*each.second, "DriveList"));
   });
-  return drive == last ? std::string_view() : ToolOf(*drive->second);
+  return drive == last ? Told() : ToolOf(*drive->second);
 }
 
 // A device with its number and the utility that described it; the number is empty of what is no device.
 struct Owned {
   std::string number;
-  std::string_view tool;
+  Told told;
 };
 
 std::vector<Owned> FindOwners(const InstanceList& instances) {
@@ -122,26 +145,41 @@ std::vector<Owned> FindOwners(const InstanceList& instances) {
       owners.emplace_back();
       continue;
     }
-    std::string_view tool = ToolOf(*instance);
-    if (tool.empty() && instance->Class().name == kDiskGroup) tool = ToolOfArray(*instance, drives);
-    owners.push_back({PublishedText(*instance, "ControllerNum"), tool});
+    Told told = ToolOf(*instance);
+    if (told.tool.empty() && instance->Class().name == kDiskGroup) told = ToolOfArray(*instance, drives);
+    owners.push_back({PublishedText(*instance, "ControllerNum"), told});
   }
   return owners;
+}
+
+// The numbers that controllers of two utilities have.
+std::set<std::string> SharedNumbers(const InstanceList& instances, const std::vector<Owned>& owners) {
+  std::map<std::string, std::set<std::string_view>> certain;
+  std::map<std::string, std::set<std::string_view>> controllers;
+  for (std::size_t place = 0; place < owners.size(); ++place) {
+    const auto& [number, told] = owners[place];
+    if (told.tool.empty() || number.empty()) continue;
+    if (told.certainty == Certainty::kCertain) certain[number].insert(told.tool);
+    if (instances[place]->Class().name == kController) controllers[number].insert(told.tool);
+  }
+  std::set<std::string> shared;
+  for (const auto* const tools : {&certain, &controllers}) {
+    for (const auto& [number, names] : *tools) {
+      if (names.size() > 1) shared.insert(number);
+    }
+  }
+  return shared;
 }
 
 }  // namespace
 
 std::vector<std::string> DeviceOwners(const InstanceList& instances) {
   const std::vector<Owned> owners = FindOwners(instances);
-  std::map<std::string, std::set<std::string_view>> tools;
-  for (const Owned& owner : owners) {
-    if (!owner.tool.empty()) tools[owner.number].insert(owner.tool);
-  }
+  const std::set<std::string> shared = SharedNumbers(instances, owners);
   std::vector<std::string> texts;
-  for (const Owned& owner : owners) {
-    texts.push_back(owner.number);
-    if (tools[owner.number].size() < 2 || owner.number.empty()) continue;
-    texts.back() += " (" + std::string(owner.tool.empty() ? "tool not known" : owner.tool) + ")";
+  for (const auto& [number, told] : owners) {
+    const std::string_view tool = told.tool.empty() ? "tool not known" : told.tool;
+    texts.push_back(shared.contains(number) ? number + " (" + std::string(tool) + ")" : number);
   }
   return texts;
 }

@@ -53,7 +53,9 @@ TEST_F(Diff, ShowsAFailedDiskAndALostOneFirst) {
   const ProgramResult shown = RunHxahost({"diff", before, after});
   EXPECT_EQ(shown.exitStatus, 1);
   EXPECT_THAT(shown.out,
-              HasSubstr(":\n\nDisappeared: 2\n  - KVRSG_zxDiskDrive.CreationClassName=\"KVRSG_zxDiskDrive\","
+              HasSubstr(":\n\nHealth findings: 1\n  + critical: Hard drive at channel 0, ID 0 of controller 4 "
+                        "[C4 CH0 I00:Controller: Device #0]: State \"Failed\": the disk has failed; replace it\n"
+                        "\nDisappeared: 2\n  - KVRSG_zxDiskDrive.CreationClassName=\"KVRSG_zxDiskDrive\","
                         "DeviceID=\"C1 CH1 I05:TALVERA T36LW10 S96H8B01290\"\n  - KVRSG_zxDiskDriveVersion."));
   EXPECT_THAT(shown.out, HasSubstr("\n\nStates that changed: 1\n  ! KVRSG_zxDiskDrive."));
   EXPECT_THAT(shown.out, HasSubstr(": State \"Online\" -> \"Failed\"\n"));
@@ -63,6 +65,8 @@ TEST_F(Diff, ShowsAFailedDiskAndALostOneFirst) {
   EXPECT_EQ(json["format"], 1);
   EXPECT_EQ(json["same"], false);
   EXPECT_EQ(json["old"]["machine"], "M");
+  EXPECT_EQ(json["findings"].size(), 1U);
+  EXPECT_EQ(json["findings"][0]["new"]["identifier"], "C4 CH0 I00:Controller: Device #0");
   EXPECT_EQ(json["changes"][0]["kind"], "disappeared");
   EXPECT_EQ(json["changes"][2]["group"], "state");
   EXPECT_EQ(json["changes"][2]["old"], "Online");

@@ -118,6 +118,23 @@ TEST(DeviceOwners, FindTheToolOfAnArrayWithoutALetterByTheDisksOfItsDrive) {
               ElementsAre("3 (arcconf)", "3 (hrconf_64)", "3 (hrconf_64)", "3 (arcconf)", "3 (tool not known)"));
 }
 
+TEST(DeviceOwners, AreNotSplitByAnAnswerThatIsCutOff) {
+  FilledRepository repository;
+  repository.Publish(kController, {
+                                      {"ControllerNum",  "1" },
+                                      {"ControllerType", "C6"}
+  });
+  repository.Publish(kLogicalDisk, {
+                                       {"ControllerNum", "1"},
+                                       {"PartOfArray",   "A"}
+  });
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum", "1"},
+                                     {"ScsiId",        "0"}
+  });
+  EXPECT_THAT(DeviceOwners(repository.Instances()), ElementsAre("1", "1", "1"));
+}
+
 TEST(DeviceOwners, AreEmptyForDevicesWithoutANumber) {
   FilledRepository repository;
   repository.Publish(kController, {

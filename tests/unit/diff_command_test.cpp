@@ -4,6 +4,8 @@
 
 #include <sstream>
 
+#include <nlohmann/json.hpp>
+
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/text.h"
 #include "tests/support/temporary_folder.h"

@@ -93,9 +93,10 @@ TEST(ReportData, TellsUnreadLinesWhereEveryClassWasAskedFor) {
   repository.Publish("KVRSG_zxLogicalDisk", {
                                                 {"Size", "5 MB"}
   });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    "tool"                             },
-                                            {"RawResults", Texts({"Size : 5 MB", "New : new"})}
+  repository.Publish("KVRSG_zxRawData",
+                     {
+                         {"Command",    "tool"                               },
+                         {"RawResults", ::Texts({"Size : 5 MB", "New : new"})}
   });
   const QueryResult result{1, repository.Instances(), {}};
   QueryHeader header;

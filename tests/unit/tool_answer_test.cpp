@@ -11,6 +11,7 @@ namespace {
 
 using hxahost::KnownTools;
 using hxahost::Outcome;
+using hxahost::OutcomeOfWord;
 using hxahost::OutcomeWord;
 using hxahost::ReadAnswer;
 using hxahost::ReadToolAnswer;
