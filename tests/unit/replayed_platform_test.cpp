@@ -62,7 +62,8 @@ TEST(ReplayedPlatform, KeepsTheFolderOfTheLogInWhatIsPublished) {
   const CollectRaidMgrData collector(&log, counter);
   ASSERT_TRUE(collector.LogAvailable());
   ASSERT_EQ(collector.GetRawData().size(), 1U);
-  EXPECT_EQ(collector.GetRawData().front()->Command, "C:\\ZXM\\KVR\\Zentraxis Manager\\RaidEvtA.log");
+  EXPECT_TRUE(collector.GetRawData().front()->Command.starts_with("C:\\ZXM\\KVR\\Zentraxis Manager\\RaidEvtA.log "))
+      << collector.GetRawData().front()->Command;
 }
 
 TEST(ReplayedPlatform, LeavesNothingBehind) {

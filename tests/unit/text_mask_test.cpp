@@ -47,9 +47,9 @@ TEST(TextMask, GivesTheSameTextTheSameMaskInEitherCase) {
 TEST(TextMask, NeverGivesTwoTextsOneMaskAlsoWhereThereAreFew) {
   TextMask mask(Seeded(3));
   std::set<std::string> masks;
-  for (char digit = '0'; digit <= '9'; ++digit) masks.insert(mask.Mask({digit}));
+  for (char digit = '0'; digit <= '9'; ++digit) masks.insert(mask.Mask(std::string(1, digit)));
   EXPECT_EQ(masks.size(), 10U);
-  for (char letter = 'a'; letter <= 'z'; ++letter) masks.insert(mask.Mask({letter}));
+  for (char letter = 'a'; letter <= 'z'; ++letter) masks.insert(mask.Mask(std::string(1, letter)));
   EXPECT_EQ(masks.size(), 36U);
   for (int number = 10000; number < 12000; ++number) masks.insert(mask.Mask("SN" + std::to_string(number)));
   EXPECT_EQ(masks.size(), 2036U);
