@@ -2,12 +2,16 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -45,7 +49,33 @@ void RunBare(const Command& command) {
   if (isStarted) waitpid(child, nullptr, 0);
 }
 
-double Median(std::vector<double> values) {
+// What this process and the children that have ended have used of the processors.
+double BusySeconds() {
+  double seconds = 0;
+  for (const int who : {RUSAGE_SELF, RUSAGE_CHILDREN}) {
+    rusage usage{};
+    getrusage(who, &usage);
+    for (const timeval& part : {usage.ru_utime, usage.ru_stime}) {
+      seconds += static_cast<double>(part.tv_sec) + static_cast<double>(part.tv_usec) / 1e6;
+    }
+  }
+  return seconds;
+}
+
+struct Spent {
+  double wall = 0;
+  double busy = 0;
+};
+
+Spent SpentOn(const std::function<void()>& work) {
+  const double before = BusySeconds();
+  const double wall = Measured(work);
+  return {wall, BusySeconds() - before};
+}
+
+double Median(const std::vector<Spent>& rounds, double Spent::*part) {
+  std::vector<double> values;
+  std::ranges::transform(rounds, std::back_inserter(values), part);
   std::ranges::sort(values);
   return values[values.size() / 2];
 }
@@ -63,15 +93,23 @@ CollectionCost MeasureCollection(const std::string& machine, int rounds) {
   };
   NKVRHXA20::SetServices(services);
 
-  std::vector<double> whole;
-  std::vector<double> bare;
-  std::vector<double> ratios;
+  std::vector<Spent> wholes;
+  std::vector<Spent> bares;
+  std::vector<Spent> ratios;
   for (int round = 0; round < rounds; ++round) {
     commands.clear();
-    whole.push_back(Measured([] { WholeQuery().Run(); }));
-    bare.push_back(Measured([&] { std::ranges::for_each(commands, RunBare); }));
-    ratios.push_back(whole.back() / bare.back());
+    const Spent whole = SpentOn([] { WholeQuery().Run(); });
+    const Spent bare = SpentOn([&] { std::ranges::for_each(commands, RunBare); });
+    wholes.push_back(whole);
+    bares.push_back(bare);
+    ratios.push_back({whole.wall / bare.wall, whole.busy / bare.busy});
   }
   NKVRHXA20::SetServices(NKVRHXA20::RealServices());
-  return {commands.size(), Median(whole), Median(bare), Median(ratios)};
+  return {.runs = commands.size(),
+          .whole = Median(wholes, &Spent::wall),
+          .bare = Median(bares, &Spent::wall),
+          .ratio = Median(ratios, &Spent::wall),
+          .wholeBusy = Median(wholes, &Spent::busy),
+          .bareBusy = Median(bares, &Spent::busy),
+          .ratioBusy = Median(ratios, &Spent::busy)};
 }

@@ -7,7 +7,7 @@
 struct Cost {
   std::size_t bytes = 0;    // of text that it worked on
   std::size_t things = 0;   // that came of it
-  double seconds = 0;       // the shortest of the runs
+  double seconds = 0;       // of the processor, in the shortest of the runs
   double peakMiB = 0;       // of the process, the making of the job included
   double instructions = 0;  // 0 where they were not counted
 };

@@ -187,27 +187,40 @@ Job FirstQuery(int) {
           }};
 }
 
+// The same query of the plug-in that is linked into this program.
+Job FirstQueryLinked(int) {
+  SetServices(ScriptedMachine(ScriptedTool::kArcconf, 0));
+  const auto repository = TRepository::Make(std::nullopt);
+  const auto state = std::make_shared<QueryState>();
+  return {0, [state, repository] {
+            RunQuery(*state, TRootObject::GetCoreLogger(), *repository,
+                     {repository->GetClass("KVRSG_zxSCSIProtocolController", {})});
+            return std::size_t{1};
+          }};
+}
+
 constexpr NamedJob kJobs[] = {
-    {"split-qcmdrun",    SplitQcmdrun                             },
-    {"split-arcconf",    SplitArcconf                             },
-    {"split-hrconf",     SplitHrconf                              },
-    {"parse-qcmdrun",    ParseQcmdrun                             },
-    {"parse-arcconf",    ParseArcconf                             },
-    {"parse-hrconf",     ParseHrconf                              },
-    {"collect-qcmdrun",  Collect<ScriptedTool::kQcmdrun>          },
-    {"collect-arcconf",  Collect<ScriptedTool::kArcconf>          },
-    {"collect-hrconf",   Collect<ScriptedTool::kHrconf>           },
-    {"whole-qcmdrun",    CollectAndPublish<ScriptedTool::kQcmdrun>},
-    {"whole-arcconf",    CollectAndPublish<ScriptedTool::kArcconf>},
-    {"whole-hrconf",     CollectAndPublish<ScriptedTool::kHrconf> },
-    {"publish",          Publish                                  },
-    {"publish-idle",     PublishToIdleHost                        },
-    {"associations",     PublishAssociations                      },
-    {"first-query",      FirstQuery                               },
-    {"log-lines",        SplitLog                                 },
-    {"log-records",      ReadLog                                  },
-    {"log-publish-idle", PublishLogToIdleHost                     },
-    {"log-publish",      PublishLog                               },
+    {"split-qcmdrun",      SplitQcmdrun                             },
+    {"split-arcconf",      SplitArcconf                             },
+    {"split-hrconf",       SplitHrconf                              },
+    {"parse-qcmdrun",      ParseQcmdrun                             },
+    {"parse-arcconf",      ParseArcconf                             },
+    {"parse-hrconf",       ParseHrconf                              },
+    {"collect-qcmdrun",    Collect<ScriptedTool::kQcmdrun>          },
+    {"collect-arcconf",    Collect<ScriptedTool::kArcconf>          },
+    {"collect-hrconf",     Collect<ScriptedTool::kHrconf>           },
+    {"whole-qcmdrun",      CollectAndPublish<ScriptedTool::kQcmdrun>},
+    {"whole-arcconf",      CollectAndPublish<ScriptedTool::kArcconf>},
+    {"whole-hrconf",       CollectAndPublish<ScriptedTool::kHrconf> },
+    {"publish",            Publish                                  },
+    {"publish-idle",       PublishToIdleHost                        },
+    {"associations",       PublishAssociations                      },
+    {"first-query",        FirstQuery                               },
+    {"first-query-linked", FirstQueryLinked                         },
+    {"log-lines",          SplitLog                                 },
+    {"log-records",        ReadLog                                  },
+    {"log-publish-idle",   PublishLogToIdleHost                     },
+    {"log-publish",        PublishLog                               },
 };
 
 }  // namespace

@@ -43,8 +43,9 @@ struct PropertyReader {
   NKVRHXA20::TCIMValue operator()(std::string Record::*field) const {
     const std::string& held = std::get<const Record&>(records).*field;
     const std::string_view text = form(held);
-    // Most texts are published as they are held; those are not copied on the way.
-    return text.size() == held.size() ? held : std::string(text);
+    // Most texts are published as they are held, and those are not copied on the way.
+    if (text.size() == held.size()) return held;
+    return std::string(text);
   }
   template <class Record>
   NKVRHXA20::TCIMValue operator()(NKVRHXA20::TCIMDateTime Record::*field) const {
