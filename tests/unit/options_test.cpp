@@ -134,6 +134,13 @@ TEST(Options, SelectTheCommand) {
   EXPECT_EQ(ParseCommandLine({"schema"}).command, Command::kSchema);
 }
 
+TEST(Options, TakeTheFormatOfTheSchema) {
+  EXPECT_EQ(ParseCommandLine({"schema"}).schemaFormat, "mof");
+  EXPECT_EQ(ParseCommandLine({"schema", "--format", "markdown"}).schemaFormat, "markdown");
+  EXPECT_THROW(ParseCommandLine({"schema", "--format", "json"}), ProgramError);
+  EXPECT_THROW(ParseCommandLine({"schema", "--format", ""}), ProgramError);
+}
+
 TEST(Options, ShowHelpWithDefaultsAndExamples) {
   for (const std::vector<std::string>& arguments : {
            std::vector<std::string>{"--help" },
