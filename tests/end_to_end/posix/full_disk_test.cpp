@@ -81,7 +81,7 @@ TEST(FullDisk, IsReportedForFilesThatOptionsName) {
 }
 
 // The limit is 4 blocks of 1024 bytes; what is written is longer. Ignored, the signal becomes a failed write, as on a
-// disk that is full. Counts of lines are not written either, rather than in part.
+// disk that is full. Counts of lines go to a folder of their own, as they would be written in part.
 TEST(FullDisk, LeavesTheGoodResultThatWasThereBefore) {
   const std::string machine = Utf8FromPath(SampleMachine());
   const Case cases[] = {
@@ -93,11 +93,13 @@ TEST(FullDisk, LeavesTheGoodResultThatWasThereBefore) {
   };
   for (const Case& each : cases) {
     const TemporaryFolder folder;
+    const TemporaryFolder counts;
     const fs::path file = folder.Write("out", "good");
     Texts arguments = each.arguments;
     arguments.insert(arguments.end(), {"--output", Utf8FromPath(file)});
-    const ProgramResult shown =
-        RunFromShell("export GCOV_PREFIX=/dev/null; trap '' XFSZ; ulimit -f 4; exec \"$0\" \"$@\"", arguments);
+    const ProgramResult shown = RunFromShell(
+        "export GCOV_PREFIX='" + Utf8FromPath(counts.Path()) + "'; trap '' XFSZ; ulimit -f 4; exec \"$0\" \"$@\"",
+        arguments);
     EXPECT_EQ(shown.exitStatus, each.exitStatus) << each.name;
     ExpectOneLineAboutRoom(shown, each.name);
     EXPECT_EQ(FileText(file), "good") << each.name;
