@@ -318,7 +318,7 @@ struct Kind {
 // clang-format off
 constexpr Kind kKinds[] = {
     {"qcmdrun", "getconfig al", "*",
-     "CE  C  E  C  C  E  v  v  v  v  C  C  v"},
+     ".CE C  E  C  C  E  v  .v v  v  C  C  v"},
     {"qcmdrun", "getstatus device", "KVRSG_zxSCSIProtocolController",
      ".v  v  v  v  v  .  .  .  v  v  v  v  v"},
     {"qcmdrun", "getbst device", "KVRSG_BadStripeData KVRSG_ElementBadStripeData",
@@ -326,7 +326,7 @@ constexpr Kind kKinds[] = {
     {"qcmdrun", "getevent device", "KVRSG_zxSCSIDeviceData KVRSG_ElementZxScsiDeviceData",
      ".xE x  E  x  x  E  .  .  .  .  x  x  v"},
     {"qcmdrun", "getevent ddd", "KVRSG_LogRecord_zxDDD",
-     ".xE x  E  x  x  E  v  v  .  v  x  x  v"},
+     ".xE x  xE x  x  E  v  v  .  v  x  x  v"},
     {"qcmdrun", "getevent soft", "KVRSG_LogRecord_SoftEvent",
      ".xE x  xE x  x  E  .  .  .  .  x  x  v"},
     {"qcmdrun", "getevent hard", "KVRSG_LogRecord_HardEvent",
