@@ -31,6 +31,8 @@ constexpr const char* kMissing = "<missing>";       // in a folder that is there
 constexpr const char* kNowhere = "<nowhere>";       // in a folder that is not there
 constexpr const char* kUnderFile = "<under file>";  // in a file, as if that were a folder
 
+constexpr const char* kBundle = "<bundle>";  // of the sample machine
+
 struct Case {
   const char* name;
   const char* option;  // that the case is about; "" for operands and the like
@@ -40,45 +42,55 @@ struct Case {
 };
 
 const std::vector<Case> kQueryCases = {
-    {"a missing plug-in",           "--plugin",       {"query", "--plugin", kMissing},                        3, "--plugin"                 },
-    {"a folder as plug-in",         "--plugin",       {"query", "--plugin", kFolder},                         3, "--plugin"                 },
-    {"a text as plug-in",           "--plugin",       {"query", "--plugin", kFile},                           3, "--plugin"                 },
-    {"a missing directory",         "--directory",    {"query", "--directory", kMissing},                     2, "name the folder"          },
-    {"a file as directory",         "--directory",    {"query", "--directory", kFile},                        2, "name the folder"          },
-    {"an unknown class",            "--class",        {"query", "--class", "KVRSG_Nothing"},                  2, "\"hxahost classes\" lists"},
-    {"no name of a class",          "--class",        {"query", "--class"},                                   2, "hxahost query --help"     },
-    {"an empty class",              "--class",        {"query", "--class", ""},                               2, "give a value"             },
-    {"no repeat",                   "--repeat",       {"query", "--repeat", "0"},                             2, "a whole number from 1 on" },
-    {"a negative repeat",           "--repeat",       {"query", "--repeat=-1"},                               2, "a whole number from 1 on" },
-    {"a repeat past all numbers",   "--repeat",       {"query", "--repeat", "99999999999"},                   2, "a whole number from 1 on" },
-    {"a repeat in words",           "--repeat",       {"query", "--repeat", "twice"},                         2, "a whole number from 1 on" },
-    {"an unknown format",           "--format",       {"query", "--format", "yaml"},                          2, "give table or json"       },
-    {"a format of another command", "--format",       {"query", "--format", "prometheus"},                    2, "give table or json"       },
-    {"output in no folder",         "--output",       {"query", "--output", kNowhere},                        2, "name a file in a folder"  },
-    {"a folder as output",          "--output",       {"query", "--output", kFolder},                         2, "name a file in a folder"  },
-    {"output under a file",         "--output",       {"query", "--output", kUnderFile},                      2, "name a file in a folder"  },
-    {"a log in the output",         "--log",          {"query", "--log", kFile, "--output", kFile},           2, "name one file: name two"  },
-    {"a log in no folder",          "--log",          {"query", "--log", kNowhere},                           2, "--log"                    },
-    {"a folder as log",             "--log",          {"query", "--log", kFolder},                            2, "--log"                    },
-    {"a type past all types",       "--os-type",      {"query", "--os-type", "65536"},                        2, "a number from 0 to 65535" },
-    {"a type in words",             "--os-type",      {"query", "--os-type", "linux"},                        2, "a number from 0 to 65535" },
-    {"an empty machine name",       "--machine-name", {"query", "--machine-name", ""},                        2, "give a value"             },
-    {"a time in words",             "--local-time",   {"query", "--local-time", "noon"},                      2, "yyyymmddhhmmss.mmmmmmsutc"},
+    {"a missing plug-in",           "--plugin",       {"query", "--plugin", kMissing},                        3, "--plugin"                   },
+    {"a folder as plug-in",         "--plugin",       {"query", "--plugin", kFolder},                         3, "--plugin"                   },
+    {"a text as plug-in",           "--plugin",       {"query", "--plugin", kFile},                           3, "--plugin"                   },
+    {"a missing directory",         "--directory",    {"query", "--directory", kMissing},                     2, "name the folder"            },
+    {"a file as directory",         "--directory",    {"query", "--directory", kFile},                        2, "name the folder"            },
+    {"an unknown class",            "--class",        {"query", "--class", "KVRSG_Nothing"},                  2, "\"hxahost classes\" lists"  },
+    {"no name of a class",          "--class",        {"query", "--class"},                                   2, "hxahost query --help"       },
+    {"an empty class",              "--class",        {"query", "--class", ""},                               2, "give a value"               },
+    {"no repeat",                   "--repeat",       {"query", "--repeat", "0"},                             2, "a whole number from 1 on"   },
+    {"a negative repeat",           "--repeat",       {"query", "--repeat=-1"},                               2, "a whole number from 1 on"   },
+    {"a repeat past all numbers",   "--repeat",       {"query", "--repeat", "99999999999"},                   2, "a whole number from 1 on"   },
+    {"a repeat in words",           "--repeat",       {"query", "--repeat", "twice"},                         2, "a whole number from 1 on"   },
+    {"an unknown format",           "--format",       {"query", "--format", "yaml"},                          2, "give table or json"         },
+    {"a format of another command", "--format",       {"query", "--format", "prometheus"},                    2, "give table or json"         },
+    {"output in no folder",         "--output",       {"query", "--output", kNowhere},                        2, "name a file in a folder"    },
+    {"a folder as output",          "--output",       {"query", "--output", kFolder},                         2, "name a file in a folder"    },
+    {"output under a file",         "--output",       {"query", "--output", kUnderFile},                      2, "name a file in a folder"    },
+    {"a log in the output",         "--log",          {"query", "--log", kFile, "--output", kFile},           2, "name one file: name two"    },
+    {"a log in no folder",          "--log",          {"query", "--log", kNowhere},                           2, "--log"                      },
+    {"a folder as log",             "--log",          {"query", "--log", kFolder},                            2, "--log"                      },
+    {"a type past all types",       "--os-type",      {"query", "--os-type", "65536"},                        2, "a number from 0 to 65535"   },
+    {"a type in words",             "--os-type",      {"query", "--os-type", "linux"},                        2, "a number from 0 to 65535"   },
+    {"an empty machine name",       "--machine-name", {"query", "--machine-name", ""},                        2, "give a value"               },
+    {"a time in words",             "--local-time",   {"query", "--local-time", "noon"},                      2, "yyyymmddhhmmss.mmmmmmsutc"  },
     {"a month too many",
      "--local-time",                                  {"query", "--local-time", "20261305123015.250000+060"},
-     2,                                                                                                          "yyyymmddhhmmss.mmmmmmsutc"},
-    {"too narrow a page",           "--width",        {"query", "--width", "39"},                             2, "from 40 to 1000"          },
-    {"too wide a page",             "--width",        {"query", "--width", "1001"},                           2, "from 40 to 1000"          },
-    {"a width in words",            "--width",        {"query", "--width", "wide"},                           2, "from 40 to 1000"          },
-    {"a colour for the words",      "--color",        {"query", "--color", "red"},                            2, "auto, always or never"    },
+     2,                                                                                                          "yyyymmddhhmmss.mmmmmmsutc"  },
+    {"too narrow a page",           "--width",        {"query", "--width", "39"},                             2, "from 40 to 1000"            },
+    {"too wide a page",             "--width",        {"query", "--width", "1001"},                           2, "from 40 to 1000"            },
+    {"a width in words",            "--width",        {"query", "--width", "wide"},                           2, "from 40 to 1000"            },
+    {"a colour for the words",      "--color",        {"query", "--color", "red"},                            2, "auto, always or never"      },
     {"unread lines of one class",
      "--unread",                                      {"query", "--unread", "--class", "KVRSG_zxDiskDrive"},
-     2,                                                                                                          "leave --class out"        },
-    {"a value for the runs",        "--runs",         {"query", "--runs=some"},                               2, "hxahost query --help"     },
-    {"a value for ASCII",           "--ascii",        {"query", "--ascii=some"},                              2, "hxahost query --help"     },
-    {"a value for no progress",     "--no-progress",  {"query", "--no-progress=some"},                        2, "hxahost query --help"     },
-    {"an unknown option",           "",               {"query", "--colour", "never"},                         2, "hxahost query --help"     },
-    {"an operand",                  "",               {"query", "machine.json"},                              2, "hxahost query --help"     },
+     2,                                                                                                          "leave --class out"          },
+    {"a value for the runs",        "--runs",         {"query", "--runs=some"},                               2, "hxahost query --help"       },
+    {"a value for ASCII",           "--ascii",        {"query", "--ascii=some"},                              2, "hxahost query --help"       },
+    {"a bundle in no folder",       "--record",       {"query", "--record", kNowhere},                        2, "--record "                  },
+    {"a folder as bundle",          "--record",       {"query", "--record", kFolder},                         2, "--record "                  },
+    {"a bundle in the output",      "--record",       {"query", "--record", kFile, "--output", kFile},        2, "is named twice"             },
+    {"a mask for no bundle",        "--mask",         {"query", "--mask"},                                    2, "name one with --record"     },
+    {"a missing bundle",            "--replay",       {"query", "--replay", kMissing},                        2, "name a bundle that is there"},
+    {"a folder to be replayed",     "--replay",       {"query", "--replay", kFolder},                         2, "name a bundle that is there"},
+    {"a text to be replayed",       "--replay",       {"query", "--replay", kFile},                           2, "is no bundle of"            },
+    {"tools for a bundle",
+     "--replay",                                      {"query", "--replay", kBundle, "--directory", kFolder},
+     2,                                                                                                          "leave one of them out"      },
+    {"a value for no progress",     "--no-progress",  {"query", "--no-progress=some"},                        2, "hxahost query --help"       },
+    {"an unknown option",           "",               {"query", "--colour", "never"},                         2, "hxahost query --help"       },
+    {"an operand",                  "",               {"query", "machine.json"},                              2, "hxahost query --help"       },
 };
 
 const std::vector<Case> kHealthCases = {
@@ -94,6 +106,10 @@ const std::vector<Case> kHealthCases = {
     {"an empty machine name",   "--machine-name", {"health", "--machine-name", ""},           3, "give a value"                   },
     {"a time in words",         "--local-time",   {"health", "--local-time", "noon"},         3, "yyyymmddhhmmss.mmmmmmsutc"      },
     {"a value for the rules",   "--rules",        {"health", "--rules=some"},                 3, "hxahost health --help"          },
+    {"a folder as bundle",      "--record",       {"health", "--record", kFolder},            3, "--record "                      },
+    {"a mask for no bundle",    "--mask",         {"health", "--mask"},                       3, "name one with --record"         },
+    {"a missing bundle",        "--replay",       {"health", "--replay", kMissing},           3, "name a bundle that is there"    },
+    {"a text to be replayed",   "--replay",       {"health", "--replay", kFile},              3, "is no bundle of"                },
     {"a value for no progress", "--no-progress",  {"health", "--no-progress=some"},           3, "hxahost health --help"          },
     {"a class",                 "",               {"health", "--class", "KVRSG_zxDiskDrive"}, 3, "hxahost health --help"          },
 };
@@ -110,6 +126,31 @@ const std::vector<Case> kOtherCases = {
     {"a folder as result",        "",         {"diff", kFolder, kFile},                   2, "name a file that is there"},
     {"a text as result",          "",         {"diff", kFile, kFile},                     2, "is no result of"          },
     {"an unknown format",         "--format", {"diff", "--format", "html", kFile, kFile}, 2, "give text or json"        },
+};
+
+const std::vector<Case> kSchemaCases = {
+    {"an unknown format", "--format", {"schema", "--format", "yaml"}, 2, "give mof or "},
+};
+
+const std::vector<Case> kBundleCases = {
+    {"no subcommand",          "",      {"bundle"},                                             2, "hxahost bundle --help"      },
+    {"an unknown subcommand",  "",      {"bundle", "open", kBundle},                            2, "hxahost bundle --help"      },
+    {"no file to list",        "",      {"bundle", "list"},                                     2, "hxahost bundle --help"      },
+    {"a missing file to list", "",      {"bundle", "list", kMissing},                           2, "name a bundle that is there"},
+    {"a folder to list",       "",      {"bundle", "list", kFolder},                            2, "name a bundle that is there"},
+    {"a text to list",         "",      {"bundle", "list", kFile},                              2, "is no bundle of"            },
+    {"an item past the last",  "",      {"bundle", "show", kBundle, "999"},                     2, "999"                        },
+    {"an item in words",       "",      {"bundle", "show", kBundle, "all"},                     2, "all"                        },
+    {"a value for the bytes",  "--raw", {"bundle", "show", kBundle, "1", "--raw=some"},         2, "hxahost bundle --help"      },
+    {"output in no folder",
+     "--output",                        {"bundle", "show", kBundle, "1", "--output", kNowhere},
+     2,                                                                                            "name a file in a folder"    },
+    {"a folder as output",
+     "--output",                        {"bundle", "show", kBundle, "1", "--output", kFolder},
+     2,                                                                                            "name a file in a folder"    },
+    {"nothing to write to",    "",      {"bundle", "mask", kBundle},                            2, "hxahost bundle --help"      },
+    {"a folder to write to",   "",      {"bundle", "mask", kBundle, kFolder},                   2, "name a file in a folder"    },
+    {"a text to be masked",    "",      {"bundle", "mask", kFile, kMissing},                    2, "is no bundle of"            },
 };
 
 // One file with something good in it and one empty folder.
@@ -129,6 +170,7 @@ class UsageErrors : public testing::Test {
         {kUnderFile, "file/out"   },
     };
     for (std::string& argument : arguments) {
+      if (argument == kBundle) argument = ZENX_TEST_DATA "/golden/sample-machine.bundle";
       for (const auto& [mark, path] : marks) {
         if (argument == mark) argument = Utf8FromPath(folder_.Path() / path);
       }
@@ -159,8 +201,9 @@ class UsageErrors : public testing::Test {
 };
 
 // "  --plugin FILE   The plug-in ..."; the help itself cannot be given wrongly.
-std::set<std::string> OptionsOf(const std::string& command) {
-  std::istringstream help(RunHxahost({command, "--help"}).out);
+std::set<std::string> OptionsOf(Texts command) {
+  command.emplace_back("--help");
+  std::istringstream help(RunHxahost(command).out);
   std::set<std::string> options;
   for (std::string line; std::getline(help, line);) {
     const std::size_t begin = line.find_first_not_of(' ');
@@ -173,20 +216,31 @@ std::set<std::string> OptionsOf(const std::string& command) {
 
 TEST_F(UsageErrors, OfAQueryAreOneLineEachAndTouchNoFile) { Check(kQueryCases); }
 TEST_F(UsageErrors, OfHealthAreOneLineEachWithTheStatusForUnknown) { Check(kHealthCases); }
+TEST_F(UsageErrors, OfTheSchemaAreOneLineEach) { Check(kSchemaCases); }
+TEST_F(UsageErrors, OfBundlesAreOneLineEach) { Check(kBundleCases); }
 TEST_F(UsageErrors, OfTheOtherCommandsAreOneLineEach) { Check(kOtherCases); }
 
 TEST_F(UsageErrors, AreTestedForEveryOptionThatTheHelpNames) {
-  const std::pair<const char*, const std::vector<Case>&> commands[] = {
-      {"query",  kQueryCases },
-      {"health", kHealthCases},
-      {"diff",   kOtherCases },
+  const std::pair<Texts, const std::vector<Case>&> commands[] = {
+      {{"query"},          kQueryCases },
+      {{"health"},         kHealthCases},
+      {{"schema"},         kSchemaCases},
+      {{"bundle", "show"}, kBundleCases},
+      {{"diff"},           kOtherCases },
   };
   for (const auto& [command, cases] : commands) {
     std::set<std::string> tested;
     for (const Case& each : cases) {
       if (*each.option != '\0') tested.insert(each.option);
     }
-    EXPECT_EQ(OptionsOf(command), tested) << command;
+    EXPECT_EQ(OptionsOf(command), tested) << command.back();
+  }
+  for (const Texts& command : {
+           Texts{"classes"},
+           Texts{ "bundle",   "list"},
+           Texts{ "bundle",   "mask"}
+  }) {
+    EXPECT_EQ(OptionsOf(command), std::set<std::string>()) << command.back();
   }
 }
 
