@@ -16,7 +16,7 @@ using testing::Not;
 
 ProgramResult Tables(std::vector<std::string> further) {
   further.insert(further.begin(),
-                 {"query", "--directory", hxahost::Utf8FromPath(SampleMachine()), "--class", "KVRSG_zxDiskDrive"});
+                 {"query", "--replay", hxahost::Utf8FromPath(RecordedSampleMachine()), "--class", "KVRSG_zxDiskDrive"});
   return RunHxahost(further);
 }
 

@@ -16,6 +16,8 @@ ProgramResult RunHxahost(const std::vector<std::string>& arguments) {
   return RunningProgram(HxahostPath(), arguments).Wait();
 }
 
+fs::path RecordedSampleMachine() { return fs::path(ZENX_TEST_DATA) / "golden/sample-machine.bundle"; }
+
 fs::path SampleMachine() { return hxahost::ProgramFolder().parent_path() / "sample-machine"; }
 
 nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArguments) {

@@ -17,5 +17,8 @@ ProgramResult RunHxahost(const std::vector<std::string>& arguments);
 // The sample machine of this build.
 std::filesystem::path SampleMachine();
 
+// The sample machine as a bundle: quick where it does not matter that tools are run.
+std::filesystem::path RecordedSampleMachine();
+
 // What "hxahost query" on the sample machine shows as JSON, with the keys in their order. The query must succeed.
 nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArguments = {});
