@@ -4,7 +4,7 @@ if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang)
   message(FATAL_ERROR "Fuzzers are built with clang: use the preset fuzz")
 endif()
 add_library(fuzzed_code STATIC $<TARGET_OBJECTS:zenx_objects> $<TARGET_OBJECTS:hxahost_objects>)
-target_link_libraries(fuzzed_code PUBLIC host_interface plugin_manager)
+target_link_libraries(fuzzed_code PUBLIC host_interface plugin_manager platform_answers)
 
 sources_of(fuzz_support_sources fuzz/support)
 add_library(fuzz_support STATIC ${fuzz_support_sources})
@@ -25,7 +25,7 @@ sources_of(fuzz_material_sources fuzz/material)
 add_executable(fuzz_material ${fuzz_material_sources})
 target_link_libraries(fuzz_material PRIVATE fuzz_support)
 file(GLOB_RECURSE fuzz_material_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/machine/*
-     ${CMAKE_SOURCE_DIR}/tests/golden/* ${CMAKE_SOURCE_DIR}/tools/*.cpp ${CMAKE_SOURCE_DIR}/collect/*.cpp
+     ${CMAKE_SOURCE_DIR}/docs/bundle-format.md ${CMAKE_SOURCE_DIR}/tests/golden/* ${CMAKE_SOURCE_DIR}/tools/*.cpp ${CMAKE_SOURCE_DIR}/collect/*.cpp
      ${CMAKE_SOURCE_DIR}/logs/*.cpp ${CMAKE_SOURCE_DIR}/publish/*.cpp ${CMAKE_SOURCE_DIR}/host/hxahost/*.cpp)
 add_custom_command(
   OUTPUT ${CMAKE_BINARY_DIR}/material/stamp

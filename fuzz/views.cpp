@@ -5,6 +5,8 @@
 #include <sstream>
 #include <string>
 
+#include <boost/property_tree/ptree.hpp>
+#include <boost/property_tree/xml_parser.hpp>
 #include <nlohmann/json.hpp>
 
 #include "fuzz/support/fuzzer.h"
@@ -71,6 +73,41 @@ void CheckPage(const QueryHeader& header, const QueryResult& result) {
   RequireUtf8(page);
 }
 
+// CIM-XML is well-formed, holds every instance, and obeys nobody on a terminal.
+void CheckCimXml(const QueryHeader& header, const QueryResult& result) {
+  const std::string text = Shown("cim-xml", header, result);
+  std::string withoutTabs = text;
+  std::ranges::replace(withoutTabs, '\t', ' ');
+  RequirePlainLines(withoutTabs);
+  std::istringstream file(text);
+  boost::property_tree::ptree tree;
+  try {
+    boost::property_tree::read_xml(file, tree);
+  } catch (const boost::property_tree::xml_parser_error& error) {
+    Require(false, "XML is well-formed", error.what());
+  }
+  Require(CountOf(text, "<INSTANCE ") == result.instances.size(), "every instance is there once");
+}
+
+// Quotation marks that do not end or begin a string are escaped, so that each line has an even number of others.
+void CheckMof(const QueryHeader& header, const QueryResult& result) {
+  const std::string text = Shown("mof", header, result);
+  RequirePlainLines(text);
+  Require(CountOf(text, "\ninstance of ") == result.instances.size(), "every instance is there once");
+  for (const std::string& line : Split(text, '\n')) {
+    if (line.starts_with("//")) continue;
+    bool isInString = false;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+      if (line[at] == '\\' && isInString) {
+        ++at;
+      } else if (line[at] == '"') {
+        isInString = !isInString;
+      }
+    }
+    Require(!isInString, "every string ends on its line", line);
+  }
+}
+
 void CheckTables(const QueryHeader& header, const QueryResult& result) {
   for (const std::size_t width : {kNarrowestPage, std::size_t{100}, kWidestPage}) {
     const std::string tables = Shown("table", header, result, width);
@@ -106,6 +143,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const QueryResult result = ReadPublished(text.substr(std::min(nameEnd + 1, text.size())));
   CheckJson(header, result);
   CheckPage(header, result);
+  CheckCimXml(header, result);
+  CheckMof(header, result);
   CheckTables(header, result);
   CheckHealth(header, result);
   return 0;

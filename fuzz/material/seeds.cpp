@@ -167,6 +167,19 @@ Seeds SeedMaker::Views() const {
   return seeds;
 }
 
+// The document's example, and the sample machine's texts as those of runs.
+Seeds SeedMaker::Bundles() const {
+  const std::string page = FileText(sources_ / "docs/bundle-format.md");
+  const std::size_t begin = page.find("hxahost bundle 1\n");
+  Seeds seeds = {page.substr(begin, page.find("```", begin) - begin)};
+  for (const std::string& text : AllAnswers(sources_ / kAnswers)) {
+    seeds.push_back(std::string("MACHINE") + kSeparator + "C:\\tools" + kSeparator + "C:\\ZXM" + kSeparator +
+                    "day\tINF" + kSeparator + "getconfig\t" + text + kSeparator + "1not here" + kSeparator +
+                    "signal 11\t");
+  }
+  return seeds;
+}
+
 Seeds SeedMaker::Texts() const {
   Seeds seeds = AllAnswers(sources_ / kAnswers);
   seeds.insert(seeds.end(), {"\xc3\xbc\xe2\x80\xae\xf0\x9f\x92\xbe", "\x1b[2J\x07", "</script><!--", "\xe2\x80\xa8"});

@@ -22,6 +22,7 @@ class SeedMaker {
   Seeds DateTimes() const;
   Seeds Plugin() const;
   Seeds Views() const;
+  Seeds Bundles() const;
   Seeds Texts() const;
   Seeds Results() const;
 

@@ -94,7 +94,7 @@ std::vector<std::string> PropertyNames(const ResultInstance& old, const ResultIn
 
 // What a link names is compared where it is published; its own two properties change with the paths alone.
 void AddProperties(std::vector<Change>& changes, const ResultInstance& old, const ResultInstance& now) {
-  if (IsLink(old)) return;
+  if (IsLink(old) && IsLink(now)) return;
   for (const std::string& name : PropertyNames(old, now)) {
     Json before = ValueOf(old, name);
     Json after = ValueOf(now, name);

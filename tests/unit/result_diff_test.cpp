@@ -160,6 +160,17 @@ TEST(ResultDiff, LetsLinksFollowWhatTheyLink) {
             (Texts{"link disappeared ax", "link appeared bx"}));
 }
 
+TEST(ResultDiff, SeesALinkThatIsNoneBothWays) {
+  const ResultInstance link = Link("a", "b");
+  const ResultInstance none = Instance(link.className, link.path,
+                                       {
+                                           {"Dependent", "a"},
+                                           {"Strange",   "b"}
+  });
+  EXPECT_EQ(Changes(Result({link}), Result({none})).size(), 2U);
+  EXPECT_EQ(Changes(Result({none}), Result({link})).size(), 2U);
+}
+
 TEST(ResultDiff, PairsTheSeveralOfOnePathInTheirOrder) {
   EXPECT_EQ(Changes(Result({Disk("a", "1"), Disk("a", "2")}),
                     Result({Disk("a", "1"), Disk("a", "2", "Failed"), Disk("a", "3")})),

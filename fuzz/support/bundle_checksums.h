@@ -1,0 +1,8 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The text of a bundle with the sizes and checksums that belong to what stands in it, so that a change of it is not
+// refused for them alone.
+std::string WithChecksums(std::string_view text);
