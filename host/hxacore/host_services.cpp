@@ -42,10 +42,13 @@ ILogger* TRootObject::GetCoreLogger() { return &State().logger; }
 
 std::string TOSSpecific::GetMachineName() { return CurrentServices().machineName(); }
 TCIMDateTime TOSSpecific::GetLocalTime() { return CurrentServices().localTime(); }
+// The host's interface takes texts by value.
+// NOLINTBEGIN(performance-unnecessary-value-param)
 std::string TOSSpecific::SpawnProcess(std::string path, std::vector<std::string> arguments, int limitSeconds) {
   return CurrentServices().spawn(path, arguments, limitSeconds).output;
 }
 std::string TOSSpecific::CaptureFile(std::string path) { return CurrentServices().capture(path); }
+// NOLINTEND(performance-unnecessary-value-param)
 
 const char* const TCIMSchemaHelper::kContextName = "ContextName";
 const char* const TCIMSchemaHelper::kPluginNSPName = "plugin";
