@@ -47,7 +47,7 @@ set_tests_properties(binaries PROPERTIES TIMEOUT 120)
 if(NOT CMAKE_CROSSCOMPILING)
   add_test(NAME monitoring COMMAND ${CMAKE_SOURCE_DIR}/tests/monitoring/prometheus_test $<TARGET_FILE:hxahost>
                                    ${CMAKE_BINARY_DIR}/sample-machine ${CMAKE_BINARY_DIR}/results-monitoring.xml)
-  set_tests_properties(monitoring PROPERTIES TIMEOUT 300)
+  set_tests_properties(monitoring PROPERTIES TIMEOUT 900)
 endif()
 
 # Readers of CIM-XML and MOF that know nothing of the program take what the native one writes; the other system writes the
@@ -62,7 +62,7 @@ endif()
 if(CMAKE_CROSSCOMPILING)
   add_test(NAME documents COMMAND ${CMAKE_SOURCE_DIR}/tests/documentation/documents_test windows ${CMAKE_BINARY_DIR}
                                   ${CMAKE_BINARY_DIR}/results-documents.xml)
-  set_tests_properties(documents PROPERTIES TIMEOUT 600)
+  set_tests_properties(documents PROPERTIES TIMEOUT 900)
 endif()
 
 # The report in a real browser, natively alone: the page does not depend on the system that wrote it.
@@ -70,5 +70,5 @@ if(NOT CMAKE_CROSSCOMPILING)
   add_executable(report_pages tests/browser/report_pages.cpp)
   target_link_libraries(report_pages PRIVATE hxahost_objects)
   add_test(NAME browser COMMAND node ${CMAKE_SOURCE_DIR}/tests/browser/run.mjs ${CMAKE_BINARY_DIR})
-  set_tests_properties(browser PROPERTIES TIMEOUT 300)
+  set_tests_properties(browser PROPERTIES TIMEOUT 900)
 endif()
