@@ -8,7 +8,7 @@ const kBrowser = process.env.CHROMIUM || "/usr/bin/chromium";
 const kArguments = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
   "--disable-component-update", "--disable-sync"];
 
-const kMostSeconds = 60; // a test takes
+const kMostSeconds = 180; // a test takes
 
 const tests = [];
 
@@ -37,7 +37,7 @@ async function runOne(browser, { name, run }) {
   const troubles = [];
   const open = async (file, options = {}) => {
     const context = await browser.newContext({ viewport: { width: 1280, height: 900 }, offline: true, ...options });
-    context.setDefaultTimeout(20000);
+    context.setDefaultTimeout(60000);
     contexts.push(context);
     const page = await context.newPage();
     watch(page, file, troubles);
