@@ -97,9 +97,10 @@ void TryCuts(const std::string& text, const std::string& label, const Section& s
   isPart(CollectedData::TrimRight(text));
   isPart(CollectedData::ValueAfterColon(text));
   isPart(CutDeviceType(text));
-  for (int column = 1; column < 6; ++column) {
-    isPart(CutColumn(text, column));
-    isPart(CutLastColumn(text, column));
+  const TableRow row(text);
+  for (int column = 1; column < 10; ++column) {
+    isPart(row.Column(column));
+    isPart(row.LastColumn(column));
   }
   if (Contains(text, kDeviceNumberLabel)) isPart(CutDeviceName(text));
   if (Contains(text, label)) isPart(CutLogicalDriveNumber(text, label));

@@ -73,9 +73,9 @@ void ParseCodes(Record& record, CollectedData& text, std::string_view controller
 void ParseDddRow(ZenxEventDddData& record, const CollectedData& text, std::string_view controllerNumber,
                  std::uint32_t entryNumber) {
   record.Controller = controllerNumber;
-  const std::string_view line = text.CurrentLine();
-  for (const Column& column : kColumns) record.*column.field = CutColumn(line, column.number);
-  record.Descrip = CutLastColumn(line, kDescription);
+  const TableRow row(text.CurrentLine());
+  for (const Column& column : kColumns) record.*column.field = row.Column(column.number);
+  record.Descrip = row.LastColumn(kDescription);
   record.MessageTimestamp = TCIMDateTime(TimestampText(record.Date, record.Time));
   record.RecordID = FourHexDigits(entryNumber);
 }

@@ -79,8 +79,9 @@ void ParseBadStripe(ZenxBstData& record, const CollectedData& text, std::string_
 
 void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::string_view controllerNumber) {
   record.ControllerNum = controllerNumber;
+  const TableRow row(text.CurrentLine());
   for (const auto& [number, field, trailingBlanks] : kColumns) {
-    const std::string_view column = CutColumn(text.CurrentLine(), number);
+    const std::string_view column = row.Column(number);
     record.*field = trailingBlanks == TrailingBlanks::kDropped ? CollectedData::TrimRight(column) : column;
   }
   record.StatisticTime = TOSSpecific::GetLocalTime();

@@ -6,24 +6,31 @@ namespace {
 
 constexpr auto kNone = std::string_view::npos;
 
-std::size_t FindBar(std::string_view line, int number) {
-  std::size_t bar = line.find('|');
-  for (int passed = 1; passed < number && bar != kNone; ++passed) bar = line.find('|', bar + 1);
-  return bar;
-}
-
 }  // namespace
 
-std::string_view CutColumn(std::string_view line, int column) {
-  const std::size_t bar = FindBar(line, column);
-  const std::size_t next = bar == kNone ? kNone : line.find('|', bar + 1);
-  if (next == kNone || next == bar + 1) return {};
-  return CollectedData::TrimLeft(line.substr(bar + 1, next - 1 - (bar + 1)));
+TableRow::TableRow(std::string_view line) : line_(line) {
+  std::size_t next = 0;
+  for (std::size_t& bar : bars_) {
+    bar = next == kNone ? kNone : line.find('|', next);
+    next = bar == kNone ? kNone : bar + 1;
+  }
 }
 
-std::string_view CutLastColumn(std::string_view line, int column) {
-  const std::size_t bar = FindBar(line, column);
-  const std::size_t lineFeed = bar == kNone ? kNone : line.find('\n', bar);
+std::string_view TableRow::Column(int number) const {
+  const std::size_t bar = Bar(number);
+  const std::size_t next = Bar(number + 1);
+  if (next == kNone || next == bar + 1) return {};
+  return CollectedData::TrimLeft(line_.substr(bar + 1, next - 1 - (bar + 1)));
+}
+
+std::string_view TableRow::LastColumn(int number) const {
+  const std::size_t bar = Bar(number);
+  const std::size_t lineFeed = bar == kNone ? kNone : line_.find('\n', bar);
   if (lineFeed == kNone) return {};
-  return CollectedData::TrimLeft(line.substr(bar + 1, lineFeed - (bar + 1)));
+  return CollectedData::TrimLeft(line_.substr(bar + 1, lineFeed - (bar + 1)));
+}
+
+std::size_t TableRow::Bar(int number) const {
+  const auto index = static_cast<std::size_t>(number) - 1;
+  return index < bars_.size() ? bars_[index] : kNone;
 }
