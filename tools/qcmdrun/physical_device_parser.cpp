@@ -1,7 +1,7 @@
 #include "tools/qcmdrun/physical_device_parser.h"
 
 #include <algorithm>
-#include <string>
+#include <string_view>
 
 #include "collect/labelled_fields.h"
 #include "collect/records.h"
@@ -44,7 +44,7 @@ constexpr std::size_t kFullIdentifier = 28;
 
 // Takes the piece out of the identifier; where that is too short, what there is of it.
 void Cut(ZenxPhysicalDevice& device, const Piece& piece) {
-  const std::string& identifier = device.DeviceIdSuffix;
+  const std::string_view identifier = device.DeviceIdSuffix;
   device.*piece.field = identifier.substr(std::min(piece.offset, identifier.size()), piece.length);
 }
 
@@ -58,7 +58,7 @@ void CutHardDisk(ZenxPhysicalDevice& device) {
 void CutTape(ZenxPhysicalDevice& device) {
   constexpr std::size_t kLineEnd = 2;
   constexpr std::size_t kFirmware = 4;
-  const std::string& identifier = device.DeviceIdSuffix;
+  const std::string_view identifier = device.DeviceIdSuffix;
   const std::size_t end = identifier.size() - std::min(identifier.size(), kLineEnd);
   const std::size_t begin = end - std::min(end, kFirmware);
   device.Model = identifier;
