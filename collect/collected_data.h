@@ -1,17 +1,21 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "collect/host_handle.h"
 
+// Whether the text contains the label, in exact case.
+inline bool Contains(std::string_view text, std::string_view label) { return text.find(label) != text.npos; }
+
 // Reads one tool output line by line. Every line keeps its line feed; what follows the last one is dropped.
 // A view that an operation returns lives as long as the scanner. Reading where there is no line throws
 // std::out_of_range.
 class CollectedData {
  public:
-  CollectedData(HostHandle host, std::string_view text);
+  CollectedData(HostHandle host, std::string text);
   virtual ~CollectedData() = default;
   CollectedData(const CollectedData&) = delete;
   CollectedData& operator=(const CollectedData&) = delete;
@@ -22,9 +26,15 @@ class CollectedData {
   // The value of the line that FindLine finds.
   std::string_view FindValue(std::string_view label);
 
-  std::string_view CurrentLine() const;
-  std::string_view NextLine();
-  void StepBack();
+  std::string_view CurrentLine() const { return lines_.at(static_cast<std::size_t>(cursor_)); }
+  std::string_view NextLine() {
+    ++cursor_;
+    return CurrentLine();
+  }
+  void StepBack() { --cursor_; }
+
+  // All of it, with what follows the last line feed.
+  const std::string& WholeText() const { return text_; }
 
   std::string_view ValueOfCurrentLine() const;
 
@@ -44,11 +54,15 @@ class CollectedData {
   HostHandle Host() const { return host_; }
 
  private:
+  // Tools indent the labels of a section alike, so most stand where the one before them did.
+  bool IsLabelled(std::string_view line, std::string_view label) {
+    return line.substr(std::min(labelColumn_, line.size())).starts_with(label) || FindColumn(line, label);
+  }
+  bool FindColumn(std::string_view line, std::string_view label);
+
   const std::string text_;
   std::vector<std::string_view> lines_;  // of text_
   int cursor_ = 0;
+  std::size_t labelColumn_ = 0;  // where the label was that was found last
   HostHandle host_;
 };
-
-// Whether the text contains the label, in exact case.
-inline bool Contains(std::string_view text, std::string_view label) { return text.find(label) != text.npos; }

@@ -78,8 +78,19 @@ TEST(CollectedData, SteppingBackBeforeTheFirstLineFailsOnlyWhenItIsRead) {
 }
 
 TEST(CollectedData, KeepsNulAndHighBytes) {
-  CollectedData text(nullptr, std::string_view("a\0\xff : \x80\n", 8));
+  CollectedData text(nullptr, std::string("a\0\xff : \x80\n", 8));
   EXPECT_EQ(text.ValueOfCurrentLine(), " \x80\n");
+}
+
+TEST(CollectedData, FindsTheNextLineLabelWhereverItStandsInItsLine) {
+  CollectedData text(nullptr, "head\n   Size : 1\n   Name : 2\nSize : 3\n   a Size : 4\n   Name\n  \n   Sizes : 5\n");
+  EXPECT_EQ(text.NextLineValueIf("Size"), " 1\n");
+  EXPECT_EQ(text.NextLineValueIf("Name"), " 2\n");
+  EXPECT_EQ(text.NextLineValueIf("Size"), " 3\n");
+  EXPECT_EQ(text.NextLineValueIf("Size"), " 4\n");
+  EXPECT_EQ(text.NextLineValueIf("Size"), "");
+  EXPECT_EQ(text.NextLineValueIf("Size"), "");
+  EXPECT_EQ(text.NextLineValueIf("Size"), " 5\n");
 }
 
 }  // namespace

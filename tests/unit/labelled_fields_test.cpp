@@ -29,7 +29,7 @@ constexpr LabelledField<Disk> kStrictDisk[] = {
 };
 
 Disk InOrder(LabelTable<Disk> table, std::string_view lines) {
-  CollectedData text(nullptr, lines);
+  CollectedData text(nullptr, std::string(lines));
   Disk disk;
   ReadInOrder(text, disk, table);
   return disk;

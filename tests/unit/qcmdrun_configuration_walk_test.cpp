@@ -197,7 +197,7 @@ TEST_F(QcmdrunConfigurationWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay)
   std::size_t most = 0;
   for (std::size_t length = 0; length <= text.size(); ++length) {
     controller_ = ZenxController(&log_);
-    CollectedData scanner(&log_, std::string_view(text).substr(0, length));
+    CollectedData scanner(&log_, text.substr(0, length));
     try {
       qcmdrun::AttachLogicalDrives(controller_, scanner);
       qcmdrun::AttachStripeOrders(controller_, scanner);

@@ -213,7 +213,7 @@ TEST_F(QcmdrunLogWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay) {
     const std::string text = SampleAnswer("qcmdrun/1/" + logCase.answer);
     std::size_t read = 0;
     for (std::size_t length = 0; length <= text.size(); ++length) {
-      CollectedData scanner(&log_, std::string_view(text).substr(0, length));
+      CollectedData scanner(&log_, text.substr(0, length));
       try {
         logCase.attach(controller_, scanner);
         ++read;

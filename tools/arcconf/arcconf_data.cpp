@@ -1,5 +1,7 @@
 #include "tools/arcconf/arcconf_data.h"
 
+#include <utility>
+
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
 #include "collect/tool_answers.h"
@@ -106,19 +108,19 @@ void ArcconfData::RecordOutput(const ToolCommand& command, unsigned controllerNu
 
 void ArcconfData::ParseControllers(unsigned firstControllerNumber) {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
-    const std::string config = RunTool(kArcconf, host_, kGetConfig, number);
+    std::string config = RunTool(kArcconf, host_, kGetConfig, number);
     if (Contains(config, kNoControllers)) return;
     if (Contains(config, kDriverMismatch)) return arcconf::LogDriverMismatch(host_);
     if (Contains(config, kInvalidController) || config.empty()) continue;
-    ParseConfig(config, firstControllerNumber + number);
+    ParseConfig(std::move(config), firstControllerNumber + number);
   }
 }
 
-void ArcconfData::ParseConfig(const std::string& config, unsigned controllerNumber) {
-  CollectedData text(host_, config);
+void ArcconfData::ParseConfig(std::string config, unsigned controllerNumber) {
+  CollectedData text(host_, std::move(config));
   if (text.FindLine("Controller information").empty()) return;
   const auto controller = std::make_shared<ZenxController>(host_);
-  arcconf::ParseController(*controller, config, controllerNumber);
+  arcconf::ParseController(*controller, text.WholeText(), controllerNumber);
   if (!controller->Parsed) return;
   UntilEndOfText([&] { ReadLogicalDrives(*controller, text); });
   UntilEndOfText([&] { ReadPhysicalDevices(*controller, text); });

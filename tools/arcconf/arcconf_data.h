@@ -19,7 +19,7 @@ class ArcconfData {
   void RecordOutputs();
   void RecordOutput(const ToolCommand& command, unsigned controllerNumber);
   void ParseControllers(unsigned firstControllerNumber);
-  void ParseConfig(const std::string& config, unsigned controllerNumber);
+  void ParseConfig(std::string config, unsigned controllerNumber);
 
   ControllerList controllers_;
   RawDataList rawData_;

@@ -1,6 +1,7 @@
 #include "tools/hrconf/hrconf_data.h"
 
 #include <span>
+#include <utility>
 
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
@@ -128,16 +129,16 @@ void HrconfData::RecordOutput(const ToolCommand& command, unsigned controllerNum
 
 void HrconfData::ParseControllers(unsigned firstControllerNumber) {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
-    const std::string config = RunTool(kHrconf, host_, kGetConfig, number);
+    std::string config = RunTool(kHrconf, host_, kGetConfig, number);
     Log(host_, kLogRoutine, "HRCONFDATA-Getconfig " + std::to_string(number) + " al:\n" + config);
     if (Contains(config, kNoControllers)) return;
     if (Contains(config, kInvalidController) || config.empty()) continue;
-    ParseConfig(config, number, firstControllerNumber + number);
+    ParseConfig(std::move(config), number, firstControllerNumber + number);
   }
 }
 
-void HrconfData::ParseConfig(const std::string& config, unsigned toolNumber, unsigned controllerNumber) {
-  CollectedData text(host_, config);
+void HrconfData::ParseConfig(std::string config, unsigned toolNumber, unsigned controllerNumber) {
+  CollectedData text(host_, std::move(config));
   if (text.FindLine("Controller information").empty()) return;
   const auto versions = ReadVersions(toolNumber);
   const auto controller = std::make_shared<ZenxController>(host_);
@@ -154,7 +155,7 @@ std::shared_ptr<ZenxHrConfBios> HrconfData::ReadVersions(unsigned toolNumber) co
   std::string answer;
   if (!hrconf::IsOsVersion60(host_, getOsVersion_)) answer = RunTool(kHrconf, host_, kGetVersion, toolNumber);
   if (answer.empty()) answer = kNoVersions;
-  CollectedData text(host_, answer);
+  CollectedData text(host_, std::move(answer));
   auto versions = std::make_shared<ZenxHrConfBios>(host_);
   hrconf::ParseVersion(*versions, text);
   return versions;

@@ -22,7 +22,7 @@ class HrconfData {
   void RecordOutputs();
   void RecordOutput(const ToolCommand& command, unsigned controllerNumber);
   void ParseControllers(unsigned firstControllerNumber);
-  void ParseConfig(const std::string& config, unsigned toolNumber, unsigned controllerNumber);
+  void ParseConfig(std::string config, unsigned toolNumber, unsigned controllerNumber);
   std::shared_ptr<ZenxHrConfBios> ReadVersions(unsigned toolNumber) const;
 
   ControllerList controllers_;

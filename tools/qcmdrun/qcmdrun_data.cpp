@@ -1,6 +1,7 @@
 #include "tools/qcmdrun/qcmdrun_data.h"
 
 #include <string>
+#include <utility>
 
 #include "collect/collected_data.h"
 #include "collect/tool_answers.h"
@@ -91,16 +92,16 @@ void QcmdrunData::RecordAnswers() {
 // A controller without a list of devices gets its logs read but is not kept.
 QcmdrunData::Next QcmdrunData::CollectController(unsigned utilityNumber, unsigned firstControllerNumber) {
   Log(host_, kLogRoutine, "Looking for QCMRUN controller");
-  const std::string configuration = RunTool(kTool, host_, kGetConfig, utilityNumber);
+  std::string configuration = RunTool(kTool, host_, kGetConfig, utilityNumber);
   if (Contains(configuration, kNoneFound)) return Next::kStop;
   if (Contains(configuration, kAborted) || configuration.empty()) return Next::kGoOn;
 
   Log(host_, kLogRoutine, "configData is not empty!\n");
-  CollectedData text(host_, configuration);
+  CollectedData text(host_, std::move(configuration));
   if (text.FindLine("Controller information").empty()) return Next::kGoOn;
   Log(host_, kLogRoutine, "Found QCMRUN Controller information");
   const auto controller = std::make_shared<ZenxController>(host_);
-  qcmdrun::ParseController(*controller, configuration, firstControllerNumber + utilityNumber);
+  qcmdrun::ParseController(*controller, text.WholeText(), firstControllerNumber + utilityNumber);
   if (!controller->Parsed) return Next::kGoOn;
   controller->SlotDeviceId = LookupSlotDevice(host_, SlotNumber(*controller));
 
@@ -116,9 +117,9 @@ QcmdrunData::Next QcmdrunData::CollectController(unsigned utilityNumber, unsigne
 
 // False: the status was rejected.
 bool QcmdrunData::ReadStatus(ZenxController& controller, unsigned utilityNumber) const {
-  const std::string output = RunTool(kTool, host_, kGetStatus, utilityNumber);
+  std::string output = RunTool(kTool, host_, kGetStatus, utilityNumber);
   if (output.empty()) return true;
-  CollectedData text(host_, output);
+  CollectedData text(host_, std::move(output));
   try {
     parsers_.status(controller, text);
   } catch (const NKVRHXA20::THXAException&) {
