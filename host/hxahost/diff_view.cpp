@@ -64,7 +64,7 @@ void WriteRawTexts(std::ostream& out, const ResultDiff& diff) {
   for (const RawTextChange& change : diff.rawTexts) {
     constexpr char kMarks[] = {'-', '+', '!'};
     out << "  " << kMarks[static_cast<std::size_t>(change.kind)] << ' ' << Printable(change.command) << ": "
-        << change.linesGone << " lines gone, " << change.linesNew << " new\n";
+        << "lines gone " << change.linesGone << ", new " << change.linesNew << "\n";
   }
 }
 

@@ -59,7 +59,7 @@ TEST_F(Diff, ShowsAFailedDiskAndALostOneFirst) {
                         "DeviceID=\"C1 CH1 I05:TALVERA T36LW10 S96H8B01290\"\n  - KVRSG_zxDiskDriveVersion."));
   EXPECT_THAT(shown.out, HasSubstr("\n\nStates that changed: 1\n  ! KVRSG_zxDiskDrive."));
   EXPECT_THAT(shown.out, HasSubstr(": State \"Online\" -> \"Failed\"\n"));
-  EXPECT_THAT(shown.out, HasSubstr("  ! zenx//qcmdrun.exe getconfig 1 al: 8 lines gone, 0 new\n"));
+  EXPECT_THAT(shown.out, HasSubstr("  ! zenx//qcmdrun.exe getconfig 1 al: lines gone 8, new 0\n"));
 
   const Json json = Json::parse(RunHxahost({"diff", "--format", "json", before, after}).out);
   EXPECT_EQ(json["format"], 1);
