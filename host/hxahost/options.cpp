@@ -1,8 +1,6 @@
 #include "host/hxahost/options.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
 #include <span>
 
 #include <CLI/CLI.hpp>
@@ -10,52 +8,15 @@
 #include "host/hxahost/diff_view.h"
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/health_views.h"
-#include "host/hxahost/page.h"
+#include "host/hxahost/option_examples.h"
+#include "host/hxahost/option_values.h"
 #include "host/hxahost/schema_view.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/views.h"
-#include "plugin/host_interface/exception.h"
 
 namespace hxahost {
 
 namespace {
-
-constexpr const char* kExamples =
-    "Examples:\n"
-    "  hxahost query                                       run the tools in ./zenx, show what they say\n"
-    "  hxahost query --directory C:\\tools                  run the tools in C:\\tools\\zenx\n"
-    "  hxahost query --class KVRSG_zxLogicalDisk           the logical drives alone\n"
-    "  hxahost query --format json --output machine.json   everything, for a program to read\n"
-    "  hxahost query --format html --output report.html    everything, for a browser and for paper\n"
-    "  hxahost query --log log.txt                         with a log of every command that was run\n"
-    "\n"
-    "Exit status: 0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded.";
-
-constexpr const char* kHealthExamples =
-    "Examples:\n"
-    "  hxahost health                                                what is wrong, one line each, worst first\n"
-    "  hxahost health --directory C:\\tools                           with the tools in C:\\tools\\zenx\n"
-    "  hxahost health --format prometheus --output DIR/zenx.prom     for the node exporter's textfile collector\n"
-    "  hxahost health --rules                                        which words mean what\n"
-    "\n"
-    "Exit status, as monitoring programs want it: 0 nothing is wrong, 1 warning, 2 critical, 3 unknown. The worst\n"
-    "finding decides: critical over warning over unknown. What keeps the command from its answer is 3, too.";
-
-constexpr const char* kDiffExamples =
-    "Examples:\n"
-    "  hxahost diff monday.json friday.json                 what is worst first\n"
-    "  hxahost diff --format json monday.json friday.json   for a program to read\n"
-    "\n"
-    "Exit status: 0 nothing is different, 1 something is, 2 it could not be told.";
-
-constexpr const char* kClassesExamples =
-    "Examples:\n"
-    "  hxahost classes   what can be asked for with \"hxahost query --class NAME\"";
-
-constexpr const char* kSchemaExamples =
-    "Examples:\n"
-    "  hxahost schema > classes.mof      for a CIM server\n"
-    "  hxahost schema --format markdown  to read";
 
 // Options as they were typed; their meaning is read when all of them are there.
 struct TypedOptions {
@@ -69,56 +30,6 @@ struct TypedOptions {
   bool healthRules = false;
   std::string width;
 };
-
-[[noreturn]] void Reject(const std::string& option, const std::string& typed, const std::string& whatToGive) {
-  throw ProgramError(ExitStatus::kWrongArguments, option + " " + Printable("\"" + typed + "\"") + ": " + whatToGive);
-}
-
-// A decimal number and nothing else.
-std::optional<unsigned> WholeNumber(const std::string& text) {
-  unsigned number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || stop != end) return std::nullopt;
-  return number;
-}
-
-unsigned ReadRepeat(const std::string& text) {
-  const auto number = WholeNumber(text);
-  if (!number || *number == 0) Reject("--repeat", text, "give a whole number from 1 on.");
-  return *number;
-}
-
-std::optional<std::uint16_t> ReadOsType(const std::string& text) {
-  if (text == "none") return std::nullopt;
-  const auto number = WholeNumber(text);
-  if (!number || *number > std::numeric_limits<std::uint16_t>::max()) {
-    Reject("--os-type", text, "give a number from 0 to 65535, or none.");
-  }
-  return static_cast<std::uint16_t>(*number);
-}
-
-NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text) {
-  try {
-    return NKVRHXA20::TCIMDateTime(text);
-  } catch (const NKVRHXA20::THXAException&) {
-    Reject("--local-time", text,
-           "give a CIM date and time, yyyymmddhhmmss.mmmmmmsutc, such as 20260305123015.250000+060.");
-  }
-}
-
-unsigned ReadWidth(const std::string& text) {
-  const auto number = WholeNumber(text);
-  if (!number || *number < kNarrowestPage || *number > kWidestPage) {
-    Reject("--width", text, "give a whole number from 40 to 1000.");
-  }
-  return *number;
-}
-
-void CheckColor(const std::string& text) {
-  constexpr std::string_view kWords[] = {"auto", "always", "never"};
-  if (std::ranges::count(kWords, text) == 0) Reject("--color", text, "give auto, always or never.");
-}
 
 template <class AnyView>
 std::string FormatNames(std::span<const AnyView> views) {
@@ -223,14 +134,6 @@ struct TypedBundle {
   BundleOptions read;
   std::vector<std::string> items;
 };
-
-constexpr const char* kBundleExamples =
-    "Examples:\n"
-    "  hxahost query --record machine.bundle              collect, and keep all that was seen\n"
-    "  hxahost query --replay machine.bundle              the same result again, on any machine\n"
-    "  hxahost bundle list machine.bundle                 what is in it\n"
-    "  hxahost bundle show machine.bundle 3               what the third command printed\n"
-    "  hxahost bundle mask machine.bundle shared.bundle   without names and serial numbers";
 
 CLI::App* AddBundle(CLI::App& program, TypedBundle& typed) {
   CLI::App* const bundle = program.add_subcommand("bundle", "Look into what \"hxahost query --record\" wrote");

@@ -11,15 +11,14 @@
 
 #include "host/hxacore/host_services.h"
 #include "host/hxacore/repository.h"
-#include "host/hxahost/ascii_output.h"
 #include "host/hxahost/class_dependencies.h"
 #include "host/hxahost/collection_lock.h"
 #include "host/hxahost/exit_status.h"
-#include "host/hxahost/output_file.h"
-#include "host/hxahost/page.h"
 #include "host/hxahost/plugin.h"
 #include "host/hxahost/progress.h"
 #include "host/hxahost/query_log.h"
+#include "host/hxahost/query_output.h"
+#include "host/hxahost/query_paths.h"
 #include "host/hxahost/session_services.h"
 #include "host/hxahost/session_tape.h"
 #include "host/hxahost/system.h"
@@ -34,45 +33,6 @@ namespace fs = std::filesystem;
 namespace hxahost {
 
 namespace {
-
-// Paths on the command line are relative to where the program was started, not to where the tools run.
-struct Paths {
-  fs::path plugin;
-  fs::path log;
-  fs::path output;
-  fs::path record;
-  fs::path replay;
-};
-
-fs::path FromHere(const std::string& path) { return path.empty() ? fs::path() : fs::absolute(PathFromUtf8(path)); }
-
-Paths ReadPaths(const QueryOptions& options) {
-  if (!options.log.empty() && FromHere(options.log) == FromHere(options.output)) {
-    throw ProgramError(ExitStatus::kWrongArguments, "--log and --output name one file: name two.");
-  }
-  return {options.plugin.empty() ? ProgramFolder() / "zenx.pi" : FromHere(options.plugin), FromHere(options.log),
-          FromHere(options.output), FromHere(options.record), FromHere(options.replay)};
-}
-
-// On systems where a folder can be deleted while a program is in it.
-void CheckWorkingDirectory() {
-  std::error_code error;
-  const fs::path here = fs::current_path(error);
-  if (here.empty()) {
-    throw ProgramError(ExitStatus::kQueryFailed, "The working directory is gone or cannot be read (" +
-                                                     Printable(error.message()) + "): start hxahost in another one.");
-  }
-}
-
-void EnterDirectory(const std::string& directory) {
-  std::error_code error;
-  if (!directory.empty()) fs::current_path(PathFromUtf8(directory), error);
-  if (error) {
-    throw ProgramError(ExitStatus::kWrongArguments,
-                       "--directory " + Printable(directory) +
-                           " cannot be entered: name the folder that has the folder zenx with the tools in it.");
-  }
-}
 
 // The declared names, in the order asked for; all that the plug-in publishes where none was asked for.
 std::vector<std::string> DeclaredNames(const std::vector<std::string>& asked) {
@@ -105,7 +65,7 @@ std::optional<std::uint16_t> OsType(const QueryOptions& options, const SessionTa
   return tape.Played() != nullptr && !options.hasOsType ? tape.Played()->osType : options.osType;
 }
 
-void SetUp(SessionTape& tape, const QueryOptions& options, const Paths& paths) {
+void SetUp(SessionTape& tape, const QueryOptions& options, const QueryPaths& paths) {
   if (!paths.record.empty() && (paths.record == paths.output || paths.record == paths.log)) {
     throw ProgramError(ExitStatus::kWrongArguments, "--record " + Printable(options.record) +
                                                         " is named twice: give each output a file of its own.");
@@ -123,7 +83,7 @@ QueryHeader MakeHeader(const QueryOptions& options, const SessionTape& tape, con
 // Everything that a query needs, in the order in which it is set up.
 class Session {
  public:
-  Session(const QueryOptions& options, const Paths& paths, SessionTape& tape, std::ostream& err)
+  Session(const QueryOptions& options, const QueryPaths& paths, SessionTape& tape, std::ostream& err)
       : tape_(tape),
         log_(paths.log),
         progress_(options.showProgress && StandardErrorIsTerminal()
@@ -175,35 +135,28 @@ void EnterCollection(std::optional<CollectionLock>& lock, std::ostream& err) {
 
 void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
   CheckWorkingDirectory();
-  const Paths paths = ReadPaths(options);
+  const QueryPaths paths = ReadPaths(options);
   const std::vector<std::string> classes = DeclaredNames(options.classes);
   for (const std::string& line : MissingDependencies(classes)) err << "hxahost: " << line << std::endl;
   EnterDirectory(options.directory);
-  std::optional<OutputFile> file;
-  if (!paths.output.empty()) file.emplace(paths.output);
+  QueryOutput output(options, paths.output, out);
   SessionTape tape;
   SetUp(tape, options, paths);
   Session session(options, paths, tape, err);
   std::optional<CollectionLock> lock;
   if (paths.replay.empty()) EnterCollection(lock, err);
-  std::ostream& shown = file ? file->Stream() : out;
-  TAsciiBuffer asciiBuffer(shown);
-  std::ostream ascii(&asciiBuffer);
-  const bool isTable = options.format == Views().front().format;
-  std::ostream& page = isTable && IsAsciiPage(options) ? ascii : shown;
-  if (isTable) SetPage(page, PageFor(options));
   try {
-    session.Run(display, MakeHeader(options, tape, classes), page);
-    page.flush();
+    session.Run(display, MakeHeader(options, tape, classes), output.Stream());
+    output.Stream().flush();
   } catch (const ProgramError&) {
     throw;
   } catch (const std::exception& failure) {
     tape.Save(options.isMasked);  // whoever looks for the reason needs it most now
-    throw ProgramError(ExitStatus::kQueryFailed, "The query failed: " + Printable(failure.what()) +
-                                                     ". --log FILE shows how far it came." +
-                                                     (file ? "" : " What was written before this is not whole."));
+    throw ProgramError(ExitStatus::kQueryFailed,
+                       "The query failed: " + Printable(failure.what()) + ". --log FILE shows how far it came." +
+                           (output.IsFile() ? "" : " What was written before this is not whole."));
   }
-  if (file) file->Finish();
+  output.Finish();
   tape.Save(options.isMasked);
 }
 

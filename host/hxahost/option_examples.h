@@ -1,0 +1,52 @@
+#pragma once
+
+// What the help of the program and of each command closes with.
+
+namespace hxahost {
+
+inline constexpr const char* kExamples =
+    "Examples:\n"
+    "  hxahost query                                       run the tools in ./zenx, show what they say\n"
+    "  hxahost query --directory C:\\tools                  run the tools in C:\\tools\\zenx\n"
+    "  hxahost query --class KVRSG_zxLogicalDisk           the logical drives alone\n"
+    "  hxahost query --format json --output machine.json   everything, for a program to read\n"
+    "  hxahost query --format html --output report.html    everything, for a browser and for paper\n"
+    "  hxahost query --log log.txt                         with a log of every command that was run\n"
+    "\n"
+    "Exit status: 0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded.";
+
+inline constexpr const char* kHealthExamples =
+    "Examples:\n"
+    "  hxahost health                                                what is wrong, one line each, worst first\n"
+    "  hxahost health --directory C:\\tools                           with the tools in C:\\tools\\zenx\n"
+    "  hxahost health --format prometheus --output DIR/zenx.prom     for the node exporter's textfile collector\n"
+    "  hxahost health --rules                                        which words mean what\n"
+    "\n"
+    "Exit status, as monitoring programs want it: 0 nothing is wrong, 1 warning, 2 critical, 3 unknown. The worst\n"
+    "finding decides: critical over warning over unknown. What keeps the command from its answer is 3, too.";
+
+inline constexpr const char* kDiffExamples =
+    "Examples:\n"
+    "  hxahost diff monday.json friday.json                 what is worst first\n"
+    "  hxahost diff --format json monday.json friday.json   for a program to read\n"
+    "\n"
+    "Exit status: 0 nothing is different, 1 something is, 2 it could not be told.";
+
+inline constexpr const char* kClassesExamples =
+    "Examples:\n"
+    "  hxahost classes   what can be asked for with \"hxahost query --class NAME\"";
+
+inline constexpr const char* kSchemaExamples =
+    "Examples:\n"
+    "  hxahost schema > classes.mof      for a CIM server\n"
+    "  hxahost schema --format markdown  to read";
+
+inline constexpr const char* kBundleExamples =
+    "Examples:\n"
+    "  hxahost query --record machine.bundle              collect, and keep all that was seen\n"
+    "  hxahost query --replay machine.bundle              the same result again, on any machine\n"
+    "  hxahost bundle list machine.bundle                 what is in it\n"
+    "  hxahost bundle show machine.bundle 3               what the third command printed\n"
+    "  hxahost bundle mask machine.bundle shared.bundle   without names and serial numbers";
+
+}  // namespace hxahost

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "plugin/host_interface/date_time.h"
+
+// Values of options as they are typed. Each throws ProgramError, which names the option, shows what was typed and says
+// what to give.
+
+namespace hxahost {
+
+[[noreturn]] void Reject(const std::string& option, const std::string& typed, const std::string& whatToGive);
+
+// A decimal number and nothing else; throws nothing.
+std::optional<unsigned> WholeNumber(const std::string& text);
+
+// --repeat: how many times, from 1 on.
+unsigned ReadRepeat(const std::string& text);
+
+// --os-type: the number of a system, or none.
+std::optional<std::uint16_t> ReadOsType(const std::string& text);
+
+// --local-time: a CIM date and time.
+NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text);
+
+// --width: columns of the page.
+unsigned ReadWidth(const std::string& text);
+
+// --color: one of its words.
+void CheckColor(const std::string& text);
+
+}  // namespace hxahost
