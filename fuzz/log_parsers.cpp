@@ -38,7 +38,7 @@ std::shared_ptr<ZenxController> Walk(std::string_view text) {
   auto controller = std::make_shared<ZenxController>(TRootObject::GetCoreLogger());
   controller->ControllerNum = "1";
   for (const Attach attach : kWalks) {
-    CollectedData scanner(controller->Host, text);
+    CollectedData scanner(controller->Host, std::string(text));
     try {
       attach(*controller, scanner);
     } catch (const std::out_of_range&) {
