@@ -27,6 +27,10 @@ target_compile_options(planted_library PRIVATE -Wall -Wextra -Wpedantic -Wconver
 target_link_options(planted_library PRIVATE -static-libgcc -static-libstdc++)
 set_target_properties(planted_library PROPERTIES PREFIX "" OUTPUT_NAME planted SUFFIX .library)
 
+# Ten files of tests are compiled at a time: the headers of the test framework and of what is tested take longer than what
+# stands in a file. All that a file defines stands in a namespace named after it, so that files may use the same names.
+set(test_batches UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 10)
+
 # What all three levels use, compiled once.
 sources_of(test_support_sources tests/support)
 add_library(test_support OBJECT ${test_support_sources} tests/main.cpp)
@@ -39,6 +43,7 @@ target_compile_definitions(test_support PUBLIC ZENX_SAMPLES="${CMAKE_SOURCE_DIR}
 foreach(level unit host end_to_end)
   sources_of(sources tests/${level})
   add_executable(${level}_tests ${sources})
+  set_target_properties(${level}_tests PROPERTIES ${test_batches})
   target_link_libraries(${level}_tests PRIVATE test_support zenx_objects hxahost_objects)
   add_dependencies(${level}_tests hxahost zenx sample_machine test_child planted_library)
   add_test(NAME ${level} COMMAND ${level}_tests --gtest_brief=1 --gtest_output=xml:results-${level}.xml)

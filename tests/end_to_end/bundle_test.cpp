@@ -18,6 +18,7 @@
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 
+namespace bundle_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -250,3 +251,4 @@ TEST_F(Bundles, ThatAreDamagedNewerOrForeignAreRefusedInOneLine) {
 }
 
 }  // namespace
+}  // namespace bundle_test

@@ -8,6 +8,7 @@
 #include "plugin/host_interface/services.h"
 #include "tests/support/test_system.h"
 
+namespace capture_file_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -53,3 +54,4 @@ TEST_F(CaptureFile, SaysInOneLineWhichFileCannotBeReadAndWhy) {
 }
 
 }  // namespace
+}  // namespace capture_file_test

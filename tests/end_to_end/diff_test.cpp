@@ -10,6 +10,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/machine_copy.h"
 
+namespace diff_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -102,3 +103,4 @@ TEST_F(Diff, EndsWithStatus2AndOneLineWhereItCannotTell) {
 }
 
 }  // namespace
+}  // namespace diff_test

@@ -16,6 +16,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/raid_log_setting.h"
 
+namespace exchange_test {
 namespace {
 
 std::string Output(const std::vector<std::string>& arguments) {
@@ -53,3 +54,4 @@ TEST(Exchange, RefusesAFormatOfTheSchemaThatIsNone) {
 }
 
 }  // namespace
+}  // namespace exchange_test

@@ -17,6 +17,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
+namespace health_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -189,3 +190,4 @@ TEST_F(Health, ShowsItsRulesWithoutRunningATool) {
 }
 
 }  // namespace
+}  // namespace health_test

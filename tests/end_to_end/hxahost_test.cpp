@@ -15,6 +15,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
+namespace hxahost_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -213,3 +214,4 @@ TEST_F(Hxahost, LeavesNothingInTheFolderOfTheTools) {
 }
 
 }  // namespace
+}  // namespace hxahost_test

@@ -9,6 +9,7 @@
 #include "host/hxahost/text.h"
 #include "tests/support/hxahost_run.h"
 
+namespace page_test {
 namespace {
 
 using testing::HasSubstr;
@@ -47,3 +48,4 @@ TEST(PageOfAPipe, RejectsWrongValuesInOneLine) {
 }
 
 }  // namespace
+}  // namespace page_test

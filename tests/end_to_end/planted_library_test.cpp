@@ -12,6 +12,7 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"
 
+namespace planted_library_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -62,3 +63,4 @@ TEST_F(PlantedLibrary, WouldLeaveItsTrace) {
 }
 
 }  // namespace
+}  // namespace planted_library_test

@@ -17,6 +17,7 @@
 #include "host/hxahost/exit_status.h"
 #include "tests/support/test_system.h"
 
+namespace plugin_lifetime_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -83,7 +84,8 @@ TEST(PluginLifetime, QueriesWaitForEachOtherAndTheLibraryWorksAgainOnlyWhereItWa
     EXPECT_EQ(tools.TakeRuns(), 0) << "what was collected stays for the process";
   }
   const auto loadAgain = [&file] { const Plugin again(file); };
-  EXPECT_THAT(loadAgain, ThrowsMessage<ProgramError>(HasSubstr("loads a plug-in once"))) << "the library is there still";
+  EXPECT_THAT(loadAgain, ThrowsMessage<ProgramError>(HasSubstr("loads a plug-in once")))
+      << "the library is there still";
 
   if (!UnloadLibrary(file)) {
     EXPECT_THAT(loadAgain, ThrowsMessage<ProgramError>(HasSubstr("loads a plug-in once")));
@@ -95,3 +97,4 @@ TEST(PluginLifetime, QueriesWaitForEachOtherAndTheLibraryWorksAgainOnlyWhereItWa
 }
 
 }  // namespace
+}  // namespace plugin_lifetime_test

@@ -12,6 +12,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
+namespace report_test {
 namespace {
 
 using hxahost::Utf8FromPath;
@@ -64,3 +65,4 @@ TEST(Report, IsNotWrittenWhereTheQueryCannotBeMade) {
 }
 
 }  // namespace
+}  // namespace report_test

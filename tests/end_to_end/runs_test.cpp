@@ -11,6 +11,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/machine_copy.h"
 
+namespace runs_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -76,8 +77,7 @@ TEST(Runs, TellAMissingToolACutAnswerAndAnEmptyAnswerApart) {
   const ProgramResult result = RunHxahost({"query", "--directory", machine.Directory(), "--log", log});
   EXPECT_EQ(result.exitStatus, 0);
   EXPECT_THAT(result.out, HasSubstr("  qcmdrun: 80 runs, no controller answered, 80 not started, "));
-  EXPECT_THAT(result.out,
-              HasSubstr("    not started (80 runs, the first getconfig 1 al):"));
+  EXPECT_THAT(result.out, HasSubstr("    not started (80 runs, the first getconfig 1 al):"));
   EXPECT_THAT(result.out, HasSubstr("  Tools belong into the folder zenx of "));
   EXPECT_THAT(result.out, HasSubstr("  arcconf: 26 runs, 1 controller (2), numbers 3-8 refused, 3 cut off, 1 empty, "));
   EXPECT_THAT(result.out, HasSubstr("    cut off (3 runs, the first getconfig 1 al):\n      its last line is "));
@@ -98,3 +98,4 @@ TEST(Runs, SayThatNoControllerIsThereOnlyWhereEachToolSaysSo) {
 }
 
 }  // namespace
+}  // namespace runs_test

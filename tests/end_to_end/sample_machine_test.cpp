@@ -15,6 +15,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/raid_log_setting.h"
 
+namespace sample_machine_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -84,3 +85,4 @@ TEST(SampleMachine, NumbersLegacyThenHrconfThenArcconfControllers) {
 }
 
 }  // namespace
+}  // namespace sample_machine_test

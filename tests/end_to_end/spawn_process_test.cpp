@@ -14,6 +14,7 @@
 #include "plugin/host_interface/services.h"
 #include "tests/support/test_system.h"
 
+namespace spawn_process_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -359,3 +360,4 @@ TEST(SpawnProcess, FailuresLeaveNeitherHandlesNorChildren) {
 }
 
 }  // namespace
+}  // namespace spawn_process_test

@@ -10,6 +10,7 @@
 #include "host/hxacore/host_services.h"
 #include "tests/support/test_system.h"
 
+namespace spawn_result_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -47,3 +48,4 @@ TEST(SpawnResult, TellsAProgramThatCannotBeStartedFromOneThatTakesTooLong) {
 }
 
 }  // namespace
+}  // namespace spawn_result_test

@@ -11,6 +11,7 @@
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 
+namespace unread_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -81,3 +82,4 @@ TEST(Unread, NeedEveryClass) {
 }
 
 }  // namespace
+}  // namespace unread_test

@@ -16,6 +16,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
+namespace usage_errors_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -259,3 +260,4 @@ TEST_F(UsageErrors, LeaveAGoodResultWhereItIs) {
 }
 
 }  // namespace
+}  // namespace usage_errors_test

@@ -10,6 +10,7 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"
 
+namespace writable_tools_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -61,3 +62,4 @@ TEST_F(WritableTools, IncludeTheirFolderAndTheOneItLiesIn) {
 }
 
 }  // namespace
+}  // namespace writable_tools_test

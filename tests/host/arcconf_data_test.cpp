@@ -10,6 +10,7 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
+namespace arcconf_data_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -320,3 +321,4 @@ TEST_F(ArcconfDataTest, EndsABlockQuietlyAtTheEndOfTheTextAndReadsTheBlocksBehin
 }
 
 }  // namespace
+}  // namespace arcconf_data_test

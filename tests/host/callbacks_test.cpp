@@ -12,6 +12,7 @@
 #include "tests/support/raid_log_setting.h"
 #include "tests/support/scripted_services.h"
 
+namespace callbacks_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -105,3 +106,4 @@ TEST(Callbacks, TwoPlugInObjectsOfAProcessCollectOnceBetweenThem) {
 }
 
 }  // namespace
+}  // namespace callbacks_test

@@ -9,6 +9,7 @@
 #include "tools/qcmdrun/qcmdrun_data.h"
 
 // Machines that have all, some or none of the three utilities, with the controllers of the sample machine behind each.
+namespace collection_combinations_test {
 namespace {
 
 using NKVRHXA20::TRootObject;
@@ -59,7 +60,7 @@ struct Machine {
 
 std::map<std::string, std::string> AnswersOf(const Machine& machine) {
   std::map<std::string, std::string> answers;
-  for (const std::string& tool : machine.tools) answers.merge(SampleAnswers(tool));
+  for (const std::string& tool : machine.tools) answers.merge(AllAnswersOf(tool));
   return answers;
 }
 
@@ -123,3 +124,4 @@ TEST(CollectionCombinations, LogOneLineForEachFailureOfAMissingTool) {
 }
 
 }  // namespace
+}  // namespace collection_combinations_test

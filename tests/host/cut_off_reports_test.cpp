@@ -11,6 +11,7 @@
 #include "tools/hrconf/hrconf_data.h"
 
 // Reports of the sample machine, cut off anywhere: what stands before the cut is in the records, and nothing else is.
+namespace cut_off_reports_test {
 namespace {
 
 using NKVRHXA20::HostServices;
@@ -176,3 +177,4 @@ TEST(CutOffVersions, GiveWhatStandsBeforeTheCut) {
 }
 
 }  // namespace
+}  // namespace cut_off_reports_test

@@ -23,6 +23,7 @@
 
 // Every command of the sample machine, with everything that may go wrong with its answer, in turn: what that costs is
 // said by the tables below; all else is published as if nothing had happened.
+namespace fault_matrix_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -140,7 +141,7 @@ std::string KeyOf(const std::string& tool, const std::string& words, int number)
 // The commands that a controller of the tool is asked, "getconfig al".
 Texts WordsOf(const std::string& tool) {
   Texts all;
-  for (const auto& [key, answer] : SampleAnswers(tool)) {
+  for (const auto& [key, answer] : AllAnswersOf(tool)) {
     const std::string first = tool + " ";
     const std::size_t number = key.find(" 1", first.size());
     if (number == key.npos) continue;
@@ -161,7 +162,7 @@ Machine SampleMachine() {
   // Otherwise no higher number is asked for.
   machine["hrconf_64 getconfig 1 al"] = {"Controllers found: 1\r\nInvalid controller number.\r\n"};
   for (const Moved& controller : kControllers) {
-    auto answers = SampleAnswers(controller.tool);
+    auto answers = AllAnswersOf(controller.tool);
     for (const std::string& words : WordsOf(controller.tool)) {
       machine[KeyOf(controller.tool, words, controller.to)] = {
           answers.at(KeyOf(controller.tool, words, controller.from))};
@@ -557,3 +558,4 @@ TEST(FaultMatrix, TheWholeMachineHasFiveControllersWithNumbersOfTheirOwn) {
 }
 
 }  // namespace
+}  // namespace fault_matrix_test

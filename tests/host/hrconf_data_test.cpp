@@ -11,6 +11,7 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
+namespace hrconf_data_test {
 namespace {
 
 using NKVRHXA20::TRootObject;
@@ -352,3 +353,4 @@ TEST_F(HrconfDataTest, CompletesADeviceThatTheEndOfTheTextCutsOff) {
 }
 
 }  // namespace
+}  // namespace hrconf_data_test

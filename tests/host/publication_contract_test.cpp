@@ -10,6 +10,7 @@
 #include "tests/support/query_host.h"
 #include "tests/support/raid_log_machine.h"
 
+namespace publication_contract_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -121,3 +122,4 @@ TEST(PublicationContract, ReferencesNameInstancesOfTheDeclaredClassThatWerePubli
 }
 
 }  // namespace
+}  // namespace publication_contract_test

@@ -17,10 +17,11 @@
 #include "tests/support/tool_text.h"
 #include "tools/qcmdrun/status_parser.h"
 
+namespace qcmdrun_data_test {
+namespace {
+
 using NKVRHXA20::THXAException;
 using NKVRHXA20::TRootObject;
-
-namespace {
 
 using Texts = std::vector<std::string>;
 
@@ -525,3 +526,4 @@ TEST_F(QcmdrunDataCutOff, FailsWhereverItsListsOfDrivesOrDevicesAreCut) {
 }
 
 }  // namespace
+}  // namespace qcmdrun_data_test

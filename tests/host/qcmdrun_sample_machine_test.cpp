@@ -9,6 +9,7 @@
 #include "tests/support/qcmdrun_answers.h"
 #include "tools/qcmdrun/qcmdrun_data.h"
 
+namespace qcmdrun_sample_machine_test {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -290,3 +291,4 @@ TEST_F(QcmdrunSampleMachine, AnswersUnderNoOtherNumber) {
 }
 
 }  // namespace
+}  // namespace qcmdrun_sample_machine_test

@@ -10,6 +10,7 @@
 #include "tests/support/raid_log_machine.h"
 #include "tests/support/sample_answers.h"
 
+namespace query_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -248,3 +249,4 @@ TEST(Query, AsksForClassesInTheNameOfThePlugInNamespace) {
 }
 
 }  // namespace
+}  // namespace query_test

@@ -11,6 +11,7 @@
 #include "tools/hrconf/hrconf_data.h"
 
 // What arcconf and hrconf say of the sample machine, fact by fact.
+namespace sample_controllers_test {
 namespace {
 
 using NKVRHXA20::TRootObject;
@@ -60,7 +61,7 @@ Lines Commands(const RawDataList& rawData) {
 template <class Adapter>
 struct Sample {
   explicit Sample(const std::string& tool) : adapter(TRootObject::GetCoreLogger()) {
-    services.answers = SampleAnswers(tool);
+    services.answers = AllAnswersOf(tool);
     adapter.Collect(0);
   }
 
@@ -236,7 +237,7 @@ TEST(SampleControllers, AreTheSameWithLineFeedsAlone) {
   for (const std::string tool : {"arcconf", "hrconf_64"}) {
     const auto collect = [&](bool hasCarriageReturns) {
       ScriptedServices services;
-      services.answers = SampleAnswers(tool);
+      services.answers = AllAnswersOf(tool);
       for (auto& [command, text] : services.answers) {
         if (!hasCarriageReturns) std::erase(text, '\r');
       }
@@ -260,3 +261,4 @@ TEST(SampleControllers, AreTheSameWithLineFeedsAlone) {
 }
 
 }  // namespace
+}  // namespace sample_controllers_test

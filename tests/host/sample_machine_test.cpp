@@ -8,6 +8,7 @@
 #include "tests/support/raid_log_machine.h"
 #include "tests/support/sample_answers.h"
 
+namespace sample_machine_test {
 namespace {
 
 using testing::Each;
@@ -60,3 +61,4 @@ TEST(SampleMachine, NothingPublishedOfItsDevicesHasALineEnd) {
 }
 
 }  // namespace
+}  // namespace sample_machine_test

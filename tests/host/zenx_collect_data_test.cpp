@@ -12,9 +12,10 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
-using NKVRHXA20::TRootObject;
-
+namespace zenx_collect_data_test {
 namespace {
+
+using NKVRHXA20::TRootObject;
 
 using Texts = std::vector<std::string>;
 
@@ -202,3 +203,4 @@ TEST_F(ZenxCollectDataTest, StartsWithTheRecordsThatItIsGiven) {
 }
 
 }  // namespace
+}  // namespace zenx_collect_data_test

@@ -27,7 +27,7 @@ std::string SampleAnswer(const std::string& name) {
   return CrLf(std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()));
 }
 
-std::map<std::string, std::string> SampleAnswers(const std::string& tool) {
+std::map<std::string, std::string> AllAnswersOf(const std::string& tool) {
   std::map<std::string, std::string> answers;
   for (int controller = 1; controller <= 8; ++controller) {
     const std::string number = std::to_string(controller);

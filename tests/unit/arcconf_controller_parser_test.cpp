@@ -9,6 +9,7 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
+namespace arcconf_controller_parser_test {
 namespace {
 
 // In the order of a report; the sections' heads stand between.
@@ -232,3 +233,4 @@ TEST(ArcconfControllerParser, CutsAValueBehindOneBlankAndBeforeTheCarriageReturn
 }
 
 }  // namespace
+}  // namespace arcconf_controller_parser_test

@@ -4,6 +4,7 @@
 
 #include "tests/support/recording_log.h"
 
+namespace arcconf_driver_mismatch_test {
 namespace {
 
 TEST(ArcconfDriverMismatch, SaysItInOneLineWithSevenTabsAndInFullWithTwentyFourBlanks) {
@@ -25,3 +26,4 @@ TEST(ArcconfDriverMismatch, SaysItInOneLineWithSevenTabsAndInFullWithTwentyFourB
 }
 
 }  // namespace
+}  // namespace arcconf_driver_mismatch_test

@@ -6,6 +6,7 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
+namespace arcconf_logical_drive_parser_test {
 namespace {
 
 const Labels kLogicalDrive = {
@@ -75,3 +76,4 @@ TEST(ArcconfLogicalDriveParser, TakesALineWithoutAColonForAMiss) {
 }
 
 }  // namespace
+}  // namespace arcconf_logical_drive_parser_test

@@ -6,6 +6,7 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
+namespace arcconf_physical_device_parser_test {
 namespace {
 
 const Labels kUnknown = {
@@ -202,3 +203,4 @@ TEST(ArcconfPhysicalDeviceParser, KeepsWhatStandsBeforeTheEndOfTheText) {
 }
 
 }  // namespace
+}  // namespace arcconf_physical_device_parser_test

@@ -5,6 +5,7 @@
 #include "tests/support/filled_fields.h"
 #include "tests/support/tool_text.h"
 
+namespace arcconf_stripe_order_parser_test {
 namespace {
 
 struct Result {
@@ -61,3 +62,4 @@ TEST(ArcconfStripeOrderParser, IsCompleteAsFarAsItWasReadWhereTheTextEnds) {
 }
 
 }  // namespace
+}  // namespace arcconf_stripe_order_parser_test

@@ -4,6 +4,7 @@
 
 #include <sstream>
 
+namespace ascii_output_test {
 namespace {
 
 using hxahost::TAsciiBuffer;
@@ -53,3 +54,4 @@ TEST(AsciiOutput, FailsWhereTheOutputBehindItFails) {
 }
 
 }  // namespace
+}  // namespace ascii_output_test

@@ -8,6 +8,7 @@
 
 #include "plugin/host_interface/cim.h"
 
+namespace assertion_failed_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -34,3 +35,4 @@ TEST(AssertionFailed, IsNotWhatAFailedServiceThrows) {
 }
 
 }  // namespace
+}  // namespace assertion_failed_test

@@ -13,6 +13,7 @@
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"
 
+namespace bundle_command_test {
 namespace {
 
 using namespace hxahost;
@@ -122,3 +123,4 @@ TEST_F(BundleCommand, TellsBundlesFromOtherFiles) {
 }
 
 }  // namespace
+}  // namespace bundle_command_test

@@ -9,6 +9,7 @@
 #include "host/hxahost/bundle_format.h"
 #include "tests/support/sample_bundle.h"
 
+namespace bundle_mask_test {
 namespace {
 
 using namespace hxahost;
@@ -83,3 +84,4 @@ TEST(BundleMask, LeavesABundleWithNothingInItAsItIs) {
 }
 
 }  // namespace
+}  // namespace bundle_mask_test

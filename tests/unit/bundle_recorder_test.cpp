@@ -10,6 +10,7 @@
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"
 
+namespace bundle_recorder_test {
 namespace {
 
 using namespace hxahost;
@@ -86,3 +87,4 @@ TEST(BundleRecorder, KeepsTheBytesOfALogThatCannotBeCaptured) {
 }
 
 }  // namespace
+}  // namespace bundle_recorder_test

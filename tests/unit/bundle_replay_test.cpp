@@ -6,6 +6,7 @@
 #include "host/hxahost/exit_status.h"
 #include "tests/support/sample_bundle.h"
 
+namespace bundle_replay_test {
 namespace {
 
 using namespace hxahost;
@@ -114,3 +115,4 @@ TEST(BundleReplay, GivesTheLogOrTheReasonWhyItCouldNotBeCaptured) {
 }
 
 }  // namespace
+}  // namespace bundle_replay_test

@@ -6,6 +6,7 @@
 #include <limits>
 #include <string>
 
+namespace bundle_text_test {
 namespace {
 
 using namespace hxahost;
@@ -46,3 +47,4 @@ TEST(BundleText, WritesNumbersThatAreReadBackAsTheSame) {
 }
 
 }  // namespace
+}  // namespace bundle_text_test

@@ -9,6 +9,7 @@
 #include "host/hxacore/value_reader.h"
 #include "tests/support/filled_repository.h"
 
+namespace cim_xml_view_test {
 namespace {
 
 using namespace hxahost;
@@ -274,3 +275,4 @@ TEST(CimXmlView, HasAValueOfAMebibyteWhole) {
 }
 
 }  // namespace
+}  // namespace cim_xml_view_test

@@ -7,6 +7,7 @@
 
 #include "host/hxacore/schema.h"
 
+namespace class_dependencies_test {
 namespace {
 
 using namespace hxahost;
@@ -49,3 +50,4 @@ TEST(ClassDependencies, NameWhatIsMissingOrComesTooLate) {
 }
 
 }  // namespace
+}  // namespace class_dependencies_test

@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+namespace collected_data_test {
 namespace {
 
 TEST(CollectedData, LosesTheSecondOfTwoLinesWhenOnlyTheFirstEndsInALineFeed) {
@@ -94,3 +95,4 @@ TEST(CollectedData, FindsTheNextLineLabelWhereverItStandsInItsLine) {
 }
 
 }  // namespace
+}  // namespace collected_data_test

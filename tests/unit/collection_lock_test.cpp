@@ -9,6 +9,7 @@
 
 #include "tests/support/temporary_folder.h"
 
+namespace collection_lock_test {
 namespace {
 
 using hxahost::CollectionLock;
@@ -57,3 +58,4 @@ TEST(CollectionLock, IsDoneWithoutWhereTheFolderIsMissing) {
 }
 
 }  // namespace
+}  // namespace collection_lock_test

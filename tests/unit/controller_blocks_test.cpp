@@ -6,6 +6,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace controller_blocks_test {
 namespace {
 
 using namespace hxahost;
@@ -193,3 +194,4 @@ TEST(ControllerBlocks, AreTwoWhereTwoToolsGiveOneNumber) {
 }
 
 }  // namespace
+}  // namespace controller_blocks_test

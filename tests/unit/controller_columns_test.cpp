@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace controller_columns_test {
 namespace {
 
 using namespace hxahost;
@@ -24,3 +25,4 @@ TEST(ControllerColumns, NameDeclaredPropertiesOnly) {
 }
 
 }  // namespace
+}  // namespace controller_columns_test

@@ -5,6 +5,7 @@
 
 #include "plugin/host_interface/exception.h"
 
+namespace date_time_test {
 namespace {
 
 using NKVRHXA20::TCIMDateTime;
@@ -69,3 +70,4 @@ TEST(DateTime, RejectsATextThatIsNoDateAndTimeAndSaysWhy) {
 }
 
 }  // namespace
+}  // namespace date_time_test

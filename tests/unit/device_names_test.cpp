@@ -4,6 +4,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace device_names_test {
 namespace {
 
 using Properties = std::vector<std::pair<std::string, NKVRHXA20::TCIMValue>>;
@@ -76,3 +77,4 @@ TEST(DeviceNames, SayWhatTellsTheControllerFromAnotherOfItsNumber) {
 }
 
 }  // namespace
+}  // namespace device_names_test

@@ -9,6 +9,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace device_owners_test {
 namespace {
 
 using hxahost::DeviceOwners;
@@ -147,3 +148,4 @@ TEST(DeviceOwners, AreEmptyForDevicesWithoutANumber) {
 }
 
 }  // namespace
+}  // namespace device_owners_test

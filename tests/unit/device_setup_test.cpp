@@ -4,6 +4,7 @@
 
 #include "tests/support/recording_log.h"
 
+namespace device_setup_test {
 namespace {
 
 TEST(DeviceSetup, FindsNothingInASlotThatNoPresentDeviceIsIn) {
@@ -13,3 +14,4 @@ TEST(DeviceSetup, FindsNothingInASlotThatNoPresentDeviceIsIn) {
 }
 
 }  // namespace
+}  // namespace device_setup_test

@@ -10,6 +10,7 @@
 #include "host/hxahost/text.h"
 #include "tests/support/temporary_folder.h"
 
+namespace diff_command_test {
 namespace {
 
 using namespace hxahost;
@@ -86,3 +87,4 @@ TEST_F(DiffCommand, IsInTroubleWhereTheOutputCannotBeWritten) {
 }
 
 }  // namespace
+}  // namespace diff_command_test

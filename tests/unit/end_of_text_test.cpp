@@ -6,6 +6,7 @@
 
 #include "collect/collected_data.h"
 
+namespace end_of_text_test {
 namespace {
 
 TEST(EndOfText, EndsAPartQuietlyAndKeepsWhatWasRead) {
@@ -25,3 +26,4 @@ TEST(EndOfText, LetsOtherFailuresPass) {
 }
 
 }  // namespace
+}  // namespace end_of_text_test

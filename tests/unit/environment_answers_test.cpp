@@ -4,6 +4,7 @@
 
 #include "host/hxahost/system.h"
 
+namespace environment_answers_test {
 namespace {
 
 // A variable with another value while it lives.
@@ -60,3 +61,4 @@ TEST(EnvironmentAnswers, AreAskedForOnlyWhereTheVariableSaysSo) {
 }
 
 }  // namespace
+}  // namespace environment_answers_test

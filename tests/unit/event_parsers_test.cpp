@@ -10,9 +10,10 @@
 #include "plugin/host_interface/exception.h"
 #include "tests/support/tool_text.h"
 
-using NKVRHXA20::THXAException;
-
+namespace event_parsers_test {
 namespace {
+
+using NKVRHXA20::THXAException;
 
 ZenxEventDddData Row(const std::string& line, std::uint32_t entryNumber = 1) {
   const CollectedData text(nullptr, line);
@@ -143,3 +144,4 @@ TYPED_TEST(CodeLogParsers, ReadCodesAsTheCLibraryDoes) {
 TYPED_TEST(CodeLogParsers, FailWhereTheEndIsMissing) { EXPECT_THROW(this->Read("0001\n"), std::out_of_range); }
 
 }  // namespace
+}  // namespace event_parsers_test

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+namespace finding_diff_test {
 namespace {
 
 using namespace hxahost;
@@ -119,3 +120,4 @@ TEST(FindingDiff, ReadsTheLogOfBoth) {
 }
 
 }  // namespace
+}  // namespace finding_diff_test

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace finding_json_test {
 namespace {
 
 using namespace hxahost;
@@ -14,3 +15,4 @@ TEST(FindingJson, HasItsKeysInTheOrderThatProgramsSee) {
 }
 
 }  // namespace
+}  // namespace finding_json_test

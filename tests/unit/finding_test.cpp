@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace finding_test {
 namespace {
 
 using namespace hxahost;
@@ -43,3 +44,4 @@ TEST(Finding, TheWorstOfAllCounts) {
 }
 
 }  // namespace
+}  // namespace finding_test

@@ -4,6 +4,7 @@
 
 #include <string>
 
+namespace finding_text_test {
 namespace {
 
 using namespace hxahost;
@@ -37,3 +38,4 @@ TEST(FindingText, CutsAPageOfText) {
 }
 
 }  // namespace
+}  // namespace finding_text_test

@@ -11,6 +11,7 @@
 #include "host/hxahost/health.h"
 #include "tests/support/healthy_machine.h"
 
+namespace health_rules_test {
 namespace {
 
 using namespace hxahost;
@@ -251,3 +252,4 @@ TEST(HealthRules, AreFoundByTheirWord) {
 }
 
 }  // namespace
+}  // namespace health_rules_test

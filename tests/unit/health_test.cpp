@@ -10,6 +10,7 @@
 #include "host/hxahost/published_text.h"
 #include "tests/support/healthy_machine.h"
 
+namespace health_test {
 namespace {
 
 using namespace hxahost;
@@ -225,3 +226,4 @@ TEST(Health, AsksForLogicalDrivesBeforeTheirBadStripes) {
 }
 
 }  // namespace
+}  // namespace health_test

@@ -15,6 +15,7 @@
 #include "tests/support/file_text.h"
 #include "tests/support/healthy_machine.h"
 
+namespace health_views_test {
 namespace {
 
 using namespace hxahost;
@@ -194,3 +195,4 @@ TEST(HealthRulesText, ShowsEachRule) {
 }
 
 }  // namespace
+}  // namespace health_views_test

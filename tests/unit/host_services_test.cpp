@@ -10,6 +10,7 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/test_system.h"
 
+namespace host_services_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -57,3 +58,4 @@ TEST(HostServices, ALoggerThatAPlugInKeepsFollowsTheServices) {
 }
 
 }  // namespace
+}  // namespace host_services_test

@@ -6,6 +6,7 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
+namespace hrconf_controller_parser_test {
 namespace {
 
 const Labels kController = {
@@ -80,3 +81,4 @@ TEST(HrconfControllerParser, LeavesATextWithoutControllerInformationUnmarked) {
 }
 
 }  // namespace
+}  // namespace hrconf_controller_parser_test

@@ -6,6 +6,7 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
+namespace hrconf_logical_drive_parser_test {
 namespace {
 
 const Labels kLogicalDrive = {
@@ -57,3 +58,4 @@ TEST(HrconfLogicalDriveParser, KeepsWhatStandsBeforeTheEndOfTheText) {
 }
 
 }  // namespace
+}  // namespace hrconf_logical_drive_parser_test

@@ -5,6 +5,7 @@
 #include "tests/support/filled_fields.h"
 #include "tests/support/tool_text.h"
 
+namespace hrconf_stripe_order_parser_test {
 namespace {
 
 struct Result {
@@ -58,3 +59,4 @@ TEST(HrconfStripeOrderParser, IsCompleteAsFarAsItWasReadWhereTheTextEnds) {
 }
 
 }  // namespace
+}  // namespace hrconf_stripe_order_parser_test

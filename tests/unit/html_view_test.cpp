@@ -11,6 +11,7 @@
 #include "host/hxahost/report_template.h"
 #include "tests/support/filled_repository.h"
 
+namespace html_view_test {
 namespace {
 
 using namespace hxahost;
@@ -103,3 +104,4 @@ TEST(HtmlView, IsAsLongAsThePageAndItsDataTogether) {
 }
 
 }  // namespace
+}  // namespace html_view_test

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace identifiers_test {
 namespace {
 
 TEST(Identifiers, NameAControllerAndItsLogicalDisks) {
@@ -57,3 +58,4 @@ TEST(Identifiers, NameStatisticsByTheTextsAsHeld) {
 }
 
 }  // namespace
+}  // namespace identifiers_test

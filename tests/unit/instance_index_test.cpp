@@ -4,6 +4,7 @@
 
 #include "tests/support/publishing.h"
 
+namespace instance_index_test {
 namespace {
 
 // The property "Name" of the instances that are found under a key.
@@ -40,3 +41,4 @@ TEST(InstanceIndex, FindsNothingUnderAnyOtherKey) {
 }
 
 }  // namespace
+}  // namespace instance_index_test

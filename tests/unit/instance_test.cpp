@@ -7,6 +7,7 @@
 #include "host/hxacore/value_reader.h"
 #include "plugin/host_interface/exception.h"
 
+namespace instance_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -108,3 +109,4 @@ TEST_F(Instance, NamesALinkByWhatItLinks) {
 }
 
 }  // namespace
+}  // namespace instance_test

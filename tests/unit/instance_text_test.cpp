@@ -6,6 +6,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace instance_text_test {
 namespace {
 
 using namespace hxahost;
@@ -31,7 +32,7 @@ TEST(InstanceText, ShowsEveryKindOfValue) {
   repository.Publish("KVRSG_zxStripeOrderForController", {
                                                              {"Dependent", group}
   });
-  const InstanceList instances = repository.Instances();
+  const hxahost::InstanceList instances = repository.Instances();
   EXPECT_EQ(PropertyText(*instances[1], "NumEntries"), "2");
   EXPECT_EQ(PropertyText(*instances[1], "MessageTimestamp"), "2026-03-05 12:30:15 -05:30");
   EXPECT_EQ(PropertyText(*instances[1], "HexHardEvent"), "0xdeadbeef, 0x00000007");
@@ -70,3 +71,4 @@ TEST(InstanceText, WritesNoHeadingWithoutInstances) {
 }
 
 }  // namespace
+}  // namespace instance_text_test

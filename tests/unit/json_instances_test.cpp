@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+namespace json_instances_test {
 namespace {
 
 using namespace hxahost;
@@ -80,3 +81,4 @@ TEST(JsonInstances, LeaveOutTimesAndNumbersThatAreNone) {
 }
 
 }  // namespace
+}  // namespace json_instances_test

@@ -8,6 +8,7 @@
 #include "host/hxahost/exit_status.h"
 #include "tests/support/temporary_folder.h"
 
+namespace json_result_test {
 namespace {
 
 using hxahost::JsonResult;
@@ -128,3 +129,4 @@ TEST(JsonResult, RejectsAFileThatIsNotThere) {
 }
 
 }  // namespace
+}  // namespace json_result_test

@@ -8,6 +8,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace json_view_test {
 namespace {
 
 using namespace hxahost;
@@ -213,3 +214,4 @@ TEST(JsonView, ShowsAnEmptyArrayAndAnEmptyValue) {
 }
 
 }  // namespace
+}  // namespace json_view_test

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+namespace labelled_fields_test {
 namespace {
 
 struct Disk {
@@ -134,3 +135,4 @@ TEST(LabelledFields, LooksForASectionValueOnlyWhereTheSectionAllows) {
 }
 
 }  // namespace
+}  // namespace labelled_fields_test

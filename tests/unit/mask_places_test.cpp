@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+namespace mask_places_test {
 namespace {
 
 using namespace hxahost;
@@ -62,3 +63,4 @@ TEST(MaskPlaces, InTheToolsLogsAreQuotedTextsProse) {
 }
 
 }  // namespace
+}  // namespace mask_places_test

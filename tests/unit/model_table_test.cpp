@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace model_table_test {
 namespace {
 
 constexpr ModelName kModels[] = {
@@ -20,3 +21,4 @@ TEST(ModelTable, KeepsAModelThatNoRowKnows) {
 }
 
 }  // namespace
+}  // namespace model_table_test

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+namespace mof_text_test {
 namespace {
 
 using namespace hxahost;
@@ -55,3 +56,4 @@ TEST(MofText, HasAMebibyteWhole) {
 }
 
 }  // namespace
+}  // namespace mof_text_test

@@ -9,6 +9,7 @@
 #include "host/hxacore/value_reader.h"
 #include "tests/support/filled_repository.h"
 
+namespace mof_view_test {
 namespace {
 
 using namespace hxahost;
@@ -146,3 +147,4 @@ TEST(MofView, LetsTheMachinesNameEndNoComment) {
 }
 
 }  // namespace
+}  // namespace mof_view_test

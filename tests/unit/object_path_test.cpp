@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace object_path_test {
 namespace {
 
 using namespace hxahost;
@@ -34,3 +35,4 @@ TEST(ObjectPath, ReadsEachKeyByItself) {
 }
 
 }  // namespace
+}  // namespace object_path_test

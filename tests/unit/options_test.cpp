@@ -7,6 +7,7 @@
 
 #include "host/hxahost/exit_status.h"
 
+namespace options_test {
 namespace {
 
 using namespace hxahost;
@@ -244,3 +245,4 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
 }
 
 }  // namespace
+}  // namespace options_test

@@ -8,6 +8,7 @@
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 
+namespace output_file_test {
 namespace {
 
 using namespace hxahost;
@@ -61,3 +62,4 @@ TEST(OutputFile, RefusesAFolderAndAFileInAFolderThatIsMissing) {
 }
 
 }  // namespace
+}  // namespace output_file_test

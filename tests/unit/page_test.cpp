@@ -8,6 +8,7 @@
 #include "host/hxahost/table.h"
 #include "host/hxahost/text.h"
 
+namespace page_test {
 namespace {
 
 using namespace hxahost;
@@ -74,3 +75,4 @@ TEST(Page, ColoursStatesWithoutMovingWhatStandsBehindThem) {
 }
 
 }  // namespace
+}  // namespace page_test

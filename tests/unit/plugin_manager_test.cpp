@@ -6,6 +6,7 @@
 #include "plugin/host_interface/exception.h"
 #include "plugin/host_interface/services.h"
 
+namespace plugin_manager_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -74,3 +75,4 @@ TEST_F(PluginManager, HasNoClassOfItsOwn) {
 }
 
 }  // namespace
+}  // namespace plugin_manager_test

@@ -5,6 +5,7 @@
 
 #include <sstream>
 
+namespace program_test {
 namespace {
 
 using namespace hxahost;
@@ -44,3 +45,4 @@ TEST(Program, FailsWhenOutTakesNothing) {
 }
 
 }  // namespace
+}  // namespace program_test

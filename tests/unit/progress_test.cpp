@@ -5,6 +5,7 @@
 
 #include <sstream>
 
+namespace progress_test {
 namespace {
 
 using namespace hxahost;
@@ -82,3 +83,4 @@ TEST(Progress, IsOutOfTheWayBeforeOthersWrite) {
 }
 
 }  // namespace
+}  // namespace progress_test

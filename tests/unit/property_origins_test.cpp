@@ -13,6 +13,7 @@
 #include "host/hxacore/schema.h"
 #include "tests/support/file_text.h"
 
+namespace property_origins_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -202,3 +203,4 @@ TEST(PropertyOrigins, AreALineForEachToolAndOneInWords) {
 }
 
 }  // namespace
+}  // namespace property_origins_test

@@ -4,6 +4,7 @@
 
 #include "tests/support/fake_namespace.h"
 
+namespace property_table_test {
 namespace {
 
 using NKVRHXA20::TCIMDateTime;
@@ -59,3 +60,4 @@ TEST(PropertyTable, PublishesFieldsAsHeldWhereThatIsAskedFor) {
 }
 
 }  // namespace
+}  // namespace property_table_test

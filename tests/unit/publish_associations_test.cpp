@@ -7,6 +7,7 @@
 #include "publish/identifiers.h"
 #include "tests/support/publishing.h"
 
+namespace publish_associations_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -361,3 +362,4 @@ TEST(PublishAssociations, OfControllersEqualWhatLookingAtEveryPairGives) {
 }
 
 }  // namespace
+}  // namespace publish_associations_test

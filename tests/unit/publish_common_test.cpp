@@ -8,6 +8,7 @@
 #include "tests/support/fake_namespace.h"
 #include "tests/support/recording_log.h"
 
+namespace publish_common_test {
 namespace {
 
 TEST(PublishCommon, AControllerListThatCannotBeReadIsLoggedAndCountsAsEmpty) {
@@ -56,3 +57,4 @@ TEST(PublishCommon, AnArrayHoldsTheTextsInOrder) {
 }
 
 }  // namespace
+}  // namespace publish_common_test

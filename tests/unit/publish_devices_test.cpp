@@ -5,6 +5,7 @@
 #include "tests/support/device_fields.h"
 #include "tests/support/publishing.h"
 
+namespace publish_devices_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -193,3 +194,4 @@ TEST(PublishDevices, DrivesAreListedControllerByControllerInListOrder) {
 }
 
 }  // namespace
+}  // namespace publish_devices_test

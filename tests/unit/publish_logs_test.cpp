@@ -6,6 +6,7 @@
 #include "tests/support/publishing.h"
 #include "tests/support/raid_log_machine.h"
 
+namespace publish_logs_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -132,3 +133,4 @@ TEST(PublishLogs, AnEmptyRaidManagerLogIsNoWarningAndNoInstance) {
 }
 
 }  // namespace
+}  // namespace publish_logs_test

@@ -5,6 +5,7 @@
 #include "tests/support/log_fields.h"
 #include "tests/support/publishing.h"
 
+namespace publish_statistics_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -143,3 +144,4 @@ TEST(PublishStatistics, WithoutRecordsNothingIsPublishedOrLogged) {
 }
 
 }  // namespace
+}  // namespace publish_statistics_test

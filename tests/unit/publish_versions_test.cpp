@@ -4,6 +4,7 @@
 
 #include "tests/support/publishing.h"
 
+namespace publish_versions_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -138,3 +139,4 @@ TEST(PublishVersions, OnlyTheInstanceOfAHardDiskNamesAManufacturer) {
 }
 
 }  // namespace
+}  // namespace publish_versions_test

@@ -8,9 +8,10 @@
 #include "tests/support/table_cases.h"
 #include "tests/support/tool_text.h"
 
-using qcmdrun::ParseController;
-
+namespace qcmdrun_controller_parser_test {
 namespace {
+
+using qcmdrun::ParseController;
 
 const FieldCases<ZenxController> kLabels = {
     {"Controller type",                 &ZenxController::ControllerType             },
@@ -157,3 +158,4 @@ TEST(QcmdrunControllerParser, ReadsACutOffAnswerUpToItsLastWholeLine) {
 }
 
 }  // namespace
+}  // namespace qcmdrun_controller_parser_test

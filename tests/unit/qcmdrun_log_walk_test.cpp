@@ -17,6 +17,7 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
+namespace qcmdrun_log_walk_test {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -226,3 +227,4 @@ TEST_F(QcmdrunLogWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay) {
 }
 
 }  // namespace
+}  // namespace qcmdrun_log_walk_test

@@ -10,6 +10,7 @@
 #include "tests/support/table_cases.h"
 #include "tests/support/tool_text.h"
 
+namespace qcmdrun_physical_device_parser_test {
 namespace {
 
 const FieldCases<ZenxPhysicalDevice> kLabels = {
@@ -168,3 +169,4 @@ TEST(QcmdrunPhysicalDeviceParser, FailsWhereTheTextEndsInsideTheBlock) {
 }
 
 }  // namespace
+}  // namespace qcmdrun_physical_device_parser_test

@@ -6,6 +6,7 @@
 #include "collect/records.h"
 #include "tests/support/table_cases.h"
 
+namespace qcmdrun_status_parser_test {
 namespace {
 
 const FieldCases<ZenxController> kLabels = {
@@ -61,3 +62,4 @@ TEST(QcmdrunStatusParser, LeavesAllFieldsEmptyWithoutAnyLine) {
 }
 
 }  // namespace
+}  // namespace qcmdrun_status_parser_test

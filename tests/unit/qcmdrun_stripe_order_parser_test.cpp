@@ -7,6 +7,7 @@
 #include "collect/collected_data.h"
 #include "collect/records.h"
 
+namespace qcmdrun_stripe_order_parser_test {
 namespace {
 
 struct Block {
@@ -70,3 +71,4 @@ TEST(QcmdrunStripeOrderParser, FailsWhereTheTextEndsWithTheLine) {
 }
 
 }  // namespace
+}  // namespace qcmdrun_stripe_order_parser_test

@@ -12,6 +12,7 @@
 #include "host/hxahost/text.h"
 #include "tests/support/temporary_folder.h"
 
+namespace query_command_test {
 namespace {
 
 using namespace hxahost;
@@ -51,3 +52,4 @@ TEST(QueryCommand, SaysThatWhatAFailedQueryLeftOnStandardOutputIsNotWhole) {
 }
 
 }  // namespace
+}  // namespace query_command_test

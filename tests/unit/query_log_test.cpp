@@ -6,6 +6,7 @@
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 
+namespace query_log_test {
 namespace {
 
 using namespace hxahost;
@@ -49,3 +50,4 @@ TEST(QueryLog, RefusesAFileThatCannotBeWritten) {
 }
 
 }  // namespace
+}  // namespace query_log_test

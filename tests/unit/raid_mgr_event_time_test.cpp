@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+namespace raid_mgr_event_time_test {
 namespace {
 
 TEST(RaidMgrMonths, AreToldByTheLettersThatDiffer) {
@@ -150,3 +151,4 @@ TEST(RaidMgrEventTime, AnyLineCutAnywhereIsRead) {
 }
 
 }  // namespace
+}  // namespace raid_mgr_event_time_test

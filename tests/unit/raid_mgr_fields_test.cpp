@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace raid_mgr_fields_test {
 namespace {
 
 using namespace std::string_view_literals;
@@ -28,3 +29,4 @@ TEST(RaidMgrFields, AreWhatTabsAndNulsDivide) {
 }
 
 }  // namespace
+}  // namespace raid_mgr_fields_test

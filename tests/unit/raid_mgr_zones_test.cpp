@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace raid_mgr_zones_test {
 namespace {
 
 TEST(RaidMgrZones, GiveTheHoursOfTheFirstRowOfEachName) {
@@ -61,3 +62,4 @@ TEST(RaidMgrZones, ANameIsComparedWholeAndInExactCase) {
 }
 
 }  // namespace
+}  // namespace raid_mgr_zones_test

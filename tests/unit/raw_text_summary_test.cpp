@@ -6,6 +6,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace raw_text_summary_test {
 namespace {
 
 using namespace hxahost;
@@ -40,3 +41,4 @@ TEST(RawTextSummary, CountsCommandsAnswersAndLinesOfEachTool) {
 TEST(RawTextSummary, IsNothingWithoutRawTexts) { EXPECT_EQ(Summary(FilledRepository()), ""); }
 
 }  // namespace
+}  // namespace raw_text_summary_test

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+namespace raw_text_values_test {
 namespace {
 
 using Values = std::vector<std::string>;
@@ -94,3 +95,4 @@ TEST(RawTextValues, ReadsAnyBytesCutAnywhere) {
 }
 
 }  // namespace
+}  // namespace raw_text_values_test

@@ -7,6 +7,7 @@
 #include "host/hxahost/bundle_text.h"
 #include "tests/support/sample_bundle.h"
 
+namespace read_bundle_test {
 namespace {
 
 using namespace hxahost;
@@ -147,3 +148,4 @@ TEST(ReadBundle, SaysInOneLineWhatIsWrong) {
 }
 
 }  // namespace
+}  // namespace read_bundle_test

@@ -8,6 +8,7 @@
 #include "host/hxahost/controller_columns.h"
 #include "tests/support/filled_repository.h"
 
+namespace record_sections_test {
 namespace {
 
 using namespace hxahost;
@@ -164,3 +165,4 @@ RAID manager events
 }
 
 }  // namespace
+}  // namespace record_sections_test

@@ -7,6 +7,7 @@
 #include "logs/event_records.h"
 #include "logs/statistics_records.h"
 
+namespace records_test {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -72,3 +73,4 @@ TEST(ZenxController, StartWithoutAnythingOnTheController) {
 }
 
 }  // namespace
+}  // namespace records_test

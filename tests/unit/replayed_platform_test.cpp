@@ -14,6 +14,7 @@
 #include "tests/support/raid_log_machine.h"
 #include "tests/support/sample_bundle.h"
 
+namespace replayed_platform_test {
 namespace {
 
 using namespace hxahost;
@@ -97,3 +98,4 @@ TEST(ReplayedPlatform, LetsGoOfAFileThatIsStillOpen) {
 }
 
 }  // namespace
+}  // namespace replayed_platform_test

@@ -14,6 +14,7 @@
 #include "host/hxahost/record_sections.h"
 #include "tests/support/healthy_machine.h"
 
+namespace report_data_test {
 namespace {
 
 using namespace hxahost;
@@ -109,3 +110,4 @@ TEST(ReportData, TellsUnreadLinesWhereEveryClassWasAskedFor) {
 }
 
 }  // namespace
+}  // namespace report_data_test

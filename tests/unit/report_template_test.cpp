@@ -6,6 +6,7 @@
 
 #include "tests/support/contains_pattern.h"
 
+namespace report_template_test {
 namespace {
 
 using namespace hxahost;
@@ -53,3 +54,4 @@ TEST(ReportTemplate, NeverReadsTextAsMarkupOrAsProgram) {
 }
 
 }  // namespace
+}  // namespace report_template_test

@@ -9,6 +9,7 @@
 #include "plugin/host_interface/exception.h"
 #include "plugin/query.h"
 
+namespace repository_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -181,3 +182,4 @@ TEST(RepositoryClasses, AreThoseOfThePlugInsCatalogueInItsOrder) {
 }
 
 }  // namespace
+}  // namespace repository_test

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+namespace result_diff_test {
 namespace {
 
 using namespace hxahost;
@@ -190,3 +191,4 @@ TEST(ResultDiff, SumsUpRawTextsByCommand) {
 }
 
 }  // namespace
+}  // namespace result_diff_test

@@ -12,6 +12,7 @@
 
 #include "tests/support/file_text.h"
 
+namespace schema_markdown_test {
 namespace {
 
 using namespace hxahost;
@@ -58,3 +59,4 @@ TEST(SchemaMarkdown, NamesTheLabelsThatValuesStandBehind) {
 }
 
 }  // namespace
+}  // namespace schema_markdown_test

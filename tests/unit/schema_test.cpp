@@ -7,6 +7,7 @@
 
 #include "host/hxacore/ignore_case.h"
 
+namespace schema_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -165,3 +166,4 @@ TEST(Schema, PropertiesStandInTheOrderInWhichTheyArePublished) {
 }
 
 }  // namespace
+}  // namespace schema_test

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <sstream>
 
+namespace schema_view_test {
 namespace {
 
 using namespace hxahost;
@@ -101,3 +102,4 @@ TEST(SchemaView, DeclaresAClassBeforeAnotherRefersToIt) {
 }
 
 }  // namespace
+}  // namespace schema_view_test

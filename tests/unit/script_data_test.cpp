@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string>
 
+namespace script_data_test {
 namespace {
 
 using hxahost::ScriptData;
@@ -65,3 +66,4 @@ TEST(ScriptData, TakesSingleCharacters) {
 }
 
 }  // namespace
+}  // namespace script_data_test

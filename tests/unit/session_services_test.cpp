@@ -8,6 +8,7 @@
 #include "host/hxacore/host_services.h"
 #include "plugin/host_interface/services.h"
 
+namespace session_services_test {
 namespace {
 
 using namespace hxahost;
@@ -74,3 +75,4 @@ TEST(SessionServices, KeepTheRunsOfTools) {
 }
 
 }  // namespace
+}  // namespace session_services_test

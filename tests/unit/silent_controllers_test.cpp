@@ -8,6 +8,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace silent_controllers_test {
 namespace {
 
 using namespace hxahost;
@@ -74,3 +75,4 @@ TEST_F(SilentControllersTest, AreNotReadFromOtherAnswers) {
 }
 
 }  // namespace
+}  // namespace silent_controllers_test

@@ -4,6 +4,7 @@
 
 #include <string>
 
+namespace state_colour_test {
 namespace {
 
 using hxahost::InStateColour;
@@ -34,3 +35,4 @@ TEST(StateColour, FollowsTheFirstWordAndKeepsTheText) {
 }
 
 }  // namespace
+}  // namespace state_colour_test

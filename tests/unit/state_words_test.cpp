@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+namespace state_words_test {
 namespace {
 
 using namespace hxahost;
@@ -65,3 +66,4 @@ TEST(StateWords, OfALongTextAreCutInOneGo) {
 }
 
 }  // namespace
+}  // namespace state_words_test

@@ -9,6 +9,7 @@
 #include "logs/statistics_records.h"
 #include "tests/support/scripted_services.h"
 
+namespace statistics_parsers_test {
 namespace {
 
 ZenxBstData BadStripe(const std::string& line) {
@@ -154,3 +155,4 @@ TEST_F(SubStatParser, BuildsTheInstanceIdOfALineWithoutTokensFromNothing) {
 }
 
 }  // namespace
+}  // namespace statistics_parsers_test

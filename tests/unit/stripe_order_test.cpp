@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+namespace stripe_order_test {
 namespace {
 
 TEST(StripeOrder, PutsOneBlankBetweenALineAndTheNext) {
@@ -39,3 +40,4 @@ TEST(StripeOrder, MakesTheIdentifierOfItsPartsWithNothingBetween) {
 }
 
 }  // namespace
+}  // namespace stripe_order_test

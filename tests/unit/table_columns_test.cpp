@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+namespace table_columns_test {
 namespace {
 
 struct Case {
@@ -53,3 +54,4 @@ TEST(TableColumns, CutsTheLastColumnUpToTheLineFeed) {
 }
 
 }  // namespace
+}  // namespace table_columns_test

@@ -7,6 +7,7 @@
 #include "host/hxahost/page.h"
 #include "host/hxahost/text.h"
 
+namespace table_test {
 namespace {
 
 using namespace hxahost;
@@ -117,3 +118,4 @@ TEST(Table, IsNeverWiderThanTheView) {
 }
 
 }  // namespace
+}  // namespace table_test

@@ -6,6 +6,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace table_view_test {
 namespace {
 
 using namespace hxahost;
@@ -146,3 +147,4 @@ Runs of the tools
 }
 
 }  // namespace
+}  // namespace table_view_test

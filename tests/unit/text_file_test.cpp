@@ -4,6 +4,7 @@
 
 #include "tests/support/temporary_folder.h"
 
+namespace text_file_test {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -98,3 +99,4 @@ TEST(TextFile, AFolderHasNoLines) {
 }
 
 }  // namespace
+}  // namespace text_file_test

@@ -8,6 +8,7 @@
 
 #include "host/hxahost/text.h"
 
+namespace text_mask_test {
 namespace {
 
 using namespace hxahost;
@@ -84,3 +85,4 @@ TEST(TextMask, HasNoVowels) {
 }
 
 }  // namespace
+}  // namespace text_mask_test

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace text_test {
 namespace {
 
 using namespace hxahost;
@@ -98,3 +99,4 @@ TEST(Text, IsReadCharacterByCharacter) {
 }
 
 }  // namespace
+}  // namespace text_test

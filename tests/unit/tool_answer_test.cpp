@@ -7,6 +7,7 @@
 
 #include "tests/support/tool_text.h"
 
+namespace tool_answer_test {
 namespace {
 
 using hxahost::KnownTools;
@@ -104,3 +105,4 @@ TEST(ToolAnswer, FindsAnOutcomeByItsWord) {
 }
 
 }  // namespace
+}  // namespace tool_answer_test

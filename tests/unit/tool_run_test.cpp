@@ -10,9 +10,10 @@
 
 #include "plugin/host_interface/exception.h"
 
-using namespace NKVRHXA20;
-
+namespace tool_run_test {
 namespace {
+
+using namespace NKVRHXA20;
 
 using hxahost::ArgumentsText;
 using hxahost::Outcome;
@@ -133,3 +134,4 @@ TEST(ToolRun, WritesItsArgumentsOnOneLine) {
 }
 
 }  // namespace
+}  // namespace tool_run_test

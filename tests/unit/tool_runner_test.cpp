@@ -10,9 +10,10 @@
 #include "plugin/host_interface/exception.h"
 #include "tests/support/recording_log.h"
 
-using namespace NKVRHXA20;
-
+namespace tool_runner_test {
 namespace {
+
+using namespace NKVRHXA20;
 
 constexpr Tool kTool = {
     .path = "zenx//tool.exe",
@@ -99,3 +100,4 @@ TEST_F(ToolRunner, ReturnsAnEmptyOutputAsItIs) {
 }
 
 }  // namespace
+}  // namespace tool_runner_test

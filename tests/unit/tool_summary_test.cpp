@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+namespace tool_summary_test {
 namespace {
 
 using hxahost::Outcome;
@@ -148,3 +149,4 @@ TEST(ToolSummary, SaysThatALaterQueryRanNoTool) {
 }
 
 }  // namespace
+}  // namespace tool_summary_test

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+namespace tool_text_test {
 namespace {
 
 struct Case {
@@ -106,3 +107,4 @@ TEST(ToolText, ReadsTheNumberOfAViewThatNoNulEnds) {
 }
 
 }  // namespace
+}  // namespace tool_text_test

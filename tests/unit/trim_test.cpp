@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace trim_test {
 namespace {
 
 TEST(Trim, CutsBlanksTabsCarriageReturnsAndLineFeedsAtBothEndsAndNothingElse) {
@@ -26,3 +27,4 @@ TEST(Trim, CutsBlanksTabsCarriageReturnsAndLineFeedsAtBothEndsAndNothingElse) {
 }
 
 }  // namespace
+}  // namespace trim_test

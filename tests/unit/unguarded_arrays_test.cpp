@@ -6,6 +6,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace unguarded_arrays_test {
 namespace {
 
 using namespace hxahost;
@@ -30,7 +31,7 @@ bool LiesOnUnguarded(const Disk& disk) {
                                          {"ControllerNum", "2"           },
                                          {"DriveList",     " 0,1 0,2\r\n"}
   });
-  const InstanceList unguarded = all.Instances();
+  const hxahost::InstanceList unguarded = all.Instances();
   all.Publish("KVRSG_zxLogicalDisk", {
                                          {"DeviceID",      "1LD2"},
                                          {"ControllerNum", "1"   },
@@ -86,3 +87,4 @@ TEST(UnguardedArrays, TakeADiskThatNoListNamesForOneOfTheirs) { EXPECT_TRUE(Lies
 TEST(UnguardedArrays, HaveNoDiskOfAnotherController) { EXPECT_FALSE(LiesOnUnguarded({"3", "0", "1", ""})); }
 
 }  // namespace
+}  // namespace unguarded_arrays_test

@@ -7,6 +7,7 @@
 
 #include "tests/support/filled_repository.h"
 
+namespace unread_lines_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -107,3 +108,4 @@ TEST(UnreadLines, AreAllLinesOfAValueThatGoesOn) {
 }
 
 }  // namespace
+}  // namespace unread_lines_test

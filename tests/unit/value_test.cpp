@@ -4,6 +4,7 @@
 
 #include "host/hxacore/value_reader.h"
 
+namespace value_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -126,3 +127,4 @@ TEST(ObjectPath, OfAReferenceMadeOfKeysAloneHasNoClass) {
 }
 
 }  // namespace
+}  // namespace value_test

@@ -4,6 +4,7 @@
 
 #include "host/hxacore/value_reader.h"
 
+namespace value_type_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -75,3 +76,4 @@ TEST(ValueType, HasItsNameInCim) {
 }
 
 }  // namespace
+}  // namespace value_type_test

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+namespace version_split_test {
 namespace {
 
 TEST(VersionSplit, DividesAtTheFirstParentheses) {
@@ -33,3 +34,4 @@ TEST(VersionSplit, DividesAtTheFirstParentheses) {
 }
 
 }  // namespace
+}  // namespace version_split_test

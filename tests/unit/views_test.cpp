@@ -4,6 +4,7 @@
 
 #include "host/hxahost/options.h"
 
+namespace views_test {
 namespace {
 
 using namespace hxahost;
@@ -17,3 +18,4 @@ TEST(Views, AreFoundByTheirFormatTheDefaultFirst) {
 }
 
 }  // namespace
+}  // namespace views_test

@@ -7,6 +7,7 @@
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"
 
+namespace write_bundle_test {
 namespace {
 
 using namespace hxahost;
@@ -28,3 +29,4 @@ TEST(WriteBundle, WritesWhatIsAbsentAsNone) {
 }
 
 }  // namespace
+}  // namespace write_bundle_test

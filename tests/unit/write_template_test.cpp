@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+namespace write_template_test {
 namespace {
 
 using namespace hxahost;
@@ -39,3 +40,4 @@ TEST(WriteTemplate, RefusesATemplateWithoutTheSlot) {
 }
 
 }  // namespace
+}  // namespace write_template_test

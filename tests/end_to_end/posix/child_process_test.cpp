@@ -8,6 +8,7 @@
 #include "tests/support/test_system.h"
 
 // As on a kernel that cannot tell of the end of a process through a descriptor.
+namespace posix_child_process_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -64,3 +65,4 @@ TEST(ChildProcess, StartsWithoutTheSignalsThatTheHostIgnores) {
 }
 
 }  // namespace
+}  // namespace posix_child_process_test

@@ -14,6 +14,7 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
+namespace posix_full_disk_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -108,3 +109,4 @@ TEST(FullDisk, LeavesTheGoodResultThatWasThereBefore) {
 }
 
 }  // namespace
+}  // namespace posix_full_disk_test

@@ -4,6 +4,7 @@
 #include "host/hxahost/text.h"
 #include "tests/support/hxahost_run.h"
 
+namespace posix_report_test {
 namespace {
 
 TEST(Report, SaysThatADiskIsFull) {
@@ -14,3 +15,4 @@ TEST(Report, SaysThatADiskIsFull) {
 }
 
 }  // namespace
+}  // namespace posix_report_test

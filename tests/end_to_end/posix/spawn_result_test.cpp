@@ -4,6 +4,7 @@
 
 #include "host/hxacore/host_services.h"
 
+namespace posix_spawn_result_test {
 namespace {
 
 TEST(SpawnResult, NamesTheSignalThatEndedTheProgram) {
@@ -14,3 +15,4 @@ TEST(SpawnResult, NamesTheSignalThatEndedTheProgram) {
 }
 
 }  // namespace
+}  // namespace posix_spawn_result_test

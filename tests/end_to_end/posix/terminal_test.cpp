@@ -18,6 +18,7 @@
 #include "host/hxahost/text.h"
 #include "tests/support/hxahost_run.h"
 
+namespace posix_terminal_test {
 namespace {
 
 using testing::HasSubstr;
@@ -213,3 +214,4 @@ TEST(Terminal, HasNothingOfTheProgressLeftBesideTheTables) {
 }
 
 }  // namespace
+}  // namespace posix_terminal_test

@@ -14,6 +14,7 @@
 #include "tests/support/machine_copy.h"
 #include "tests/support/temporary_folder.h"
 
+namespace posix_working_directory_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -101,3 +102,4 @@ TEST(WorkingDirectory, WithoutAnyRoomIsEnough) {
 }
 
 }  // namespace
+}  // namespace posix_working_directory_test

@@ -5,6 +5,7 @@
 #include "host/hxahost/posix/file_mode.h"
 #include "tests/support/temporary_folder.h"
 
+namespace posix_file_rights_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -62,3 +63,4 @@ TEST(FileRights, AreReadFromTheFileAndFromWhatALinkPointsTo) {
 TEST(FileRights, OfWhatIsNotThereAreNone) { EXPECT_FALSE(OthersMayWrite("/nothing/there")); }
 
 }  // namespace
+}  // namespace posix_file_rights_test

@@ -8,6 +8,7 @@
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 
+namespace posix_output_file_test {
 namespace {
 
 using namespace hxahost;
@@ -43,3 +44,4 @@ TEST(OutputFilePosix, ReportsAFullDevice) {
 }
 
 }  // namespace
+}  // namespace posix_output_file_test

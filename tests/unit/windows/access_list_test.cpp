@@ -8,6 +8,7 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"
 
+namespace windows_access_list_test {
 namespace {
 
 using hxahost::LetsOthersWrite;
@@ -87,3 +88,4 @@ TEST(AccessList, IsReadFromTheFile) {
 }
 
 }  // namespace
+}  // namespace windows_access_list_test

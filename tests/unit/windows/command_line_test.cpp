@@ -11,6 +11,7 @@
 
 #include <shellapi.h>
 
+namespace windows_command_line_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -82,3 +83,4 @@ TEST(CommandLine, BeginsWithTheProgramInQuotes) {
 }
 
 }  // namespace
+}  // namespace windows_command_line_test

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+namespace windows_wide_text_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -35,3 +36,4 @@ TEST(WideText, SaysAnErrorInOneLineWithoutItsEnd) {
 }
 
 }  // namespace
+}  // namespace windows_wide_text_test
