@@ -1,6 +1,6 @@
 // The pages that the tests open: of the sample machine, by the program itself, and of machines that a helper makes up.
 import { spawnSync } from "node:child_process";
-import { mkdirSync, readFileSync, writeFileSync } from "node:fs";
+import { cpSync, mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { join, resolve } from "node:path";
 import { pathToFileURL } from "node:url";
 
@@ -13,7 +13,9 @@ function run(program, given, expected = 0) {
   if (result.status !== expected) throw new Error(`${program} ended with ${result.status ?? result.error}: ${result.stderr}`);
 }
 
-const kSampleMachine = ["--directory", join(kBuild, "sample-machine"), "--local-time", "20260305123015.000000+060", "--machine-name", "DBSERVER"];
+// A copy of its own: other tests collect from the sample machine at the same time.
+const kMachineFolder = join(kFolder, "machine");
+const kSampleMachine = ["--directory", kMachineFolder, "--local-time", "20260305123015.000000+060", "--machine-name", "DBSERVER"];
 
 function query(name, ...further) {
   for (const format of ["html", "json"]) {
@@ -25,6 +27,8 @@ export const kResults = join(kBuild, "results-browser.xml");
 
 export function makePages() {
   mkdirSync(kFolder, { recursive: true });
+  rmSync(kMachineFolder, { recursive: true, force: true });
+  cpSync(join(kBuild, "sample-machine"), kMachineFolder, { recursive: true });
   run("report_pages", [kFolder]);
   query("sample");
   run("hxahost", ["query", ...kSampleMachine, "--unread", "--format", "json", "--output", join(kFolder, "unread.json")]);
