@@ -5,6 +5,7 @@
 
 #include "host/hxahost/finding_json.h"
 #include "host/hxahost/finding_text.h"
+#include "host/hxahost/json_text.h"
 #include "host/hxahost/text.h"
 
 namespace hxahost {
@@ -130,7 +131,7 @@ void WriteJson(std::ostream& out, const ComparedFile& before, const ComparedFile
   for (const Change& change : diff.changes) json["changes"].push_back(ChangeJson(change));
   json["rawTexts"] = Json::array();
   for (const RawTextChange& change : diff.rawTexts) json["rawTexts"].push_back(RawTextJson(change));
-  out << json.dump(2) << '\n';
+  out << JsonText(json, 2) << '\n';
 }
 
 constexpr DiffView kViews[] = {

@@ -4,6 +4,7 @@
 
 #include "host/hxahost/finding_json.h"
 #include "host/hxahost/health_views.h"
+#include "host/hxahost/json_text.h"
 #include "host/hxahost/text.h"
 
 namespace hxahost {
@@ -22,7 +23,7 @@ void WriteHealthJson(std::ostream& out, const HealthReport& report) {
   json["status"] = SeverityWord(WorstOf(report.findings));
   json["findings"] = Json::array();
   for (const Finding& finding : report.findings) json["findings"].push_back(FindingJson(finding));
-  out << json.dump(2) << '\n';
+  out << JsonText(json, 2) << '\n';
 }
 
 }  // namespace hxahost

@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/json_text.h"
 #include "host/hxahost/object_path.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/unread_lines.h"
@@ -81,7 +82,7 @@ Json UnreadJson(const UnreadText& text) {
 
 // Line feeds within strings are escapes, so each one here ends a line of the layout.
 void WriteIndented(std::ostream& out, const Json& json, std::string_view indent) {
-  const std::string text = json.dump(2);
+  const std::string text = JsonText(json, 2);
   std::string_view rest = text;
   while (true) {
     const std::size_t end = rest.find('\n');
@@ -108,7 +109,7 @@ void WriteArray(std::ostream& out, std::string_view name, const Items& items, To
 }  // namespace
 
 void BeginJson(std::ostream& out, const QueryHeader& header) {
-  out << "{\n  \"format\": 1,\n  \"machine\": " << Json(AsUtf8(header.machine)).dump() << ",\n  \"queries\": [";
+  out << "{\n  \"format\": 1,\n  \"machine\": " << JsonText(AsUtf8(header.machine)) << ",\n  \"queries\": [";
 }
 
 void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {

@@ -11,6 +11,7 @@
 #include "host/hxahost/device_owners.h"
 #include "host/hxahost/finding_json.h"
 #include "host/hxahost/health.h"
+#include "host/hxahost/json_text.h"
 #include "host/hxahost/record_sections.h"
 #include "host/hxahost/text.h"
 #include "host/hxahost/unread_lines.h"
@@ -129,7 +130,7 @@ void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryRe
   json["findings"] = FindingsJson(header, result);
   json["unjudged"] = UnjudgedJson(header);
   json["unread"] = UnreadJson(header, result);
-  out << json.dump(2);
+  out << JsonText(json, 2);
 }
 
 }  // namespace hxahost
