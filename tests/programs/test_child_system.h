@@ -18,6 +18,9 @@ void IgnoreTermination();
 
 unsigned long OwnProcessId();
 
+// Ends as a program does that has crashed.
+[[noreturn]] void Crash();
+
 // How a process that the child leaves behind hangs together with it.
 enum class Ties {
   kAll,      // it has the output and is in the same group

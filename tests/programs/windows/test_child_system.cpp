@@ -61,6 +61,12 @@ void IgnoreTermination() {
 
 unsigned long OwnProcessId() { return GetCurrentProcessId(); }
 
+// With the status of a wrong address, which nobody asks about on the screen.
+void Crash() {
+  TerminateProcess(GetCurrentProcess(), static_cast<UINT>(STATUS_ACCESS_VIOLATION));
+  std::exit(2);
+}
+
 void LeaveBehind(Ties ties, Rest rest, const std::string& file) {
   std::array<char, 1024> program{};
   GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));

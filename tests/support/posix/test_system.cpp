@@ -49,3 +49,5 @@ bool UnloadLibrary(const fs::path& file) {
 }
 
 const int kManyRuns = 10000;
+
+const std::size_t kCasesForOneRun = 7;

@@ -73,3 +73,5 @@ bool UnloadLibrary(const std::filesystem::path& file) {
 }
 
 const int kManyRuns = 300;
+
+const std::size_t kCasesForOneRun = 17;
