@@ -50,4 +50,4 @@ bool UnloadLibrary(const fs::path& file) {
 
 const int kManyRuns = 10000;
 
-const std::size_t kCasesForOneRun = 7;
+const std::size_t kCasesForOneRun = 13;
