@@ -56,12 +56,15 @@ constexpr Tool kTools[] = {
 
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
 
-// The whole line in which the text at this place stands.
+// The line in which the text at this place stands, as far as a reader wants it. Some answers are one line of megabytes:
+// no more of it is made printable than may fill the width.
 std::string LineAt(std::string_view text, std::size_t place) {
   const std::size_t before = text.rfind('\n', place);
   const std::size_t first = before == text.npos ? 0 : before + 1;
   constexpr std::size_t kWidest = 200;
-  return CutToWidth(Printable(text.substr(first, text.find('\n', place) - first)), kWidest);
+  constexpr std::size_t kMostBytes = 20 * kWidest;
+  const std::string_view line = text.substr(first, text.find('\n', place) - first);
+  return CutToWidth(Printable(line.substr(0, kMostBytes)), kWidest);
 }
 
 // A log may quote any text; a complete answer to another command is no refusal for having it.

@@ -36,7 +36,7 @@ std::string KeyOf(const std::string& tool, const std::string& words, int number)
 // The commands that a controller of the tool is asked, "getconfig al".
 Texts WordsOf(const std::string& tool) {
   Texts all;
-  for (const auto& [key, answer] : SampleAnswers(tool)) {
+  for (const auto& [key, answer] : AllAnswersOf(tool)) {
     const std::string first = tool + " ";
     const std::size_t number = key.find(" 1", first.size());
     if (number == key.npos) continue;
@@ -57,7 +57,7 @@ Machine SampleMachine() {
   // Otherwise no higher number is asked for.
   machine["hrconf_64 getconfig 1 al"] = {"Controllers found: 1\r\nInvalid controller number.\r\n"};
   for (const Moved& controller : kControllers) {
-    auto answers = SampleAnswers(controller.tool);
+    auto answers = AllAnswersOf(controller.tool);
     for (const std::string& words : WordsOf(controller.tool)) {
       machine[KeyOf(controller.tool, words, controller.to)] = {
           answers.at(KeyOf(controller.tool, words, controller.from))};

@@ -88,6 +88,13 @@ TEST(ToolAnswer, LetsNoTerminalCommandThroughInAReason) {
   EXPECT_EQ(answer.reason, "its last line is \"\\x1b[2J gone\"");
 }
 
+TEST(ToolAnswer, ShowsTheBeginningOfALineOf16MiB) {
+  const std::string line(std::size_t{16} << 20, '\x01');
+  const std::string reason = ReadAnswer("zenx//arcconf.exe", kProbe, line).reason;
+  EXPECT_TRUE(reason.starts_with("its last line is \"\\x01\\x01")) << reason;
+  EXPECT_LT(reason.size(), 300U);
+}
+
 TEST(ToolAnswer, NamesAToolByItsFileWithoutFolderAndSuffix) {
   EXPECT_EQ(ToolName("zenx//arcconf.exe"), "arcconf");
   EXPECT_EQ(ToolName("C:\\tools\\hrconf_64.exe"), "hrconf_64");
