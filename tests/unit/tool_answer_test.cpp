@@ -90,7 +90,7 @@ TEST(ToolAnswer, LetsNoTerminalCommandThroughInAReason) {
 
 TEST(ToolAnswer, ShowsTheBeginningOfALineOf16MiB) {
   const std::string line(std::size_t{16} << 20, '\x01');
-  const std::string reason = ReadAnswer("zenx//arcconf.exe", kProbe, line).reason;
+  const std::string reason = ReadToolAnswer("arcconf", kProbe, line).reason;
   EXPECT_TRUE(reason.starts_with("its last line is \"\\x01\\x01")) << reason;
   EXPECT_LT(reason.size(), 300U);
 }
