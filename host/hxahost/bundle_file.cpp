@@ -1,9 +1,9 @@
 #include "host/hxahost/bundle_file.h"
 
 #include <fstream>
-#include <iterator>
 #include <string>
 
+#include "host/hxacore/whole_file.h"
 #include "host/hxahost/bundle_format.h"
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/text.h"
@@ -21,10 +21,8 @@ namespace {
 }  // namespace
 
 Bundle ReadBundleFile(const fs::path& file) {
-  std::error_code unknown;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || fs::is_directory(file, unknown)) Reject(file, "cannot be read: name a bundle that is there");
-  const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  std::string text;
+  if (!NKVRHXA20::ReadWholeFile(file, text)) Reject(file, "cannot be read: name a bundle that is there");
   try {
     return ReadBundle(text);
   } catch (const BundleError& reason) {

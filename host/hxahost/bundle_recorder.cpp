@@ -1,10 +1,9 @@
 #include "host/hxahost/bundle_recorder.h"
 
 #include <exception>
-#include <fstream>
-#include <iterator>
 #include <utility>
 
+#include "host/hxacore/whole_file.h"
 #include "platform/raid_manager_key.h"
 #include "platform/registry.h"
 
@@ -38,8 +37,9 @@ RecordedFailure CurrentFailure() {
 
 // The plug-in reads a log that cannot be captured all the same, as far as it can.
 std::string ReadAsFarAsPossible(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  std::string text;
+  ReadWholeFile(path, text);
+  return text;
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
 #include "host/hxahost/json_result.h"
 
-#include <fstream>
-#include <iterator>
 #include <string_view>
 #include <utility>
 
+#include "host/hxacore/whole_file.h"
 #include "host/hxahost/exit_status.h"
 #include "host/hxahost/text.h"
 
@@ -101,9 +100,8 @@ JsonResult ReadResult(const Json& json) {
 
 JsonResult ReadJsonResult(const std::filesystem::path& file) {
   const std::string name = Utf8FromPath(file);
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || std::filesystem::is_directory(file)) Reject(name, "cannot be read: name a file that is there.");
-  const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  std::string text;
+  if (!NKVRHXA20::ReadWholeFile(file, text)) Reject(name, "cannot be read: name a file that is there.");
   return ParseJsonResult(text, name);
 }
 

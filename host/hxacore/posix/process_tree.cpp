@@ -4,11 +4,11 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <sstream>
 #include <thread>
+
+#include "host/hxacore/whole_file.h"
 
 namespace NKVRHXA20 {
 
@@ -27,9 +27,11 @@ struct Process {
   bool isMarked = false;
 };
 
+// What can be read of it: a process may end, and what the system tells of it with it.
 std::string Contents(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
+  std::string text;
+  ReadWholeFile(file, text);
+  return text;
 }
 
 bool HasMark(const fs::path& folder, const std::string& mark) {

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <csignal>
+#include <future>
 
 #include "host/hxacore/posix/process_tree.h"
 #include "tests/support/test_system.h"
@@ -62,6 +64,21 @@ TEST(ChildProcess, StartsWithoutTheSignalsThatTheHostIgnores) {
   EXPECT_EQ(CollectOutput(child, steady_clock::now() + seconds(30), output), OutputEnd::kComplete);
   EndProcessTree(child);
   Reap(child);
+}
+
+// The system's list of processes is read from files. One that ends while its file is open cannot be read any more.
+TEST(ChildProcess, AFamilyIsEndedWhileOtherProcessesComeAndGo) {
+  std::atomic<bool> isDone = false;
+  const auto others = std::async(std::launch::async, [&isDone] {
+    while (!isDone) Reap(Start({"exit", "0"}));
+  });
+  for (int run = 0; run < 30; ++run) {
+    const ChildProcess child = Start({"sleep", "300"});
+    EXPECT_NO_THROW(EndProcessTree(child)) << run;
+    kill(child.pid, SIGKILL);
+    Reap(child);
+  }
+  isDone = true;
 }
 
 }  // namespace

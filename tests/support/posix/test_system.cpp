@@ -2,12 +2,13 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <fstream>
 #include <iterator>
 
 #include <dlfcn.h>
 #include <malloc.h>
 #include <sys/wait.h>
+
+#include "host/hxacore/whole_file.h"
 
 namespace fs = std::filesystem;
 
@@ -15,8 +16,8 @@ fs::path ProgramFolder() { return fs::read_symlink("/proc/self/exe").parent_path
 
 // "417 (name) S ...": the state follows the last parenthesis.
 bool IsRunning(unsigned long process) {
-  std::ifstream file("/proc/" + std::to_string(process) + "/stat");
-  const std::string status{std::istreambuf_iterator<char>(file), {}};
+  std::string status;
+  NKVRHXA20::ReadWholeFile("/proc/" + std::to_string(process) + "/stat", status);
   const auto nameEnd = status.rfind(") ");
   return nameEnd != std::string::npos && status[nameEnd + 2] != 'Z' && status[nameEnd + 2] != 'X';
 }

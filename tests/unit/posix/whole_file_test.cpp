@@ -1,0 +1,56 @@
+#include "host/hxacore/whole_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/hxahost/bundle_file.h"
+#include "host/hxahost/exit_status.h"
+#include "host/hxahost/json_result.h"
+#include "tests/support/temporary_folder.h"
+
+namespace posix_whole_file_test {
+namespace {
+
+using NKVRHXA20::ReadWholeFile;
+using testing::HasSubstr;
+
+// Opens, and then the system fails to read it, as it does on a broken disk: no memory is at its beginning.
+constexpr const char* kBroken = "/proc/self/mem";
+
+TEST(WholeFile, IsWhatTheFileHas) {
+  const TemporaryFolder folder;
+  for (const std::size_t size : {0, 1, 4095, 4096, 4097, 10000}) {
+    const std::string written(size, 'x');
+    folder.Write("file", written);
+    std::string text = "before ";
+    EXPECT_TRUE(ReadWholeFile(folder.Path() / "file", text)) << size;
+    EXPECT_EQ(text, "before " + written);
+  }
+}
+
+TEST(WholeFile, IsNotThereWhereTheSystemFailsToReadIt) {
+  const TemporaryFolder folder;
+  for (const std::filesystem::path& path : {std::filesystem::path(kBroken), folder.Path(), folder.Path() / "none"}) {
+    std::string text;
+    EXPECT_FALSE(ReadWholeFile(path, text)) << path;
+    EXPECT_EQ(text, "");
+  }
+}
+
+template <class Read>
+std::string Complaint(const Read& read) {
+  try {
+    read();
+  } catch (const hxahost::ProgramError& error) {
+    return error.what();
+  }
+  return "none";
+}
+
+TEST(WholeFile, ThatCannotBeReadIsNamedWithWhatToDo) {
+  EXPECT_THAT(Complaint([] { hxahost::ReadJsonResult(kBroken); }), HasSubstr("/proc/self/mem cannot be read: name a"));
+  EXPECT_THAT(Complaint([] { hxahost::ReadBundleFile(kBroken); }), HasSubstr("/proc/self/mem cannot be read: name a"));
+}
+
+}  // namespace
+}  // namespace posix_whole_file_test
