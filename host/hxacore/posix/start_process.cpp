@@ -1,6 +1,7 @@
 #include <atomic>
 #include <csignal>
 #include <cstring>
+#include <mutex>
 #include <string_view>
 #include <system_error>
 
@@ -94,6 +95,10 @@ class TSpawnAttributes {
 }  // namespace
 
 ChildProcess StartProcess(const std::string& path, const std::vector<std::string>& arguments) {
+  // One at a time: what another thread starts has the end that writes, too, until it becomes its program. A run whose
+  // program has ended by then would take it for something that was left behind, and end it.
+  static std::mutex starting;
+  const std::lock_guard alone(starting);
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0) ThrowNotStarted(path, ErrorText(errno));
   ChildProcess child;
