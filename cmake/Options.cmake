@@ -16,6 +16,8 @@ if(ZENX_SANITIZE)
   target_compile_options(compile_options INTERFACE ${sanitizers})
   target_link_options(compile_options INTERFACE ${sanitizers})
 endif()
-if(ZENX_FUZZERS)
+# The counters that fuzzers follow come with a runtime that programs without sanitizers lack: those that only run what is
+# kept, to count the lines that it reaches, go without.
+if(ZENX_FUZZERS AND ZENX_SANITIZE)
   target_compile_options(compile_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
