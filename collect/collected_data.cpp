@@ -1,12 +1,11 @@
 #include "collect/collected_data.h"
 
-#include <algorithm>
+#include <stdexcept>
 #include <utility>
 
-namespace {
+#include "collect/text_search.h"
 
-// Lines of reports are mostly longer: room for all of them is made at once.
-constexpr std::size_t kUsualLineLength = 32;
+namespace {
 
 bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\n'; }
 
@@ -18,20 +17,46 @@ std::string_view ValueOfLine(std::string_view line) {
 
 }  // namespace
 
-CollectedData::CollectedData(HostHandle host, std::string text) : text_(std::move(text)), host_(host) {
-  lines_.reserve(text_.size() / kUsualLineLength);
-  std::string_view rest = text_;
-  for (std::size_t end = rest.find('\n'); end != rest.npos; end = rest.find('\n')) {
-    lines_.push_back(rest.substr(0, end + 1));
-    rest.remove_prefix(end + 1);
+CollectedData::CollectedData(HostHandle host, std::string text)
+    : text_(std::move(text)), lines_(std::string_view(text_).substr(0, text_.rfind('\n') + 1)), host_(host) {
+  Advance();
+}
+
+void CollectedData::ThrowNoLine() { throw std::out_of_range("there is no line left"); }
+
+void CollectedData::AdvanceOutside() {
+  if (outside_ == -1 && !lines_.empty()) return JumpTo(0);
+  outside_ = outside_ == -1 ? 1 : outside_ + 1;
+}
+
+void CollectedData::StepBack() {
+  const bool isInside = outside_ == 0 || outside_ == 1;
+  if (!isInside || begin_ == 0) {
+    begin_ = end_ = outside_ > 1 ? lines_.size() : 0;
+    outside_ = isInside ? -1 : outside_ - 1;
+  } else if (previous_ < begin_) {
+    outside_ = 0;
+    end_ = begin_;
+    begin_ = previous_;
+  } else {
+    JumpTo(begin_ - 1);
   }
 }
 
+// To the line that the position is in.
+void CollectedData::JumpTo(std::size_t position) {
+  outside_ = 0;
+  begin_ = previous_ = lines_.substr(0, position).rfind('\n') + 1;
+  end_ = lines_.find('\n', position) + 1;
+}
+
 std::string_view CollectedData::FindLine(std::string_view label) {
-  const auto found = std::ranges::find_if(lines_, [label](std::string_view line) { return Contains(line, label); });
-  if (found == lines_.end()) return {};
-  cursor_ = static_cast<int>(found - lines_.begin());
-  return *found;
+  // No line contains a label that goes on behind a line feed.
+  const bool fitsALine = label.find('\n') >= label.size() - 1;
+  const std::size_t found = fitsALine ? FindInReport(lines_, label) : lines_.npos;
+  if (found >= lines_.size()) return {};
+  JumpTo(found);
+  return CurrentLine();
 }
 
 std::string_view CollectedData::FindValue(std::string_view label) { return ValueOfLine(FindLine(label)); }
@@ -46,8 +71,8 @@ std::string_view CollectedData::ValueAfterColon(std::string_view line) {
   return line.substr(colon + 1, lineFeed - colon);
 }
 
-std::string_view CollectedData::NextLineValueIf(std::string_view label) {
-  const std::string_view line = NextLine();
+std::string_view CollectedData::ValueIf(std::string_view label) {
+  const std::string_view line = CurrentLine();
   return IsLabelled(line, label) ? ValueOfLine(line) : std::string_view();
 }
 
@@ -59,9 +84,11 @@ bool CollectedData::FindColumn(std::string_view line, std::string_view label) {
 }
 
 std::string_view CollectedData::TrimLeft(std::string_view text) {
-  std::size_t blanks = 0;
-  while (blanks + 1 < text.size() && IsBlank(text[blanks])) ++blanks;
-  return text.substr(blanks);
+  if (text.empty()) return text;
+  const char* begin = text.data();
+  const char* const last = begin + text.size() - 1;
+  while (begin != last && IsBlank(*begin)) ++begin;
+  return {begin, last + 1};
 }
 
 std::string_view CollectedData::TrimRight(std::string_view text) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "collect/host_handle.h"
 
@@ -26,12 +25,15 @@ class CollectedData {
   // The value of the line that FindLine finds.
   std::string_view FindValue(std::string_view label);
 
-  std::string_view CurrentLine() const { return lines_.at(static_cast<std::size_t>(cursor_)); }
+  std::string_view CurrentLine() const {
+    if (outside_ != 0) ThrowNoLine();
+    return {lines_.data() + begin_, end_ - begin_};
+  }
   std::string_view NextLine() {
-    ++cursor_;
+    Advance();
     return CurrentLine();
   }
-  void StepBack() { --cursor_; }
+  void StepBack();
 
   // All of it, with what follows the last line feed.
   const std::string& WholeText() const { return text_; }
@@ -42,8 +44,14 @@ class CollectedData {
   // No colon, or no line feed behind it: "".
   static std::string_view ValueAfterColon(std::string_view line);
 
+  // The current line's value if it contains the label, else "".
+  std::string_view ValueIf(std::string_view label);
+
   // Moves to the next line; its value if it contains the label, else "".
-  std::string_view NextLineValueIf(std::string_view label);
+  std::string_view NextLineValueIf(std::string_view label) {
+    Advance();
+    return ValueIf(label);
+  }
 
   // Drops leading blanks, tabs and line feeds, but never the last character.
   static std::string_view TrimLeft(std::string_view text);
@@ -60,9 +68,22 @@ class CollectedData {
   }
   bool FindColumn(std::string_view line, std::string_view label);
 
+  void Advance() {
+    previous_ = begin_;
+    begin_ = end_;
+    if (outside_ != 0 || end_ == lines_.size()) return AdvanceOutside();
+    end_ = lines_.find('\n', begin_) + 1;
+  }
+  void AdvanceOutside();
+  void JumpTo(std::size_t position);
+  [[noreturn]] static void ThrowNoLine();
+
   const std::string text_;
-  std::vector<std::string_view> lines_;  // of text_
-  int cursor_ = 0;
+  const std::string_view lines_;  // the text up to its last line feed
+  std::size_t begin_ = 0;         // of the current line, and its end; where there is none, both are where the lines end
+  std::size_t end_ = 0;
+  std::size_t previous_ = 0;     // where the line begins that the cursor came from; begin_ where it came by a jump
+  int outside_ = -1;             // where there is no line: so many behind the last, or, below 0, before the first
   std::size_t labelColumn_ = 0;  // where the label was that was found last
   HostHandle host_;
 };

@@ -27,10 +27,13 @@ using LabelTable = std::span<const LabelledField<std::type_identity_t<Record>>>;
 // Reads the lines that follow, one label a line, in the table's order. A label out of order is not found.
 template <class Record>
 void ReadInOrder(CollectedData& text, Record& record, LabelTable<Record> table) {
+  bool isUsed = true;  // the current line, so that the next label is looked for on the one behind it
   for (const auto& [label, field, miss] : table) {
-    record.*field = text.NextLineValueIf(label);
-    if ((record.*field).empty() && miss == Miss::kCostsNothing) text.StepBack();
+    const std::string_view value = isUsed ? text.NextLineValueIf(label) : text.ValueIf(label);
+    record.*field = value;
+    isUsed = !value.empty() || miss == Miss::kTakesLine;
   }
+  if (!isUsed) text.StepBack();
 }
 
 // Reads each label's first line in the whole text, wherever it stands.

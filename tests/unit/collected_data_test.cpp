@@ -78,6 +78,35 @@ TEST(CollectedData, SteppingBackBeforeTheFirstLineFailsOnlyWhenItIsRead) {
   EXPECT_EQ(text.NextLine(), "a\n");
 }
 
+// As many steps lead back as led out, whichever end they passed, and also where there is no line at all.
+TEST(CollectedData, StepsOutsideTheTextLeadBackInside) {
+  CollectedData text(nullptr, "a\nb\nrest");
+  EXPECT_EQ(text.FindLine("b"), "b\n");
+  for (int step = 0; step < 3; ++step) EXPECT_THROW(text.NextLine(), std::out_of_range) << step;
+  for (int step = 0; step < 3; ++step) text.StepBack();
+  EXPECT_EQ(text.CurrentLine(), "b\n");
+  for (int step = 0; step < 4; ++step) text.StepBack();
+  for (int step = 0; step < 2; ++step) EXPECT_THROW(text.NextLine(), std::out_of_range) << step;
+  EXPECT_EQ(text.NextLine(), "a\n");
+  EXPECT_EQ(text.NextLine(), "b\n");
+  text.StepBack();
+  EXPECT_EQ(text.CurrentLine(), "a\n");
+
+  CollectedData none(nullptr, "no line feed");
+  none.StepBack();
+  EXPECT_THROW(none.CurrentLine(), std::out_of_range);
+  EXPECT_THROW(none.NextLine(), std::out_of_range);
+  EXPECT_EQ(none.FindLine("feed"), "");
+}
+
+TEST(CollectedData, FindsNoLabelThatGoesOnBehindALineFeed) {
+  CollectedData text(nullptr, "one\ntwo\nthree");
+  EXPECT_EQ(text.FindLine("e\nt"), "");
+  EXPECT_EQ(text.CurrentLine(), "one\n");
+  EXPECT_EQ(text.FindLine("two\n"), "two\n");
+  EXPECT_EQ(text.FindLine("three"), "") << "what follows the last line feed is no line";
+}
+
 TEST(CollectedData, KeepsNulAndHighBytes) {
   CollectedData text(nullptr, std::string("a\0\xff : \x80\n", 8));
   EXPECT_EQ(text.ValueOfCurrentLine(), " \x80\n");

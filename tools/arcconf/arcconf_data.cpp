@@ -4,6 +4,7 @@
 
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
+#include "collect/text_search.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
 #include "tools/arcconf/controller_parser.h"
@@ -93,8 +94,8 @@ void ArcconfData::Collect(unsigned firstControllerNumber) {
 void ArcconfData::RecordOutputs() {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     const std::string config = RunTool(kArcconf, host_, kGetConfig, number);
-    if (Contains(config, kNoControllers)) return;
-    if (Contains(config, kInvalidController)) continue;
+    if (ReportContains(config, kNoControllers)) return;
+    if (ReportContains(config, kInvalidController)) continue;
     for (const ToolCommand& command : kRecorded) RecordOutput(command, number);
   }
 }
@@ -109,9 +110,9 @@ void ArcconfData::RecordOutput(const ToolCommand& command, unsigned controllerNu
 void ArcconfData::ParseControllers(unsigned firstControllerNumber) {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     std::string config = RunTool(kArcconf, host_, kGetConfig, number);
-    if (Contains(config, kNoControllers)) return;
-    if (Contains(config, kDriverMismatch)) return arcconf::LogDriverMismatch(host_);
-    if (Contains(config, kInvalidController) || config.empty()) continue;
+    if (ReportContains(config, kNoControllers)) return;
+    if (ReportContains(config, kDriverMismatch)) return arcconf::LogDriverMismatch(host_);
+    if (ReportContains(config, kInvalidController) || config.empty()) continue;
     ParseConfig(std::move(config), firstControllerNumber + number);
   }
 }

@@ -2,6 +2,7 @@
 
 #include "collect/labelled_fields.h"
 #include "collect/model_table.h"
+#include "collect/text_search.h"
 
 namespace arcconf {
 namespace {
@@ -68,7 +69,7 @@ std::string_view ControllerType(std::string_view config) {
 
 void ParseController(ZenxController& controller, std::string_view config, unsigned controllerNumber) {
   controller.ControllerNum = std::to_string(controllerNumber);
-  if (!Contains(config, "Controller information")) return;
+  if (!ReportContains(config, "Controller information")) return;
   controller.ControllerType = ControllerType(config);
   for (const auto& [label, field, section] : kFields) controller.*field = GetSectionValue(label, config, section);
   controller.Parsed = true;

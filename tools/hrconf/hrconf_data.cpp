@@ -5,6 +5,7 @@
 
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
+#include "collect/text_search.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
 #include "tools/hrconf/controller_parser.h"
@@ -112,8 +113,8 @@ void HrconfData::RecordOutputs() {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     const bool isOsVersion60 = hrconf::IsOsVersion60(host_, getOsVersion_);
     const std::string config = RunTool(kHrconf, host_, kGetConfig, number);
-    if (Contains(config, kNoControllers)) return;
-    if (Contains(config, kInvalidController)) continue;
+    if (ReportContains(config, kNoControllers)) return;
+    if (ReportContains(config, kInvalidController)) continue;
     const std::span<const ToolCommand> all = kRecorded;
     for (const ToolCommand& command : isOsVersion60 ? all.first(kRecordedOnOsVersion60) : all) {
       RecordOutput(command, number);
@@ -131,8 +132,8 @@ void HrconfData::ParseControllers(unsigned firstControllerNumber) {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     std::string config = RunTool(kHrconf, host_, kGetConfig, number);
     Log(host_, kLogRoutine, "HRCONFDATA-Getconfig " + std::to_string(number) + " al:\n" + config);
-    if (Contains(config, kNoControllers)) return;
-    if (Contains(config, kInvalidController) || config.empty()) continue;
+    if (ReportContains(config, kNoControllers)) return;
+    if (ReportContains(config, kInvalidController) || config.empty()) continue;
     ParseConfig(std::move(config), number, firstControllerNumber + number);
   }
 }

@@ -1,0 +1,36 @@
+#include "collect/text_search.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace {
+
+// The characters of reports, the most frequent first: blanks that line columns up, rules, small letters, digits. All
+// others are rare.
+constexpr std::string_view kFrequentFirst = " -ero\r\ninta:0lscdS1Dum2CRvAp37hbEf,F4|gN()T5MB./LP68VHOy9wXUWkI";
+
+constexpr auto kRarity = [] {
+  std::array<std::uint8_t, 256> rarity{};
+  rarity.fill(kFrequentFirst.size());
+  for (std::size_t rank = kFrequentFirst.size(); rank-- > 0;) {
+    rarity[static_cast<unsigned char>(kFrequentFirst[rank])] = static_cast<std::uint8_t>(rank);
+  }
+  return rarity;
+}();
+
+bool IsMoreFrequent(char one, char other) {
+  return kRarity[static_cast<unsigned char>(one)] < kRarity[static_cast<unsigned char>(other)];
+}
+
+}  // namespace
+
+std::size_t FindInReport(std::string_view report, std::string_view label, std::size_t from) {
+  if (label.empty()) return report.find(label, from);
+  const auto rarest = std::ranges::max_element(label, IsMoreFrequent);
+  const auto before = static_cast<std::size_t>(rarest - label.begin());
+  for (std::size_t at = report.find(*rarest, from + before); at != report.npos; at = report.find(*rarest, at + 1)) {
+    if (report.substr(at - before).starts_with(label)) return at - before;
+  }
+  return report.npos;
+}
