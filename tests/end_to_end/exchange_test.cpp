@@ -14,21 +14,18 @@
 #include "host/hxahost/text.h"
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"
-#include "tests/support/raid_log_setting.h"
 
 namespace exchange_test {
 namespace {
 
 std::string Output(const std::vector<std::string>& arguments) {
-  const RaidLogSetting setting("raid-manager\\");
   const ProgramResult result = RunHxahost(arguments);
   EXPECT_EQ(result.exitStatus, 0) << result.err;
   return result.out;
 }
 
 std::string QueryOutput(const std::string& format) {
-  return Output({"query", "--format", format, "--directory", hxahost::Utf8FromPath(SampleMachine()), "--machine-name",
-                 "SAMPLE", "--local-time", "20261121093000.000000+060"});
+  return Output({"query", "--format", format, "--replay", hxahost::Utf8FromPath(RecordedSampleMachine())});
 }
 
 std::string Line(const std::string& name, const std::string& text) {

@@ -20,9 +20,8 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-const std::vector<std::string> kReport = {
-    "query",    "--directory", Utf8FromPath(SampleMachine()), "--local-time", "20260305123015.250000+060",
-    "--format", "html"};
+const std::vector<std::string> kReport = {"query", "--format", "html", "--replay",
+                                          Utf8FromPath(RecordedSampleMachine())};
 
 ProgramResult WriteReport(const std::vector<std::string>& furtherArguments) {
   std::vector<std::string> arguments = kReport;
@@ -41,7 +40,9 @@ TEST(Report, HoldsWhatTheJsonSaysOfTheSampleMachine) {
   ASSERT_EQ(result.exitStatus, 0) << result.err;
   EXPECT_THAT(result.out, StartsWith("<!DOCTYPE html>\n"));
   EXPECT_THAT(result.out, EndsWith("</html>\n"));
-  EXPECT_EQ(QueryData(result.out), QuerySampleMachine({"--local-time", "20260305123015.250000+060"}));
+  const ProgramResult json =
+      RunHxahost({"query", "--format", "json", "--replay", Utf8FromPath(RecordedSampleMachine())});
+  EXPECT_EQ(QueryData(result.out), nlohmann::ordered_json::parse(json.out));
 }
 
 TEST(Report, NeedsNoFileBesideTheProgramAndIsWrittenByteForByte) {

@@ -23,9 +23,14 @@ using Json = nlohmann::ordered_json;
 // Relative to the sample machine's folder, as the tools' own paths are.
 constexpr const char* kRaidLogFolder = "raid-manager\\";
 
-Json QueryTwice() {
-  const RaidLogSetting setting(kRaidLogFolder);
-  return QuerySampleMachine({"--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060", "--repeat", "2"});
+// Asked once, for all tests.
+const Json& QueryTwice() {
+  static const Json result = [] {
+    const RaidLogSetting setting(kRaidLogFolder);
+    return QuerySampleMachine(
+        {"--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060", "--repeat", "2"});
+  }();
+  return result;
 }
 
 std::string Text(const Json& json) { return json.dump(1) + "\n"; }
@@ -49,7 +54,7 @@ TEST(SampleMachine, PublishesWhatItHasAlwaysPublishedOnBothSystems) {
 
 TEST(SampleMachine, PublishesEachClassThatPublishesAtAll) {
   const std::set<std::string> empty = {"KVRSG_DiskGroup", "KVRSG_zxDriveInDiskGroup", "KVRSG_zxExtenInDiskGroup"};
-  const Json result = QueryTwice();
+  const Json& result = QueryTwice();
   std::map<std::string, int> counts;
   for (const Json& instance : result["queries"][0]["instances"]) ++counts[instance["class"]];
   for (const auto& declaration : NKVRHXA20::PublishedClasses()) {
@@ -59,7 +64,7 @@ TEST(SampleMachine, PublishesEachClassThatPublishesAtAll) {
 }
 
 TEST(SampleMachine, PublishesTheSameOnTheSecondQueryWithoutRunningATool) {
-  const Json queries = QueryTwice()["queries"];
+  const Json& queries = QueryTwice()["queries"];
   ASSERT_EQ(queries.size(), 2U);
   Json withoutEvents = Json::array();
   for (const Json& instance : queries[0]["instances"]) {
@@ -73,7 +78,7 @@ TEST(SampleMachine, PublishesTheSameOnTheSecondQueryWithoutRunningATool) {
 }
 
 TEST(SampleMachine, NumbersLegacyThenHrconfThenArcconfControllers) {
-  const Json result = QueryTwice();
+  const Json& result = QueryTwice();
   std::vector<std::string> numbers;
   for (const Json& instance : result["queries"][0]["instances"]) {
     if (instance["class"] == "KVRSG_zxSCSIProtocolController") {

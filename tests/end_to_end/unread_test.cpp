@@ -18,11 +18,8 @@ using Json = nlohmann::ordered_json;
 using testing::Contains;
 using testing::HasSubstr;
 
-constexpr const char* kRaidLogFolder = "raid-manager\\";
-
-Json UnreadOf(const std::string& directory) {
-  const RaidLogSetting setting(kRaidLogFolder);
-  const ProgramResult result = RunHxahost({"query", "--format", "json", "--unread", "--directory", directory});
+Json UnreadOf(const std::string& machine, const std::string& name) {
+  const ProgramResult result = RunHxahost({"query", "--format", "json", "--unread", machine, name});
   EXPECT_EQ(result.exitStatus, 0) << result.err;
   return Json::parse(result.out)["queries"][0]["unread"];
 }
@@ -41,7 +38,7 @@ std::vector<std::string> Listed(const Json& unread) {
 TEST(Unread, ListsOfTheSampleMachineWhatIsReallyNotPublished) {
   std::vector<std::string> commands;
   std::size_t lines = 0;
-  for (const Json& text : UnreadOf(hxahost::Utf8FromPath(SampleMachine()))) {
+  for (const Json& text : UnreadOf("--replay", hxahost::Utf8FromPath(RecordedSampleMachine()))) {
     if (!text["command"].get<std::string>().starts_with("raid-manager")) commands.push_back(text["command"]);
     lines += text["lines"].size();
   }
@@ -56,11 +53,12 @@ TEST(Unread, ListsOfTheSampleMachineWhatIsReallyNotPublished) {
 }
 
 TEST(Unread, ShowsAtOnceThatAToolHasNewWords) {
+  const RaidLogSetting setting("raid-manager\\");
   const MachineCopy machine;
   machine.Replace("arcconf/1/getconfig-al", "EC Version#         ", "Engineering level   ");
   machine.Replace("qcmdrun/1/getstatus-device", "   Status                              : In progress",
                   "   Status                              : In progress\n   Phase of 3                          : 2nd");
-  const std::vector<std::string> listed = Listed(UnreadOf(machine.Directory()));
+  const std::vector<std::string> listed = Listed(UnreadOf("--directory", machine.Directory()));
   EXPECT_EQ(listed.size(), 33U);
   EXPECT_THAT(listed, Contains("zenx//arcconf.exe getconfig 1 al: 34    "
                                "Engineering level                        : J85096"));
@@ -69,8 +67,8 @@ TEST(Unread, ShowsAtOnceThatAToolHasNewWords) {
 }
 
 TEST(Unread, AreCountedAndListedBelowTheTables) {
-  const RaidLogSetting setting(kRaidLogFolder);
-  const ProgramResult result = RunHxahost({"query", "--unread", "--directory", hxahost::Utf8FromPath(SampleMachine())});
+  const ProgramResult result =
+      RunHxahost({"query", "--unread", "--replay", hxahost::Utf8FromPath(RecordedSampleMachine())});
   EXPECT_THAT(result.out, HasSubstr("\nLines of the tools' texts that nothing above shows: 31\n"));
   EXPECT_THAT(result.out, HasSubstr("  zenx//qcmdrun.exe getstatus 1 device: 1\n    12  Percentage complete"));
 }
