@@ -16,9 +16,8 @@ function(sources_of VARIABLE)
   set(${VARIABLE} ${sources} PARENT_SCOPE)
 endfunction()
 
-# What most files include of libraries, compiled once for each of the large targets by the presets asan and fuzz. What is
-# shipped is built without: each file shows there that it includes what it uses, and GCC 12, which takes headers that were
-# compiled before for the program's own when it optimises, gives no warnings of them.
+# What most files include of libraries, compiled once for each of the large targets. The preset linux does without: each
+# file shows there that it includes what it uses, and so do here those of one system alone.
 set(common_headers <algorithm> <boost/shared_ptr.hpp> <chrono> <cstdint> <filesystem> <functional> <map> <memory>
                    <optional> <ostream> <set> <span> <sstream> <stdexcept> <string> <string_view> <utility> <variant>
                    <vector>)
@@ -72,6 +71,9 @@ list(REMOVE_ITEM hxahost_sources ${CMAKE_SOURCE_DIR}/host/hxahost/main.cpp)
 add_library(hxahost_objects OBJECT ${hxahost_sources} cmake/empty.cpp)
 target_link_libraries(hxahost_objects PUBLIC host_interface plugin_manager platform_answers)
 target_compile_definitions(hxahost_objects PRIVATE ZENX_VERSION="${PROJECT_VERSION}")
+# What reads the tools' texts is optimised as far as the compiler can. What shows them need not be, and is most of the
+# code: it compiles a fifth faster.
+target_compile_options(hxahost_objects PRIVATE $<$<CONFIG:Release>:-O2>)
 add_executable(hxahost host/hxahost/main.cpp)
 target_link_libraries(hxahost PRIVATE hxahost_objects)
 add_dependencies(hxahost zenx)
@@ -79,6 +81,16 @@ add_dependencies(hxahost zenx)
 foreach(target zenx_objects hxahost_objects)
   target_precompile_headers(${target} PRIVATE ${common_headers})
 endforeach()
+set(of_one_system ${hxahost_sources})
+list(FILTER of_one_system INCLUDE REGEX /${system}/)
+set_source_files_properties(${of_one_system} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+# GCC 12 takes headers that were compiled before for the program's own, and then warns of copies that the library does not
+# make. The preset linux is warned of ours.
+if(MINGW AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(zenx_objects PRIVATE -Wno-stringop-overflow -Wno-array-bounds)
+  target_compile_options(hxahost_objects PRIVATE -Wno-stringop-overflow -Wno-array-bounds)
+  set_source_files_properties(${of_one_system} PROPERTIES COMPILE_OPTIONS "-Wstringop-overflow;-Warray-bounds")
+endif()
 
 # Programs find a DLL beside themselves: the compiler's runtime is put there, so that the folder runs as it is.
 if(MINGW)

@@ -37,17 +37,24 @@ add_library(test_support OBJECT ${test_support_sources} tests/main.cpp)
 target_link_libraries(test_support PUBLIC zenx_objects hxahost_objects test_framework)
 # Tests run the product's code, which is optimised as the preset says. Their own would take a third longer to compile.
 target_compile_options(test_support PUBLIC -O0)
+set_target_properties(test_support PROPERTIES ZENX_ONLY_TESTS ON)
 target_compile_definitions(test_support PUBLIC ZENX_SAMPLES="${CMAKE_SOURCE_DIR}/samples"
                                                ZENX_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
 
+find_program(ZENX_LLD ld.lld-14)
 foreach(level unit host end_to_end)
   sources_of(sources tests/${level})
-  add_executable(${level}_tests ${sources})
-  set_target_properties(${level}_tests PROPERTIES ${test_batches})
+  # The product's objects come first: of a function that stands in a header the linker keeps the first copy that it
+  # meets, and theirs is the one with all sanitizers.
+  add_executable(${level}_tests $<TARGET_OBJECTS:zenx_objects> $<TARGET_OBJECTS:hxahost_objects> ${sources})
+  set_target_properties(${level}_tests PROPERTIES ${test_batches} ZENX_ONLY_TESTS ON)
   target_link_libraries(${level}_tests PRIVATE test_support zenx_objects hxahost_objects)
+  if(MINGW AND ZENX_LLD)
+    target_link_options(${level}_tests PRIVATE -fno-use-linker-plugin -wrapper ${CMAKE_SOURCE_DIR}/cmake/link_with_lld)
+  endif()
   add_dependencies(${level}_tests hxahost zenx sample_machine test_child planted_library)
   add_test(NAME ${level} COMMAND ${level}_tests --gtest_brief=1 --gtest_output=xml:results-${level}.xml)
-  set_tests_properties(${level} PROPERTIES TIMEOUT 900)
+  set_tests_properties(${level} PROPERTIES TIMEOUT 1800)
 endforeach()
 
 # The preset asan runs two of all tests at a time. Programs that collect from one folder wait for each other, and say so.
