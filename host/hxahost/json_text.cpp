@@ -1,9 +1,7 @@
 #include "host/hxahost/json_text.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
-#include <cstdio>
 #include <string_view>
 
 #include "host/hxahost/text.h"
@@ -22,13 +20,6 @@ std::string_view TakePlain(std::string_view& text) {
   return plain;
 }
 
-// Every unsafe character has four digits at most.
-std::string Escape(char32_t code) {
-  std::array<char, 16> escape{};
-  std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(code));
-  return escape.data();
-}
-
 }  // namespace
 
 std::string JsonText(const nlohmann::ordered_json& json, int indent) {
@@ -37,7 +28,8 @@ std::string JsonText(const nlohmann::ordered_json& json, int indent) {
   std::string_view rest = dumped;
   for (text += TakePlain(rest); !rest.empty(); text += TakePlain(rest)) {
     const Character character = NextCharacter(rest);
-    text += IsUnsafe(character.code) ? Escape(character.code) : std::string(rest.substr(0, character.length));
+    text += IsUnsafe(character.code) ? ByCodeUnits(character.code, "\\u%04x")
+                                     : std::string(rest.substr(0, character.length));
     rest.remove_prefix(character.length);
   }
   return text;

@@ -1,8 +1,6 @@
 #include "host/hxahost/mof_text.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <iterator>
 
 #include "host/hxahost/text.h"
@@ -30,17 +28,11 @@ constexpr Escape kEscapes[] = {
 // In bytes; the last character may go past it.
 constexpr std::size_t kLongestString = 1000;
 
-// Always four digits, so that a digit that follows is no part of it.
-std::string ByNumber(char32_t code) {
-  std::array<char, 16> escape{};
-  std::snprintf(escape.data(), escape.size(), "\\x%04X", static_cast<unsigned>(code));
-  return escape.data();
-}
-
 std::string Escaped(char32_t code, std::string_view character) {
   const auto* const escape = std::ranges::find(kEscapes, code, &Escape::code);
   if (escape != std::end(kEscapes)) return escape->text;
-  return IsUnsafe(code) ? ByNumber(code) : std::string(character);
+  // Always four digits, so that a digit that follows is no part of it.
+  return IsUnsafe(code) ? ByCodeUnits(code, "\\x%04X") : std::string(character);
 }
 
 }  // namespace

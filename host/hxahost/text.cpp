@@ -32,16 +32,18 @@ struct Range {
 
 // C0 and C1 controls, what is invisible or turns the direction of the text around it, and codes that are no character.
 constexpr Range kUnsafe[] = {
-    {0x00,   0x1f  },
-    {0x7f,   0x9f  },
-    {0xad,   0xad  },
-    {0x61c,  0x61c },
-    {0x200b, 0x200f},
-    {0x2028, 0x202e},
-    {0x2060, 0x206f},
-    {0xfeff, 0xfeff},
-    {0xfff9, 0xfffb},
-    {0xfffe, 0xffff},
+    {0x00,    0x1f   },
+    {0x7f,    0x9f   },
+    {0xad,    0xad   },
+    {0x61c,   0x61c  },
+    {0x180e,  0x180e },
+    {0x200b,  0x200f },
+    {0x2028,  0x202e },
+    {0x2060,  0x206f },
+    {0xfeff,  0xfeff },
+    {0xfff9,  0xfffb },
+    {0xfffe,  0xffff },
+    {0xe0000, 0xe007f}, // copies of ASCII that nobody sees
 };
 
 // None: they are drawn over the character before. Marks of scripts whose letters change shape are counted as one.
@@ -131,7 +133,8 @@ std::string Escaped(char32_t code) {
   if (code == '\r') return "\\r";
   if (code == '\n') return "\\n";
   std::array<char, 16> escape{};
-  std::snprintf(escape.data(), escape.size(), code < 0x100 ? "\\x%02x" : "\\u%04x", static_cast<unsigned>(code));
+  const char* const format = code < 0x100 ? "\\x%02x" : code < 0x10000 ? "\\u%04x" : "\\U%08x";
+  std::snprintf(escape.data(), escape.size(), format, static_cast<unsigned>(code));
   return escape.data();
 }
 
@@ -143,6 +146,17 @@ std::size_t Columns(char32_t code) {
 }  // namespace
 
 Character NextCharacter(std::string_view utf8) { return FirstCharacter(utf8).value_or(Character{}); }
+
+std::string ByCodeUnits(char32_t code, const char* format) {
+  constexpr char32_t kFirstOfTwo = 0x10000;
+  if (code >= kFirstOfTwo) {
+    const char32_t offset = code - kFirstOfTwo;
+    return ByCodeUnits(0xd800 + (offset >> 10U), format) + ByCodeUnits(0xdc00 + (offset & 0x3ffU), format);
+  }
+  std::array<char, 16> escape{};
+  std::snprintf(escape.data(), escape.size(), format, static_cast<unsigned>(code));
+  return escape.data();
+}
 
 bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe); }
 

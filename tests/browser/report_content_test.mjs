@@ -267,7 +267,7 @@ test("Markup and scripts of tools change nothing and are shown literally", async
   const pre = await page.locator("details.raw pre").first().textContent();
   for (const text of texts.filter((each) => !/[\u001b\u0007\u200b\u2028\u202e]/.test(each))) assert.ok(pre.includes(text), text);
   assert.match(pre, /turned \\u202e txet \\u202c\\u2028next\\u2029last/);
-  assert.match(pre, /escape \\x1b\[31mred\\x1b\[0m bell \\x07 zero-width \\u200b\./);
+  assert.match(pre, /escape \\x1b\[31mred\\x1b\[0m bell \\x07 zero-width \\u200b\\U000e0041\./);
   assert.match(await sectionText(page, "Disks"), /<img src=x onerror="document\.title='taken'; alert\(2\)">/);
 });
 

@@ -27,7 +27,7 @@ const std::vector<std::string> kHostileTexts = {
     "javascript:alert(4)",
     "';alert(5);//`${alert(6)}` \\u003cscript>",
     "turned \xe2\x80\xae txet \xe2\x80\xac\xe2\x80\xa8next\xe2\x80\xa9last",
-    "escape \x1b[31mred\x1b[0m bell \x07 zero-width \xe2\x80\x8b.",
+    "escape \x1b[31mred\x1b[0m bell \x07 zero-width \xe2\x80\x8b\xf3\xa0\x81\x81.",
     "@QUERY_DATA@ @REPORT_DATA@ @SCRIPT@",
     "\xf6\xe4 bytes that are no UTF-8",
     "__proto__",

@@ -50,56 +50,59 @@ struct HostileText {
 };
 
 const HostileText kTexts[] = {
-    {"element",              "<img src=x onerror=alert(1)>"                      },
-    {"end of a script",      "</script><script>alert(1)</script>"                },
-    {"comment",              "<!-- a --> <!--<script"                            },
-    {"end of CDATA",         "a]]>b<![CDATA[c"                                   },
-    {"instructions",         "<?xml version='9'?><!DOCTYPE a [<!ENTITY b 'c'>]>" },
-    {"references",           "&lt;b&gt; &amp; &#13; &unknown; &"                 },
-    {"link",                 "javascript:alert(1)"                               },
-    {"attribute",            "\" onload=\"alert(1)\" a='"                        },
-    {"terminal commands",    "a\x1b[2J\x1b]0;title\x07\x1b[31m\x08\x7fz"         },
+    {"element",                     "<img src=x onerror=alert(1)>"                      },
+    {"end of a script",             "</script><script>alert(1)</script>"                },
+    {"comment",                     "<!-- a --> <!--<script"                            },
+    {"end of CDATA",                "a]]>b<![CDATA[c"                                   },
+    {"instructions",                "<?xml version='9'?><!DOCTYPE a [<!ENTITY b 'c'>]>" },
+    {"references",                  "&lt;b&gt; &amp; &#13; &unknown; &"                 },
+    {"link",                        "javascript:alert(1)"                               },
+    {"attribute",                   "\" onload=\"alert(1)\" a='"                        },
+    {"terminal commands",           "a\x1b[2J\x1b]0;title\x07\x1b[31m\x08\x7fz"         },
     {"C1 command in UTF-8",
      "a\xc2\x9b"
-     "2Jz"                                                                       },
+     "2Jz"                                                                              },
     {"C1 command, one byte",
      "a\x9b"
-     "2Jz"                                                                       },
-    {"line feeds",           "a\nb\r\nc\rd"                                      },
+     "2Jz"                                                                              },
+    {"line feeds",                  "a\nb\r\nc\rd"                                      },
     {"other line ends",
      "a\xc2\x85"
      "b\xe2\x80\xa8"
      "c\xe2\x80\xa9"
      "d\x0b"
      "e\x0c"
-     "f"                                                                         },
-    {"quotes",               "\"a\" 'b' `c`"                                     },
-    {"backslashes",          "\\ \\\\ \\n \\x41 \\u202e \\\" \\"                 },
-    {"end of a statement",   "\"; }; instance of KVRSG_zxRawData { Command = \"x"},
-    {"MOF comments",         "*/ // /* #pragma include (\"x\")"                  },
-    {"end of a label",       "\"} 1\nhxahost_health{machine=\"x"                 },
-    {"line of a bundle",     "a\n|b\nend of bundle, crc32 00000000\n"            },
-    {"high surrogate",       "a\xed\xa0\xbdz"                                    },
-    {"low surrogate",        "a\xed\xb8\x80z"                                    },
-    {"surrogates as bytes",  "a\xed\xa0\xbd\xed\xb8\x80z"                        },
+     "f"                                                                                },
+    {"quotes",                      "\"a\" 'b' `c`"                                     },
+    {"backslashes",                 "\\ \\\\ \\n \\x41 \\u202e \\\" \\"                 },
+    {"end of a statement",          "\"; }; instance of KVRSG_zxRawData { Command = \"x"},
+    {"MOF comments",                "*/ // /* #pragma include (\"x\")"                  },
+    {"end of a label",              "\"} 1\nhxahost_health{machine=\"x"                 },
+    {"line of a bundle",            "a\n|b\nend of bundle, crc32 00000000\n"            },
+    {"high surrogate",              "a\xed\xa0\xbdz"                                    },
+    {"low surrogate",               "a\xed\xb8\x80z"                                    },
+    {"surrogates as bytes",         "a\xed\xa0\xbd\xed\xb8\x80z"                        },
     {"turned text",
      "a\xe2\x80\xae"
      "txt.exe\xe2\x80\xac \xe2\x81\xa6"
-     "b\xe2\x81\xa9"                                                             },
+     "b\xe2\x81\xa9"                                                                    },
     {"direction marks",
      "a\xe2\x80\x8e\xe2\x80\x8f\xd8\x9c"
-     "b"                                                                         },
+     "b"                                                                                },
     {"invisible",
      "a\xe2\x80\x8b\xc2\xad\xef\xbb\xbf\xe2\x81\xa0"
-     "b"                                                                         },
+     "b"                                                                                },
+    {"invisible copies of letters",
+     "a\xe1\xa0\x8e\xf3\xa0\x81\x81\xf3\xa0\x81\xbf"
+     "b"                                                                                },
     {"no characters",
      "a\xef\xbf\xbe\xef\xbf\xbf"
-     "b"                                                                         },
-    {"NUL",                  "a\0b"s                                             },
-    {"no UTF-8",             "a\xff\xfe\xc3\x28\xf8z"                            },
-    {"every byte",           "a" + EveryByte() + "z"                             },
-    {"placeholders",         "%s %n {} {0} @QUERY_DATA@ @SCRIPT@ $& ${x} $1"     },
-    {"name of a prototype",  "__proto__"                                         },
+     "b"                                                                                },
+    {"NUL",                         "a\0b"s                                             },
+    {"no UTF-8",                    "a\xff\xfe\xc3\x28\xf8z"                            },
+    {"every byte",                  "a" + EveryByte() + "z"                             },
+    {"placeholders",                "%s %n {} {0} @QUERY_DATA@ @SCRIPT@ $& ${x} $1"     },
+    {"name of a prototype",         "__proto__"                                         },
 };
 
 // A machine in which a text stands wherever one from outside can stand.
@@ -197,8 +200,9 @@ std::string Log(const std::string& text) {
 bool ActsOnATerminal(char32_t code) {
   const auto isIn = [code](char32_t first, char32_t last) { return code >= first && code <= last; };
   if (code == '\n') return false;
-  return isIn(0, 0x1f) || isIn(0x7f, 0x9f) || code == 0xad || code == 0x61c || isIn(0x200b, 0x200f) ||
-         isIn(0x2028, 0x202e) || isIn(0x2060, 0x2069) || code == 0xfeff || isIn(0xfffe, 0xffff);
+  return isIn(0, 0x1f) || isIn(0x7f, 0x9f) || code == 0xad || code == 0x61c || code == 0x180e || isIn(0x200b, 0x200f) ||
+         isIn(0x2028, 0x202e) || isIn(0x2060, 0x2069) || code == 0xfeff || isIn(0xfffe, 0xffff) ||
+         isIn(0xe0000, 0xe007f);
 }
 
 void ExpectSafeOnATerminal(const std::string& written) {
@@ -384,6 +388,15 @@ struct Mof {
   std::vector<std::string> strings;
 };
 
+unsigned TakeFourDigits(std::string_view& rest) {
+  const auto number = static_cast<unsigned>(std::stoul(std::string(rest.substr(0, 4)), nullptr, 16));
+  rest.remove_prefix(4);
+  return number;
+}
+
+// A further byte of UTF-8, with the last six bits of a number.
+char Continued(unsigned number) { return static_cast<char>(0x80U | (number & 0x3fU)); }
+
 std::string UnescapedMof(std::string_view& rest) {
   constexpr std::string_view kLetters = "btnfr\"\\";
   constexpr std::string_view kMeant = "\b\t\n\f\r\"\\";
@@ -392,12 +405,16 @@ std::string UnescapedMof(std::string_view& rest) {
   const std::size_t known = kLetters.find(letter);
   if (known != kLetters.npos) return {kMeant[known]};
   EXPECT_EQ(letter, 'x');
-  const auto code = static_cast<unsigned>(std::stoul(std::string(rest.substr(0, 4)), nullptr, 16));
-  rest.remove_prefix(4);
+  const unsigned code = TakeFourDigits(rest);
   if (code < 0x80) return {static_cast<char>(code)};
-  if (code < 0x800) return {static_cast<char>(0xc0U | (code >> 6U)), static_cast<char>(0x80U | (code & 0x3fU))};
-  return {static_cast<char>(0xe0U | (code >> 12U)), static_cast<char>(0x80U | ((code >> 6U) & 0x3fU)),
-          static_cast<char>(0x80U | (code & 0x3fU))};
+  if (code < 0x800) return {static_cast<char>(0xc0U | (code >> 6U)), Continued(code)};
+  if (code < 0xd800 || code > 0xdbff) {
+    return {static_cast<char>(0xe0U | (code >> 12U)), Continued(code >> 6U), Continued(code)};
+  }
+  EXPECT_TRUE(rest.starts_with("\\x")) << "the first of two code units";
+  rest.remove_prefix(2);
+  const unsigned whole = 0x10000U + ((code - 0xd800U) << 10U) + (TakeFourDigits(rest) - 0xdc00U);
+  return {static_cast<char>(0xf0U | (whole >> 18U)), Continued(whole >> 12U), Continued(whole >> 6U), Continued(whole)};
 }
 
 std::string TakeMofString(std::string_view& rest) {

@@ -27,6 +27,7 @@ TEST(JsonText, EscapesWhatMustNotReachATerminalAndIsTheSameJson) {
       {"turned text",         "a\u202e.\u202c",     "\"a\\u202e.\\u202c\""  },
       {"line end",            "\u2028\u0085",       "\"\\u2028\\u0085\""    },
       {"invisible",           "\u200b\ufeff",       "\"\\u200b\\ufeff\""    },
+      {"invisible letter",    "\U000e0041",         "\"\\udb40\\udc41\""    },
       {"beyond four digits",  "\xf0\x9f\x92\xbe",   "\"\xf0\x9f\x92\xbe\""  },
   };
   for (const Case& each : cases) {

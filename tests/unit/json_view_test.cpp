@@ -24,10 +24,9 @@ std::string Json(const QueryHeader& header, const std::vector<QueryResult>& resu
 }
 
 nlohmann::ordered_json Properties(const FilledRepository& repository) {
-  const auto json = nlohmann::ordered_json::parse(Json(
-      {
-  },
-      {QueryResult{1, repository.Instances(), {}}}));
+  const auto json = nlohmann::ordered_json::parse(Json(QueryHeader(), {
+                                                                          QueryResult{1, repository.Instances(), {}}
+  }));
   return json["queries"][0]["instances"].back()["properties"];
 }
 
@@ -194,13 +193,11 @@ TEST(JsonView, KeepsEveryByte) {
 }
 
 TEST(JsonView, KeepsTheBytesOfMachineAndLog) {
-  const auto json = nlohmann::json::parse(Json(
-      {
-          "K\xe4se\n", "", {                                     },
-            {},
-            1
-  },
-      {QueryResult{1, {}, {{0, "\xe4\x00"s}}}}));
+  QueryHeader header;
+  header.machine = "K\xe4se\n";
+  const auto json = nlohmann::json::parse(Json(header, {
+                                                           QueryResult{1, {}, {{0, "\xe4\x00"s}}}
+  }));
   EXPECT_EQ(json["machine"], "K\xc3\xa4se\n");
   EXPECT_EQ(json["queries"][0]["log"][0]["text"].get<std::string>(), "\xc3\xa4\0"s);
 }

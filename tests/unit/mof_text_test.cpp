@@ -32,6 +32,7 @@ TEST(MofText, EscapesWhatMofGivesAMeaningAndWhatMustNotReachATerminal) {
       {"NUL",                   "a\0b"s,                        "\"a\xe2\x90\x80" + "b\""s        },
       {"DEL and C1",            "\x7f\xc2\x9b",                 R"("\x007F\x009B")"               },
       {"turns the text around", "\xe2\x80\xae",                 R"("\x202E")"                     },
+      {"invisible letter",      "\U000e0041",                   R"("\xDB40\xDC41")"               },
       {"UTF-8",                 "K\xc3\xa4se \xf0\x9f\x92\xbe", "\"K\xc3\xa4se \xf0\x9f\x92\xbe\""},
       {"ISO 8859-1",            "K\xe4se\xff",                  "\"K\xc3\xa4se\xc3\xbf\""         },
       {"no characters",         "\xef\xbf\xbe\xef\xbf\xbf",     R"("\xFFFE\xFFFF")"               },

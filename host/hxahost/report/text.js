@@ -2,12 +2,13 @@
 // direction of the text around it is shown as an escape, as in the tables of the terminal.
 
 const kUnsafeCharacters =
-  /[\u0000-\u0008\u000b\u000c\u000e-\u001f\u007f-\u009f\u00ad\u061c\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
+  /[\u0000-\u0008\u000b\u000c\u000e-\u001f\u007f-\u009f\u00ad\u061c\u180e\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb\u{e0000}-\u{e007f}]/gu;
 
 const kLineCharacters = { "\t": "\\t", "\r": "\\r", "\n": "\\n" };
 
 function escapedCharacter(character) {
-  const code = character.charCodeAt(0).toString(16);
+  const code = character.codePointAt(0).toString(16);
+  if (code.length > 4) return "\\U" + code.padStart(8, "0");
   return code.length <= 2 ? "\\x" + code.padStart(2, "0") : "\\u" + code.padStart(4, "0");
 }
 
