@@ -9,12 +9,6 @@ namespace {
 
 bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\n'; }
 
-// As ValueAfterColon, of a line of the text, which has its one line feed at its end.
-std::string_view ValueOfLine(std::string_view line) {
-  const std::size_t colon = line.find(':');
-  return colon == line.npos ? std::string_view() : line.substr(colon + 1);
-}
-
 }  // namespace
 
 CollectedData::CollectedData(HostHandle host, std::string text)
@@ -69,11 +63,6 @@ std::string_view CollectedData::ValueAfterColon(std::string_view line) {
   const std::size_t lineFeed = line.find('\n', colon);
   if (lineFeed == line.npos) return {};
   return line.substr(colon + 1, lineFeed - colon);
-}
-
-std::string_view CollectedData::ValueIf(std::string_view label) {
-  const std::string_view line = CurrentLine();
-  return IsLabelled(line, label) ? ValueOfLine(line) : std::string_view();
 }
 
 bool CollectedData::FindColumn(std::string_view line, std::string_view label) {

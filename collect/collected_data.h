@@ -45,7 +45,10 @@ class CollectedData {
   static std::string_view ValueAfterColon(std::string_view line);
 
   // The current line's value if it contains the label, else "".
-  std::string_view ValueIf(std::string_view label);
+  std::string_view ValueIf(std::string_view label) {
+    const std::string_view line = CurrentLine();
+    return IsLabelled(line, label) ? ValueOfLine(line) : std::string_view();
+  }
 
   // Moves to the next line; its value if it contains the label, else "".
   std::string_view NextLineValueIf(std::string_view label) {
@@ -62,6 +65,12 @@ class CollectedData {
   HostHandle Host() const { return host_; }
 
  private:
+  // As ValueAfterColon, of a line of the text, which has its one line feed at its end.
+  static std::string_view ValueOfLine(std::string_view line) {
+    const std::size_t colon = line.find(':');
+    return colon == line.npos ? std::string_view() : line.substr(colon + 1);
+  }
+
   // Tools indent the labels of a section alike, so most stand where the one before them did.
   bool IsLabelled(std::string_view line, std::string_view label) {
     return line.substr(std::min(labelColumn_, line.size())).starts_with(label) || FindColumn(line, label);
