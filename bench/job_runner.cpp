@@ -50,8 +50,8 @@ Cost RunOnce(const std::string& job, int size) {
 
 // "==4711== Collected : 1234567"
 double InstructionsOf(const std::string& job, int size) {
-  // The C library copies long texts by one instruction, which valgrind counts anew for every byte: by those that move 32
-  // bytes, as here, they cost about as much as they take.
+  // The C library copies long texts by one instruction, which valgrind counts anew for every byte: by those that move
+  // 32 bytes, as here, they cost about as much as they take.
   constexpr const char* kValgrind =
       "GLIBC_TUNABLES=glibc.cpu.x86_rep_movsb_threshold=1073741824 "
       "valgrind --tool=callgrind --toggle-collect='Measured(*' --callgrind-out-file=/dev/null ";
