@@ -16,8 +16,9 @@ function(sources_of VARIABLE)
   set(${VARIABLE} ${sources} PARENT_SCOPE)
 endfunction()
 
-# What most files include of libraries, compiled once for each of the large targets. The preset linux does without: each
-# file shows there that it includes what it uses, and so do here those of one system alone.
+# What most files include of libraries, compiled once for each of the large targets by the presets asan and fuzz. What is
+# shipped is built without: each file shows there that it includes what it uses, and GCC 12, which takes headers that were
+# compiled before for the program's own when it optimises, gives no warnings of them.
 set(common_headers <algorithm> <boost/shared_ptr.hpp> <chrono> <cstdint> <filesystem> <functional> <map> <memory>
                    <optional> <ostream> <set> <span> <sstream> <stdexcept> <string> <string_view> <utility> <variant>
                    <vector>)
@@ -81,16 +82,6 @@ add_dependencies(hxahost zenx)
 foreach(target zenx_objects hxahost_objects)
   target_precompile_headers(${target} PRIVATE ${common_headers})
 endforeach()
-set(of_one_system ${hxahost_sources})
-list(FILTER of_one_system INCLUDE REGEX /${system}/)
-set_source_files_properties(${of_one_system} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
-# GCC 12 takes headers that were compiled before for the program's own, and then warns of copies that the library does not
-# make. The preset linux is warned of ours.
-if(MINGW AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(zenx_objects PRIVATE -Wno-stringop-overflow -Wno-array-bounds)
-  target_compile_options(hxahost_objects PRIVATE -Wno-stringop-overflow -Wno-array-bounds)
-  set_source_files_properties(${of_one_system} PROPERTIES COMPILE_OPTIONS "-Wstringop-overflow;-Warray-bounds")
-endif()
 
 # Programs find a DLL beside themselves: the compiler's runtime is put there, so that the folder runs as it is.
 if(MINGW)

@@ -128,14 +128,19 @@ std::string_view WithoutOuterSpace(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
 }
 
+constexpr char32_t kFirstOfTwoUnits = 0x10000;  // of UTF-16
+
+std::string ByNumber(char32_t code, const char* format) {
+  std::array<char, 16> text{};
+  std::snprintf(text.data(), text.size(), format, static_cast<unsigned>(code));
+  return text.data();
+}
+
 std::string Escaped(char32_t code) {
   if (code == '\t') return "\\t";
   if (code == '\r') return "\\r";
   if (code == '\n') return "\\n";
-  std::array<char, 16> escape{};
-  const char* const format = code < 0x100 ? "\\x%02x" : code < 0x10000 ? "\\u%04x" : "\\U%08x";
-  std::snprintf(escape.data(), escape.size(), format, static_cast<unsigned>(code));
-  return escape.data();
+  return ByNumber(code, code < 0x100 ? "\\x%02x" : code < kFirstOfTwoUnits ? "\\u%04x" : "\\U%08x");
 }
 
 std::size_t Columns(char32_t code) {
@@ -148,14 +153,9 @@ std::size_t Columns(char32_t code) {
 Character NextCharacter(std::string_view utf8) { return FirstCharacter(utf8).value_or(Character{}); }
 
 std::string ByCodeUnits(char32_t code, const char* format) {
-  constexpr char32_t kFirstOfTwo = 0x10000;
-  if (code >= kFirstOfTwo) {
-    const char32_t offset = code - kFirstOfTwo;
-    return ByCodeUnits(0xd800 + (offset >> 10U), format) + ByCodeUnits(0xdc00 + (offset & 0x3ffU), format);
-  }
-  std::array<char, 16> escape{};
-  std::snprintf(escape.data(), escape.size(), format, static_cast<unsigned>(code));
-  return escape.data();
+  if (code < kFirstOfTwoUnits) return ByNumber(code, format);
+  const char32_t offset = code - kFirstOfTwoUnits;
+  return ByNumber(0xd800 + (offset >> 10U), format) + ByNumber(0xdc00 + (offset & 0x3ffU), format);
 }
 
 bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe); }
