@@ -16,6 +16,20 @@ function(sources_of VARIABLE)
   set(${VARIABLE} ${sources} PARENT_SCOPE)
 endfunction()
 
+# Most presets compile several files of a target as one: the headers that each includes take longer than what it holds. So
+# no two of them may use one name for something of their own, and the preset linux, which compiles each by itself, shows
+# that each includes what it uses. The tools' folders are much alike and use each name for the same: a folder is compiled
+# as one.
+function(compile_folders_as_one TARGET)
+  get_target_property(sources ${TARGET} SOURCES)
+  foreach(source ${sources})
+    cmake_path(GET source PARENT_PATH folder)
+    cmake_path(GET folder FILENAME name)
+    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${name})
+  endforeach()
+  set_target_properties(${TARGET} PROPERTIES UNITY_BUILD_MODE GROUP)
+endfunction()
+
 # What most files include of libraries, compiled once for each of the large targets by the presets asan and fuzz. What is
 # shipped is built without: each file shows there that it includes what it uses, and GCC 12, which takes headers that were
 # compiled before for the program's own when it optimises, gives no warnings of them.
@@ -52,6 +66,7 @@ list(TRANSFORM answers PREPEND ${CMAKE_SOURCE_DIR}/)
 list(REMOVE_ITEM zenx_sources ${answers})
 add_library(zenx_objects OBJECT ${zenx_sources} plugin/callbacks.cpp plugin/query.cpp)
 target_link_libraries(zenx_objects PUBLIC host_interface plugin_manager platform_answers)
+compile_folders_as_one(zenx_objects)
 add_library(zenx SHARED plugin/library_entry_${system}.cpp)
 target_link_libraries(zenx PRIVATE zenx_objects)
 set_target_properties(zenx PROPERTIES PREFIX "" OUTPUT_NAME zenx SUFFIX .pi)

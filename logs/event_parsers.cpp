@@ -16,13 +16,13 @@ using NKVRHXA20::TCIMDateTime;
 
 namespace {
 
-struct Column {
+struct DddColumn {
   int number;
   std::string ZenxEventDddData::*field;
 };
 
 // "| 03/15/2005 | 14:02:33 | 1 | 3 | 04 | Drive did not answer"
-constexpr Column kColumns[] = {
+constexpr DddColumn kDddColumns[] = {
     {1, &ZenxEventDddData::Date   },
     {2, &ZenxEventDddData::Time   },
     {3, &ZenxEventDddData::Channel},
@@ -74,7 +74,7 @@ void ParseDddRow(ZenxEventDddData& record, const CollectedData& text, std::strin
                  std::uint32_t entryNumber) {
   record.Controller = controllerNumber;
   const TableRow row(text.CurrentLine());
-  for (const Column& column : kColumns) record.*column.field = row.Column(column.number);
+  for (const DddColumn& column : kDddColumns) record.*column.field = row.Column(column.number);
   record.Descrip = row.LastColumn(kDescription);
   record.MessageTimestamp = TCIMDateTime(TimestampText(record.Date, record.Time));
   record.RecordID = FourHexDigits(entryNumber);

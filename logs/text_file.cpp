@@ -8,7 +8,7 @@
 namespace {
 
 constexpr std::size_t kBufferSize = std::size_t{64} << 10U;
-constexpr int kNone = -1;
+constexpr int kNowhere = -1;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ TextFile::TextFile(const std::string& path) : file_(OpenNativeFile(path)), buffe
 const std::string& TextFile::ReadLine(std::size_t limit) {
   line_.clear();
   while (IsOpen() && line_.size() < limit && !line_.ends_with('\n')) {
-    if (Peek() == kNone) {
+    if (Peek() == kNowhere) {
       hasMetEnd_ = true;
       break;
     }
@@ -52,4 +52,4 @@ bool TextFile::Fill() {
   return filled_ > 0;
 }
 
-int TextFile::Peek() { return Fill() ? static_cast<unsigned char>(buffer_[position_]) : kNone; }
+int TextFile::Peek() { return Fill() ? static_cast<unsigned char>(buffer_[position_]) : kNowhere; }

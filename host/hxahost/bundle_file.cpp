@@ -14,7 +14,7 @@ namespace hxahost {
 
 namespace {
 
-[[noreturn]] void Reject(const fs::path& file, const std::string& why) {
+[[noreturn]] void RejectBundle(const fs::path& file, const std::string& why) {
   throw ProgramError(ExitStatus::kWrongArguments, Printable(Utf8FromPath(file)) + " " + why + ".");
 }
 
@@ -22,11 +22,11 @@ namespace {
 
 Bundle ReadBundleFile(const fs::path& file) {
   std::string text;
-  if (!NKVRHXA20::ReadWholeFile(file, text)) Reject(file, "cannot be read: name a bundle that is there");
+  if (!NKVRHXA20::ReadWholeFile(file, text)) RejectBundle(file, "cannot be read: name a bundle that is there");
   try {
     return ReadBundle(text);
   } catch (const BundleError& reason) {
-    Reject(file, reason.what());
+    RejectBundle(file, reason.what());
   }
 }
 

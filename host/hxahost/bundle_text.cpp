@@ -14,12 +14,12 @@ namespace hxahost {
 
 namespace {
 
-struct Escape {
+struct ByteEscape {
   char letter;
   char byte;
 };
 
-constexpr Escape kEscapes[] = {
+constexpr ByteEscape kByteEscapes[] = {
     {'\\', '\\'},
     {'r',  '\r'},
     {'t',  '\t'},
@@ -28,9 +28,9 @@ constexpr Escape kEscapes[] = {
 };
 
 // What a byte is written as; a quotation mark is itself where no text ends at one.
-std::string Escaped(char byte) {
-  const auto* const escape = std::ranges::find(kEscapes, byte, &Escape::byte);
-  if (escape != std::end(kEscapes)) return {'\\', escape->letter};
+std::string EscapedByte(char byte) {
+  const auto* const escape = std::ranges::find(kByteEscapes, byte, &ByteEscape::byte);
+  if (escape != std::end(kByteEscapes)) return {'\\', escape->letter};
   std::array<char, 8> text{};
   std::snprintf(text.data(), text.size(), "\\x%02x", static_cast<unsigned>(static_cast<unsigned char>(byte)));
   return text.data();
@@ -41,7 +41,7 @@ std::string EscapeAll(std::string_view bytes, bool isQuoted) {
   while (!bytes.empty()) {
     const bool isMark = bytes.front() == '\\' || (isQuoted && bytes.front() == '"');
     const std::size_t length = isMark ? 0 : PrintableLength(bytes);
-    if (length == 0) text += Escaped(bytes.front());
+    if (length == 0) text += EscapedByte(bytes.front());
     text += bytes.substr(0, length);
     bytes.remove_prefix(std::max<std::size_t>(length, 1));
   }
@@ -51,8 +51,8 @@ std::string EscapeAll(std::string_view bytes, bool isQuoted) {
 // Takes an escape, without its backslash, off the front.
 std::optional<char> TakeEscape(std::string_view& text) {
   if (text.empty()) return std::nullopt;
-  const auto* const escape = std::ranges::find(kEscapes, text.front(), &Escape::letter);
-  if (escape != std::end(kEscapes)) {
+  const auto* const escape = std::ranges::find(kByteEscapes, text.front(), &ByteEscape::letter);
+  if (escape != std::end(kByteEscapes)) {
     text.remove_prefix(1);
     return escape->byte;
   }

@@ -38,7 +38,7 @@ std::string ControlPicture(char32_t code) { return {'\xe2', '\x90', static_cast<
 bool IsLegal(char32_t code) { return code >= 0x20 || code == '\t' || code == '\n' || code == '\r'; }
 
 // Takes what is printable ASCII off the beginning: nearly all of what tools print, and right as it is.
-std::string_view TakePlain(std::string_view& text) {
+std::string_view TakePrintable(std::string_view& text) {
   const auto isPlain = [](char character) { return character >= ' ' && character <= '~'; };
   const auto length = std::ranges::find_if_not(text, isPlain) - text.begin();
   const std::string_view plain = text.substr(0, static_cast<std::size_t>(length));
@@ -50,7 +50,7 @@ std::string LegalText(std::string_view bytes) {
   const std::string utf8 = AsUtf8(bytes);
   std::string legal;
   std::string_view rest = utf8;
-  for (legal += TakePlain(rest); !rest.empty(); legal += TakePlain(rest)) {
+  for (legal += TakePrintable(rest); !rest.empty(); legal += TakePrintable(rest)) {
     const auto [code, length] = NextCharacter(rest);
     if (!IsLegal(code)) {
       legal += ControlPicture(code);
@@ -67,7 +67,7 @@ std::string LegalText(std::string_view bytes) {
 // Parsers make a line feed of a carriage return that they meet as it is. That and whatever must not reach a terminal is
 // written by its number, which the library does not do.
 void WriteByNumber(std::ostream& out, std::string_view xml) {
-  for (out << TakePlain(xml); !xml.empty(); out << TakePlain(xml)) {
+  for (out << TakePrintable(xml); !xml.empty(); out << TakePrintable(xml)) {
     const auto [code, length] = NextCharacter(xml);
     if (IsUnsafe(code) && code != '\n' && code != '\t') {
       out << "&#" << static_cast<unsigned>(code) << ';';
@@ -91,7 +91,7 @@ ECIMType TypeOf(const TCIMValue& value) {
   return kCIMString;
 }
 
-bool IsNumber(ECIMType type) { return type == kCIMUInt16 || type == kCIMUInt32; }
+bool IsNumberType(ECIMType type) { return type == kCIMUInt16 || type == kCIMUInt32; }
 
 void AppendPath(Tree& parent, const TCIMReference& reference, std::string_view declaredClass);
 
@@ -108,7 +108,7 @@ void AppendKey(Tree& parent, const TCIMValue& value, std::string_view declaredCl
   if (TCIMValueReader::Kind(value) == ValueKind::kReference) return AppendReference(parent, value, declaredClass);
   const ECIMType type = TypeOf(value);
   Tree& key = Append(parent, "KEYVALUE");
-  SetAttribute(key, "VALUETYPE", IsNumber(type) ? "numeric" : "string");
+  SetAttribute(key, "VALUETYPE", IsNumberType(type) ? "numeric" : "string");
   SetAttribute(key, "TYPE", TypeName(type));
   key.data() = LegalText(std::string(value));
 }

@@ -2,35 +2,33 @@
 
 #include <algorithm>
 
+#include "host/hxahost/class_names.h"
+
 namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kController = "KVRSG_zxSCSIProtocolController";
-constexpr std::string_view kLogicalDisk = "KVRSG_zxLogicalDisk";
-constexpr std::string_view kDiskGroup = "KVRSG_zxDiskGroup";
-constexpr std::string_view kDiskDrive = "KVRSG_zxDiskDrive";
-constexpr std::string_view kBadStripes = "KVRSG_BadStripeData";
-constexpr std::string_view kStatistics = "KVRSG_zxSCSIDeviceData";
-constexpr std::string_view kFirmware = "KVRSG_zxFirmwareVersion";
-constexpr std::string_view kBootBlock = "KVRSG_zxBootBlockVersion";
-constexpr std::string_view kBios = "KVRSG_zxBiosVersion";
-constexpr std::string_view kDriveFirmware = "KVRSG_zxDiskDriveVersion";
+constexpr std::string_view kBadStripeClass = "KVRSG_BadStripeData";
+constexpr std::string_view kStatisticsClass = "KVRSG_zxSCSIDeviceData";
+constexpr std::string_view kFirmwareClass = "KVRSG_zxFirmwareVersion";
+constexpr std::string_view kBootBlockClass = "KVRSG_zxBootBlockVersion";
+constexpr std::string_view kBiosClass = "KVRSG_zxBiosVersion";
+constexpr std::string_view kDriveFirmwareClass = "KVRSG_zxDiskDriveVersion";
 
 }  // namespace
 
 std::span<const ClassDependency> ClassDependencies() {
   static const ClassDependency kDependencies[] = {
-      {kBadStripes,                                 {kLogicalDisk}              },
-      {"KVRSG_zxProtocolControllerForUnit",         {kController, kLogicalDisk} },
-      {"KVRSG_zxProtocolControllerForPhysicalDisk", {kController, kDiskDrive}   },
-      {"KVRSG_zxStripeOrderForController",          {kController, kDiskGroup}   },
-      {"KVRSG_zxFirmwareOnController",              {kController, kFirmware}    },
-      {"KVRSG_zxBootBlockOnController",             {kController, kBootBlock}   },
-      {"KVRSG_zxFirmwareOnDiskDrive",               {kDiskDrive, kDriveFirmware}},
-      {"KVRSG_zxBiosOnController",                  {kController, kBios}        },
-      {"KVRSG_ElementZxScsiDeviceData",             {kDiskDrive, kStatistics}   },
-      {"KVRSG_ElementBadStripeData",                {kLogicalDisk, kBadStripes} },
+      {kBadStripeClass,                             {kLogicalDiskClass}                   },
+      {"KVRSG_zxProtocolControllerForUnit",         {kControllerClass, kLogicalDiskClass} },
+      {"KVRSG_zxProtocolControllerForPhysicalDisk", {kControllerClass, kDiskDriveClass}   },
+      {"KVRSG_zxStripeOrderForController",          {kControllerClass, kDiskGroupClass}   },
+      {"KVRSG_zxFirmwareOnController",              {kControllerClass, kFirmwareClass}    },
+      {"KVRSG_zxBootBlockOnController",             {kControllerClass, kBootBlockClass}   },
+      {"KVRSG_zxFirmwareOnDiskDrive",               {kDiskDriveClass, kDriveFirmwareClass}},
+      {"KVRSG_zxBiosOnController",                  {kControllerClass, kBiosClass}        },
+      {"KVRSG_ElementZxScsiDeviceData",             {kDiskDriveClass, kStatisticsClass}   },
+      {"KVRSG_ElementBadStripeData",                {kLogicalDiskClass, kBadStripeClass}  },
   };
   return kDependencies;
 }

@@ -1,5 +1,7 @@
 #include "host/hxahost/controller_columns.h"
 
+#include "host/hxahost/class_names.h"
+
 namespace hxahost {
 
 namespace {
@@ -67,10 +69,10 @@ constexpr InstanceColumn kDisks[] = {
 };
 
 constexpr DeviceKind kKinds[] = {
-    {"KVRSG_zxSCSIProtocolController", "",               {}            },
-    {"KVRSG_zxLogicalDisk",            "Logical drives", kLogicalDrives},
-    {"KVRSG_zxDiskGroup",              "Disk groups",    kDiskGroups   },
-    {"KVRSG_zxDiskDrive",              "Disks",          kDisks        },
+    {kControllerClass,  "",               {}            },
+    {kLogicalDiskClass, "Logical drives", kLogicalDrives},
+    {kDiskGroupClass,   "Disk groups",    kDiskGroups   },
+    {kDiskDriveClass,   "Disks",          kDisks        },
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/published_text.h"
 
 using NKVRHXA20::TPublishedInstance;
@@ -60,11 +61,11 @@ struct Naming {
 };
 
 constexpr Naming kNamings[] = {
-    {"KVRSG_zxSCSIProtocolController", "DeviceID",   ControllerName  },
-    {"KVRSG_zxLogicalDisk",            "DeviceID",   LogicalDriveName},
-    {"KVRSG_zxDiskDrive",              "DeviceID",   DeviceName      },
-    {"KVRSG_BadStripeData",            "InstanceID", BadStripesName  },
-    {"KVRSG_zxSCSIDeviceData",         "InstanceID", CountersName    },
+    {kControllerClass,         "DeviceID",   ControllerName  },
+    {kLogicalDiskClass,        "DeviceID",   LogicalDriveName},
+    {kDiskDriveClass,          "DeviceID",   DeviceName      },
+    {"KVRSG_BadStripeData",    "InstanceID", BadStripesName  },
+    {"KVRSG_zxSCSIDeviceData", "InstanceID", CountersName    },
 };
 
 const Naming* FindNaming(const TPublishedInstance& instance) {

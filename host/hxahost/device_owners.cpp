@@ -9,7 +9,9 @@
 #include <string_view>
 #include <utility>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/published_text.h"
+#include "host/hxahost/tool_names.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -17,20 +19,11 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kController = "KVRSG_zxSCSIProtocolController";
-constexpr std::string_view kLogicalDisk = "KVRSG_zxLogicalDisk";
-constexpr std::string_view kDiskGroup = "KVRSG_zxDiskGroup";
-constexpr std::string_view kDiskDrive = "KVRSG_zxDiskDrive";
-
-constexpr std::string_view kLegacy = "qcmdrun";
-constexpr std::string_view kArcconf = "arcconf";
-constexpr std::string_view kHrconf = "hrconf_64";
-
 // What a property that has a text says of the utility. Signs that are not certain count where others have shown that
 // two controllers share a number: they tell one utility from those of the rows above them, in an answer that is whole.
 enum class Certainty { kCertain, kLikely };
 
-struct Sign {
+struct OwnerSign {
   std::string_view className;
   std::string_view property;
   std::string_view tool;
@@ -40,34 +33,34 @@ struct Sign {
 constexpr auto kCertain = Certainty::kCertain;
 constexpr auto kLikely = Certainty::kLikely;
 
-constexpr Sign kSigns[] = {
-    {kController,  "ScsiChannelDescr",       kLegacy,  kCertain},
-    {kController,  "InitiatorChannelScsiId", kLegacy,  kCertain},
-    {kController,  "MaxPhysicalDevices",     kLegacy,  kCertain},
-    {kController,  "ReadAhead",              kLegacy,  kCertain},
-    {kController,  "InstalledMemory",        kArcconf, kCertain},
-    {kController,  "CopyBackEnabled",        kArcconf, kCertain},
-    {kController,  "VPD",                    kArcconf, kCertain},
-    {kController,  "ControllerType",         kArcconf, kLikely },
-    {kController,  "SerialNum",              kArcconf, kLikely },
-    {kController,  "ChannelDescription",     kHrconf,  kLikely },
-    {kController,  "ControllerStatus",       kHrconf,  kLikely },
-    {kLogicalDisk, "AccessBlocked",          kLegacy,  kCertain},
-    {kLogicalDisk, "PartOfArray",            kLegacy,  kCertain},
-    {kLogicalDisk, "PartOfMergeGroup",       kLegacy,  kCertain},
-    {kLogicalDisk, "NumOfSegments",          kArcconf, kCertain},
-    {kLogicalDisk, "Partitioned",            kArcconf, kCertain},
-    {kLogicalDisk, "DefunctSegments",        kArcconf, kCertain},
-    {kLogicalDisk, "WriteCacheSetting",      kArcconf, kCertain},
-    {kLogicalDisk, "NumOfChunks",            kHrconf,  kCertain},
-    {kLogicalDisk, "DriveList",              kHrconf,  kLikely },
-    {kDiskGroup,   "Array",                  kLegacy,  kCertain},
-    {kDiskDrive,   "ReportedESD",            kArcconf, kCertain},
-    {kDiskDrive,   "ReportedLocation",       kArcconf, kCertain},
-    {kDiskDrive,   "EnclosureId",            kArcconf, kCertain},
-    {kDiskDrive,   "DeviceNumber",           kHrconf,  kCertain},
-    {kDiskDrive,   "ScsiId",                 kLegacy,  kLikely },
-    {kDiskDrive,   "Channel",                kLegacy,  kLikely },
+constexpr OwnerSign kOwnerSigns[] = {
+    {kControllerClass,  "ScsiChannelDescr",       kQcmdrun, kCertain},
+    {kControllerClass,  "InitiatorChannelScsiId", kQcmdrun, kCertain},
+    {kControllerClass,  "MaxPhysicalDevices",     kQcmdrun, kCertain},
+    {kControllerClass,  "ReadAhead",              kQcmdrun, kCertain},
+    {kControllerClass,  "InstalledMemory",        kArcconf, kCertain},
+    {kControllerClass,  "CopyBackEnabled",        kArcconf, kCertain},
+    {kControllerClass,  "VPD",                    kArcconf, kCertain},
+    {kControllerClass,  "ControllerType",         kArcconf, kLikely },
+    {kControllerClass,  "SerialNum",              kArcconf, kLikely },
+    {kControllerClass,  "ChannelDescription",     kHrconf,  kLikely },
+    {kControllerClass,  "ControllerStatus",       kHrconf,  kLikely },
+    {kLogicalDiskClass, "AccessBlocked",          kQcmdrun, kCertain},
+    {kLogicalDiskClass, "PartOfArray",            kQcmdrun, kCertain},
+    {kLogicalDiskClass, "PartOfMergeGroup",       kQcmdrun, kCertain},
+    {kLogicalDiskClass, "NumOfSegments",          kArcconf, kCertain},
+    {kLogicalDiskClass, "Partitioned",            kArcconf, kCertain},
+    {kLogicalDiskClass, "DefunctSegments",        kArcconf, kCertain},
+    {kLogicalDiskClass, "WriteCacheSetting",      kArcconf, kCertain},
+    {kLogicalDiskClass, "NumOfChunks",            kHrconf,  kCertain},
+    {kLogicalDiskClass, "DriveList",              kHrconf,  kLikely },
+    {kDiskGroupClass,   "Array",                  kQcmdrun, kCertain},
+    {kDiskDriveClass,   "ReportedESD",            kArcconf, kCertain},
+    {kDiskDriveClass,   "ReportedLocation",       kArcconf, kCertain},
+    {kDiskDriveClass,   "EnclosureId",            kArcconf, kCertain},
+    {kDiskDriveClass,   "DeviceNumber",           kHrconf,  kCertain},
+    {kDiskDriveClass,   "ScsiId",                 kQcmdrun, kLikely },
+    {kDiskDriveClass,   "Channel",                kQcmdrun, kLikely },
 };
 
 struct Told {
@@ -78,7 +71,7 @@ struct Told {
 // "Device #4" of arcconf is "4" of hrconf_64.
 Told ToolOf(const TPublishedInstance& instance) {
   if (PublishedText(instance, "DeviceNumber").starts_with("Device")) return {kArcconf, Certainty::kCertain};
-  for (const Sign& sign : kSigns) {
+  for (const OwnerSign& sign : kOwnerSigns) {
     if (instance.Class().name != sign.className || PublishedText(instance, sign.property).empty()) continue;
     return {sign.tool, sign.certainty};
   }
@@ -111,7 +104,7 @@ using DrivesByName = std::multimap<std::string, const TPublishedInstance*>;
 DrivesByName LogicalDrives(const InstanceList& instances) {
   DrivesByName drives;
   for (const auto& instance : instances) {
-    if (instance->Class().name != kLogicalDisk) continue;
+    if (instance->Class().name != kLogicalDiskClass) continue;
     drives.emplace("Cntrlr" + PublishedText(*instance, "ControllerNum") + "LogicalDrv" +
                        PublishedText(*instance, "LogicalDriveNum"),
                    instance.get());
@@ -137,7 +130,7 @@ struct Owned {
 };
 
 std::vector<Owned> FindOwners(const InstanceList& instances) {
-  constexpr std::string_view kDevices[] = {kController, kLogicalDisk, kDiskGroup, kDiskDrive};
+  constexpr std::string_view kDevices[] = {kControllerClass, kLogicalDiskClass, kDiskGroupClass, kDiskDriveClass};
   const DrivesByName drives = LogicalDrives(instances);
   std::vector<Owned> owners;
   for (const auto& instance : instances) {
@@ -146,7 +139,7 @@ std::vector<Owned> FindOwners(const InstanceList& instances) {
       continue;
     }
     Told told = ToolOf(*instance);
-    if (told.tool.empty() && instance->Class().name == kDiskGroup) told = ToolOfArray(*instance, drives);
+    if (told.tool.empty() && instance->Class().name == kDiskGroupClass) told = ToolOfArray(*instance, drives);
     owners.push_back({PublishedText(*instance, "ControllerNum"), told});
   }
   return owners;
@@ -160,7 +153,7 @@ std::set<std::string> SharedNumbers(const InstanceList& instances, const std::ve
     const auto& [number, told] = owners[place];
     if (told.tool.empty() || number.empty()) continue;
     if (told.certainty == Certainty::kCertain) certain[number].insert(told.tool);
-    if (instances[place]->Class().name == kController) controllers[number].insert(told.tool);
+    if (instances[place]->Class().name == kControllerClass) controllers[number].insert(told.tool);
   }
   std::set<std::string> shared;
   for (const auto* const tools : {&certain, &controllers}) {

@@ -20,7 +20,7 @@ constexpr std::string_view kHeadings[] = {
 };
 static_assert(std::size(kHeadings) == static_cast<std::size_t>(ChangeGroup::kTime) + 1);
 
-std::string ValueText(const Json& value) {
+std::string QuotedValue(const Json& value) {
   if (value.is_null()) return "(not there)";
   return "\"" + EscapeControls(value.is_string() ? value.get<std::string>() : value.dump()) + "\"";
 }
@@ -30,8 +30,8 @@ std::string ChangeText(const Change& change) {
   if (change.kind == ChangeKind::kDisappeared) return "- " + path;
   if (change.kind == ChangeKind::kAppeared) return "+ " + path;
   const std::string moved = change.newPath.empty() ? "" : " (now " + Printable(change.newPath) + ")";
-  return "! " + path + moved + ": " + Printable(change.property) + " " + ValueText(change.before) + " -> " +
-         ValueText(change.after);
+  return "! " + path + moved + ": " + Printable(change.property) + " " + QuotedValue(change.before) + " -> " +
+         QuotedValue(change.after);
 }
 
 // The times of collection are always others: how many says enough.
@@ -53,7 +53,7 @@ std::string FindingChangeText(const FindingChange& change) {
          QuotedText(*change.before) + ")";
 }
 
-void WriteFindings(std::ostream& out, const ResultDiff& diff) {
+void WriteFindingChanges(std::ostream& out, const ResultDiff& diff) {
   if (diff.findings.empty()) return;
   out << "\nHealth findings: " << diff.findings.size() << '\n';
   for (const FindingChange& change : diff.findings) out << "  " << FindingChangeText(change) << '\n';
@@ -71,9 +71,9 @@ void WriteRawTexts(std::ostream& out, const ResultDiff& diff) {
 
 std::string NameText(const ComparedFile& file) { return Printable(file.name) + " (" + Printable(file.machine) + ")"; }
 
-void WriteText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
+void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
   out << "From " << NameText(before) << " to " << NameText(after) << (IsSame(diff) ? ": no difference.\n" : ":\n");
-  WriteFindings(out, diff);
+  WriteFindingChanges(out, diff);
   WriteChanges(out, diff);
   WriteRawTexts(out, diff);
 }
@@ -119,7 +119,7 @@ Json FindingChangeJson(const FindingChange& change) {
   return json;
 }
 
-void WriteJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
+void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
   Json json = Json::object();
   json["format"] = 1;
   json["old"] = FileJson(before);
@@ -134,18 +134,18 @@ void WriteJson(std::ostream& out, const ComparedFile& before, const ComparedFile
   out << JsonText(json, 2) << '\n';
 }
 
-constexpr DiffView kViews[] = {
-    {"text", WriteText},
-    {"json", WriteJson},
+constexpr DiffView kDiffViews[] = {
+    {"text", WriteDiffText},
+    {"json", WriteDiffJson},
 };
 
 }  // namespace
 
-std::span<const DiffView> DiffViews() { return kViews; }
+std::span<const DiffView> DiffViews() { return kDiffViews; }
 
 const DiffView* FindDiffView(std::string_view format) {
-  const auto* const view = std::ranges::find(kViews, format, &DiffView::format);
-  return view == std::end(kViews) ? nullptr : view;
+  const auto* const view = std::ranges::find(kDiffViews, format, &DiffView::format);
+  return view == std::end(kDiffViews) ? nullptr : view;
 }
 
 }  // namespace hxahost

@@ -43,17 +43,17 @@ Findings FindingsOf(const JsonResult& result, const std::vector<std::string>& cl
 
 // What makes a finding of one result the same as one of the other: the object and the property; where there is no
 // object, what is said to be wrong.
-struct Identity {
+struct FindingIdentity {
   const ResultInstance* instance = nullptr;  // of the old result, where both have it
   std::string subject;
   std::string property;
   std::string text;
-  auto operator<=>(const Identity&) const = default;
+  auto operator<=>(const FindingIdentity&) const = default;
 };
 
 using Partners = std::unordered_map<const ResultInstance*, const ResultInstance*>;
 
-Identity IdentityOf(const Finding& finding, const JsonResult& result, const Partners& oldOfNew) {
+FindingIdentity IdentityOf(const Finding& finding, const JsonResult& result, const Partners& oldOfNew) {
   if (!finding.instance) {
     const bool isTold = finding.className == kToolRun || finding.className == kLog;
     return {nullptr, finding.className + " " + finding.identifier, finding.property, isTold ? finding.text : ""};
@@ -86,7 +86,7 @@ std::vector<FindingChange> CompareFindings(const JsonResult& before, const JsonR
   const bool withRuns = before.runs && after.runs;
 
   std::vector<FindingChange> changes;
-  std::map<Identity, std::deque<Finding>> gone;
+  std::map<FindingIdentity, std::deque<Finding>> gone;
   for (Finding& finding : FindingsOf(before, classes, withRuns)) {
     gone[IdentityOf(finding, before, {})].push_back(std::move(finding));
   }

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <vector>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/device_names.h"
 #include "host/hxahost/device_owners.h"
 #include "host/hxahost/published_text.h"
@@ -18,13 +19,9 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kController = "KVRSG_zxSCSIProtocolController";
-constexpr std::string_view kLogicalDisk = "KVRSG_zxLogicalDisk";
-
 constexpr std::string_view kClasses[] = {
-    kController,         kLogicalDisk,          "KVRSG_zxDiskGroup",
-    "KVRSG_zxDiskDrive", "KVRSG_BadStripeData", "KVRSG_zxSCSIDeviceData",
-    "KVRSG_zxRawData",
+    kControllerClass,      kLogicalDiskClass,        kDiskGroupClass, kDiskDriveClass,
+    "KVRSG_BadStripeData", "KVRSG_zxSCSIDeviceData", kRawDataClass,
 };
 
 constexpr Judgement kNotKnown = {Severity::kUnknown, "no rule knows what this says; see the manual of the utility"};
@@ -51,15 +48,11 @@ Judgement Judge(const WatchedValue& value, std::string_view text, const Holds& h
   return worst;
 }
 
-bool IsAskedFor(const QueryHeader& header, std::string_view className) {
-  return std::ranges::find(header.classes, className) != header.classes.end();
-}
-
 // Controllers that are missing among those published.
 Findings ControllerFindings(const QueryResult& result) {
   Findings findings = SilentControllers(result.instances);
   const auto published = std::ranges::count_if(
-      result.instances, [](const auto& instance) { return instance->Class().name == kController; });
+      result.instances, [](const auto& instance) { return instance->Class().name == kControllerClass; });
   const std::size_t known = static_cast<std::size_t>(published) + findings.size();
   std::ranges::move(AnswerFindings(result, known), std::back_inserter(findings));
   return findings;
@@ -79,7 +72,7 @@ std::vector<const WatchedValue*> WatchedValues() {
 InstanceList UnguardedDrives(const InstanceList& instances) {
   InstanceList unguarded;
   std::ranges::copy_if(instances, std::back_inserter(unguarded), [](const auto& instance) {
-    if (instance->Class().name != kLogicalDisk) return false;
+    if (instance->Class().name != kLogicalDiskClass) return false;
     const Judgement state = JudgeText(kDriveState, PublishedText(*instance, kDriveState.property));
     return state.severity == Severity::kWarning || state.severity == Severity::kCritical;
   });
@@ -131,7 +124,7 @@ Judgement JudgeText(const WatchedValue& value, std::string_view text) { return J
 
 Findings EvaluateHealth(const QueryHeader& header, const QueryResult& result) {
   Findings findings;
-  if (IsAskedFor(header, kController)) findings = ControllerFindings(result);
+  if (IsAskedFor(header, kControllerClass)) findings = ControllerFindings(result);
   const Examination examination(result.instances);
   for (const WatchedValue* const value : WatchedValues()) examination.Examine(*value, findings);
   std::ranges::move(ToolFindings(result), std::back_inserter(findings));

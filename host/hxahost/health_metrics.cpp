@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/device_names.h"
 #include "host/hxahost/health_rules.h"
 #include "host/hxahost/health_views.h"
@@ -83,11 +84,11 @@ void WriteNumber(std::ostream& out, std::string_view name, std::string_view help
   family.Write(out);
 }
 
-std::string Number(Severity severity) { return std::to_string(static_cast<int>(severity)); }
+std::string SeverityNumber(Severity severity) { return std::to_string(static_cast<int>(severity)); }
 
 void WriteStatus(std::ostream& out, const Findings& findings) {
   WriteNumber(out, "zenx_health_status", "The worst of all findings: 0 ok, 1 warning, 2 critical, 3 unknown.",
-              Number(WorstOf(findings)));
+              SeverityNumber(WorstOf(findings)));
   Family counts("zenx_findings", "How many findings there are.");
   for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
     const Labels labels = {
@@ -99,7 +100,7 @@ void WriteStatus(std::ostream& out, const Findings& findings) {
 }
 
 // The text is left out: a count in it would make a new series each time that it changes.
-void WriteFindings(std::ostream& out, const Findings& findings) {
+void WriteFindingMetrics(std::ostream& out, const Findings& findings) {
   Family family("zenx_finding", "1 for each thing that is wrong or not known.");
   for (const Finding& finding : findings) {
     const Labels labels = {
@@ -142,7 +143,7 @@ constexpr LabelSource kStripeLabels[] = {
     {"drive",      "LogicalDrive" },
 };
 
-Labels LabelsOf(const TPublishedInstance& instance, std::span<const LabelSource> sources) {
+Labels LabelValues(const TPublishedInstance& instance, std::span<const LabelSource> sources) {
   Labels labels = {
       {"identifier", IdentifierOf(instance)}
   };
@@ -158,7 +159,7 @@ struct StateFamily {
   std::span<const LabelSource> labels;
 };
 
-constexpr StateFamily kStates[] = {
+constexpr StateFamily kStateFamilies[] = {
     {&kStatus,     "zenx_controller_state",   "0 ok, 1 warning, 2 critical, 3 unknown; state: as the utility prints it.",
      kControllerLabels                                                                                                                },
     {&kDriveState, "zenx_logical_disk_state",
@@ -183,7 +184,7 @@ std::vector<std::pair<FoundState, Severity>> FoundStates(const Findings& finding
 
 void WriteStates(std::ostream& out, const HealthReport& report) {
   const auto found = FoundStates(report.findings);
-  for (const StateFamily& state : kStates) {
+  for (const StateFamily& state : kStateFamilies) {
     Family family(state.name, state.help);
     for (const auto& instance : report.result.instances) {
       if (instance->Class().name != state.value->className) continue;
@@ -192,9 +193,9 @@ void WriteStates(std::ostream& out, const HealthReport& report) {
       const FoundState key = {state.value->property, identifier, text};
       const auto place = std::ranges::lower_bound(found, key, {}, &std::pair<FoundState, Severity>::first);
       const bool isFound = place != found.end() && place->first == key;
-      Labels labels = LabelsOf(*instance, state.labels);
+      Labels labels = LabelValues(*instance, state.labels);
       labels.emplace_back("state", text);
-      if (isFound || !text.empty()) family.Add(labels, Number(isFound ? place->second : Severity::kFine));
+      if (isFound || !text.empty()) family.Add(labels, SeverityNumber(isFound ? place->second : Severity::kFine));
     }
     family.Write(out);
   }
@@ -208,7 +209,7 @@ void WriteBadStripes(std::ostream& out, const InstanceList& instances) {
   Family family("zenx_bad_stripes", "Stripes of the logical drive in which data was lost.");
   for (const auto& instance : instances) {
     const std::string count = PublishedText(*instance, "NumBadStripes");
-    if (IsWholeNumber(count)) family.Add(LabelsOf(*instance, kStripeLabels), count);
+    if (IsWholeNumber(count)) family.Add(LabelValues(*instance, kStripeLabels), count);
   }
   family.Write(out);
 }
@@ -220,12 +221,12 @@ struct CountFamily {
 };
 
 constexpr CountFamily kCounts[] = {
-    {"KVRSG_zxSCSIProtocolController", "zenx_controllers",   "Controllers that were published."            },
-    {"KVRSG_zxLogicalDisk",            "zenx_logical_disks", "Logical drives that were published."         },
-    {"KVRSG_zxDiskDrive",              "zenx_disks",         "Disks and other devices that were published."},
+    {kControllerClass,  "zenx_controllers",   "Controllers that were published."            },
+    {kLogicalDiskClass, "zenx_logical_disks", "Logical drives that were published."         },
+    {kDiskDriveClass,   "zenx_disks",         "Disks and other devices that were published."},
 };
 
-void WriteCounts(std::ostream& out, const InstanceList& instances) {
+void WriteCountMetrics(std::ostream& out, const InstanceList& instances) {
   for (const CountFamily& count : kCounts) {
     WriteNumber(out, count.name, count.help, std::to_string(std::ranges::count_if(instances, [&](const auto& instance) {
                   return instance->Class().name == count.className;
@@ -268,10 +269,10 @@ void WriteCollection(std::ostream& out, const HealthReport& report) {
 
 void WriteHealthMetrics(std::ostream& out, const HealthReport& report) {
   WriteStatus(out, report.findings);
-  WriteFindings(out, report.findings);
+  WriteFindingMetrics(out, report.findings);
   WriteStates(out, report);
   WriteBadStripes(out, report.result.instances);
-  WriteCounts(out, report.result.instances);
+  WriteCountMetrics(out, report.result.instances);
   WriteCollection(out, report);
 }
 

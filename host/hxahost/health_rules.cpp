@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "host/hxahost/class_names.h"
+#include "host/hxahost/tool_names.h"
+
 namespace hxahost {
 
 namespace {
@@ -18,25 +21,19 @@ constexpr auto kOnUnguardedArray = Where::kOnUnguardedArray;
 constexpr auto kOnConfiguration = Where::kOnConfiguration;
 constexpr auto kOnState = Where::kOnState;
 
-constexpr std::string_view kController = "KVRSG_zxSCSIProtocolController";
-constexpr std::string_view kLogicalDisk = "KVRSG_zxLogicalDisk";
-constexpr std::string_view kDiskDrive = "KVRSG_zxDiskDrive";
-
-constexpr WatchedValue kAccess = {kLogicalDisk, "AccessBlocked", FirstWord};
-constexpr WatchedValue kSegments = {kLogicalDisk, "DefunctSegments", FirstWord};
+constexpr WatchedValue kAccess = {kLogicalDiskClass, "AccessBlocked", FirstWord};
+constexpr WatchedValue kSegments = {kLogicalDiskClass, "DefunctSegments", FirstWord};
 constexpr WatchedValue kStripes = {"KVRSG_BadStripeData", "NumBadStripes", CountWords};
-constexpr WatchedValue kDriveCounts = {kController, "LogicalDriveStatusCnt", DriveCountWords};
-constexpr WatchedValue kDefunct = {kController, "DefunctDiskDriveCnt", CountWords};
-constexpr WatchedValue kHeat = {kController, "ControllerTemp", BracketedWords};
-constexpr WatchedValue kBattery = {kController, "ControllerBatteryStatus", StateWords};
-constexpr WatchedValue kBatteryHeat = {kController, "ControllerBatteryOverTemp", FirstWord};
-constexpr WatchedValue kPfa = {kDiskDrive, "PFA", FirstWord};
+constexpr WatchedValue kDriveCounts = {kControllerClass, "LogicalDriveStatusCnt", DriveCountWords};
+constexpr WatchedValue kDefunct = {kControllerClass, "DefunctDiskDriveCnt", CountWords};
+constexpr WatchedValue kHeat = {kControllerClass, "ControllerTemp", BracketedWords};
+constexpr WatchedValue kBattery = {kControllerClass, "ControllerBatteryStatus", StateWords};
+constexpr WatchedValue kBatteryHeat = {kControllerClass, "ControllerBatteryOverTemp", FirstWord};
+constexpr WatchedValue kPfa = {kDiskDriveClass, "PFA", FirstWord};
 constexpr WatchedValue kPfaCount = {"KVRSG_zxSCSIDeviceData", "PFA", CountWords};
 
 constexpr std::string_view kAll = "every utility";
-constexpr std::string_view kLegacy = "qcmdrun";
 constexpr std::string_view kNewer = "arcconf, hrconf_64";
-constexpr std::string_view kArcconf = "arcconf";
 
 // What findings mean, and what is to be done.
 constexpr std::string_view kDataGone = "its data cannot be reached; replace what has failed and restore from a backup";
@@ -95,9 +92,9 @@ constexpr HealthRule kRules[] = {
 
     {&kDriveState,  "okay",                    "oky", kAll,     kFine,     "",                 kAnywhere        },
     {&kDriveState,  "optimal",                 "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "free",                    "fre", kLegacy,  kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "system",                  "sys", kLegacy,  kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "logical drive migration", "ldm", kLegacy,  kFine,     "",                 kAnywhere        },
+    {&kDriveState,  "free",                    "fre", kQcmdrun, kFine,     "",                 kAnywhere        },
+    {&kDriveState,  "system",                  "sys", kQcmdrun, kFine,     "",                 kAnywhere        },
+    {&kDriveState,  "logical drive migration", "ldm", kQcmdrun, kFine,     "",                 kAnywhere        },
     {&kDriveState,  "building",                "",    kNewer,   kFine,     "",                 kAnywhere        },
     {&kDriveState,  "clearing",                "",    kNewer,   kFine,     "",                 kAnywhere        },
     {&kDriveState,  "expanding",               "",    kNewer,   kFine,     "",                 kAnywhere        },
@@ -108,10 +105,10 @@ constexpr HealthRule kRules[] = {
     {&kDriveState,  "offline",                 "ofl", kAll,     kCritical, kDataGone,          kAnywhere        },
     {&kDriveState,  "failed",                  "",    kNewer,   kCritical, kDataGone,          kAnywhere        },
     {&kDriveState,  "missing",                 "",    kNewer,   kCritical, kDataGone,          kAnywhere        },
-    {&kDriveState,  "blocked",                 "blk", kLegacy,  kCritical, kDataGone,          kAnywhere        },
+    {&kDriveState,  "blocked",                 "blk", kQcmdrun, kCritical, kDataGone,          kAnywhere        },
     {&kDriveState,  "critical",                "crt", kAll,     kCritical, kUnguarded,         kAnywhere        },
-    {&kDriveState,  "critical system",         "csy", kLegacy,  kCritical, kUnguarded,         kAnywhere        },
-    {&kDriveState,  "critical migration",      "crm", kLegacy,  kCritical, kUnguarded,         kAnywhere        },
+    {&kDriveState,  "critical system",         "csy", kQcmdrun, kCritical, kUnguarded,         kAnywhere        },
+    {&kDriveState,  "critical migration",      "crm", kQcmdrun, kCritical, kUnguarded,         kAnywhere        },
     {&kDriveState,  "degraded",                "",    kAll,     kCritical, kUnguarded,         kAnywhere        },
     {&kDriveState,  "impacted",                "",    kNewer,   kWarning,  kLessGuarded,       kAnywhere        },
     {&kDriveState,  "suboptimal",              "",    kNewer,   kWarning,  kLessGuarded,       kAnywhere        },
@@ -119,12 +116,12 @@ constexpr HealthRule kRules[] = {
     {&kDriveState,  "rebuilding",              "",    kAll,     kWarning,  kDriveRebuilt,      kAnywhere        },
     {&kDriveState,  "",                        "",    kAll,     kUnknown,  kNoState,           kAnywhere        },
 
-    {&kStripes,     "none",                    "",    kLegacy,  kFine,     "",                 kAnywhere        },
-    {&kStripes,     "some",                    "",    kLegacy,  kCritical, kDataLost,          kAnywhere        },
-    {&kStripes,     "",                        "",    kLegacy,  kUnknown,  kNoCount,           kAnywhere        },
+    {&kStripes,     "none",                    "",    kQcmdrun, kFine,     "",                 kAnywhere        },
+    {&kStripes,     "some",                    "",    kQcmdrun, kCritical, kDataLost,          kAnywhere        },
+    {&kStripes,     "",                        "",    kQcmdrun, kUnknown,  kNoCount,           kAnywhere        },
 
-    {&kAccess,      "no",                      "",    kLegacy,  kFine,     "",                 kAnywhere        },
-    {&kAccess,      "yes",                     "",    kLegacy,  kCritical, kRefusesAccess,     kAnywhere        },
+    {&kAccess,      "no",                      "",    kQcmdrun, kFine,     "",                 kAnywhere        },
+    {&kAccess,      "yes",                     "",    kQcmdrun, kCritical, kRefusesAccess,     kAnywhere        },
 
     {&kSegments,    "no",                      "",    kArcconf, kFine,     "",                 kAnywhere        },
     {&kSegments,    "none",                    "",    kArcconf, kFine,     "",                 kAnywhere        },
@@ -138,21 +135,21 @@ constexpr HealthRule kRules[] = {
     {&kDiskState,   "raw",                     "",    kNewer,   kFine,     "",                 kAnywhere        },
     {&kDiskState,   "unconfigured",            "",    kAll,     kFine,     "",                 kAnywhere        },
     {&kDiskState,   "unconfigured good",       "",    kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "empty",                   "emp", kLegacy,  kFine,     "",                 kAnywhere        },
+    {&kDiskState,   "empty",                   "emp", kQcmdrun, kFine,     "",                 kAnywhere        },
     {&kDiskState,   "standby",                 "sby", kAll,     kFine,     "",                 kAnywhere        },
     {&kDiskState,   "hot spare",               "hsp", kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "standby hot spare",       "shs", kLegacy,  kFine,     "",                 kAnywhere        },
+    {&kDiskState,   "standby hot spare",       "shs", kQcmdrun, kFine,     "",                 kAnywhere        },
     {&kDiskState,   "dedicated hot spare",     "",    kNewer,   kFine,     "",                 kAnywhere        },
     {&kDiskState,   "global hot spare",        "",    kNewer,   kFine,     "",                 kAnywhere        },
     {&kDiskState,   "rebuild",                 "rbl", kAll,     kWarning,  kDiskRebuilt,       kOnUnguardedArray},
     {&kDiskState,   "rebuilding",              "",    kAll,     kWarning,  kDiskRebuilt,       kOnUnguardedArray},
     {&kDiskState,   "rebuild",                 "rbl", kAll,     kFine,     "",                 kAnywhere        },
     {&kDiskState,   "rebuilding",              "",    kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "defunct",                 "ddd", kLegacy,  kCritical, kFailedDisk,        kAnywhere        },
+    {&kDiskState,   "defunct",                 "ddd", kQcmdrun, kCritical, kFailedDisk,        kAnywhere        },
     {&kDiskState,   "failed",                  "",    kAll,     kCritical, kFailedDisk,        kAnywhere        },
     {&kDiskState,   "missing",                 "",    kAll,     kCritical, kDiskGone,          kAnywhere        },
     {&kDiskState,   "offline",                 "ofl", kAll,     kCritical, kDiskOutOfService,  kAnywhere        },
-    {&kDiskState,   "defunct hot spare",       "dhs", kLegacy,  kWarning,  kSpareFailed,       kAnywhere        },
+    {&kDiskState,   "defunct hot spare",       "dhs", kQcmdrun, kWarning,  kSpareFailed,       kAnywhere        },
     {&kDiskState,   "failed hot spare",        "",    kNewer,   kWarning,  kSpareFailed,       kAnywhere        },
     {&kDiskState,   "unconfigured bad",        "",    kAll,     kWarning,  kUnusedDiskBad,     kAnywhere        },
     {&kDiskState,   "",                        "",    kAll,     kUnknown,  kNoState,           kOnHardDisk      },
@@ -162,8 +159,8 @@ constexpr HealthRule kRules[] = {
     {&kPfa,         "yes",                     "",    kAll,     kWarning,  kPredicted,         kAnywhere        },
     {&kPfa,         "1",                       "",    kAll,     kWarning,  kPredicted,         kAnywhere        },
 
-    {&kPfaCount,    "none",                    "",    kLegacy,  kFine,     "",                 kAnywhere        },
-    {&kPfaCount,    "some",                    "",    kLegacy,  kWarning,  kPredicted,         kAnywhere        },
+    {&kPfaCount,    "none",                    "",    kQcmdrun, kFine,     "",                 kAnywhere        },
+    {&kPfaCount,    "some",                    "",    kQcmdrun, kWarning,  kPredicted,         kAnywhere        },
 
     {&kStatus,      "okay",                    "",    kNewer,   kFine,     "",                 kAnywhere        },
     {&kStatus,      "optimal",                 "",    kNewer,   kFine,     "",                 kAnywhere        },
@@ -216,9 +213,9 @@ constexpr HealthRule kRules[] = {
     {&kAnswers,     "not published",           "",    kAll,     kUnknown,  kTooFew,            kAnywhere        },
     {&kAnswers,     "no tool was run",         "",    kAll,     kUnknown,  kNothingKnown,      kAnywhere        },
 
-    {&kLogText,     "collection aborted",      "",    kLegacy,  kUnknown,  kCollectionEnded,   kAnywhere        },
-    {&kLogText,     "status data is junk",     "",    kLegacy,  kUnknown,  kLegacyEnded,       kAnywhere        },
-    {&kLogText,     "bad stripe data is junk", "",    kLegacy,  kUnknown,  kStripesEnded,      kAnywhere        },
+    {&kLogText,     "collection aborted",      "",    kQcmdrun, kUnknown,  kCollectionEnded,   kAnywhere        },
+    {&kLogText,     "status data is junk",     "",    kQcmdrun, kUnknown,  kLegacyEnded,       kAnywhere        },
+    {&kLogText,     "bad stripe data is junk", "",    kQcmdrun, kUnknown,  kStripesEnded,      kAnywhere        },
     {&kLogText,     "getcontrollers() failed", "",    kAll,     kUnknown,  kNoneRead,          kAnywhere        },
     {&kLogText,     kMismatch,                 "",    kArcconf, kWarning,  kUpdateDriver,      kAnywhere        },
 };

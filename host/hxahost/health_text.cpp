@@ -3,6 +3,7 @@
 #include <set>
 #include <string>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/finding_text.h"
 #include "host/hxahost/health_rules.h"
 #include "host/hxahost/health_views.h"
@@ -19,7 +20,7 @@ std::string InCapitals(std::string_view word) {
   return capitals;
 }
 
-std::string Counted(std::size_t count, const std::string& one, const std::string& several) {
+std::string CountedAs(std::size_t count, const std::string& one, const std::string& several) {
   return std::to_string(count) + " " + (count == 1 ? one : several);
 }
 
@@ -29,9 +30,9 @@ std::size_t CountOf(const InstanceList& instances, std::string_view className) {
 }
 
 std::string Inventory(const InstanceList& instances) {
-  return Counted(CountOf(instances, "KVRSG_zxSCSIProtocolController"), "controller", "controllers") + ", " +
-         Counted(CountOf(instances, "KVRSG_zxLogicalDisk"), "logical drive", "logical drives") + ", " +
-         Counted(CountOf(instances, "KVRSG_zxDiskDrive"), "device", "devices");
+  return CountedAs(CountOf(instances, kControllerClass), "controller", "controllers") + ", " +
+         CountedAs(CountOf(instances, kLogicalDiskClass), "logical drive", "logical drives") + ", " +
+         CountedAs(CountOf(instances, kDiskDriveClass), "device", "devices");
 }
 
 // "4 critical, 1 warning"
@@ -45,7 +46,7 @@ std::string Tally(const Findings& findings) {
   return tally;
 }
 
-std::string ToolsOf(const ToolRunList& runs) {
+std::string ToolsThatRan(const ToolRunList& runs) {
   std::set<std::string> seen;
   std::string names;
   for (const ToolRun& run : runs) {
@@ -61,10 +62,10 @@ std::string Summary(const HealthReport& report) {
   if (!report.findings.empty()) {
     return Tally(report.findings) + " on " + machine + " (" + Inventory(instances) + ")";
   }
-  if (CountOf(instances, "KVRSG_zxSCSIProtocolController") > 0) {
+  if (CountOf(instances, kControllerClass) > 0) {
     return "nothing is wrong on " + machine + " (" + Inventory(instances) + ")";
   }
-  return "no controller on " + machine + ": " + ToolsOf(report.result.runs) + " answered that there is none";
+  return "no controller on " + machine + ": " + ToolsThatRan(report.result.runs) + " answered that there is none";
 }
 
 std::string Padded(std::string_view text, std::size_t width) {

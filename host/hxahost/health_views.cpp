@@ -7,7 +7,7 @@ namespace hxahost {
 
 namespace {
 
-constexpr HealthView kViews[] = {
+constexpr HealthView kHealthViews[] = {
     {"text",       WriteHealthText   },
     {"json",       WriteHealthJson   },
     {"prometheus", WriteHealthMetrics},
@@ -15,11 +15,11 @@ constexpr HealthView kViews[] = {
 
 }  // namespace
 
-std::span<const HealthView> HealthViews() { return kViews; }
+std::span<const HealthView> HealthViews() { return kHealthViews; }
 
 const HealthView* FindHealthView(std::string_view format) {
-  const auto* const view = std::ranges::find(kViews, format, &HealthView::format);
-  return view == std::end(kViews) ? nullptr : view;
+  const auto* const view = std::ranges::find(kHealthViews, format, &HealthView::format);
+  return view == std::end(kHealthViews) ? nullptr : view;
 }
 
 }  // namespace hxahost

@@ -11,7 +11,7 @@ namespace hxahost {
 namespace {
 
 // The document that "--format json" gives for a program run that made this one query.
-void WriteJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+void WriteResultJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   BeginJson(out, header);
   QueryResult only = result;
   only.number = 1;
@@ -32,11 +32,13 @@ void WriteQueryHtml(std::ostream& out, const QueryHeader& header, const QueryRes
   };
   const TemplateSlot slots[] = {
       {"@QUERY_DATA@",
-       [&](std::ostream& page) { writeEscaped(page, [&](std::ostream& data) { WriteJson(data, header, result); }); }},
+       [&](std::ostream& page) {
+         writeEscaped(page, [&](std::ostream& data) { WriteResultJson(data, header, result); });
+       }},
       {"@REPORT_DATA@",
        [&](std::ostream& page) {
          writeEscaped(page, [&](std::ostream& data) { WriteReportData(data, header, result); });
-       }                                                                                                            },
+       }},
   };
   WriteTemplate(out, ReportTemplate(), slots);
 }

@@ -29,7 +29,7 @@ std::optional<TCIMValue> NumberValue(const Json& json) {
   return TCIMValue(json.get<Number>());
 }
 
-std::optional<TCIMValue> SingleValue(const Json& json, ECIMType type) {
+std::optional<TCIMValue> ValueOfJson(const Json& json, ECIMType type) {
   switch (type) {
     case kCIMString: return json.is_string() ? std::optional<TCIMValue>(json.get<std::string>()) : std::nullopt;
     case kCIMDateTime: return json.is_string() ? DateTimeValue(json.get<std::string>()) : std::nullopt;
@@ -41,12 +41,12 @@ std::optional<TCIMValue> SingleValue(const Json& json, ECIMType type) {
   return std::nullopt;
 }
 
-std::optional<TCIMValue> ValueOf(const Json& json, const PropertyDeclaration& declared) {
-  if (!declared.isArray) return SingleValue(json, declared.type);
+std::optional<TCIMValue> ValueAsDeclared(const Json& json, const PropertyDeclaration& declared) {
+  if (!declared.isArray) return ValueOfJson(json, declared.type);
   if (!json.is_array()) return std::nullopt;
   std::vector<TCIMValue> elements;
   for (const Json& each : json) {
-    const auto element = SingleValue(each, declared.type);
+    const auto element = ValueOfJson(each, declared.type);
     if (!element) return std::nullopt;
     elements.push_back(*element);
   }
@@ -57,7 +57,7 @@ void Publish(ICIMNamespace& nameSpace, const ClassDeclaration& declaration, cons
   const auto instance = nameSpace.GetClass(read.className, {})->CreateInstance({});
   for (const auto& [name, json] : read.properties.items()) {
     const PropertyDeclaration* const declared = FindProperty(declaration, name);
-    const auto value = declared == nullptr ? std::nullopt : ValueOf(json, *declared);
+    const auto value = declared == nullptr ? std::nullopt : ValueAsDeclared(json, *declared);
     if (value) instance->SetProperty(name, *value, {});
   }
   instance->Commit({});

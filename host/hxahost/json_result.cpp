@@ -48,7 +48,7 @@ LoggedEntry ReadEntry(const Json& json) {
   return {json["level"].get<int>(), Member(json, "text", Json::value_t::string)};
 }
 
-ToolRun ReadRun(const Json& json) {
+ToolRun ReadJsonRun(const Json& json) {
   ToolRun run;
   run.path = Member(json, "command", Json::value_t::string);
   for (const Json& argument : Member(json, "arguments", Json::value_t::array)) {
@@ -71,7 +71,7 @@ bool AddItems(Items& items, const Json& query, const char* name, Read read) {
   return true;
 }
 
-JsonResult ReadResult(const Json& json) {
+JsonResult ReadWholeResult(const Json& json) {
   if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
   const Json& format = Member(json, "format", Json::value_t::number_unsigned);
   if (format != 1) throw NoResult("its format is " + format.dump() + ", not 1");
@@ -86,13 +86,13 @@ JsonResult ReadResult(const Json& json) {
   bool haveRuns = true;
   for (const Json& query : queries) {
     AddItems(result.log, query, "log", ReadEntry);
-    haveRuns = AddItems(runs, query, "runs", ReadRun) && haveRuns;
+    haveRuns = AddItems(runs, query, "runs", ReadJsonRun) && haveRuns;
   }
   if (haveRuns) result.runs = std::move(runs);
   return result;
 }
 
-[[noreturn]] void Reject(const std::string& name, const std::string& why) {
+[[noreturn]] void RejectFile(const std::string& name, const std::string& why) {
   throw ProgramError(ExitStatus::kWrongArguments, Printable(name) + " " + why);
 }
 
@@ -101,15 +101,15 @@ JsonResult ReadResult(const Json& json) {
 JsonResult ReadJsonResult(const std::filesystem::path& file) {
   const std::string name = Utf8FromPath(file);
   std::string text;
-  if (!NKVRHXA20::ReadWholeFile(file, text)) Reject(name, "cannot be read: name a file that is there.");
+  if (!NKVRHXA20::ReadWholeFile(file, text)) RejectFile(name, "cannot be read: name a file that is there.");
   return ParseJsonResult(text, name);
 }
 
 JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
   try {
-    return ReadResult(Json::parse(text, CheckDepth, false));
+    return ReadWholeResult(Json::parse(text, CheckDepth, false));
   } catch (const NoResult& reason) {
-    Reject(name, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
+    RejectFile(name, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
   }
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 // All but a delete character and what is not ASCII: control characters within texts are escapes already, and the line
 // feeds of the layout stay.
-std::string_view TakePlain(std::string_view& text) {
+std::string_view TakeAscii(std::string_view& text) {
   const auto isPlain = [](char character) { return static_cast<unsigned char>(character) < 0x7f; };
   const auto length = static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
   const std::string_view plain = text.substr(0, length);
@@ -26,7 +26,7 @@ std::string JsonText(const nlohmann::ordered_json& json, int indent) {
   const std::string dumped = json.dump(indent);
   std::string text;
   std::string_view rest = dumped;
-  for (text += TakePlain(rest); !rest.empty(); text += TakePlain(rest)) {
+  for (text += TakeAscii(rest); !rest.empty(); text += TakeAscii(rest)) {
     const Character character = NextCharacter(rest);
     text += IsUnsafe(character.code) ? ByCodeUnits(character.code, "\\u%04x")
                                      : std::string(rest.substr(0, character.length));

@@ -67,7 +67,7 @@ Json RunJson(const ToolRun& run) {
   return json;
 }
 
-Json UnreadJson(const UnreadText& text) {
+Json UnreadTextJson(const UnreadText& text) {
   Json json = Json::object();
   json["command"] = AsUtf8(text.command);
   json["lines"] = Json::array();
@@ -95,7 +95,7 @@ void WriteIndented(std::ostream& out, const Json& json, std::string_view indent)
 
 // One item is turned into JSON at a time: the text of all of them would take several times the memory of the data.
 template <class Items, class ToJson>
-void WriteArray(std::ostream& out, std::string_view name, const Items& items, ToJson toJson) {
+void WriteJsonArray(std::ostream& out, std::string_view name, const Items& items, ToJson toJson) {
   out << "      \"" << name << "\": [";
   std::string_view separator = "\n";
   for (const auto& item : items) {
@@ -114,16 +114,16 @@ void BeginJson(std::ostream& out, const QueryHeader& header) {
 
 void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   out << (result.number == 1 ? "\n    {\n" : ",\n    {\n");
-  WriteArray(out, "instances", result.instances, [](const auto& instance) { return InstanceJson(*instance); });
+  WriteJsonArray(out, "instances", result.instances, [](const auto& instance) { return InstanceJson(*instance); });
   out << ",\n";
-  WriteArray(out, "log", result.log, EntryJson);
+  WriteJsonArray(out, "log", result.log, EntryJson);
   if (header.withRuns) {
     out << ",\n";
-    WriteArray(out, "runs", result.runs, RunJson);
+    WriteJsonArray(out, "runs", result.runs, RunJson);
   }
   if (header.withUnread) {
     out << ",\n";
-    WriteArray(out, "unread", FindUnreadLines(result.instances), UnreadJson);
+    WriteJsonArray(out, "unread", FindUnreadLines(result.instances), UnreadTextJson);
   }
   out << "\n    }";
 }

@@ -35,7 +35,7 @@ constexpr MaskedLabel kLabels[] = {
 // What tools print where there is nothing to hide.
 constexpr std::string_view kNoValues[] = {"None", "N/A", "Not Available", "Not Applicable", "Unknown"};
 
-constexpr std::string_view kSpace = " \t\r";
+constexpr std::string_view kSpaceInLine = " \t\r";
 constexpr std::string_view kDeviceType = "Device is a";
 constexpr std::string_view kSerialAttribute = "serialNumber=\"";
 
@@ -50,21 +50,21 @@ void ForEachLine(std::string_view text, const Call& call) {
 }
 
 // The span without the white space around it; of no length where nothing is left.
-Span Trimmed(std::string_view text, std::size_t begin, std::size_t end) {
-  while (begin < end && kSpace.find(text[begin]) != kSpace.npos) ++begin;
-  while (end > begin && kSpace.find(text[end - 1]) != kSpace.npos) --end;
+Span TrimmedSpan(std::string_view text, std::size_t begin, std::size_t end) {
+  while (begin < end && kSpaceInLine.find(text[begin]) != kSpaceInLine.npos) ++begin;
+  while (end > begin && kSpaceInLine.find(text[end - 1]) != kSpaceInLine.npos) --end;
   return {begin, end - begin};
 }
 
 // The value on a line of the tools, by its label; of no length where it is none to be masked.
-Span LabelledValue(std::string_view line, std::string_view deviceType) {
-  const std::size_t first = line.find_first_not_of(kSpace);
+Span ValueToMask(std::string_view line, std::string_view deviceType) {
+  const std::size_t first = line.find_first_not_of(kSpaceInLine);
   const std::size_t colon = line.find(':');
   if (first == line.npos || colon == line.npos) return {};
   const std::string_view label = line.substr(first, std::max(colon, first) - first);
   for (const MaskedLabel& row : kLabels) {
     if (!label.starts_with(row.label) || deviceType.find(row.ofDevice) == deviceType.npos) continue;
-    const Span value = Trimmed(line, std::min(colon + 1 + row.from, line.size()), line.size());
+    const Span value = TrimmedSpan(line, std::min(colon + 1 + row.from, line.size()), line.size());
     const bool isNone = std::ranges::count(kNoValues, line.substr(value.begin, value.length)) > 0;
     return value.length < row.shortest || isNone ? Span{} : value;
   }
@@ -91,9 +91,9 @@ SecretPlaces FindInToolText(std::string_view text) {
   std::string_view deviceType;
   ForEachLine(text, [&](std::string_view line, std::size_t begin) {
     if (const std::size_t type = line.find(kDeviceType); type != line.npos) deviceType = line.substr(type);
-    const std::size_t first = line.find_first_not_of(kSpace);
+    const std::size_t first = line.find_first_not_of(kSpaceInLine);
     if (first != line.npos && line[first] == '<') return AddAttributes(line, begin, places);
-    const Span value = LabelledValue(line, deviceType);
+    const Span value = ValueToMask(line, deviceType);
     if (value.length > 0) places.secrets.push_back({begin + value.begin, value.length});
   });
   return places;
@@ -107,7 +107,7 @@ SecretPlaces FindInRaidLog(std::string_view text) {
     const std::size_t machine = severity == line.npos ? line.npos : line.find('\t', severity + 1);
     const std::size_t message = machine == line.npos ? line.npos : line.find('\t', machine + 1);
     if (message == line.npos) return;
-    const Span name = Trimmed(line, machine + 1, message);
+    const Span name = TrimmedSpan(line, machine + 1, message);
     if (name.length > 0) places.secrets.push_back({begin + name.begin, name.length});
     places.prose.push_back({begin + message, line.size() - message});
   });

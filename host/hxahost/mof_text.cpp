@@ -9,12 +9,12 @@ namespace hxahost {
 
 namespace {
 
-struct Escape {
+struct MofEscape {
   char32_t code;
   const char* text;
 };
 
-constexpr Escape kEscapes[] = {
+constexpr MofEscape kMofEscapes[] = {
     {'"',  "\\\""        },
     {'\\', "\\\\"        },
     {'\b', "\\b"         },
@@ -28,9 +28,9 @@ constexpr Escape kEscapes[] = {
 // In bytes; the last character may go past it.
 constexpr std::size_t kLongestString = 1000;
 
-std::string Escaped(char32_t code, std::string_view character) {
-  const auto* const escape = std::ranges::find(kEscapes, code, &Escape::code);
-  if (escape != std::end(kEscapes)) return escape->text;
+std::string EscapedForMof(char32_t code, std::string_view character) {
+  const auto* const escape = std::ranges::find(kMofEscapes, code, &MofEscape::code);
+  if (escape != std::end(kMofEscapes)) return escape->text;
   // Always four digits, so that a digit that follows is no part of it.
   return IsUnsafe(code) ? ByCodeUnits(code, "\\x%04X") : std::string(character);
 }
@@ -48,7 +48,7 @@ std::string MofText(std::string_view bytes, std::string_view indent) {
       text += '"';
     }
     const auto [code, length] = NextCharacter(rest);
-    text += Escaped(code, rest.substr(0, length));
+    text += EscapedForMof(code, rest.substr(0, length));
     rest.remove_prefix(length);
   }
   return text += '"';

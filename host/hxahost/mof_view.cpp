@@ -14,25 +14,25 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kIndent = "    ";
+constexpr std::string_view kMofIndent = "    ";
 
-std::string SingleValue(const TCIMValue& value) {
+std::string MofElement(const TCIMValue& value) {
   switch (TCIMValueReader::Kind(value)) {
     case ValueKind::kNone: return "NULL";
     case ValueKind::kUInt16:
     case ValueKind::kUInt32: return std::string(value);
-    case ValueKind::kReference: return MofText(ObjectPathText(TCIMValueReader::Reference(value)), kIndent);
+    case ValueKind::kReference: return MofText(ObjectPathText(TCIMValueReader::Reference(value)), kMofIndent);
     case ValueKind::kString:
     case ValueKind::kDateTime:
     case ValueKind::kArray: break;
   }
-  return MofText(std::string(value), kIndent);
+  return MofText(std::string(value), kMofIndent);
 }
 
-void WriteArray(std::ostream& out, const std::vector<TCIMValue>& elements) {
+void WriteMofArray(std::ostream& out, const std::vector<TCIMValue>& elements) {
   std::string_view separator = "{\n";
   for (const TCIMValue& element : elements) {
-    out << separator << kIndent << SingleValue(element);
+    out << separator << kMofIndent << MofElement(element);
     separator = ",\n";
   }
   out << (elements.empty() ? "{ }" : "\n  }");
@@ -43,9 +43,9 @@ void WriteInstance(std::ostream& out, const TPublishedInstance& instance) {
   for (const PublishedProperty& property : instance.Properties()) {
     out << "  " << property.name << " = ";
     if (TCIMValueReader::Kind(property.value) == ValueKind::kArray) {
-      WriteArray(out, TCIMValueReader::Elements(property.value));
+      WriteMofArray(out, TCIMValueReader::Elements(property.value));
     } else {
-      out << SingleValue(property.value);
+      out << MofElement(property.value);
     }
     out << ";\n";
   }

@@ -7,24 +7,24 @@ namespace hxahost {
 
 namespace {
 
-constexpr PropertyOrigin Words(std::string_view property, std::string_view words) {
+constexpr PropertyOrigin InWords(std::string_view property, std::string_view words) {
   return {property, "", "", "", words};
 }
 
 // Said once for all classes that have them.
-constexpr auto kSystemClass = Words("SystemCreationClassName", "fixed text");
-constexpr auto kOwnClass = Words("CreationClassName", "fixed text: the name of the class");
-constexpr auto kSystemName = Words("SystemName", "host: name of the machine");
+constexpr auto kSystemClass = InWords("SystemCreationClassName", "fixed text");
+constexpr auto kOwnClass = InWords("CreationClassName", "fixed text: the name of the class");
+constexpr auto kSystemName = InWords("SystemName", "host: name of the machine");
 constexpr auto kControllerNumber =
-    Words("ControllerNum", "number by which the tool was asked, counted on from tool to tool");
-constexpr auto kStatisticTime = Words("StatisticTime", "host: local time at which the row was read");
+    InWords("ControllerNum", "number by which the tool was asked, counted on from tool to tool");
+constexpr auto kStatisticTime = InWords("StatisticTime", "host: local time at which the row was read");
 
 constexpr PropertyOrigin kControllers[] = {
     kSystemClass,
     kOwnClass,
     kSystemName,
-    Words("DeviceID", "made of fixed text and ControllerNum"),
-    Words("OtherIdentifyingInfo", "ControllerType; fixed text and ControllerNum"),
+    InWords("DeviceID", "made of fixed text and ControllerNum"),
+    InWords("OtherIdentifyingInfo", "ControllerType; fixed text and ControllerNum"),
     kControllerNumber,
     {"ControllerType",              "Controller type",                 "",                                "Controller Model|Controller type",
       "the model's name in full, where it is a known one"                                                                                                                          },
@@ -72,7 +72,7 @@ constexpr PropertyOrigin kControllers[] = {
 };
 
 constexpr PropertyOrigin kLogicalDisks[] = {
-    Words("DeviceID", "made of fixed text, ControllerNum and LogicalDriveNum"),
+    InWords("DeviceID", "made of fixed text, ControllerNum and LogicalDriveNum"),
     kSystemClass,
     kOwnClass,
     kSystemName,
@@ -97,17 +97,17 @@ constexpr PropertyOrigin kLogicalDisks[] = {
     {"DefunctSegments",    "",                        "",                          "Defunct segments",        ""},
 };
 
-constexpr PropertyOrigin kDiskGroups[] = {
-    Words("CollectionID",
-          "made of fixed text, ControllerNum, and the array's letter (qcmdrun) or the logical drive's "
-          "number and StripeOrder (hrconf_64, arcconf)"),
+constexpr PropertyOrigin kOfDiskGroups[] = {
+    InWords("CollectionID",
+            "made of fixed text, ControllerNum, and the array's letter (qcmdrun) or the logical drive's "
+            "number and StripeOrder (hrconf_64, arcconf)"),
     {"Array",       " stripe order (Channel/SCSI ID)", "",             "",                              "the letter before the label"},
     kControllerNumber,
     {"StripeOrder", " stripe order (Channel/SCSI ID)", "Stripe order", "Stripe order (Channel,Device)", ""                           },
 };
 
 constexpr PropertyOrigin kDiskDrives[] = {
-    Words("OtherIdentifyingInfo", "DeviceType; fixed text, Channel and ScsiId"),
+    InWords("OtherIdentifyingInfo", "DeviceType; fixed text, Channel and ScsiId"),
     {"DeviceID",         "Device ID",                 "Device #",           "Device #",
                                                                             "made of ControllerNum, Channel and ScsiId, and what it ends with"                                                                                                   },
     kSystemClass,
@@ -140,47 +140,47 @@ constexpr PropertyOrigin kDiskDrives[] = {
     {"Supported",        "",                          "Supported",          "Supported",                ""                                                                },
 };
 
-constexpr PropertyOrigin kBadStripes[] = {
-    Words("InstanceID", "made of fixed text, ControllerNum and LogicalDrive"),
+constexpr PropertyOrigin kOfBadStripes[] = {
+    InWords("InstanceID", "made of fixed text, ControllerNum and LogicalDrive"),
     kControllerNumber,
     {"LogicalDrive", "Logical drive ", "", "",
       "asked with getbst; LogicalDriveNum of each logical disk where it lists none"},
-    Words("NumBadStripes", "qcmdrun getbst: the number behind the dash; 0 where it lists none"),
+    InWords("NumBadStripes", "qcmdrun getbst: the number behind the dash; 0 where it lists none"),
 };
 
 constexpr PropertyOrigin kDeviceData[] = {
-    Words("InstanceID", "made of fixed text, ControllerNum, Channel and ScsiId"),
+    InWords("InstanceID", "made of fixed text, ControllerNum, Channel and ScsiId"),
     kStatisticTime,
     kControllerNumber,
-    Words("Channel", "qcmdrun getevent device: column 1"),
-    Words("Misc", "qcmdrun getevent device: column 7"),
-    Words("NumHardErrors", "qcmdrun getevent device: column 5"),
-    Words("NumParityErrors", "qcmdrun getevent device: column 3"),
-    Words("NumSoftErrors", "qcmdrun getevent device: column 4"),
-    Words("PFA", "qcmdrun getevent device: column 6"),
-    Words("ScsiId", "qcmdrun getevent device: column 2"),
+    InWords("Channel", "qcmdrun getevent device: column 1"),
+    InWords("Misc", "qcmdrun getevent device: column 7"),
+    InWords("NumHardErrors", "qcmdrun getevent device: column 5"),
+    InWords("NumParityErrors", "qcmdrun getevent device: column 3"),
+    InWords("NumSoftErrors", "qcmdrun getevent device: column 4"),
+    InWords("PFA", "qcmdrun getevent device: column 6"),
+    InWords("ScsiId", "qcmdrun getevent device: column 2"),
 };
 
-constexpr PropertyOrigin kSubStatus[] = {
+constexpr PropertyOrigin kOfSubStatus[] = {
     {"ControllerNum", "A:",          "", "", "asked with getsubstat; as the tool itself numbers it"},
     kStatisticTime,
     {"Channel",       "C:",          "", "", "asked with getsubstat"                               },
     {"ScsiId",        "I:",          "", "", "asked with getsubstat"                               },
-    Words("InstanceID", "made of fixed text, ControllerNum, Channel and ScsiId"),
+    InWords("InstanceID", "made of fixed text, ControllerNum, Channel and ScsiId"),
     {"Params",        "PARAMS:",     "", "", "asked with getsubstat"                               },
     {"Req_Off",       "REQ-OFF:",    "", "", "asked with getsubstat"                               },
     {"Max_Txer_P",    "MAX-TXER-P:", "", "", "asked with getsubstat"                               },
     {"Cur_Txer_p",    "CUR-TXER-P:", "", "", "asked with getsubstat"                               },
 };
 
-constexpr auto kLogClass = Words("LogCreationClassName", "fixed text");
-constexpr auto kLogName = Words("LogName", "fixed text");
-constexpr auto kNoTime = Words("MessageTimestamp", "fixed: 2000-01-01 01:01:01, the log gives no time");
-constexpr auto kOneLog = Words("RecordID", "ControllerNum: a controller has one such log");
-constexpr auto kCount = Words("NumEntries", "how many codes there are");
+constexpr auto kLogClass = InWords("LogCreationClassName", "fixed text");
+constexpr auto kLogName = InWords("LogName", "fixed text");
+constexpr auto kNoTime = InWords("MessageTimestamp", "fixed: 2000-01-01 01:01:01, the log gives no time");
+constexpr auto kOneLog = InWords("RecordID", "ControllerNum: a controller has one such log");
+constexpr auto kCount = InWords("NumEntries", "how many codes there are");
 
 constexpr PropertyOrigin kSoftEvents[] = {
-    Words("CreationClassName", "fixed text"),
+    InWords("CreationClassName", "fixed text"),
     kLogClass,
     kLogName,
     kNoTime,
@@ -191,7 +191,7 @@ constexpr PropertyOrigin kSoftEvents[] = {
 };
 
 constexpr PropertyOrigin kHardEvents[] = {
-    Words("CreationClassName", "fixed text: the soft log's class, as it has always been"),
+    InWords("CreationClassName", "fixed text: the soft log's class, as it has always been"),
     kLogClass,
     kLogName,
     kControllerNumber,
@@ -205,52 +205,52 @@ constexpr PropertyOrigin kDefunctDrives[] = {
     kOwnClass,
     kLogClass,
     kLogName,
-    Words("Controller", "number by which the tool was asked, counted on from tool to tool"),
-    Words("MessageTimestamp", "Date and Time, taken for UTC"),
-    Words("RecordID", "number of the row, four hexadecimal digits"),
-    Words("Date", "qcmdrun getevent ddd: column 1"),
-    Words("Time", "qcmdrun getevent ddd: column 2"),
-    Words("Channel", "qcmdrun getevent ddd: column 3"),
-    Words("ID", "qcmdrun getevent ddd: column 4"),
-    Words("Reason", "qcmdrun getevent ddd: column 5"),
-    Words("Descrip", "qcmdrun getevent ddd: column 6"),
+    InWords("Controller", "number by which the tool was asked, counted on from tool to tool"),
+    InWords("MessageTimestamp", "Date and Time, taken for UTC"),
+    InWords("RecordID", "number of the row, four hexadecimal digits"),
+    InWords("Date", "qcmdrun getevent ddd: column 1"),
+    InWords("Time", "qcmdrun getevent ddd: column 2"),
+    InWords("Channel", "qcmdrun getevent ddd: column 3"),
+    InWords("ID", "qcmdrun getevent ddd: column 4"),
+    InWords("Reason", "qcmdrun getevent ddd: column 5"),
+    InWords("Descrip", "qcmdrun getevent ddd: column 6"),
 };
 
 constexpr PropertyOrigin kRaidManagerEvents[] = {
     kOwnClass,
-    Words("LogCreationClassName", "fixed text, with RAIMgr in it, as it has always been"),
+    InWords("LogCreationClassName", "fixed text, with RAIMgr in it, as it has always been"),
     kLogName,
-    Words("MessageTimestamp", "RAID manager's log: first field, with the offset of its zone"),
-    Words("RecordID", "number of the record, counted on for the life of the process"),
-    Words("Severity", "RAID manager's log: second field"),
-    Words("MachineName", "RAID manager's log: third field"),
-    Words("Message", "RAID manager's log: fourth field"),
+    InWords("MessageTimestamp", "RAID manager's log: first field, with the offset of its zone"),
+    InWords("RecordID", "number of the record, counted on for the life of the process"),
+    InWords("Severity", "RAID manager's log: second field"),
+    InWords("MachineName", "RAID manager's log: third field"),
+    InWords("Message", "RAID manager's log: fourth field"),
 };
 
 constexpr PropertyOrigin kManagerRawData[] = {
-    Words("Command", "RAID manager's log: its path, as the registry has it"),
-    Words("RawResults", "RAID manager's log: the whole file, line by line"),
+    InWords("Command", "RAID manager's log: its path, as the registry has it"),
+    InWords("RawResults", "RAID manager's log: the whole file, line by line"),
 };
 
 constexpr PropertyOrigin kRawData[] = {
-    Words("Command", "the tool's path, the command, the number asked by, the option"),
-    Words("RawResults", "qcmdrun, hrconf_64, arcconf: the whole answer, line by line"),
+    InWords("Command", "the tool's path, the command, the number asked by, the option"),
+    InWords("RawResults", "qcmdrun, hrconf_64, arcconf: the whole answer, line by line"),
 };
 
-constexpr auto kBuild = Words("BuildNumber", "Version: what stands in parentheses");
-constexpr auto kElementState = Words("SoftwareElementState", "fixed: 3");
-constexpr auto kOnController = Words("SoftwareElementID", "ControllerNum of the controller");
-constexpr auto kTargetSystem = Words("TargetOperatingSystem", "fixed: 66");
-constexpr auto kControllerName = Words("Name", "made of fixed text and the controller's number");
+constexpr auto kBuild = InWords("BuildNumber", "Version: what stands in parentheses");
+constexpr auto kElementState = InWords("SoftwareElementState", "fixed: 3");
+constexpr auto kOnController = InWords("SoftwareElementID", "ControllerNum of the controller");
+constexpr auto kTargetSystem = InWords("TargetOperatingSystem", "fixed: 66");
+constexpr auto kControllerName = InWords("Name", "made of fixed text and the controller's number");
 
-constexpr PropertyOrigin kFirmware[] = {
+constexpr PropertyOrigin kOfFirmware[] = {
     kControllerName, {"Version", "Firmware version", "", "Firmware", ""},
      kBuild, kElementState, kOnController,
     kTargetSystem,
 };
 
-constexpr PropertyOrigin kBootBlock[] = {
-    Words("Name", "fixed text"),
+constexpr PropertyOrigin kOfBootBlock[] = {
+    InWords("Name", "fixed text"),
     {"Version", "Boot block version", "Boot", "Boot", ""},
     kBuild,
     kElementState,
@@ -258,47 +258,47 @@ constexpr PropertyOrigin kBootBlock[] = {
     kTargetSystem,
 };
 
-constexpr PropertyOrigin kBios[] = {
+constexpr PropertyOrigin kOfBios[] = {
     kControllerName, {"Version", "Actual BIOS version", "BIOS", "BIOS", "hrconf_64 is asked with getversion"},
     kBuild,          kElementState,
     kOnController,   kTargetSystem,
 };
 
-constexpr PropertyOrigin kDriveFirmware[] = {
-    Words("Name", "fixed text, by the kind of device"),
-    Words("Version", "Firmware of the drive, without the build"),
-    Words("BuildNumber", "Firmware of the drive: what stands in parentheses"),
+constexpr PropertyOrigin kOfDriveFirmware[] = {
+    InWords("Name", "fixed text, by the kind of device"),
+    InWords("Version", "Firmware of the drive, without the build"),
+    InWords("BuildNumber", "Firmware of the drive: what stands in parentheses"),
     kElementState,
-    Words("SoftwareElementID", "made of ControllerNum and DeviceID of the drive"),
+    InWords("SoftwareElementID", "made of ControllerNum and DeviceID of the drive"),
     kTargetSystem,
-    Words("Manufacturer", "Vendor of the drive; of hard disks alone"),
+    InWords("Manufacturer", "Vendor of the drive; of hard disks alone"),
 };
 
-constexpr auto kTheController = Words("Antecedent", "the controller, found by its ControllerNum");
+constexpr auto kTheController = InWords("Antecedent", "the controller, found by its ControllerNum");
 
 constexpr PropertyOrigin kByControllerNumber[] = {
-    Words("Dependent", "each with the controller's ControllerNum"),
+    InWords("Dependent", "each with the controller's ControllerNum"),
     kTheController,
 };
 constexpr PropertyOrigin kBySoftwareElement[] = {
-    Words("Dependent", "each with the controller's number as SoftwareElementID"),
+    InWords("Dependent", "each with the controller's number as SoftwareElementID"),
     kTheController,
 };
 constexpr PropertyOrigin kByBiosName[] = {
-    Words("Dependent", "each whose Name has the controller's number"),
+    InWords("Dependent", "each whose Name has the controller's number"),
     kTheController,
 };
 constexpr PropertyOrigin kByDriveSoftware[] = {
-    Words("Dependent", "each whose SoftwareElementID is made of the drive's ControllerNum and DeviceID"),
-    Words("Antecedent", "a drive of a kind that has firmware, by DeviceType"),
+    InWords("Dependent", "each whose SoftwareElementID is made of the drive's ControllerNum and DeviceID"),
+    InWords("Antecedent", "a drive of a kind that has firmware, by DeviceType"),
 };
 constexpr PropertyOrigin kByDriveCounters[] = {
-    Words("Stats", "each whose InstanceID is made of the drive's ControllerNum, Channel and ScsiId"),
-    Words("ManagedElement", "a drive of a kind that errors are counted on, by DeviceType"),
+    InWords("Stats", "each whose InstanceID is made of the drive's ControllerNum, Channel and ScsiId"),
+    InWords("ManagedElement", "a drive of a kind that errors are counted on, by DeviceType"),
 };
 constexpr PropertyOrigin kByBadStripes[] = {
-    Words("Stats", "each with the same ControllerNum and number of the logical drive, run together"),
-    Words("ManagedElement", "the logical disk"),
+    InWords("Stats", "each with the same ControllerNum and number of the logical drive, run together"),
+    InWords("ManagedElement", "the logical disk"),
 };
 
 struct OriginsOfClass {
@@ -311,19 +311,19 @@ constexpr OriginsOfClass kOrigins[] = {
     {"KVRSG_zxRawData",                           kRawData           },
     {"KVRSG_zxSCSIProtocolController",            kControllers       },
     {"KVRSG_zxLogicalDisk",                       kLogicalDisks      },
-    {"KVRSG_zxDiskGroup",                         kDiskGroups        },
+    {"KVRSG_zxDiskGroup",                         kOfDiskGroups      },
     {"KVRSG_zxDiskDrive",                         kDiskDrives        },
-    {"KVRSG_BadStripeData",                       kBadStripes        },
+    {"KVRSG_BadStripeData",                       kOfBadStripes      },
     {"KVRSG_zxSCSIDeviceData",                    kDeviceData        },
-    {"KVRSG_zxSCSISubStatData",                   kSubStatus         },
+    {"KVRSG_zxSCSISubStatData",                   kOfSubStatus       },
     {"KVRSG_LogRecord_SoftEvent",                 kSoftEvents        },
     {"KVRSG_LogRecord_zxDDD",                     kDefunctDrives     },
     {"KVRSG_LogRecord_HardEvent",                 kHardEvents        },
     {"KVRSG_LogRecord_RAIDMgrEvent",              kRaidManagerEvents },
-    {"KVRSG_zxFirmwareVersion",                   kFirmware          },
-    {"KVRSG_zxBootBlockVersion",                  kBootBlock         },
-    {"KVRSG_zxDiskDriveVersion",                  kDriveFirmware     },
-    {"KVRSG_zxBiosVersion",                       kBios              },
+    {"KVRSG_zxFirmwareVersion",                   kOfFirmware        },
+    {"KVRSG_zxBootBlockVersion",                  kOfBootBlock       },
+    {"KVRSG_zxDiskDriveVersion",                  kOfDriveFirmware   },
+    {"KVRSG_zxBiosVersion",                       kOfBios            },
     {"KVRSG_zxProtocolControllerForUnit",         kByControllerNumber},
     {"KVRSG_zxProtocolControllerForPhysicalDisk", kByControllerNumber},
     {"KVRSG_zxStripeOrderForController",          kByControllerNumber},

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
@@ -21,6 +23,10 @@ struct QueryHeader {
   bool withRuns = false;    // what programs read has the runs of the tools
   bool withUnread = false;  // lines of the raw texts that no property shows are listed
 };
+
+inline bool IsAskedFor(const QueryHeader& header, std::string_view className) {
+  return std::ranges::find(header.classes, className) != header.classes.end();
+}
 
 // One entry of the plug-in's log.
 struct LoggedEntry {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/instance_text.h"
 #include "host/hxahost/table.h"
 
@@ -24,14 +25,14 @@ struct Source {
 // The tool of "zenx//arcconf.exe getconfig 1 al"; of the RAID manager's log the whole path, which may have blanks.
 std::string SourceName(const TPublishedInstance& instance) {
   const std::string command = PropertyText(instance, "Command");
-  return instance.Class().name == "KVRSG_zxRawData" ? command.substr(0, command.find(' ')) : command;
+  return instance.Class().name == kRawDataClass ? command.substr(0, command.find(' ')) : command;
 }
 
 std::vector<Source> Sources(const InstanceList& instances) {
   std::vector<Source> sources;
   for (const auto& instance : instances) {
     const std::string_view name = instance->Class().name;
-    if (name != "KVRSG_zxRawData" && name != "KVRSG_zxManagerRawData") continue;
+    if (name != kRawDataClass && name != kManagerRawDataClass) continue;
     const std::string sourceName = SourceName(*instance);
     auto source = std::ranges::find(sources, sourceName, &Source::name);
     if (source == sources.end()) source = sources.insert(source, Source{sourceName});

@@ -10,12 +10,12 @@ namespace {
 
 using Values = std::vector<std::string>;
 
-constexpr std::string_view kSpace = " \t\r\n";
+constexpr std::string_view kWhiteSpace = " \t\r\n";
 
 std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kSpace);
+  const std::size_t first = text.find_first_not_of(kWhiteSpace);
   if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
+  return text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
 }
 
 bool IsBlank(std::string_view line) { return Trimmed(line).empty(); }
@@ -64,7 +64,7 @@ Values PairValues(std::string_view line) {
 }
 
 // "Label : value", "Label = value". The label ends at the first of the two.
-Values LabelledValue(std::string_view line) {
+Values ValueBehindLabel(std::string_view line) {
   const std::size_t end = line.find_first_of(":=");
   if (end == line.npos || IsBlank(line.substr(0, end)) || IsBlank(line.substr(end + 1))) return {};
   return {std::string(Trimmed(line.substr(end + 1)))};
@@ -115,7 +115,7 @@ Values LineValues(std::string_view line) {
   if (text.starts_with("Command completed") || text.starts_with("Command aborted")) return {};
   if (text.starts_with('<')) return AttributeValues(text);
   if (text.starts_with('|')) return Pieces(text, "|");
-  for (const auto form : {LogValues, PairValues, LabelledValue, CountedValue, KindValue, CodeValue, ColumnValues}) {
+  for (const auto form : {LogValues, PairValues, ValueBehindLabel, CountedValue, KindValue, CodeValue, ColumnValues}) {
     if (Values values = form(text); !values.empty()) return values;
   }
   return {};
@@ -125,19 +125,19 @@ Values LineValues(std::string_view line) {
 std::optional<std::size_t> ValueColumn(std::string_view line) {
   const std::size_t colon = line.find(" : ");
   if (colon == line.npos) return std::nullopt;
-  const std::size_t value = line.find_first_not_of(kSpace, colon + 2);
+  const std::size_t value = line.find_first_not_of(kWhiteSpace, colon + 2);
   return value == line.npos ? std::nullopt : std::optional(value);
 }
 
 // What goes on below a value: no label, and it begins in the column of the value.
 bool Continues(std::string_view line, std::size_t column) {
-  const std::size_t begin = line.find_first_not_of(kSpace);
+  const std::size_t begin = line.find_first_not_of(kWhiteSpace);
   return begin != line.npos && begin == column && line.find(':') == line.npos;
 }
 
 // The names of a table's columns stand directly above a rule.
 bool IsHead(std::span<const std::string> lines, std::size_t index) {
-  return index + 1 < lines.size() && IsRule(lines[index + 1]) && LabelledValue(lines[index]).empty() &&
+  return index + 1 < lines.size() && IsRule(lines[index + 1]) && ValueBehindLabel(lines[index]).empty() &&
          (index == 0 || !Trimmed(lines[index]).starts_with('|') || IsRule(lines[index - 1]));
 }
 

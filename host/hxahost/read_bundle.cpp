@@ -39,9 +39,9 @@ std::optional<double> ReadSeconds(std::string_view text) {
 }
 
 // The lines of a bundle, one after the other. Every line ends in a line feed.
-class Lines {
+class BundleLines {
  public:
-  explicit Lines(std::string_view text) : rest_(text), size_(text.size()) {}
+  explicit BundleLines(std::string_view text) : rest_(text), size_(text.size()) {}
 
   [[noreturn]] void Reject(const std::string& why) const {
     throw BundleError("is damaged: line " + std::to_string(number_) + " " + why);
@@ -157,7 +157,7 @@ std::optional<Digest> ReadDigest(std::string_view text) {
   return Digest{*size, *crc};
 }
 
-std::string ReadBytes(Lines& lines, std::string_view label) {
+std::string ReadBytes(BundleLines& lines, std::string_view label) {
   const Digest digest = lines.Value(label, ReadDigest);
   std::string bytes;
   while (bytes.size() < digest.size) {
@@ -175,7 +175,7 @@ std::string ReadBytes(Lines& lines, std::string_view label) {
   return bytes;
 }
 
-void ReadStart(Lines& lines) {
+void ReadStart(BundleLines& lines) {
   const std::string_view first = lines.Peek();
   if (!first.starts_with(kMagic)) throw BundleError("is no bundle of \"hxahost query --record\"");
   if (first.ends_with('\r')) {
@@ -191,7 +191,7 @@ void ReadStart(Lines& lines) {
 }
 
 // Gives how many items there are to be.
-std::size_t ReadHeader(Lines& lines, Bundle& bundle) {
+std::size_t ReadHeader(BundleLines& lines, Bundle& bundle) {
   ReadStart(lines);
   bundle.program = lines.Value("program", Unquote);
   bundle.isMasked = lines.Value("masked", ReadYesNo);
@@ -205,7 +205,7 @@ std::size_t ReadHeader(Lines& lines, Bundle& bundle) {
   return lines.Value("items", ReadWhole<std::size_t>);
 }
 
-RecordedRun ReadRun(Lines& lines) {
+RecordedRun ReadRecordedRun(BundleLines& lines) {
   RecordedRun run;
   run.path = lines.Value("path", Unquote);
   while (lines.IsNext("argument")) run.arguments.push_back(lines.Value("argument", Unquote));
@@ -221,7 +221,7 @@ RecordedRun ReadRun(Lines& lines) {
   return run;
 }
 
-RecordedLog ReadLog(Lines& lines) {
+RecordedLog ReadLog(BundleLines& lines) {
   RecordedLog log;
   log.path = lines.Value("path", Unquote);
   if (lines.IsNext("failure")) log.failure = lines.Value("failure", ReadFailure);
@@ -229,11 +229,11 @@ RecordedLog ReadLog(Lines& lines) {
   return log;
 }
 
-void ReadItem(Lines& lines, Bundle& bundle) {
+void ReadItem(BundleLines& lines, Bundle& bundle) {
   const std::string number = std::to_string(ItemCount(bundle) + 1);
   const std::string_view heading = lines.Take();
   if (heading == "run " + number && !bundle.raidLog) {
-    bundle.runs.push_back(ReadRun(lines));
+    bundle.runs.push_back(ReadRecordedRun(lines));
   } else if (heading == "raid-log " + number && !bundle.raidLog) {
     bundle.raidLog = ReadLog(lines);
   } else {
@@ -241,11 +241,11 @@ void ReadItem(Lines& lines, Bundle& bundle) {
   }
 }
 
-void TakeBlankLine(Lines& lines) {
+void TakeBlankLine(BundleLines& lines) {
   if (!lines.Take().empty()) lines.Reject("should be empty");
 }
 
-void ReadEnd(Lines& lines, std::string_view text) {
+void ReadEnd(BundleLines& lines, std::string_view text) {
   const std::string_view closed = text.substr(0, lines.Position());
   const std::string_view line = lines.Take();
   const auto crc = line.starts_with(kEnd) ? ReadCrc(line.substr(kEnd.size())) : std::nullopt;
@@ -260,7 +260,7 @@ bool LooksLikeBundle(std::string_view text) { return text.starts_with(kMagic); }
 
 Bundle ReadBundle(std::string_view text) {
   Bundle bundle;
-  Lines lines(text);
+  BundleLines lines(text);
   const std::size_t count = ReadHeader(lines, bundle);
   TakeBlankLine(lines);
   while (ItemCount(bundle) < count) {

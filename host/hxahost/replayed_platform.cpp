@@ -7,7 +7,7 @@ namespace hxahost {
 
 namespace {
 
-std::optional<std::string> VersionText(const OsVersion& version) {
+std::optional<std::string> RecordedVersion(const OsVersion& version) {
   if (!version.isWindowsNt) return std::nullopt;
   return std::to_string(version.major) + "." + std::to_string(version.minor);
 }
@@ -17,7 +17,7 @@ std::optional<std::string> VersionText(const OsVersion& version) {
 ReplayedPlatform::ReplayedPlatform(const Bundle& bundle) {
   if (bundle.raidLog) log_.emplace(bundle.raidLog->bytes);
   Set(kPlatformVariable, std::string(kEnvironmentPlatform));
-  Set(kOsVersionVariable, VersionText(bundle.osVersion));
+  Set(kOsVersionVariable, RecordedVersion(bundle.osVersion));
   Set(kRaidLogDirVariable, bundle.raidLogDir);
   // No file has an empty name: where there was no log, none is found, whatever this machine has.
   Set(kRaidLogFileVariable, std::string());

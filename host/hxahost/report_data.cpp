@@ -75,10 +75,6 @@ Json TablesJson() {
   return tables;
 }
 
-bool IsAskedFor(const QueryHeader& header, std::string_view className) {
-  return std::ranges::find(header.classes, className) != header.classes.end();
-}
-
 Json UnjudgedJson(const QueryHeader& header) {
   Json json = Json::array();
   for (const std::string_view className : HealthClasses()) {
@@ -102,7 +98,7 @@ Json OwnersJson(const QueryResult& result) {
   return json;
 }
 
-Json UnreadJson(const QueryHeader& header, const QueryResult& result) {
+Json UnreadLinesJson(const QueryHeader& header, const QueryResult& result) {
   const bool isWhole = std::ranges::all_of(
       PublishedClasses(), [&header](const ClassDeclaration& each) { return IsAskedFor(header, each.name); });
   if (!isWhole) return nullptr;
@@ -129,7 +125,7 @@ void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryRe
   json["owners"] = OwnersJson(result);
   json["findings"] = FindingsJson(header, result);
   json["unjudged"] = UnjudgedJson(header);
-  json["unread"] = UnreadJson(header, result);
+  json["unread"] = UnreadLinesJson(header, result);
   out << JsonText(json, 2);
 }
 

@@ -23,7 +23,7 @@ constexpr std::string_view kKindWords[] = {"disappeared", "appeared", "changed"}
 static_assert(std::size(kKindWords) == static_cast<std::size_t>(ChangeKind::kChanged) + 1);
 
 // Whether something is in order.
-constexpr std::string_view kStates[] = {
+constexpr std::string_view kStateProperties[] = {
     "ControllerStatus",
     "ControllerBatteryStatus",
     "ControllerBatteryOverTemp",
@@ -48,11 +48,11 @@ constexpr std::string_view kCounters[] = {
 constexpr std::string_view kTimes[] = {"StatisticTime"};
 
 template <std::size_t N>
-bool IsIn(std::string_view name, const std::string_view (&names)[N]) {
+bool IsAmong(std::string_view name, const std::string_view (&names)[N]) {
   return std::ranges::find(names, name) != std::end(names);
 }
 
-std::optional<long> Number(const Json& value) {
+std::optional<long> NumberOf(const Json& value) {
   const std::string text = value.is_string() ? value.get<std::string>() : value.dump();
   long number = 0;
   const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -62,15 +62,15 @@ std::optional<long> Number(const Json& value) {
 
 // A count that is smaller than it was has been reset, or belongs to another device.
 bool HasGrown(const Json& before, const Json& after) {
-  const auto from = Number(before);
-  const auto to = Number(after);
+  const auto from = NumberOf(before);
+  const auto to = NumberOf(after);
   return from && to && *to > *from;
 }
 
 ChangeGroup PropertyGroup(std::string_view property, const Json& before, const Json& after) {
-  if (IsIn(property, kTimes)) return ChangeGroup::kTime;
-  if (IsIn(property, kStates)) return ChangeGroup::kState;
-  return IsIn(property, kCounters) && HasGrown(before, after) ? ChangeGroup::kCounter : ChangeGroup::kProperty;
+  if (IsAmong(property, kTimes)) return ChangeGroup::kTime;
+  if (IsAmong(property, kStateProperties)) return ChangeGroup::kState;
+  return IsAmong(property, kCounters) && HasGrown(before, after) ? ChangeGroup::kCounter : ChangeGroup::kProperty;
 }
 
 ChangeGroup ObjectGroup(const ResultInstance& instance, ChangeGroup usual) {
@@ -78,7 +78,7 @@ ChangeGroup ObjectGroup(const ResultInstance& instance, ChangeGroup usual) {
   return IsLink(instance) ? ChangeGroup::kLink : usual;
 }
 
-Json ValueOf(const ResultInstance& instance, const std::string& property) {
+Json PropertyOf(const ResultInstance& instance, const std::string& property) {
   const auto value = instance.properties.find(property);
   return value == instance.properties.end() ? Json() : *value;
 }
@@ -96,8 +96,8 @@ std::vector<std::string> PropertyNames(const ResultInstance& old, const ResultIn
 void AddProperties(std::vector<Change>& changes, const ResultInstance& old, const ResultInstance& now) {
   if (IsLink(old) && IsLink(now)) return;
   for (const std::string& name : PropertyNames(old, now)) {
-    Json before = ValueOf(old, name);
-    Json after = ValueOf(now, name);
+    Json before = PropertyOf(old, name);
+    Json after = PropertyOf(now, name);
     if (before == after) continue;
     const ChangeGroup group = PropertyGroup(name, before, after);
     changes.push_back({group, ChangeKind::kChanged, old.className, old.path, old.path == now.path ? "" : now.path, name,
@@ -112,7 +112,7 @@ Change ObjectChange(const ResultInstance& instance, ChangeGroup usual, ChangeKin
 using Lines = std::map<std::string, long>;  // how often each is there
 
 // The lines of each command's text, added to what is there.
-void CountLines(std::map<std::string, Lines>& texts, const JsonResult& result, long times) {
+void CountRawLines(std::map<std::string, Lines>& texts, const JsonResult& result, long times) {
   for (const ResultInstance& instance : result.instances) {
     if (!IsRawText(instance)) continue;
     Lines& lines = texts[ResultText(instance, "Command")];
@@ -133,8 +133,8 @@ std::vector<std::string> Commands(const JsonResult& result) {
 
 std::vector<RawTextChange> CompareRawTexts(const JsonResult& before, const JsonResult& after) {
   std::map<std::string, Lines> texts;
-  CountLines(texts, before, -1);
-  CountLines(texts, after, 1);
+  CountRawLines(texts, before, -1);
+  CountRawLines(texts, after, 1);
   const auto oldCommands = Commands(before);
   const auto newCommands = Commands(after);
   std::vector<RawTextChange> changes;

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "host/hxahost/class_names.h"
+
 namespace hxahost {
 
 namespace {
@@ -17,19 +19,19 @@ using Instances = std::vector<const ResultInstance*>;
 using Key = std::function<std::string(const ResultInstance&)>;  // "" for none
 
 // The properties that tell an object from others of its class wherever it is found. The first must be there.
-struct Identity {
+struct InstanceIdentity {
   std::string_view className;
   std::string_view properties[3];
 };
 
-constexpr Identity kIdentities[] = {
-    {"KVRSG_zxSCSIProtocolController", {"SerialNum"}                },
-    {"KVRSG_zxDiskDrive",              {"DeviceSerialNum", "Model"} },
-    {"KVRSG_zxLogicalDisk",            {"LogicalDriveName"}         },
-    {"KVRSG_zxFirmwareVersion",        {"Name", "SoftwareElementID"}},
-    {"KVRSG_zxBootBlockVersion",       {"Name", "SoftwareElementID"}},
-    {"KVRSG_zxBiosVersion",            {"Name", "SoftwareElementID"}},
-    {"KVRSG_zxDiskDriveVersion",       {"SoftwareElementID", "Name"}},
+constexpr InstanceIdentity kIdentities[] = {
+    {kControllerClass,           {"SerialNum"}                },
+    {kDiskDriveClass,            {"DeviceSerialNum", "Model"} },
+    {kLogicalDiskClass,          {"LogicalDriveName"}         },
+    {"KVRSG_zxFirmwareVersion",  {"Name", "SoftwareElementID"}},
+    {"KVRSG_zxBootBlockVersion", {"Name", "SoftwareElementID"}},
+    {"KVRSG_zxBiosVersion",      {"Name", "SoftwareElementID"}},
+    {"KVRSG_zxDiskDriveVersion", {"SoftwareElementID", "Name"}},
 };
 
 constexpr std::string_view kLinkProperties[] = {"Antecedent", "Dependent", "ManagedElement", "Stats"};
@@ -38,7 +40,7 @@ constexpr std::string_view kLinkProperties[] = {"Antecedent", "Dependent", "Mana
 constexpr char kApart = '\x1f';
 
 std::string IdentityKey(const ResultInstance& instance) {
-  const auto* const identity = std::ranges::find(kIdentities, instance.className, &Identity::className);
+  const auto* const identity = std::ranges::find(kIdentities, instance.className, &InstanceIdentity::className);
   if (identity == std::end(kIdentities) || ResultText(instance, std::string(identity->properties[0])).empty())
     return "";
   std::string key = instance.className;
@@ -97,7 +99,7 @@ Instances Compared(const JsonResult& result) {
 }  // namespace
 
 bool IsRawText(const ResultInstance& instance) {
-  return instance.className == "KVRSG_zxRawData" || instance.className == "KVRSG_zxManagerRawData";
+  return instance.className == kRawDataClass || instance.className == kManagerRawDataClass;
 }
 
 bool IsLink(const ResultInstance& instance) {

@@ -6,12 +6,12 @@ namespace hxahost {
 
 namespace {
 
-struct Escape {
+struct ScriptEscape {
   std::string_view bytes;
   std::string_view escape;
 };
 
-constexpr Escape kEscapes[] = {
+constexpr ScriptEscape kScriptEscapes[] = {
     {"<",            "\\u003c"},
     {"\xe2\x80\xa8", "\\u2028"},
     {"\xe2\x80\xa9", "\\u2029"},
@@ -34,7 +34,7 @@ std::streamsize ScriptData::xsputn(const char* text, std::streamsize length) {
 void ScriptData::Add(char character) {
   held_ += character;
   while (!held_.empty()) {
-    for (const Escape& escape : kEscapes) {
+    for (const ScriptEscape& escape : kScriptEscapes) {
       if (held_ == escape.bytes) {
         out_ << escape.escape;
         held_.clear();

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/health_rules.h"
 #include "host/hxahost/published_text.h"
 
@@ -18,8 +19,7 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kController = "KVRSG_zxSCSIProtocolController";
-constexpr std::string_view kBelongToOne[] = {"KVRSG_zxLogicalDisk", "KVRSG_zxDiskGroup", "KVRSG_zxDiskDrive"};
+constexpr std::string_view kBelongToOne[] = {kLogicalDiskClass, kDiskGroupClass, kDiskDriveClass};
 
 // A status as a utility printed it, under the command that was run.
 struct FailedStatus {
@@ -28,7 +28,7 @@ struct FailedStatus {
 };
 
 // Decimal numbers without leading zeros.
-bool IsLower(const std::string& left, const std::string& right) {
+bool IsLowerNumber(const std::string& left, const std::string& right) {
   return std::make_pair(left.size(), left) < std::make_pair(right.size(), right);
 }
 
@@ -36,7 +36,7 @@ bool IsLower(const std::string& left, const std::string& right) {
 std::vector<std::string> UnpublishedNumbers(const InstanceList& instances) {
   std::set<std::string> seen;
   for (const auto& instance : instances) {
-    if (instance->Class().name == kController) seen.insert(PublishedText(*instance, "ControllerNum"));
+    if (instance->Class().name == kControllerClass) seen.insert(PublishedText(*instance, "ControllerNum"));
   }
   std::vector<std::string> numbers;
   for (const auto& instance : instances) {
@@ -44,7 +44,7 @@ std::vector<std::string> UnpublishedNumbers(const InstanceList& instances) {
     const std::string number = PublishedText(*instance, "ControllerNum");
     if (seen.insert(number).second) numbers.push_back(number);
   }
-  std::ranges::sort(numbers, IsLower);
+  std::ranges::sort(numbers, IsLowerNumber);
   return numbers;
 }
 
@@ -71,7 +71,7 @@ std::vector<FailedStatus> FailedStatuses(const InstanceList& instances) {
   std::vector<FailedStatus> failed;
   for (const auto& instance : instances) {
     const std::string command = PublishedText(*instance, "Command");
-    if (instance->Class().name != "KVRSG_zxRawData" || command.find(" getconfig ") == command.npos) continue;
+    if (instance->Class().name != kRawDataClass || command.find(" getconfig ") == command.npos) continue;
     for (const PublishedProperty& property : instance->Properties()) {
       if (TCIMValueReader::Kind(property.value) != ValueKind::kArray) continue;
       const std::string status = FailedStatusIn(TCIMValueReader::Elements(property.value));
@@ -84,7 +84,7 @@ std::vector<FailedStatus> FailedStatuses(const InstanceList& instances) {
 Finding UnpublishedFinding(const std::string& number, const std::string& status) {
   const HealthRule& rule = RuleFor(kPresence, "not published");
   return {rule.severity,
-          std::string(kController),
+          std::string(kControllerClass),
           "Zentraxis" + number,
           "controller " + number,
           std::string(rule.value->property),
@@ -95,7 +95,7 @@ Finding UnpublishedFinding(const std::string& number, const std::string& status)
 Finding FailedFinding(const FailedStatus& failed) {
   const HealthRule& rule = RuleFor(kPresence, "failed");
   return {rule.severity,
-          "KVRSG_zxRawData",
+          std::string(kRawDataClass),
           failed.command,
           "the controller of the command " + failed.command,
           std::string(kStatus.property),

@@ -20,7 +20,7 @@ struct WordColour {
 
 // The first words of the states that the utilities print. "Yes" is the answer to whether something is defunct, blocked
 // or about to fail.
-constexpr WordColour kWords[] = {
+constexpr WordColour kWordColours[] = {
     {"failed",     kRed   },
     {"offline",    kRed   },
     {"defunct",    kRed   },
@@ -41,7 +41,7 @@ constexpr WordColour kWords[] = {
     {"standby",    kGreen },
 };
 
-std::string FirstWord(std::string_view text) {
+std::string FirstLetters(std::string_view text) {
   std::string word;
   for (const char character : text) {
     const auto byte = static_cast<unsigned char>(character);
@@ -54,8 +54,8 @@ std::string FirstWord(std::string_view text) {
 }  // namespace
 
 std::string InStateColour(std::string_view text) {
-  const auto* const found = std::ranges::find(kWords, FirstWord(text), &WordColour::word);
-  if (found == std::end(kWords)) return std::string(text);
+  const auto* const found = std::ranges::find(kWordColours, FirstLetters(text), &WordColour::word);
+  if (found == std::end(kWordColours)) return std::string(text);
   return std::string(found->colour).append(text).append(kPlain);
 }
 

@@ -11,7 +11,7 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::size_t kIndent = 2;
+constexpr std::size_t kIndentWidth = 2;
 constexpr std::size_t kGap = 2;
 constexpr std::string_view kMoreColumns = "  \u2026";
 
@@ -41,7 +41,7 @@ std::vector<Shown> ColumnsWithText(const Table& table) {
 }
 
 std::size_t TotalWidth(const std::vector<Shown>& columns) {
-  return std::accumulate(columns.begin(), columns.end(), kIndent + kGap * (columns.size() - 1),
+  return std::accumulate(columns.begin(), columns.end(), kIndentWidth + kGap * (columns.size() - 1),
                          [](std::size_t sum, const Shown& column) { return sum + column.width; });
 }
 
@@ -62,7 +62,7 @@ void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t page) {
 }
 
 std::string RowText(const std::vector<Shown>& columns, const std::vector<std::string>& row, bool hasColours) {
-  std::string line(kIndent, ' ');
+  std::string line(kIndentWidth, ' ');
   std::size_t missing = 0;  // blanks that are owed: none are put at the end of a line
   for (const Shown& column : columns) {
     const std::string text = CutToWidth(Cell(row, column.index), column.width);

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/controller_blocks.h"
 #include "host/hxahost/instance_text.h"
 #include "host/hxahost/page.h"
@@ -21,7 +22,7 @@ namespace hxahost {
 namespace {
 
 // Commands that found nothing leave their raw texts behind all the same.
-bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != "KVRSG_zxRawData"; }
+bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != kRawDataClass; }
 
 // Where nothing was found, the first thing to know is whether anything looked.
 void WriteToolsNotStarted(std::ostream& out, const QueryResult& result) {

@@ -5,13 +5,15 @@
 #include <span>
 
 #include "host/hxahost/text.h"
+#include "host/hxahost/tool_names.h"
 
 namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kWords[] = {"ok", "refused", "empty", "failed", "cut off", "timed out", "not started"};
-static_assert(std::size(kWords) == static_cast<std::size_t>(Outcome::kNotStarted) + 1);
+constexpr std::string_view kOutcomeWords[] = {"ok",      "refused",   "empty",      "failed",
+                                              "cut off", "timed out", "not started"};
+static_assert(std::size(kOutcomeWords) == static_cast<std::size_t>(Outcome::kNotStarted) + 1);
 
 // The command that asks for a controller as a whole: its answer decides whether the plug-in takes the controller.
 constexpr std::string_view kProbe = "getconfig";
@@ -20,23 +22,23 @@ constexpr std::string_view kControllerHeading = "Controller information";
 // Every answer of every utility ends in this line.
 constexpr std::string_view kClosing = "Command completed successfully";
 
-struct Sign {
+struct AnswerSign {
   std::string_view text;
   Outcome outcome;
 };
 
-constexpr Sign kQcmdrunSigns[] = {
+constexpr AnswerSign kQcmdrunSigns[] = {
     {"Found 0 KVR Zentraxis controller(s)", Outcome::kRefused},
     {"Command aborted",                     Outcome::kRefused},
 };
 
-constexpr Sign kHrconfSigns[] = {
+constexpr AnswerSign kHrconfSigns[] = {
     {"Controllers found: 0",      Outcome::kRefused},
     {"Invalid controller number", Outcome::kRefused},
 };
 
 // A driver that is too old for the utility keeps a controller from being read: it is there all the same.
-constexpr Sign kArcconfSigns[] = {
+constexpr AnswerSign kArcconfSigns[] = {
     {"Driver Update Required",    Outcome::kFailed },
     {"Controllers found: 0",      Outcome::kRefused},
     {"Invalid controller number", Outcome::kRefused},
@@ -44,14 +46,14 @@ constexpr Sign kArcconfSigns[] = {
 
 struct Tool {
   std::string_view name;
-  std::span<const Sign> signs;
+  std::span<const AnswerSign> signs;
   std::size_t mostRuns;  // with eight controllers
 };
 
 constexpr Tool kTools[] = {
-    {"qcmdrun",   kQcmdrunSigns, 8 + 8 * 8 + 8 + 8 * 7},
-    {"hrconf_64", kHrconfSigns,  8 + 8 * 3 + 8 + 8    },
-    {"arcconf",   kArcconfSigns, 8 + 8 * 5 + 8        },
+    {kQcmdrun, kQcmdrunSigns, 8 + 8 * 8 + 8 + 8 * 7},
+    {kHrconf,  kHrconfSigns,  8 + 8 * 3 + 8 + 8    },
+    {kArcconf, kArcconfSigns, 8 + 8 * 5 + 8        },
 };
 
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
@@ -68,9 +70,10 @@ std::string LineAt(std::string_view text, std::size_t place) {
 }
 
 // A log may quote any text; a complete answer to another command is no refusal for having it.
-const Sign* FindSign(std::span<const Sign> signs, bool isProbe, std::string_view output) {
+const AnswerSign* FindSign(std::span<const AnswerSign> signs, bool isProbe, std::string_view output) {
   if (!isProbe && Contains(output, kClosing)) return nullptr;
-  const auto sign = std::ranges::find_if(signs, [output](const Sign& each) { return Contains(output, each.text); });
+  const auto sign =
+      std::ranges::find_if(signs, [output](const AnswerSign& each) { return Contains(output, each.text); });
   return sign == signs.end() ? nullptr : &*sign;
 }
 
@@ -81,12 +84,12 @@ std::string LastLine(std::string_view output) {
 
 }  // namespace
 
-std::string_view OutcomeWord(Outcome outcome) { return kWords[static_cast<std::size_t>(outcome)]; }
+std::string_view OutcomeWord(Outcome outcome) { return kOutcomeWords[static_cast<std::size_t>(outcome)]; }
 
 std::optional<Outcome> OutcomeOfWord(std::string_view word) {
-  const auto found = std::ranges::find(kWords, word);
-  if (found == std::end(kWords)) return std::nullopt;
-  return static_cast<Outcome>(found - std::begin(kWords));
+  const auto found = std::ranges::find(kOutcomeWords, word);
+  if (found == std::end(kOutcomeWords)) return std::nullopt;
+  return static_cast<Outcome>(found - std::begin(kOutcomeWords));
 }
 
 std::string ToolName(std::string_view path) {
@@ -113,7 +116,7 @@ ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>&
   const auto* const known = std::ranges::find(kTools, tool, &Tool::name);
   if (known == std::end(kTools)) return {};
   const bool isProbe = !arguments.empty() && arguments.front() == kProbe;
-  if (const Sign* const sign = FindSign(known->signs, isProbe, output)) {
+  if (const AnswerSign* const sign = FindSign(known->signs, isProbe, output)) {
     return {sign->outcome, LineAt(output, output.find(sign->text))};
   }
   if (!Contains(output, kClosing)) return {Outcome::kCutOff, "its last line is \"" + LastLine(output) + "\""};

@@ -22,7 +22,7 @@ std::string_view CommandOf(const ToolRun& run) {
   return run.arguments.empty() ? std::string_view() : std::string_view(run.arguments.front());
 }
 
-bool Holds(Where where, const ToolRun& run) {
+bool HoldsOfRun(Where where, const ToolRun& run) {
   switch (where) {
     case Where::kOnConfiguration: return CommandOf(run) == kConfiguration;
     case Where::kOnState: return CommandOf(run) != kOnlyKept;
@@ -30,9 +30,9 @@ bool Holds(Where where, const ToolRun& run) {
   }
 }
 
-const HealthRule& RuleFor(const ToolRun& run) {
+const HealthRule& RuleForRun(const ToolRun& run) {
   return *std::ranges::find_if(HealthRules(), [&run](const HealthRule& rule) {
-    return rule.value == &kOutcome && rule.word == OutcomeWord(run.outcome) && Holds(rule.where, run);
+    return rule.value == &kOutcome && rule.word == OutcomeWord(run.outcome) && HoldsOfRun(rule.where, run);
   });
 }
 
@@ -48,7 +48,7 @@ struct Trouble {
 std::vector<Trouble> Troubles(const ToolRunList& runs) {
   std::vector<Trouble> troubles;
   for (const ToolRun& run : runs) {
-    const HealthRule& rule = RuleFor(run);
+    const HealthRule& rule = RuleForRun(run);
     if (rule.severity == Severity::kFine) continue;
     const std::string tool = ToolName(run.path);
     const auto same = std::ranges::find_if(troubles, [&](const Trouble& trouble) {

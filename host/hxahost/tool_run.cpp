@@ -23,7 +23,7 @@ Outcome OutcomeOf(SpawnFailure failure) {
 }
 
 // An answer that looks complete is no success where the program itself says otherwise.
-void ReadResult(const SpawnResult& result, ToolRun& run) {
+void ReadAnswerOf(const SpawnResult& result, ToolRun& run) {
   run.exitStatus = result.exitStatus;
   run.bytes = result.output.size();
   ReadAnswer answer = ReadToolAnswer(ToolName(run.path), run.arguments, result.output);
@@ -66,7 +66,7 @@ SpawnResult SpawnAndRecord(const SpawnFunction& spawn, const std::string& path,
   const Stopwatch stopwatch(run.seconds);
   try {
     SpawnResult result = spawn(path, arguments, limitSeconds);
-    ReadResult(result, run);
+    ReadAnswerOf(result, run);
     return result;
   } catch (const TSpawnException& failure) {
     run.outcome = OutcomeOf(failure.Failure());

@@ -112,7 +112,7 @@ std::string TroubleCounts(const ToolSummary& summary) {
   return text;
 }
 
-std::vector<std::string> ToolsOf(const ToolRunList& runs) {
+std::vector<std::string> ToolsToShow(const ToolRunList& runs) {
   std::vector<std::string> tools;
   for (const std::string_view known : KnownTools()) tools.emplace_back(known);
   for (const ToolRun& run : runs) {
@@ -166,7 +166,7 @@ bool IsNotStarted(const ToolTrouble& trouble) { return trouble.outcome == Outcom
 
 std::vector<ToolSummary> SummarizeRuns(const ToolRunList& runs) {
   std::vector<ToolSummary> summaries;
-  for (std::string& tool : ToolsOf(runs)) summaries.push_back(Summarize(std::move(tool), runs));
+  for (std::string& tool : ToolsToShow(runs)) summaries.push_back(Summarize(std::move(tool), runs));
   return summaries;
 }
 

@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string_view>
 
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/published_text.h"
 
 using NKVRHXA20::TPublishedInstance;
@@ -25,7 +26,7 @@ void AddDisks(std::set<Text>& disks, const Text& controller, const Text& list) {
 std::map<Text, Text> StripeOrders(const InstanceList& all) {
   std::map<Text, Text> orders;
   for (const auto& group : all) {
-    if (group->Class().name != "KVRSG_zxDiskGroup") continue;
+    if (group->Class().name != kDiskGroupClass) continue;
     const Text array = PublishedText(*group, "Array");
     if (array.empty()) continue;
     orders[PublishedText(*group, "ControllerNum") + " " + array] += " " + PublishedText(*group, "StripeOrder");
@@ -49,7 +50,7 @@ UnguardedArrays::UnguardedArrays(const InstanceList& unguarded, const InstanceLi
     AddDisksOf(unguarded_, *drive, orders);
   }
   for (const auto& drive : all) {
-    if (drive->Class().name == "KVRSG_zxLogicalDisk") AddDisksOf(placed_, *drive, orders);
+    if (drive->Class().name == kLogicalDiskClass) AddDisksOf(placed_, *drive, orders);
   }
 }
 

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/class_names.h"
 #include "host/hxahost/raw_text_values.h"
 
 using namespace NKVRHXA20;
@@ -14,14 +15,14 @@ namespace hxahost {
 
 namespace {
 
-bool IsRawText(const TPublishedInstance& instance) {
-  return instance.Class().name == "KVRSG_zxRawData" || instance.Class().name == "KVRSG_zxManagerRawData";
+bool IsOfRawText(const TPublishedInstance& instance) {
+  return instance.Class().name == kRawDataClass || instance.Class().name == kManagerRawDataClass;
 }
 
 bool IsSpace(char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; }
 
 // One blank between words, none at the ends.
-std::string Words(std::string_view text) {
+std::string WithSingleBlanks(std::string_view text) {
   std::string words;
   for (std::size_t index = 0; index < text.size(); ++index) {
     if (!IsSpace(text[index])) {
@@ -46,7 +47,7 @@ void ForEachText(const TCIMValue& value, const Add& add) {
   switch (TCIMValueReader::Kind(value)) {
     case ValueKind::kNone:
     case ValueKind::kReference: return;
-    case ValueKind::kString: return add(Words(TCIMValueReader::Text(value)));
+    case ValueKind::kString: return add(WithSingleBlanks(TCIMValueReader::Text(value)));
     case ValueKind::kDateTime: return add(TCIMValueReader::DateTime(value));
     case ValueKind::kUInt16:
     case ValueKind::kUInt32:
@@ -80,13 +81,13 @@ ShownValues::ShownValues(const InstanceList& instances) {
     if (text.find(' ') != text.npos) longTexts_.push_back(std::move(text));
   };
   for (const auto& instance : instances) {
-    if (IsRawText(*instance)) continue;
+    if (IsOfRawText(*instance)) continue;
     for (const PublishedProperty& property : instance->Properties()) ForEachText(property.value, add);
   }
 }
 
 bool ShownValues::Shows(std::string_view value) const {
-  const std::string words = Words(value);
+  const std::string words = WithSingleBlanks(value);
   return words.empty() || texts_.contains(words) || texts_.contains(LowerCase(words)) || ShowsPieces(words) ||
          ShowsWords(words);
 }
@@ -96,7 +97,7 @@ bool ShownValues::ShowsPieces(std::string_view value) const {
   if (value.find_first_of(kSeparators) == value.npos) return false;
   while (!value.empty()) {
     const std::size_t end = value.find_first_of(kSeparators);
-    const std::string piece = Words(value.substr(0, end));
+    const std::string piece = WithSingleBlanks(value.substr(0, end));
     if (!piece.empty() && !texts_.contains(piece)) return false;
     if (end == value.npos) break;
     value.remove_prefix(end + 1);
@@ -124,7 +125,7 @@ std::vector<UnreadText> FindUnreadLines(const InstanceList& instances) {
   std::vector<UnreadText> texts;
   for (std::size_t place = 0; place < instances.size(); ++place) {
     const TPublishedInstance& instance = *instances[place];
-    if (!IsRawText(instance)) continue;
+    if (!IsOfRawText(instance)) continue;
     UnreadText text;
     text.instance = place;
     std::vector<std::string> lines;

@@ -11,13 +11,13 @@ namespace hxahost {
 
 namespace {
 
-std::size_t CountLines(const std::vector<UnreadText>& texts) {
+std::size_t CountUnread(const std::vector<UnreadText>& texts) {
   std::size_t count = 0;
   for (const UnreadText& text : texts) count += text.unread.size();
   return count;
 }
 
-void WriteText(std::ostream& out, const UnreadText& text) {
+void WriteUnreadText(std::ostream& out, const UnreadText& text) {
   out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), PageOf(out).width)
       << '\n';
   for (std::size_t index = 0; index < text.unread.size(); ++index) {
@@ -30,8 +30,8 @@ void WriteText(std::ostream& out, const UnreadText& text) {
 
 void WriteUnreadLines(std::ostream& out, const InstanceList& instances) {
   const std::vector<UnreadText> texts = FindUnreadLines(instances);
-  out << "\nLines of the tools' texts that nothing above shows: " << CountLines(texts) << '\n';
-  for (const UnreadText& text : texts) WriteText(out, text);
+  out << "\nLines of the tools' texts that nothing above shows: " << CountUnread(texts) << '\n';
+  for (const UnreadText& text : texts) WriteUnreadText(out, text);
 }
 
 }  // namespace hxahost

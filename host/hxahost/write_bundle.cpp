@@ -30,7 +30,7 @@ void AddFailure(std::string& text, const RecordedFailure& failure) {
   Add(text, "failure", std::string(word) + " " + Quote(failure.message));
 }
 
-std::string VersionText(const OsVersion& version) {
+std::string VersionLine(const OsVersion& version) {
   if (!version.isWindowsNt) return std::string(kNone);
   return std::to_string(version.major) + "." + std::to_string(version.minor);
 }
@@ -42,7 +42,7 @@ void AddHeader(std::string& text, const Bundle& bundle) {
   Add(text, "machine", Quote(bundle.machine));
   Add(text, "directory", Quote(bundle.directory));
   Add(text, "os-type", bundle.osType ? std::to_string(*bundle.osType) : std::string(kNone));
-  Add(text, "os-version", VersionText(bundle.osVersion));
+  Add(text, "os-version", VersionLine(bundle.osVersion));
   Add(text, "raid-log-dir", bundle.raidLogDir ? Quote(*bundle.raidLogDir) : std::string(kNone));
   for (const RecordedTime& recorded : bundle.localTimes) {
     Add(text, "local-time", recorded.time.ToString() + " " + std::to_string(recorded.count));

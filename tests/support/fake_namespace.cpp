@@ -21,6 +21,19 @@ class FakeProperty final : public ICIMProperty {
   TCIMValue value_;
 };
 
+std::string RenderedArray(const TCIMValue& array) {
+  std::string text = TCIMValueReader::ElementType(array) == kCIMString ? "string[" : "uint32[";
+  const char* separator = "";
+  for (const TCIMValue& element : TCIMValueReader::Elements(array)) {
+    text += separator + Rendered(element);
+    separator = ", ";
+  }
+  return text + "]";
+}
+
+}  // namespace
+
+// Known outside, as a part of what FakeClass is.
 class FakeInstance final : public ICIMInstance, public boost::enable_shared_from_this<FakeInstance> {
  public:
   using Extent = std::vector<boost::shared_ptr<FakeInstance>>;
@@ -53,18 +66,6 @@ class FakeInstance final : public ICIMInstance, public boost::enable_shared_from
   std::string number_;
   Extent& extent_;
 };
-
-std::string RenderedArray(const TCIMValue& array) {
-  std::string text = TCIMValueReader::ElementType(array) == kCIMString ? "string[" : "uint32[";
-  const char* separator = "";
-  for (const TCIMValue& element : TCIMValueReader::Elements(array)) {
-    text += separator + Rendered(element);
-    separator = ", ";
-  }
-  return text + "]";
-}
-
-}  // namespace
 
 class FakeClass final : public ICIMClass {
  public:

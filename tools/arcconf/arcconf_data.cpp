@@ -31,7 +31,7 @@ constexpr ToolCommand kRecorded[] = {
 };
 
 constexpr std::string_view kDriverMismatch = "Driver Update Required";
-constexpr std::string_view kLogicalDrive = "Logical drive number";
+constexpr std::string_view kLogicalDriveHead = "Logical drive number";
 
 void ReadStripeOrder(ZenxController& controller, CollectedData& text, std::string_view driveNumber) {
   const auto order = std::make_shared<ArrayStripeOrder>(controller.Host);
@@ -43,13 +43,13 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Logical drive information").empty()) return;
   text.NextLine();
   text.NextLine();
-  while (Contains(text.CurrentLine(), kLogicalDrive)) {
-    const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDrive);
+  while (Contains(text.CurrentLine(), kLogicalDriveHead)) {
+    const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDriveHead);
     const auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
     controller.LogicalDevices.push_back(drive);
     arcconf::ParseLogicalDrive(*drive, text, controller.ControllerNum, driveNumber);
     const std::string_view line = text.NextLine();
-    if (Contains(line, kLogicalDrive)) continue;
+    if (Contains(line, kLogicalDriveHead)) continue;
     if (Contains(line, "Stripe order")) {
       ReadStripeOrder(controller, text, driveNumber);
       text.NextLine();

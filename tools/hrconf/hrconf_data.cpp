@@ -40,7 +40,7 @@ constexpr std::size_t kRecordedOnOsVersion60 = 2;
 constexpr std::string_view kNoVersions = "Controllers found: 0                           \n";
 static_assert(kNoVersions.size() == 48 && kNoVersions.starts_with(kNoControllers));
 
-constexpr std::string_view kLogicalDrive = "Logical drive number";
+constexpr std::string_view kLogicalDriveHead = "Logical drive number";
 
 void ReadStripeOrder(ZenxController& controller, CollectedData& text, std::string_view driveNumber) {
   const auto order = std::make_shared<ArrayStripeOrder>(controller.Host);
@@ -52,8 +52,8 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Logical drive information").empty()) return;
   text.NextLine();
   text.NextLine();
-  while (Contains(text.CurrentLine(), kLogicalDrive)) {
-    const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDrive);
+  while (Contains(text.CurrentLine(), kLogicalDriveHead)) {
+    const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDriveHead);
     const auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
     controller.LogicalDevices.push_back(drive);
     hrconf::ParseLogicalDrive(*drive, text, controller.ControllerNum, driveNumber);

@@ -28,14 +28,14 @@ struct Process {
 };
 
 // What can be read of it: a process may end, and what the system tells of it with it.
-std::string Contents(const fs::path& file) {
+std::string FileContents(const fs::path& file) {
   std::string text;
   ReadWholeFile(file, text);
   return text;
 }
 
 bool HasMark(const fs::path& folder, const std::string& mark) {
-  const std::string environment = '\0' + Contents(folder / "environ");
+  const std::string environment = '\0' + FileContents(folder / "environ");
   return environment.find('\0' + mark + '\0') != std::string::npos;
 }
 
@@ -56,7 +56,7 @@ bool HoldsPipe(const fs::path& folder, const fs::path& pipe) {
 
 // "417 (name of (the) program) S 1 417 ...": state, parent and group follow the last parenthesis.
 bool ReadStatus(const fs::path& folder, Process& process) {
-  const std::string status = Contents(folder / "stat");
+  const std::string status = FileContents(folder / "stat");
   const auto nameEnd = status.rfind(')');
   if (nameEnd == std::string::npos) return false;
   std::istringstream fields(status.substr(nameEnd + 1));

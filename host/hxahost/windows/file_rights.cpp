@@ -12,7 +12,7 @@ namespace hxahost {
 
 namespace {
 
-struct FreeLocal {
+struct FreeDescriptor {
   void operator()(void* memory) const { LocalFree(memory); }
 };
 
@@ -24,7 +24,7 @@ bool OthersMayWrite(const std::filesystem::path& path) {
   std::wstring name = path.wstring();  // the call takes it without const
   const DWORD failure = GetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
                                               &list, nullptr, &descriptor);
-  const std::unique_ptr<void, FreeLocal> owned(descriptor);
+  const std::unique_ptr<void, FreeDescriptor> owned(descriptor);
   return failure == ERROR_SUCCESS && LetsOthersWrite(list);
 }
 

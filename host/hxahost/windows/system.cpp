@@ -25,7 +25,7 @@ std::string SystemMessage(DWORD error) {
   return Printable(Utf8FromPath(std::wstring(text.data(), length))) + " (error " + std::to_string(error) + ")";
 }
 
-struct FreeLocal {
+struct FreeArguments {
   void operator()(wchar_t** memory) const { LocalFree(memory); }
 };
 
@@ -34,7 +34,7 @@ struct FreeLocal {
 // The narrow arguments have lost what the ANSI code page lacks; the command line has all of it.
 std::vector<std::string> ProgramArguments(int, char**) {
   int count = 0;
-  const std::unique_ptr<wchar_t*, FreeLocal> wide(CommandLineToArgvW(GetCommandLineW(), &count));
+  const std::unique_ptr<wchar_t*, FreeArguments> wide(CommandLineToArgvW(GetCommandLineW(), &count));
   std::vector<std::string> arguments;
   for (int index = 1; wide && index < count; ++index) {
     arguments.push_back(Utf8FromPath(std::filesystem::path(wide.get()[index])));

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace hxahost {
+
+// The classes that the program looks for, by the names that the plug-in publishes them under.
+inline constexpr std::string_view kControllerClass = "KVRSG_zxSCSIProtocolController";
+inline constexpr std::string_view kLogicalDiskClass = "KVRSG_zxLogicalDisk";
+inline constexpr std::string_view kDiskGroupClass = "KVRSG_zxDiskGroup";
+inline constexpr std::string_view kDiskDriveClass = "KVRSG_zxDiskDrive";
+inline constexpr std::string_view kRawDataClass = "KVRSG_zxRawData";
+inline constexpr std::string_view kManagerRawDataClass = "KVRSG_zxManagerRawData";
+
+}  // namespace hxahost
