@@ -27,9 +27,9 @@ target_compile_options(planted_library PRIVATE -Wall -Wextra -Wpedantic -Wconver
 target_link_options(planted_library PRIVATE -static-libgcc -static-libstdc++)
 set_target_properties(planted_library PROPERTIES PREFIX "" OUTPUT_NAME planted SUFFIX .library)
 
-# Ten files of tests are compiled at a time: the headers of the test framework and of what is tested take longer than what
-# stands in a file. All that a file defines stands in a namespace named after it, so that files may use the same names.
-set(test_batches UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 10)
+# Files of tests are compiled many at a time: the headers of the test framework and of what is tested take longer than
+# what stands in a file. All that a file defines stands in a namespace named after it, so that files may use the same
+# names.
 
 # What all three levels use, compiled once.
 sources_of(test_support_sources tests/support)
@@ -47,7 +47,7 @@ foreach(level unit host end_to_end)
   # The product's objects come first: of a function that stands in a header the linker keeps the first copy that it
   # meets, and theirs is the one with all sanitizers.
   add_executable(${level}_tests $<TARGET_OBJECTS:zenx_objects> $<TARGET_OBJECTS:hxahost_objects> ${sources})
-  set_target_properties(${level}_tests PROPERTIES ${test_batches} ZENX_ONLY_TESTS ON)
+  set_target_properties(${level}_tests PROPERTIES ZENX_ONLY_TESTS ON)
   target_link_libraries(${level}_tests PRIVATE test_support zenx_objects hxahost_objects)
   if(MINGW AND ZENX_LLD)
     target_link_options(${level}_tests PRIVATE -fno-use-linker-plugin -wrapper ${CMAKE_SOURCE_DIR}/cmake/link_with_lld)
