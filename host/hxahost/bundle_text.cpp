@@ -65,33 +65,37 @@ std::optional<char> TakeEscape(std::string_view& text) {
   return static_cast<char>(byte);
 }
 
+// The bytes that a text stands for, if that is how they are written: a bundle is written again as it was read.
+std::optional<std::string> UnescapeAll(std::string_view text, bool isQuoted) {
+  std::string bytes;
+  for (std::string_view rest = text; !rest.empty();) {
+    const std::size_t length = rest.front() == '\\' ? 0 : PrintableLength(rest);
+    if (length > 0) {
+      bytes += rest.substr(0, length);
+      rest.remove_prefix(length);
+      continue;
+    }
+    if (rest.front() != '\\') return std::nullopt;
+    rest.remove_prefix(1);
+    const auto byte = TakeEscape(rest);
+    if (!byte) return std::nullopt;
+    bytes += *byte;
+  }
+  if (EscapeAll(bytes, isQuoted) != text) return std::nullopt;
+  return bytes;
+}
+
 }  // namespace
 
 std::string EscapeBytes(std::string_view bytes) { return EscapeAll(bytes, false); }
 
-std::optional<std::string> UnescapeBytes(std::string_view text) {
-  std::string bytes;
-  while (!text.empty()) {
-    const std::size_t length = text.front() == '\\' ? 0 : PrintableLength(text);
-    if (length > 0) {
-      bytes += text.substr(0, length);
-      text.remove_prefix(length);
-      continue;
-    }
-    if (text.front() != '\\') return std::nullopt;
-    text.remove_prefix(1);
-    const auto byte = TakeEscape(text);
-    if (!byte) return std::nullopt;
-    bytes += *byte;
-  }
-  return bytes;
-}
+std::optional<std::string> UnescapeBytes(std::string_view text) { return UnescapeAll(text, false); }
 
 std::string Quote(std::string_view bytes) { return '"' + EscapeAll(bytes, true) + '"'; }
 
 std::optional<std::string> Unquote(std::string_view text) {
   if (text.size() < 2 || text.front() != '"' || text.back() != '"') return std::nullopt;
-  return UnescapeBytes(text.substr(1, text.size() - 2));
+  return UnescapeAll(text.substr(1, text.size() - 2), true);
 }
 
 std::uint32_t Crc32(std::string_view bytes) {

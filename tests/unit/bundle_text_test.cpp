@@ -38,6 +38,16 @@ TEST(BundleText, RefusesWhatItDoesNotWrite) {
   for (const char* const text : {"", "\"", "a", "\"a", "a\"", "'a'"}) EXPECT_EQ(Unquote(text), std::nullopt) << text;
 }
 
+// Another way to write the same bytes would be a bundle that is not written again as it was.
+TEST(BundleText, RefusesBytesThatAreWrittenInAnotherWay) {
+  for (const char* const text : {"\\x41", "\\x0d", "\\x0D", "\\x1B", "\\\"", "\\x22", "K\\xc3\\xa4se", "a\\x5c"}) {
+    EXPECT_EQ(UnescapeBytes(text), std::nullopt) << text;
+  }
+  for (const char* const text : {R"("1"0argument: "al")", R"("a"b")", R"(""")", R"("a\x22b")", R"("a\x0a")"}) {
+    EXPECT_EQ(Unquote(text), std::nullopt) << text;
+  }
+}
+
 TEST(BundleText, WritesNumbersThatAreReadBackAsTheSame) {
   EXPECT_EQ(DecimalText(0.125), "0.125");
   EXPECT_EQ(std::stod(DecimalText(0.1 + 0.2)), 0.1 + 0.2);
