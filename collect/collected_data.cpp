@@ -5,12 +5,6 @@
 
 #include "collect/text_search.h"
 
-namespace {
-
-bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\n'; }
-
-}  // namespace
-
 CollectedData::CollectedData(HostHandle host, std::string text)
     : text_(std::move(text)), lines_(std::string_view(text_).substr(0, text_.rfind('\n') + 1)), host_(host) {
   Advance();
@@ -19,14 +13,14 @@ CollectedData::CollectedData(HostHandle host, std::string text)
 void CollectedData::ThrowNoLine() { throw std::out_of_range("there is no line left"); }
 
 void CollectedData::AdvanceOutside() {
-  if (outside_ == -1 && !lines_.empty()) return JumpTo(0);
+  if (outside_ == -1 && !lines_.empty()) return JumpTo(LinesBegin());
   outside_ = outside_ == -1 ? 1 : outside_ + 1;
 }
 
 void CollectedData::StepBack() {
   const bool isInside = outside_ == 0 || outside_ == 1;
-  if (!isInside || begin_ == 0) {
-    begin_ = end_ = outside_ > 1 ? lines_.size() : 0;
+  if (!isInside || begin_ == LinesBegin()) {
+    begin_ = end_ = outside_ > 1 ? LinesEnd() : LinesBegin();
     outside_ = isInside ? -1 : outside_ - 1;
   } else if (previous_ < begin_) {
     outside_ = 0;
@@ -38,10 +32,11 @@ void CollectedData::StepBack() {
 }
 
 // To the line that the position is in.
-void CollectedData::JumpTo(std::size_t position) {
+void CollectedData::JumpTo(const char* position) {
+  const std::string_view before(LinesBegin(), position);
   outside_ = 0;
-  begin_ = previous_ = lines_.substr(0, position).rfind('\n') + 1;
-  end_ = lines_.find('\n', position) + 1;
+  begin_ = previous_ = LinesBegin() + (before.rfind('\n') + 1);
+  end_ = Find(position, LinesEnd(), '\n') + 1;
 }
 
 std::string_view CollectedData::FindLine(std::string_view label) {
@@ -49,7 +44,7 @@ std::string_view CollectedData::FindLine(std::string_view label) {
   const bool fitsALine = label.find('\n') >= label.size() - 1;
   const std::size_t found = fitsALine ? FindInReport(lines_, label) : lines_.npos;
   if (found >= lines_.size()) return {};
-  JumpTo(found);
+  JumpTo(LinesBegin() + found);
   return CurrentLine();
 }
 
@@ -63,24 +58,4 @@ std::string_view CollectedData::ValueAfterColon(std::string_view line) {
   const std::size_t lineFeed = line.find('\n', colon);
   if (lineFeed == line.npos) return {};
   return line.substr(colon + 1, lineFeed - colon);
-}
-
-bool CollectedData::FindColumn(std::string_view line, std::string_view label) {
-  const std::size_t found = line.find(label);
-  if (found == line.npos) return false;
-  labelColumn_ = found;
-  return true;
-}
-
-std::string_view CollectedData::TrimLeft(std::string_view text) {
-  if (text.empty()) return text;
-  const char* begin = text.data();
-  const char* const last = begin + text.size() - 1;
-  while (begin != last && IsBlank(*begin)) ++begin;
-  return {begin, last + 1};
-}
-
-std::string_view CollectedData::TrimRight(std::string_view text) {
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  return text;
 }

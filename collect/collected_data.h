@@ -4,10 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "collect/blanks.h"
 #include "collect/host_handle.h"
-
-// Whether the text contains the label, in exact case.
-inline bool Contains(std::string_view text, std::string_view label) { return text.find(label) != text.npos; }
+#include "collect/text_search.h"
 
 // Reads one tool output line by line. Every line keeps its line feed; what follows the last one is dropped.
 // A view that an operation returns lives as long as the scanner. Reading where there is no line throws
@@ -27,7 +26,7 @@ class CollectedData {
 
   std::string_view CurrentLine() const {
     if (outside_ != 0) ThrowNoLine();
-    return {lines_.data() + begin_, end_ - begin_};
+    return {begin_, end_};
   }
   std::string_view NextLine() {
     Advance();
@@ -57,42 +56,63 @@ class CollectedData {
   }
 
   // Drops leading blanks, tabs and line feeds, but never the last character.
-  static std::string_view TrimLeft(std::string_view text);
+  static std::string_view TrimLeft(std::string_view text) {
+    if (text.empty()) return text;
+    const char* const last = text.data() + text.size() - 1;
+    return {SkipBlanks(text.data(), last), last + 1};
+  }
 
   // Drops trailing blanks, tabs and line feeds.
-  static std::string_view TrimRight(std::string_view text);
+  static std::string_view TrimRight(std::string_view text) {
+    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+    return text;
+  }
 
   HostHandle Host() const { return host_; }
 
  private:
   // As ValueAfterColon, of a line of the text, which has its one line feed at its end.
   static std::string_view ValueOfLine(std::string_view line) {
-    const std::size_t colon = line.find(':');
-    return colon == line.npos ? std::string_view() : line.substr(colon + 1);
+    const char* const colon = Find(line.data(), line.data() + line.size(), ':');
+    return colon == nullptr ? std::string_view() : std::string_view(colon + 1, line.data() + line.size());
+  }
+
+  // Where the character stands first; null where it does not.
+  static const char* Find(const char* begin, const char* end, char character) {
+    return std::char_traits<char>::find(begin, static_cast<std::size_t>(end - begin), character);
   }
 
   // Tools indent the labels of a section alike, so most stand where the one before them did.
   bool IsLabelled(std::string_view line, std::string_view label) {
-    return line.substr(std::min(labelColumn_, line.size())).starts_with(label) || FindColumn(line, label);
+    if (labelColumn_ + label.size() <= line.size() &&
+        std::memcmp(line.data() + labelColumn_, label.data(), label.size()) == 0) {
+      return true;
+    }
+    const std::size_t found = FindInLine(line, label);
+    if (found == line.npos) return false;
+    labelColumn_ = found;
+    return true;
   }
-  bool FindColumn(std::string_view line, std::string_view label);
 
   void Advance() {
     previous_ = begin_;
     begin_ = end_;
-    if (outside_ != 0 || end_ == lines_.size()) return AdvanceOutside();
-    end_ = lines_.find('\n', begin_) + 1;
+    if (outside_ != 0 || end_ == LinesEnd()) return AdvanceOutside();
+    end_ = Find(begin_, LinesEnd(), '\n') + 1;
   }
   void AdvanceOutside();
-  void JumpTo(std::size_t position);
+  void JumpTo(const char* position);
   [[noreturn]] static void ThrowNoLine();
 
+  const char* LinesBegin() const { return lines_.data(); }
+  const char* LinesEnd() const { return lines_.data() + lines_.size(); }
+
   const std::string text_;
-  const std::string_view lines_;  // the text up to its last line feed
-  std::size_t begin_ = 0;         // of the current line, and its end; where there is none, both are where the lines end
-  std::size_t end_ = 0;
-  std::size_t previous_ = 0;     // where the line begins that the cursor came from; begin_ where it came by a jump
-  int outside_ = -1;             // where there is no line: so many behind the last, or, below 0, before the first
-  std::size_t labelColumn_ = 0;  // where the label was that was found last
+  const std::string_view lines_;      // the text up to its last line feed
+  const char* begin_ = LinesBegin();  // of the current line, and its end; where there is none, both are where lines end
+  const char* end_ = begin_;
+  const char* previous_ = begin_;  // where the line begins that the cursor came from; begin_ where it came by a jump
+  int outside_ = -1;               // where there is no line: so many behind the last, or, below 0, before the first
+  std::size_t labelColumn_ = 0;    // where the label was that was found last
   HostHandle host_;
 };

@@ -8,7 +8,7 @@ namespace {
 
 // The characters of reports, the most frequent first: blanks that line columns up, rules, small letters, digits. All
 // others are rare.
-constexpr std::string_view kFrequentFirst = " -ero\r\ninta:0lscdS1Dum2CRvAp37hbEf,F4|gN()T5MB./LP68VHOy9wXUWkI";
+constexpr std::string_view kFrequentFirst = " -ero\r\ninta:0lscdS1Dum2CRvAp37hbEf,F4|gN()T5MB./LP68VHOy9wXUWkIKzYxZ";
 
 constexpr auto kRarity = [] {
   std::array<std::uint8_t, 256> rarity{};
@@ -30,7 +30,7 @@ std::size_t FindInReport(std::string_view report, std::string_view label, std::s
   const auto rarest = std::ranges::max_element(label, IsMoreFrequent);
   const auto before = static_cast<std::size_t>(rarest - label.begin());
   for (std::size_t at = report.find(*rarest, from + before); at != report.npos; at = report.find(*rarest, at + 1)) {
-    if (report.substr(at - before).starts_with(label)) return at - before;
+    if (report[at - before] == label.front() && report.substr(at - before).starts_with(label)) return at - before;
   }
   return report.npos;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 // Where the label stands first in a whole report, from a position on; npos where it does not. The same as
@@ -11,4 +12,19 @@ std::size_t FindInReport(std::string_view report, std::string_view label, std::s
 // Whether a whole report contains the label, in exact case.
 inline bool ReportContains(std::string_view report, std::string_view label) {
   return FindInReport(report, label) != report.npos;
+}
+
+// Where the label stands first in a line; npos where it does not. The same as std::string_view::find, too: most labels
+// either stand where the line has their first character first, or their first character is not on the line.
+inline std::size_t FindInLine(std::string_view line, std::string_view label) {
+  if (label.empty() || label.size() > line.size()) return label.empty() ? 0 : line.npos;
+  const void* const first = std::memchr(line.data(), label.front(), line.size() - label.size() + 1);
+  if (first == nullptr) return line.npos;
+  const auto at = static_cast<std::size_t>(static_cast<const char*>(first) - line.data());
+  return std::memcmp(first, label.data(), label.size()) == 0 ? at : line.find(label, at + 1);
+}
+
+// Whether a line, or a text as short, contains the label, in exact case.
+inline bool Contains(std::string_view line, std::string_view label) {
+  return FindInLine(line, label) != line.npos;
 }

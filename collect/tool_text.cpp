@@ -24,7 +24,7 @@ std::string_view CutLogicalDriveNumber(std::string_view line, std::string_view l
 
 std::string_view CutDeviceType(std::string_view line) {
   constexpr std::string_view kLabel = "Device is a";
-  const std::size_t label = line.find(kLabel);
+  const std::size_t label = FindInLine(line, kLabel);
   if (label == line.npos) return {};
   // "a Hard drive", but "an Enclosure services device".
   const std::size_t articleRest = Contains(line, "Enclosure") ? 2 : 1;
@@ -33,7 +33,7 @@ std::string_view CutDeviceType(std::string_view line) {
 
 std::string_view CutDeviceName(std::string_view line) {
   constexpr std::size_t kNameLength = 12;
-  return line.substr(line.find(kDeviceNumberLabel), kNameLength);
+  return line.substr(FindInLine(line, kDeviceNumberLabel), kNameLength);
 }
 
 std::string Joined(std::string_view text, std::string_view separator, std::string_view part) {

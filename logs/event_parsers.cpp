@@ -16,20 +16,11 @@ using NKVRHXA20::TCIMDateTime;
 
 namespace {
 
-struct DddColumn {
-  int number;
-  std::string ZenxEventDddData::*field;
+// "| 03/15/2005 | 14:02:33 | 1 | 3 | 04 | Drive did not answer"; the text comes last.
+constexpr std::string ZenxEventDddData::*kDddColumns[] = {
+    &ZenxEventDddData::Date, &ZenxEventDddData::Time,   &ZenxEventDddData::Channel,
+    &ZenxEventDddData::ID,   &ZenxEventDddData::Reason,
 };
-
-// "| 03/15/2005 | 14:02:33 | 1 | 3 | 04 | Drive did not answer"
-constexpr DddColumn kDddColumns[] = {
-    {1, &ZenxEventDddData::Date   },
-    {2, &ZenxEventDddData::Time   },
-    {3, &ZenxEventDddData::Channel},
-    {4, &ZenxEventDddData::ID     },
-    {5, &ZenxEventDddData::Reason },
-};
-constexpr int kDescription = 6;
 
 // The characters that the text has of the piece.
 std::string Piece(const std::string& text, std::size_t offset, std::size_t length) {
@@ -73,9 +64,9 @@ void ParseCodes(Record& record, CollectedData& text, std::string_view controller
 void ParseDddRow(ZenxEventDddData& record, const CollectedData& text, std::string_view controllerNumber,
                  std::uint32_t entryNumber) {
   record.Controller = controllerNumber;
-  const TableRow row(text.CurrentLine());
-  for (const DddColumn& column : kDddColumns) record.*column.field = row.Column(column.number);
-  record.Descrip = row.LastColumn(kDescription);
+  TableRow row(text.CurrentLine());
+  for (const auto field : kDddColumns) record.*field = row.NextColumn();
+  record.Descrip = row.LastColumn();
   record.MessageTimestamp = TCIMDateTime(TimestampText(record.Date, record.Time));
   record.RecordID = FourHexDigits(entryNumber);
 }

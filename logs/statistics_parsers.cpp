@@ -1,6 +1,7 @@
 #include "logs/statistics_parsers.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 
 #include "collect/collected_data.h"
@@ -24,25 +25,28 @@ std::string Normalised(std::string_view number) { return std::to_string(LeadingN
 enum class TrailingBlanks { kKept, kDropped };
 
 struct Column {
-  int number;
   std::string ZenxEventData::*field;
   TrailingBlanks trailingBlanks;
 };
 
-// Which columns keep the blanks that fill them up shows in the published texts, so it stays as it always was.
+// In the order of the row. Which columns keep the blanks that fill them up shows in the published texts, so it stays as
+// it always was.
 constexpr Column kColumns[] = {
-    {1, &ZenxEventData::Channel,         TrailingBlanks::kDropped},
-    {2, &ZenxEventData::ScsiId,          TrailingBlanks::kDropped},
-    {3, &ZenxEventData::NumParityErrors, TrailingBlanks::kKept   },
-    {4, &ZenxEventData::NumSoftErrors,   TrailingBlanks::kDropped},
-    {5, &ZenxEventData::NumHardErrors,   TrailingBlanks::kKept   },
-    {6, &ZenxEventData::PFA,             TrailingBlanks::kDropped},
-    {7, &ZenxEventData::Misc,            TrailingBlanks::kKept   },
+    {&ZenxEventData::Channel,         TrailingBlanks::kDropped},
+    {&ZenxEventData::ScsiId,          TrailingBlanks::kDropped},
+    {&ZenxEventData::NumParityErrors, TrailingBlanks::kKept   },
+    {&ZenxEventData::NumSoftErrors,   TrailingBlanks::kDropped},
+    {&ZenxEventData::NumHardErrors,   TrailingBlanks::kKept   },
+    {&ZenxEventData::PFA,             TrailingBlanks::kDropped},
+    {&ZenxEventData::Misc,            TrailingBlanks::kKept   },
 };
+
+enum class ValueEnd { kBlank, kLineEnd };
 
 struct Token {
   std::string_view text;
   std::string ZenxSubStatData::*field;
+  ValueEnd end = ValueEnd::kBlank;
 };
 
 // In the order of the line. The last value has no blank behind it.
@@ -53,14 +57,23 @@ constexpr Token kTokens[] = {
     {"PARAMS:",     &ZenxSubStatData::Params       },
     {"REQ-OFF:",    &ZenxSubStatData::Req_Off      },
     {"MAX-TXER-P:", &ZenxSubStatData::Max_Txer_P   },
+    {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p,   ValueEnd::kLineEnd},
 };
-constexpr Token kLastToken = {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p};
+
+// Where the token ends first, of those that begin at a place or behind it. Every token ends in its only colon, so what
+// stands before each colon is compared: a search for the first letter would stop at each "A" of "PARAMS".
+std::size_t FindTokenEnd(std::string_view line, std::string_view token, std::size_t from) {
+  for (std::size_t end = from + token.size();; ++end) {
+    end = line.find(':', end - 1) + 1;
+    if (end == 0 || std::memcmp(line.data() + end - token.size(), token.data(), token.size()) == 0) return end;
+  }
+}
 
 // A value that no blank ends goes to the line's end.
 std::string_view UpToBlank(std::string_view line, std::size_t begin) {
-  line.remove_prefix(begin);
-  const auto isEnd = [](char character) { return character == ' ' || character == '\r' || character == '\n'; };
-  return {line.begin(), std::ranges::find_if(line, isEnd)};
+  std::size_t end = begin;
+  while (end < line.size() && line[end] != ' ' && line[end] != '\r' && line[end] != '\n') ++end;
+  return {line.data() + begin, end - begin};
 }
 
 }  // namespace
@@ -79,9 +92,9 @@ void ParseBadStripe(ZenxBstData& record, const CollectedData& text, std::string_
 
 void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::string_view controllerNumber) {
   record.ControllerNum = controllerNumber;
-  const TableRow row(text.CurrentLine());
-  for (const auto& [number, field, trailingBlanks] : kColumns) {
-    const std::string_view column = row.Column(number);
+  TableRow row(text.CurrentLine());
+  for (const auto& [field, trailingBlanks] : kColumns) {
+    const std::string_view column = row.NextColumn();
     record.*field = trailingBlanks == TrailingBlanks::kDropped ? CollectedData::TrimRight(column) : column;
   }
   record.StatisticTime = TOSSpecific::GetLocalTime();
@@ -91,15 +104,13 @@ void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::str
 void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::string_view) {
   const std::string_view line = text.CurrentLine();
   std::size_t from = 0;
-  for (const Token& token : kTokens) {
-    const std::size_t found = line.find(token.text, from);
-    if (found == line.npos) continue;
-    record.*token.field = UpToBlank(line, found + token.text.size());
-    from = found + 1;
+  for (const auto& [token, field, valueEnd] : kTokens) {
+    const std::size_t end = FindTokenEnd(line, token, from);
+    if (end == 0) continue;
+    record.*field = valueEnd == ValueEnd::kBlank ? UpToBlank(line, end) : UpToCarriageReturn(line, end);
+    from = end - token.size() + 1;
   }
-  if (const std::size_t found = line.find(kLastToken.text, from); found != line.npos) {
-    record.*kLastToken.field = UpToCarriageReturn(line, found + kLastToken.text.size());
-  }
-  record.InstanceID = "Zentraxis:" + record.ControllerNum + "C" + record.Channel + "S" + record.ScsiId;
+  record.InstanceID = "Zentraxis:";
+  record.InstanceID.append(record.ControllerNum).append("C").append(record.Channel).append("S").append(record.ScsiId);
   record.StatisticTime = TOSSpecific::GetLocalTime();
 }

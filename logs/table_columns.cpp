@@ -1,36 +1,34 @@
 #include "logs/table_columns.h"
 
-#include "collect/collected_data.h"
+#include <algorithm>
+
+#include "collect/blanks.h"
 
 namespace {
 
-constexpr auto kNone = std::string_view::npos;
+// What stands behind the bar, up to an end; of blanks the last one. The text is the first that is no blank.
+std::string_view Trimmed(const char* bar, const char* text, const char* end) {
+  if (end <= bar + 1) return {};
+  return {std::min(text, end - 1), end};
+}
 
 }  // namespace
 
-TableRow::TableRow(std::string_view line) : line_(line) {
-  std::size_t next = 0;
-  for (std::size_t& bar : bars_) {
-    bar = next == kNone ? kNone : line.find('|', next);
-    next = bar == kNone ? kNone : bar + 1;
-  }
+TableRow::TableRow(std::string_view line)
+    : bar_(std::find(line.data(), line.data() + line.size(), '|')), end_(line.data() + line.size()) {}
+
+// Columns are short: one pass over the characters costs less than a search for the bar and one for the text.
+std::string_view TableRow::NextColumn() {
+  if (bar_ == end_) return {};
+  const char* const bar = bar_;
+  const char* const text = SkipBlanks(bar + 1, end_);
+  const char* next = text;
+  while (next != end_ && *next != '|') ++next;
+  bar_ = next;
+  return next == end_ ? std::string_view() : Trimmed(bar, text, next - 1);
 }
 
-std::string_view TableRow::Column(int number) const {
-  const std::size_t bar = Bar(number);
-  const std::size_t next = Bar(number + 1);
-  if (next == kNone || next == bar + 1) return {};
-  return CollectedData::TrimLeft(line_.substr(bar + 1, next - 1 - (bar + 1)));
-}
-
-std::string_view TableRow::LastColumn(int number) const {
-  const std::size_t bar = Bar(number);
-  const std::size_t lineFeed = bar == kNone ? kNone : line_.find('\n', bar);
-  if (lineFeed == kNone) return {};
-  return CollectedData::TrimLeft(line_.substr(bar + 1, lineFeed - (bar + 1)));
-}
-
-std::size_t TableRow::Bar(int number) const {
-  const auto index = static_cast<std::size_t>(number) - 1;
-  return index < bars_.size() ? bars_[index] : kNone;
+std::string_view TableRow::LastColumn() const {
+  const char* const lineFeed = std::find(bar_, end_, '\n');
+  return lineFeed == end_ ? std::string_view() : Trimmed(bar_, SkipBlanks(bar_ + 1, lineFeed), lineFeed);
 }

@@ -13,7 +13,13 @@ namespace qcmdrun {
 
 namespace {
 
-bool IsRule(std::string_view line) { return Contains(line, "-"); }
+bool IsRule(std::string_view line) { return line.find('-') != line.npos; }
+
+// The next controller's heading ends the table where the utility prints several. Rows have no "C", and are asked for
+// nothing else.
+bool EndsDeviceEvents(std::string_view line) {
+  return line.find('C') != line.npos && (Contains(line, kCommandCompleted) || Contains(line, "Controller "));
+}
 
 }  // namespace
 
@@ -30,14 +36,12 @@ void AttachBadStripes(ZenxController& controller, CollectedData& text, BadStripe
   }
 }
 
-// Behind the title stand a rule, the heads of the columns and a rule. The next controller's heading ends the table
-// where the utility prints several.
+// Behind the title stand a rule, the heads of the columns and a rule.
 void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Device event table:").empty()) return;
   constexpr int kLinesToFirstRow = 3;
   for (int line = 0; line < kLinesToFirstRow; ++line) text.NextLine();
-  for (; !Contains(text.CurrentLine(), kCommandCompleted) && !Contains(text.CurrentLine(), "Controller ");
-       text.NextLine()) {
+  for (; !EndsDeviceEvents(text.CurrentLine()); text.NextLine()) {
     if (IsRule(text.CurrentLine())) continue;
     auto record = std::make_shared<ZenxEventData>(controller.Host);
     ParseDeviceEvent(*record, text, controller.ControllerNum);

@@ -69,7 +69,7 @@ void CutTape(ZenxPhysicalDevice& device) {
 // "     Device is a Hard disk": what follows the label, line end included.
 std::string_view CutType(std::string_view line) {
   constexpr std::string_view kLabel = "Device is a";
-  const std::size_t label = line.find(kLabel);
+  const std::size_t label = FindInLine(line, kLabel);
   return label == line.npos ? std::string_view() : line.substr(label + kLabel.size());
 }
 
