@@ -85,7 +85,7 @@ class CollectedData {
   // Tools indent the labels of a section alike, so most stand where the one before them did.
   bool IsLabelled(std::string_view line, std::string_view label) {
     if (labelColumn_ + label.size() <= line.size() &&
-        std::memcmp(line.data() + labelColumn_, label.data(), label.size()) == 0) {
+        AreSame(line.data() + labelColumn_, label.data(), label.size())) {
       return true;
     }
     const std::size_t found = FindInLine(line, label);

@@ -14,5 +14,6 @@ bool ContinueList(CollectedData& text, std::string& list) {
 
 std::string StripeOrderId(const ArrayStripeOrder& order, std::string_view logicalDriveNumber) {
   std::string id = "ZentraxisCntrlr" + order.ControllerNum + "LogicalDrv";
-  return id.append(logicalDriveNumber).append(order.StripeOrder);
+  id.append(logicalDriveNumber).append(order.StripeOrder);
+  return id;
 }

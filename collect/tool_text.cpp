@@ -39,9 +39,12 @@ std::string_view CutDeviceName(std::string_view line) {
 std::string Joined(std::string_view text, std::string_view separator, std::string_view part) {
   const std::size_t last = text.find_last_not_of(" \t\r\n");
   const std::size_t first = part.find_first_not_of(' ');
-  std::string joined(text.substr(0, last == text.npos ? 0 : last + 1));
-  joined.append(separator);
-  return joined.append(first == part.npos ? std::string_view() : part.substr(first));
+  const std::string_view head = text.substr(0, last == text.npos ? 0 : last + 1);
+  const std::string_view tail = first == part.npos ? std::string_view() : part.substr(first);
+  std::string joined;
+  joined.reserve(head.size() + separator.size() + tail.size());
+  joined.append(head).append(separator).append(tail);
+  return joined;
 }
 
 int LeadingNumber(std::string_view text) {

@@ -1,10 +1,10 @@
 #include "logs/statistics_parsers.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 #include "collect/collected_data.h"
+#include "collect/text_search.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_records.h"
 #include "logs/table_columns.h"
@@ -65,8 +65,13 @@ constexpr Token kTokens[] = {
 std::size_t FindTokenEnd(std::string_view line, std::string_view token, std::size_t from) {
   for (std::size_t end = from + token.size();; ++end) {
     end = line.find(':', end - 1) + 1;
-    if (end == 0 || std::memcmp(line.data() + end - token.size(), token.data(), token.size()) == 0) return end;
+    if (end == 0 || AreSame(line.data() + end - token.size(), token.data(), token.size())) return end;
   }
+}
+
+bool IsAt(std::string_view line, std::size_t at, std::string_view token) {
+  return at <= line.size() && line.size() - at >= token.size() &&
+         AreSame(line.data() + at, token.data(), token.size());
 }
 
 // A value that no blank ends goes to the line's end.
@@ -104,11 +109,14 @@ void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::str
 void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::string_view) {
   const std::string_view line = text.CurrentLine();
   std::size_t from = 0;
+  std::size_t expected = 0;
   for (const auto& [token, field, valueEnd] : kTokens) {
-    const std::size_t end = FindTokenEnd(line, token, from);
+    const std::size_t end = IsAt(line, expected, token) ? expected + token.size() : FindTokenEnd(line, token, from);
     if (end == 0) continue;
-    record.*field = valueEnd == ValueEnd::kBlank ? UpToBlank(line, end) : UpToCarriageReturn(line, end);
+    const std::string_view value = valueEnd == ValueEnd::kBlank ? UpToBlank(line, end) : UpToCarriageReturn(line, end);
+    record.*field = value;
     from = end - token.size() + 1;
+    expected = std::ranges::find(value, ':') == value.end() ? end + value.size() + 1 : line.npos;
   }
   record.InstanceID = "Zentraxis:";
   record.InstanceID.append(record.ControllerNum).append("C").append(record.Channel).append("S").append(record.ScsiId);

@@ -15,6 +15,9 @@ namespace {
 
 bool IsRule(std::string_view line) { return line.find('-') != line.npos; }
 
+// No table has a "y": one search rules out all of its lines.
+bool EndsAnswer(std::string_view line) { return line.find('y') != line.npos && Contains(line, kCommandCompleted); }
+
 // The next controller's heading ends the table where the utility prints several. Rows have no "C", and are asked for
 // nothing else.
 bool EndsDeviceEvents(std::string_view line) {
@@ -81,7 +84,7 @@ void SetHardEvents(ZenxController& controller, CollectedData& text) {
 
 void AttachSubStats(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("A:").empty()) return;
-  for (; !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
+  for (; !EndsAnswer(text.CurrentLine()); text.NextLine()) {
     auto record = std::make_shared<ZenxSubStatData>(controller.Host);
     ParseSubStat(*record, text, controller.ControllerNum);
     controller.SubStats.push_back(std::move(record));
