@@ -20,7 +20,7 @@ void CollectedData::AdvanceOutside() {
 void CollectedData::StepBack() {
   const bool isInside = outside_ == 0 || outside_ == 1;
   if (!isInside || begin_ == LinesBegin()) {
-    begin_ = end_ = outside_ > 1 ? LinesEnd() : LinesBegin();
+    begin_ = end_ = outside_ > 1 ? linesEnd_ : LinesBegin();
     outside_ = isInside ? -1 : outside_ - 1;
   } else if (previous_ < begin_) {
     outside_ = 0;
@@ -36,7 +36,7 @@ void CollectedData::JumpTo(const char* position) {
   const std::string_view before(LinesBegin(), position);
   outside_ = 0;
   begin_ = previous_ = LinesBegin() + (before.rfind('\n') + 1);
-  end_ = Find(position, LinesEnd(), '\n') + 1;
+  end_ = Find(position, linesEnd_, '\n') + 1;
 }
 
 std::string_view CollectedData::FindLine(std::string_view label) {

@@ -84,8 +84,7 @@ class CollectedData {
 
   // Tools indent the labels of a section alike, so most stand where the one before them did.
   bool IsLabelled(std::string_view line, std::string_view label) {
-    if (labelColumn_ + label.size() <= line.size() &&
-        AreSame(line.data() + labelColumn_, label.data(), label.size())) {
+    if (labelColumn_ + label.size() <= line.size() && AreSame(line.data() + labelColumn_, label.data(), label.size())) {
       return true;
     }
     const std::size_t found = FindInLine(line, label);
@@ -97,18 +96,18 @@ class CollectedData {
   void Advance() {
     previous_ = begin_;
     begin_ = end_;
-    if (outside_ != 0 || end_ == LinesEnd()) return AdvanceOutside();
-    end_ = Find(begin_, LinesEnd(), '\n') + 1;
+    if (outside_ != 0 || end_ == linesEnd_) return AdvanceOutside();
+    end_ = Find(begin_, linesEnd_, '\n') + 1;
   }
   void AdvanceOutside();
   void JumpTo(const char* position);
   [[noreturn]] static void ThrowNoLine();
 
   const char* LinesBegin() const { return lines_.data(); }
-  const char* LinesEnd() const { return lines_.data() + lines_.size(); }
 
   const std::string text_;
-  const std::string_view lines_;      // the text up to its last line feed
+  const std::string_view lines_;  // the text up to its last line feed
+  const char* const linesEnd_ = lines_.data() + lines_.size();
   const char* begin_ = LinesBegin();  // of the current line, and its end; where there is none, both are where lines end
   const char* end_ = begin_;
   const char* previous_ = begin_;  // where the line begins that the cursor came from; begin_ where it came by a jump

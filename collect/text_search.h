@@ -24,8 +24,8 @@ bool AreEndsSame(const char* one, const char* other, std::size_t length) {
 // Whether all characters are the same. Labels are short: two comparisons that meet or overlap, of a length that the
 // compiler knows, take half of what a call does.
 inline bool AreSame(const char* one, const char* other, std::size_t length) {
-  if (length < 2 || length > 16) return std::memcmp(one, other, length) == 0;
-  if (length >= 8) return AreEndsSame<8>(one, other, length);
+  if (length < 2 || length > 32) return std::memcmp(one, other, length) == 0;
+  if (length >= 8) return length > 16 ? AreEndsSame<16>(one, other, length) : AreEndsSame<8>(one, other, length);
   return length >= 4 ? AreEndsSame<4>(one, other, length) : AreEndsSame<2>(one, other, length);
 }
 
@@ -40,6 +40,4 @@ inline std::size_t FindInLine(std::string_view line, std::string_view label) {
 }
 
 // Whether a line, or a text as short, contains the label, in exact case.
-inline bool Contains(std::string_view line, std::string_view label) {
-  return FindInLine(line, label) != line.npos;
-}
+inline bool Contains(std::string_view line, std::string_view label) { return FindInLine(line, label) != line.npos; }

@@ -46,18 +46,18 @@ enum class ValueEnd { kBlank, kLineEnd };
 struct Token {
   std::string_view text;
   std::string ZenxSubStatData::*field;
-  ValueEnd end = ValueEnd::kBlank;
+  ValueEnd end;
 };
 
 // In the order of the line. The last value has no blank behind it.
 constexpr Token kTokens[] = {
-    {"A:",          &ZenxSubStatData::ControllerNum},
-    {"C:",          &ZenxSubStatData::Channel      },
-    {"I:",          &ZenxSubStatData::ScsiId       },
-    {"PARAMS:",     &ZenxSubStatData::Params       },
-    {"REQ-OFF:",    &ZenxSubStatData::Req_Off      },
-    {"MAX-TXER-P:", &ZenxSubStatData::Max_Txer_P   },
-    {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p,   ValueEnd::kLineEnd},
+    {"A:",          &ZenxSubStatData::ControllerNum, ValueEnd::kBlank  },
+    {"C:",          &ZenxSubStatData::Channel,       ValueEnd::kBlank  },
+    {"I:",          &ZenxSubStatData::ScsiId,        ValueEnd::kBlank  },
+    {"PARAMS:",     &ZenxSubStatData::Params,        ValueEnd::kBlank  },
+    {"REQ-OFF:",    &ZenxSubStatData::Req_Off,       ValueEnd::kBlank  },
+    {"MAX-TXER-P:", &ZenxSubStatData::Max_Txer_P,    ValueEnd::kBlank  },
+    {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p,    ValueEnd::kLineEnd},
 };
 
 // Where the token ends first, of those that begin at a place or behind it. Every token ends in its only colon, so what
@@ -70,8 +70,7 @@ std::size_t FindTokenEnd(std::string_view line, std::string_view token, std::siz
 }
 
 bool IsAt(std::string_view line, std::size_t at, std::string_view token) {
-  return at <= line.size() && line.size() - at >= token.size() &&
-         AreSame(line.data() + at, token.data(), token.size());
+  return at <= line.size() && line.size() - at >= token.size() && AreSame(line.data() + at, token.data(), token.size());
 }
 
 // A value that no blank ends goes to the line's end.

@@ -14,8 +14,8 @@ class TableRow {
 
   // What stands between the column's bar and the next one, but for the character before that (a blank, as it is
   // printed); leading blanks, tabs and line feeds dropped, except that a column of blanks keeps one. "" where one of
-  // the two bars is missing, and for all columns behind that. Columns are short: one pass over the characters costs less
-  // than a search for the bar and one for the text.
+  // the two bars is missing, and for all columns behind that. Columns are short: one pass over the characters costs
+  // less than a search for the bar and one for the text.
   std::string_view NextColumn() {
     if (bar_ == end_) return {};
     const char* const bar = bar_;
