@@ -13,14 +13,14 @@ CollectedData::CollectedData(HostHandle host, std::string text)
 void CollectedData::ThrowNoLine() { throw std::out_of_range("there is no line left"); }
 
 void CollectedData::AdvanceOutside() {
-  if (outside_ == -1 && !lines_.empty()) return JumpTo(LinesBegin());
+  if (outside_ == -1 && !lines_.empty()) return JumpTo(lines_.data());
   outside_ = outside_ == -1 ? 1 : outside_ + 1;
 }
 
 void CollectedData::StepBack() {
   const bool isInside = outside_ == 0 || outside_ == 1;
-  if (!isInside || begin_ == LinesBegin()) {
-    begin_ = end_ = outside_ > 1 ? linesEnd_ : LinesBegin();
+  if (!isInside || begin_ == lines_.data()) {
+    begin_ = end_ = outside_ > 1 ? linesEnd_ : lines_.data();
     outside_ = isInside ? -1 : outside_ - 1;
   } else if (previous_ < begin_) {
     outside_ = 0;
@@ -33,9 +33,9 @@ void CollectedData::StepBack() {
 
 // To the line that the position is in.
 void CollectedData::JumpTo(const char* position) {
-  const std::string_view before(LinesBegin(), position);
+  const std::string_view before(lines_.data(), position);
   outside_ = 0;
-  begin_ = previous_ = LinesBegin() + (before.rfind('\n') + 1);
+  begin_ = previous_ = lines_.data() + (before.rfind('\n') + 1);
   end_ = Find(position, linesEnd_, '\n') + 1;
 }
 
@@ -44,7 +44,7 @@ std::string_view CollectedData::FindLine(std::string_view label) {
   const bool fitsALine = label.find('\n') >= label.size() - 1;
   const std::size_t found = fitsALine ? FindInReport(lines_, label) : lines_.npos;
   if (found >= lines_.size()) return {};
-  JumpTo(LinesBegin() + found);
+  JumpTo(lines_.data() + found);
   return CurrentLine();
 }
 

@@ -103,13 +103,11 @@ class CollectedData {
   void JumpTo(const char* position);
   [[noreturn]] static void ThrowNoLine();
 
-  const char* LinesBegin() const { return lines_.data(); }
-
   const std::string text_;
   const std::string_view lines_;  // the text up to its last line feed
   const char* const linesEnd_ = lines_.data() + lines_.size();
-  const char* begin_ = LinesBegin();  // of the current line, and its end; where there is none, both are where lines end
-  const char* end_ = begin_;
+  const char* begin_ = lines_.data();  // of the current line, and its end; where there is none, both are where lines
+  const char* end_ = begin_;           // begin or end
   const char* previous_ = begin_;  // where the line begins that the cursor came from; begin_ where it came by a jump
   int outside_ = -1;               // where there is no line: so many behind the last, or, below 0, before the first
   std::size_t labelColumn_ = 0;    // where the label was that was found last

@@ -24,9 +24,11 @@ bool AreEndsSame(const char* one, const char* other, std::size_t length) {
 // Whether all characters are the same. Labels are short: two comparisons that meet or overlap, of a length that the
 // compiler knows, take half of what a call does.
 inline bool AreSame(const char* one, const char* other, std::size_t length) {
-  if (length < 2 || length > 32) return std::memcmp(one, other, length) == 0;
-  if (length >= 8) return length > 16 ? AreEndsSame<16>(one, other, length) : AreEndsSame<8>(one, other, length);
-  return length >= 4 ? AreEndsSame<4>(one, other, length) : AreEndsSame<2>(one, other, length);
+  if (length > 32) return std::memcmp(one, other, length) == 0;
+  if (length > 16) return AreEndsSame<16>(one, other, length);
+  if (length >= 8) return AreEndsSame<8>(one, other, length);
+  if (length >= 4) return AreEndsSame<4>(one, other, length);
+  return length >= 2 ? AreEndsSame<2>(one, other, length) : length == 0 || *one == *other;
 }
 
 // Where the label stands first in a line; npos where it does not. The same as std::string_view::find, too: most labels

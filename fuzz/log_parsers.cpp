@@ -1,6 +1,7 @@
 // The logs and counters of a legacy controller: the input is the answer to each of the commands in turn.
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -57,6 +58,68 @@ void RequirePart(std::string_view text, std::string_view part) {
   Require(text.find(part) != text.npos, "a field stands in the answer", part);
 }
 
+// The rest of the line from its first part of that text on; "" where it has none.
+std::string From(const std::string& line, const std::string& part) {
+  const std::size_t found = line.find(part);
+  return found == line.npos ? std::string() : line.substr(found);
+}
+
+// What the first six tokens of a sub-status line give, each searched behind the start of the one before it.
+void RequireTokens(const ZenxSubStatData& record, const std::string& line) {
+  const std::string* const fields[] = {&record.ControllerNum, &record.Channel, &record.ScsiId,
+                                       &record.Params,        &record.Req_Off, &record.Max_Txer_P};
+  const char* const tokens[] = {"A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:"};
+  std::string rest = line;
+  for (std::size_t index = 0; index < std::size(tokens); ++index) {
+    const std::string token = tokens[index];
+    const std::string found = From(rest, token);
+    std::string value = found.empty() ? found : found.substr(token.size());
+    value = value.substr(0, value.find_first_of(" \r\n"));
+    Require(*fields[index] == value, "a token's first value counts", line);
+    if (!found.empty()) rest = found.substr(1);
+  }
+  const std::string last = "CUR-TXER-P:";
+  std::string value = From(rest, last);
+  if (!value.empty())
+    value = value.substr(last.size(), value.size() - 2 > last.size() ? value.size() - 2 - last.size() : 0);
+  Require(record.Cur_Txer_p == value, "the last token's value ends before the carriage return", line);
+  Require(record.InstanceID == "Zentraxis:" + record.ControllerNum + "C" + record.Channel + "S" + record.ScsiId,
+          "the identifier is put together of three values", record.InstanceID);
+}
+
+// The columns of a row, as many as a device has counters; leading blanks are dropped but for the last character.
+void RequireColumns(const ZenxEventData& record, const std::string& line) {
+  const std::string* const fields[] = {&record.Channel,       &record.ScsiId,        &record.NumParityErrors,
+                                       &record.NumSoftErrors, &record.NumHardErrors, &record.PFA,
+                                       &record.Misc};
+  const bool areTrimmed[] = {true, true, false, true, false, true, false};
+  std::string rest = From(line, "|");
+  for (std::size_t index = 0; index < std::size(fields); ++index) {
+    const std::string behind = rest.empty() ? rest : rest.substr(1);
+    rest = From(behind, "|");
+    const std::size_t width = rest.empty() ? 0 : behind.size() - rest.size();
+    std::string column = behind.substr(0, width == 0 ? 0 : width - 1);
+    const auto isBlank = [](char character) { return character == ' ' || character == '\t' || character == '\n'; };
+    while (column.size() > 1 && isBlank(column.front())) column.erase(0, 1);
+    while (areTrimmed[index] && !column.empty() && isBlank(column.back())) column.pop_back();
+    Require(*fields[index] == column, "a column stands between its bars", line);
+  }
+}
+
+// The answer's lines, each read alone.
+void InspectLines(std::string_view text) {
+  for (std::string rest(text); rest.find('\n') != rest.npos; rest.erase(0, rest.find('\n') + 1)) {
+    const std::string line = rest.substr(0, rest.find('\n') + 1);
+    const CollectedData scanner(TRootObject::GetCoreLogger(), line);
+    ZenxSubStatData status(scanner.Host());
+    ParseSubStat(status, scanner, "1");
+    RequireTokens(status, line);
+    ZenxEventData event(scanner.Host());
+    ParseDeviceEvent(event, scanner, "1");
+    RequireColumns(event, line);
+  }
+}
+
 void Inspect(const ZenxController& controller, std::string_view text) {
   const auto lines = static_cast<std::size_t>(std::ranges::count(text, '\n'));
   Require(controller.BadStripes.size() <= lines && controller.DeviceEvents.size() <= lines &&
@@ -90,6 +153,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view text = AsText(data, size);
   const auto controller = Walk(text);
   Inspect(*controller, text);
+  InspectLines(text);
   Require(TextOf({controller}, {}) == TextOf({Walk(text)}, {}), "the same answers give the same records");
   return 0;
 }

@@ -60,6 +60,9 @@ constexpr Token kTokens[] = {
     {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p,    ValueEnd::kLineEnd},
 };
 
+// So no token can end in the colon of one before it: the first colon behind a value ends the next token, or none.
+static_assert(std::ranges::is_sorted(kTokens, {}, [](const Token& token) { return token.text.size(); }));
+
 // Where the token ends first, of those that begin at a place or behind it. Every token ends in its only colon, so what
 // stands before each colon is compared: a search for the first letter would stop at each "A" of "PARAMS".
 std::size_t FindTokenEnd(std::string_view line, std::string_view token, std::size_t from) {
@@ -104,7 +107,9 @@ void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::str
   record.StatisticTime = TOSSpecific::GetLocalTime();
 }
 
-// Each token is looked for behind the start of the one before it; a token that is not there costs nothing.
+// As printed, "A:1 C:2", a token stands one blank behind the value before it, and is the first there if the value has
+// no colon. Otherwise each is looked for behind the start of the one before it; a token that is not there costs
+// nothing.
 void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::string_view) {
   const std::string_view line = text.CurrentLine();
   std::size_t from = 0;

@@ -184,6 +184,18 @@ TEST_F(QcmdrunLogWalk, MakesASubStatusOfEveryLineUpToTheEnd) {
   EXPECT_EQ(SubStats("A:1 C:1 I:0 PARAMS:0\n\n" + kEnd), (Texts{"Zentraxis:1C1S0", "Zentraxis:CS"}));
 }
 
+TEST_F(QcmdrunLogWalk, GoesOnBehindALineThatHasLettersOfTheEndAlone) {
+  EXPECT_EQ(DeviceEvents(kTable + "| 1 | 0 | C |\n| y | 1 | Command |\n" + kEnd), (Texts{"1/0", "y/1"}));
+  EXPECT_EQ(SubStats("A:1 C:1 I:0 y\nA:1 C:1 I:1 Command completed successfull\n" + kEnd),
+            (Texts{"Zentraxis:1C1S0", "Zentraxis:1C1S1"}));
+  EXPECT_EQ(DddEvents("+---+\n| 01/15/2005 | 14:02:33 | 1 | 4 | 07 | by hand\n" + kEnd), (Texts{"0001:4"}));
+}
+
+TEST_F(QcmdrunLogWalk, EndsAtTheEndWhereverItStandsInItsLine) {
+  EXPECT_EQ(DeviceEvents(kTable + kRows + "| - Controller 1: " + kEnd + kRows), (Texts{"1/0", "1/1"}));
+  EXPECT_EQ(SubStats("A:1 C:1 I:0\nA:1 C:1 I:1 " + kEnd + "A:1 C:1 I:2\n"), (Texts{"Zentraxis:1C1S0"}));
+}
+
 TEST_F(QcmdrunLogWalk, ReadsNoSubStatusWithoutAToken) { EXPECT_EQ(SubStats("C:1 I:0\n" + kEnd), Texts{}); }
 
 TEST_F(QcmdrunLogWalk, FailsWhereATableIsCutOff) {

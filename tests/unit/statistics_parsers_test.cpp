@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -152,6 +153,76 @@ TEST_F(SubStatParser, TakesTheLastValueWithItsBlanksUpToTheCarriageReturn) {
 
 TEST_F(SubStatParser, BuildsTheInstanceIdOfALineWithoutTokensFromNothing) {
   EXPECT_EQ(Line("\r\n").InstanceID, "Zentraxis:CS");
+}
+
+// As printed a token stands one blank behind a value; what counts is its first occurrence behind the token before it.
+TEST_F(SubStatParser, TakesTheFirstOccurrenceOfATokenWhereverItStands) {
+  struct Case {
+    std::string name;
+    std::string line;
+    std::string values;  // with a bar behind each
+  };
+  const std::vector<Case> cases = {
+      {"as printed",                "A:1 C:2 I:5 PARAMS:p\r\n",      "1|2|5|p||||"          },
+      {"in the value before it",    "A:1C:9 C:2 I:5\r\n",            "1C:9|9|5|||||"        },
+      {"directly behind the token", "A:C:9 C:2 I:5\r\n",             "C:9|9|5|||||"         },
+      {"inside another word",       "A:1 XC:9 C:2 I:5\r\n",          "1|9|5|||||"           },
+      {"behind two blanks",         "A:1  C:2   I:5\r\n",            "1|2|5|||||"           },
+      {"behind a tab",              "A:1\tC:2 I:5\r\n",              "1\tC:2|2|5|||||"      },
+      {"behind a carriage return",  "A:1\rC:2 I:5\r\n",              "1|2|5|||||"           },
+      {"not at the line's start",   "  A:1 C:2 I:5\r\n",             "1|2|5|||||"           },
+      {"twice",                     "A:1 C:2 C:3 I:5 I:6\r\n",       "1|2|5|||||"           },
+      {"a value with a colon",      "A:1:2 C:2 I:5\r\n",             "1:2|2|5|||||"         },
+      {"in a token before it",      "PARAMS:p A:1\r\n",              "1|||||||"             },
+      {"behind a later token",      "A:1 MAX-TXER-P:8 PARAMS:p\r\n", "1|||p||||"            },
+      {"without its value",         "A: C: I: PARAMS: REQ-OFF:\r\n", "|||||||"              },
+      {"cut off",                   "A:1 C:2 I:5 PARAM\r\n",         "1|2|5|||||"           },
+      {"cut off before its colon",  "A:1 C:2 I\n",                   "1|2||||||"            },
+      {"in small letters",          "A:1 c:2 C:3 I:5\r\n",           "1|3|5|||||"           },
+      {"in the last value",         "CUR-TXER-P:8 CUR-TXER-P:9\r\n", "||||||8 CUR-TXER-P:9|"},
+      {"high characters",           "A:\xff C:\x80 I:5\n",           "\xff|\x80|5|||||"     },
+  };
+  for (const Case& lineCase : cases) {
+    std::string values;
+    for (const std::string& value : Values(lineCase.line)) values += value + "|";
+    EXPECT_EQ(values, lineCase.values) << lineCase.name;
+  }
+}
+
+TEST_F(SubStatParser, TakesZeroBytesIntoAValue) {
+  EXPECT_EQ(Line(std::string("A:\0 C:2\0x I:5\n", 14)).ControllerNum, std::string(1, '\0'));
+  EXPECT_EQ(Line(std::string("A:\0 C:2\0x I:5\n", 14)).Channel, std::string("2\0x", 3));
+}
+
+// What the first six tokens give when each is searched from the character behind the start of the one before it.
+std::vector<std::string> SearchedValues(const std::string& line) {
+  std::vector<std::string> values;
+  std::size_t from = 0;
+  for (const std::string token : {"A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:"}) {
+    const std::size_t found = line.find(token, from);
+    values.emplace_back();
+    if (found == line.npos) continue;
+    const std::size_t begin = found + token.size();
+    values.back() = line.substr(begin, line.find_first_of(" \r\n", begin) - begin);
+    from = found + 1;
+  }
+  return values;
+}
+
+// Lines put together of whole tokens, parts of them, values and blanks in any order.
+TEST_F(SubStatParser, FindsInEveryLineWhatASearchForEachTokenFinds) {
+  const std::vector<std::string> pieces = {
+      "A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:", "CUR-TXER-P:", "1",        "12", " ",
+      " ",  " ",  ":",  "P:",      "A",        "\t",          "R",           "MAX-TXER", "\r"};
+  std::mt19937 random(9);
+  for (int round = 0; round < 20'000; ++round) {
+    std::string line;
+    for (std::size_t left = random() % 24; left > 0; --left) line += pieces[random() % pieces.size()];
+    line += "\n";
+    std::vector<std::string> values = Values(line);
+    values.pop_back();
+    ASSERT_EQ(values, SearchedValues(line)) << line;
+  }
 }
 
 }  // namespace

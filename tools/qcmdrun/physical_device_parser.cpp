@@ -42,10 +42,9 @@ constexpr Piece kHardDiskPieces[] = {
 // An identifier shorter than this, blank and line end counted, ends before the serial number does.
 constexpr std::size_t kFullIdentifier = 28;
 
-// Takes the piece out of the identifier; where that is too short, what there is of it.
+// Takes the piece out of the identifier; where that ends in it, what there is of it.
 void Cut(ZenxPhysicalDevice& device, const Piece& piece) {
-  const std::string_view identifier = device.DeviceIdSuffix;
-  device.*piece.field = identifier.substr(std::min(piece.offset, identifier.size()), piece.length);
+  (device.*piece.field).assign(device.DeviceIdSuffix, piece.offset, piece.length);
 }
 
 void CutHardDisk(ZenxPhysicalDevice& device) {
