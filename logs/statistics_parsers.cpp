@@ -63,8 +63,9 @@ constexpr Token kTokens[] = {
 // So no token can end in the colon of one before it: the first colon behind a value ends the next token, or none.
 static_assert(std::ranges::is_sorted(kTokens, {}, [](const Token& token) { return token.text.size(); }));
 
-// Where the token ends first, of those that begin at a place or behind it. Every token ends in its only colon, so what
-// stands before each colon is compared: a search for the first letter would stop at each "A" of "PARAMS".
+// Where the token ends first that begins at a place or behind it; 0 where there is none. Every token ends in its only
+// colon, so what stands before each colon is compared: a search for the first letter would stop at each "A" of
+// "PARAMS".
 std::size_t FindTokenEnd(std::string_view line, std::string_view token, std::size_t from) {
   for (std::size_t end = from + token.size();; ++end) {
     end = line.find(':', end - 1) + 1;

@@ -15,11 +15,11 @@ namespace {
 
 bool IsRule(std::string_view line) { return line.find('-') != line.npos; }
 
-// No table has a "y": one search rules out all of its lines.
+// Few lines of a table have a "y": one search rules out all others.
 bool EndsAnswer(std::string_view line) { return line.find('y') != line.npos && Contains(line, kCommandCompleted); }
 
-// The next controller's heading ends the table where the utility prints several. Rows have no "C", and are asked for
-// nothing else.
+// The next controller's heading ends the table where the utility prints several. Rows as printed have no "C", which
+// both ends begin with: one search rules them out.
 bool EndsDeviceEvents(std::string_view line) {
   return line.find('C') != line.npos && (Contains(line, kCommandCompleted) || Contains(line, "Controller "));
 }
