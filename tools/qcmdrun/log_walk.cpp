@@ -16,10 +16,12 @@ namespace {
 bool IsRule(std::string_view line) { return line.find('-') != line.npos; }
 
 // Few lines of a table have a "y": one search rules out all others.
+static_assert(kCommandCompleted.find('y') != kCommandCompleted.npos);
 bool EndsAnswer(std::string_view line) { return line.find('y') != line.npos && Contains(line, kCommandCompleted); }
 
 // The next controller's heading ends the table where the utility prints several. Rows as printed have no "C", which
 // both ends begin with: one search rules them out.
+static_assert(kCommandCompleted.find('C') != kCommandCompleted.npos);
 bool EndsDeviceEvents(std::string_view line) {
   return line.find('C') != line.npos && (Contains(line, kCommandCompleted) || Contains(line, "Controller "));
 }
