@@ -68,7 +68,8 @@ std::optional<char> TakeEscape(std::string_view& text) {
 // The bytes that a text stands for, if that is how they are written: a bundle is written again as it was read.
 std::optional<std::string> UnescapeAll(std::string_view text, bool isQuoted) {
   std::string bytes;
-  for (std::string_view rest = text; !rest.empty();) {
+  std::string_view rest = text;
+  while (!rest.empty()) {
     const std::size_t length = rest.front() == '\\' ? 0 : PrintableLength(rest);
     if (length > 0) {
       bytes += rest.substr(0, length);
