@@ -88,6 +88,11 @@ TEST_F(DeviceEventParser, LeavesTheFieldsOfMissingColumnsEmpty) {
   EXPECT_EQ(Columns("\r\n"), std::vector<std::string>(7));
 }
 
+TEST_F(DeviceEventParser, TakesNothingOfColumnsBehindTheSeventh) {
+  EXPECT_EQ(Columns("| 1 | 2 | 3 | 4 | 5 | 6 | 7 | 8 | 9 |\r\n"),
+            (std::vector<std::string>{"1", "2", "3", "4", "5", "6", "7"}));
+}
+
 TEST_F(DeviceEventParser, StampsTheRowWithTheLocalTime) {
   EXPECT_EQ(Row("| 1 |\r\n").StatisticTime.ToString(), services_.localTime.ToString());
 }
