@@ -4,6 +4,7 @@
 
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
+#include "collect/record_blocks.h"
 #include "collect/text_search.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
@@ -43,9 +44,10 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Logical drive information").empty()) return;
   text.NextLine();
   text.NextLine();
+  RecordBlocks<ZenxLogicalDevice> drives(controller.Host);
   while (Contains(text.CurrentLine(), kLogicalDriveHead)) {
     const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDriveHead);
-    const auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
+    const auto drive = drives.Make();
     controller.LogicalDevices.push_back(drive);
     arcconf::ParseLogicalDrive(*drive, text, controller.ControllerNum, driveNumber);
     const std::string_view line = text.NextLine();
@@ -58,8 +60,8 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   }
 }
 
-void ReadPhysicalDevice(ZenxController& controller, CollectedData& text) {
-  const auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
+void ReadPhysicalDevice(ZenxController& controller, RecordBlocks<ZenxPhysicalDevice>& devices, CollectedData& text) {
+  const auto device = devices.Make();
   controller.PhysicalDevices.push_back(device);
   // Devices say where they are, so their channel is not given.
   arcconf::ParsePhysicalDevice(*device, text, controller.ControllerNum, "", CutDeviceName(text.CurrentLine()));
@@ -74,11 +76,12 @@ void ReadPhysicalDevices(ZenxController& controller, CollectedData& text) {
     text.NextLine();
     text.NextLine();
   }
+  RecordBlocks<ZenxPhysicalDevice> devices(controller.Host);
   while (!Contains(text.CurrentLine(), kCommandCompleted)) {
     const bool speaksOfDevice = Contains(text.CurrentLine(), "Device");
     if (!Contains(text.CurrentLine(), kDeviceNumberLabel)) text.NextLine();
     while (Contains(text.CurrentLine(), kDeviceNumberLabel)) {
-      if (speaksOfDevice) ReadPhysicalDevice(controller, text);
+      if (speaksOfDevice) ReadPhysicalDevice(controller, devices, text);
       text.NextLine();
     }
   }

@@ -5,6 +5,7 @@
 
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
+#include "collect/record_blocks.h"
 #include "collect/text_search.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
@@ -52,9 +53,10 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Logical drive information").empty()) return;
   text.NextLine();
   text.NextLine();
+  RecordBlocks<ZenxLogicalDevice> drives(controller.Host);
   while (Contains(text.CurrentLine(), kLogicalDriveHead)) {
     const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDriveHead);
-    const auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
+    const auto drive = drives.Make();
     controller.LogicalDevices.push_back(drive);
     hrconf::ParseLogicalDrive(*drive, text, controller.ControllerNum, driveNumber);
     if (Contains(text.NextLine(), "size")) text.NextLine();
@@ -63,10 +65,11 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   }
 }
 
-void ReadPhysicalDevice(ZenxController& controller, CollectedData& text, std::string_view channel) {
+void ReadPhysicalDevice(ZenxController& controller, RecordBlocks<ZenxPhysicalDevice>& devices, CollectedData& text,
+                        std::string_view channel) {
   const std::string_view line = text.CurrentLine();
   const std::size_t number = line.find(kDeviceNumberLabel) + kDeviceNumberLabel.size();
-  const auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
+  const auto device = devices.Make();
   controller.PhysicalDevices.push_back(device);
   hrconf::ParsePhysicalDevice(*device, text, controller.ControllerNum, channel, CutDeviceName(line));
   device->DeviceNumber = line.substr(number);
@@ -92,9 +95,10 @@ void ReadPhysicalDevices(ZenxController& controller, CollectedData& text) {
   text.NextLine();
   const bool hasChannels = Contains(text.NextLine(), "Channel");
   std::string_view channel = hasChannels ? "" : "0";
+  RecordBlocks<ZenxPhysicalDevice> devices(controller.Host);
   while (!Contains(text.CurrentLine(), kCommandCompleted)) {
     if (Contains(text.CurrentLine(), kDeviceNumberLabel)) {
-      ReadPhysicalDevice(controller, text, channel);
+      ReadPhysicalDevice(controller, devices, text, channel);
     } else if (hasChannels) {
       TakeChannel(text.CurrentLine(), channel);
     }

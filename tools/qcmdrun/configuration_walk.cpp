@@ -3,6 +3,7 @@
 #include <string>
 
 #include "collect/collected_data.h"
+#include "collect/record_blocks.h"
 #include "collect/records.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
@@ -27,9 +28,10 @@ std::string CutChannel(std::string_view line) {
   return std::string(colon == line.npos ? std::string_view() : line.substr(begin, colon - begin));
 }
 
-void AttachDevicesOfTargetLines(ZenxController& controller, CollectedData& text, const std::string& channel) {
+void AttachDevicesOfTargetLines(ZenxController& controller, RecordBlocks<ZenxPhysicalDevice>& devices,
+                                CollectedData& text, const std::string& channel) {
   for (; Contains(text.CurrentLine(), "Target"); text.NextLine()) {
-    auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
+    auto device = devices.Make();
     ParsePhysicalDevice(*device, text, controller.ControllerNum, channel);
     controller.PhysicalDevices.push_back(std::move(device));
   }
@@ -45,10 +47,11 @@ void AttachLogicalDrives(ZenxController& controller, CollectedData& text) {
   StepOverRule(text);
   // A line without the blank behind the label gives no number of its own.
   std::string number;
+  RecordBlocks<ZenxLogicalDevice> drives(controller.Host);
   for (; Contains(text.CurrentLine(), "Logical drive number"); text.NextLine()) {
     const std::string_view line = text.CurrentLine();
     if (Contains(line, kLabelAndBlank)) number = CutLogicalDriveNumber(line, kLabelAndBlank);
-    auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
+    auto drive = drives.Make();
     ParseLogicalDrive(*drive, text, number, controller.ControllerNum);
     controller.LogicalDevices.push_back(std::move(drive));
   }
@@ -57,9 +60,10 @@ void AttachLogicalDrives(ZenxController& controller, CollectedData& text) {
 void AttachStripeOrders(ZenxController& controller, CollectedData& text) {
   Log(controller.Host, kLogRoutine, "Parse For  QCMDRUN Stripe Order\n");
   if (text.FindLine(kStripeOrderLabel).empty()) return;
+  RecordBlocks<ArrayStripeOrder> orders(controller.Host);
   for (; Contains(text.CurrentLine(), kStripeOrderLabel); text.NextLine()) {
     Log(controller.Host, kLogRoutine, "Found QCMDRUN Stripe Order Data\n");
-    auto order = std::make_shared<ArrayStripeOrder>(controller.Host);
+    auto order = orders.Make();
     ParseStripeOrder(*order, text, controller.ControllerNum);
     controller.StripeOrders.push_back(std::move(order));
   }
@@ -72,6 +76,7 @@ bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Physical device information").empty()) return false;
   StepOverRule(text);
   std::string channel;
+  RecordBlocks<ZenxPhysicalDevice> devices(controller.Host);
   while (!Contains(text.CurrentLine(), kCommandCompleted)) {
     const std::string_view line = text.CurrentLine();
     if (Contains(line, "#")) {
@@ -80,7 +85,7 @@ bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text) {
     } else if (!Contains(line, "Target")) {
       text.NextLine();
     }
-    AttachDevicesOfTargetLines(controller, text, channel);
+    AttachDevicesOfTargetLines(controller, devices, text, channel);
   }
   return true;
 }

@@ -1,6 +1,7 @@
 #include "tools/qcmdrun/log_walk.h"
 
 #include "collect/collected_data.h"
+#include "collect/record_blocks.h"
 #include "collect/records.h"
 #include "collect/tool_answers.h"
 #include "logs/event_parsers.h"
@@ -46,9 +47,10 @@ void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Device event table:").empty()) return;
   constexpr int kLinesToFirstRow = 3;
   for (int line = 0; line < kLinesToFirstRow; ++line) text.NextLine();
+  RecordBlocks<ZenxEventData> rows(controller.Host);
   for (; !EndsDeviceEvents(text.CurrentLine()); text.NextLine()) {
     if (IsRule(text.CurrentLine())) continue;
-    auto record = std::make_shared<ZenxEventData>(controller.Host);
+    auto record = rows.Make();
     ParseDeviceEvent(*record, text, controller.ControllerNum);
     controller.DeviceEvents.push_back(std::move(record));
   }
@@ -86,8 +88,9 @@ void SetHardEvents(ZenxController& controller, CollectedData& text) {
 
 void AttachSubStats(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("A:").empty()) return;
+  RecordBlocks<ZenxSubStatData> lines(controller.Host);
   for (; !EndsAnswer(text.CurrentLine()); text.NextLine()) {
-    auto record = std::make_shared<ZenxSubStatData>(controller.Host);
+    auto record = lines.Make();
     ParseSubStat(*record, text, controller.ControllerNum);
     controller.SubStats.push_back(std::move(record));
   }
