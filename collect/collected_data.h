@@ -37,6 +37,9 @@ class CollectedData {
   // All of it, with what follows the last line feed.
   const std::string& WholeText() const { return text_; }
 
+  // Where the last line ends: all that stands before it can be read.
+  const char* EndOfLines() const { return linesEnd_; }
+
   std::string_view ValueOfCurrentLine() const;
 
   // What follows the first colon, up to and with the line feed: leading blanks, carriage return and line feed stay.

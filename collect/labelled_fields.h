@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "collect/collected_data.h"
+#include "collect/short_text.h"
 
 // What a label that is not on its line costs.
 enum class Miss {
@@ -30,7 +31,7 @@ void ReadInOrder(CollectedData& text, Record& record, LabelTable<Record> table) 
   bool isUsed = true;  // the current line, so that the next label is looked for on the one behind it
   for (const auto& [label, field, miss] : table) {
     const std::string_view value = isUsed ? text.NextLineValueIf(label) : text.ValueIf(label);
-    record.*field = value;
+    Keep(record.*field, value, text.EndOfLines());
     isUsed = !value.empty() || miss == Miss::kTakesLine;
   }
   if (!isUsed) text.StepBack();

@@ -13,6 +13,14 @@ TEST(CollectedData, LosesTheSecondOfTwoLinesWhenOnlyTheFirstEndsInALineFeed) {
   EXPECT_THROW(text.NextLine(), std::out_of_range);
 }
 
+TEST(CollectedData, EndsItsLinesBehindTheLastLineFeed) {
+  const auto sizeOfLines = [](const CollectedData& text) { return text.EndOfLines() - text.WholeText().data(); };
+  EXPECT_EQ(sizeOfLines(CollectedData(nullptr, "first\r\nsecond")), 7);
+  EXPECT_EQ(sizeOfLines(CollectedData(nullptr, "first\nsecond\n")), 13);
+  EXPECT_EQ(sizeOfLines(CollectedData(nullptr, "first")), 0);
+  EXPECT_EQ(sizeOfLines(CollectedData(nullptr, "")), 0);
+}
+
 TEST(CollectedData, TrimLeftOfThreeBlanksKeepsOne) {
   EXPECT_EQ(CollectedData::TrimLeft("   "), " ");
   EXPECT_EQ(CollectedData::TrimLeft(" \t\n"), "\n");

@@ -40,6 +40,24 @@ TEST(LabelledFields, ReadsTheLinesBehindTheCurrentOneInTheOrderOfTheTable) {
   EXPECT_EQ(InOrder(kDisk, "head\nName : a\nSize : 1\nState : ok\n"), (Disk{" a\n", " 1\n", " ok\n"}));
 }
 
+TEST(LabelledFields, ReadsValuesOfAnyLengthWhateverStandsBehindThem) {
+  for (std::size_t length = 0; length < 40; ++length) {
+    const std::string value = std::string(length, 'x') + "\n";
+    const Disk expected = {value, " 1\n", value};
+    const std::string lines = "head\nName:" + value + "Size: 1\nState:" + value;
+    EXPECT_EQ(InOrder(kDisk, lines), expected) << length;
+    EXPECT_EQ(InOrder(kDisk, lines + "and more that is no label's\n"), expected) << length;
+    EXPECT_EQ(InOrder(kDisk, lines + "cut off"), expected) << length;
+  }
+}
+
+TEST(LabelledFields, EmptiesTheFieldOfAMissAndReplacesWhatAnotherHeld) {
+  CollectedData text(nullptr, "head\nSize : 2\nend of the lines\n");
+  Disk disk{"name", "size", "state"};
+  ReadInOrder<Disk>(text, disk, kDisk);
+  EXPECT_EQ(disk, (Disk{"", " 2\n", ""}));
+}
+
 TEST(LabelledFields, DoesNotReadTheCurrentLine) {
   EXPECT_EQ(InOrder(kDisk, "Name : a\nName : b\nSize : 1\nState : ok\n").Name, " b\n");
 }

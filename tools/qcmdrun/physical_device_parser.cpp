@@ -5,6 +5,7 @@
 
 #include "collect/labelled_fields.h"
 #include "collect/records.h"
+#include "collect/short_text.h"
 
 namespace qcmdrun {
 
@@ -78,7 +79,7 @@ void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::s
                          std::string_view channel) {
   device.ControllerNum = controllerNumber;
   device.Channel = channel;
-  device.DeviceType = CutType(text.NextLine());
+  Keep(device.DeviceType, CutType(text.NextLine()), text.EndOfLines());
   ReadInOrder<ZenxPhysicalDevice>(text, device, kDevice);
   if (Contains(device.DeviceType, "Tape")) CutTape(device);
   if (Contains(device.DeviceType, "Hard disk")) CutHardDisk(device);
