@@ -1,9 +1,12 @@
 #include "logs/statistics_parsers.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
+#include <utility>
 
 #include "collect/collected_data.h"
+#include "collect/short_text.h"
 #include "collect/text_search.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_records.h"
@@ -14,13 +17,22 @@ using NKVRHXA20::TOSSpecific;
 
 namespace {
 
-// The text from there to one character before the line feed, which is where the carriage return stands.
+// The text from there to one character before the line feed that ends the line, which is where the carriage return
+// stands.
 std::string_view UpToCarriageReturn(std::string_view line, std::size_t begin) {
-  const std::size_t end = std::max(line.find('\n', begin), begin + 1) - 1;
+  const std::size_t end = std::max(line.size() - 1, begin + 1) - 1;
   return line.substr(begin, end - begin);
 }
 
 std::string Normalised(std::string_view number) { return std::to_string(LeadingNumber(number)); }
+
+void KeepLong(std::string& field, std::string_view value) { field = value; }
+
+// Values of tables are short. What else there may be has a function of its own, which leaves the loops that read them
+// short, too.
+inline void KeepValue(std::string& field, std::string_view value, const char* textEnd) {
+  if (!KeptShort(field, value, textEnd)) KeepLong(field, value);
+}
 
 enum class TrailingBlanks { kKept, kDropped };
 
@@ -77,11 +89,42 @@ bool IsAt(std::string_view line, std::size_t at, std::string_view token) {
   return at <= line.size() && line.size() - at >= token.size() && AreSame(line.data() + at, token.data(), token.size());
 }
 
-// A value that no blank ends goes to the line's end.
-std::string_view UpToBlank(std::string_view line, std::size_t begin) {
-  std::size_t end = begin;
-  while (end < line.size() && line[end] != ' ' && line[end] != '\r' && line[end] != '\n') ++end;
-  return {line.data() + begin, end - begin};
+// Every line has an end, so no value runs past it.
+bool EndsValue(char character) { return character == ' ' || character == '\r' || character == '\n'; }
+
+// A line that is read from left to right, and where the next token may stand.
+struct TokenLine {
+  std::string_view text;
+  const char* textEnd;       // of the answer that the line is of
+  std::size_t from = 0;      // behind the start of the token before it
+  std::size_t expected = 0;  // where it stands as printed: one blank behind a value without a colon
+
+  // The value behind a token that ends there, and where the next one is expected.
+  std::string_view ValueUpToBlank(std::size_t begin) {
+    std::size_t end = begin;
+    bool hasColon = false;
+    for (; !EndsValue(text[end]); ++end) hasColon = hasColon || text[end] == ':';
+    expected = hasColon ? text.npos : end + 1;
+    return {text.data() + begin, end - begin};
+  }
+};
+
+// Each token has a reader of its own, so that the compiler knows what it compares.
+template <std::size_t kIndex>
+void ReadToken(ZenxSubStatData& record, TokenLine& line) {
+  constexpr Token kToken = kTokens[kIndex];
+  const std::size_t end = IsAt(line.text, line.expected, kToken.text) ? line.expected + kToken.text.size()
+                                                                      : FindTokenEnd(line.text, kToken.text, line.from);
+  if (end == 0) return;
+  line.from = end - kToken.text.size() + 1;
+  const std::string_view value =
+      kToken.end == ValueEnd::kBlank ? line.ValueUpToBlank(end) : UpToCarriageReturn(line.text, end);
+  KeepValue(record.*kToken.field, value, line.textEnd);
+}
+
+template <std::size_t... kIndexes>
+void ReadTokens(ZenxSubStatData& record, TokenLine line, std::index_sequence<kIndexes...>) {
+  (ReadToken<kIndexes>(record, line), ...);
 }
 
 }  // namespace
@@ -103,7 +146,9 @@ void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::str
   TableRow row(text.CurrentLine());
   for (const auto& [field, trailingBlanks] : kColumns) {
     const std::string_view column = row.NextColumn();
-    record.*field = trailingBlanks == TrailingBlanks::kDropped ? CollectedData::TrimRight(column) : column;
+    const std::string_view kept =
+        trailingBlanks == TrailingBlanks::kDropped ? CollectedData::TrimRight(column) : column;
+    KeepValue(record.*field, kept, text.EndOfLines());
   }
   record.StatisticTime = TOSSpecific::GetLocalTime();
 }
@@ -112,17 +157,7 @@ void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::str
 // no colon. Otherwise each is looked for behind the start of the one before it; a token that is not there costs
 // nothing.
 void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::string_view) {
-  const std::string_view line = text.CurrentLine();
-  std::size_t from = 0;
-  std::size_t expected = 0;
-  for (const auto& [token, field, valueEnd] : kTokens) {
-    const std::size_t end = IsAt(line, expected, token) ? expected + token.size() : FindTokenEnd(line, token, from);
-    if (end == 0) continue;
-    const std::string_view value = valueEnd == ValueEnd::kBlank ? UpToBlank(line, end) : UpToCarriageReturn(line, end);
-    record.*field = value;
-    from = end - token.size() + 1;
-    expected = std::ranges::find(value, ':') == value.end() ? end + value.size() + 1 : line.npos;
-  }
+  ReadTokens(record, {text.CurrentLine(), text.EndOfLines()}, std::make_index_sequence<std::size(kTokens)>());
   record.InstanceID = "Zentraxis:";
   record.InstanceID.append(record.ControllerNum).append("C").append(record.Channel).append("S").append(record.ScsiId);
   record.StatisticTime = TOSSpecific::GetLocalTime();

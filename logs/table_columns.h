@@ -21,7 +21,8 @@ class TableRow {
     const char* const bar = bar_;
     const char* const text = SkipBlanks(bar + 1, end_);
     for (bar_ = text; bar_ != end_ && *bar_ != '|';) ++bar_;
-    return bar_ == end_ ? std::string_view() : Trimmed(bar, text, bar_ - 1);
+    if (bar_ == end_) return {};
+    return text < bar_ - 1 ? std::string_view(text, bar_ - 1) : Trimmed(bar, text, bar_ - 1);
   }
 
   // What stands behind the next column's bar, up to the line feed, leading blanks dropped in the same way. "" where the
