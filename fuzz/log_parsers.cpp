@@ -106,17 +106,24 @@ void RequireColumns(const ZenxEventData& record, const std::string& line) {
   }
 }
 
-// The answer's lines, each read alone.
+// What the current line gives, beside what it reads.
+void InspectLine(const CollectedData& scanner) {
+  const std::string line(scanner.CurrentLine());
+  ZenxSubStatData status(scanner.Host());
+  ParseSubStat(status, scanner, "1");
+  RequireTokens(status, line);
+  ZenxEventData event(scanner.Host());
+  ParseDeviceEvent(event, scanner, "1");
+  RequireColumns(event, line);
+}
+
+// The answer's lines, each read with those around it and alone.
 void InspectLines(std::string_view text) {
-  for (std::string rest(text); rest.find('\n') != rest.npos; rest.erase(0, rest.find('\n') + 1)) {
-    const std::string line = rest.substr(0, rest.find('\n') + 1);
-    const CollectedData scanner(TRootObject::GetCoreLogger(), line);
-    ZenxSubStatData status(scanner.Host());
-    ParseSubStat(status, scanner, "1");
-    RequireTokens(status, line);
-    ZenxEventData event(scanner.Host());
-    ParseDeviceEvent(event, scanner, "1");
-    RequireColumns(event, line);
+  CollectedData scanner(TRootObject::GetCoreLogger(), std::string(text));
+  for (auto left = std::ranges::count(text, '\n'); left > 0; --left) {
+    InspectLine(scanner);
+    InspectLine({scanner.Host(), std::string(scanner.CurrentLine())});
+    if (left > 1) scanner.NextLine();
   }
 }
 
