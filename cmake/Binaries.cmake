@@ -16,10 +16,10 @@ function(sources_of VARIABLE)
   set(${VARIABLE} ${sources} PARENT_SCOPE)
 endfunction()
 
-# Most presets compile several files of a target as one: the headers that each includes take longer than what it holds. So
-# no two of them may use one name for something of their own, and the preset linux, which compiles each by itself, shows
-# that each includes what it uses. The tools' folders are much alike and use each name for the same: a folder is compiled
-# as one.
+# Presets compile several files of a target as one: the headers that each includes take longer than what it holds. So no
+# two of them may use one name for something of their own, and scripts/check --deep, which takes each by itself, shows that
+# each includes what it uses. The tools' folders are much alike and use each name for the same: a folder is compiled as
+# one.
 function(compile_folders_as_one TARGET)
   get_target_property(sources ${TARGET} SOURCES)
   foreach(source ${sources})
@@ -30,7 +30,7 @@ function(compile_folders_as_one TARGET)
   set_target_properties(${TARGET} PROPERTIES UNITY_BUILD_MODE GROUP)
 endfunction()
 
-# What most files include of libraries, compiled once for each of the large targets by the presets asan and fuzz. What is
+# What most files include of libraries, compiled once for each of the large targets by the preset asan. What is
 # shipped is built without: GCC 12 takes headers that were compiled before for the program's own when it optimises, and
 # then warns of copies that the library does not make.
 set(common_headers <algorithm> <boost/shared_ptr.hpp> <chrono> <cstdint> <filesystem> <functional> <map> <memory>

@@ -1,10 +1,13 @@
 # Fuzzers: each .cpp file in fuzz/ is a program. They are linked from archives, so that each holds no more than it tries
 # and its counters say how far it came there. scripts/fuzz runs them.
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang)
-  message(FATAL_ERROR "Fuzzers are built with clang: use the preset fuzz")
+  message(FATAL_ERROR "Fuzzers are built with clang: use the preset asan")
 endif()
 add_library(fuzzed_code STATIC $<TARGET_OBJECTS:zenx_objects> $<TARGET_OBJECTS:hxahost_objects>)
 target_link_libraries(fuzzed_code PUBLIC host_interface plugin_manager platform_answers)
+if(ZENX_COVERAGE)
+  target_link_options(fuzzed_code PUBLIC --coverage)
+endif()
 
 sources_of(fuzz_support_sources fuzz/support)
 add_library(fuzz_support STATIC ${fuzz_support_sources})

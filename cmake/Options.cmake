@@ -21,5 +21,5 @@ endif()
 # The counters that fuzzers follow come with a runtime that programs without sanitizers lack: those that only run what is
 # kept, to count the lines that it reaches, go without.
 if(ZENX_FUZZERS AND ZENX_SANITIZE)
-  target_compile_options(compile_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_compile_options(compile_options INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZENX_ONLY_TESTS>>>:-fsanitize=fuzzer-no-link>)
 endif()

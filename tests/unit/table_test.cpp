@@ -102,7 +102,7 @@ TEST(Table, LeavesOutColumnsFromTheRightWhenTheyCannotBeNarrowedAndSaysSo) {
 }
 
 TEST(Table, IsNeverWiderThanTheView) {
-  for (const std::size_t least : {0, 1, 8, 50}) {
+  for (const std::size_t least : {0U, 1U, 8U, 50U}) {
     std::vector<TableColumn> columns;
     std::vector<std::string> row;
     for (int index = 0; index < 20; ++index) {

@@ -19,7 +19,7 @@ constexpr const char* kBroken = "/proc/self/mem";
 
 TEST(WholeFile, IsWhatTheFileHas) {
   const TemporaryFolder folder;
-  for (const std::size_t size : {0, 1, 4095, 4096, 4097, 10000}) {
+  for (const std::size_t size : {0U, 1U, 4095U, 4096U, 4097U, 10000U}) {
     const std::string written(size, 'x');
     folder.Write("file", written);
     std::string text = "before ";
