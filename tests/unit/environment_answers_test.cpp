@@ -2,24 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "host/hxahost/system.h"
+#include "tests/support/variable_setting.h"
 
 namespace environment_answers_test {
 namespace {
-
-// A variable with another value while it lives.
-class Variable {
- public:
-  Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
-    hxahost::PutVariable(name_, value);
-  }
-  ~Variable() { hxahost::PutVariable(name_, std::nullopt); }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-
- private:
-  const char* name_;
-};
 
 TEST(EnvironmentAnswers, ReadTheVersion) {
   struct Case {
@@ -36,7 +22,7 @@ TEST(EnvironmentAnswers, ReadTheVersion) {
       {"x",      true,  0,  0},
   };
   for (const Case& each : cases) {
-    const Variable variable(kOsVersionVariable, each.text);
+    const VariableSetting variable(kOsVersionVariable, each.text);
     const OsVersion version = OsVersionFromEnvironment();
     EXPECT_EQ(version.isWindowsNt, each.isWindowsNt) << each.text;
     EXPECT_EQ(version.major, each.major) << each.text;
@@ -46,7 +32,7 @@ TEST(EnvironmentAnswers, ReadTheVersion) {
 }
 
 TEST(EnvironmentAnswers, HaveTheLogsFolderAloneAndOnlyWhereItFits) {
-  const Variable variable(kRaidLogDirVariable, "12345");
+  const VariableSetting variable(kRaidLogDirVariable, "12345");
   EXPECT_EQ(RegistryTextFromEnvironment("LogDir", 6), "12345");
   EXPECT_EQ(RegistryTextFromEnvironment("LogDir", 5), std::nullopt);
   EXPECT_EQ(RegistryTextFromEnvironment("Other", 6), std::nullopt);
@@ -54,9 +40,9 @@ TEST(EnvironmentAnswers, HaveTheLogsFolderAloneAndOnlyWhereItFits) {
 
 TEST(EnvironmentAnswers, AreAskedForOnlyWhereTheVariableSaysSo) {
   EXPECT_FALSE(AsksEnvironment());
-  const Variable other(kPlatformVariable, "yes");
+  const VariableSetting other(kPlatformVariable, "yes");
   EXPECT_FALSE(AsksEnvironment());
-  const Variable variable(kPlatformVariable, "environment");
+  const VariableSetting variable(kPlatformVariable, "environment");
   EXPECT_TRUE(AsksEnvironment());
 }
 
