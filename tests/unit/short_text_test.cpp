@@ -40,8 +40,8 @@ TEST(ShortText, IsPutIntoAnEmptyFieldWhereverItStands) {
 
 TEST(ShortText, TakesThePlaceOfWhatAFieldHeld) {
   const BareText text(kText);
-  for (const std::size_t held : {1, 15, 16, 100}) {
-    for (const std::size_t size : {0, 1, 14, 15, 16, 30}) {
+  for (const std::size_t held : {1U, 15U, 16U, 100U}) {
+    for (const std::size_t size : {0U, 1U, 14U, 15U, 16U, 30U}) {
       std::string field(held, 'x');
       Keep(field, text.Piece(0, size), text.End());
       ASSERT_EQ(field, kText.substr(0, size)) << held << " " << size;
