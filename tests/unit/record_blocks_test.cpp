@@ -1,12 +1,12 @@
 #include "collect/record_blocks.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "tests/support/recording_log.h"
 

@@ -1,10 +1,10 @@
 #include "collect/short_text.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace short_text_test {
 namespace {
