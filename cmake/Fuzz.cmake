@@ -1,5 +1,5 @@
-# Fuzzers: each .cpp file in fuzz/ is a program. They are linked from archives, so that each holds no more than it tries
-# and its counters say how far it came there. scripts/fuzz runs them.
+# Fuzzers: each .cpp file in fuzz/ is a program. They are linked from archives, so that each holds little more than it
+# tries and its counters say how far it came there. scripts/fuzz runs them.
 if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang)
   message(FATAL_ERROR "Fuzzers are built with clang: use the preset asan")
 endif()
