@@ -30,9 +30,9 @@ function(compile_folders_as_one TARGET)
   set_target_properties(${TARGET} PROPERTIES UNITY_BUILD_MODE GROUP)
 endfunction()
 
-# What most files include of libraries, compiled once for each of the large targets by the preset asan. What is
-# shipped is built without: GCC 12 takes headers that were compiled before for the program's own when it optimises, and
-# then warns of copies that the library does not make.
+# What most files include of libraries, compiled once for each of the large targets by the preset asan. What is shipped is
+# built without: GCC 12 takes headers that were compiled before for the program's own when it optimises, and then warns of
+# copies that the library does not make.
 set(common_headers <algorithm> <boost/shared_ptr.hpp> <chrono> <cstdint> <filesystem> <functional> <map> <memory>
                    <optional> <ostream> <set> <span> <sstream> <stdexcept> <string> <string_view> <utility> <variant>
                    <vector>)
