@@ -48,15 +48,15 @@ std::string Joined(std::string_view text, std::string_view separator, std::strin
 }
 
 int LeadingNumber(std::string_view text) {
-  while (!text.empty() && IsWhiteSpace(text.front())) text.remove_prefix(1);
-  const bool isNegative = text.starts_with('-');
-  if (isNegative || text.starts_with('+')) text.remove_prefix(1);
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  while (at != end && IsWhiteSpace(*at)) ++at;
+  const bool isNegative = at != end && *at == '-';
+  if (at != end && (*at == '-' || *at == '+')) ++at;
   // atoi leaves open what a number past its range gives, and platforms differ; this keeps to the nearest one.
   constexpr long long kLowest = std::numeric_limits<int>::min();
   constexpr long long kHighest = std::numeric_limits<int>::max();
   long long number = 0;
-  for (; BeginsWithDigit(text); text.remove_prefix(1)) {
-    number = std::min(number * 10 + (text.front() - '0'), kHighest + 1);
-  }
+  for (; at != end && *at >= '0' && *at <= '9'; ++at) number = std::min(number * 10 + (*at - '0'), kHighest + 1);
   return static_cast<int>(std::clamp(isNegative ? -number : number, kLowest, kHighest));
 }

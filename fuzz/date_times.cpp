@@ -31,13 +31,18 @@ void TryCimText(const std::string& text) {
   hxahost::ReadableTime(text);
 }
 
+std::string_view FirstField(const std::string& line) {
+  using namespace std::string_view_literals;
+  return std::string_view(line).substr(0, line.find_first_of("\t\0"sv));
+}
+
 void TryLogLine(const std::string& line) {
-  const auto time = ReadEventTime(line);
-  const auto again = ReadEventTime(line);
+  const auto fields = SplitFields(line);
+  const auto time = ReadEventTime(line, fields.front());
+  const auto again = ReadEventTime(line, fields.front());
   Require(time.has_value() == again.has_value(), "the same line gives the same time");
   if (time) Require(time->ToString() == again->ToString(), "the same line gives the same time", line);
-  const auto fields = SplitFields(line);
-  Require(fields.front() == FirstField(line), "the first field is the first");
+  Require(fields.front() == FirstField(line), "the first field ends where a tab or a NUL stands first");
   std::size_t length = fields.size() - 1;
   for (const std::string_view field : fields) {
     Require(field.find('\t') == field.npos && field.find('\0') == field.npos, "a tab ends a field", field);

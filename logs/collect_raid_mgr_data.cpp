@@ -45,12 +45,12 @@ RaidMgrRead CollectRaidMgrData::ReadNextRecord() {
   }
   const std::string& line = file_.ReadLine(kLongestLine);
   if (line.empty()) return RaidMgrRead::kEnd;
-  const auto time = ReadEventTime(line);
+  const auto [when, severity, machineName, message] = SplitFields(line);
+  const auto time = ReadEventTime(line, when);
   if (!time) {
     Log(host_, kLogProblem, "In RaidEvtA.log file, there has invalid line for zentraxis log, please check it.");
     return RaidMgrRead::kOtherLine;
   }
-  const auto [when, severity, machineName, message] = SplitFields(line);
   record_.MessageTimestamp = *time;
   record_.Severity = CollectedData::TrimRight(severity);
   record_.MachineName = machineName;

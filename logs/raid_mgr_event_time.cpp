@@ -5,7 +5,6 @@
 #include <iterator>
 
 #include "collect/tool_text.h"
-#include "logs/raid_mgr_fields.h"
 #include "logs/raid_mgr_zones.h"
 
 using NKVRHXA20::TCIMDateTime;
@@ -124,9 +123,9 @@ unsigned MonthNumber(std::string_view word) {
   return found == std::end(kMonths) ? 0 : found->number;
 }
 
-std::optional<TCIMDateTime> ReadEventTime(std::string_view line) {
+std::optional<TCIMDateTime> ReadEventTime(std::string_view line, std::string_view firstField) {
   EventTime time;
-  std::string_view rest = FirstField(line);
+  std::string_view rest = firstField;
   if (IsDigit(FirstOf(line))) {
     const bool yearFirst = line.size() > 4 && line[4] == '/';
     yearFirst ? TakeYearFirst(time, rest) : TakeDayFirst(time, rest);

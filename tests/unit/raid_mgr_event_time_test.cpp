@@ -5,6 +5,8 @@
 #include <span>
 #include <string>
 
+#include "logs/raid_mgr_fields.h"
+
 namespace raid_mgr_event_time_test {
 namespace {
 
@@ -49,6 +51,8 @@ TEST(RaidMgrMonths, CutShortOrInOtherCaseGiveNoMonth) {
   }
 }
 
+auto TimeOf(std::string_view line) { return ReadEventTime(line, SplitFields(line).front()); }
+
 struct Case {
   const char* name;
   std::string_view line;
@@ -57,7 +61,7 @@ struct Case {
 
 void ExpectTimes(std::span<const Case> cases) {
   for (const Case& one : cases) {
-    const auto time = ReadEventTime(one.line);
+    const auto time = TimeOf(one.line);
     ASSERT_TRUE(time.has_value()) << one.name;
     EXPECT_EQ(time->ToString(), one.time) << one.name << ": " << one.line;
   }
@@ -128,7 +132,7 @@ TEST(RaidMgrEventTime, WhatIsMissingCountsAsZero) {
 
 TEST(RaidMgrEventTime, ANulEndsTheTimeLikeATab) {
   using namespace std::string_view_literals;
-  const auto time = ReadEventTime("2007/03/05 11:\0002:03 PST"sv);
+  const auto time = TimeOf("2007/03/05 11:\0002:03 PST"sv);
   ASSERT_TRUE(time.has_value());
   EXPECT_EQ(time->ToString(), "20070305110000.000000+000");
 }
@@ -137,7 +141,7 @@ TEST(RaidMgrEventTime, ALineThatBeginsWithNeitherDigitNorLetterHasNone) {
   using namespace std::string_view_literals;
   for (const std::string_view line : {""sv, "\n"sv, "\t\t\t\n"sv, " Mar 5, 2007"sv, "-5 March 2007"sv, "\0Mar"sv,
                                       "\xc4pril"sv, "[x]"sv, "@"sv, "`"sv, "{"sv}) {
-    EXPECT_FALSE(ReadEventTime(line).has_value()) << line;
+    EXPECT_FALSE(TimeOf(line).has_value()) << line;
   }
 }
 
@@ -145,7 +149,7 @@ TEST(RaidMgrEventTime, AnyLineCutAnywhereIsRead) {
   for (const std::string_view line :
        {"Mar 5, 2007 11:02:03 PM EST", "5 March 2007 23:02:03 EST", "2007/03/05 1:2:3 PST"}) {
     for (std::size_t length = 1; length <= line.size(); ++length) {
-      EXPECT_TRUE(ReadEventTime(line.substr(0, length)).has_value()) << line.substr(0, length);
+      EXPECT_TRUE(TimeOf(line.substr(0, length)).has_value()) << line.substr(0, length);
     }
   }
 }
