@@ -79,7 +79,7 @@ Job ParseJob(ParsingScript script) {
     return script->Answer(arguments);
   };
   // Rows of tables bear the time of the host's clock, which is no part of parsing.
-  services.localTime = [] { return TCIMDateTime(2006, 3, 14, 15, 9, 26, 0, 0); };
+  services.localTime = [now = TCIMDateTime(2006, 3, 14, 15, 9, 26, 0, 0)] { return now; };
   SetServices(services);
   auto adapter = std::make_shared<Adapter>(TRootObject::GetCoreLogger());
   return {bytes, [adapter] {

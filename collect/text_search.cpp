@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace {
 
@@ -29,8 +30,16 @@ std::size_t FindInReport(std::string_view report, std::string_view label, std::s
   if (label.empty()) return report.find(label, from);
   const auto rarest = std::ranges::max_element(label, IsMoreFrequent);
   const auto before = static_cast<std::size_t>(rarest - label.begin());
-  for (std::size_t at = report.find(*rarest, from + before); at != report.npos; at = report.find(*rarest, at + 1)) {
-    if (report[at - before] == label.front() && report.substr(at - before).starts_with(label)) return at - before;
+  if (from > report.size() || report.size() - from < label.size()) return report.npos;
+  // Where the rarest character may stand so that the label has room in front of it and behind it.
+  const char* at = report.data() + from + before;
+  const char* const end = report.data() + report.size() - label.size() + before + 1;
+  const char first = label.front();
+  for (; (at = std::char_traits<char>::find(at, static_cast<std::size_t>(end - at), *rarest)) != nullptr; ++at) {
+    const char* const begin = at - before;
+    if (*begin == first && AreSame(begin, label.data(), label.size())) {
+      return static_cast<std::size_t>(begin - report.data());
+    }
   }
   return report.npos;
 }

@@ -9,8 +9,7 @@
 // first bar belongs to none. The row's text must outlive it.
 class TableRow {
  public:
-  explicit TableRow(std::string_view line)
-      : bar_(std::find(line.data(), line.data() + line.size(), '|')), end_(line.data() + line.size()) {}
+  explicit TableRow(std::string_view line) : end_(line.data() + line.size()), bar_(NextBar(line.data())) {}
 
   // What stands between the column's bar and the next one, but for the character before that (a blank, as it is
   // printed); leading blanks, tabs and line feeds dropped, except that a column of blanks keeps one. "" where one of
@@ -20,7 +19,7 @@ class TableRow {
     if (bar_ == end_) return {};
     const char* const bar = bar_;
     const char* const text = SkipBlanks(bar + 1, end_);
-    for (bar_ = text; bar_ != end_ && *bar_ != '|';) ++bar_;
+    bar_ = NextBar(text);
     if (bar_ == end_) return {};
     return text < bar_ - 1 ? std::string_view(text, bar_ - 1) : Trimmed(bar, text, bar_ - 1);
   }
@@ -33,12 +32,18 @@ class TableRow {
   }
 
  private:
+  // The next bar from there on, which is near; the end where there is none.
+  const char* NextBar(const char* at) const {
+    while (at != end_ && *at != '|') ++at;
+    return at;
+  }
+
   // What stands behind the bar, up to an end; of blanks the last one. The text is the first that is no blank.
   static std::string_view Trimmed(const char* bar, const char* text, const char* end) {
     if (end <= bar + 1) return {};
     return {std::min(text, end - 1), end};
   }
 
-  const char* bar_;  // before the next column; the end where there is none
   const char* const end_;
+  const char* bar_;  // before the next column; the end where there is none
 };

@@ -1,6 +1,7 @@
 #include "tools/qcmdrun/log_walk.h"
 
 #include "collect/collected_data.h"
+#include "collect/label_ahead.h"
 #include "collect/record_blocks.h"
 #include "collect/records.h"
 #include "collect/tool_answers.h"
@@ -14,18 +15,8 @@ namespace qcmdrun {
 
 namespace {
 
-bool IsRule(std::string_view line) { return line.find('-') != line.npos; }
-
-// Few lines of a table have a "y": one search rules out all others.
-static_assert(kCommandCompleted.find('y') != kCommandCompleted.npos);
-bool EndsAnswer(std::string_view line) { return line.find('y') != line.npos && Contains(line, kCommandCompleted); }
-
-// The next controller's heading ends the table where the utility prints several. Rows as printed have no "C", which
-// both ends begin with: one search rules them out.
-static_assert(kCommandCompleted.find('C') != kCommandCompleted.npos);
-bool EndsDeviceEvents(std::string_view line) {
-  return line.find('C') != line.npos && (Contains(line, kCommandCompleted) || Contains(line, "Controller "));
-}
+// A line with it is none of a table's rows.
+constexpr std::string_view kRule = "-";
 
 }  // namespace
 
@@ -48,8 +39,13 @@ void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
   constexpr int kLinesToFirstRow = 3;
   for (int line = 0; line < kLinesToFirstRow; ++line) text.NextLine();
   RecordBlocks<ZenxEventData> rows(controller.Host);
-  for (; !EndsDeviceEvents(text.CurrentLine()); text.NextLine()) {
-    if (IsRule(text.CurrentLine())) continue;
+  LabelAhead end(text, kCommandCompleted);
+  LabelAhead nextController(text, "Controller ");  // the utility may print several tables
+  LabelAhead rule(text, kRule);
+  for (;; text.NextLine()) {
+    const std::string_view line = text.CurrentLine();
+    if (end.IsOn(line) || nextController.IsOn(line)) return;
+    if (rule.IsOn(line)) continue;
     auto record = rows.Make();
     ParseDeviceEvent(*record, text, controller.ControllerNum);
     controller.DeviceEvents.push_back(std::move(record));
@@ -61,7 +57,7 @@ void AttachDddEvents(ZenxController& controller, CollectedData& text) {
   std::uint32_t entryNumber = 1;
   try {
     for (text.NextLine(); !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
-      if (IsRule(text.CurrentLine())) continue;
+      if (Contains(text.CurrentLine(), kRule)) continue;
       auto record = std::make_shared<ZenxEventDddData>(controller.Host);
       ParseDddRow(*record, text, controller.ControllerNum, entryNumber);
       controller.DddEvents.push_back(std::move(record));
@@ -89,7 +85,7 @@ void SetHardEvents(ZenxController& controller, CollectedData& text) {
 void AttachSubStats(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("A:").empty()) return;
   RecordBlocks<ZenxSubStatData> lines(controller.Host);
-  for (; !EndsAnswer(text.CurrentLine()); text.NextLine()) {
+  for (LabelAhead end(text, kCommandCompleted); !end.IsOn(text.CurrentLine()); text.NextLine()) {
     auto record = lines.Make();
     ParseSubStat(*record, text, controller.ControllerNum);
     controller.SubStats.push_back(std::move(record));
