@@ -39,6 +39,13 @@ void CollectedData::JumpTo(const char* position) {
   end_ = Find(position, linesEnd_, '\n') + 1;
 }
 
+bool CollectedData::FindLabel(std::string_view line, std::string_view label) {
+  const std::size_t found = FindInLine(line, label);
+  if (found == line.npos) return false;
+  labelColumn_ = found;
+  return true;
+}
+
 std::string_view CollectedData::FindLine(std::string_view label) {
   // No line contains a label that goes on behind a line feed.
   const bool fitsALine = label.find('\n') >= label.size() - 1;

@@ -32,6 +32,13 @@ class CollectedData {
     Advance();
     return CurrentLine();
   }
+  // To the next line, which need not be there as long as nobody reads it.
+  void Advance() {
+    previous_ = begin_;
+    begin_ = end_;
+    if (outside_ != 0 || end_ == linesEnd_) return AdvanceOutside();
+    end_ = Find(begin_, linesEnd_, '\n') + 1;
+  }
   void StepBack();
 
   // All of it, with what follows the last line feed.
@@ -87,21 +94,11 @@ class CollectedData {
 
   // Tools indent the labels of a section alike, so most stand where the one before them did.
   bool IsLabelled(std::string_view line, std::string_view label) {
-    if (labelColumn_ + label.size() <= line.size() && AreSame(line.data() + labelColumn_, label.data(), label.size())) {
-      return true;
-    }
-    const std::size_t found = FindInLine(line, label);
-    if (found == line.npos) return false;
-    labelColumn_ = found;
-    return true;
+    const bool hasRoom = labelColumn_ + label.size() <= line.size();
+    return (hasRoom && AreSame(line.data() + labelColumn_, label.data(), label.size())) || FindLabel(line, label);
   }
+  bool FindLabel(std::string_view line, std::string_view label);
 
-  void Advance() {
-    previous_ = begin_;
-    begin_ = end_;
-    if (outside_ != 0 || end_ == linesEnd_) return AdvanceOutside();
-    end_ = Find(begin_, linesEnd_, '\n') + 1;
-  }
   void AdvanceOutside();
   void JumpTo(const char* position);
   [[noreturn]] static void ThrowNoLine();

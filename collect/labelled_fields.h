@@ -1,12 +1,14 @@
 #pragma once
 
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
 #include "collect/collected_data.h"
-#include "collect/short_text.h"
+#include "collect/each_index.h"
+#include "collect/field_text.h"
 
 // What a label that is not on its line costs.
 enum class Miss {
@@ -18,7 +20,7 @@ enum class Miss {
 template <class Record>
 struct LabelledField {
   std::string_view label;
-  std::string Record::*field;
+  FieldText Record::*field;
   Miss miss = Miss::kCostsNothing;
 };
 
@@ -26,14 +28,16 @@ template <class Record>
 using LabelTable = std::span<const LabelledField<std::type_identity_t<Record>>>;
 
 // Reads the lines that follow, one label a line, in the table's order. A label out of order is not found.
-template <class Record>
-void ReadInOrder(CollectedData& text, Record& record, LabelTable<Record> table) {
+template <const auto& kTable, class Record>
+void ReadInOrder(CollectedData& text, Record& record) {
   bool isUsed = true;  // the current line, so that the next label is looked for on the one behind it
-  for (const auto& [label, field, miss] : table) {
-    const std::string_view value = isUsed ? text.NextLineValueIf(label) : text.ValueIf(label);
-    Keep(record.*field, value, text.EndOfLines());
-    isUsed = !value.empty() || miss == Miss::kTakesLine;
-  }
+  ForEachIndex<std::size(kTable)>([&](auto index) {
+    constexpr const auto& kRow = kTable[index];
+    if (isUsed) text.Advance();
+    const std::string_view value = text.ValueIf(kRow.label);
+    record.*kRow.field = value;
+    isUsed = !value.empty() || kRow.miss == Miss::kTakesLine;
+  });
   if (!isUsed) text.StepBack();
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "collect/field_text.h"
 #include "collect/host_handle.h"
 
 // What the tools said, word for word. Fields are named like the property that they feed, or like the tool's label
@@ -23,28 +24,28 @@ struct ZenxLogicalDevice {
   virtual ~ZenxLogicalDevice() = default;
 
   HostHandle Host;
-  std::string ControllerNum;
-  std::string LogicalDriveNum;
-  std::string LogicalDriveName;
-  std::string LogicalDriveStatus;
-  std::string RaidLevel;
-  std::string Size;
-  std::string StripeUnitSize;
-  std::string StripeOrder;
-  std::string AccessBlocked;
-  std::string NumOfChunks;
-  std::string NumOfSegments;
-  std::string PartOfArray;
-  std::string PartOfMergeGroup;
-  std::string WriteCacheStatus;
-  std::string WriteCacheSetting;
-  std::string ReadCacheStatus;
-  std::string Partitioned;
-  std::string DriveList;
-  std::string DefunctSegments;
-  std::string AdditionalInformation;
-  std::string Raid5EEStatus;
-  std::string DefunctStripes;
+  FieldText ControllerNum;
+  FieldText LogicalDriveNum;
+  FieldText LogicalDriveName;
+  FieldText LogicalDriveStatus;
+  FieldText RaidLevel;
+  FieldText Size;
+  FieldText StripeUnitSize;
+  FieldText StripeOrder;
+  FieldText AccessBlocked;
+  FieldText NumOfChunks;
+  FieldText NumOfSegments;
+  FieldText PartOfArray;
+  FieldText PartOfMergeGroup;
+  FieldText WriteCacheStatus;
+  FieldText WriteCacheSetting;
+  FieldText ReadCacheStatus;
+  FieldText Partitioned;
+  FieldText DriveList;
+  FieldText DefunctSegments;
+  FieldText AdditionalInformation;
+  FieldText Raid5EEStatus;
+  FieldText DefunctStripes;
   std::vector<std::string> Members;  // no tool prints them in a form of their own; stays empty
 };
 
@@ -54,32 +55,32 @@ struct ZenxPhysicalDevice {
   virtual ~ZenxPhysicalDevice() = default;
 
   HostHandle Host;
-  std::string ControllerNum;
-  std::string Channel;
-  std::string ScsiId;
-  std::string DeviceNumber;
-  std::string DeviceType;
-  std::string Type;
-  std::string State;
-  std::string DeviceCode;
-  std::string DeviceSerialNum;
-  std::string Firmware;
-  std::string Vendor;
-  std::string Model;
-  std::string Size;
-  std::string TransferSpeed;
-  std::string ReportedChannel;
-  std::string WorldWideName;
-  std::string WriteCache;
-  std::string Enclosure;
-  std::string EnclosureId;
-  std::string ReportedESD;
-  std::string ReportedLocation;
-  std::string Supported;
-  std::string PFA;
-  std::string FRU;
-  std::string Temperature;
-  std::string DeviceIdSuffix;  // ends the identifier that the drive is published under
+  FieldText ControllerNum;
+  FieldText Channel;
+  FieldText ScsiId;
+  FieldText DeviceNumber;
+  FieldText DeviceType;
+  FieldText Type;
+  FieldText State;
+  FieldText DeviceCode;
+  FieldText DeviceSerialNum;
+  FieldText Firmware;
+  FieldText Vendor;
+  FieldText Model;
+  FieldText Size;
+  FieldText TransferSpeed;
+  FieldText ReportedChannel;
+  FieldText WorldWideName;
+  FieldText WriteCache;
+  FieldText Enclosure;
+  FieldText EnclosureId;
+  FieldText ReportedESD;
+  FieldText ReportedLocation;
+  FieldText Supported;
+  FieldText PFA;
+  FieldText FRU;
+  FieldText Temperature;
+  FieldText DeviceIdSuffix;  // ends the identifier that the drive is published under
 };
 
 // The devices behind one logical drive or array, in the order in which stripes are laid out.
@@ -89,10 +90,10 @@ struct ArrayStripeOrder {
 
   HostHandle Host;
   std::vector<std::string> Members;  // stays empty: the list is kept as one text
-  std::string ControllerNum;
-  std::string CollectionID;
-  std::string Array;
-  std::string StripeOrder;
+  FieldText ControllerNum;
+  FieldText CollectionID;
+  FieldText Array;
+  FieldText StripeOrder;
 };
 
 // The raw text of one command.
@@ -103,7 +104,7 @@ struct ZenxRawData {
               std::string_view output);
   virtual ~ZenxRawData() = default;
 
-  std::string Command;
+  FieldText Command;
   std::vector<std::string> RawResults;
 };
 
@@ -113,9 +114,9 @@ struct ZenxHrConfBios {
   virtual ~ZenxHrConfBios() = default;
 
   HostHandle Host;
-  std::string ControllerNum;
-  std::string BIOS;
-  std::string Driver;
+  FieldText ControllerNum;
+  FieldText BIOS;
+  FieldText Driver;
 };
 
 // One controller and all that hangs on it.
@@ -125,60 +126,60 @@ struct ZenxController {
 
   HostHandle Host;
 
-  std::string ControllerNum;
-  std::string DeviceID;
-  std::string OtherIdentifyingInfo;
-  std::string ControllerName;
-  std::string ControllerType;
-  std::string SerialNum;
-  std::string PartNum;
-  std::string ControllerSlotInfo;
-  std::string ControllerFRU;
-  std::string VPD;
+  FieldText ControllerNum;
+  FieldText DeviceID;
+  FieldText OtherIdentifyingInfo;
+  FieldText ControllerName;
+  FieldText ControllerType;
+  FieldText SerialNum;
+  FieldText PartNum;
+  FieldText ControllerSlotInfo;
+  FieldText ControllerFRU;
+  FieldText VPD;
 
-  std::string ControllerStatus;
-  std::string ChannelDescription;
-  std::string ScsiChannelDescr;
-  std::string InitiatorChannelScsiId;
-  std::string InstalledMemory;
-  std::string MaxPhysicalDevices;
-  std::string DefunctDiskDriveCnt;
-  std::string LogicalDriveStatusCnt;
-  std::string ReadAhead;
-  std::string StripeUnitSize;
-  std::string RebuildRate;
-  std::string HotSwapRebuild;
-  std::string DataScrubbing;
-  std::string HotSpareCopyBack;
-  std::string CopyBackEnabled;
-  std::string PartOfCluster;
-  std::string UnattendedMode;
-  std::string ConcurrentCommandsSupported;
-  std::string ConfigurationUpdateCount;
-  std::string ClusterSolutionVersion;
+  FieldText ControllerStatus;
+  FieldText ChannelDescription;
+  FieldText ScsiChannelDescr;
+  FieldText InitiatorChannelScsiId;
+  FieldText InstalledMemory;
+  FieldText MaxPhysicalDevices;
+  FieldText DefunctDiskDriveCnt;
+  FieldText LogicalDriveStatusCnt;
+  FieldText ReadAhead;
+  FieldText StripeUnitSize;
+  FieldText RebuildRate;
+  FieldText HotSwapRebuild;
+  FieldText DataScrubbing;
+  FieldText HotSpareCopyBack;
+  FieldText CopyBackEnabled;
+  FieldText PartOfCluster;
+  FieldText UnattendedMode;
+  FieldText ConcurrentCommandsSupported;
+  FieldText ConfigurationUpdateCount;
+  FieldText ClusterSolutionVersion;
 
-  std::string Current_MostRecentOperation;
-  std::string Logical_Drive;
-  std::string BackgroundOperationActive;
-  std::string LastCmdStatus;
-  std::string LogicalDriveSizeInStripes;
-  std::string NumberOfRemainingStripes;
+  FieldText Current_MostRecentOperation;
+  FieldText Logical_Drive;
+  FieldText BackgroundOperationActive;
+  FieldText LastCmdStatus;
+  FieldText LogicalDriveSizeInStripes;
+  FieldText NumberOfRemainingStripes;
 
-  std::string ECVersion;
-  std::string ControllerTemp;
-  std::string ControllerBatteryStatus;
-  std::string ControllerBatteryOverTemp;
-  std::string ControllerBatteryCapacity;
-  std::string ControllerBatteryFRU;
-  std::string BatteryTimeRemaining;
+  FieldText ECVersion;
+  FieldText ControllerTemp;
+  FieldText ControllerBatteryStatus;
+  FieldText ControllerBatteryOverTemp;
+  FieldText ControllerBatteryCapacity;
+  FieldText ControllerBatteryFRU;
+  FieldText BatteryTimeRemaining;
 
-  std::string DeviceDriverVersion;
-  std::string FirmwareVersion;
-  std::string BootBlockVersion;
-  std::string BiosVersion;
+  FieldText DeviceDriverVersion;
+  FieldText FirmwareVersion;
+  FieldText BootBlockVersion;
+  FieldText BiosVersion;
 
-  bool Parsed = false;       // set by the parser once the controller's section was found and read
-  std::string SlotDeviceId;  // the operating system's name of the device in the controller's slot
+  bool Parsed = false;     // set by the parser once the controller's section was found and read
+  FieldText SlotDeviceId;  // the operating system's name of the device in the controller's slot
 
   std::vector<std::string> Lines;  // for an adapter that keeps lines of the section; none does
   std::vector<std::shared_ptr<ZenxLogicalDevice>> LogicalDevices;

@@ -2,7 +2,7 @@
 
 #include "collect/tool_text.h"
 
-bool ContinueList(CollectedData& text, std::string& list) {
+bool ContinueList(CollectedData& text, FieldText& list) {
   const std::string_view line = CollectedData::TrimLeft(text.NextLine());
   if (!BeginsWithDigit(line)) {
     text.StepBack();

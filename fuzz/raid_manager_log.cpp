@@ -41,8 +41,9 @@ std::vector<std::string> ReadAll(std::string_view text) {
     Require(reads <= text.size(), "each read but the last goes on");
     const RaidMgrEvent& event = log.CurrentRecord();
     if (read == RaidMgrRead::kOtherLine) continue;
-    Require(event.RecordID == std::to_string(counter - 1), "a record has the number of its read", event.RecordID);
-    for (const std::string& field : {event.Severity, event.MachineName, event.Message}) RequirePart(text, field);
+    Require(event.RecordID == std::to_string(counter - 1), "a record has the number of its read",
+            std::string(event.RecordID));
+    for (const FieldText& field : {event.Severity, event.MachineName, event.Message}) RequirePart(text, field);
     records.push_back(event.MessageTimestamp.ToString() + event.Severity + event.MachineName + event.Message);
   }
   return records;

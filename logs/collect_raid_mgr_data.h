@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "collect/field_text.h"
 #include "collect/records.h"
 #include "logs/text_file.h"
 #include "platform/os_version.h"
@@ -9,11 +10,11 @@
 
 // One event of the RAID management application's log. Fields are named like the property that they feed.
 struct RaidMgrEvent {
-  std::string RecordID;
+  FieldText RecordID;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
-  std::string Severity;
-  std::string MachineName;
-  std::string Message;  // with the line feed of its line
+  FieldText Severity;
+  FieldText MachineName;
+  FieldText Message;  // with the line feed of its line
 };
 
 // What a read of the log found.

@@ -17,18 +17,18 @@ using NKVRHXA20::TCIMDateTime;
 namespace {
 
 // "| 03/15/2005 | 14:02:33 | 1 | 3 | 04 | Drive did not answer"; the text comes last.
-constexpr std::string ZenxEventDddData::*kDddColumns[] = {
+constexpr FieldText ZenxEventDddData::*kDddColumns[] = {
     &ZenxEventDddData::Date, &ZenxEventDddData::Time,   &ZenxEventDddData::Channel,
     &ZenxEventDddData::ID,   &ZenxEventDddData::Reason,
 };
 
 // The characters that the text has of the piece.
-std::string Piece(const std::string& text, std::size_t offset, std::size_t length) {
-  return text.substr(std::min(offset, text.size()), length);
+std::string Piece(std::string_view text, std::size_t offset, std::size_t length) {
+  return std::string(text.substr(std::min(offset, text.size()), length));
 }
 
 // "03/15/2005" and "14:02:33" to "20050315140233.000000+000".
-std::string TimestampText(const std::string& date, const std::string& time) {
+std::string TimestampText(std::string_view date, std::string_view time) {
   const std::string day = Piece(date, 6, 4) + Piece(date, 0, 2) + Piece(date, 3, 2);
   return day + Piece(time, 0, 2) + Piece(time, 3, 2) + Piece(time, 6, 2) + ".000000+000";
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "collect/field_text.h"
 #include "collect/host_handle.h"
 #include "plugin/host_interface/date_time.h"
 
@@ -15,14 +16,14 @@ struct ZenxEventDddData {
   virtual ~ZenxEventDddData() = default;
 
   HostHandle Host;
-  std::string Controller;
-  std::string Date;
-  std::string Time;
-  std::string Channel;
-  std::string ID;
-  std::string Reason;
-  std::string Descrip;
-  std::string RecordID;
+  FieldText Controller;
+  FieldText Date;
+  FieldText Time;
+  FieldText Channel;
+  FieldText ID;
+  FieldText Reason;
+  FieldText Descrip;
+  FieldText RecordID;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
 };
 
@@ -32,9 +33,9 @@ struct ZenxEventSoftData {
   virtual ~ZenxEventSoftData() = default;
 
   HostHandle Host;
-  std::string Controller;
-  std::string LogTitle;
-  std::string RecordID;
+  FieldText Controller;
+  FieldText LogTitle;
+  FieldText RecordID;
   std::vector<std::uint32_t> Codes;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
 };
@@ -45,9 +46,9 @@ struct ZenxEventHardData {
   virtual ~ZenxEventHardData() = default;
 
   HostHandle Host;
-  std::string Controller;
-  std::string LogTitle;
-  std::string RecordID;
+  FieldText Controller;
+  FieldText LogTitle;
+  FieldText RecordID;
   std::vector<std::uint32_t> Codes;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
 };

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <iterator>
 #include <string>
-#include <utility>
 
 #include "collect/collected_data.h"
-#include "collect/short_text.h"
+#include "collect/each_index.h"
 #include "collect/text_search.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_records.h"
@@ -26,18 +25,10 @@ std::string_view UpToCarriageReturn(std::string_view line, std::size_t begin) {
 
 std::string Normalised(std::string_view number) { return std::to_string(LeadingNumber(number)); }
 
-void KeepLong(std::string& field, std::string_view value) { field = value; }
-
-// Values of tables are short. What else there may be has a function of its own, which leaves the loops that read them
-// short, too.
-inline void KeepValue(std::string& field, std::string_view value, const char* textEnd) {
-  if (!KeptShort(field, value, textEnd)) KeepLong(field, value);
-}
-
 enum class TrailingBlanks { kKept, kDropped };
 
 struct Column {
-  std::string ZenxEventData::*field;
+  FieldText ZenxEventData::*field;
   TrailingBlanks trailingBlanks;
 };
 
@@ -57,7 +48,7 @@ enum class ValueEnd { kBlank, kLineEnd };
 
 struct Token {
   std::string_view text;
-  std::string ZenxSubStatData::*field;
+  FieldText ZenxSubStatData::*field;
   ValueEnd end;
 };
 
@@ -95,7 +86,6 @@ bool EndsValue(char character) { return character == ' ' || character == '\r' ||
 // A line that is read from left to right, and where the next token may stand.
 struct TokenLine {
   std::string_view text;
-  const char* textEnd;       // of the answer that the line is of
   std::size_t from = 0;      // behind the start of the token before it
   std::size_t expected = 0;  // where it stands as printed: one blank behind a value without a colon
 
@@ -119,12 +109,7 @@ void ReadToken(ZenxSubStatData& record, TokenLine& line) {
   line.from = end - kToken.text.size() + 1;
   const std::string_view value =
       kToken.end == ValueEnd::kBlank ? line.ValueUpToBlank(end) : UpToCarriageReturn(line.text, end);
-  KeepValue(record.*kToken.field, value, line.textEnd);
-}
-
-template <std::size_t... kIndexes>
-void ReadTokens(ZenxSubStatData& record, TokenLine line, std::index_sequence<kIndexes...>) {
-  (ReadToken<kIndexes>(record, line), ...);
+  record.*kToken.field = value;
 }
 
 }  // namespace
@@ -144,12 +129,11 @@ void ParseBadStripe(ZenxBstData& record, const CollectedData& text, std::string_
 void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::string_view controllerNumber) {
   record.ControllerNum = controllerNumber;
   TableRow row(text.CurrentLine());
-  for (const auto& [field, trailingBlanks] : kColumns) {
-    const std::string_view column = row.NextColumn();
-    const std::string_view kept =
-        trailingBlanks == TrailingBlanks::kDropped ? CollectedData::TrimRight(column) : column;
-    KeepValue(record.*field, kept, text.EndOfLines());
-  }
+  ForEachIndex<std::size(kColumns)>([&](auto index) {
+    constexpr Column kColumn = kColumns[index];
+    const std::string_view cut = row.NextColumn();
+    record.*kColumn.field = kColumn.trailingBlanks == TrailingBlanks::kKept ? cut : CollectedData::TrimRight(cut);
+  });
   record.StatisticTime = TOSSpecific::GetLocalTime();
 }
 
@@ -157,7 +141,8 @@ void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::str
 // no colon. Otherwise each is looked for behind the start of the one before it; a token that is not there costs
 // nothing.
 void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::string_view) {
-  ReadTokens(record, {text.CurrentLine(), text.EndOfLines()}, std::make_index_sequence<std::size(kTokens)>());
+  TokenLine line = {text.CurrentLine()};
+  ForEachIndex<std::size(kTokens)>([&](auto index) { ReadToken<index>(record, line); });
   record.InstanceID = "Zentraxis:";
   record.InstanceID.append(record.ControllerNum).append("C").append(record.Channel).append("S").append(record.ScsiId);
   record.StatisticTime = TOSSpecific::GetLocalTime();

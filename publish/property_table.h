@@ -7,6 +7,7 @@
 #include <type_traits>
 #include <variant>
 
+#include "collect/field_text.h"
 #include "plugin/host_interface/cim.h"
 #include "publish/trim.h"
 
@@ -14,7 +15,7 @@
 // function of none (the machine's name).
 template <class... Records>
 using PropertySource =
-    std::variant<const char*, unsigned short, std::string Records::*..., NKVRHXA20::TCIMDateTime Records::*...,
+    std::variant<const char*, unsigned short, FieldText Records::*..., NKVRHXA20::TCIMDateTime Records::*...,
                  std::string (*)(const Records&...), NKVRHXA20::TCIMValue (*)(const Records&...), std::string (*)()>;
 
 // One row of a table that describes a published class, in the order in which properties are set. The records are what
@@ -40,12 +41,8 @@ struct PropertyReader {
   NKVRHXA20::TCIMValue operator()(const char* text) const { return text; }
   NKVRHXA20::TCIMValue operator()(unsigned short number) const { return number; }
   template <class Record>
-  NKVRHXA20::TCIMValue operator()(std::string Record::*field) const {
-    const std::string& held = std::get<const Record&>(records).*field;
-    const std::string_view text = form(held);
-    // Most texts are published as they are held, and those are not copied on the way.
-    if (text.size() == held.size()) return held;
-    return std::string(text);
+  NKVRHXA20::TCIMValue operator()(FieldText Record::*field) const {
+    return std::string(form(std::get<const Record&>(records).*field));
   }
   template <class Record>
   NKVRHXA20::TCIMValue operator()(NKVRHXA20::TCIMDateTime Record::*field) const {

@@ -13,11 +13,11 @@ namespace {
 
 // One piece of software, as it is published.
 struct SoftwareVersion {
-  std::string Name;
-  std::string Version;
-  std::string BuildNumber;
-  std::string SoftwareElementID;
-  std::string Manufacturer;
+  FieldText Name;
+  FieldText Version;
+  FieldText BuildNumber;
+  FieldText SoftwareElementID;
+  FieldText Manufacturer;
 };
 
 constexpr unsigned short kStateRunning = 3;
@@ -51,7 +51,7 @@ constexpr DriveKind kDriveKinds[] = {
 
 // The text is published whole, with the build also by itself.
 void PublishControllerVersions(const PublishContext& context, ICIMClass& publishedClass,
-                               std::string ZenxController::*text, std::string (*name)(std::string_view)) {
+                               FieldText ZenxController::*text, std::string (*name)(std::string_view)) {
   for (const auto& controller : context.collector.GetControllers()) {
     const std::string_view version = Trimmed((*controller).*text);
     if (version.empty()) continue;

@@ -48,7 +48,7 @@ void RequireProvenance(const ControllerList& controllers, const std::string& pri
   Inspection inspection(printed, ownWords);
   std::set<std::string> numbers;
   for (const auto& controller : controllers) {
-    Require(numbers.insert(controller->ControllerNum).second, "no two controllers of a utility have one number");
+    Require(numbers.emplace(controller->ControllerNum).second, "no two controllers of a utility have one number");
     inspection.Inspect(*controller);
     for (const auto& drive : controller->LogicalDevices) inspection.Inspect(*drive);
     for (const auto& order : controller->StripeOrders) inspection.Inspect(*order);

@@ -1,5 +1,6 @@
 #include "fuzz/support/record_texts.h"
 
+#include <initializer_list>
 #include <string_view>
 
 #include "logs/event_records.h"
@@ -11,6 +12,10 @@ namespace {
 // With its length, so that no two lists of values give the same text.
 void Add(std::string& text, std::string_view value) {
   text.append(std::to_string(value.size())).append(":").append(value);
+}
+
+void AddEach(std::string& text, std::initializer_list<std::string_view> values) {
+  for (const std::string_view value : values) Add(text, value);
 }
 
 template <class Record>
@@ -26,37 +31,29 @@ void AddAll(std::string& text, const std::vector<std::shared_ptr<Record>>& recor
 
 void AddStatistics(std::string& text, const ZenxController& controller) {
   for (const auto& r : controller.BadStripes) {
-    for (const auto& value : {r->ControllerNum, r->LogicalDrive, r->NumBadStripes}) Add(text, value);
+    AddEach(text, {r->ControllerNum, r->LogicalDrive, r->NumBadStripes});
   }
   for (const auto& r : controller.DeviceEvents) {
-    for (const auto& value : {r->ControllerNum, r->Channel, r->ScsiId, r->NumParityErrors, r->NumSoftErrors,
-                              r->NumHardErrors, r->PFA, r->Misc, r->StatisticTime.ToString()}) {
-      Add(text, value);
-    }
+    AddEach(text, {r->ControllerNum, r->Channel, r->ScsiId, r->NumParityErrors, r->NumSoftErrors, r->NumHardErrors,
+                   r->PFA, r->Misc, r->StatisticTime.ToString()});
   }
   for (const auto& r : controller.SubStats) {
-    for (const auto& value : {r->ControllerNum, r->Channel, r->ScsiId, r->InstanceID, r->Params, r->Req_Off,
-                              r->Max_Txer_P, r->Cur_Txer_p, r->StatisticTime.ToString()}) {
-      Add(text, value);
-    }
+    AddEach(text, {r->ControllerNum, r->Channel, r->ScsiId, r->InstanceID, r->Params, r->Req_Off, r->Max_Txer_P,
+                   r->Cur_Txer_p, r->StatisticTime.ToString()});
   }
 }
 
 template <class Log>
 void AddCodes(std::string& text, const std::shared_ptr<Log>& log) {
   if (!log) return;
-  for (const auto& value : {log->Controller, log->LogTitle, log->RecordID, log->MessageTimestamp.ToString()}) {
-    Add(text, value);
-  }
+  AddEach(text, {log->Controller, log->LogTitle, log->RecordID, log->MessageTimestamp.ToString()});
   for (const std::uint32_t code : log->Codes) Add(text, std::to_string(code));
 }
 
 void AddEvents(std::string& text, const ZenxController& controller) {
   for (const auto& r : controller.DddEvents) {
-    for (const auto& value : {r->Controller, r->Date, r->Time, r->Channel, r->ID, r->Reason, r->Descrip, r->RecordID,
-                              r->MessageTimestamp.ToString()}) {
-      Add(text, value);
-    }
+    AddEach(text, {r->Controller, r->Date, r->Time, r->Channel, r->ID, r->Reason, r->Descrip, r->RecordID,
+                   r->MessageTimestamp.ToString()});
   }
   AddCodes(text, controller.SoftEvents);
   AddCodes(text, controller.HardEvents);
@@ -72,7 +69,7 @@ std::string TextOf(const ControllerList& controllers, const RawDataList& rawData
     AddAll(text, controller->PhysicalDevices);
     AddAll(text, controller->StripeOrders);
     for (const auto& versions : controller->HrConfVersions) {
-      for (const auto& value : {versions->ControllerNum, versions->BIOS, versions->Driver}) Add(text, value);
+      AddEach(text, {versions->ControllerNum, versions->BIOS, versions->Driver});
     }
     AddStatistics(text, *controller);
     AddEvents(text, *controller);

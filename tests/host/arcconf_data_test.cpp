@@ -292,7 +292,7 @@ TEST_F(ArcconfDataTest, WalksTheDevicesThatFollowEachOther) {
                     "Command completed successfully.\nDevice #9\n Device is a Hard drive\n"));
     std::string numbers;
     ASSERT_EQ(controllers_.size(), 1u) << name;
-    for (const auto& each : controllers_[0]->PhysicalDevices) numbers += each->DeviceNumber.substr(8, 1);
+    for (const auto& each : controllers_[0]->PhysicalDevices) numbers += std::string(each->DeviceNumber).at(8);
     EXPECT_EQ(numbers, found) << name;
   }
 }

@@ -281,7 +281,8 @@ std::string Places(const ControllerList& controllers) {
   std::string places;
   for (const auto& controller : controllers) {
     for (const auto& device : controller->PhysicalDevices) {
-      const std::string number = device->DeviceNumber.substr(0, device->DeviceNumber.find_first_of("\r\n"));
+      const std::string name = device->DeviceNumber;
+      const std::string number = name.substr(0, name.find_first_of("\r\n"));
       places += device->Channel + "/" + number + " ";
     }
   }

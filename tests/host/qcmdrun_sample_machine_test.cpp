@@ -278,8 +278,8 @@ TEST_F(QcmdrunSampleMachine, TellsTheTransferSettingsOfEveryDevice) {
 TEST_F(QcmdrunSampleMachine, KeepsEveryLineOfEveryAnswer) {
   EXPECT_EQ(rawData_.size(), 16u);
   for (const auto& raw : rawData_) {
-    EXPECT_EQ(raw->RawResults.front(), "Found 2 KVR Zentraxis controller(s)") << raw->Command;
-    EXPECT_EQ(raw->RawResults.back(), "Command completed successfully.") << raw->Command;
+    EXPECT_EQ(raw->RawResults.front(), "Found 2 KVR Zentraxis controller(s)") << std::string_view(raw->Command);
+    EXPECT_EQ(raw->RawResults.back(), "Command completed successfully.") << std::string_view(raw->Command);
   }
 }
 

@@ -24,7 +24,7 @@ std::string Trimmed(const std::string& text) {
 
 // One line a record: the fields, trimmed, with bars between.
 template <class Record>
-Lines Table(const std::vector<std::shared_ptr<Record>>& records, const std::vector<std::string Record::*>& fields) {
+Lines Table(const std::vector<std::shared_ptr<Record>>& records, const std::vector<FieldText Record::*>& fields) {
   Lines lines;
   for (const auto& record : records) {
     std::string line;
@@ -210,7 +210,9 @@ TEST(SampleControllers, OfArcconfKeepFiveOutputsEach) {
                                       "zenx//arcconf.exe getlogs 1 uart", "zenx//arcconf.exe getconfig 2 al",
                                       "zenx//arcconf.exe getlogs 2 device", "zenx//arcconf.exe getlogs 2 dead",
                                       "zenx//arcconf.exe getlogs 2 event", "zenx//arcconf.exe getlogs 2 uart"}));
-  for (const auto& raw : rawData) EXPECT_EQ(raw->RawResults.back(), "Command completed successfully.") << raw->Command;
+  for (const auto& raw : rawData) {
+    EXPECT_EQ(raw->RawResults.back(), "Command completed successfully.") << std::string_view(raw->Command);
+  }
 }
 
 TEST(SampleControllers, OfHrconfIsOneWithTwoDrivesAndSixDevices) {
@@ -247,7 +249,7 @@ TEST(SampleControllers, AreTheSameWithLineFeedsAlone) {
         arcconf.Collect(0);
         controllers = arcconf.GetControllers();
         // The last letter of a controller's own values takes the place of the carriage return and is cut.
-        for (const auto& controller : controllers) controller->SerialNum.clear();
+        for (const auto& controller : controllers) controller->SerialNum = "";
       } else {
         HrconfData hrconf(TRootObject::GetCoreLogger());
         hrconf.Collect(0);

@@ -72,7 +72,7 @@ class ZenxCollectDataTest : public testing::Test {
   Texts RawCommands() const {
     Texts commands;
     for (const auto& raw : data_.GetRawData()) {
-      std::string command = raw->Command.substr(std::string("zenx//").size());
+      std::string command = std::string(raw->Command).substr(std::string("zenx//").size());
       commands.push_back(command.erase(command.find(".exe"), std::string(".exe").size()));
     }
     return commands;

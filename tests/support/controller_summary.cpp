@@ -19,7 +19,8 @@ std::string Summary(const ControllerList& controllers) {
     for (const auto& drive : controller->LogicalDevices) add(" drive " + drive->LogicalDriveNum + "|" + drive->Size);
     for (const auto& order : controller->StripeOrders) {
       const std::string shared = "ZentraxisCntrlr";
-      add(" order " + order->CollectionID.substr(std::min(shared.size(), order->CollectionID.size())));
+      const std::string id(order->CollectionID);
+      add(" order " + id.substr(std::min(shared.size(), id.size())));
     }
     for (const auto& device : controller->PhysicalDevices) {
       add(" device " + device->DeviceIdSuffix + "|" + device->DeviceType + "|" + device->State);

@@ -10,9 +10,9 @@ namespace labelled_fields_test {
 namespace {
 
 struct Disk {
-  std::string Name;
-  std::string Size;
-  std::string State;
+  FieldText Name;
+  FieldText Size;
+  FieldText State;
 
   friend bool operator==(const Disk&, const Disk&) = default;
 };
@@ -29,15 +29,16 @@ constexpr LabelledField<Disk> kStrictDisk[] = {
     {"State", &Disk::State, Miss::kCostsNothing},
 };
 
-Disk InOrder(LabelTable<Disk> table, std::string_view lines) {
+template <const auto& kTable>
+Disk InOrder(std::string_view lines) {
   CollectedData text(nullptr, std::string(lines));
   Disk disk;
-  ReadInOrder(text, disk, table);
+  ReadInOrder<kTable>(text, disk);
   return disk;
 }
 
 TEST(LabelledFields, ReadsTheLinesBehindTheCurrentOneInTheOrderOfTheTable) {
-  EXPECT_EQ(InOrder(kDisk, "head\nName : a\nSize : 1\nState : ok\n"), (Disk{" a\n", " 1\n", " ok\n"}));
+  EXPECT_EQ(InOrder<kDisk>("head\nName : a\nSize : 1\nState : ok\n"), (Disk{" a\n", " 1\n", " ok\n"}));
 }
 
 TEST(LabelledFields, ReadsValuesOfAnyLengthWhateverStandsBehindThem) {
@@ -45,47 +46,47 @@ TEST(LabelledFields, ReadsValuesOfAnyLengthWhateverStandsBehindThem) {
     const std::string value = std::string(length, 'x') + "\n";
     const Disk expected = {value, " 1\n", value};
     const std::string lines = "head\nName:" + value + "Size: 1\nState:" + value;
-    EXPECT_EQ(InOrder(kDisk, lines), expected) << length;
-    EXPECT_EQ(InOrder(kDisk, lines + "and more that is no label's\n"), expected) << length;
-    EXPECT_EQ(InOrder(kDisk, lines + "cut off"), expected) << length;
+    EXPECT_EQ(InOrder<kDisk>(lines), expected) << length;
+    EXPECT_EQ(InOrder<kDisk>(lines + "and more that is no label's\n"), expected) << length;
+    EXPECT_EQ(InOrder<kDisk>(lines + "cut off"), expected) << length;
   }
 }
 
 TEST(LabelledFields, EmptiesTheFieldOfAMissAndReplacesWhatAnotherHeld) {
   CollectedData text(nullptr, "head\nSize : 2\nend of the lines\n");
   Disk disk{"name", "size", "state"};
-  ReadInOrder<Disk>(text, disk, kDisk);
+  ReadInOrder<kDisk>(text, disk);
   EXPECT_EQ(disk, (Disk{"", " 2\n", ""}));
 }
 
 TEST(LabelledFields, DoesNotReadTheCurrentLine) {
-  EXPECT_EQ(InOrder(kDisk, "Name : a\nName : b\nSize : 1\nState : ok\n").Name, " b\n");
+  EXPECT_EQ(InOrder<kDisk>("Name : a\nName : b\nSize : 1\nState : ok\n").Name, " b\n");
 }
 
 TEST(LabelledFields, OffersTheLineOfAMissToTheNextLabel) {
-  EXPECT_EQ(InOrder(kDisk, "head\nSize : 1\nState : ok\n"), (Disk{"", " 1\n", " ok\n"}));
+  EXPECT_EQ(InOrder<kDisk>("head\nSize : 1\nState : ok\n"), (Disk{"", " 1\n", " ok\n"}));
 }
 
 TEST(LabelledFields, UsesUpTheLineOfAMissThatTakesIt) {
-  EXPECT_EQ(InOrder(kStrictDisk, "head\nSize : 1\nState : ok\nend\n"), (Disk{"", "", ""}));
-  EXPECT_EQ(InOrder(kStrictDisk, "head\nelse\nSize : 1\nState : ok\n"), (Disk{"", " 1\n", " ok\n"}));
+  EXPECT_EQ(InOrder<kStrictDisk>("head\nSize : 1\nState : ok\nend\n"), (Disk{"", "", ""}));
+  EXPECT_EQ(InOrder<kStrictDisk>("head\nelse\nSize : 1\nState : ok\n"), (Disk{"", " 1\n", " ok\n"}));
 }
 
 TEST(LabelledFields, CountsALabelWithoutAColonAsAMiss) {
-  EXPECT_EQ(InOrder(kDisk, "head\nName\nName : b\nend\n"), (Disk{"", "", ""}));
+  EXPECT_EQ(InOrder<kDisk>("head\nName\nName : b\nend\n"), (Disk{"", "", ""}));
 }
 
 TEST(LabelledFields, EndsOnTheLastLineRead) {
   CollectedData text(nullptr, "head\nName : a\nend\n");
   Disk disk;
-  ReadInOrder<Disk>(text, disk, kDisk);
+  ReadInOrder<kDisk>(text, disk);
   EXPECT_EQ(text.CurrentLine(), "Name : a\n");
 }
 
 TEST(LabelledFields, FailsWhereTheTextEndsAndKeepsWhatWasRead) {
   CollectedData text(nullptr, "head\nName : a\n");
   Disk disk;
-  EXPECT_THROW(ReadInOrder<Disk>(text, disk, kDisk), std::out_of_range);
+  EXPECT_THROW(ReadInOrder<kDisk>(text, disk), std::out_of_range);
   EXPECT_EQ(disk.Name, " a\n");
 }
 

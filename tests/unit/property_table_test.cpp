@@ -11,11 +11,11 @@ using NKVRHXA20::TCIMDateTime;
 using NKVRHXA20::TCIMValue;
 
 struct Owner {
-  std::string Name;
+  FieldText Name;
 };
 
 struct Part {
-  std::string Name;
+  FieldText Name;
   TCIMDateTime Time;
 };
 

@@ -63,8 +63,8 @@ TEST(ReplayedPlatform, KeepsTheFolderOfTheLogInWhatIsPublished) {
   const CollectRaidMgrData collector(&log, counter);
   ASSERT_TRUE(collector.LogAvailable());
   ASSERT_EQ(collector.GetRawData().size(), 1U);
-  EXPECT_TRUE(collector.GetRawData().front()->Command.starts_with("C:\\ZXM\\KVR\\Zentraxis Manager\\RaidEvtA.log "))
-      << collector.GetRawData().front()->Command;
+  const std::string command(collector.GetRawData().front()->Command);
+  EXPECT_TRUE(command.starts_with("C:\\ZXM\\KVR\\Zentraxis Manager\\RaidEvtA.log ")) << command;
 }
 
 TEST(ReplayedPlatform, LeavesNothingBehind) {

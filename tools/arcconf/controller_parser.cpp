@@ -28,7 +28,7 @@ constexpr Section kBattery = {"Controller Battery Information", "Controller Vita
 
 struct SectionField {
   std::string_view label;
-  std::string ZenxController::*field;
+  FieldText ZenxController::*field;
   Section section;
 };
 

@@ -54,13 +54,13 @@ constexpr LabelledField<Device> kHardDrive[] = {
     {"PFA",                &Device::PFA             },
 };
 
-void ReadUnknown(Device& device, CollectedData& text) { ReadInOrder(text, device, kUnknown); }
+void ReadUnknown(Device& device, CollectedData& text) { ReadInOrder<kUnknown>(text, device); }
 
 void ReadEnclosure(Device& device, CollectedData& text) {
-  ReadInOrder(text, device, kEnclosure);
+  ReadInOrder<kEnclosure>(text, device);
   // Heads the readings of the enclosure's sensors; it has no value of its own.
   if (!Contains(text.NextLine(), "Status of Enclosure services device")) text.StepBack();
-  ReadInOrder(text, device, kEnclosureStatus);
+  ReadInOrder<kEnclosureStatus>(text, device);
 }
 
 // "State : Hot Spare" and below it "Assigned Spare for : Logical drive 1" are one state.
@@ -71,9 +71,9 @@ void ReadAssignedSpare(Device& device, CollectedData& text) {
 }
 
 void ReadHardDrive(Device& device, CollectedData& text) {
-  ReadInOrder(text, device, kHardDriveState);
+  ReadInOrder<kHardDriveState>(text, device);
   ReadAssignedSpare(device, text);
-  ReadInOrder(text, device, kHardDrive);
+  ReadInOrder<kHardDrive>(text, device);
 }
 
 // "0,3": channel 0, device 3.

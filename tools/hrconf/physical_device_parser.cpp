@@ -45,20 +45,20 @@ constexpr LabelledField<Device> kHardDrive[] = {
 
 struct Branch {
   std::string_view type;
-  LabelTable<Device> table;
+  void (*read)(CollectedData& text, Device& device);
 };
 
 // The first whose type is in the device's counts. Of other devices the type is all that is taken.
 constexpr Branch kBranches[] = {
-    {"Unknown",    kUnknown  },
-    {"Enclosure",  kEnclosure},
-    {"Hard drive", kHardDrive},
+    {"Unknown",    ReadInOrder<kUnknown>  },
+    {"Enclosure",  ReadInOrder<kEnclosure>},
+    {"Hard drive", ReadInOrder<kHardDrive>},
 };
 
 void ReadDevice(Device& device, CollectedData& text) {
   device.DeviceType = CutDeviceType(text.NextLine());
-  for (const auto& [type, table] : kBranches) {
-    if (Contains(device.DeviceType, type)) return ReadInOrder(text, device, table);
+  for (const auto& [type, read] : kBranches) {
+    if (Contains(device.DeviceType, type)) return read(text, device);
   }
 }
 

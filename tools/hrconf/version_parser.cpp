@@ -19,7 +19,7 @@ void ReadVersions(ZenxHrConfBios& versions, CollectedData& text) {
   if (Contains(text.CurrentLine(), kNoControllers)) return;
   constexpr int kLinesOfHead = 3;
   for (int line = 0; line < kLinesOfHead; ++line) text.NextLine();
-  ReadInOrder(text, versions, kVersions);
+  ReadInOrder<kVersions>(text, versions);
 }
 
 void LogBadData(HostHandle host, const std::exception& failure) {

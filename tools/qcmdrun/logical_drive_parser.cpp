@@ -28,7 +28,7 @@ void ParseLogicalDrive(ZenxLogicalDevice& drive, CollectedData& text, std::strin
                        std::string_view controllerNumber) {
   drive.LogicalDriveNum = driveNumber;
   drive.ControllerNum = controllerNumber;
-  ReadInOrder<ZenxLogicalDevice>(text, drive, kLogicalDrive);
+  ReadInOrder<kLogicalDrive>(text, drive);
 }
 
 }  // namespace qcmdrun

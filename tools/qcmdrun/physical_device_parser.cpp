@@ -5,7 +5,6 @@
 
 #include "collect/labelled_fields.h"
 #include "collect/records.h"
-#include "collect/short_text.h"
 
 namespace qcmdrun {
 
@@ -28,7 +27,7 @@ constexpr LabelledField<ZenxPhysicalDevice> kReplacementPart[] = {
 struct Piece {
   std::size_t offset;
   std::size_t length;
-  std::string ZenxPhysicalDevice::*field;
+  FieldText ZenxPhysicalDevice::*field;
 };
 
 constexpr Piece kModel = {0, 16, &ZenxPhysicalDevice::Model};
@@ -45,7 +44,8 @@ constexpr std::size_t kFullIdentifier = 28;
 
 // Takes the piece out of the identifier; where that ends in it, what there is of it.
 void Cut(ZenxPhysicalDevice& device, const Piece& piece) {
-  (device.*piece.field).assign(device.DeviceIdSuffix, piece.offset, piece.length);
+  const std::string_view identifier = device.DeviceIdSuffix;
+  device.*piece.field = identifier.substr(piece.offset, piece.length);
 }
 
 void CutHardDisk(ZenxPhysicalDevice& device) {
@@ -79,11 +79,11 @@ void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::s
                          std::string_view channel) {
   device.ControllerNum = controllerNumber;
   device.Channel = channel;
-  Keep(device.DeviceType, CutType(text.NextLine()), text.EndOfLines());
-  ReadInOrder<ZenxPhysicalDevice>(text, device, kDevice);
+  device.DeviceType = CutType(text.NextLine());
+  ReadInOrder<kDevice>(text, device);
   if (Contains(device.DeviceType, "Tape")) CutTape(device);
   if (Contains(device.DeviceType, "Hard disk")) CutHardDisk(device);
-  ReadInOrder<ZenxPhysicalDevice>(text, device, kReplacementPart);
+  ReadInOrder<kReplacementPart>(text, device);
 }
 
 }  // namespace qcmdrun

@@ -14,7 +14,7 @@ void ParseStripeOrder(ArrayStripeOrder& order, CollectedData& text, std::string_
   const std::string_view line = text.CurrentLine();
   const std::size_t label = line.find(kStripeOrderLabel);
   if (label == line.npos) return;
-  order.Array = line.at(label - 1);
+  order.Array = line.substr(label - 1, 1);
   order.CollectionID = "Zentraxis" + order.ControllerNum + "Array" + order.Array;
   order.StripeOrder = text.ValueOfCurrentLine();
   ContinueList(text, order.StripeOrder);
