@@ -13,7 +13,9 @@ std::string_view UpToLineEnd(std::string_view line, std::size_t begin) {
 }
 
 // As the C library's isspace in the C locale.
-bool IsWhiteSpace(char character) { return character == ' ' || (character >= '\t' && character <= '\r'); }
+bool IsWhiteSpace(char character) {
+  return static_cast<unsigned char>(character) <= ' ' && (character == ' ' || (character >= '\t' && character <= '\r'));
+}
 
 }  // namespace
 
@@ -57,6 +59,10 @@ int LeadingNumber(std::string_view text) {
   constexpr long long kLowest = std::numeric_limits<int>::min();
   constexpr long long kHighest = std::numeric_limits<int>::max();
   long long number = 0;
-  for (; at != end && *at >= '0' && *at <= '9'; ++at) number = std::min(number * 10 + (*at - '0'), kHighest + 1);
+  for (; at != end; ++at) {
+    const unsigned digit = static_cast<unsigned char>(*at) - unsigned{'0'};
+    if (digit > 9) break;
+    if (number <= kHighest) number = number * 10 + digit;
+  }
   return static_cast<int>(std::clamp(isNegative ? -number : number, kLowest, kHighest));
 }

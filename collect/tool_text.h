@@ -26,10 +26,10 @@ std::string_view CutDeviceName(std::string_view line);
 // dropped, and the separator stands between the two.
 std::string Joined(std::string_view text, std::string_view separator, std::string_view part);
 
+inline bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
 // Whether a line goes on with a list: it begins with a decimal digit.
-inline bool BeginsWithDigit(std::string_view text) {
-  return !text.empty() && text.front() >= '0' && text.front() <= '9';
-}
+inline bool BeginsWithDigit(std::string_view text) { return !text.empty() && IsDigit(text.front()); }
 
 // The number that a text begins with, as the C library's atoi reads it: 0 where there is none.
 int LeadingNumber(std::string_view text);

@@ -44,7 +44,6 @@ struct EventTime {
   int second = 0;
 };
 
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 bool IsLetter(char character) {
   return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
 }

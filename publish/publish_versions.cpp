@@ -55,9 +55,8 @@ void PublishControllerVersions(const PublishContext& context, ICIMClass& publish
   for (const auto& controller : context.collector.GetControllers()) {
     const std::string_view version = Trimmed((*controller).*text);
     if (version.empty()) continue;
-    const std::string number(Trimmed(controller->ControllerNum));
-    const SoftwareVersion software{name(number), std::string(version), std::string(SplitVersion(version).build), number,
-                                   ""};
+    const std::string_view number = Trimmed(controller->ControllerNum);
+    const SoftwareVersion software{name(number), version, SplitVersion(version).build, number, ""};
     PublishAsHeld(publishedClass, kVersionProperties, software);
   }
 }
@@ -65,9 +64,8 @@ void PublishControllerVersions(const PublishContext& context, ICIMClass& publish
 // A drive's version is published without its build.
 SoftwareVersion FirmwareOf(const ZenxController& controller, const ZenxPhysicalDevice& drive, const char* name) {
   const auto [version, build] = SplitVersion(Trimmed(drive.Firmware));
-  return {name, std::string(version), std::string(build),
-          DriveSoftwareId(Trimmed(controller.ControllerNum), DiskDriveId(controller, drive)),
-          std::string(Trimmed(drive.Vendor))};
+  return {name, version, build, DriveSoftwareId(Trimmed(controller.ControllerNum), DiskDriveId(controller, drive)),
+          Trimmed(drive.Vendor)};
 }
 
 void PublishDriveVersion(ICIMClass& publishedClass, const ZenxController& controller, const ZenxPhysicalDevice& drive) {
