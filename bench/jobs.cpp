@@ -16,7 +16,7 @@
 #include "bench/scripted_machine.h"
 #include "bench/whole_query.h"
 #include "host/hxacore/schema.h"
-#include "host/hxahost/plugin.h"
+#include "host/hxahost/collection/plugin.h"
 #include "plugin/host_interface/services.h"
 #include "tools/arcconf/arcconf_data.h"
 #include "tools/hrconf/hrconf_data.h"

@@ -88,16 +88,19 @@ if(ZENX_COVERAGE)
   add_custom_command(TARGET zenx PRE_LINK COMMAND find ${CMAKE_BINARY_DIR} -name *.gcda -delete VERBATIM)
 endif()
 
-# The program's own code is a library, so that tests can call it.
-sources_of(hxahost_sources host/hxahost)
-list(REMOVE_ITEM hxahost_sources ${CMAKE_SOURCE_DIR}/host/hxahost/main.cpp)
+# The program's own code is a library, so that tests can call it. Its rooms, from the top floor down.
+set(hxahost_rooms program diff views views/tables views/report views/json views/cim views/monitoring machine collection
+    result bundle terminal schema system text)
+list(TRANSFORM hxahost_rooms PREPEND host/hxahost/ OUTPUT_VARIABLE hxahost_folders)
+sources_of(hxahost_sources ${hxahost_folders})
+list(REMOVE_ITEM hxahost_sources ${CMAKE_SOURCE_DIR}/host/hxahost/program/main.cpp)
 add_library(hxahost_objects OBJECT ${hxahost_sources} cmake/empty.cpp)
 target_link_libraries(hxahost_objects PUBLIC host_interface plugin_manager platform_answers)
 target_compile_definitions(hxahost_objects PRIVATE ZENX_VERSION="${PROJECT_VERSION}")
 # What reads the tools' texts is optimised as far as the compiler can. What shows them need not be, and is most of the
 # code: it compiles a fifth faster.
 target_compile_options(hxahost_objects PRIVATE $<$<CONFIG:Release>:-O2>)
-add_executable(hxahost host/hxahost/main.cpp)
+add_executable(hxahost host/hxahost/program/main.cpp)
 target_link_libraries(hxahost PRIVATE hxahost_objects)
 add_dependencies(hxahost zenx)
 

@@ -42,7 +42,7 @@ string(FIND "${page}" ")${delimiter}\"" end)
 if(NOT end EQUAL -1)
   message(FATAL_ERROR "The page of the report contains what ends a C++ text: )${delimiter}\"")
 endif()
-file(WRITE "${OUTPUT}" "#include \"host/hxahost/report_template.h\"
+file(WRITE "${OUTPUT}" "#include \"host/hxahost/views/report/report_template.h\"
 
 namespace hxahost {
 

@@ -11,10 +11,10 @@
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
 #include "fuzz/support/text_checks.h"
-#include "host/hxahost/bundle.h"
-#include "host/hxahost/bundle_format.h"
-#include "host/hxahost/bundle_mask.h"
-#include "host/hxahost/bundle_text.h"
+#include "host/hxahost/bundle/bundle.h"
+#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/bundle_mask.h"
+#include "host/hxahost/bundle/bundle_text.h"
 
 using namespace hxahost;
 

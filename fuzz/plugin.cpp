@@ -18,7 +18,7 @@
 #include "fuzz/support/provenance.h"
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
-#include "host/hxahost/tool_answer.h"
+#include "host/hxahost/result/tool_answer.h"
 #include "logs/collect_raid_mgr_data.h"
 #include "plugin/host_interface/services.h"
 #include "plugin/query.h"

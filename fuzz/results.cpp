@@ -9,10 +9,10 @@
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
 #include "fuzz/support/text_checks.h"
-#include "host/hxahost/diff_view.h"
-#include "host/hxahost/exit_status.h"
-#include "host/hxahost/json_result.h"
-#include "host/hxahost/result_diff.h"
+#include "host/hxahost/diff/diff_view.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/result/json_result.h"
+#include "host/hxahost/diff/result_diff.h"
 
 using namespace hxahost;
 

@@ -30,14 +30,14 @@ const std::vector<Fuzzer> kFuzzers = {
     {"log_parsers",      &SeedMaker::LogParsers,     {"logs", "tools/qcmdrun/log_walk.cpp", "tools/qcmdrun/status_parser.cpp"}       },
     {"date_times",       &SeedMaker::DateTimes,      {"logs/raid_mgr_zones.cpp"}                                                     },
     {"plugin",           &SeedMaker::Plugin,         {"tools/qcmdrun", "tools/arcconf", "tools/hrconf", "collect", "logs", "publish"}},
-    {"views",            &SeedMaker::Views,          {"host/hxahost/health_rules.cpp", "host/hxahost/tool_answer.cpp"}               },
+    {"views",            &SeedMaker::Views,          {"host/hxahost/machine/health_rules.cpp", "host/hxahost/result/tool_answer.cpp"}               },
     {"bundles",
      &SeedMaker::Bundles,
-     {"host/hxahost/read_bundle.cpp", "host/hxahost/write_bundle.cpp", "host/hxahost/bundle_mask.cpp"}                               },
-    {"texts",            &SeedMaker::Texts,          {"host/hxahost/raw_text_values.cpp", "host/hxahost/tool_answer.cpp"}            },
+     {"host/hxahost/bundle/read_bundle.cpp", "host/hxahost/bundle/write_bundle.cpp", "host/hxahost/bundle/bundle_mask.cpp"}                               },
+    {"texts",            &SeedMaker::Texts,          {"host/hxahost/result/raw_text_values.cpp", "host/hxahost/result/tool_answer.cpp"}            },
     {"results",
      &SeedMaker::Results,
-     {"host/hxahost/json_result.cpp", "host/hxahost/result_diff.cpp", "host/hxahost/result_matching.cpp"}                            },
+     {"host/hxahost/result/json_result.cpp", "host/hxahost/diff/result_diff.cpp", "host/hxahost/diff/result_matching.cpp"}                            },
 };
 
 void Write(const Fuzzer& fuzzer, const fs::path& sources, const fs::path& folder) {

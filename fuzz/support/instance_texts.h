@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "host/hxahost/query_result.h"
+#include "host/hxahost/result/query_result.h"
 
 // Each instance with its class, path and properties, as a text that differs where they do.
 std::vector<std::string> InstanceTexts(const hxahost::InstanceList& instances);

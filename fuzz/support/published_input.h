@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/hxahost/query_result.h"
+#include "host/hxahost/result/query_result.h"
 
 // What a query gave, made of an input, with anything in its texts. Each text of the input is one part: its first
 // character chooses what of (an instance of a class, an entry of the log, a run of a tool), the rest are the part's

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/hxahost/views.h"
+#include "host/hxahost/views/views.h"
 #include "tests/support/filled_repository.h"
 
 // Writes pages, and the JSON beside them, of machines that the sample machine is not: one with thousands of disks, one

@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
-#include "host/hxahost/bundle_file.h"
-#include "host/hxahost/bundle_format.h"
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/bundle_format.h"
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 

@@ -1,6 +1,6 @@
 // The plug-in's own library in this process. What it keeps it keeps for the process, so all of it is one test.
 
-#include "host/hxahost/plugin.h"
+#include "host/hxahost/collection/plugin.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@
 #include "host/hxacore/host_services.h"
 #include "host/hxacore/repository.h"
 #include "host/hxacore/schema.h"
-#include "host/hxahost/exit_status.h"
+#include "host/hxahost/system/exit_status.h"
 #include "tests/support/test_system.h"
 
 namespace plugin_lifetime_test {

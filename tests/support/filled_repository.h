@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/hxacore/repository.h"
-#include "host/hxahost/query_result.h"
+#include "host/hxahost/result/query_result.h"
 
 // A repository that a test fills as a plug-in does.
 class FilledRepository {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "host/hxahost/health.h"
+#include "host/hxahost/machine/health.h"
 
 using NKVRHXA20::TCIMValue;
 

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/hxahost/query_result.h"
+#include "host/hxahost/result/query_result.h"
 #include "tests/support/filled_repository.h"
 
 // What a query gives of a machine on which nothing is wrong, for tests that break one thing: a legacy controller 1 and

@@ -2,8 +2,8 @@
 
 #include <stdexcept>
 
-#include "host/hxahost/system.h"
-#include "host/hxahost/text.h"
+#include "host/hxahost/system/system.h"
+#include "host/hxahost/text/text.h"
 
 namespace fs = std::filesystem;
 

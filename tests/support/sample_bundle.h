@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/hxahost/bundle.h"
+#include "host/hxahost/bundle/bundle.h"
 
 // A bundle in which everything stands that a bundle can hold.
 inline hxahost::Bundle SampleBundle() {

@@ -1,4 +1,4 @@
-#include "host/hxahost/ascii_output.h"
+#include "host/hxahost/terminal/ascii_output.h"
 
 #include <gtest/gtest.h>
 

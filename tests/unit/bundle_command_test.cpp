@@ -1,14 +1,14 @@
-#include "host/hxahost/bundle_command.h"
+#include "host/hxahost/program/bundle_command.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-#include "host/hxahost/bundle_file.h"
-#include "host/hxahost/bundle_format.h"
-#include "host/hxahost/exit_status.h"
-#include "host/hxahost/text.h"
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/text.h"
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"

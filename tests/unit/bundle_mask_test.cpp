@@ -1,4 +1,4 @@
-#include "host/hxahost/bundle_mask.h"
+#include "host/hxahost/bundle/bundle_mask.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "host/hxahost/bundle_format.h"
+#include "host/hxahost/bundle/bundle_format.h"
 #include "tests/support/sample_bundle.h"
 
 namespace bundle_mask_test {

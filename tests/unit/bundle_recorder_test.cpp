@@ -1,11 +1,11 @@
-#include "host/hxahost/bundle_recorder.h"
+#include "host/hxahost/bundle/bundle_recorder.h"
 
 #include <gtest/gtest.h>
 
 #include <new>
 
-#include "host/hxahost/bundle_format.h"
-#include "host/hxahost/bundle_replay.h"
+#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/bundle_replay.h"
 #include "tests/support/raid_log_setting.h"
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"

@@ -1,9 +1,9 @@
-#include "host/hxahost/bundle_replay.h"
+#include "host/hxahost/bundle/bundle_replay.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/exit_status.h"
+#include "host/hxahost/system/exit_status.h"
 #include "tests/support/sample_bundle.h"
 
 namespace bundle_replay_test {

@@ -1,4 +1,4 @@
-#include "host/hxahost/bundle_text.h"
+#include "host/hxahost/bundle/bundle_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/cim_xml_view.h"
+#include "host/hxahost/views/cim/cim_xml_view.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "host/hxahost/class_dependencies.h"
+#include "host/hxahost/collection/class_dependencies.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

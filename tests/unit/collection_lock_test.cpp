@@ -1,4 +1,4 @@
-#include "host/hxahost/collection_lock.h"
+#include "host/hxahost/collection/collection_lock.h"
 
 #include <gtest/gtest.h>
 

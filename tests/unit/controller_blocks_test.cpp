@@ -1,4 +1,4 @@
-#include "host/hxahost/controller_blocks.h"
+#include "host/hxahost/views/tables/controller_blocks.h"
 
 #include <gtest/gtest.h>
 

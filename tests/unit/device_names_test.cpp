@@ -1,4 +1,4 @@
-#include "host/hxahost/device_names.h"
+#include "host/hxahost/machine/device_names.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/device_owners.h"
+#include "host/hxahost/machine/device_owners.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "host/hxahost/diff_command.h"
+#include "host/hxahost/program/diff_command.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/exit_status.h"
-#include "host/hxahost/text.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/text.h"
 #include "tests/support/temporary_folder.h"
 
 namespace diff_command_test {

@@ -1,4 +1,4 @@
-#include "host/hxahost/finding_diff.h"
+#include "host/hxahost/diff/finding_diff.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

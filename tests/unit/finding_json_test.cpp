@@ -1,4 +1,4 @@
-#include "host/hxahost/finding_json.h"
+#include "host/hxahost/views/monitoring/finding_json.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/finding.h"
+#include "host/hxahost/machine/finding.h"
 
 #include <gtest/gtest.h>
 

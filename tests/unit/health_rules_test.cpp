@@ -1,4 +1,4 @@
-#include "host/hxahost/health_rules.h"
+#include "host/hxahost/machine/health_rules.h"
 
 #include <algorithm>
 #include <set>
@@ -8,7 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/health.h"
+#include "host/hxahost/machine/health.h"
 #include "tests/support/healthy_machine.h"
 
 namespace health_rules_test {

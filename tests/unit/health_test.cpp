@@ -1,4 +1,4 @@
-#include "host/hxahost/health.h"
+#include "host/hxahost/machine/health.h"
 
 #include <functional>
 #include <string>
@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/published_text.h"
+#include "host/hxahost/result/published_text.h"
 #include "tests/support/healthy_machine.h"
 
 namespace health_test {

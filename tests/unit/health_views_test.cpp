@@ -1,4 +1,4 @@
-#include "host/hxahost/health_views.h"
+#include "host/hxahost/views/monitoring/health_views.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/health.h"
+#include "host/hxahost/machine/health.h"
 #include "tests/support/file_text.h"
 #include "tests/support/healthy_machine.h"
 

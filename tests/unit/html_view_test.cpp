@@ -1,4 +1,4 @@
-#include "host/hxahost/html_view.h"
+#include "host/hxahost/views/report/html_view.h"
 
 #include <gmock/gmock.h>
 
@@ -7,8 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/json_view.h"
-#include "host/hxahost/report_template.h"
+#include "host/hxahost/views/json/json_view.h"
+#include "host/hxahost/views/report/report_template.h"
 #include "tests/support/filled_repository.h"
 
 namespace html_view_test {

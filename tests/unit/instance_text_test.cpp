@@ -1,4 +1,4 @@
-#include "host/hxahost/instance_text.h"
+#include "host/hxahost/views/tables/instance_text.h"
 
 #include <gtest/gtest.h>
 

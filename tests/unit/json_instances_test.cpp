@@ -1,4 +1,4 @@
-#include "host/hxahost/json_instances.h"
+#include "host/hxahost/result/json_instances.h"
 
 #include <gtest/gtest.h>
 

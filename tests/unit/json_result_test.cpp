@@ -1,11 +1,11 @@
-#include "host/hxahost/json_result.h"
+#include "host/hxahost/result/json_result.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "host/hxahost/exit_status.h"
+#include "host/hxahost/system/exit_status.h"
 #include "tests/support/temporary_folder.h"
 
 namespace json_result_test {

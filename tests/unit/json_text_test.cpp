@@ -1,4 +1,4 @@
-#include "host/hxahost/json_text.h"
+#include "host/hxahost/text/json_text.h"
 
 #include <string>
 

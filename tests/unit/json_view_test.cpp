@@ -1,4 +1,4 @@
-#include "host/hxahost/json_view.h"
+#include "host/hxahost/views/json/json_view.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/mask_places.h"
+#include "host/hxahost/bundle/mask_places.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

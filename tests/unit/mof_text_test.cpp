@@ -1,4 +1,4 @@
-#include "host/hxahost/mof_text.h"
+#include "host/hxahost/text/mof_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/mof_view.h"
+#include "host/hxahost/views/cim/mof_view.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "host/hxahost/object_path.h"
+#include "host/hxahost/result/object_path.h"
 
 #include <gtest/gtest.h>
 

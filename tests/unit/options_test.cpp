@@ -1,11 +1,11 @@
-#include "host/hxahost/options.h"
+#include "host/hxahost/program/options.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "host/hxahost/exit_status.h"
+#include "host/hxahost/system/exit_status.h"
 
 namespace options_test {
 namespace {

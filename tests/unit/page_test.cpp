@@ -1,12 +1,12 @@
-#include "host/hxahost/page.h"
+#include "host/hxahost/terminal/page.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <sstream>
 
-#include "host/hxahost/table.h"
-#include "host/hxahost/text.h"
+#include "host/hxahost/terminal/table.h"
+#include "host/hxahost/text/text.h"
 
 namespace page_test {
 namespace {

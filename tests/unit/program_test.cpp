@@ -1,4 +1,4 @@
-#include "host/hxahost/program.h"
+#include "host/hxahost/program/program.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

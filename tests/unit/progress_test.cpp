@@ -1,4 +1,4 @@
-#include "host/hxahost/progress.h"
+#include "host/hxahost/terminal/progress.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

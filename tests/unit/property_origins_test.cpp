@@ -1,4 +1,4 @@
-#include "host/hxahost/property_origins.h"
+#include "host/hxahost/schema/property_origins.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "host/hxahost/query_command.h"
+#include "host/hxahost/program/query_command.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,8 +8,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "host/hxahost/exit_status.h"
-#include "host/hxahost/text.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/text.h"
 #include "tests/support/temporary_folder.h"
 
 namespace query_command_test {

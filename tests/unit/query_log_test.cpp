@@ -1,8 +1,8 @@
-#include "host/hxahost/query_log.h"
+#include "host/hxahost/collection/query_log.h"
 
 #include <gtest/gtest.h>
 
-#include "host/hxahost/exit_status.h"
+#include "host/hxahost/system/exit_status.h"
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 

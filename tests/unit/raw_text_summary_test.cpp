@@ -1,4 +1,4 @@
-#include "host/hxahost/raw_text_summary.h"
+#include "host/hxahost/views/tables/raw_text_summary.h"
 
 #include <gtest/gtest.h>
 

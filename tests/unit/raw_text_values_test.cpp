@@ -1,4 +1,4 @@
-#include "host/hxahost/raw_text_values.h"
+#include "host/hxahost/result/raw_text_values.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "host/hxahost/bundle_format.h"
-#include "host/hxahost/bundle_text.h"
+#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/bundle_text.h"
 #include "tests/support/sample_bundle.h"
 
 namespace read_bundle_test {

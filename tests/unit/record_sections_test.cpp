@@ -1,11 +1,11 @@
-#include "host/hxahost/record_sections.h"
+#include "host/hxahost/views/tables/record_sections.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 #include <sstream>
 
-#include "host/hxahost/controller_columns.h"
+#include "host/hxahost/views/tables/controller_columns.h"
 #include "tests/support/filled_repository.h"
 
 namespace record_sections_test {

@@ -1,4 +1,4 @@
-#include "host/hxahost/replayed_platform.h"
+#include "host/hxahost/bundle/replayed_platform.h"
 
 #include <gtest/gtest.h>
 

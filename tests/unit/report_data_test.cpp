@@ -1,4 +1,4 @@
-#include "host/hxahost/report_data.h"
+#include "host/hxahost/views/report/report_data.h"
 
 #include <gmock/gmock.h>
 
@@ -8,10 +8,10 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/controller_columns.h"
-#include "host/hxahost/health.h"
-#include "host/hxahost/published_text.h"
-#include "host/hxahost/record_sections.h"
+#include "host/hxahost/views/tables/controller_columns.h"
+#include "host/hxahost/machine/health.h"
+#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/views/tables/record_sections.h"
 #include "tests/support/healthy_machine.h"
 
 namespace report_data_test {

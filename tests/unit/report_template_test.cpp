@@ -1,4 +1,4 @@
-#include "host/hxahost/report_template.h"
+#include "host/hxahost/views/report/report_template.h"
 
 #include <gmock/gmock.h>
 

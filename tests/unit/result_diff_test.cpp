@@ -1,4 +1,4 @@
-#include "host/hxahost/result_diff.h"
+#include "host/hxahost/diff/result_diff.h"
 
 #include <gtest/gtest.h>
 

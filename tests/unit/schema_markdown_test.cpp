@@ -1,7 +1,7 @@
 // docs/classes.md is what WriteSchemaMarkdown writes. To renew it, run this test with ZENX_RENEW_GOLDEN=1 in the
 // environment, and read the difference before it is committed.
 
-#include "host/hxahost/schema_markdown.h"
+#include "host/hxahost/schema/schema_markdown.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "host/hxahost/schema_view.h"
+#include "host/hxahost/schema/schema_view.h"
 
 #include <gtest/gtest.h>
 

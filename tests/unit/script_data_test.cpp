@@ -1,4 +1,4 @@
-#include "host/hxahost/script_data.h"
+#include "host/hxahost/views/report/script_data.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/session_services.h"
+#include "host/hxahost/collection/session_services.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "host/hxahost/silent_controllers.h"
+#include "host/hxahost/machine/silent_controllers.h"
 
 #include <string>
 #include <vector>

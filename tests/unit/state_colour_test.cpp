@@ -1,4 +1,4 @@
-#include "host/hxahost/state_colour.h"
+#include "host/hxahost/terminal/state_colour.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/state_words.h"
+#include "host/hxahost/machine/state_words.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

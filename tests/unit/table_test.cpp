@@ -1,11 +1,11 @@
-#include "host/hxahost/table.h"
+#include "host/hxahost/terminal/table.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-#include "host/hxahost/page.h"
-#include "host/hxahost/text.h"
+#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/text/text.h"
 
 namespace table_test {
 namespace {

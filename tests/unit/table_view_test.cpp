@@ -1,4 +1,4 @@
-#include "host/hxahost/table_view.h"
+#include "host/hxahost/views/tables/table_view.h"
 
 #include <gtest/gtest.h>
 

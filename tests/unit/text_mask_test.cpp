@@ -1,4 +1,4 @@
-#include "host/hxahost/text_mask.h"
+#include "host/hxahost/bundle/text_mask.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "host/hxahost/text.h"
+#include "host/hxahost/text/text.h"
 
 namespace text_mask_test {
 namespace {

@@ -1,4 +1,4 @@
-#include "host/hxahost/text.h"
+#include "host/hxahost/text/text.h"
 
 #include <gtest/gtest.h>
 

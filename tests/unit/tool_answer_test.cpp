@@ -1,4 +1,4 @@
-#include "host/hxahost/tool_answer.h"
+#include "host/hxahost/result/tool_answer.h"
 
 #include <gtest/gtest.h>
 

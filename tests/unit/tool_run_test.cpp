@@ -1,4 +1,4 @@
-#include "host/hxahost/tool_run.h"
+#include "host/hxahost/result/tool_run.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/tool_summary.h"
+#include "host/hxahost/views/tables/tool_summary.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

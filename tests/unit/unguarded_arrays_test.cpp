@@ -1,4 +1,4 @@
-#include "host/hxahost/unguarded_arrays.h"
+#include "host/hxahost/machine/unguarded_arrays.h"
 
 #include <string>
 

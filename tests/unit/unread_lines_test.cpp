@@ -1,4 +1,4 @@
-#include "host/hxahost/unread_lines.h"
+#include "host/hxahost/result/unread_lines.h"
 
 #include <gtest/gtest.h>
 

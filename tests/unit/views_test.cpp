@@ -1,8 +1,8 @@
-#include "host/hxahost/views.h"
+#include "host/hxahost/views/views.h"
 
 #include <gtest/gtest.h>
 
-#include "host/hxahost/options.h"
+#include "host/hxahost/program/options.h"
 
 namespace views_test {
 namespace {

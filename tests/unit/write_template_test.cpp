@@ -1,4 +1,4 @@
-#include "host/hxahost/write_template.h"
+#include "host/hxahost/views/report/write_template.h"
 
 #include <gtest/gtest.h>
 

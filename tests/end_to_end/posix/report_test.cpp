@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/text.h"
+#include "host/hxahost/text/text.h"
 #include "tests/support/hxahost_run.h"
 
 namespace posix_report_test {

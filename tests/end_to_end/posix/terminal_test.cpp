@@ -15,7 +15,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "host/hxahost/text.h"
+#include "host/hxahost/text/text.h"
 #include "tests/support/hxahost_run.h"
 
 namespace posix_terminal_test {

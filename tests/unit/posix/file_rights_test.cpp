@@ -1,8 +1,8 @@
-#include "host/hxahost/file_rights.h"
+#include "host/hxahost/system/file_rights.h"
 
 #include <gtest/gtest.h>
 
-#include "host/hxahost/posix/file_mode.h"
+#include "host/hxahost/system/posix/file_mode.h"
 #include "tests/support/temporary_folder.h"
 
 namespace posix_file_rights_test {

@@ -1,10 +1,10 @@
-#include "host/hxahost/output_file.h"
+#include "host/hxahost/system/output_file.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-#include "host/hxahost/exit_status.h"
+#include "host/hxahost/system/exit_status.h"
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 

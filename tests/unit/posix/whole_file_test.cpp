@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/bundle_file.h"
-#include "host/hxahost/exit_status.h"
-#include "host/hxahost/json_result.h"
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/result/json_result.h"
 #include "tests/support/temporary_folder.h"
 
 namespace posix_whole_file_test {

@@ -1,10 +1,10 @@
-#include "host/hxahost/windows/access_list.h"
+#include "host/hxahost/system/windows/access_list.h"
 
 #include <gtest/gtest.h>
 
 #include <sddl.h>
 
-#include "host/hxahost/file_rights.h"
+#include "host/hxahost/system/file_rights.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"
 

@@ -1,0 +1,28 @@
+#include "host/hxahost/bundle/bundle.h"
+
+#include <stdexcept>
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+void Throw(const RecordedFailure& failure) {
+  switch (failure.kind) {
+    case FailureKind::kNotStarted: throw TSpawnException(SpawnFailure::kNotStarted, failure.message);
+    case FailureKind::kTooLong: throw TSpawnException(SpawnFailure::kTooLong, failure.message);
+    case FailureKind::kTooMuchOutput: throw TSpawnException(SpawnFailure::kTooMuchOutput, failure.message);
+    case FailureKind::kHost: throw THXAException(failure.message);
+    case FailureKind::kOther: break;
+  }
+  throw std::runtime_error(failure.message);
+}
+
+std::string CommandText(const RecordedRun& run) {
+  std::string text = run.path;
+  for (const std::string& argument : run.arguments) text += " " + argument;
+  return text;
+}
+
+std::size_t ItemCount(const Bundle& bundle) { return bundle.runs.size() + (bundle.raidLog ? 1 : 0); }
+
+}  // namespace hxahost

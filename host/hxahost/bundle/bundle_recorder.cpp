@@ -1,0 +1,114 @@
+#include "host/hxahost/bundle/bundle_recorder.h"
+
+#include <exception>
+#include <utility>
+
+#include "host/hxacore/whole_file.h"
+#include "platform/raid_manager_key.h"
+#include "platform/registry.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+FailureKind KindOf(SpawnFailure failure) {
+  switch (failure) {
+    case SpawnFailure::kNotStarted: return FailureKind::kNotStarted;
+    case SpawnFailure::kTooLong: return FailureKind::kTooLong;
+    case SpawnFailure::kTooMuchOutput: break;
+  }
+  return FailureKind::kTooMuchOutput;
+}
+
+// What is being thrown. Called where it is caught.
+RecordedFailure CurrentFailure() {
+  try {
+    throw;
+  } catch (const TSpawnException& failure) {
+    return {KindOf(failure.Failure()), failure.what()};
+  } catch (const THXAException& failure) {
+    return {FailureKind::kHost, failure.what()};
+  } catch (const std::exception& failure) {
+    return {FailureKind::kOther, failure.what()};
+  }
+}
+
+// The plug-in reads a log that cannot be captured all the same, as far as it can.
+std::string ReadAsFarAsPossible(const std::string& path) {
+  std::string text;
+  ReadWholeFile(path, text);
+  return text;
+}
+
+}  // namespace
+
+BundleRecorder::BundleRecorder(std::optional<std::uint16_t> osType, std::string directory) {
+  bundle_.program = ZENX_VERSION;
+  bundle_.directory = std::move(directory);
+  bundle_.osType = osType;
+  bundle_.osVersion = GetOsVersion();
+  bundle_.raidLogDir = ReadLocalMachineText(kRaidManagerKey, kRaidLogDirValue, kRaidLogPathSize);
+}
+
+HostServices BundleRecorder::Wrap(HostServices services, std::function<double()> lastRunSeconds) {
+  HostServices recording = services;
+  recording.spawn = [this, spawn = std::move(services.spawn), seconds = std::move(lastRunSeconds)](
+                        const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+    return Spawn(spawn, {path, arguments, limitSeconds, 0, {}, {}}, seconds);
+  };
+  recording.capture = [this, capture = std::move(services.capture)](const std::string& path) {
+    return Capture(capture, path);
+  };
+  recording.machineName = [this, machineName = std::move(services.machineName)] {
+    return bundle_.machine = machineName();
+  };
+  recording.localTime = [this, localTime = std::move(services.localTime)] {
+    const TCIMDateTime time = localTime();
+    AddTime(time);
+    return time;
+  };
+  return recording;
+}
+
+SpawnResult BundleRecorder::Spawn(const SpawnFunction& spawn, RecordedRun run,
+                                  const std::function<double()>& lastRunSeconds) {
+  try {
+    run.result = spawn(run.path, run.arguments, run.limitSeconds);
+  } catch (...) {
+    run.failure = CurrentFailure();
+    run.seconds = lastRunSeconds();
+    bundle_.runs.push_back(std::move(run));
+    throw;
+  }
+  run.seconds = lastRunSeconds();
+  bundle_.runs.push_back(std::move(run));
+  return bundle_.runs.back().result;
+}
+
+// The only file that plug-ins have the host read is the log.
+std::string BundleRecorder::Capture(const std::function<std::string(const std::string&)>& capture,
+                                    const std::string& path) {
+  RecordedLog& log = bundle_.raidLog.emplace();
+  log.path = path;
+  try {
+    log.bytes = capture(path);
+  } catch (...) {
+    log.failure = CurrentFailure();
+    log.bytes = ReadAsFarAsPossible(path);
+    throw;
+  }
+  return log.bytes;
+}
+
+void BundleRecorder::AddTime(const TCIMDateTime& time) {
+  std::vector<RecordedTime>& times = bundle_.localTimes;
+  if (!times.empty() && times.back().time.ToString() == time.ToString()) {
+    ++times.back().count;
+  } else {
+    times.push_back({time, 1});
+  }
+}
+
+}  // namespace hxahost

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "host/hxacore/host_services.h"
+#include "host/hxahost/bundle/bundle.h"
+
+namespace hxahost {
+
+// Keeps all that a collection is told.
+class BundleRecorder {
+ public:
+  // Takes down what the plug-in is told of the system, which does not pass through the services. The directory is
+  // UTF-8.
+  BundleRecorder(std::optional<std::uint16_t> osType, std::string directory);
+
+  // The services, with all that they say taken down; this outlives them. lastRunSeconds says how long the run took
+  // that has just ended.
+  NKVRHXA20::HostServices Wrap(NKVRHXA20::HostServices services, std::function<double()> lastRunSeconds);
+
+  void AddQuery(double seconds) { bundle_.querySeconds.push_back(seconds); }
+
+  const Bundle& Recorded() const { return bundle_; }
+
+ private:
+  NKVRHXA20::SpawnResult Spawn(const NKVRHXA20::SpawnFunction& spawn, RecordedRun run,
+                               const std::function<double()>& lastRunSeconds);
+  std::string Capture(const std::function<std::string(const std::string&)>& capture, const std::string& path);
+  void AddTime(const NKVRHXA20::TCIMDateTime& time);
+
+  Bundle bundle_;
+};
+
+}  // namespace hxahost

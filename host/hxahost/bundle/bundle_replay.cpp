@@ -1,0 +1,98 @@
+#include "host/hxahost/bundle/bundle_replay.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/text.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+std::vector<std::string> KeyOf(const std::string& path, const std::vector<std::string>& arguments) {
+  std::vector<std::string> key = {path};
+  key.insert(key.end(), arguments.begin(), arguments.end());
+  return key;
+}
+
+}  // namespace
+
+BundleReplay::BundleReplay(Bundle bundle) : bundle_(std::move(bundle)) {
+  for (std::size_t place = 0; place < bundle_.runs.size(); ++place) {
+    runs_[KeyOf(bundle_.runs[place].path, bundle_.runs[place].arguments)].places.push_back(place);
+  }
+}
+
+HostServices BundleReplay::Services() {
+  HostServices services = RealServices();
+  services.spawn = [this](const std::string& path, const std::vector<std::string>& arguments, int) {
+    return Spawn(path, arguments);
+  };
+  services.capture = [this](const std::string& path) { return Capture(path); };
+  services.machineName = [this] { return bundle_.machine; };
+  services.localTime = [this] { return LocalTime(); };
+  return services;
+}
+
+double BundleReplay::QuerySeconds(unsigned number) const {
+  return number <= bundle_.querySeconds.size() ? bundle_.querySeconds[number - 1] : 0;
+}
+
+void BundleReplay::CheckNothingWasMissing() const {
+  if (missing_.empty()) return;
+  throw ProgramError(ExitStatus::kQueryFailed,
+                     "The bundle does not hold what the plug-in asks for: " + Printable(missing_) +
+                         ". Record it again with this version of the plug-in.");
+}
+
+std::vector<std::string> BundleReplay::UnusedRuns() const {
+  std::vector<std::string> commands;
+  for (const auto& [key, same] : runs_) {
+    for (std::size_t index = same.used; index < same.places.size(); ++index) {
+      commands.push_back(CommandText(bundle_.runs[same.places[index]]));
+    }
+  }
+  return commands;
+}
+
+SpawnResult BundleReplay::Spawn(const std::string& path, const std::vector<std::string>& arguments) {
+  const auto found = runs_.find(KeyOf(path, arguments));
+  lastRunSeconds_ = 0;
+  if (found == runs_.end() || found->second.used == found->second.places.size()) {
+    const std::string again = found == runs_.end() ? "" : ", run once more than it was recorded";
+    ThrowMissing(CommandText({path, arguments, 0, 0, {}, {}}) + again);
+  }
+  const RecordedRun& run = bundle_.runs[found->second.places[found->second.used++]];
+  lastRunSeconds_ = run.seconds;
+  if (run.failure) Throw(*run.failure);
+  return run.result;
+}
+
+// The path is that of the file that stands in for the log.
+std::string BundleReplay::Capture(const std::string& path) {
+  if (!bundle_.raidLog) ThrowMissing("the file " + path);
+  if (bundle_.raidLog->failure) Throw(*bundle_.raidLog->failure);
+  return bundle_.raidLog->bytes;
+}
+
+TCIMDateTime BundleReplay::LocalTime() {
+  const std::vector<RecordedTime>& times = bundle_.localTimes;
+  if (times.empty()) ThrowMissing("the time");
+  if (timesUsed_ == times[time_].count && time_ + 1 < times.size()) {
+    ++time_;
+    timesUsed_ = 0;
+  }
+  if (timesUsed_ < times[time_].count) ++timesUsed_;
+  return times[time_].time;
+}
+
+// No failure of a tool: it ends the collection at once.
+void BundleReplay::ThrowMissing(const std::string& what) {
+  if (missing_.empty()) missing_ = what;
+  throw std::runtime_error("the bundle does not hold " + what);
+}
+
+}  // namespace hxahost

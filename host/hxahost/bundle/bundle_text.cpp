@@ -1,0 +1,120 @@
+#include "host/hxahost/bundle/bundle_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <iterator>
+
+#include <boost/crc.hpp>
+
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+struct ByteEscape {
+  char letter;
+  char byte;
+};
+
+constexpr ByteEscape kByteEscapes[] = {
+    {'\\', '\\'},
+    {'r',  '\r'},
+    {'t',  '\t'},
+    {'n',  '\n'},
+    {'"',  '"' },
+};
+
+// What a byte is written as; a quotation mark is itself where no text ends at one.
+std::string EscapedByte(char byte) {
+  const auto* const escape = std::ranges::find(kByteEscapes, byte, &ByteEscape::byte);
+  if (escape != std::end(kByteEscapes)) return {'\\', escape->letter};
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "\\x%02x", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+  return text.data();
+}
+
+std::string EscapeAll(std::string_view bytes, bool isQuoted) {
+  std::string text;
+  while (!bytes.empty()) {
+    const bool isMark = bytes.front() == '\\' || (isQuoted && bytes.front() == '"');
+    const std::size_t length = isMark ? 0 : PrintableLength(bytes);
+    if (length == 0) text += EscapedByte(bytes.front());
+    text += bytes.substr(0, length);
+    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return text;
+}
+
+// Takes an escape, without its backslash, off the front.
+std::optional<char> TakeEscape(std::string_view& text) {
+  if (text.empty()) return std::nullopt;
+  const auto* const escape = std::ranges::find(kByteEscapes, text.front(), &ByteEscape::letter);
+  if (escape != std::end(kByteEscapes)) {
+    text.remove_prefix(1);
+    return escape->byte;
+  }
+  constexpr std::size_t kLength = 3;  // x0d
+  unsigned byte = 0;
+  if (text.size() < kLength || text.front() != 'x') return std::nullopt;
+  const auto [end, error] = std::from_chars(text.data() + 1, text.data() + kLength, byte, 16);
+  if (error != std::errc() || end != text.data() + kLength) return std::nullopt;
+  text.remove_prefix(kLength);
+  return static_cast<char>(byte);
+}
+
+// The bytes that a text stands for, if that is how they are written: a bundle is written again as it was read.
+std::optional<std::string> UnescapeAll(std::string_view text, bool isQuoted) {
+  std::string bytes;
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    const std::size_t length = rest.front() == '\\' ? 0 : PrintableLength(rest);
+    if (length > 0) {
+      bytes += rest.substr(0, length);
+      rest.remove_prefix(length);
+      continue;
+    }
+    if (rest.front() != '\\') return std::nullopt;
+    rest.remove_prefix(1);
+    const auto byte = TakeEscape(rest);
+    if (!byte) return std::nullopt;
+    bytes += *byte;
+  }
+  if (EscapeAll(bytes, isQuoted) != text) return std::nullopt;
+  return bytes;
+}
+
+}  // namespace
+
+std::string EscapeBytes(std::string_view bytes) { return EscapeAll(bytes, false); }
+
+std::optional<std::string> UnescapeBytes(std::string_view text) { return UnescapeAll(text, false); }
+
+std::string Quote(std::string_view bytes) { return '"' + EscapeAll(bytes, true) + '"'; }
+
+std::optional<std::string> Unquote(std::string_view text) {
+  if (text.size() < 2 || text.front() != '"' || text.back() != '"') return std::nullopt;
+  return UnescapeAll(text.substr(1, text.size() - 2), true);
+}
+
+std::uint32_t Crc32(std::string_view bytes) {
+  boost::crc_32_type crc;
+  crc.process_bytes(bytes.data(), bytes.size());
+  return crc.checksum();
+}
+
+std::string HexText(std::uint32_t number) {
+  std::array<char, 16> text{};
+  std::snprintf(text.data(), text.size(), "%08x", static_cast<unsigned>(number));
+  return text.data();
+}
+
+std::string DecimalText(double number) {
+  std::array<char, 32> text{};
+  const auto result = std::to_chars(text.data(), text.data() + text.size(), number);
+  return {text.data(), result.ptr};
+}
+
+}  // namespace hxahost

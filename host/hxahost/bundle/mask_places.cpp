@@ -1,0 +1,117 @@
+#include "host/hxahost/bundle/mask_places.h"
+
+#include <algorithm>
+
+namespace hxahost {
+
+namespace {
+
+struct MaskedLabel {
+  std::string_view label;     // the line begins with it, behind blanks
+  std::size_t from = 0;       // characters behind the colon that are left
+  std::size_t shortest = 1;   // shorter values are left
+  std::string_view ofDevice;  // only of devices whose type contains this
+};
+
+// What names a thing for good, or was chosen by people. Left as they are: vendors, models, sizes, states, versions
+// ("EC Version#" too), part numbers of whole controllers, slots, channels, and the letters of arrays, which are the
+// tool's own. In the identifier of a hard disk the serial number stands behind model and firmware; its first character
+// is the last of the firmware's, and left. Other devices have no serial number there.
+constexpr MaskedLabel kLabels[] = {
+    {"Controller Serial Number", 0,  1, ""         },
+    {"Serial",                   0,  1, ""         }, // number
+    {"World-wide name",          0,  1, ""         },
+    {"FRU",                      0,  1, ""         }, // and part number
+    {"Controller FRU",           0,  1, ""         },
+    {"Battery FRU",              0,  1, ""         },
+    {"VPD Assigned",             0,  1, ""         },
+    {"Controller name",          0,  1, ""         },
+    {"Logical drive name",       0,  1, ""         },
+    {"Array name",               0,  1, ""         },
+    {"Enclosure ID",             0,  5, ""         }, // "0" is a place, "5000F0A0001B4000" a name for good
+    {"Device ID",                21, 1, "Hard disk"}, // " TALVERA T36LW10 S96H8B01234"
+};
+
+// What tools print where there is nothing to hide.
+constexpr std::string_view kNoValues[] = {"None", "N/A", "Not Available", "Not Applicable", "Unknown"};
+
+constexpr std::string_view kSpaceInLine = " \t\r";
+constexpr std::string_view kDeviceType = "Device is a";
+constexpr std::string_view kSerialAttribute = "serialNumber=\"";
+
+// Calls back with each line, without its line feed, and where it begins.
+template <class Call>
+void ForEachLine(std::string_view text, const Call& call) {
+  for (std::size_t begin = 0; begin < text.size();) {
+    const std::size_t end = std::min(text.find('\n', begin), text.size());
+    call(text.substr(begin, end - begin), begin);
+    begin = end + 1;
+  }
+}
+
+// The span without the white space around it; of no length where nothing is left.
+Span TrimmedSpan(std::string_view text, std::size_t begin, std::size_t end) {
+  while (begin < end && kSpaceInLine.find(text[begin]) != kSpaceInLine.npos) ++begin;
+  while (end > begin && kSpaceInLine.find(text[end - 1]) != kSpaceInLine.npos) --end;
+  return {begin, end - begin};
+}
+
+// The value on a line of the tools, by its label; of no length where it is none to be masked.
+Span ValueToMask(std::string_view line, std::string_view deviceType) {
+  const std::size_t first = line.find_first_not_of(kSpaceInLine);
+  const std::size_t colon = line.find(':');
+  if (first == line.npos || colon == line.npos) return {};
+  const std::string_view label = line.substr(first, std::max(colon, first) - first);
+  for (const MaskedLabel& row : kLabels) {
+    if (!label.starts_with(row.label) || deviceType.find(row.ofDevice) == deviceType.npos) continue;
+    const Span value = TrimmedSpan(line, std::min(colon + 1 + row.from, line.size()), line.size());
+    const bool isNone = std::ranges::count(kNoValues, line.substr(value.begin, value.length)) > 0;
+    return value.length < row.shortest || isNone ? Span{} : value;
+  }
+  return {};
+}
+
+// "<deadDrive serialNumber="NV3LE77Q2H" failureReason="device not responding" />": all that is quoted is prose.
+void AddAttributes(std::string_view line, std::size_t begin, SecretPlaces& places) {
+  std::size_t quote = line.find('"');
+  while (quote != line.npos) {
+    const std::size_t end = line.find('"', quote + 1);
+    if (end == line.npos) return;
+    const Span value{begin + quote + 1, end - quote - 1};
+    const bool isSerial = line.substr(0, quote + 1).ends_with(kSerialAttribute) && value.length > 0;
+    (isSerial ? places.secrets : places.prose).push_back(value);
+    quote = line.find('"', end + 1);
+  }
+}
+
+}  // namespace
+
+SecretPlaces FindInToolText(std::string_view text) {
+  SecretPlaces places;
+  std::string_view deviceType;
+  ForEachLine(text, [&](std::string_view line, std::size_t begin) {
+    if (const std::size_t type = line.find(kDeviceType); type != line.npos) deviceType = line.substr(type);
+    const std::size_t first = line.find_first_not_of(kSpaceInLine);
+    if (first != line.npos && line[first] == '<') return AddAttributes(line, begin, places);
+    const Span value = ValueToMask(line, deviceType);
+    if (value.length > 0) places.secrets.push_back({begin + value.begin, value.length});
+  });
+  return places;
+}
+
+// "2007/03/06 08:00:01 PST <tab> INF <tab> DBSERVER <tab> The agent has started."
+SecretPlaces FindInRaidLog(std::string_view text) {
+  SecretPlaces places;
+  ForEachLine(text, [&](std::string_view line, std::size_t begin) {
+    const std::size_t severity = line.find('\t');
+    const std::size_t machine = severity == line.npos ? line.npos : line.find('\t', severity + 1);
+    const std::size_t message = machine == line.npos ? line.npos : line.find('\t', machine + 1);
+    if (message == line.npos) return;
+    const Span name = TrimmedSpan(line, machine + 1, message);
+    if (name.length > 0) places.secrets.push_back({begin + name.begin, name.length});
+    places.prose.push_back({begin + message, line.size() - message});
+  });
+  return places;
+}
+
+}  // namespace hxahost

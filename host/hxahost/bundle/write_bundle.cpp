@@ -1,0 +1,90 @@
+#include <iterator>
+
+#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/bundle_text.h"
+
+namespace hxahost {
+
+namespace {
+
+using namespace bundle_format;
+
+static_assert(std::size(kFailureWords) == static_cast<std::size_t>(FailureKind::kOther) + 1);
+
+void Add(std::string& text, std::string_view label, std::string_view value) {
+  text.append(label).append(": ").append(value).append("\n");
+}
+
+void AddBytes(std::string& text, std::string_view label, std::string_view bytes) {
+  Add(text, label, std::to_string(bytes.size()) + std::string(kCrc) + HexText(Crc32(bytes)));
+  while (!bytes.empty()) {
+    const std::size_t end = bytes.find('\n');
+    text += end == bytes.npos ? kUnendedLine : kLine;
+    text += EscapeBytes(bytes.substr(0, end)) + "\n";
+    bytes.remove_prefix(end == bytes.npos ? bytes.size() : end + 1);
+  }
+}
+
+void AddFailure(std::string& text, const RecordedFailure& failure) {
+  const std::string_view word = kFailureWords[static_cast<std::size_t>(failure.kind)];
+  Add(text, "failure", std::string(word) + " " + Quote(failure.message));
+}
+
+std::string VersionLine(const OsVersion& version) {
+  if (!version.isWindowsNt) return std::string(kNone);
+  return std::to_string(version.major) + "." + std::to_string(version.minor);
+}
+
+void AddHeader(std::string& text, const Bundle& bundle) {
+  text.append(kMagic).append(std::to_string(kVersion)).append("\n");
+  Add(text, "program", Quote(bundle.program));
+  Add(text, "masked", bundle.isMasked ? "yes" : "no");
+  Add(text, "machine", Quote(bundle.machine));
+  Add(text, "directory", Quote(bundle.directory));
+  Add(text, "os-type", bundle.osType ? std::to_string(*bundle.osType) : std::string(kNone));
+  Add(text, "os-version", VersionLine(bundle.osVersion));
+  Add(text, "raid-log-dir", bundle.raidLogDir ? Quote(*bundle.raidLogDir) : std::string(kNone));
+  for (const RecordedTime& recorded : bundle.localTimes) {
+    Add(text, "local-time", recorded.time.ToString() + " " + std::to_string(recorded.count));
+  }
+  for (const double seconds : bundle.querySeconds) Add(text, "query-seconds", DecimalText(seconds));
+  Add(text, "items", std::to_string(ItemCount(bundle)));
+}
+
+void AddRun(std::string& text, const RecordedRun& run) {
+  Add(text, "path", Quote(run.path));
+  for (const std::string& argument : run.arguments) Add(text, "argument", Quote(argument));
+  Add(text, "limit", std::to_string(run.limitSeconds));
+  Add(text, "seconds", DecimalText(run.seconds));
+  if (run.failure) return AddFailure(text, *run.failure);
+  Add(text, "exit-status", run.result.exitStatus ? std::to_string(*run.result.exitStatus) : std::string(kNone));
+  Add(text, "ending", Quote(run.result.ending));
+  AddBytes(text, "output", run.result.output);
+}
+
+void AddLog(std::string& text, const RecordedLog& log) {
+  Add(text, "path", Quote(log.path));
+  if (log.failure) AddFailure(text, *log.failure);
+  AddBytes(text, "content", log.bytes);
+}
+
+}  // namespace
+
+std::string WriteBundle(const Bundle& bundle) {
+  std::string text;
+  AddHeader(text, bundle);
+  std::size_t number = 0;
+  for (const RecordedRun& run : bundle.runs) {
+    text += "\nrun " + std::to_string(++number) + "\n";
+    AddRun(text, run);
+  }
+  if (bundle.raidLog) {
+    text += "\nraid-log " + std::to_string(++number) + "\n";
+    AddLog(text, *bundle.raidLog);
+  }
+  text += "\n";
+  const std::uint32_t crc = Crc32(text);
+  return text.append(kEnd).append(HexText(crc)).append("\n");
+}
+
+}  // namespace hxahost

@@ -1,0 +1,51 @@
+#include "host/hxahost/collection/plugin.h"
+
+#include <exception>
+#include <string>
+
+#include "host/hxacore/host_services.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/system.h"
+#include "host/hxahost/text/text.h"
+#include "host/plugin_manager/plugin_manager_access.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+[[noreturn]] void Refuse(const std::filesystem::path& file, const std::string& reason) {
+  throw ProgramError(ExitStatus::kPluginNotLoaded, "The plug-in " + Printable(Utf8FromPath(file)) + " " + reason +
+                                                       ": give the path of zenx.pi with --plugin.");
+}
+
+}  // namespace
+
+// Loading is all there is to do: the plug-in registers itself with the manager.
+Plugin::Plugin(const std::filesystem::path& file) : manager_(TPluginManagerAccess::Install()) {
+  std::error_code unknown;
+  if (!std::filesystem::exists(file, unknown)) Refuse(file, "is missing");
+  try {
+    LoadPluginLibrary(file);
+  } catch (const std::exception& failure) {
+    Refuse(file, "cannot be loaded (" + Printable(failure.what()) + ")");
+  }
+  for (IPluginCallbacks* const plugin : TPluginManagerAccess::Plugins(*manager_)) {
+    if (query_ == nullptr) query_ = dynamic_cast<IPluginBasicQueryCallbacks*>(plugin);
+  }
+  if (query_ == nullptr) Refuse(file, "registered nothing that can be queried (a process loads a plug-in once)");
+}
+
+Plugin::~Plugin() {
+  TPluginManagerAccess::ReleasePlugins(*manager_);
+  SetPluginManager(nullptr);
+}
+
+void Plugin::Query(const boost::shared_ptr<ICIMNamespace>& nameSpace,
+                   const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
+  const std::lock_guard lock(oneAtATime_);
+  query_->Query(nameSpace, classes);
+}
+
+}  // namespace hxahost

@@ -1,0 +1,36 @@
+#include "host/hxahost/collection/query_log.h"
+
+#include <utility>
+
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+QueryLog::QueryLog(const std::filesystem::path& file) : name_(Printable(Utf8FromPath(file))) {
+  if (file.empty()) return;
+  file_.open(file, std::ios::binary);
+  if (!file_) {
+    throw ProgramError(
+        ExitStatus::kWrongArguments,
+        "--log " + name_ + " cannot be written: name a file in a folder that is there and that you may write to.");
+  }
+}
+
+void QueryLog::Add(int level, const std::string& text) {
+  entries_.push_back({level, text});
+  if (file_.is_open()) file_ << level << '\t' << EscapeControls(text) << '\n' << std::flush;
+}
+
+std::vector<LoggedEntry> QueryLog::Take() { return std::exchange(entries_, {}); }
+
+void QueryLog::Finish() {
+  if (!file_.is_open()) return;
+  file_.close();
+  if (!file_) {
+    throw ProgramError(ExitStatus::kQueryFailed,
+                       "--log " + name_ + " could not be written: see whether there is room on the disk.");
+  }
+}
+
+}  // namespace hxahost

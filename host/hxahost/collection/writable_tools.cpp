@@ -1,0 +1,41 @@
+#include "host/hxahost/collection/writable_tools.h"
+
+#include <algorithm>
+#include <system_error>
+#include <vector>
+
+#include "host/hxahost/system/file_rights.h"
+#include "host/hxahost/text/text.h"
+
+namespace fs = std::filesystem;
+
+namespace hxahost {
+
+namespace {
+
+// The files beside the tools count as they do: tools load libraries from their own folder.
+std::vector<fs::path> WhatMustBeSafe(const fs::path& directory) {
+  std::vector<fs::path> paths = {directory, directory / "zenx"};
+  std::error_code failure;
+  for (fs::directory_iterator entry(paths.back(), failure), end; !failure && entry != end; entry.increment(failure)) {
+    std::error_code unknown;
+    if (entry->is_regular_file(unknown)) paths.push_back(entry->path());
+  }
+  std::sort(paths.begin() + 2, paths.end());
+  return paths;
+}
+
+}  // namespace
+
+std::string WritableToolsWarning(const fs::path& directory) {
+  std::error_code unknown;
+  if (!fs::is_directory(directory / "zenx", unknown)) return "";
+  std::vector<fs::path> paths = WhatMustBeSafe(directory);
+  std::erase_if(paths, [](const fs::path& path) { return !OthersMayWrite(path); });
+  if (paths.empty()) return "";
+  const std::string more = paths.size() > 1 ? " and " + std::to_string(paths.size() - 1) + " more" : "";
+  return "others may write to " + Printable(Utf8FromPath(paths.front())) + more +
+         ", and what they put there runs with your rights: let only administrators write there.";
+}
+
+}  // namespace hxahost

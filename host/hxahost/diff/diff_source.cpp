@@ -1,0 +1,34 @@
+#include "host/hxahost/diff/diff_source.h"
+
+#include <string>
+
+#include "host/hxacore/host_services.h"
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/system.h"
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr int kLimitSeconds = 600;
+
+// Plug-ins collect once in a process, so each bundle is replayed by a process of its own.
+std::string QueryThatReplays(const std::filesystem::path& bundle) {
+  const auto result = NKVRHXA20::RealServices().spawn(
+      Utf8FromPath(ProgramFile()), {"query", "--format", "json", "--replay", Utf8FromPath(bundle)}, kLimitSeconds);
+  if (result.exitStatus == 0) return result.output;
+  throw ProgramError(ExitStatus::kWrongArguments,
+                     Printable(Utf8FromPath(bundle)) + " cannot be replayed: " + Printable(result.output));
+}
+
+}  // namespace
+
+JsonResult ReadResultOrBundle(const std::filesystem::path& file) {
+  if (!IsBundleFile(file)) return ReadJsonResult(file);
+  ReadBundleFile(file);  // what is wrong with it is said here, in one line
+  return ParseJsonResult(QueryThatReplays(file), Utf8FromPath(file));
+}
+
+}  // namespace hxahost

@@ -1,0 +1,151 @@
+#include "host/hxahost/diff/diff_view.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "host/hxahost/views/monitoring/finding_json.h"
+#include "host/hxahost/views/monitoring/finding_text.h"
+#include "host/hxahost/text/json_text.h"
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr std::string_view kHeadings[] = {
+    "Disappeared",      "States that changed", "Appeared", "Other properties that changed", "Log records", "Links",
+    "Counts that grew", "Times of collection",
+};
+static_assert(std::size(kHeadings) == static_cast<std::size_t>(ChangeGroup::kTime) + 1);
+
+std::string QuotedValue(const Json& value) {
+  if (value.is_null()) return "(not there)";
+  return "\"" + EscapeControls(value.is_string() ? value.get<std::string>() : value.dump()) + "\"";
+}
+
+std::string ChangeText(const Change& change) {
+  const std::string path = Printable(change.path);
+  if (change.kind == ChangeKind::kDisappeared) return "- " + path;
+  if (change.kind == ChangeKind::kAppeared) return "+ " + path;
+  const std::string moved = change.newPath.empty() ? "" : " (now " + Printable(change.newPath) + ")";
+  return "! " + path + moved + ": " + Printable(change.property) + " " + QuotedValue(change.before) + " -> " +
+         QuotedValue(change.after);
+}
+
+// The times of collection are always others: how many says enough.
+void WriteChanges(std::ostream& out, const ResultDiff& diff) {
+  for (auto first = diff.changes.begin(); first != diff.changes.end();) {
+    const ChangeGroup group = first->group;
+    const auto last =
+        std::find_if(first, diff.changes.end(), [group](const Change& each) { return each.group != group; });
+    out << '\n' << kHeadings[static_cast<std::size_t>(group)] << ": " << std::distance(first, last) << '\n';
+    if (group == ChangeGroup::kTime) return;
+    for (; first != last; ++first) out << "  " << ChangeText(*first) << '\n';
+  }
+}
+
+std::string FindingChangeText(const FindingChange& change) {
+  if (!change.before) return "+ " + FindingText(*change.after);
+  if (!change.after) return "- " + FindingText(*change.before);
+  return "! " + std::string(SeverityWord(change.before->severity)) + " -> " + FindingText(*change.after) + " (was " +
+         QuotedText(*change.before) + ")";
+}
+
+void WriteFindingChanges(std::ostream& out, const ResultDiff& diff) {
+  if (diff.findings.empty()) return;
+  out << "\nHealth findings: " << diff.findings.size() << '\n';
+  for (const FindingChange& change : diff.findings) out << "  " << FindingChangeText(change) << '\n';
+}
+
+void WriteRawTexts(std::ostream& out, const ResultDiff& diff) {
+  if (diff.rawTexts.empty()) return;
+  out << "\nRaw texts of commands: " << diff.rawTexts.size() << '\n';
+  for (const RawTextChange& change : diff.rawTexts) {
+    constexpr char kMarks[] = {'-', '+', '!'};
+    out << "  " << kMarks[static_cast<std::size_t>(change.kind)] << ' ' << Printable(change.command) << ": "
+        << "lines gone " << change.linesGone << ", new " << change.linesNew << "\n";
+  }
+}
+
+std::string NameText(const ComparedFile& file) { return Printable(file.name) + " (" + Printable(file.machine) + ")"; }
+
+void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
+  out << "From " << NameText(before) << " to " << NameText(after) << (IsSame(diff) ? ": no difference.\n" : ":\n");
+  WriteFindingChanges(out, diff);
+  WriteChanges(out, diff);
+  WriteRawTexts(out, diff);
+}
+
+Json FileJson(const ComparedFile& file) {
+  Json json = Json::object();
+  json["file"] = AsUtf8(file.name);
+  json["machine"] = file.machine;
+  return json;
+}
+
+Json ChangeJson(const Change& change) {
+  Json json = Json::object();
+  json["group"] = GroupWord(change.group);
+  json["kind"] = KindWord(change.kind);
+  json["class"] = change.className;
+  json["path"] = change.path;
+  if (!change.newPath.empty()) json["newPath"] = change.newPath;
+  if (change.kind != ChangeKind::kChanged) return json;
+  json["property"] = change.property;
+  json["old"] = change.before;
+  json["new"] = change.after;
+  return json;
+}
+
+Json RawTextJson(const RawTextChange& change) {
+  Json json = Json::object();
+  json["command"] = change.command;
+  json["kind"] = KindWord(change.kind);
+  json["linesGone"] = change.linesGone;
+  json["linesNew"] = change.linesNew;
+  return json;
+}
+
+Json FindingChangeJson(const FindingChange& change) {
+  Json json = Json::object();
+  const ChangeKind kind = !change.before  ? ChangeKind::kAppeared
+                          : !change.after ? ChangeKind::kDisappeared
+                                          : ChangeKind::kChanged;
+  json["kind"] = KindWord(kind);
+  json["old"] = change.before ? FindingJson(*change.before) : Json();
+  json["new"] = change.after ? FindingJson(*change.after) : Json();
+  return json;
+}
+
+void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
+  Json json = Json::object();
+  json["format"] = 1;
+  json["old"] = FileJson(before);
+  json["new"] = FileJson(after);
+  json["same"] = IsSame(diff);
+  json["findings"] = Json::array();
+  for (const FindingChange& change : diff.findings) json["findings"].push_back(FindingChangeJson(change));
+  json["changes"] = Json::array();
+  for (const Change& change : diff.changes) json["changes"].push_back(ChangeJson(change));
+  json["rawTexts"] = Json::array();
+  for (const RawTextChange& change : diff.rawTexts) json["rawTexts"].push_back(RawTextJson(change));
+  out << JsonText(json, 2) << '\n';
+}
+
+constexpr DiffView kDiffViews[] = {
+    {"text", WriteDiffText},
+    {"json", WriteDiffJson},
+};
+
+}  // namespace
+
+std::span<const DiffView> DiffViews() { return kDiffViews; }
+
+const DiffView* FindDiffView(std::string_view format) {
+  const auto* const view = std::ranges::find(kDiffViews, format, &DiffView::format);
+  return view == std::end(kDiffViews) ? nullptr : view;
+}
+
+}  // namespace hxahost

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "host/hxahost/diff/finding_diff.h"
+#include "host/hxahost/result/json_result.h"
+
+// What is different between two results, the worst first.
+namespace hxahost {
+
+enum class ChangeGroup {
+  kDisappeared,
+  kState,
+  kAppeared,
+  kProperty,
+  kLogRecord,  // one came or went
+  kLink,       // a link came or went
+  kCounter,    // a count that only grows has grown
+  kTime,       // a time of collection; makes no difference
+};
+
+// "disappeared", "state", ...: programs rely on the words.
+std::string_view GroupWord(ChangeGroup group);
+
+enum class ChangeKind { kDisappeared, kAppeared, kChanged };
+std::string_view KindWord(ChangeKind kind);
+
+struct Change {
+  ChangeGroup group = ChangeGroup::kProperty;
+  ChangeKind kind = ChangeKind::kChanged;
+  std::string className;
+  std::string path;     // in the old result, where it was there
+  std::string newPath;  // where it is another
+  std::string property;
+  nlohmann::ordered_json before;  // null: not there
+  nlohmann::ordered_json after;
+};
+
+// A command whose raw text is different.
+struct RawTextChange {
+  std::string command;
+  ChangeKind kind = ChangeKind::kChanged;
+  std::size_t linesGone = 0;
+  std::size_t linesNew = 0;
+};
+
+struct ResultDiff {
+  std::vector<Change> changes;  // by group, then in the order of the results
+  std::vector<RawTextChange> rawTexts;
+  std::vector<FindingChange> findings = {};  // of the rules of health
+};
+
+ResultDiff CompareResults(const JsonResult& before, const JsonResult& after);
+
+// Whether nothing but times of collection is different.
+bool IsSame(const ResultDiff& diff);
+
+}  // namespace hxahost

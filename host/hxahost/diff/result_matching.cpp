@@ -1,0 +1,124 @@
+#include "host/hxahost/diff/result_matching.h"
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <iterator>
+#include <map>
+#include <span>
+#include <string_view>
+#include <unordered_map>
+
+#include "host/hxahost/schema/class_names.h"
+
+namespace hxahost {
+
+namespace {
+
+using Instances = std::vector<const ResultInstance*>;
+using Key = std::function<std::string(const ResultInstance&)>;  // "" for none
+
+// The properties that tell an object from others of its class wherever it is found. The first must be there.
+struct InstanceIdentity {
+  std::string_view className;
+  std::string_view properties[3];
+};
+
+constexpr InstanceIdentity kIdentities[] = {
+    {kControllerClass,           {"SerialNum"}                },
+    {kDiskDriveClass,            {"DeviceSerialNum", "Model"} },
+    {kLogicalDiskClass,          {"LogicalDriveName"}         },
+    {"KVRSG_zxFirmwareVersion",  {"Name", "SoftwareElementID"}},
+    {"KVRSG_zxBootBlockVersion", {"Name", "SoftwareElementID"}},
+    {"KVRSG_zxBiosVersion",      {"Name", "SoftwareElementID"}},
+    {"KVRSG_zxDiskDriveVersion", {"SoftwareElementID", "Name"}},
+};
+
+constexpr std::string_view kLinkProperties[] = {"Antecedent", "Dependent", "ManagedElement", "Stats"};
+
+// Parts of a key stand apart by a character that no path has.
+constexpr char kApart = '\x1f';
+
+std::string IdentityKey(const ResultInstance& instance) {
+  const auto* const identity = std::ranges::find(kIdentities, instance.className, &InstanceIdentity::className);
+  if (identity == std::end(kIdentities) || ResultText(instance, std::string(identity->properties[0])).empty())
+    return "";
+  std::string key = instance.className;
+  for (const std::string_view property : identity->properties) {
+    if (!property.empty()) key += kApart + ResultText(instance, std::string(property));
+  }
+  return key;
+}
+
+std::unordered_map<std::string, std::deque<const ResultInstance*>> ByKey(const Instances& instances, const Key& key) {
+  std::unordered_map<std::string, std::deque<const ResultInstance*>> found;
+  for (const ResultInstance* const instance : instances) {
+    if (const std::string text = key(*instance); !text.empty()) found[text].push_back(instance);
+  }
+  return found;
+}
+
+// Moves what has the same key from the two rests to the pairs.
+void Match(MatchedInstances& matched, const Key& oldKey, const Key& newKey, bool isUniqueOnly) {
+  auto oldByKey = ByKey(matched.onlyOld, oldKey);
+  auto newByKey = ByKey(matched.onlyNew, newKey);
+  std::unordered_map<const ResultInstance*, bool> taken;
+  for (const ResultInstance* const instance : matched.onlyOld) {
+    const std::string key = oldKey(*instance);
+    const auto candidates = newByKey.find(key);
+    if (key.empty() || candidates == newByKey.end() || candidates->second.empty()) continue;
+    if (isUniqueOnly && (oldByKey[key].size() != 1 || candidates->second.size() != 1)) continue;
+    matched.pairs.emplace_back(instance, candidates->second.front());
+    taken[instance] = taken[candidates->second.front()] = true;
+    candidates->second.pop_front();
+  }
+  const auto isTaken = [&taken](const ResultInstance* instance) { return taken.contains(instance); };
+  std::erase_if(matched.onlyOld, isTaken);
+  std::erase_if(matched.onlyNew, isTaken);
+}
+
+std::string LinkKey(const ResultInstance& link, const std::map<std::string, std::string>& newPaths) {
+  if (!IsLink(link)) return "";
+  std::string key = link.className;
+  for (const std::string_view property : kLinkProperties) {
+    std::string path = ResultText(link, std::string(property));
+    const auto moved = newPaths.find(path);
+    key += kApart + (moved == newPaths.end() ? path : moved->second);
+  }
+  return key;
+}
+
+Instances Compared(const JsonResult& result) {
+  Instances instances;
+  for (const ResultInstance& instance : result.instances) {
+    if (!IsRawText(instance)) instances.push_back(&instance);
+  }
+  return instances;
+}
+
+}  // namespace
+
+bool IsRawText(const ResultInstance& instance) {
+  return instance.className == kRawDataClass || instance.className == kManagerRawDataClass;
+}
+
+bool IsLink(const ResultInstance& instance) {
+  return !instance.properties.empty() && std::ranges::all_of(instance.properties.items(), [](const auto& property) {
+    return std::ranges::find(kLinkProperties, property.key()) != std::end(kLinkProperties);
+  });
+}
+
+MatchedInstances MatchInstances(const JsonResult& before, const JsonResult& after) {
+  MatchedInstances matched{{}, Compared(before), Compared(after)};
+  const Key path = [](const ResultInstance& instance) { return instance.path; };
+  Match(matched, path, path, false);
+  Match(matched, IdentityKey, IdentityKey, true);
+  std::map<std::string, std::string> newPaths;
+  for (const auto& [old, now] : matched.pairs) newPaths[old->path] = now->path;
+  Match(
+      matched, [&newPaths](const ResultInstance& link) { return LinkKey(link, newPaths); },
+      [](const ResultInstance& link) { return LinkKey(link, {}); }, false);
+  return matched;
+}
+
+}  // namespace hxahost

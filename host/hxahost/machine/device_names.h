@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "host/hxahost/result/query_result.h"
+
+// How people and programs tell one instance from another.
+namespace hxahost {
+
+// "DeviceID" of a device, "InstanceID" of statistics; "" for every other class.
+std::string IdentifierOf(const NKVRHXA20::TPublishedInstance& instance);
+
+// "controller 4 (Zentraxis C6-e)", "logical drive 3 (Archive) of controller 4", "Hard drive at channel 0, ID 8 of
+// controller 4": bytes as the tools printed them; "" for a class of no device. The owner is what DeviceOwners says of
+// the instance; "" stands for its controller's number.
+std::string NameOf(const NKVRHXA20::TPublishedInstance& instance, const std::string& owner);
+
+}  // namespace hxahost

@@ -1,0 +1,180 @@
+#include "host/hxahost/machine/device_owners.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstddef>
+#include <iterator>
+#include <map>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/result/tool_names.h"
+
+using NKVRHXA20::TPublishedInstance;
+
+namespace hxahost {
+
+namespace {
+
+// What a property that has a text says of the utility. Signs that are not certain count where others have shown that
+// two controllers share a number: they tell one utility from those of the rows above them, in an answer that is whole.
+enum class Certainty { kCertain, kLikely };
+
+struct OwnerSign {
+  std::string_view className;
+  std::string_view property;
+  std::string_view tool;
+  Certainty certainty;
+};
+
+constexpr auto kCertain = Certainty::kCertain;
+constexpr auto kLikely = Certainty::kLikely;
+
+constexpr OwnerSign kOwnerSigns[] = {
+    {kControllerClass,  "ScsiChannelDescr",       kQcmdrun, kCertain},
+    {kControllerClass,  "InitiatorChannelScsiId", kQcmdrun, kCertain},
+    {kControllerClass,  "MaxPhysicalDevices",     kQcmdrun, kCertain},
+    {kControllerClass,  "ReadAhead",              kQcmdrun, kCertain},
+    {kControllerClass,  "InstalledMemory",        kArcconf, kCertain},
+    {kControllerClass,  "CopyBackEnabled",        kArcconf, kCertain},
+    {kControllerClass,  "VPD",                    kArcconf, kCertain},
+    {kControllerClass,  "ControllerType",         kArcconf, kLikely },
+    {kControllerClass,  "SerialNum",              kArcconf, kLikely },
+    {kControllerClass,  "ChannelDescription",     kHrconf,  kLikely },
+    {kControllerClass,  "ControllerStatus",       kHrconf,  kLikely },
+    {kLogicalDiskClass, "AccessBlocked",          kQcmdrun, kCertain},
+    {kLogicalDiskClass, "PartOfArray",            kQcmdrun, kCertain},
+    {kLogicalDiskClass, "PartOfMergeGroup",       kQcmdrun, kCertain},
+    {kLogicalDiskClass, "NumOfSegments",          kArcconf, kCertain},
+    {kLogicalDiskClass, "Partitioned",            kArcconf, kCertain},
+    {kLogicalDiskClass, "DefunctSegments",        kArcconf, kCertain},
+    {kLogicalDiskClass, "WriteCacheSetting",      kArcconf, kCertain},
+    {kLogicalDiskClass, "NumOfChunks",            kHrconf,  kCertain},
+    {kLogicalDiskClass, "DriveList",              kHrconf,  kLikely },
+    {kDiskGroupClass,   "Array",                  kQcmdrun, kCertain},
+    {kDiskDriveClass,   "ReportedESD",            kArcconf, kCertain},
+    {kDiskDriveClass,   "ReportedLocation",       kArcconf, kCertain},
+    {kDiskDriveClass,   "EnclosureId",            kArcconf, kCertain},
+    {kDiskDriveClass,   "DeviceNumber",           kHrconf,  kCertain},
+    {kDiskDriveClass,   "ScsiId",                 kQcmdrun, kLikely },
+    {kDiskDriveClass,   "Channel",                kQcmdrun, kLikely },
+};
+
+struct Told {
+  std::string_view tool;  // empty: nothing tells
+  Certainty certainty = Certainty::kLikely;
+};
+
+// "Device #4" of arcconf is "4" of hrconf_64.
+Told ToolOf(const TPublishedInstance& instance) {
+  if (PublishedText(instance, "DeviceNumber").starts_with("Device")) return {kArcconf, Certainty::kCertain};
+  for (const OwnerSign& sign : kOwnerSigns) {
+    if (instance.Class().name != sign.className || PublishedText(instance, sign.property).empty()) continue;
+    return {sign.tool, sign.certainty};
+  }
+  return {};
+}
+
+// The pairs "0,7" in a list of places, whatever stands around them.
+std::vector<std::string> PlacesIn(const std::string& text) {
+  const auto isPart = [](unsigned char character) { return std::isdigit(character) != 0 || character == ','; };
+  std::vector<std::string> places;
+  for (auto first = std::ranges::find_if(text, isPart); first != text.end();) {
+    const auto last = std::find_if_not(first, text.end(), isPart);
+    places.emplace_back(first, last);
+    first = std::find_if(last, text.end(), isPart);
+  }
+  std::erase_if(places, [](const std::string& place) { return place.find(',') == place.npos; });
+  return places;
+}
+
+// "Cntrlr4LogicalDrv2" of an array without a letter, whose identifier is "ZentraxisCntrlr4LogicalDrv2 0,2 0,3".
+std::string DriveOfArray(const TPublishedInstance& array) {
+  const std::string identifier = PublishedText(array, "CollectionID");
+  const std::size_t begin = identifier.find("Cntrlr");
+  return begin == identifier.npos ? "" : identifier.substr(begin, identifier.find(' ', begin) - begin);
+}
+
+// The drives that an array without a letter may stand for.
+using DrivesByName = std::multimap<std::string, const TPublishedInstance*>;
+
+DrivesByName LogicalDrives(const InstanceList& instances) {
+  DrivesByName drives;
+  for (const auto& instance : instances) {
+    if (instance->Class().name != kLogicalDiskClass) continue;
+    drives.emplace("Cntrlr" + PublishedText(*instance, "ControllerNum") + "LogicalDrv" +
+                       PublishedText(*instance, "LogicalDriveNum"),
+                   instance.get());
+  }
+  return drives;
+}
+
+// An array without a letter is of the utility whose drive has the same disks.
+Told ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
+  const std::vector<std::string> places = PlacesIn(PublishedText(array, "StripeOrder"));
+  const auto [first, last] = drives.equal_range(DriveOfArray(array));
+  const auto drive = std::find_if(first, last, [&places](const auto& each) {
+    return places == PlacesIn(PublishedText(*each.second, "StripeOrder")) ||
+           places == PlacesIn(PublishedText(*each.second, "DriveList"));
+  });
+  return drive == last ? Told() : ToolOf(*drive->second);
+}
+
+// A device with its number and the utility that described it; the number is empty of what is no device.
+struct Owned {
+  std::string number;
+  Told told;
+};
+
+std::vector<Owned> FindOwners(const InstanceList& instances) {
+  constexpr std::string_view kDevices[] = {kControllerClass, kLogicalDiskClass, kDiskGroupClass, kDiskDriveClass};
+  const DrivesByName drives = LogicalDrives(instances);
+  std::vector<Owned> owners;
+  for (const auto& instance : instances) {
+    if (std::ranges::find(kDevices, instance->Class().name) == std::end(kDevices)) {
+      owners.emplace_back();
+      continue;
+    }
+    Told told = ToolOf(*instance);
+    if (told.tool.empty() && instance->Class().name == kDiskGroupClass) told = ToolOfArray(*instance, drives);
+    owners.push_back({PublishedText(*instance, "ControllerNum"), told});
+  }
+  return owners;
+}
+
+// The numbers that controllers of two utilities have.
+std::set<std::string> SharedNumbers(const InstanceList& instances, const std::vector<Owned>& owners) {
+  std::map<std::string, std::set<std::string_view>> certain;
+  std::map<std::string, std::set<std::string_view>> controllers;
+  for (std::size_t place = 0; place < owners.size(); ++place) {
+    const auto& [number, told] = owners[place];
+    if (told.tool.empty() || number.empty()) continue;
+    if (told.certainty == Certainty::kCertain) certain[number].insert(told.tool);
+    if (instances[place]->Class().name == kControllerClass) controllers[number].insert(told.tool);
+  }
+  std::set<std::string> shared;
+  for (const auto* const tools : {&certain, &controllers}) {
+    for (const auto& [number, names] : *tools) {
+      if (names.size() > 1) shared.insert(number);
+    }
+  }
+  return shared;
+}
+
+}  // namespace
+
+std::vector<std::string> DeviceOwners(const InstanceList& instances) {
+  const std::vector<Owned> owners = FindOwners(instances);
+  const std::set<std::string> shared = SharedNumbers(instances, owners);
+  std::vector<std::string> texts;
+  for (const auto& [number, told] : owners) {
+    const std::string_view tool = told.tool.empty() ? "tool not known" : told.tool;
+    texts.push_back(shared.contains(number) ? number + " (" + std::string(tool) + ")" : number);
+  }
+  return texts;
+}
+
+}  // namespace hxahost

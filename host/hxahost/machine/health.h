@@ -1,0 +1,29 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "host/hxahost/machine/finding.h"
+#include "host/hxahost/machine/health_rules.h"
+#include "host/hxahost/result/query_result.h"
+
+// Whether anything is wrong with a machine, by the rules of health_rules.h.
+namespace hxahost {
+
+// What a rule, or the lack of one, says of a value.
+struct Judgement {
+  Severity severity = Severity::kFine;
+  std::string_view meaning;  // lives as long as the program
+};
+
+// The classes that health is read from, in the order in which they are to be asked for.
+std::span<const std::string_view> HealthClasses();
+
+// Judges one text under the rules of a value that hold anywhere.
+Judgement JudgeText(const WatchedValue& value, std::string_view text);
+
+// Everything that is wrong with what a query gave, worst first; what is equally bad in the order of the rules. Of
+// classes that were not asked for nothing is missed.
+Findings EvaluateHealth(const QueryHeader& header, const QueryResult& result);
+
+}  // namespace hxahost

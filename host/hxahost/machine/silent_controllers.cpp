@@ -1,0 +1,123 @@
+#include "host/hxahost/machine/silent_controllers.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "host/hxacore/value_reader.h"
+#include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/machine/health_rules.h"
+#include "host/hxahost/result/published_text.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::string_view kBelongToOne[] = {kLogicalDiskClass, kDiskGroupClass, kDiskDriveClass};
+
+// A status as a utility printed it, under the command that was run.
+struct FailedStatus {
+  std::string command;
+  std::string text;
+};
+
+// Decimal numbers without leading zeros.
+bool IsLowerNumber(const std::string& left, const std::string& right) {
+  return std::make_pair(left.size(), left) < std::make_pair(right.size(), right);
+}
+
+// The numbers of controllers that something belongs to but that are not there, from the lowest.
+std::vector<std::string> UnpublishedNumbers(const InstanceList& instances) {
+  std::set<std::string> seen;
+  for (const auto& instance : instances) {
+    if (instance->Class().name == kControllerClass) seen.insert(PublishedText(*instance, "ControllerNum"));
+  }
+  std::vector<std::string> numbers;
+  for (const auto& instance : instances) {
+    if (std::ranges::find(kBelongToOne, instance->Class().name) == std::end(kBelongToOne)) continue;
+    const std::string number = PublishedText(*instance, "ControllerNum");
+    if (seen.insert(number).second) numbers.push_back(number);
+  }
+  std::ranges::sort(numbers, IsLowerNumber);
+  return numbers;
+}
+
+// "   Controller Status                        : Failed"
+std::string StatusOn(const std::string& line) {
+  const std::size_t label = line.find("Controller Status");
+  const std::size_t colon = label == line.npos ? line.npos : line.find(':', label);
+  if (colon == line.npos) return {};
+  const std::size_t begin = line.find_first_not_of(" \t", colon + 1);
+  if (begin == line.npos) return {};
+  return line.substr(begin, line.find_last_not_of(" \t\r\n") - begin + 1);
+}
+
+// The first status line counts, as it does for the plug-in; the word that it looks for is in this spelling.
+std::string FailedStatusIn(const std::vector<TCIMValue>& lines) {
+  for (const TCIMValue& line : lines) {
+    const std::string status = StatusOn(std::string(line));
+    if (!status.empty()) return status.find("Failed") == status.npos ? "" : status;
+  }
+  return {};
+}
+
+std::vector<FailedStatus> FailedStatuses(const InstanceList& instances) {
+  std::vector<FailedStatus> failed;
+  for (const auto& instance : instances) {
+    const std::string command = PublishedText(*instance, "Command");
+    if (instance->Class().name != kRawDataClass || command.find(" getconfig ") == command.npos) continue;
+    for (const PublishedProperty& property : instance->Properties()) {
+      if (TCIMValueReader::Kind(property.value) != ValueKind::kArray) continue;
+      const std::string status = FailedStatusIn(TCIMValueReader::Elements(property.value));
+      if (!status.empty()) failed.push_back({command, status});
+    }
+  }
+  return failed;
+}
+
+Finding UnpublishedFinding(const std::string& number, const std::string& status) {
+  const HealthRule& rule = RuleFor(kPresence, "not published");
+  return {rule.severity,
+          std::string(kControllerClass),
+          "Zentraxis" + number,
+          "controller " + number,
+          std::string(rule.value->property),
+          status,
+          std::string(rule.meaning)};
+}
+
+Finding FailedFinding(const FailedStatus& failed) {
+  const HealthRule& rule = RuleFor(kPresence, "failed");
+  return {rule.severity,
+          std::string(kRawDataClass),
+          failed.command,
+          "the controller of the command " + failed.command,
+          std::string(kStatus.property),
+          failed.text,
+          std::string(rule.meaning)};
+}
+
+}  // namespace
+
+// Both lists are in the order of the controllers' numbers. Where they are equally long they speak of the same
+// controllers; otherwise there is no telling which belong together, and each is shown for itself.
+Findings SilentControllers(const InstanceList& instances) {
+  const std::vector<std::string> numbers = UnpublishedNumbers(instances);
+  const std::vector<FailedStatus> failed = FailedStatuses(instances);
+  const bool isSame = numbers.size() == failed.size();
+  Findings findings;
+  for (std::size_t index = 0; index < numbers.size(); ++index) {
+    findings.push_back(UnpublishedFinding(numbers[index], isSame ? failed[index].text : ""));
+  }
+  if (isSame) return findings;
+  for (const FailedStatus& each : failed) findings.push_back(FailedFinding(each));
+  return findings;
+}
+
+}  // namespace hxahost

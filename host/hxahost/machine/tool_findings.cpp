@@ -1,0 +1,134 @@
+#include "host/hxahost/machine/tool_findings.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "host/hxahost/machine/health_rules.h"
+#include "host/hxahost/result/tool_run.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::string_view kConfiguration = "getconfig";
+constexpr std::string_view kOnlyKept = "getlogs";  // no state is read from the logs that arcconf prints
+
+std::string_view CommandOf(const ToolRun& run) {
+  return run.arguments.empty() ? std::string_view() : std::string_view(run.arguments.front());
+}
+
+bool HoldsOfRun(Where where, const ToolRun& run) {
+  switch (where) {
+    case Where::kOnConfiguration: return CommandOf(run) == kConfiguration;
+    case Where::kOnState: return CommandOf(run) != kOnlyKept;
+    default: return where == Where::kAnywhere;
+  }
+}
+
+const HealthRule& RuleForRun(const ToolRun& run) {
+  return *std::ranges::find_if(HealthRules(), [&run](const HealthRule& rule) {
+    return rule.value == &kOutcome && rule.word == OutcomeWord(run.outcome) && HoldsOfRun(rule.where, run);
+  });
+}
+
+// Runs of one utility that went wrong in one way.
+struct Trouble {
+  const HealthRule* rule = nullptr;
+  std::string tool;
+  std::string reason;
+  std::string firstCommand;
+  std::size_t times = 0;
+};
+
+std::vector<Trouble> Troubles(const ToolRunList& runs) {
+  std::vector<Trouble> troubles;
+  for (const ToolRun& run : runs) {
+    const HealthRule& rule = RuleForRun(run);
+    if (rule.severity == Severity::kFine) continue;
+    const std::string tool = ToolName(run.path);
+    const auto same = std::ranges::find_if(troubles, [&](const Trouble& trouble) {
+      return trouble.rule == &rule && trouble.tool == tool && trouble.reason == run.failure;
+    });
+    if (same == troubles.end()) {
+      troubles.push_back({&rule, tool, run.failure, ArgumentsText(run), 1});
+    } else {
+      ++same->times;
+    }
+  }
+  return troubles;
+}
+
+Finding AsFinding(const Trouble& trouble) {
+  std::string name = trouble.tool + " " + trouble.firstCommand;
+  if (trouble.times > 1) name += " and " + std::to_string(trouble.times - 1) + " more";
+  return {trouble.rule->severity,
+          std::string(kToolRun),
+          trouble.tool,
+          std::move(name),
+          std::string(kOutcome.property),
+          std::string(trouble.rule->word) + ": " + trouble.reason,
+          std::string(trouble.rule->meaning)};
+}
+
+// The controllers that a utility described, by tool and number.
+std::size_t CountAnswers(const ToolRunList& runs) {
+  std::set<std::pair<std::string, std::string>> answers;
+  for (const ToolRun& run : runs) {
+    const bool isWhole = run.outcome == Outcome::kOk && CommandOf(run) == kConfiguration && run.arguments.size() > 1;
+    if (isWhole) answers.emplace(ToolName(run.path), run.arguments[1]);
+  }
+  return answers.size();
+}
+
+Finding OfCollection(std::string_view word, std::string text) {
+  const HealthRule& rule = RuleFor(kAnswers, word);
+  return {rule.severity,   std::string(kToolRun),    "collection", "the collection", std::string(kAnswers.property),
+          std::move(text), std::string(rule.meaning)};
+}
+
+std::optional<Finding> LogFinding(const std::string& text) {
+  const Words head = LogHead(text);
+  const auto rule = std::ranges::find_if(HealthRules(), [&head](const HealthRule& each) {
+    return each.value == &kLogText && !head.empty() && each.word == head.front();
+  });
+  if (rule == HealthRules().end()) return std::nullopt;
+  return Finding{rule->severity, std::string(kLog),         "log", "the log", std::string(kLogText.property),
+                 text,           std::string(rule->meaning)};
+}
+
+// The log may say one thing twice, in a line and in a longer form.
+void AddLogFindings(const std::vector<LoggedEntry>& log, Findings& findings) {
+  std::set<std::string> seen;
+  for (const LoggedEntry& entry : log) {
+    const auto finding = LogFinding(entry.text);
+    if (finding && seen.insert(finding->meaning).second) findings.push_back(*finding);
+  }
+}
+
+}  // namespace
+
+Findings ToolFindings(const QueryResult& result) {
+  Findings findings;
+  for (const Trouble& trouble : Troubles(result.runs)) findings.push_back(AsFinding(trouble));
+  AddLogFindings(result.log, findings);
+  return findings;
+}
+
+// Later queries of one program run no tool.
+Findings AnswerFindings(const QueryResult& result, std::size_t known) {
+  const std::size_t answers = CountAnswers(result.runs);
+  Findings findings;
+  if (answers > known) {
+    findings.push_back(OfCollection(
+        "not published", std::to_string(answers) + " controllers answered, " + std::to_string(known) + " are known"));
+  }
+  if (result.runs.empty() && result.number == 1) findings.push_back(OfCollection("no tool was run", "no run"));
+  return findings;
+}
+
+}  // namespace hxahost

@@ -1,9 +1,0 @@
-#include <iostream>
-
-#include "host/hxahost/program.h"
-#include "host/hxahost/system.h"
-
-int main(int argc, char** argv) {
-  const hxahost::StandardStreams streams;
-  return hxahost::RunProgram(hxahost::ProgramArguments(argc, argv), std::cout, std::cerr);
-}

@@ -1,0 +1,138 @@
+#include "host/hxahost/program/bundle_command.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <optional>
+
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/bundle_mask.h"
+#include "host/hxahost/bundle/bundle_text.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/output_file.h"
+#include "host/hxahost/system/system.h"
+#include "host/hxahost/text/text.h"
+#include "host/hxahost/result/tool_run.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+struct Item {
+  std::string name;
+  std::string_view bytes;
+  std::string seconds;  // that it took; "-" for the log
+  std::string outcome;
+};
+
+Item RunItem(const RecordedRun& run) {
+  ToolRunList runs;
+  const SpawnFunction repeat = [&run](const std::string&, const std::vector<std::string>&, int) {
+    if (run.failure) Throw(*run.failure);
+    return run.result;
+  };
+  try {
+    SpawnAndRecord(repeat, run.path, run.arguments, run.limitSeconds, runs);
+  } catch (const std::exception&) {
+    // What came of it stands in the list of runs, as it did when it was run.
+  }
+  const ToolRun& read = runs.front();
+  std::array<char, 32> seconds{};
+  std::snprintf(seconds.data(), seconds.size(), "%.3f", run.seconds);
+  const std::string reason = read.failure.empty() ? "" : ": " + read.failure;
+  return {CommandText(run), run.result.output, seconds.data(), std::string(OutcomeWord(read.outcome)) + reason};
+}
+
+Item LogItem(const RecordedLog& log) {
+  return {log.path, log.bytes, "-", log.failure ? "not captured: " + log.failure->message : "ok"};
+}
+
+Item ItemOf(const Bundle& bundle, std::size_t number) {
+  return number <= bundle.runs.size() ? RunItem(bundle.runs[number - 1]) : LogItem(*bundle.raidLog);
+}
+
+std::string Right(const std::string& text, std::size_t width) {
+  return std::string(width - std::min(width, text.size()), ' ') + text;
+}
+
+// Everything that was printed so far, written as the reader of a terminal may have it.
+void WriteReadable(std::ostream& out, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const std::size_t end = bytes.find('\n');
+    std::string_view line = bytes.substr(0, end);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    out << EscapeControls(line) << "\n";
+    bytes.remove_prefix(end == bytes.npos ? bytes.size() : end + 1);
+  }
+}
+
+// The lines of the file up to the first item.
+void ShowHeader(const Bundle& bundle, std::ostream& out) {
+  Bundle header = bundle;
+  header.runs.clear();
+  header.raidLog.reset();
+  const std::string text = WriteBundle(header);
+  out << text.substr(0, text.find("items: "));
+  out << "items: " << ItemCount(bundle) << "\n";
+}
+
+void CheckItems(const Bundle& bundle, const BundleOptions& options) {
+  for (const std::size_t number : options.items) {
+    if (number > ItemCount(bundle)) {
+      throw ProgramError(ExitStatus::kWrongArguments, "ITEM " + std::to_string(number) + ": this bundle has " +
+                                                          std::to_string(ItemCount(bundle)) +
+                                                          "; \"hxahost bundle list\" shows them.");
+    }
+  }
+}
+
+void ShowItems(const Bundle& bundle, const BundleOptions& options, std::ostream& out) {
+  for (const std::size_t number : options.items) {
+    const Item item = ItemOf(bundle, number);
+    if (options.isRaw) {
+      out << item.bytes;
+    } else {
+      out << number << ": " << Printable(item.name) << " (" << Printable(item.outcome) << ")\n";
+      WriteReadable(out, item.bytes);
+    }
+  }
+}
+
+}  // namespace
+
+void ListBundle(const BundleOptions& options, std::ostream& out) {
+  const Bundle bundle = ReadBundleFile(PathFromUtf8(options.file));
+  out << " ITEM     BYTES   SECONDS  COMMAND (OUTCOME)\n";
+  for (std::size_t number = 1; number <= ItemCount(bundle); ++number) {
+    const Item item = ItemOf(bundle, number);
+    out << Right(std::to_string(number), 5) << Right(std::to_string(item.bytes.size()), 10) << Right(item.seconds, 10)
+        << "  " << Printable(item.name) << " (" << Printable(item.outcome) << ")\n";
+  }
+}
+
+void ShowBundle(const BundleOptions& options, std::ostream& out) {
+  const Bundle bundle = ReadBundleFile(PathFromUtf8(options.file));
+  CheckItems(bundle, options);
+  if (options.isRaw && options.output.empty() && StandardOutputIsTerminal()) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       "--raw could give commands to this terminal: leave it out, or name a file with --output.");
+  }
+  std::optional<OutputFile> file;
+  if (!options.output.empty()) file.emplace(PathFromUtf8(options.output));
+  std::ostream& shown = file ? file->Stream() : out;
+  if (options.items.empty()) ShowHeader(bundle, shown);
+  ShowItems(bundle, options, shown);
+  if (file) file->Finish();
+}
+
+void MaskBundleFile(const BundleOptions& options) {
+  const Bundle bundle = ReadBundleFile(PathFromUtf8(options.file));
+  OutputFile file(PathFromUtf8(options.output), "OUT");
+  file.Stream() << WriteBundle(MaskBundle(bundle, SystemRandom()));
+  file.Finish();
+}
+
+}  // namespace hxahost

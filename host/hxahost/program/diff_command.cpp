@@ -1,0 +1,41 @@
+#include "host/hxahost/program/diff_command.h"
+
+#include <exception>
+
+#include "host/hxahost/diff/diff_source.h"
+#include "host/hxahost/diff/diff_view.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/diff/result_diff.h"
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+int Compare(const DiffOptions& options, std::ostream& out) {
+  const JsonResult before = ReadResultOrBundle(PathFromUtf8(options.oldFile));
+  const JsonResult after = ReadResultOrBundle(PathFromUtf8(options.newFile));
+  const ResultDiff diff = CompareResults(before, after);
+  FindDiffView(options.format)->Write(out, {options.oldFile, before.machine}, {options.newFile, after.machine}, diff);
+  out.flush();
+  if (!out) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       "Standard output could not be written: see whether there is room where it goes.");
+  }
+  return IsSame(diff) ? 0 : 1;
+}
+
+}  // namespace
+
+int RunDiffCommand(const DiffOptions& options, std::ostream& out) {
+  try {
+    return Compare(options, out);
+  } catch (const ProgramError&) {
+    throw;
+  } catch (const std::exception& failure) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       "The results could not be compared: " + Printable(failure.what()) + ".");
+  }
+}
+
+}  // namespace hxahost

@@ -1,0 +1,26 @@
+#include "host/hxahost/program/health_command.h"
+
+#include "host/hxahost/machine/health.h"
+#include "host/hxahost/views/monitoring/health_views.h"
+#include "host/hxahost/program/query_command.h"
+
+namespace hxahost {
+
+Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
+  const HealthView& view = *FindHealthView(options.format);
+  QueryOptions query = options;
+  query.classes.assign(HealthClasses().begin(), HealthClasses().end());
+  Severity worst = Severity::kUnknown;
+  QueryDisplay display;
+  display.begin = [](std::ostream&, const QueryHeader&) {};
+  display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
+    const HealthReport report{header, result, EvaluateHealth(header, result), result.seconds};
+    worst = WorstOf(report.findings);
+    view.Write(shown, report);
+  };
+  display.end = [](std::ostream&, const QueryHeader&) {};
+  RunQueries(query, display, out, err);
+  return worst;
+}
+
+}  // namespace hxahost

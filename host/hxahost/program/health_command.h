@@ -1,0 +1,14 @@
+#pragma once
+
+#include <ostream>
+
+#include "host/hxahost/machine/finding.h"
+#include "host/hxahost/program/options.h"
+
+namespace hxahost {
+
+// "hxahost health": collects as a query does, writes what is wrong to the output that the options name (out where they
+// name none) and gives the worst of it. Throws ProgramError.
+Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
+
+}  // namespace hxahost

@@ -1,0 +1,9 @@
+#include <iostream>
+
+#include "host/hxahost/program/program.h"
+#include "host/hxahost/system/system.h"
+
+int main(int argc, char** argv) {
+  const hxahost::StandardStreams streams;
+  return hxahost::RunProgram(hxahost::ProgramArguments(argc, argv), std::cout, std::cerr);
+}

@@ -1,0 +1,64 @@
+#include "host/hxahost/program/option_values.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <string_view>
+
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/text/text.h"
+#include "plugin/host_interface/exception.h"
+
+namespace hxahost {
+
+std::optional<unsigned> WholeNumber(const std::string& text) {
+  unsigned number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return number;
+}
+
+void Reject(const std::string& option, const std::string& typed, const std::string& whatToGive) {
+  throw ProgramError(ExitStatus::kWrongArguments, option + " " + Printable("\"" + typed + "\"") + ": " + whatToGive);
+}
+
+unsigned ReadRepeat(const std::string& text) {
+  const auto number = WholeNumber(text);
+  if (!number || *number == 0) Reject("--repeat", text, "give a whole number from 1 on.");
+  return *number;
+}
+
+std::optional<std::uint16_t> ReadOsType(const std::string& text) {
+  if (text == "none") return std::nullopt;
+  const auto number = WholeNumber(text);
+  if (!number || *number > std::numeric_limits<std::uint16_t>::max()) {
+    Reject("--os-type", text, "give a number from 0 to 65535, or none.");
+  }
+  return static_cast<std::uint16_t>(*number);
+}
+
+NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text) {
+  try {
+    return NKVRHXA20::TCIMDateTime(text);
+  } catch (const NKVRHXA20::THXAException&) {
+    Reject("--local-time", text,
+           "give a CIM date and time, yyyymmddhhmmss.mmmmmmsutc, such as 20260305123015.250000+060.");
+  }
+}
+
+unsigned ReadWidth(const std::string& text) {
+  const auto number = WholeNumber(text);
+  if (!number || *number < kNarrowestPage || *number > kWidestPage) {
+    Reject("--width", text, "give a whole number from 40 to 1000.");
+  }
+  return *number;
+}
+
+void CheckColor(const std::string& text) {
+  constexpr std::string_view kWords[] = {"auto", "always", "never"};
+  if (std::ranges::count(kWords, text) == 0) Reject("--color", text, "give auto, always or never.");
+}
+
+}  // namespace hxahost

@@ -1,0 +1,67 @@
+#include "host/hxahost/program/program.h"
+
+#include <exception>
+
+#include "host/hxacore/schema.h"
+#include "host/hxahost/program/bundle_command.h"
+#include "host/hxahost/program/diff_command.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/program/health_command.h"
+#include "host/hxahost/views/monitoring/health_views.h"
+#include "host/hxahost/program/options.h"
+#include "host/hxahost/program/query_command.h"
+#include "host/hxahost/schema/schema_view.h"
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+// Gives the exit status.
+int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
+  int status = static_cast<int>(ExitStatus::kDone);
+  switch (commandLine.command) {
+    case Command::kShowText: out << commandLine.text; break;
+    case Command::kQuery: RunQueryCommand(commandLine.query, out, err); break;
+    case Command::kHealth: status = static_cast<int>(RunHealthCommand(commandLine.query, out, err)); break;
+    case Command::kHealthRules: WriteHealthRules(out); break;
+    case Command::kClasses: WriteClassList(out, NKVRHXA20::PublishedClasses()); break;
+    case Command::kSchema: FindSchemaView(commandLine.schemaFormat)->Write(out, NKVRHXA20::PublishedClasses()); break;
+    case Command::kBundleList: ListBundle(commandLine.bundle, out); break;
+    case Command::kBundleShow: ShowBundle(commandLine.bundle, out); break;
+    case Command::kBundleMask: MaskBundleFile(commandLine.bundle); break;
+    case Command::kDiff: status = RunDiffCommand(commandLine.diff, out); break;
+  }
+  out.flush();
+  if (!out) {
+    throw ProgramError(ExitStatus::kQueryFailed,
+                       "Standard output could not be written: see whether there is room where it goes.");
+  }
+  return status;
+}
+
+// To a monitoring program 1 is a warning and 2 a disaster. What keeps "health" from its answer leaves the health
+// unknown.
+ExitStatus StatusFor(const std::vector<std::string>& arguments, ExitStatus status) {
+  const bool isHealth = !arguments.empty() && arguments.front() == "health";
+  return isHealth ? ExitStatus::kHealthUnknown : status;
+}
+
+int Fail(std::ostream& err, ExitStatus status, const std::string& message) {
+  err << "hxahost: " << message << std::endl;
+  return static_cast<int>(status);
+}
+
+}  // namespace
+
+int RunProgram(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
+  try {
+    return Run(ParseCommandLine(arguments), out, err);
+  } catch (const ProgramError& error) {
+    return Fail(err, StatusFor(arguments, error.Status()), error.what());
+  } catch (const std::exception& failure) {
+    return Fail(err, StatusFor(arguments, ExitStatus::kQueryFailed), "Failed: " + Printable(failure.what()) + ".");
+  }
+}
+
+}  // namespace hxahost

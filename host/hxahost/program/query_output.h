@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <ostream>
+
+#include "host/hxahost/terminal/ascii_output.h"
+#include "host/hxahost/program/options.h"
+#include "host/hxahost/system/output_file.h"
+
+namespace hxahost {
+
+// Where a query is shown, and the page that its tables are made for.
+class QueryOutput {
+ public:
+  // To the file, or to out where the path is "". Throws ProgramError where the file cannot be written.
+  QueryOutput(const QueryOptions& options, const std::filesystem::path& file, std::ostream& out);
+  QueryOutput(const QueryOutput&) = delete;
+  QueryOutput& operator=(const QueryOutput&) = delete;
+
+  std::ostream& Stream() { return *page_; }
+  bool IsFile() const { return file_.has_value(); }
+
+  // The file takes its place; without this what was there before stays. Throws ProgramError.
+  void Finish();
+
+ private:
+  std::optional<OutputFile> file_;
+  std::ostream& shown_;
+  TAsciiBuffer asciiBuffer_;
+  std::ostream ascii_;
+  std::ostream* page_;
+};
+
+}  // namespace hxahost

@@ -1,0 +1,122 @@
+#include "host/hxahost/result/json_result.h"
+
+#include <string_view>
+#include <utility>
+
+#include "host/hxacore/whole_file.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+// A result nests seven deep. What is done with a value calls itself for each level, and room for that ends somewhere.
+constexpr int kDeepest = 32;
+
+class NoResult : public std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+const Json& Member(const Json& object, const char* name) {
+  if (!object.is_object()) throw NoResult("an object is missing");
+  const auto member = object.find(name);
+  if (member == object.end()) throw NoResult("\"" + std::string(name) + "\" is missing");
+  return *member;
+}
+
+const Json& Member(const Json& object, const char* name, Json::value_t type) {
+  const Json& member = Member(object, name);
+  if (member.type() != type) throw NoResult("\"" + std::string(name) + "\" is missing");
+  return member;
+}
+
+bool CheckDepth(int depth, Json::parse_event_t, const Json&) {
+  if (depth > kDeepest) throw NoResult("it is nested too deep");
+  return true;
+}
+
+ResultInstance ReadInstance(const Json& json) {
+  return {Member(json, "class", Json::value_t::string), Member(json, "path", Json::value_t::string),
+          Member(json, "properties", Json::value_t::object)};
+}
+
+LoggedEntry ReadEntry(const Json& json) {
+  if (!Member(json, "level").is_number_integer()) throw NoResult("\"level\" is missing");
+  return {json["level"].get<int>(), Member(json, "text", Json::value_t::string)};
+}
+
+ToolRun ReadJsonRun(const Json& json) {
+  ToolRun run;
+  run.path = Member(json, "command", Json::value_t::string);
+  for (const Json& argument : Member(json, "arguments", Json::value_t::array)) {
+    if (!argument.is_string()) throw NoResult("an argument is no text");
+    run.arguments.push_back(argument);
+  }
+  const std::string outcome = Member(json, "outcome", Json::value_t::string);
+  const auto read = OutcomeOfWord(outcome);
+  if (!read) throw NoResult("the outcome \"" + outcome + "\" is not known");
+  run.outcome = *read;
+  run.failure = Member(json, "failure", Json::value_t::string);
+  return run;
+}
+
+// What is in a list of a query that may be missing. Gives whether it was there.
+template <class Items, class Read>
+bool AddItems(Items& items, const Json& query, const char* name, Read read) {
+  if (!query.is_object() || !query.contains(name)) return false;
+  for (const Json& json : Member(query, name, Json::value_t::array)) items.push_back(read(json));
+  return true;
+}
+
+JsonResult ReadWholeResult(const Json& json) {
+  if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
+  const Json& format = Member(json, "format", Json::value_t::number_unsigned);
+  if (format != 1) throw NoResult("its format is " + format.dump() + ", not 1");
+  const Json& queries = Member(json, "queries", Json::value_t::array);
+  if (queries.empty()) throw NoResult("it has no query");
+  JsonResult result;
+  result.machine = Member(json, "machine", Json::value_t::string);
+  for (const Json& instance : Member(queries.back(), "instances", Json::value_t::array)) {
+    result.instances.push_back(ReadInstance(instance));
+  }
+  ToolRunList runs;
+  bool haveRuns = true;
+  for (const Json& query : queries) {
+    AddItems(result.log, query, "log", ReadEntry);
+    haveRuns = AddItems(runs, query, "runs", ReadJsonRun) && haveRuns;
+  }
+  if (haveRuns) result.runs = std::move(runs);
+  return result;
+}
+
+[[noreturn]] void RejectFile(const std::string& name, const std::string& why) {
+  throw ProgramError(ExitStatus::kWrongArguments, Printable(name) + " " + why);
+}
+
+}  // namespace
+
+JsonResult ReadJsonResult(const std::filesystem::path& file) {
+  const std::string name = Utf8FromPath(file);
+  std::string text;
+  if (!NKVRHXA20::ReadWholeFile(file, text)) RejectFile(name, "cannot be read: name a file that is there.");
+  return ParseJsonResult(text, name);
+}
+
+JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
+  try {
+    return ReadWholeResult(Json::parse(text, CheckDepth, false));
+  } catch (const NoResult& reason) {
+    RejectFile(name, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
+  }
+}
+
+std::string ResultText(const ResultInstance& instance, const std::string& property) {
+  const auto value = instance.properties.find(property);
+  if (value == instance.properties.end()) return "";
+  return value->is_string() ? value->get<std::string>() : value->dump();
+}
+
+}  // namespace hxahost

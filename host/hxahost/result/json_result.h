@@ -1,0 +1,39 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "host/hxahost/result/query_result.h"
+
+// Results that "hxahost query --format json" wrote earlier.
+namespace hxahost {
+
+// One published instance. Texts are UTF-8, as the file holds them.
+struct ResultInstance {
+  std::string className;
+  std::string path;
+  nlohmann::ordered_json properties;  // an object
+};
+
+struct JsonResult {
+  std::string machine;
+  std::vector<ResultInstance> instances;  // of the last query
+  std::vector<LoggedEntry> log = {};      // of all queries
+  std::optional<ToolRunList> runs = {};   // of all queries; nothing where the result was written without them
+};
+
+// Throws ProgramError (wrong arguments) for a file that cannot be read and for one that is no such result.
+JsonResult ReadJsonResult(const std::filesystem::path& file);
+
+// The same from the text itself, which messages call by the name.
+JsonResult ParseJsonResult(std::string_view text, const std::string& name);
+
+// The property as text; "" where it is not there.
+std::string ResultText(const ResultInstance& instance, const std::string& property);
+
+}  // namespace hxahost

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <boost/shared_ptr.hpp>
+
+#include "host/hxacore/repository.h"
+#include "host/hxahost/result/tool_run.h"
+#include "plugin/host_interface/date_time.h"
+
+namespace hxahost {
+
+// What holds for all queries of one run of the program.
+struct QueryHeader {
+  std::string machine;
+  std::string directory;  // the working directory of the tools, in full, UTF-8
+  NKVRHXA20::TCIMDateTime time;
+  std::vector<std::string> classes;  // asked for, in their order, under their declared names
+  unsigned queryCount = 1;
+  bool withRuns = false;    // what programs read has the runs of the tools
+  bool withUnread = false;  // lines of the raw texts that no property shows are listed
+};
+
+inline bool IsAskedFor(const QueryHeader& header, std::string_view className) {
+  return std::ranges::find(header.classes, className) != header.classes.end();
+}
+
+// One entry of the plug-in's log.
+struct LoggedEntry {
+  int level = 0;
+  std::string text;
+};
+
+using InstanceList = std::vector<boost::shared_ptr<const NKVRHXA20::TPublishedInstance>>;
+
+// What one query gave.
+struct QueryResult {
+  unsigned number = 1;  // counted from 1
+  InstanceList instances;
+  std::vector<LoggedEntry> log;  // since the previous query ended
+  ToolRunList runs = {};         // since the previous query ended
+  double seconds = 0;            // that it took
+};
+
+}  // namespace hxahost

@@ -1,0 +1,129 @@
+#include "host/hxahost/result/tool_answer.h"
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+
+#include "host/hxahost/text/text.h"
+#include "host/hxahost/result/tool_names.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::string_view kOutcomeWords[] = {"ok",      "refused",   "empty",      "failed",
+                                              "cut off", "timed out", "not started"};
+static_assert(std::size(kOutcomeWords) == static_cast<std::size_t>(Outcome::kNotStarted) + 1);
+
+// The command that asks for a controller as a whole: its answer decides whether the plug-in takes the controller.
+constexpr std::string_view kProbe = "getconfig";
+constexpr std::string_view kControllerHeading = "Controller information";
+
+// Every answer of every utility ends in this line.
+constexpr std::string_view kClosing = "Command completed successfully";
+
+struct AnswerSign {
+  std::string_view text;
+  Outcome outcome;
+};
+
+constexpr AnswerSign kQcmdrunSigns[] = {
+    {"Found 0 KVR Zentraxis controller(s)", Outcome::kRefused},
+    {"Command aborted",                     Outcome::kRefused},
+};
+
+constexpr AnswerSign kHrconfSigns[] = {
+    {"Controllers found: 0",      Outcome::kRefused},
+    {"Invalid controller number", Outcome::kRefused},
+};
+
+// A driver that is too old for the utility keeps a controller from being read: it is there all the same.
+constexpr AnswerSign kArcconfSigns[] = {
+    {"Driver Update Required",    Outcome::kFailed },
+    {"Controllers found: 0",      Outcome::kRefused},
+    {"Invalid controller number", Outcome::kRefused},
+};
+
+struct Tool {
+  std::string_view name;
+  std::span<const AnswerSign> signs;
+  std::size_t mostRuns;  // with eight controllers
+};
+
+constexpr Tool kTools[] = {
+    {kQcmdrun, kQcmdrunSigns, 8 + 8 * 8 + 8 + 8 * 7},
+    {kHrconf,  kHrconfSigns,  8 + 8 * 3 + 8 + 8    },
+    {kArcconf, kArcconfSigns, 8 + 8 * 5 + 8        },
+};
+
+bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
+
+// The line in which the text at this place stands, as far as a reader wants it. Some answers are one line of megabytes:
+// no more of it is made printable than may fill the width.
+std::string LineAt(std::string_view text, std::size_t place) {
+  const std::size_t before = text.rfind('\n', place);
+  const std::size_t first = before == text.npos ? 0 : before + 1;
+  constexpr std::size_t kWidest = 200;
+  constexpr std::size_t kMostBytes = 20 * kWidest;
+  const std::string_view line = text.substr(first, text.find('\n', place) - first);
+  return CutToWidth(Printable(line.substr(0, kMostBytes)), kWidest);
+}
+
+// A log may quote any text; a complete answer to another command is no refusal for having it.
+const AnswerSign* FindSign(std::span<const AnswerSign> signs, bool isProbe, std::string_view output) {
+  if (!isProbe && Contains(output, kClosing)) return nullptr;
+  const auto sign =
+      std::ranges::find_if(signs, [output](const AnswerSign& each) { return Contains(output, each.text); });
+  return sign == signs.end() ? nullptr : &*sign;
+}
+
+std::string LastLine(std::string_view output) {
+  const std::size_t end = output.find_last_not_of(" \t\r\n");
+  return end == output.npos ? "" : LineAt(output, end);
+}
+
+}  // namespace
+
+std::string_view OutcomeWord(Outcome outcome) { return kOutcomeWords[static_cast<std::size_t>(outcome)]; }
+
+std::optional<Outcome> OutcomeOfWord(std::string_view word) {
+  const auto found = std::ranges::find(kOutcomeWords, word);
+  if (found == std::end(kOutcomeWords)) return std::nullopt;
+  return static_cast<Outcome>(found - std::begin(kOutcomeWords));
+}
+
+std::string ToolName(std::string_view path) {
+  const std::size_t slash = path.find_last_of("/\\");
+  std::string_view name = slash == path.npos ? path : path.substr(slash + 1);
+  if (name.ends_with(".exe")) name.remove_suffix(4);
+  return std::string(name);
+}
+
+std::vector<std::string_view> KnownTools() {
+  std::vector<std::string_view> names;
+  for (const Tool& tool : kTools) names.push_back(tool.name);
+  return names;
+}
+
+std::size_t MostRuns() {
+  std::size_t runs = 0;
+  for (const Tool& tool : kTools) runs += tool.mostRuns;
+  return runs;
+}
+
+ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output) {
+  if (output.find_first_not_of(" \t\r\n") == output.npos) return {Outcome::kEmpty, "it wrote nothing"};
+  const auto* const known = std::ranges::find(kTools, tool, &Tool::name);
+  if (known == std::end(kTools)) return {};
+  const bool isProbe = !arguments.empty() && arguments.front() == kProbe;
+  if (const AnswerSign* const sign = FindSign(known->signs, isProbe, output)) {
+    return {sign->outcome, LineAt(output, output.find(sign->text))};
+  }
+  if (!Contains(output, kClosing)) return {Outcome::kCutOff, "its last line is \"" + LastLine(output) + "\""};
+  if (isProbe && !Contains(output, kControllerHeading)) {
+    return {Outcome::kFailed, "its answer has no \"" + std::string(kControllerHeading) + "\""};
+  }
+  return {};
+}
+
+}  // namespace hxahost

@@ -1,0 +1,81 @@
+#include "host/hxahost/result/tool_run.h"
+
+#include <chrono>
+#include <utility>
+
+#include "host/hxahost/text/text.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+Outcome OutcomeOf(SpawnFailure failure) {
+  switch (failure) {
+    case SpawnFailure::kNotStarted: return Outcome::kNotStarted;
+    case SpawnFailure::kTooLong: return Outcome::kTimedOut;
+    case SpawnFailure::kTooMuchOutput: break;
+  }
+  return Outcome::kCutOff;
+}
+
+// An answer that looks complete is no success where the program itself says otherwise.
+void ReadAnswerOf(const SpawnResult& result, ToolRun& run) {
+  run.exitStatus = result.exitStatus;
+  run.bytes = result.output.size();
+  ReadAnswer answer = ReadToolAnswer(ToolName(run.path), run.arguments, result.output);
+  if (answer.outcome == Outcome::kOk && !result.ending.empty()) {
+    answer = {Outcome::kFailed, "it was ended by the system: " + Printable(result.ending)};
+  } else if (answer.outcome == Outcome::kOk && result.exitStatus.value_or(0) != 0) {
+    answer = {Outcome::kFailed, "its exit status is " + std::to_string(*result.exitStatus)};
+  }
+  run.outcome = answer.outcome;
+  run.failure = std::move(answer.reason);
+}
+
+// Takes the time until it goes, however that comes.
+class Stopwatch {
+ public:
+  explicit Stopwatch(double& seconds) : seconds_(seconds) {}
+  ~Stopwatch() { seconds_ = std::chrono::duration<double>(Clock::now() - begin_).count(); }
+  Stopwatch(const Stopwatch&) = delete;
+  Stopwatch& operator=(const Stopwatch&) = delete;
+
+ private:
+  double& seconds_;
+  Clock::time_point begin_ = Clock::now();
+};
+
+}  // namespace
+
+std::string ArgumentsText(const ToolRun& run) {
+  std::string text;
+  for (const std::string& argument : run.arguments) text += (text.empty() ? "" : " ") + Printable(argument);
+  return text;
+}
+
+SpawnResult SpawnAndRecord(const SpawnFunction& spawn, const std::string& path,
+                           const std::vector<std::string>& arguments, int limitSeconds, ToolRunList& runs) {
+  ToolRun& run = runs.emplace_back();
+  run.path = path;
+  run.arguments = arguments;
+  run.outcome = Outcome::kNotStarted;
+  const Stopwatch stopwatch(run.seconds);
+  try {
+    SpawnResult result = spawn(path, arguments, limitSeconds);
+    ReadAnswerOf(result, run);
+    return result;
+  } catch (const TSpawnException& failure) {
+    run.outcome = OutcomeOf(failure.Failure());
+    run.failure = Printable(failure.what());
+    throw;
+  } catch (const std::exception& failure) {
+    run.failure = Printable(failure.what());
+    throw;
+  }
+}
+
+}  // namespace hxahost

@@ -1,0 +1,144 @@
+#include "host/hxahost/result/unread_lines.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cstdio>
+
+#include "host/hxacore/value_reader.h"
+#include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/result/raw_text_values.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+bool IsOfRawText(const TPublishedInstance& instance) {
+  return instance.Class().name == kRawDataClass || instance.Class().name == kManagerRawDataClass;
+}
+
+bool IsSpace(char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; }
+
+// One blank between words, none at the ends.
+std::string WithSingleBlanks(std::string_view text) {
+  std::string words;
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    if (!IsSpace(text[index])) {
+      words += text[index];
+    } else if (!words.empty() && words.back() != ' ') {
+      words += ' ';
+    }
+  }
+  if (!words.empty() && words.back() == ' ') words.pop_back();
+  return words;
+}
+
+// Codes are published as numbers and printed as eight hexadecimal digits.
+std::string CodeText(unsigned long number) {
+  std::array<char, 24> text{};
+  std::snprintf(text.data(), text.size(), "%08lx", number);
+  return text.data();
+}
+
+template <class Add>
+void ForEachText(const TCIMValue& value, const Add& add) {
+  switch (TCIMValueReader::Kind(value)) {
+    case ValueKind::kNone:
+    case ValueKind::kReference: return;
+    case ValueKind::kString: return add(WithSingleBlanks(TCIMValueReader::Text(value)));
+    case ValueKind::kDateTime: return add(TCIMValueReader::DateTime(value));
+    case ValueKind::kUInt16:
+    case ValueKind::kUInt32:
+      add(std::to_string(TCIMValueReader::Number(value)));
+      return add(CodeText(TCIMValueReader::Number(value)));
+    case ValueKind::kArray:
+      for (const TCIMValue& element : TCIMValueReader::Elements(value)) ForEachText(element, add);
+  }
+}
+
+bool IsWordEdge(const std::string& text, std::size_t place) {
+  return place == 0 || place >= text.size() || std::ispunct(static_cast<unsigned char>(text[place])) != 0 ||
+         std::ispunct(static_cast<unsigned char>(text[place - 1])) != 0 || text[place] == ' ' || text[place - 1] == ' ';
+}
+
+bool ContainsWords(const std::string& text, const std::string& words) {
+  const std::size_t place = text.find(words);
+  return place != text.npos && IsWordEdge(text, place) && IsWordEdge(text, place + words.size());
+}
+
+std::string LowerCase(std::string text) {
+  std::ranges::transform(text, text.begin(), [](unsigned char each) { return static_cast<char>(std::tolower(each)); });
+  return text;
+}
+
+}  // namespace
+
+ShownValues::ShownValues(const InstanceList& instances) {
+  const auto add = [this](std::string text) {
+    if (text.empty() || !texts_.insert(text).second) return;
+    if (text.find(' ') != text.npos) longTexts_.push_back(std::move(text));
+  };
+  for (const auto& instance : instances) {
+    if (IsOfRawText(*instance)) continue;
+    for (const PublishedProperty& property : instance->Properties()) ForEachText(property.value, add);
+  }
+}
+
+bool ShownValues::Shows(std::string_view value) const {
+  const std::string words = WithSingleBlanks(value);
+  return words.empty() || texts_.contains(words) || texts_.contains(LowerCase(words)) || ShowsPieces(words) ||
+         ShowsWords(words);
+}
+
+bool ShownValues::ShowsPieces(std::string_view value) const {
+  constexpr std::string_view kSeparators = ",/";
+  if (value.find_first_of(kSeparators) == value.npos) return false;
+  while (!value.empty()) {
+    const std::size_t end = value.find_first_of(kSeparators);
+    const std::string piece = WithSingleBlanks(value.substr(0, end));
+    if (!piece.empty() && !texts_.contains(piece)) return false;
+    if (end == value.npos) break;
+    value.remove_prefix(end + 1);
+  }
+  return true;
+}
+
+// One word is found in some sentence by chance.
+bool ShownValues::ShowsWords(const std::string& value) const {
+  return value.find(' ') != value.npos &&
+         std::ranges::any_of(longTexts_, [&value](const std::string& text) { return ContainsWords(text, value); });
+}
+
+std::vector<std::size_t> UnreadLines(const std::vector<std::string>& lines, const ShownValues& shown) {
+  std::vector<std::size_t> unread;
+  for (const RawValues& read : ReadRawValues(lines)) {
+    if (std::ranges::all_of(read.values, [&shown](const std::string& value) { return shown.Shows(value); })) continue;
+    for (std::size_t index = 0; index < read.lineCount; ++index) unread.push_back(read.firstLine + index);
+  }
+  return unread;
+}
+
+std::vector<UnreadText> FindUnreadLines(const InstanceList& instances) {
+  const ShownValues shown(instances);
+  std::vector<UnreadText> texts;
+  for (std::size_t place = 0; place < instances.size(); ++place) {
+    const TPublishedInstance& instance = *instances[place];
+    if (!IsOfRawText(instance)) continue;
+    UnreadText text;
+    text.instance = place;
+    std::vector<std::string> lines;
+    for (const PublishedProperty& property : instance.Properties()) {
+      if (property.name == "Command") text.command = TCIMValueReader::Text(property.value);
+      if (property.name != "RawResults") continue;
+      for (const TCIMValue& line : TCIMValueReader::Elements(property.value)) lines.emplace_back(std::string(line));
+    }
+    text.unread = UnreadLines(lines, shown);
+    for (const std::size_t line : text.unread) text.unreadLines.push_back(lines[line]);
+    if (!text.unread.empty()) texts.push_back(std::move(text));
+  }
+  return texts;
+}
+
+}  // namespace hxahost

@@ -1,0 +1,80 @@
+#include "host/hxahost/schema/schema_view.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/hxacore/value_type.h"
+#include "host/hxahost/text/mof_text.h"
+#include "host/hxahost/schema/property_origins.h"
+#include "host/hxahost/schema/schema_markdown.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+// CIM's own, word for word: a compiler that has no schema yet needs them.
+constexpr std::string_view kQualifiers =
+    "// The qualifiers are CIM's own. Leave their declarations out where the namespace has them already.\n"
+    "Qualifier Association : boolean = false, Scope(association), Flavor(DisableOverride);\n"
+    "Qualifier Description : string = null, Scope(any), Flavor(Translatable);\n"
+    "Qualifier Key : boolean = false, Scope(property, reference), Flavor(DisableOverride);\n"
+    "Qualifier MappingStrings : string[], Scope(class, property, association, indication, reference);\n";
+
+std::string MofType(const PropertyDeclaration& property) {
+  if (property.type == kCIMReference) return std::string(property.referencedClass) + " REF";
+  return TypeName(property.type);
+}
+
+void WriteOrigins(std::ostream& out, const std::vector<std::string>& lines) {
+  std::string_view separator = ",\n   MappingStrings {";
+  for (const std::string& line : lines) {
+    out << separator << MofText(line);
+    separator = ", ";
+  }
+  if (!lines.empty()) out << '}';
+}
+
+void WriteProperty(std::ostream& out, const ClassDeclaration& declaration, const PropertyDeclaration& property) {
+  out << "  [" << (property.isKey ? "Key, " : "") << "Description(" << MofText(property.description) << ")";
+  WriteOrigins(out, OriginLines(declaration.name, property.name));
+  out << "]\n  " << MofType(property) << ' ' << property.name << (property.isArray ? "[]" : "") << ";\n";
+}
+
+constexpr SchemaView kSchemaViews[] = {
+    {"mof",      WriteSchemaMof     },
+    {"markdown", WriteSchemaMarkdown},
+};
+
+}  // namespace
+
+void WriteClassList(std::ostream& out, std::span<const ClassDeclaration> classes) {
+  std::size_t width = 0;
+  for (const ClassDeclaration& declaration : classes) width = std::max(width, declaration.name.size());
+  for (const ClassDeclaration& declaration : classes) {
+    out << declaration.name << std::string(width - declaration.name.size() + 2, ' ') << declaration.description << '\n';
+  }
+}
+
+void WriteSchemaMof(std::ostream& out, std::span<const ClassDeclaration> classes) {
+  out << kQualifiers;
+  for (const ClassDeclaration& declaration : classes) {
+    out << "\n[" << (declaration.isAssociation ? "Association, " : "") << "Description("
+        << MofText(declaration.description) << ")]\nclass " << declaration.name << " {\n";
+    for (const PropertyDeclaration& property : declaration.properties) WriteProperty(out, declaration, property);
+    out << "};\n";
+  }
+}
+
+std::span<const SchemaView> SchemaViews() { return kSchemaViews; }
+
+const SchemaView* FindSchemaView(std::string_view format) {
+  const auto* const view = std::ranges::find(kSchemaViews, format, &SchemaView::format);
+  return view == std::end(kSchemaViews) ? nullptr : view;
+}
+
+}  // namespace hxahost

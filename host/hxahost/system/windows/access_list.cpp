@@ -1,0 +1,51 @@
+#include "host/hxahost/system/windows/access_list.h"
+
+#include <algorithm>
+
+namespace hxahost {
+
+namespace {
+
+// Whoever may log on belongs to one of these.
+constexpr WELL_KNOWN_SID_TYPE kOthers[] = {WinWorldSid, WinAuthenticatedUserSid, WinBuiltinUsersSid,
+                                           WinBuiltinGuestsSid, WinInteractiveSid};
+
+// In a folder the first makes files. Appending is left out: it changes no program, and in a folder, where the same bit
+// makes folders, Windows gives it to everybody from the root of a drive on.
+constexpr DWORD kChanges = FILE_WRITE_DATA | FILE_DELETE_CHILD | DELETE | WRITE_DAC | WRITE_OWNER;
+
+bool IsGroup(PSID sid, WELL_KNOWN_SID_TYPE group) { return IsWellKnownSid(sid, group) != 0; }
+
+// What the list gives a group: of each right the first entry that names it decides. What is denied to everyone is
+// denied to the group.
+DWORD RightsOf(WELL_KNOWN_SID_TYPE group, ACL& list) {
+  GENERIC_MAPPING mapping{FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
+  DWORD allowed = 0;
+  DWORD denied = 0;
+  for (DWORD index = 0; index < list.AceCount; ++index) {
+    void* entry = nullptr;
+    if (GetAce(&list, index, &entry) == 0) continue;
+    const auto& header = *static_cast<const ACE_HEADER*>(entry);
+    const bool allows = header.AceType == ACCESS_ALLOWED_ACE_TYPE;
+    const bool denies = header.AceType == ACCESS_DENIED_ACE_TYPE;
+    if ((header.AceFlags & INHERIT_ONLY_ACE) != 0 || (!allows && !denies)) continue;
+    // Allowing and denying entries have the same layout.
+    auto& access = *static_cast<ACCESS_ALLOWED_ACE*>(entry);
+    if (!IsGroup(&access.SidStart, group) && !(denies && IsGroup(&access.SidStart, WinWorldSid))) continue;
+    DWORD rights = access.Mask;
+    MapGenericMask(&rights, &mapping);
+    if (allows) allowed |= rights & ~denied;
+    if (denies) denied |= rights & ~allowed;
+  }
+  return allowed;
+}
+
+}  // namespace
+
+bool LetsOthersWrite(ACL* list) {
+  return list == nullptr || std::ranges::any_of(kOthers, [list](WELL_KNOWN_SID_TYPE group) {
+           return (RightsOf(group, *list) & kChanges) != 0;
+         });
+}
+
+}  // namespace hxahost

@@ -1,0 +1,67 @@
+#include "host/hxahost/terminal/progress.h"
+
+#include <algorithm>
+
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::size_t kRoomForSeconds = 9;
+
+}  // namespace
+
+// A line that fills a terminal's last column may wrap.
+Progress::Progress(std::ostream& terminal, std::size_t width, std::size_t atMost)
+    : terminal_(terminal), width_(width - 1), atMost_(atMost), clock_([this] { Run(); }) {}
+
+Progress::~Progress() {
+  {
+    const std::lock_guard lock(mutex_);
+    isOver_ = true;
+  }
+  changed_.notify_one();
+  clock_.join();
+  Clear();
+}
+
+void Progress::Begin(const std::string& what) {
+  const std::lock_guard lock(mutex_);
+  ++begun_;
+  const std::string place =
+      atMost_ == 0 ? "" : " (" + std::to_string(begun_) + " of at most " + std::to_string(atMost_) + ")";
+  what_ = CutToWidth(Printable(what), width_ - kRoomForSeconds - place.size()) + place;
+  since_ = std::chrono::steady_clock::now();
+  Draw(what_);
+}
+
+void Progress::End() {
+  const std::lock_guard lock(mutex_);
+  what_.clear();
+}
+
+void Progress::Clear() {
+  const std::lock_guard lock(mutex_);
+  what_.clear();
+  if (drawnWidth_ == 0) return;
+  Draw("");
+  terminal_ << '\r' << std::flush;
+}
+
+void Progress::Run() {
+  std::unique_lock lock(mutex_);
+  while (!changed_.wait_for(lock, std::chrono::seconds(1), [this] { return isOver_; })) {
+    if (what_.empty()) continue;
+    const auto running = std::chrono::steady_clock::now() - since_;
+    Draw(what_ + " " + std::to_string(std::chrono::duration_cast<std::chrono::seconds>(running).count()) + " s");
+  }
+}
+
+void Progress::Draw(const std::string& line) {
+  const std::size_t width = DisplayWidth(line);
+  terminal_ << '\r' << line << std::string(drawnWidth_ - std::min(drawnWidth_, width), ' ') << std::flush;
+  drawnWidth_ = width;
+}
+
+}  // namespace hxahost

@@ -1,0 +1,90 @@
+#include "host/hxahost/terminal/table.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/state_colour.h"
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::size_t kIndentWidth = 2;
+constexpr std::size_t kGap = 2;
+constexpr std::string_view kMoreColumns = "  \u2026";
+
+// A column that is shown.
+struct Shown {
+  std::size_t index = 0;
+  std::size_t width = 0;
+  std::size_t least = 0;
+  bool isState = false;
+};
+
+std::string_view Cell(const std::vector<std::string>& row, std::size_t index) {
+  return index < row.size() ? std::string_view(row[index]) : std::string_view();
+}
+
+std::vector<Shown> ColumnsWithText(const Table& table) {
+  std::vector<Shown> shown;
+  for (std::size_t index = 0; index < table.columns.size(); ++index) {
+    const TableColumn& column = table.columns[index];
+    std::size_t width = 0;
+    for (const auto& row : table.rows) width = std::max(width, DisplayWidth(Cell(row, index)));
+    if (width == 0) continue;
+    width = std::min(std::max(width, DisplayWidth(column.title)), column.widest);
+    shown.push_back({index, width, std::min(width, column.least), column.isState});
+  }
+  return shown;
+}
+
+std::size_t TotalWidth(const std::vector<Shown>& columns) {
+  return std::accumulate(columns.begin(), columns.end(), kIndentWidth + kGap * (columns.size() - 1),
+                         [](std::size_t sum, const Shown& column) { return sum + column.width; });
+}
+
+// Takes from the widest of the columns that may be narrower.
+void Narrow(std::vector<Shown>& columns, std::size_t page) {
+  while (TotalWidth(columns) > page) {
+    const auto widest = std::ranges::max_element(
+        columns, {}, [](const Shown& column) { return column.width > column.least ? column.width : 0; });
+    if (widest->width <= widest->least) return;
+    --widest->width;
+  }
+}
+
+// What matters least stands at the right. The first column stays, whatever its width.
+void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t page) {
+  const std::size_t room = page - DisplayWidth(kMoreColumns);
+  while (columns.size() > 1 && TotalWidth(columns) > room) columns.pop_back();
+}
+
+std::string RowText(const std::vector<Shown>& columns, const std::vector<std::string>& row, bool hasColours) {
+  std::string line(kIndentWidth, ' ');
+  std::size_t missing = 0;  // blanks that are owed: none are put at the end of a line
+  for (const Shown& column : columns) {
+    const std::string text = CutToWidth(Cell(row, column.index), column.width);
+    if (!text.empty()) line.append(missing, ' ').append(hasColours && column.isState ? InStateColour(text) : text);
+    missing = (text.empty() ? missing : 0) + column.width - DisplayWidth(text) + kGap;
+  }
+  return line;
+}
+
+}  // namespace
+
+void WriteTable(std::ostream& out, const Table& table) {
+  std::vector<Shown> columns = ColumnsWithText(table);
+  if (columns.empty()) return;
+  const Page page = PageOf(out);
+  Narrow(columns, page.width);
+  const bool isTooWide = TotalWidth(columns) > page.width;
+  if (isTooWide) LeaveOutFromTheRight(columns, page.width);
+  std::vector<std::string> titles;
+  for (const TableColumn& column : table.columns) titles.push_back(column.title);
+  out << RowText(columns, titles, false) << (isTooWide ? kMoreColumns : "") << '\n';
+  for (const auto& row : table.rows) out << RowText(columns, row, page.hasColours) << '\n';
+}
+
+}  // namespace hxahost

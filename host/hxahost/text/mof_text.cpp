@@ -1,0 +1,57 @@
+#include "host/hxahost/text/mof_text.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+struct MofEscape {
+  char32_t code;
+  const char* text;
+};
+
+constexpr MofEscape kMofEscapes[] = {
+    {'"',  "\\\""        },
+    {'\\', "\\\\"        },
+    {'\b', "\\b"         },
+    {'\t', "\\t"         },
+    {'\n', "\\n"         },
+    {'\f', "\\f"         },
+    {'\r', "\\r"         },
+    {'\0', "\xe2\x90\x80"},
+};
+
+// In bytes; the last character may go past it.
+constexpr std::size_t kLongestString = 1000;
+
+std::string EscapedForMof(char32_t code, std::string_view character) {
+  const auto* const escape = std::ranges::find(kMofEscapes, code, &MofEscape::code);
+  if (escape != std::end(kMofEscapes)) return escape->text;
+  // Always four digits, so that a digit that follows is no part of it.
+  return IsUnsafe(code) ? ByCodeUnits(code, "\\x%04X") : std::string(character);
+}
+
+}  // namespace
+
+std::string MofText(std::string_view bytes, std::string_view indent) {
+  const std::string utf8 = AsUtf8(bytes);
+  std::string text = "\"";
+  std::size_t begin = 0;  // of the string that is being written
+  for (std::string_view rest = utf8; !rest.empty();) {
+    if (text.size() - begin > kLongestString) {
+      text.append("\"\n").append(indent);
+      begin = text.size();
+      text += '"';
+    }
+    const auto [code, length] = NextCharacter(rest);
+    text += EscapedForMof(code, rest.substr(0, length));
+    rest.remove_prefix(length);
+  }
+  return text += '"';
+}
+
+}  // namespace hxahost

@@ -1,0 +1,201 @@
+#include "host/hxahost/views/cim/cim_xml_view.h"
+
+#include <algorithm>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include <boost/property_tree/ptree.hpp>
+#include <boost/property_tree/xml_parser.hpp>
+
+#include "host/hxacore/value_reader.h"
+#include "host/hxacore/value_type.h"
+#include "host/hxahost/text/text.h"
+
+using namespace NKVRHXA20;
+
+namespace hxahost {
+
+namespace {
+
+// Boost's property tree writes the markup: it is there for every compiler that the program is built with, as headers
+// alone, and is kept up together with the rest of Boost. A whole document would take many times the memory of the data,
+// so it is given one instance at a time; what stands around the instances is fixed text.
+using Tree = boost::property_tree::ptree;
+
+constexpr std::string_view kNamespaceParts[] = {"root", "cimv2"};
+
+// Names of elements have dots in them, which are no paths here.
+Tree& Append(Tree& parent, const char* element) { return parent.push_back({element, Tree()})->second; }
+
+void SetAttribute(Tree& element, const char* name, std::string_view value) {
+  element.put(std::string("<xmlattr>.") + name, std::string(value));
+}
+
+// A control character that XML knows in no form, as the picture of itself.
+std::string ControlPicture(char32_t code) { return {'\xe2', '\x90', static_cast<char>(0x80U + code)}; }
+
+bool IsLegal(char32_t code) { return code >= 0x20 || code == '\t' || code == '\n' || code == '\r'; }
+
+// Takes what is printable ASCII off the beginning: nearly all of what tools print, and right as it is.
+std::string_view TakePrintable(std::string_view& text) {
+  const auto isPlain = [](char character) { return character >= ' ' && character <= '~'; };
+  const auto length = std::ranges::find_if_not(text, isPlain) - text.begin();
+  const std::string_view plain = text.substr(0, static_cast<std::size_t>(length));
+  text.remove_prefix(plain.size());
+  return plain;
+}
+
+std::string LegalText(std::string_view bytes) {
+  const std::string utf8 = AsUtf8(bytes);
+  std::string legal;
+  std::string_view rest = utf8;
+  for (legal += TakePrintable(rest); !rest.empty(); legal += TakePrintable(rest)) {
+    const auto [code, length] = NextCharacter(rest);
+    if (!IsLegal(code)) {
+      legal += ControlPicture(code);
+    } else if (code == 0xfffe || code == 0xffff) {
+      legal += "\xef\xbf\xbd";
+    } else {
+      legal += rest.substr(0, length);
+    }
+    rest.remove_prefix(length);
+  }
+  return legal;
+}
+
+// Parsers make a line feed of a carriage return that they meet as it is. That and whatever must not reach a terminal is
+// written by its number, which the library does not do.
+void WriteByNumber(std::ostream& out, std::string_view xml) {
+  for (out << TakePrintable(xml); !xml.empty(); out << TakePrintable(xml)) {
+    const auto [code, length] = NextCharacter(xml);
+    if (IsUnsafe(code) && code != '\n' && code != '\t') {
+      out << "&#" << static_cast<unsigned>(code) << ';';
+    } else {
+      out << xml.substr(0, length);
+    }
+    xml.remove_prefix(length);
+  }
+}
+
+ECIMType TypeOf(const TCIMValue& value) {
+  switch (TCIMValueReader::Kind(value)) {
+    case ValueKind::kUInt16: return kCIMUInt16;
+    case ValueKind::kUInt32: return kCIMUInt32;
+    case ValueKind::kDateTime: return kCIMDateTime;
+    case ValueKind::kReference: return kCIMReference;
+    case ValueKind::kArray: return TCIMValueReader::ElementType(value);
+    case ValueKind::kString:
+    case ValueKind::kNone: break;
+  }
+  return kCIMString;
+}
+
+bool IsNumberType(ECIMType type) { return type == kCIMUInt16 || type == kCIMUInt32; }
+
+void AppendPath(Tree& parent, const TCIMReference& reference, std::string_view declaredClass);
+
+void AppendReference(Tree& parent, const TCIMValue& value, std::string_view declaredClass) {
+  AppendPath(Append(parent, "VALUE.REFERENCE"), TCIMValueReader::Reference(value), declaredClass);
+}
+
+std::string_view DeclaredClassOf(const ClassDeclaration* declaration, const std::string& property) {
+  const PropertyDeclaration* const declared = declaration == nullptr ? nullptr : FindProperty(*declaration, property);
+  return declared == nullptr ? std::string_view() : declared->referencedClass;
+}
+
+void AppendKey(Tree& parent, const TCIMValue& value, std::string_view declaredClass) {
+  if (TCIMValueReader::Kind(value) == ValueKind::kReference) return AppendReference(parent, value, declaredClass);
+  const ECIMType type = TypeOf(value);
+  Tree& key = Append(parent, "KEYVALUE");
+  SetAttribute(key, "VALUETYPE", IsNumberType(type) ? "numeric" : "string");
+  SetAttribute(key, "TYPE", TypeName(type));
+  key.data() = LegalText(std::string(value));
+}
+
+// A reference that names no class refers to the declared one.
+void AppendName(Tree& parent, const TCIMReference& reference, std::string_view declaredClass) {
+  const std::string& own = TCIMReferenceFactory::ClassName(reference);
+  const std::string_view className = own.empty() ? declaredClass : own;
+  const ClassDeclaration* const declaration = FindClass(className);
+  Tree& name = Append(parent, "INSTANCENAME");
+  SetAttribute(name, "CLASSNAME", className);
+  for (const auto& [key, value] : TCIMReferenceFactory::Keys(reference)) {
+    Tree& binding = Append(name, "KEYBINDING");
+    SetAttribute(binding, "NAME", key);
+    AppendKey(binding, value, DeclaredClassOf(declaration, key));
+  }
+}
+
+void AppendPath(Tree& parent, const TCIMReference& reference, std::string_view declaredClass) {
+  Tree& path = Append(parent, "LOCALINSTANCEPATH");
+  Tree& nameSpace = Append(path, "LOCALNAMESPACEPATH");
+  for (const std::string_view part : kNamespaceParts) SetAttribute(Append(nameSpace, "NAMESPACE"), "NAME", part);
+  AppendName(path, reference, declaredClass);
+}
+
+// An empty value is one that says so: the element without a value in it.
+void AppendValue(Tree& parent, const TCIMValue& value, const char* empty) {
+  if (TCIMValueReader::Kind(value) != ValueKind::kNone) {
+    Append(parent, "VALUE").data() = LegalText(std::string(value));
+  } else if (empty != nullptr) {
+    Append(parent, empty);
+  }
+}
+
+void AppendArray(Tree& parent, const TCIMValue& value) {
+  if (TCIMValueReader::Kind(value) == ValueKind::kNone) return;
+  Tree& array = Append(parent, "VALUE.ARRAY");
+  for (const TCIMValue& element : TCIMValueReader::Elements(value)) AppendValue(array, element, "VALUE.NULL");
+}
+
+void AppendProperty(Tree& instance, const PublishedProperty& property, const PropertyDeclaration& declared) {
+  const bool isReference = declared.type == kCIMReference;
+  const char* const plain = declared.isArray ? "PROPERTY.ARRAY" : "PROPERTY";
+  Tree& element = Append(instance, isReference ? "PROPERTY.REFERENCE" : plain);
+  SetAttribute(element, "NAME", property.name);
+  if (isReference) {
+    SetAttribute(element, "REFERENCECLASS", declared.referencedClass);
+    const bool isEmpty = TCIMValueReader::Kind(property.value) == ValueKind::kNone;
+    if (!isEmpty) AppendReference(element, property.value, declared.referencedClass);
+    return;
+  }
+  SetAttribute(element, "TYPE", TypeName(declared.type));
+  declared.isArray ? AppendArray(element, property.value) : AppendValue(element, property.value, nullptr);
+}
+
+Tree ObjectWithPath(const TPublishedInstance& instance) {
+  Tree document;
+  Tree& object = Append(document, "VALUE.OBJECTWITHLOCALPATH");
+  AppendPath(object, instance.Reference(), instance.Class().name);
+  Tree& element = Append(object, "INSTANCE");
+  SetAttribute(element, "CLASSNAME", instance.Class().name);
+  for (const PublishedProperty& property : instance.Properties()) {
+    AppendProperty(element, property, *FindProperty(instance.Class(), property.name));
+  }
+  return document;
+}
+
+// Without the line that begins a document, which the library puts before each tree.
+void WriteTree(std::ostream& out, const Tree& tree) {
+  std::ostringstream document;
+  boost::property_tree::write_xml(document, tree, boost::property_tree::xml_writer_make_settings<std::string>(' ', 1));
+  const std::string text = document.str();
+  WriteByNumber(out, std::string_view(text).substr(text.find('\n') + 1));
+}
+
+}  // namespace
+
+void BeginCimXml(std::ostream& out, const QueryHeader&) {
+  out << "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<CIM CIMVERSION=\"2.8\" DTDVERSION=\"2.4\">\n<DECLARATION>\n";
+}
+
+void WriteQueryCimXml(std::ostream& out, const QueryHeader&, const QueryResult& result) {
+  out << "<DECLGROUP.WITHPATH>\n";
+  for (const auto& instance : result.instances) WriteTree(out, ObjectWithPath(*instance));
+  out << "</DECLGROUP.WITHPATH>\n";
+}
+
+void EndCimXml(std::ostream& out, const QueryHeader&) { out << "</DECLARATION>\n</CIM>\n"; }
+
+}  // namespace hxahost

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <ostream>
+
+#include "host/hxahost/result/query_result.h"
+
+// JSON for programs, format 1. Programs rely on it: keys may be added, nothing else may change.
+namespace hxahost {
+
+void BeginJson(std::ostream& out, const QueryHeader& header);
+void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryResult& result);
+void EndJson(std::ostream& out, const QueryHeader& header);
+
+}  // namespace hxahost

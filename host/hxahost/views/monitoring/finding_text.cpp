@@ -1,0 +1,31 @@
+#include "host/hxahost/views/monitoring/finding_text.h"
+
+#include <cstddef>
+
+#include "host/hxahost/text/text.h"
+
+namespace hxahost {
+
+namespace {
+
+// A log entry can be a page; what it says of health stands in its beginning.
+constexpr std::size_t kWidestText = 160;
+
+}  // namespace
+
+std::string SubjectText(const Finding& finding) {
+  const std::string name = Printable(finding.name);
+  const bool isNamedTwice = finding.identifier.empty() || finding.identifier == finding.name;
+  return isNamedTwice ? name : name + " [" + Printable(finding.identifier) + "]";
+}
+
+std::string QuotedText(const Finding& finding) {
+  return "\"" + CutToWidth(Printable(finding.text), kWidestText) + "\"";
+}
+
+std::string FindingText(const Finding& finding) {
+  return std::string(SeverityWord(finding.severity)) + ": " + SubjectText(finding) + ": " +
+         Printable(finding.property) + " " + QuotedText(finding) + ": " + finding.meaning;
+}
+
+}  // namespace hxahost

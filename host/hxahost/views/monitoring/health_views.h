@@ -1,0 +1,43 @@
+#pragma once
+
+#include <ostream>
+#include <span>
+#include <string_view>
+
+#include "host/hxahost/machine/finding.h"
+#include "host/hxahost/result/query_result.h"
+
+// How the health of a machine is shown.
+namespace hxahost {
+
+struct HealthReport {
+  const QueryHeader& header;
+  const QueryResult& result;
+  Findings findings;   // as EvaluateHealth gives them
+  double seconds = 0;  // that the collection took
+};
+
+struct HealthView {
+  std::string_view format;
+  void (*Write)(std::ostream& out, const HealthReport& report);
+};
+
+// The default first.
+std::span<const HealthView> HealthViews();
+
+// Null where there is no such format.
+const HealthView* FindHealthView(std::string_view format);
+
+// For people: a line that sums up, then one line for each finding.
+void WriteHealthText(std::ostream& out, const HealthReport& report);
+
+// For programs, format 1. Keys may be added, nothing else may change.
+void WriteHealthJson(std::ostream& out, const HealthReport& report);
+
+// Metrics in the text format of Prometheus, as its node exporter reads them from a file *.prom.
+void WriteHealthMetrics(std::ostream& out, const HealthReport& report);
+
+// The rules, as a table.
+void WriteHealthRules(std::ostream& out);
+
+}  // namespace hxahost

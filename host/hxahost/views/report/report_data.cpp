@@ -1,0 +1,132 @@
+#include "host/hxahost/views/report/report_data.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+#include "host/hxacore/schema.h"
+#include "host/hxahost/views/tables/controller_columns.h"
+#include "host/hxahost/machine/device_owners.h"
+#include "host/hxahost/views/monitoring/finding_json.h"
+#include "host/hxahost/machine/health.h"
+#include "host/hxahost/text/json_text.h"
+#include "host/hxahost/views/tables/record_sections.h"
+#include "host/hxahost/text/text.h"
+#include "host/hxahost/result/unread_lines.h"
+
+using NKVRHXA20::ClassDeclaration;
+using NKVRHXA20::PublishedClasses;
+
+namespace hxahost {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr Fact kControllerNames[] = {
+    {"Controller", "ControllerNum"   },
+    {"Type",       "ControllerType"  },
+    {"Status",     "ControllerStatus"},
+};
+
+Json ColumnJson(std::string_view title, std::string_view property) {
+  Json column = Json::object();
+  column["title"] = title;
+  column["property"] = property;
+  return column;
+}
+
+Json TableJson(std::string_view heading, std::span<const std::string_view> classes, Json columns) {
+  Json table = Json::object();
+  table["heading"] = heading;
+  table["classes"] = classes;
+  table["columns"] = std::move(columns);
+  return table;
+}
+
+Json ColumnsJson(std::span<const InstanceColumn> columns) {
+  Json json = Json::array();
+  for (const InstanceColumn& column : columns) json.push_back(ColumnJson(column.title, column.property));
+  return json;
+}
+
+// What stands in the heading of a controller's block elsewhere is a row here.
+Json ControllerColumns() {
+  Json json = Json::array();
+  for (const auto facts : {std::span<const Fact>(kControllerNames), IdentityFacts(), StateFacts()}) {
+    for (const Fact& fact : facts) json.push_back(ColumnJson(fact.label, fact.property));
+  }
+  return json;
+}
+
+// The same tables as on a terminal: what is added there is added here.
+Json TablesJson() {
+  Json tables = Json::array();
+  for (const DeviceKind& kind : DeviceKinds()) {
+    const bool isController = kind.columns.empty();
+    tables.push_back(TableJson(isController ? "Controllers" : kind.heading, {&kind.className, 1},
+                               isController ? ControllerColumns() : ColumnsJson(kind.columns)));
+  }
+  for (const RecordSection& section : RecordSections()) {
+    tables.push_back(TableJson(section.heading, section.classes, ColumnsJson(section.columns)));
+  }
+  return tables;
+}
+
+Json UnjudgedJson(const QueryHeader& header) {
+  Json json = Json::array();
+  for (const std::string_view className : HealthClasses()) {
+    if (!IsAskedFor(header, className)) json.push_back(className);
+  }
+  return json;
+}
+
+Json FindingsJson(const QueryHeader& header, const QueryResult& result) {
+  Json json = Json::array();
+  for (const Finding& finding : EvaluateHealth(header, result)) {
+    json.push_back(FindingJson(finding));
+    if (finding.instance) json.back()["instance"] = *finding.instance;
+  }
+  return json;
+}
+
+Json OwnersJson(const QueryResult& result) {
+  Json json = Json::array();
+  for (const std::string& owner : DeviceOwners(result.instances)) json.push_back(AsUtf8(owner));
+  return json;
+}
+
+Json UnreadLinesJson(const QueryHeader& header, const QueryResult& result) {
+  const bool isWhole = std::ranges::all_of(
+      PublishedClasses(), [&header](const ClassDeclaration& each) { return IsAskedFor(header, each.name); });
+  if (!isWhole) return nullptr;
+  Json json = Json::array();
+  for (const UnreadText& text : FindUnreadLines(result.instances)) {
+    Json each = Json::object();
+    each["instance"] = text.instance;
+    each["lines"] = text.unread;
+    json.push_back(std::move(each));
+  }
+  return json;
+}
+
+}  // namespace
+
+void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  Json json = Json::object();
+  json["program"] = "hxahost " ZENX_VERSION;
+  json["directory"] = AsUtf8(header.directory);
+  json["time"] = header.time.ToString();
+  json["classes"] = header.classes;
+  json["queryCount"] = header.queryCount;
+  json["tables"] = TablesJson();
+  json["owners"] = OwnersJson(result);
+  json["findings"] = FindingsJson(header, result);
+  json["unjudged"] = UnjudgedJson(header);
+  json["unread"] = UnreadLinesJson(header, result);
+  out << JsonText(json, 2);
+}
+
+}  // namespace hxahost

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "host/hxahost/views/tables/instance_text.h"
+
+// What a controller's block shows, in its order: what matters first.
+namespace hxahost {
+
+// A property of the controller and what it is called in its block.
+struct Fact {
+  std::string_view label;
+  std::string_view property;
+};
+
+std::span<const Fact> IdentityFacts();
+std::span<const Fact> StateFacts();
+
+// A class whose instances belong to a controller by its number.
+struct DeviceKind {
+  std::string_view className;
+  std::string_view heading;
+  std::span<const InstanceColumn> columns;
+};
+
+// The controllers themselves first; they have no columns.
+std::span<const DeviceKind> DeviceKinds();
+
+}  // namespace hxahost

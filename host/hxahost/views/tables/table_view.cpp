@@ -1,0 +1,79 @@
+#include "host/hxahost/views/tables/table_view.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/views/tables/controller_blocks.h"
+#include "host/hxahost/views/tables/instance_text.h"
+#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/views/tables/raw_text_summary.h"
+#include "host/hxahost/views/tables/record_sections.h"
+#include "host/hxahost/terminal/table.h"
+#include "host/hxahost/text/text.h"
+#include "host/hxahost/views/tables/tool_summary.h"
+#include "host/hxahost/views/tables/unread_view.h"
+
+namespace hxahost {
+
+namespace {
+
+// Commands that found nothing leave their raw texts behind all the same.
+bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != kRawDataClass; }
+
+// Where nothing was found, the first thing to know is whether anything looked.
+void WriteToolsNotStarted(std::ostream& out, const QueryResult& result) {
+  std::string names;
+  std::set<std::string> known;
+  for (const ToolRun& run : result.runs) {
+    if (run.outcome != Outcome::kNotStarted || !known.insert(run.path).second) continue;
+    names += (names.empty() ? "" : ", ") + Printable(run.path);
+  }
+  if (names.empty()) return;
+  out << CutToWidth("Not started: " + names, PageOf(out).width) << '\n';
+}
+
+void WriteNothingFound(std::ostream& out, const QueryResult& result) {
+  if (std::ranges::any_of(result.instances, [](const auto& instance) { return IsFound(*instance); })) return;
+  out << "\nNothing was found: no controller, no drive and no log record of the classes asked for.\n";
+  WriteToolsNotStarted(out, result);
+}
+
+void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  std::map<std::string_view, std::size_t> counts;
+  for (const auto& instance : result.instances) ++counts[instance->Class().name];
+  Table table;
+  table.columns = {
+      {"Class asked for", 60},
+      {"Instances"                }
+  };
+  for (const std::string& name : header.classes) table.rows.push_back({name, std::to_string(counts[name])});
+  out << '\n';
+  WriteTable(out, table);
+}
+
+}  // namespace
+
+void BeginTables(std::ostream& out, const QueryHeader& header) {
+  const std::string line = "RAID controllers of " + Printable(header.machine) + " on " +
+                           ReadableTime(header.time.ToString()) + ", collected in " + Printable(header.directory);
+  out << CutToWidth(line, PageOf(out).width) << '\n';
+}
+
+void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  if (header.queryCount > 1) out << "\nQuery " << result.number << " of " << header.queryCount << '\n';
+  WriteNothingFound(out, result);
+  WriteControllerBlocks(out, header, result.instances);
+  WriteRecordSections(out, result.instances);
+  WriteRawTextSummary(out, result.instances);
+  WriteCounts(out, header, result);
+  WriteToolSummaries(out, header, result);
+  if (header.withUnread) WriteUnreadLines(out, result.instances);
+}
+
+void EndTables(std::ostream&, const QueryHeader&) {}
+
+}  // namespace hxahost

@@ -1,0 +1,37 @@
+#include "host/hxahost/views/tables/unread_view.h"
+
+#include <string>
+#include <vector>
+
+#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/text/text.h"
+#include "host/hxahost/result/unread_lines.h"
+
+namespace hxahost {
+
+namespace {
+
+std::size_t CountUnread(const std::vector<UnreadText>& texts) {
+  std::size_t count = 0;
+  for (const UnreadText& text : texts) count += text.unread.size();
+  return count;
+}
+
+void WriteUnreadText(std::ostream& out, const UnreadText& text) {
+  out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), PageOf(out).width)
+      << '\n';
+  for (std::size_t index = 0; index < text.unread.size(); ++index) {
+    const std::string line = std::to_string(text.unread[index] + 1) + "  " + Printable(text.unreadLines[index]);
+    out << CutToWidth("    " + line, PageOf(out).width) << '\n';
+  }
+}
+
+}  // namespace
+
+void WriteUnreadLines(std::ostream& out, const InstanceList& instances) {
+  const std::vector<UnreadText> texts = FindUnreadLines(instances);
+  out << "\nLines of the tools' texts that nothing above shows: " << CountUnread(texts) << '\n';
+  for (const UnreadText& text : texts) WriteUnreadText(out, text);
+}
+
+}  // namespace hxahost

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <ostream>
+
+#include "host/hxahost/result/query_result.h"
+
+namespace hxahost {
+
+// Counts the unread lines and lists them by command, with their numbers in its text, counted from 1.
+void WriteUnreadLines(std::ostream& out, const InstanceList& instances);
+
+}  // namespace hxahost
