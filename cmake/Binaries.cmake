@@ -16,20 +16,6 @@ function(sources_of VARIABLE)
   set(${VARIABLE} ${sources} PARENT_SCOPE)
 endfunction()
 
-# Presets compile several files of a target as one: the headers that each includes take longer than what it holds. So no
-# two of them may use one name for something of their own, and scripts/check --deep, which takes each by itself, shows that
-# each includes what it uses. The tools' folders are much alike and use each name for the same: a folder is compiled as
-# one.
-function(compile_folders_as_one TARGET)
-  get_target_property(sources ${TARGET} SOURCES)
-  foreach(source ${sources})
-    cmake_path(GET source PARENT_PATH folder)
-    cmake_path(GET folder FILENAME name)
-    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${name})
-  endforeach()
-  set_target_properties(${TARGET} PROPERTIES UNITY_BUILD_MODE GROUP)
-endfunction()
-
 # What most files include of libraries, compiled once for each of the large targets by the preset asan. What is shipped is
 # built without: GCC 12 takes headers that were compiled before for the program's own when it optimises, and then warns of
 # copies that the library does not make.
@@ -66,12 +52,6 @@ list(TRANSFORM answers PREPEND ${CMAKE_SOURCE_DIR}/)
 list(REMOVE_ITEM zenx_sources ${answers})
 add_library(zenx_objects OBJECT ${zenx_sources} plugin/callbacks.cpp plugin/query.cpp)
 target_link_libraries(zenx_objects PUBLIC host_interface plugin_manager platform_answers)
-compile_folders_as_one(zenx_objects)
-# A folder's files are a large unit to GCC, in which it would put fewer functions into their callers than in each file by
-# itself: parsing would cost up to a tenth more.
-if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-  target_compile_options(zenx_objects PRIVATE --param=large-unit-insns=1000000)
-endif()
 add_library(zenx SHARED plugin/library_entry_${system}.cpp)
 target_link_libraries(zenx PRIVATE zenx_objects)
 set_target_properties(zenx PROPERTIES PREFIX "" OUTPUT_NAME zenx SUFFIX .pi)
@@ -94,12 +74,9 @@ set(hxahost_rooms program diff views views/tables views/report views/json views/
 list(TRANSFORM hxahost_rooms PREPEND host/hxahost/ OUTPUT_VARIABLE hxahost_folders)
 sources_of(hxahost_sources ${hxahost_folders})
 list(REMOVE_ITEM hxahost_sources ${CMAKE_SOURCE_DIR}/host/hxahost/program/main.cpp)
-add_library(hxahost_objects OBJECT ${hxahost_sources} cmake/empty.cpp)
+add_library(hxahost_objects OBJECT ${hxahost_sources})
 target_link_libraries(hxahost_objects PUBLIC host_interface plugin_manager platform_answers)
 target_compile_definitions(hxahost_objects PRIVATE ZENX_VERSION="${PROJECT_VERSION}")
-# What reads the tools' texts is optimised as far as the compiler can. What shows them need not be, and is most of the
-# code: it compiles a fifth faster.
-target_compile_options(hxahost_objects PRIVATE $<$<CONFIG:Release>:-O2>)
 add_executable(hxahost host/hxahost/program/main.cpp)
 target_link_libraries(hxahost PRIVATE hxahost_objects)
 add_dependencies(hxahost zenx)

@@ -11,15 +11,13 @@ if(WIN32)
   target_compile_definitions(compile_options INTERFACE _WIN32_WINNT=0x0601 WIN32_LEAN_AND_MEAN NOMINMAX)
 endif()
 if(ZENX_SANITIZE)
-  # Reports name functions and lines, which takes no more than the first level of debugging information. What only tests
-  # does without the sanitizer for undefined behaviour, which a third of its time to compile would go to.
-  set(undefined $<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZENX_ONLY_TESTS>>>:$<COMMA>undefined>)
-  set(sanitizers -fsanitize=address${undefined} -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
+  # Reports name functions and lines, which takes no more than the first level of debugging information.
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
   target_compile_options(compile_options INTERFACE ${sanitizers})
   target_link_options(compile_options INTERFACE -fsanitize=address,undefined)
 endif()
 # The counters that fuzzers follow come with a runtime that programs without sanitizers lack: those that only run what is
 # kept, to count the lines that it reaches, go without.
 if(ZENX_FUZZERS AND ZENX_SANITIZE)
-  target_compile_options(compile_options INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZENX_ONLY_TESTS>>>:-fsanitize=fuzzer-no-link>)
+  target_compile_options(compile_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()

@@ -6,9 +6,6 @@ if(CMAKE_CROSSCOMPILING)
   add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
   add_library(test_framework INTERFACE)
   target_link_libraries(test_framework INTERFACE gmock gtest)
-  foreach(library gmock gtest)
-    target_compile_options(${library} PRIVATE -O0)
-  endforeach()
 else()
   find_package(GTest REQUIRED)
   add_library(test_framework INTERFACE)
@@ -30,27 +27,17 @@ target_compile_options(planted_library PRIVATE -Wall -Wextra -Wpedantic -Wconver
 target_link_options(planted_library PRIVATE -static-libgcc -static-libstdc++)
 set_target_properties(planted_library PROPERTIES PREFIX "" OUTPUT_NAME planted SUFFIX .library)
 
-# Files of tests are compiled many at a time: the headers of the test framework and of what is tested take longer than
-# what stands in a file. All that a file defines stands in a namespace named after it, so that files may use the same
-# names.
-
 # What all three levels use, compiled once.
 sources_of(test_support_sources tests/support)
 add_library(test_support OBJECT ${test_support_sources} tests/main.cpp)
 target_link_libraries(test_support PUBLIC zenx_objects hxahost_objects test_framework)
-# Tests run the product's code, which is optimised as the preset says. Their own would take a third longer to compile.
-target_compile_options(test_support PUBLIC -O0)
-set_target_properties(test_support PROPERTIES ZENX_ONLY_TESTS ON)
 target_compile_definitions(test_support PUBLIC ZENX_SAMPLES="${CMAKE_SOURCE_DIR}/samples"
                                                ZENX_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
 
 find_program(ZENX_LLD ld.lld-14)
 foreach(level unit host end_to_end)
   sources_of(sources tests/${level})
-  # The product's objects come first: of a function that stands in a header the linker keeps the first copy that it
-  # meets, and theirs is the one with all sanitizers.
-  add_executable(${level}_tests $<TARGET_OBJECTS:zenx_objects> $<TARGET_OBJECTS:hxahost_objects> ${sources})
-  set_target_properties(${level}_tests PROPERTIES ZENX_ONLY_TESTS ON)
+  add_executable(${level}_tests ${sources})
   target_link_libraries(${level}_tests PRIVATE test_support zenx_objects hxahost_objects)
   if(MINGW AND ZENX_LLD)
     target_link_options(${level}_tests PRIVATE -fno-use-linker-plugin -wrapper ${CMAKE_SOURCE_DIR}/cmake/link_with_lld)

@@ -1,1 +1,0 @@
-// Keeps a library of objects from being empty.
