@@ -18,7 +18,6 @@
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 
-namespace bundle_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -251,4 +250,3 @@ TEST_F(Bundles, ThatAreDamagedNewerOrForeignAreRefusedInOneLine) {
 }
 
 }  // namespace
-}  // namespace bundle_test

@@ -8,7 +8,6 @@
 #include "plugin/host_interface/services.h"
 #include "tests/support/test_system.h"
 
-namespace capture_file_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -54,4 +53,3 @@ TEST_F(CaptureFile, SaysInOneLineWhichFileCannotBeReadAndWhy) {
 }
 
 }  // namespace
-}  // namespace capture_file_test

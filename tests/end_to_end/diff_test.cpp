@@ -10,7 +10,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/machine_copy.h"
 
-namespace diff_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -103,4 +102,3 @@ TEST_F(Diff, EndsWithStatus2AndOneLineWhereItCannotTell) {
 }
 
 }  // namespace
-}  // namespace diff_test

@@ -15,7 +15,6 @@
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"
 
-namespace exchange_test {
 namespace {
 
 std::string Output(const std::vector<std::string>& arguments) {
@@ -51,4 +50,3 @@ TEST(Exchange, RefusesAFormatOfTheSchemaThatIsNone) {
 }
 
 }  // namespace
-}  // namespace exchange_test

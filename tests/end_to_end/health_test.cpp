@@ -17,7 +17,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
-namespace health_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -190,4 +189,3 @@ TEST_F(Health, ShowsItsRulesWithoutRunningATool) {
 }
 
 }  // namespace
-}  // namespace health_test

@@ -15,7 +15,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
-namespace hxahost_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -214,4 +213,3 @@ TEST_F(Hxahost, LeavesNothingInTheFolderOfTheTools) {
 }
 
 }  // namespace
-}  // namespace hxahost_test

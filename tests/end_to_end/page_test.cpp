@@ -9,7 +9,6 @@
 #include "host/hxahost/text/text.h"
 #include "tests/support/hxahost_run.h"
 
-namespace page_test {
 namespace {
 
 using testing::HasSubstr;
@@ -48,4 +47,3 @@ TEST(PageOfAPipe, RejectsWrongValuesInOneLine) {
 }
 
 }  // namespace
-}  // namespace page_test

@@ -12,7 +12,6 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"
 
-namespace planted_library_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -63,4 +62,3 @@ TEST_F(PlantedLibrary, WouldLeaveItsTrace) {
 }
 
 }  // namespace
-}  // namespace planted_library_test

@@ -17,7 +17,6 @@
 #include "host/hxahost/system/exit_status.h"
 #include "tests/support/test_system.h"
 
-namespace plugin_lifetime_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -97,4 +96,3 @@ TEST(PluginLifetime, QueriesWaitForEachOtherAndTheLibraryWorksAgainOnlyWhereItWa
 }
 
 }  // namespace
-}  // namespace plugin_lifetime_test

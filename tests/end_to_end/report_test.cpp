@@ -12,7 +12,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
-namespace report_test {
 namespace {
 
 using hxahost::Utf8FromPath;
@@ -66,4 +65,3 @@ TEST(Report, IsNotWrittenWhereTheQueryCannotBeMade) {
 }
 
 }  // namespace
-}  // namespace report_test

@@ -11,7 +11,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/machine_copy.h"
 
-namespace runs_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -100,4 +99,3 @@ TEST(Runs, SayThatNoControllerIsThereOnlyWhereEachToolSaysSo) {
 }
 
 }  // namespace
-}  // namespace runs_test

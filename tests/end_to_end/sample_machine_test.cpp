@@ -15,7 +15,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/raid_log_setting.h"
 
-namespace sample_machine_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -90,4 +89,3 @@ TEST(SampleMachine, NumbersLegacyThenHrconfThenArcconfControllers) {
 }
 
 }  // namespace
-}  // namespace sample_machine_test

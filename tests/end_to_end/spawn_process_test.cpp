@@ -16,7 +16,6 @@
 #include "plugin/host_interface/services.h"
 #include "tests/support/test_system.h"
 
-namespace spawn_process_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -380,4 +379,3 @@ TEST(SpawnProcess, FailuresLeaveNeitherHandlesNorChildren) {
 }
 
 }  // namespace
-}  // namespace spawn_process_test

@@ -10,7 +10,6 @@
 #include "host/hxacore/host_services.h"
 #include "tests/support/test_system.h"
 
-namespace spawn_result_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -48,4 +47,3 @@ TEST(SpawnResult, TellsAProgramThatCannotBeStartedFromOneThatTakesTooLong) {
 }
 
 }  // namespace
-}  // namespace spawn_result_test

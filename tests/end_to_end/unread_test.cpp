@@ -11,7 +11,6 @@
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 
-namespace unread_test {
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -80,4 +79,3 @@ TEST(Unread, NeedEveryClass) {
 }
 
 }  // namespace
-}  // namespace unread_test

@@ -16,7 +16,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
-namespace usage_errors_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -260,4 +259,3 @@ TEST_F(UsageErrors, LeaveAGoodResultWhereItIs) {
 }
 
 }  // namespace
-}  // namespace usage_errors_test

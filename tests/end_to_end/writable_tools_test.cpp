@@ -10,7 +10,6 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"
 
-namespace writable_tools_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -62,4 +61,3 @@ TEST_F(WritableTools, IncludeTheirFolderAndTheOneItLiesIn) {
 }
 
 }  // namespace
-}  // namespace writable_tools_test

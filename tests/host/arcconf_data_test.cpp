@@ -10,7 +10,6 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
-namespace arcconf_data_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -321,4 +320,3 @@ TEST_F(ArcconfDataTest, EndsABlockQuietlyAtTheEndOfTheTextAndReadsTheBlocksBehin
 }
 
 }  // namespace
-}  // namespace arcconf_data_test

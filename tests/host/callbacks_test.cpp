@@ -12,7 +12,6 @@
 #include "tests/support/raid_log_setting.h"
 #include "tests/support/scripted_services.h"
 
-namespace callbacks_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -106,4 +105,3 @@ TEST(Callbacks, TwoPlugInObjectsOfAProcessCollectOnceBetweenThem) {
 }
 
 }  // namespace
-}  // namespace callbacks_test

@@ -9,7 +9,6 @@
 #include "tools/qcmdrun/qcmdrun_data.h"
 
 // Machines that have all, some or none of the three utilities, with the controllers of the sample machine behind each.
-namespace collection_combinations_test {
 namespace {
 
 using NKVRHXA20::TRootObject;
@@ -124,4 +123,3 @@ TEST(CollectionCombinations, LogOneLineForEachFailureOfAMissingTool) {
 }
 
 }  // namespace
-}  // namespace collection_combinations_test

@@ -11,7 +11,6 @@
 #include "tools/hrconf/hrconf_data.h"
 
 // Reports of the sample machine, cut off anywhere: what stands before the cut is in the records, and nothing else is.
-namespace cut_off_reports_test {
 namespace {
 
 using NKVRHXA20::HostServices;
@@ -177,4 +176,3 @@ TEST(CutOffVersions, GiveWhatStandsBeforeTheCut) {
 }
 
 }  // namespace
-}  // namespace cut_off_reports_test

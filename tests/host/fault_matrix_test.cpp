@@ -13,7 +13,6 @@
 #include "tests/support/thoroughness.h"
 
 // Every command of the sample machine with every fault, without a process.
-namespace fault_matrix_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -132,4 +131,3 @@ TEST(FaultMatrix, TheWholeMachineHasFiveControllersWithNumbersOfTheirOwn) {
 }
 
 }  // namespace
-}  // namespace fault_matrix_test

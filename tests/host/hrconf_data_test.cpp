@@ -11,7 +11,6 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
-namespace hrconf_data_test {
 namespace {
 
 using NKVRHXA20::TRootObject;
@@ -354,4 +353,3 @@ TEST_F(HrconfDataTest, CompletesADeviceThatTheEndOfTheTextCutsOff) {
 }
 
 }  // namespace
-}  // namespace hrconf_data_test

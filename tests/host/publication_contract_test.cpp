@@ -10,7 +10,6 @@
 #include "tests/support/query_host.h"
 #include "tests/support/raid_log_machine.h"
 
-namespace publication_contract_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -122,4 +121,3 @@ TEST(PublicationContract, ReferencesNameInstancesOfTheDeclaredClassThatWerePubli
 }
 
 }  // namespace
-}  // namespace publication_contract_test

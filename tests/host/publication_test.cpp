@@ -7,7 +7,6 @@
 #include "tests/support/query_host.h"
 #include "tests/support/raid_log_machine.h"
 
-namespace publication_test {
 namespace {
 
 using testing::ElementsAre;
@@ -162,4 +161,3 @@ std::size_t LinksOf(std::size_t drives) {
 TEST(Publication, LinksEveryDriveOfALargeMachineToItsOwnFirmwareAndStatistics) { EXPECT_EQ(LinksOf(500), 1000U); }
 
 }  // namespace
-}  // namespace publication_test

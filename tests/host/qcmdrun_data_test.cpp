@@ -17,7 +17,6 @@
 #include "tests/support/tool_text.h"
 #include "tools/qcmdrun/status_parser.h"
 
-namespace qcmdrun_data_test {
 namespace {
 
 using NKVRHXA20::THXAException;
@@ -526,4 +525,3 @@ TEST_F(QcmdrunDataCutOff, FailsWhereverItsListsOfDrivesOrDevicesAreCut) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_data_test

@@ -9,7 +9,6 @@
 #include "tests/support/qcmdrun_answers.h"
 #include "tools/qcmdrun/qcmdrun_data.h"
 
-namespace qcmdrun_sample_machine_test {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -291,4 +290,3 @@ TEST_F(QcmdrunSampleMachine, AnswersUnderNoOtherNumber) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_sample_machine_test

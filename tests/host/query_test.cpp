@@ -10,7 +10,6 @@
 #include "tests/support/raid_log_machine.h"
 #include "tests/support/sample_answers.h"
 
-namespace query_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -249,4 +248,3 @@ TEST(Query, AsksForClassesInTheNameOfThePlugInNamespace) {
 }
 
 }  // namespace
-}  // namespace query_test

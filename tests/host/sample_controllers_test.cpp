@@ -11,7 +11,6 @@
 #include "tools/hrconf/hrconf_data.h"
 
 // What arcconf and hrconf say of the sample machine, fact by fact.
-namespace sample_controllers_test {
 namespace {
 
 using NKVRHXA20::TRootObject;
@@ -263,4 +262,3 @@ TEST(SampleControllers, AreTheSameWithLineFeedsAlone) {
 }
 
 }  // namespace
-}  // namespace sample_controllers_test

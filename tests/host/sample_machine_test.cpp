@@ -8,7 +8,6 @@
 #include "tests/support/raid_log_machine.h"
 #include "tests/support/sample_answers.h"
 
-namespace sample_machine_test {
 namespace {
 
 using testing::Each;
@@ -61,4 +60,3 @@ TEST(SampleMachine, NothingPublishedOfItsDevicesHasALineEnd) {
 }
 
 }  // namespace
-}  // namespace sample_machine_test

@@ -12,7 +12,6 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
-namespace zenx_collect_data_test {
 namespace {
 
 using NKVRHXA20::TRootObject;
@@ -203,4 +202,3 @@ TEST_F(ZenxCollectDataTest, StartsWithTheRecordsThatItIsGiven) {
 }
 
 }  // namespace
-}  // namespace zenx_collect_data_test

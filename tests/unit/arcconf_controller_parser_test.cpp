@@ -9,7 +9,6 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
-namespace arcconf_controller_parser_test {
 namespace {
 
 // In the order of a report; the sections' heads stand between.
@@ -233,4 +232,3 @@ TEST(ArcconfControllerParser, CutsAValueBehindOneBlankAndBeforeTheCarriageReturn
 }
 
 }  // namespace
-}  // namespace arcconf_controller_parser_test

@@ -4,7 +4,6 @@
 
 #include "tests/support/recording_log.h"
 
-namespace arcconf_driver_mismatch_test {
 namespace {
 
 TEST(ArcconfDriverMismatch, SaysItInOneLineWithSevenTabsAndInFullWithTwentyFourBlanks) {
@@ -26,4 +25,3 @@ TEST(ArcconfDriverMismatch, SaysItInOneLineWithSevenTabsAndInFullWithTwentyFourB
 }
 
 }  // namespace
-}  // namespace arcconf_driver_mismatch_test

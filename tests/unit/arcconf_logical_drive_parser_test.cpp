@@ -6,7 +6,6 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
-namespace arcconf_logical_drive_parser_test {
 namespace {
 
 const Labels kLogicalDrive = {
@@ -76,4 +75,3 @@ TEST(ArcconfLogicalDriveParser, TakesALineWithoutAColonForAMiss) {
 }
 
 }  // namespace
-}  // namespace arcconf_logical_drive_parser_test

@@ -6,7 +6,6 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
-namespace arcconf_physical_device_parser_test {
 namespace {
 
 const Labels kUnknown = {
@@ -203,4 +202,3 @@ TEST(ArcconfPhysicalDeviceParser, KeepsWhatStandsBeforeTheEndOfTheText) {
 }
 
 }  // namespace
-}  // namespace arcconf_physical_device_parser_test

@@ -5,7 +5,6 @@
 #include "tests/support/filled_fields.h"
 #include "tests/support/tool_text.h"
 
-namespace arcconf_stripe_order_parser_test {
 namespace {
 
 struct Result {
@@ -62,4 +61,3 @@ TEST(ArcconfStripeOrderParser, IsCompleteAsFarAsItWasReadWhereTheTextEnds) {
 }
 
 }  // namespace
-}  // namespace arcconf_stripe_order_parser_test

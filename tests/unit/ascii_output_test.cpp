@@ -4,7 +4,6 @@
 
 #include <sstream>
 
-namespace ascii_output_test {
 namespace {
 
 using hxahost::TAsciiBuffer;
@@ -54,4 +53,3 @@ TEST(AsciiOutput, FailsWhereTheOutputBehindItFails) {
 }
 
 }  // namespace
-}  // namespace ascii_output_test

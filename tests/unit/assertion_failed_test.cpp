@@ -8,7 +8,6 @@
 
 #include "plugin/host_interface/cim.h"
 
-namespace assertion_failed_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -35,4 +34,3 @@ TEST(AssertionFailed, IsNotWhatAFailedServiceThrows) {
 }
 
 }  // namespace
-}  // namespace assertion_failed_test

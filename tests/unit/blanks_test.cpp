@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-namespace blanks_test {
 namespace {
 
 // How many characters of the text are passed over.
@@ -83,4 +82,3 @@ TEST(Blanks, BeforeAnotherCharacterAreCountedUpToEight) {
 }
 
 }  // namespace
-}  // namespace blanks_test

@@ -13,7 +13,6 @@
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"
 
-namespace bundle_command_test {
 namespace {
 
 using namespace hxahost;
@@ -123,4 +122,3 @@ TEST_F(BundleCommand, TellsBundlesFromOtherFiles) {
 }
 
 }  // namespace
-}  // namespace bundle_command_test

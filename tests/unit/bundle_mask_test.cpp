@@ -9,7 +9,6 @@
 #include "host/hxahost/bundle/bundle_format.h"
 #include "tests/support/sample_bundle.h"
 
-namespace bundle_mask_test {
 namespace {
 
 using namespace hxahost;
@@ -84,4 +83,3 @@ TEST(BundleMask, LeavesABundleWithNothingInItAsItIs) {
 }
 
 }  // namespace
-}  // namespace bundle_mask_test

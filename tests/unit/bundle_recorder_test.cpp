@@ -10,7 +10,6 @@
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"
 
-namespace bundle_recorder_test {
 namespace {
 
 using namespace hxahost;
@@ -87,4 +86,3 @@ TEST(BundleRecorder, KeepsTheBytesOfALogThatCannotBeCaptured) {
 }
 
 }  // namespace
-}  // namespace bundle_recorder_test

@@ -6,7 +6,6 @@
 #include "host/hxahost/system/exit_status.h"
 #include "tests/support/sample_bundle.h"
 
-namespace bundle_replay_test {
 namespace {
 
 using namespace hxahost;
@@ -115,4 +114,3 @@ TEST(BundleReplay, GivesTheLogOrTheReasonWhyItCouldNotBeCaptured) {
 }
 
 }  // namespace
-}  // namespace bundle_replay_test

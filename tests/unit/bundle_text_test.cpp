@@ -6,7 +6,6 @@
 #include <limits>
 #include <string>
 
-namespace bundle_text_test {
 namespace {
 
 using namespace hxahost;
@@ -57,4 +56,3 @@ TEST(BundleText, WritesNumbersThatAreReadBackAsTheSame) {
 }
 
 }  // namespace
-}  // namespace bundle_text_test

@@ -9,7 +9,6 @@
 #include "host/hxacore/value_reader.h"
 #include "tests/support/filled_repository.h"
 
-namespace cim_xml_view_test {
 namespace {
 
 using namespace hxahost;
@@ -275,4 +274,3 @@ TEST(CimXmlView, HasAValueOfAMebibyteWhole) {
 }
 
 }  // namespace
-}  // namespace cim_xml_view_test

@@ -7,7 +7,6 @@
 
 #include "host/hxacore/schema.h"
 
-namespace class_dependencies_test {
 namespace {
 
 using namespace hxahost;
@@ -50,4 +49,3 @@ TEST(ClassDependencies, NameWhatIsMissingOrComesTooLate) {
 }
 
 }  // namespace
-}  // namespace class_dependencies_test

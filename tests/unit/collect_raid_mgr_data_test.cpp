@@ -6,7 +6,6 @@
 
 #include "tests/support/raid_log_machine.h"
 
-namespace collect_raid_mgr_data_test {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -281,4 +280,3 @@ TEST(CollectRaidMgrData, AVersionThatCannotBeAskedForIsLoggedAndCountsAsOlder) {
 }
 
 }  // namespace
-}  // namespace collect_raid_mgr_data_test

@@ -4,7 +4,6 @@
 
 #include <stdexcept>
 
-namespace collected_data_test {
 namespace {
 
 TEST(CollectedData, LosesTheSecondOfTwoLinesWhenOnlyTheFirstEndsInALineFeed) {
@@ -132,4 +131,3 @@ TEST(CollectedData, FindsTheNextLineLabelWhereverItStandsInItsLine) {
 }
 
 }  // namespace
-}  // namespace collected_data_test

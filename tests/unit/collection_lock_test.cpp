@@ -9,7 +9,6 @@
 
 #include "tests/support/temporary_folder.h"
 
-namespace collection_lock_test {
 namespace {
 
 using hxahost::CollectionLock;
@@ -58,4 +57,3 @@ TEST(CollectionLock, IsDoneWithoutWhereTheFolderIsMissing) {
 }
 
 }  // namespace
-}  // namespace collection_lock_test

@@ -6,7 +6,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace controller_blocks_test {
 namespace {
 
 using namespace hxahost;
@@ -194,4 +193,3 @@ TEST(ControllerBlocks, AreTwoWhereTwoToolsGiveOneNumber) {
 }
 
 }  // namespace
-}  // namespace controller_blocks_test

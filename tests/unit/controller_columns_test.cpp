@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace controller_columns_test {
 namespace {
 
 using namespace hxahost;
@@ -25,4 +24,3 @@ TEST(ControllerColumns, NameDeclaredPropertiesOnly) {
 }
 
 }  // namespace
-}  // namespace controller_columns_test

@@ -5,7 +5,6 @@
 
 #include "plugin/host_interface/exception.h"
 
-namespace date_time_test {
 namespace {
 
 using NKVRHXA20::TCIMDateTime;
@@ -70,4 +69,3 @@ TEST(DateTime, RejectsATextThatIsNoDateAndTimeAndSaysWhy) {
 }
 
 }  // namespace
-}  // namespace date_time_test

@@ -4,7 +4,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace device_names_test {
 namespace {
 
 using Properties = std::vector<std::pair<std::string, NKVRHXA20::TCIMValue>>;
@@ -77,4 +76,3 @@ TEST(DeviceNames, SayWhatTellsTheControllerFromAnotherOfItsNumber) {
 }
 
 }  // namespace
-}  // namespace device_names_test

@@ -9,7 +9,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace device_owners_test {
 namespace {
 
 using hxahost::DeviceOwners;
@@ -148,4 +147,3 @@ TEST(DeviceOwners, AreEmptyForDevicesWithoutANumber) {
 }
 
 }  // namespace
-}  // namespace device_owners_test

@@ -4,7 +4,6 @@
 
 #include "tests/support/recording_log.h"
 
-namespace device_setup_test {
 namespace {
 
 TEST(DeviceSetup, FindsNothingInASlotThatNoPresentDeviceIsIn) {
@@ -14,4 +13,3 @@ TEST(DeviceSetup, FindsNothingInASlotThatNoPresentDeviceIsIn) {
 }
 
 }  // namespace
-}  // namespace device_setup_test

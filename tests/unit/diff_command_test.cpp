@@ -10,7 +10,6 @@
 #include "host/hxahost/text/text.h"
 #include "tests/support/temporary_folder.h"
 
-namespace diff_command_test {
 namespace {
 
 using namespace hxahost;
@@ -87,4 +86,3 @@ TEST_F(DiffCommand, IsInTroubleWhereTheOutputCannotBeWritten) {
 }
 
 }  // namespace
-}  // namespace diff_command_test

@@ -4,7 +4,6 @@
 
 #include <string>
 
-namespace each_index_test {
 namespace {
 
 TEST(EachIndex, CountsUpFromZero) {
@@ -21,4 +20,3 @@ TEST(EachIndex, DoesNothingForNone) {
 }
 
 }  // namespace
-}  // namespace each_index_test

@@ -6,7 +6,6 @@
 
 #include "collect/collected_data.h"
 
-namespace end_of_text_test {
 namespace {
 
 TEST(EndOfText, EndsAPartQuietlyAndKeepsWhatWasRead) {
@@ -26,4 +25,3 @@ TEST(EndOfText, LetsOtherFailuresPass) {
 }
 
 }  // namespace
-}  // namespace end_of_text_test

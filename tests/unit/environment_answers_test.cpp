@@ -4,7 +4,6 @@
 
 #include "tests/support/variable_setting.h"
 
-namespace environment_answers_test {
 namespace {
 
 TEST(EnvironmentAnswers, ReadTheVersion) {
@@ -47,4 +46,3 @@ TEST(EnvironmentAnswers, AreAskedForOnlyWhereTheVariableSaysSo) {
 }
 
 }  // namespace
-}  // namespace environment_answers_test

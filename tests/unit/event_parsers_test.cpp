@@ -10,7 +10,6 @@
 #include "plugin/host_interface/exception.h"
 #include "tests/support/tool_text.h"
 
-namespace event_parsers_test {
 namespace {
 
 using NKVRHXA20::THXAException;
@@ -144,4 +143,3 @@ TYPED_TEST(CodeLogParsers, ReadCodesAsTheCLibraryDoes) {
 TYPED_TEST(CodeLogParsers, FailWhereTheEndIsMissing) { EXPECT_THROW(this->Read("0001\n"), std::out_of_range); }
 
 }  // namespace
-}  // namespace event_parsers_test

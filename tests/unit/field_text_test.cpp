@@ -8,7 +8,6 @@
 #include <utility>
 #include <vector>
 
-namespace field_text_test {
 namespace {
 
 using std::string_view_literals::operator""sv;
@@ -138,4 +137,3 @@ TEST(FieldText, IsPutTogetherWithOtherTexts) {
 TEST(FieldText, TakesNoMoreRoomThanAString) { EXPECT_LE(sizeof(FieldText), std::size_t{32}); }
 
 }  // namespace
-}  // namespace field_text_test

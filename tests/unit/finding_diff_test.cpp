@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-namespace finding_diff_test {
 namespace {
 
 using namespace hxahost;
@@ -120,4 +119,3 @@ TEST(FindingDiff, ReadsTheLogOfBoth) {
 }
 
 }  // namespace
-}  // namespace finding_diff_test

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace finding_json_test {
 namespace {
 
 using namespace hxahost;
@@ -15,4 +14,3 @@ TEST(FindingJson, HasItsKeysInTheOrderThatProgramsSee) {
 }
 
 }  // namespace
-}  // namespace finding_json_test

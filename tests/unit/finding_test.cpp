@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace finding_test {
 namespace {
 
 using namespace hxahost;
@@ -44,4 +43,3 @@ TEST(Finding, TheWorstOfAllCounts) {
 }
 
 }  // namespace
-}  // namespace finding_test

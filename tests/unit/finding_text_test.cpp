@@ -4,7 +4,6 @@
 
 #include <string>
 
-namespace finding_text_test {
 namespace {
 
 using namespace hxahost;
@@ -38,4 +37,3 @@ TEST(FindingText, CutsAPageOfText) {
 }
 
 }  // namespace
-}  // namespace finding_text_test

@@ -11,7 +11,6 @@
 #include "host/hxahost/machine/health.h"
 #include "tests/support/healthy_machine.h"
 
-namespace health_rules_test {
 namespace {
 
 using namespace hxahost;
@@ -252,4 +251,3 @@ TEST(HealthRules, AreFoundByTheirWord) {
 }
 
 }  // namespace
-}  // namespace health_rules_test

@@ -10,7 +10,6 @@
 #include "host/hxahost/result/published_text.h"
 #include "tests/support/healthy_machine.h"
 
-namespace health_test {
 namespace {
 
 using namespace hxahost;
@@ -226,4 +225,3 @@ TEST(Health, AsksForLogicalDrivesBeforeTheirBadStripes) {
 }
 
 }  // namespace
-}  // namespace health_test

@@ -15,7 +15,6 @@
 #include "tests/support/file_text.h"
 #include "tests/support/healthy_machine.h"
 
-namespace health_views_test {
 namespace {
 
 using namespace hxahost;
@@ -195,4 +194,3 @@ TEST(HealthRulesText, ShowsEachRule) {
 }
 
 }  // namespace
-}  // namespace health_views_test

@@ -10,7 +10,6 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/test_system.h"
 
-namespace host_services_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -58,4 +57,3 @@ TEST(HostServices, ALoggerThatAPlugInKeepsFollowsTheServices) {
 }
 
 }  // namespace
-}  // namespace host_services_test

@@ -6,7 +6,6 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
-namespace hrconf_controller_parser_test {
 namespace {
 
 const Labels kController = {
@@ -81,4 +80,3 @@ TEST(HrconfControllerParser, LeavesATextWithoutControllerInformationUnmarked) {
 }
 
 }  // namespace
-}  // namespace hrconf_controller_parser_test

@@ -6,7 +6,6 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
-namespace hrconf_logical_drive_parser_test {
 namespace {
 
 const Labels kLogicalDrive = {
@@ -58,4 +57,3 @@ TEST(HrconfLogicalDriveParser, KeepsWhatStandsBeforeTheEndOfTheText) {
 }
 
 }  // namespace
-}  // namespace hrconf_logical_drive_parser_test

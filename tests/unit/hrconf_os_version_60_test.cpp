@@ -6,7 +6,6 @@
 
 #include "tests/support/recording_log.h"
 
-namespace hrconf_os_version_60_test {
 namespace {
 
 TEST(HrconfOsVersion60, IsAWindowsNtSystemOfVersionSixPointNoughtAlone) {
@@ -30,4 +29,3 @@ TEST(HrconfOsVersion60, LogsASystemThatCannotSayAndTakesItForAnother) {
 }
 
 }  // namespace
-}  // namespace hrconf_os_version_60_test

@@ -6,7 +6,6 @@
 #include "tests/support/label_checks.h"
 #include "tests/support/tool_text.h"
 
-namespace hrconf_physical_device_parser_test {
 namespace {
 
 const Labels kUnknown = {
@@ -109,4 +108,3 @@ TEST(HrconfPhysicalDeviceParser, PutsNothingBetweenChannelAndNameInTheIdentifier
 }
 
 }  // namespace
-}  // namespace hrconf_physical_device_parser_test

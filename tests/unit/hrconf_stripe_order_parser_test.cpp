@@ -5,7 +5,6 @@
 #include "tests/support/filled_fields.h"
 #include "tests/support/tool_text.h"
 
-namespace hrconf_stripe_order_parser_test {
 namespace {
 
 struct Result {
@@ -59,4 +58,3 @@ TEST(HrconfStripeOrderParser, IsCompleteAsFarAsItWasReadWhereTheTextEnds) {
 }
 
 }  // namespace
-}  // namespace hrconf_stripe_order_parser_test

@@ -6,7 +6,6 @@
 #include "tests/support/recording_log.h"
 #include "tests/support/tool_text.h"
 
-namespace hrconf_version_parser_test {
 namespace {
 
 constexpr const char* kBadData = "Bad Data From Getversion output: ";
@@ -86,4 +85,3 @@ TEST(HrconfVersionParser, LogsAnAnswerThatIsTooShortAndKeepsWhatWasRead) {
 }
 
 }  // namespace
-}  // namespace hrconf_version_parser_test

@@ -11,7 +11,6 @@
 #include "host/hxahost/views/report/report_template.h"
 #include "tests/support/filled_repository.h"
 
-namespace html_view_test {
 namespace {
 
 using namespace hxahost;
@@ -104,4 +103,3 @@ TEST(HtmlView, IsAsLongAsThePageAndItsDataTogether) {
 }
 
 }  // namespace
-}  // namespace html_view_test

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace identifiers_test {
 namespace {
 
 TEST(Identifiers, NameAControllerAndItsLogicalDisks) {
@@ -58,4 +57,3 @@ TEST(Identifiers, NameStatisticsByTheTextsAsHeld) {
 }
 
 }  // namespace
-}  // namespace identifiers_test

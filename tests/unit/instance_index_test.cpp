@@ -4,7 +4,6 @@
 
 #include "tests/support/publishing.h"
 
-namespace instance_index_test {
 namespace {
 
 // The property "Name" of the instances that are found under a key.
@@ -41,4 +40,3 @@ TEST(InstanceIndex, FindsNothingUnderAnyOtherKey) {
 }
 
 }  // namespace
-}  // namespace instance_index_test

@@ -7,7 +7,6 @@
 #include "host/hxacore/value_reader.h"
 #include "plugin/host_interface/exception.h"
 
-namespace instance_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -109,4 +108,3 @@ TEST_F(Instance, NamesALinkByWhatItLinks) {
 }
 
 }  // namespace
-}  // namespace instance_test

@@ -6,7 +6,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace instance_text_test {
 namespace {
 
 using namespace hxahost;
@@ -71,4 +70,3 @@ TEST(InstanceText, WritesNoHeadingWithoutInstances) {
 }
 
 }  // namespace
-}  // namespace instance_text_test

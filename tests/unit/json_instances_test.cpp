@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-namespace json_instances_test {
 namespace {
 
 using namespace hxahost;
@@ -81,4 +80,3 @@ TEST(JsonInstances, LeaveOutTimesAndNumbersThatAreNone) {
 }
 
 }  // namespace
-}  // namespace json_instances_test

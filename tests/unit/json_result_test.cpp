@@ -8,7 +8,6 @@
 #include "host/hxahost/system/exit_status.h"
 #include "tests/support/temporary_folder.h"
 
-namespace json_result_test {
 namespace {
 
 using hxahost::JsonResult;
@@ -129,4 +128,3 @@ TEST(JsonResult, RejectsAFileThatIsNotThere) {
 }
 
 }  // namespace
-}  // namespace json_result_test

@@ -8,7 +8,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace json_view_test {
 namespace {
 
 using namespace hxahost;
@@ -211,4 +210,3 @@ TEST(JsonView, ShowsAnEmptyArrayAndAnEmptyValue) {
 }
 
 }  // namespace
-}  // namespace json_view_test

@@ -7,7 +7,6 @@
 
 #include "collect/text_search.h"
 
-namespace label_ahead_test {
 namespace {
 
 // What it says of each line from the current one on: "x" where the label is.
@@ -43,4 +42,3 @@ TEST(LabelAhead, FailsWhereThereIsNoLine) {
 }
 
 }  // namespace
-}  // namespace label_ahead_test

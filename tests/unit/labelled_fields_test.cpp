@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-namespace labelled_fields_test {
 namespace {
 
 struct Disk {
@@ -154,4 +153,3 @@ TEST(LabelledFields, LooksForASectionValueOnlyWhereTheSectionAllows) {
 }
 
 }  // namespace
-}  // namespace labelled_fields_test

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-namespace mask_places_test {
 namespace {
 
 using namespace hxahost;
@@ -63,4 +62,3 @@ TEST(MaskPlaces, InTheToolsLogsAreQuotedTextsProse) {
 }
 
 }  // namespace
-}  // namespace mask_places_test

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace model_table_test {
 namespace {
 
 constexpr ModelName kModels[] = {
@@ -21,4 +20,3 @@ TEST(ModelTable, KeepsAModelThatNoRowKnows) {
 }
 
 }  // namespace
-}  // namespace model_table_test

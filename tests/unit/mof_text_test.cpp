@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <string>
 
-namespace mof_text_test {
 namespace {
 
 using namespace hxahost;
@@ -57,4 +56,3 @@ TEST(MofText, HasAMebibyteWhole) {
 }
 
 }  // namespace
-}  // namespace mof_text_test

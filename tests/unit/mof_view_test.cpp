@@ -9,7 +9,6 @@
 #include "host/hxacore/value_reader.h"
 #include "tests/support/filled_repository.h"
 
-namespace mof_view_test {
 namespace {
 
 using namespace hxahost;
@@ -147,4 +146,3 @@ TEST(MofView, LetsTheMachinesNameEndNoComment) {
 }
 
 }  // namespace
-}  // namespace mof_view_test

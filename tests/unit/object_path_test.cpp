@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace object_path_test {
 namespace {
 
 using namespace hxahost;
@@ -35,4 +34,3 @@ TEST(ObjectPath, ReadsEachKeyByItself) {
 }
 
 }  // namespace
-}  // namespace object_path_test

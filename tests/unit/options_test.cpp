@@ -7,7 +7,6 @@
 
 #include "host/hxahost/system/exit_status.h"
 
-namespace options_test {
 namespace {
 
 using namespace hxahost;
@@ -245,4 +244,3 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
 }
 
 }  // namespace
-}  // namespace options_test

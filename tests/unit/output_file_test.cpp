@@ -8,7 +8,6 @@
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 
-namespace output_file_test {
 namespace {
 
 using namespace hxahost;
@@ -62,4 +61,3 @@ TEST(OutputFile, RefusesAFolderAndAFileInAFolderThatIsMissing) {
 }
 
 }  // namespace
-}  // namespace output_file_test

@@ -8,7 +8,6 @@
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/text.h"
 
-namespace page_test {
 namespace {
 
 using namespace hxahost;
@@ -75,4 +74,3 @@ TEST(Page, ColoursStatesWithoutMovingWhatStandsBehindThem) {
 }
 
 }  // namespace
-}  // namespace page_test

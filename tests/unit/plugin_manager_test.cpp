@@ -6,7 +6,6 @@
 #include "plugin/host_interface/exception.h"
 #include "plugin/host_interface/services.h"
 
-namespace plugin_manager_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -75,4 +74,3 @@ TEST_F(PluginManager, HasNoClassOfItsOwn) {
 }
 
 }  // namespace
-}  // namespace plugin_manager_test

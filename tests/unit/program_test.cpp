@@ -5,7 +5,6 @@
 
 #include <sstream>
 
-namespace program_test {
 namespace {
 
 using namespace hxahost;
@@ -45,4 +44,3 @@ TEST(Program, FailsWhenOutTakesNothing) {
 }
 
 }  // namespace
-}  // namespace program_test

@@ -5,7 +5,6 @@
 
 #include <sstream>
 
-namespace progress_test {
 namespace {
 
 using namespace hxahost;
@@ -83,4 +82,3 @@ TEST(Progress, IsOutOfTheWayBeforeOthersWrite) {
 }
 
 }  // namespace
-}  // namespace progress_test

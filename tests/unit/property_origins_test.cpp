@@ -13,7 +13,6 @@
 #include "host/hxacore/schema.h"
 #include "tests/support/file_text.h"
 
-namespace property_origins_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -203,4 +202,3 @@ TEST(PropertyOrigins, AreALineForEachToolAndOneInWords) {
 }
 
 }  // namespace
-}  // namespace property_origins_test

@@ -4,7 +4,6 @@
 
 #include "tests/support/fake_namespace.h"
 
-namespace property_table_test {
 namespace {
 
 using NKVRHXA20::TCIMDateTime;
@@ -60,4 +59,3 @@ TEST(PropertyTable, PublishesFieldsAsHeldWhereThatIsAskedFor) {
 }
 
 }  // namespace
-}  // namespace property_table_test

@@ -7,7 +7,6 @@
 #include "publish/identifiers.h"
 #include "tests/support/publishing.h"
 
-namespace publish_associations_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -362,4 +361,3 @@ TEST(PublishAssociations, OfControllersEqualWhatLookingAtEveryPairGives) {
 }
 
 }  // namespace
-}  // namespace publish_associations_test

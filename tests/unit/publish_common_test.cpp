@@ -8,7 +8,6 @@
 #include "tests/support/fake_namespace.h"
 #include "tests/support/recording_log.h"
 
-namespace publish_common_test {
 namespace {
 
 TEST(PublishCommon, AControllerListThatCannotBeReadIsLoggedAndCountsAsEmpty) {
@@ -57,4 +56,3 @@ TEST(PublishCommon, AnArrayHoldsTheTextsInOrder) {
 }
 
 }  // namespace
-}  // namespace publish_common_test

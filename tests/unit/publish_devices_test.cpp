@@ -5,7 +5,6 @@
 #include "tests/support/device_fields.h"
 #include "tests/support/publishing.h"
 
-namespace publish_devices_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -194,4 +193,3 @@ TEST(PublishDevices, DrivesAreListedControllerByControllerInListOrder) {
 }
 
 }  // namespace
-}  // namespace publish_devices_test

@@ -6,7 +6,6 @@
 #include "tests/support/publishing.h"
 #include "tests/support/raid_log_machine.h"
 
-namespace publish_logs_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -133,4 +132,3 @@ TEST(PublishLogs, AnEmptyRaidManagerLogIsNoWarningAndNoInstance) {
 }
 
 }  // namespace
-}  // namespace publish_logs_test

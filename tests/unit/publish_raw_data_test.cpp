@@ -5,7 +5,6 @@
 #include "tests/support/publishing.h"
 #include "tests/support/raid_log_machine.h"
 
-namespace publish_raw_data_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -77,4 +76,3 @@ TEST(PublishRawData, ARaidManagerLogWithoutTextIsLoggedAsEmpty) {
 }
 
 }  // namespace
-}  // namespace publish_raw_data_test

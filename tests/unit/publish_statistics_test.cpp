@@ -5,7 +5,6 @@
 #include "tests/support/log_fields.h"
 #include "tests/support/publishing.h"
 
-namespace publish_statistics_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -144,4 +143,3 @@ TEST(PublishStatistics, WithoutRecordsNothingIsPublishedOrLogged) {
 }
 
 }  // namespace
-}  // namespace publish_statistics_test

@@ -4,7 +4,6 @@
 
 #include "tests/support/publishing.h"
 
-namespace publish_versions_test {
 namespace {
 
 using Properties = std::vector<std::string>;
@@ -139,4 +138,3 @@ TEST(PublishVersions, OnlyTheInstanceOfAHardDiskNamesAManufacturer) {
 }
 
 }  // namespace
-}  // namespace publish_versions_test

@@ -13,7 +13,6 @@
 #include "tests/support/sample_text.h"
 #include "tests/support/tool_text.h"
 
-namespace qcmdrun_configuration_walk_test {
 namespace {
 
 class QcmdrunConfigurationWalk : public testing::Test {
@@ -215,4 +214,3 @@ TEST_F(QcmdrunConfigurationWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay)
 }
 
 }  // namespace
-}  // namespace qcmdrun_configuration_walk_test

@@ -8,7 +8,6 @@
 #include "tests/support/table_cases.h"
 #include "tests/support/tool_text.h"
 
-namespace qcmdrun_controller_parser_test {
 namespace {
 
 using qcmdrun::ParseController;
@@ -158,4 +157,3 @@ TEST(QcmdrunControllerParser, ReadsACutOffAnswerUpToItsLastWholeLine) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_controller_parser_test

@@ -17,7 +17,6 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
-namespace qcmdrun_log_walk_test {
 namespace {
 
 using Texts = std::vector<std::string>;
@@ -239,4 +238,3 @@ TEST_F(QcmdrunLogWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_log_walk_test

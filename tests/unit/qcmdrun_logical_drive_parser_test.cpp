@@ -9,7 +9,6 @@
 #include "tests/support/table_cases.h"
 #include "tests/support/tool_text.h"
 
-namespace qcmdrun_logical_drive_parser_test {
 namespace {
 
 const FieldCases<ZenxLogicalDevice> kLabels = {
@@ -94,4 +93,3 @@ TEST(QcmdrunLogicalDriveParser, FailsWhereTheTextEndsInsideTheBlock) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_logical_drive_parser_test

@@ -10,7 +10,6 @@
 #include "tests/support/table_cases.h"
 #include "tests/support/tool_text.h"
 
-namespace qcmdrun_physical_device_parser_test {
 namespace {
 
 const FieldCases<ZenxPhysicalDevice> kLabels = {
@@ -169,4 +168,3 @@ TEST(QcmdrunPhysicalDeviceParser, FailsWhereTheTextEndsInsideTheBlock) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_physical_device_parser_test

@@ -6,7 +6,6 @@
 #include "collect/records.h"
 #include "tests/support/table_cases.h"
 
-namespace qcmdrun_status_parser_test {
 namespace {
 
 const FieldCases<ZenxController> kLabels = {
@@ -62,4 +61,3 @@ TEST(QcmdrunStatusParser, LeavesAllFieldsEmptyWithoutAnyLine) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_status_parser_test

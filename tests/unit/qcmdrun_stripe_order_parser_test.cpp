@@ -7,7 +7,6 @@
 #include "collect/collected_data.h"
 #include "collect/records.h"
 
-namespace qcmdrun_stripe_order_parser_test {
 namespace {
 
 struct Block {
@@ -71,4 +70,3 @@ TEST(QcmdrunStripeOrderParser, FailsWhereTheTextEndsWithTheLine) {
 }
 
 }  // namespace
-}  // namespace qcmdrun_stripe_order_parser_test

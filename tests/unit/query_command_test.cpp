@@ -12,7 +12,6 @@
 #include "host/hxahost/text/text.h"
 #include "tests/support/temporary_folder.h"
 
-namespace query_command_test {
 namespace {
 
 using namespace hxahost;
@@ -52,4 +51,3 @@ TEST(QueryCommand, SaysThatWhatAFailedQueryLeftOnStandardOutputIsNotWhole) {
 }
 
 }  // namespace
-}  // namespace query_command_test

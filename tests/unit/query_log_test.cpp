@@ -6,7 +6,6 @@
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 
-namespace query_log_test {
 namespace {
 
 using namespace hxahost;
@@ -50,4 +49,3 @@ TEST(QueryLog, RefusesAFileThatCannotBeWritten) {
 }
 
 }  // namespace
-}  // namespace query_log_test

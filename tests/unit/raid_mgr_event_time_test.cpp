@@ -7,7 +7,6 @@
 
 #include "logs/raid_mgr_fields.h"
 
-namespace raid_mgr_event_time_test {
 namespace {
 
 TEST(RaidMgrMonths, AreToldByTheLettersThatDiffer) {
@@ -155,4 +154,3 @@ TEST(RaidMgrEventTime, AnyLineCutAnywhereIsRead) {
 }
 
 }  // namespace
-}  // namespace raid_mgr_event_time_test

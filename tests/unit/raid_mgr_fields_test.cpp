@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace raid_mgr_fields_test {
 namespace {
 
 using namespace std::string_view_literals;
@@ -29,4 +28,3 @@ TEST(RaidMgrFields, AreWhatTabsAndNulsDivide) {
 }
 
 }  // namespace
-}  // namespace raid_mgr_fields_test

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace raid_mgr_zones_test {
 namespace {
 
 TEST(RaidMgrZones, GiveTheHoursOfTheFirstRowOfEachName) {
@@ -62,4 +61,3 @@ TEST(RaidMgrZones, ANameIsComparedWholeAndInExactCase) {
 }
 
 }  // namespace
-}  // namespace raid_mgr_zones_test

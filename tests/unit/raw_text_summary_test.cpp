@@ -6,7 +6,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace raw_text_summary_test {
 namespace {
 
 using namespace hxahost;
@@ -41,4 +40,3 @@ TEST(RawTextSummary, CountsCommandsAnswersAndLinesOfEachTool) {
 TEST(RawTextSummary, IsNothingWithoutRawTexts) { EXPECT_EQ(Summary(FilledRepository()), ""); }
 
 }  // namespace
-}  // namespace raw_text_summary_test

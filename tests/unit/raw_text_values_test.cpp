@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-namespace raw_text_values_test {
 namespace {
 
 using Values = std::vector<std::string>;
@@ -95,4 +94,3 @@ TEST(RawTextValues, ReadsAnyBytesCutAnywhere) {
 }
 
 }  // namespace
-}  // namespace raw_text_values_test

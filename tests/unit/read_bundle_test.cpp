@@ -7,7 +7,6 @@
 #include "host/hxahost/bundle/bundle_text.h"
 #include "tests/support/sample_bundle.h"
 
-namespace read_bundle_test {
 namespace {
 
 using namespace hxahost;
@@ -148,4 +147,3 @@ TEST(ReadBundle, SaysInOneLineWhatIsWrong) {
 }
 
 }  // namespace
-}  // namespace read_bundle_test

@@ -10,7 +10,6 @@
 
 #include "tests/support/recording_log.h"
 
-namespace record_blocks_test {
 namespace {
 
 // Counts itself.
@@ -101,4 +100,3 @@ TEST(RecordBlocks, BeginWithOneRecordAndDoubleUpToALimit) {
 }
 
 }  // namespace
-}  // namespace record_blocks_test

@@ -8,7 +8,6 @@
 #include "host/hxahost/views/tables/controller_columns.h"
 #include "tests/support/filled_repository.h"
 
-namespace record_sections_test {
 namespace {
 
 using namespace hxahost;
@@ -165,4 +164,3 @@ RAID manager events
 }
 
 }  // namespace
-}  // namespace record_sections_test

@@ -7,7 +7,6 @@
 #include "logs/event_records.h"
 #include "logs/statistics_records.h"
 
-namespace records_test {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -73,4 +72,3 @@ TEST(ZenxController, StartWithoutAnythingOnTheController) {
 }
 
 }  // namespace
-}  // namespace records_test

@@ -14,7 +14,6 @@
 #include "tests/support/raid_log_machine.h"
 #include "tests/support/sample_bundle.h"
 
-namespace replayed_platform_test {
 namespace {
 
 using namespace hxahost;
@@ -98,4 +97,3 @@ TEST(ReplayedPlatform, LetsGoOfAFileThatIsStillOpen) {
 }
 
 }  // namespace
-}  // namespace replayed_platform_test

@@ -14,7 +14,6 @@
 #include "host/hxahost/views/tables/record_sections.h"
 #include "tests/support/healthy_machine.h"
 
-namespace report_data_test {
 namespace {
 
 using namespace hxahost;
@@ -110,4 +109,3 @@ TEST(ReportData, TellsUnreadLinesWhereEveryClassWasAskedFor) {
 }
 
 }  // namespace
-}  // namespace report_data_test

@@ -6,7 +6,6 @@
 
 #include "tests/support/contains_pattern.h"
 
-namespace report_template_test {
 namespace {
 
 using namespace hxahost;
@@ -54,4 +53,3 @@ TEST(ReportTemplate, NeverReadsTextAsMarkupOrAsProgram) {
 }
 
 }  // namespace
-}  // namespace report_template_test

@@ -9,7 +9,6 @@
 #include "plugin/host_interface/exception.h"
 #include "plugin/query.h"
 
-namespace repository_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -182,4 +181,3 @@ TEST(RepositoryClasses, AreThoseOfThePlugInsCatalogueInItsOrder) {
 }
 
 }  // namespace
-}  // namespace repository_test

@@ -6,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-namespace result_diff_test {
 namespace {
 
 using namespace hxahost;
@@ -191,4 +190,3 @@ TEST(ResultDiff, SumsUpRawTextsByCommand) {
 }
 
 }  // namespace
-}  // namespace result_diff_test

@@ -12,7 +12,6 @@
 
 #include "tests/support/file_text.h"
 
-namespace schema_markdown_test {
 namespace {
 
 using namespace hxahost;
@@ -59,4 +58,3 @@ TEST(SchemaMarkdown, NamesTheLabelsThatValuesStandBehind) {
 }
 
 }  // namespace
-}  // namespace schema_markdown_test

@@ -7,7 +7,6 @@
 
 #include "host/hxacore/ignore_case.h"
 
-namespace schema_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -166,4 +165,3 @@ TEST(Schema, PropertiesStandInTheOrderInWhichTheyArePublished) {
 }
 
 }  // namespace
-}  // namespace schema_test

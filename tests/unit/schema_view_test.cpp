@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <sstream>
 
-namespace schema_view_test {
 namespace {
 
 using namespace hxahost;
@@ -102,4 +101,3 @@ TEST(SchemaView, DeclaresAClassBeforeAnotherRefersToIt) {
 }
 
 }  // namespace
-}  // namespace schema_view_test

@@ -5,7 +5,6 @@
 #include <sstream>
 #include <string>
 
-namespace script_data_test {
 namespace {
 
 using hxahost::ScriptData;
@@ -66,4 +65,3 @@ TEST(ScriptData, TakesSingleCharacters) {
 }
 
 }  // namespace
-}  // namespace script_data_test

@@ -8,7 +8,6 @@
 #include "host/hxacore/host_services.h"
 #include "plugin/host_interface/services.h"
 
-namespace session_services_test {
 namespace {
 
 using namespace hxahost;
@@ -75,4 +74,3 @@ TEST(SessionServices, KeepTheRunsOfTools) {
 }
 
 }  // namespace
-}  // namespace session_services_test

@@ -8,7 +8,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace silent_controllers_test {
 namespace {
 
 using namespace hxahost;
@@ -75,4 +74,3 @@ TEST_F(SilentControllersTest, AreNotReadFromOtherAnswers) {
 }
 
 }  // namespace
-}  // namespace silent_controllers_test

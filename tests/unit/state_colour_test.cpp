@@ -4,7 +4,6 @@
 
 #include <string>
 
-namespace state_colour_test {
 namespace {
 
 using hxahost::InStateColour;
@@ -35,4 +34,3 @@ TEST(StateColour, FollowsTheFirstWordAndKeepsTheText) {
 }
 
 }  // namespace
-}  // namespace state_colour_test

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace state_words_test {
 namespace {
 
 using namespace hxahost;
@@ -66,4 +65,3 @@ TEST(StateWords, OfALongTextAreCutInOneGo) {
 }
 
 }  // namespace
-}  // namespace state_words_test

@@ -10,7 +10,6 @@
 #include "logs/statistics_records.h"
 #include "tests/support/scripted_services.h"
 
-namespace statistics_parsers_test {
 namespace {
 
 ZenxBstData BadStripe(const std::string& line) {
@@ -291,4 +290,3 @@ TEST_F(SubStatParser, FindsInEveryLineWhatASearchForEachTokenFinds) {
 }
 
 }  // namespace
-}  // namespace statistics_parsers_test

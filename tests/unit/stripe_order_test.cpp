@@ -4,7 +4,6 @@
 
 #include <stdexcept>
 
-namespace stripe_order_test {
 namespace {
 
 TEST(StripeOrder, PutsOneBlankBetweenALineAndTheNext) {
@@ -40,4 +39,3 @@ TEST(StripeOrder, MakesTheIdentifierOfItsPartsWithNothingBetween) {
 }
 
 }  // namespace
-}  // namespace stripe_order_test

@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-namespace table_columns_test {
 namespace {
 
 // The column, counted from 1.
@@ -128,4 +127,3 @@ TEST(TableColumns, AreThoseBetweenTheBarsInEveryWideRow) {
 }
 
 }  // namespace
-}  // namespace table_columns_test

@@ -7,7 +7,6 @@
 #include "host/hxahost/terminal/page.h"
 #include "host/hxahost/text/text.h"
 
-namespace table_test {
 namespace {
 
 using namespace hxahost;
@@ -118,4 +117,3 @@ TEST(Table, IsNeverWiderThanTheView) {
 }
 
 }  // namespace
-}  // namespace table_test

@@ -6,7 +6,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace table_view_test {
 namespace {
 
 using namespace hxahost;
@@ -147,4 +146,3 @@ Runs of the tools
 }
 
 }  // namespace
-}  // namespace table_view_test

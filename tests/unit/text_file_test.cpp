@@ -4,7 +4,6 @@
 
 #include "tests/support/temporary_folder.h"
 
-namespace text_file_test {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -99,4 +98,3 @@ TEST(TextFile, AFolderHasNoLines) {
 }
 
 }  // namespace
-}  // namespace text_file_test

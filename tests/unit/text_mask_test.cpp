@@ -8,7 +8,6 @@
 
 #include "host/hxahost/text/text.h"
 
-namespace text_mask_test {
 namespace {
 
 using namespace hxahost;
@@ -85,4 +84,3 @@ TEST(TextMask, HasNoVowels) {
 }
 
 }  // namespace
-}  // namespace text_mask_test

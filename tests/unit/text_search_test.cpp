@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-namespace text_search_test {
 namespace {
 
 // Of few letters, so that beginnings of a label are met at every turn; some of them rare, some common.
@@ -93,4 +92,3 @@ TEST(AreSame, SeesOneDifferentCharacterWhereverItStandsAndWhateverTheLength) {
 }
 
 }  // namespace
-}  // namespace text_search_test

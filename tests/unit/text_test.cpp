@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace text_test {
 namespace {
 
 using namespace hxahost;
@@ -100,4 +99,3 @@ TEST(Text, IsReadCharacterByCharacter) {
 }
 
 }  // namespace
-}  // namespace text_test

@@ -7,7 +7,6 @@
 
 #include "tests/support/tool_text.h"
 
-namespace tool_answer_test {
 namespace {
 
 using hxahost::KnownTools;
@@ -112,4 +111,3 @@ TEST(ToolAnswer, FindsAnOutcomeByItsWord) {
 }
 
 }  // namespace
-}  // namespace tool_answer_test

@@ -10,7 +10,6 @@
 
 #include "plugin/host_interface/exception.h"
 
-namespace tool_run_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -134,4 +133,3 @@ TEST(ToolRun, WritesItsArgumentsOnOneLine) {
 }
 
 }  // namespace
-}  // namespace tool_run_test

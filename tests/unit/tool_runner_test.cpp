@@ -10,7 +10,6 @@
 #include "plugin/host_interface/exception.h"
 #include "tests/support/recording_log.h"
 
-namespace tool_runner_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -100,4 +99,3 @@ TEST_F(ToolRunner, ReturnsAnEmptyOutputAsItIs) {
 }
 
 }  // namespace
-}  // namespace tool_runner_test

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-namespace tool_summary_test {
 namespace {
 
 using hxahost::Outcome;
@@ -149,4 +148,3 @@ TEST(ToolSummary, SaysThatALaterQueryRanNoTool) {
 }
 
 }  // namespace
-}  // namespace tool_summary_test

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-namespace tool_text_test {
 namespace {
 
 struct Case {
@@ -107,4 +106,3 @@ TEST(ToolText, ReadsTheNumberOfAViewThatNoNulEnds) {
 }
 
 }  // namespace
-}  // namespace tool_text_test

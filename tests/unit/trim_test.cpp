@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace trim_test {
 namespace {
 
 TEST(Trim, CutsBlanksTabsCarriageReturnsAndLineFeedsAtBothEndsAndNothingElse) {
@@ -27,4 +26,3 @@ TEST(Trim, CutsBlanksTabsCarriageReturnsAndLineFeedsAtBothEndsAndNothingElse) {
 }
 
 }  // namespace
-}  // namespace trim_test

@@ -6,7 +6,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace unguarded_arrays_test {
 namespace {
 
 using namespace hxahost;
@@ -87,4 +86,3 @@ TEST(UnguardedArrays, TakeADiskThatNoListNamesForOneOfTheirs) { EXPECT_TRUE(Lies
 TEST(UnguardedArrays, HaveNoDiskOfAnotherController) { EXPECT_FALSE(LiesOnUnguarded({"3", "0", "1", ""})); }
 
 }  // namespace
-}  // namespace unguarded_arrays_test

@@ -7,7 +7,6 @@
 
 #include "tests/support/filled_repository.h"
 
-namespace unread_lines_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -108,4 +107,3 @@ TEST(UnreadLines, AreAllLinesOfAValueThatGoesOn) {
 }
 
 }  // namespace
-}  // namespace unread_lines_test

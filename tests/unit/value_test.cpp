@@ -4,7 +4,6 @@
 
 #include "host/hxacore/value_reader.h"
 
-namespace value_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -127,4 +126,3 @@ TEST(ObjectPath, OfAReferenceMadeOfKeysAloneHasNoClass) {
 }
 
 }  // namespace
-}  // namespace value_test

@@ -4,7 +4,6 @@
 
 #include "host/hxacore/value_reader.h"
 
-namespace value_type_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -76,4 +75,3 @@ TEST(ValueType, HasItsNameInCim) {
 }
 
 }  // namespace
-}  // namespace value_type_test

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-namespace version_split_test {
 namespace {
 
 TEST(VersionSplit, DividesAtTheFirstParentheses) {
@@ -34,4 +33,3 @@ TEST(VersionSplit, DividesAtTheFirstParentheses) {
 }
 
 }  // namespace
-}  // namespace version_split_test

@@ -4,7 +4,6 @@
 
 #include "host/hxahost/program/options.h"
 
-namespace views_test {
 namespace {
 
 using namespace hxahost;
@@ -18,4 +17,3 @@ TEST(Views, AreFoundByTheirFormatTheDefaultFirst) {
 }
 
 }  // namespace
-}  // namespace views_test

@@ -7,7 +7,6 @@
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"
 
-namespace write_bundle_test {
 namespace {
 
 using namespace hxahost;
@@ -29,4 +28,3 @@ TEST(WriteBundle, WritesWhatIsAbsentAsNone) {
 }
 
 }  // namespace
-}  // namespace write_bundle_test

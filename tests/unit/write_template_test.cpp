@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-namespace write_template_test {
 namespace {
 
 using namespace hxahost;
@@ -40,4 +39,3 @@ TEST(WriteTemplate, RefusesATemplateWithoutTheSlot) {
 }
 
 }  // namespace
-}  // namespace write_template_test

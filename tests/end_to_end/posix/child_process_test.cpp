@@ -10,7 +10,6 @@
 #include "tests/support/test_system.h"
 
 // As on a kernel that cannot tell of the end of a process through a descriptor.
-namespace posix_child_process_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -82,4 +81,3 @@ TEST(ChildProcess, AFamilyIsEndedWhileOtherProcessesComeAndGo) {
 }
 
 }  // namespace
-}  // namespace posix_child_process_test

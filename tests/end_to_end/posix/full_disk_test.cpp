@@ -14,7 +14,6 @@
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 
-namespace posix_full_disk_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -109,4 +108,3 @@ TEST(FullDisk, LeavesTheGoodResultThatWasThereBefore) {
 }
 
 }  // namespace
-}  // namespace posix_full_disk_test

@@ -4,7 +4,6 @@
 #include "host/hxahost/text/text.h"
 #include "tests/support/hxahost_run.h"
 
-namespace posix_report_test {
 namespace {
 
 TEST(Report, SaysThatADiskIsFull) {
@@ -15,4 +14,3 @@ TEST(Report, SaysThatADiskIsFull) {
 }
 
 }  // namespace
-}  // namespace posix_report_test

@@ -4,7 +4,6 @@
 
 #include "host/hxacore/host_services.h"
 
-namespace posix_spawn_result_test {
 namespace {
 
 TEST(SpawnResult, NamesTheSignalThatEndedTheProgram) {
@@ -15,4 +14,3 @@ TEST(SpawnResult, NamesTheSignalThatEndedTheProgram) {
 }
 
 }  // namespace
-}  // namespace posix_spawn_result_test

@@ -18,7 +18,6 @@
 #include "host/hxahost/text/text.h"
 #include "tests/support/hxahost_run.h"
 
-namespace posix_terminal_test {
 namespace {
 
 using testing::HasSubstr;
@@ -214,4 +213,3 @@ TEST(Terminal, HasNothingOfTheProgressLeftBesideTheTables) {
 }
 
 }  // namespace
-}  // namespace posix_terminal_test

@@ -14,7 +14,6 @@
 #include "tests/support/machine_copy.h"
 #include "tests/support/temporary_folder.h"
 
-namespace posix_working_directory_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -102,4 +101,3 @@ TEST(WorkingDirectory, WithoutAnyRoomIsEnough) {
 }
 
 }  // namespace
-}  // namespace posix_working_directory_test

@@ -8,7 +8,6 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/temporary_folder.h"
 
-namespace posix_collect_raid_mgr_data_test {
 namespace {
 
 // Systems other than Windows take the version from the environment, so that an old one can be played here.
@@ -29,4 +28,3 @@ TEST(CollectRaidMgrDataOnOlderSystems, TakesTheRegistryValueAsItStands) {
 }
 
 }  // namespace
-}  // namespace posix_collect_raid_mgr_data_test

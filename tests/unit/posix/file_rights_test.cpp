@@ -5,7 +5,6 @@
 #include "host/hxahost/system/posix/file_mode.h"
 #include "tests/support/temporary_folder.h"
 
-namespace posix_file_rights_test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -63,4 +62,3 @@ TEST(FileRights, AreReadFromTheFileAndFromWhatALinkPointsTo) {
 TEST(FileRights, OfWhatIsNotThereAreNone) { EXPECT_FALSE(OthersMayWrite("/nothing/there")); }
 
 }  // namespace
-}  // namespace posix_file_rights_test

@@ -8,7 +8,6 @@
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
 
-namespace posix_output_file_test {
 namespace {
 
 using namespace hxahost;
@@ -44,4 +43,3 @@ TEST(OutputFilePosix, ReportsAFullDevice) {
 }
 
 }  // namespace
-}  // namespace posix_output_file_test

@@ -8,7 +8,6 @@
 #include "host/hxahost/result/json_result.h"
 #include "tests/support/temporary_folder.h"
 
-namespace posix_whole_file_test {
 namespace {
 
 using NKVRHXA20::ReadWholeFile;
@@ -53,4 +52,3 @@ TEST(WholeFile, ThatCannotBeReadIsNamedWithWhatToDo) {
 }
 
 }  // namespace
-}  // namespace posix_whole_file_test

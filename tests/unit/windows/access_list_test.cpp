@@ -8,7 +8,6 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"
 
-namespace windows_access_list_test {
 namespace {
 
 using hxahost::LetsOthersWrite;
@@ -88,4 +87,3 @@ TEST(AccessList, IsReadFromTheFile) {
 }
 
 }  // namespace
-}  // namespace windows_access_list_test

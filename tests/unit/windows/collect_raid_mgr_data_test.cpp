@@ -6,7 +6,6 @@
 
 #include "tests/support/raid_log_machine.h"
 
-namespace windows_collect_raid_mgr_data_test {
 namespace {
 
 // A text in the registry may lack its end.
@@ -25,4 +24,3 @@ TEST(CollectRaidMgrDataOnWindows, TakesARegistryValueWithoutItsEnd) {
 }
 
 }  // namespace
-}  // namespace windows_collect_raid_mgr_data_test

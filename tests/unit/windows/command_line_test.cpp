@@ -11,7 +11,6 @@
 
 #include <shellapi.h>
 
-namespace windows_command_line_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -83,4 +82,3 @@ TEST(CommandLine, BeginsWithTheProgramInQuotes) {
 }
 
 }  // namespace
-}  // namespace windows_command_line_test

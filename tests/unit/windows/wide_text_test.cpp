@@ -4,7 +4,6 @@
 
 #include <windows.h>
 
-namespace windows_wide_text_test {
 namespace {
 
 using namespace NKVRHXA20;
@@ -36,4 +35,3 @@ TEST(WideText, SaysAnErrorInOneLineWithoutItsEnd) {
 }
 
 }  // namespace
-}  // namespace windows_wide_text_test
