@@ -18,9 +18,6 @@ namespace {
 constexpr const char* kSubFolder = "KVR\\Zentraxis Manager\\";
 constexpr const char* kFileName = "RaidEvtA.log";
 
-// Longer lines are read in pieces, each a line of its own.
-constexpr std::size_t kLongestLine = 511;
-
 }  // namespace
 
 unsigned& ProcessWideEventCounter() {
@@ -43,7 +40,7 @@ RaidMgrRead CollectRaidMgrData::ReadNextRecord() {
     Log(host_, kLogRoutine, "Unexpected end of file reached.");
     return RaidMgrRead::kEnd;
   }
-  const std::string& line = file_.ReadLine(kLongestLine);
+  const std::string line = file_.ReadLine();
   if (line.empty()) return RaidMgrRead::kEnd;
   const auto [when, severity, machineName, message] = SplitFields(line);
   const auto time = ReadEventTime(line, when);

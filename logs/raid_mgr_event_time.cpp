@@ -52,9 +52,7 @@ char FirstOf(std::string_view text) { return text.empty() ? '\0' : text.front();
 
 // Takes the text before the separator off the rest, and the separator with it. Without one it takes all.
 std::string_view TakeUpTo(std::string_view& rest, char separator) {
-  // The separator is a few characters away: a loop finds it before a call to the C library is under way.
-  const auto end = std::ranges::find(rest, separator);
-  const std::string_view taken(rest.begin(), end);
+  const std::string_view taken = rest.substr(0, rest.find(separator));
   rest.remove_prefix(std::min(taken.size() + 1, rest.size()));
   return taken;
 }

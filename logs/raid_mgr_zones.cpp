@@ -1,25 +1,12 @@
 #include "logs/raid_mgr_zones.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <iterator>
 
 namespace {
 
-// A longer one has no room in the number. No zone's name is as long.
-constexpr std::size_t kLongestName = 7;
-
-// A name as one number, which is cheaper to compare. It begins with a 1, so that no character is lost in front.
-constexpr std::uint64_t Packed(std::string_view name) {
-  std::uint64_t packed = 1;
-  for (const char character : name) packed = packed << 8U | static_cast<unsigned char>(character);
-  return packed;
-}
-
 struct Zone {
-  constexpr Zone(std::string_view text, int offset) : name(Packed(text)), hours(offset) {}
-
-  std::uint64_t name;
+  std::string_view name;
   int hours;
 };
 
@@ -73,7 +60,6 @@ constexpr Zone kZones[] = {
 }  // namespace
 
 int HoursFromUtc(std::string_view zone) {
-  if (zone.size() > kLongestName) return 0;
-  const auto* const found = std::ranges::find(kZones, Packed(zone), &Zone::name);
+  const auto* const found = std::ranges::find(kZones, zone, &Zone::name);
   return found == std::end(kZones) ? 0 : found->hours;
 }

@@ -1,55 +1,27 @@
 #include "logs/text_file.h"
 
-#include <algorithm>
-#include <string_view>
-
 #include "platform/native_path.h"
 
-namespace {
+TextFile::TextFile(const std::string& nativePath) : file_(OpenNativeFile(nativePath)) {}
 
-constexpr std::size_t kBufferSize = std::size_t{64} << 10U;
-constexpr int kNowhere = -1;
-
-}  // namespace
-
-// Opened as bytes: where systems have a text mode, each has its own.
-TextFile::TextFile(const std::string& path) : file_(OpenNativeFile(path)), buffer_(kBufferSize) {}
-
-const std::string& TextFile::ReadLine(std::size_t limit) {
-  line_.clear();
-  while (IsOpen() && line_.size() < limit && !line_.ends_with('\n')) {
-    if (Peek() == kNowhere) {
-      hasMetEnd_ = true;
-      break;
-    }
-    TakePiece(limit - line_.size());
+std::string TextFile::ReadLine() {
+  // A line may have NULs in it. Of those in the buffer the last one is the end that fgets writes.
+  std::string line(kLongestLine + 1, ' ');
+  if (!IsOpen() || std::fgets(line.data(), static_cast<int>(line.size()), file_.get()) == nullptr) return {};
+  line.resize(line.rfind('\0'));
+  if (HaveStreamsTextMode()) return line;
+  if (line.ends_with("\r\n")) {
+    line.replace(line.size() - 2, 2, "\n");
+  } else if (line.size() == kLongestLine && line.ends_with('\r') && TakeNext('\n')) {
+    line.back() = '\n';
   }
-  return line_;
+  return line;
 }
 
-// Takes what the buffer holds of the line, at most so many characters.
-void TextFile::TakePiece(std::size_t room) {
-  const std::string_view held(buffer_.data() + position_, filled_ - position_);
-  // A carriage return goes with the line feed behind it, which may stand just behind the room, or behind the buffer.
-  const std::size_t size = std::min({held.substr(0, room + 1).find('\n'), room, held.size()});
-  line_.append(held.substr(0, size));
-  position_ += size;
-  if (Peek() != '\n') return;
-  if (size > 0 && line_.back() == '\r') {
-    line_.back() = '\n';
-    ++position_;
-  } else if (size < room) {
-    line_ += '\n';
-    ++position_;
-  }
+// Whether the next character is the one given, which is read then.
+bool TextFile::TakeNext(char character) {
+  const int next = std::getc(file_.get());
+  if (next == static_cast<unsigned char>(character)) return true;
+  std::ungetc(next, file_.get());
+  return false;
 }
-
-// Whether there is a byte to read. A file that cannot be read further ends there.
-bool TextFile::Fill() {
-  if (position_ < filled_) return true;
-  position_ = 0;
-  filled_ = std::fread(buffer_.data(), 1, buffer_.size(), file_.get());
-  return filled_ > 0;
-}
-
-int TextFile::Peek() { return Fill() ? static_cast<unsigned char>(buffer_[position_]) : kNowhere; }

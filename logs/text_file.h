@@ -3,40 +3,35 @@
 #include <cstdio>
 #include <memory>
 #include <string>
-#include <vector>
 
-// A text file, read line by line the same way on every system: carriage return and line feed count as a line feed,
-// and every other byte is itself.
+// A text file that the system opens by a native path, read line by line with the C streams in text mode. Carriage
+// return and line feed are one line feed, also on systems whose streams have no text mode.
 class TextFile {
  public:
+  // Longer lines are read in pieces of so many characters, each a line of its own.
+  static constexpr std::size_t kLongestLine = 511;
+
   // Not open.
   TextFile() = default;
 
   // Open if the system opens the path for reading.
-  explicit TextFile(const std::string& path);
+  explicit TextFile(const std::string& nativePath);
 
   bool IsOpen() const { return file_ != nullptr; }
 
   // Whether a read has run into the end. True only after it has: not yet when a read stopped just before.
-  bool HasMetEnd() const { return hasMetEnd_; }
+  bool HasMetEnd() const { return IsOpen() && std::feof(file_.get()) != 0; }
 
-  // The next line with its line feed, or as many characters of it as the limit allows; the next call goes on behind
-  // them. "" when there is nothing left, and when the file is not open. Lasts until the next call.
-  const std::string& ReadLine(std::size_t limit);
+  // The next line with its line feed. "" when there is nothing left, when the file cannot be read further, and when it
+  // is not open.
+  std::string ReadLine();
 
  private:
   struct Close {
     void operator()(std::FILE* file) const { std::fclose(file); }
   };
 
-  bool Fill();
-  int Peek();
-  void TakePiece(std::size_t room);
+  bool TakeNext(char character);
 
   std::unique_ptr<std::FILE, Close> file_;
-  std::vector<char> buffer_;
-  std::size_t position_ = 0;
-  std::size_t filled_ = 0;
-  bool hasMetEnd_ = false;
-  std::string line_;
 };

@@ -8,5 +8,8 @@
 // (ZENX_RAID_LOG_FILE), that file, in UTF-8.
 std::string NativePath(const std::string& windowsPath);
 
-// Opens such a path to read its bytes; null where it cannot be opened.
+// Opens such a path to read its text; null where it cannot be opened.
 std::FILE* OpenNativeFile(const std::string& nativePath);
+
+// Whether a stream that reads text turns carriage return and line feed into a line feed.
+bool HaveStreamsTextMode();

@@ -12,4 +12,6 @@ std::string NativePath(const std::string& windowsPath) {
   return path;
 }
 
-std::FILE* OpenNativeFile(const std::string& nativePath) { return std::fopen(nativePath.c_str(), "rb"); }
+std::FILE* OpenNativeFile(const std::string& nativePath) { return std::fopen(nativePath.c_str(), "r"); }
+
+bool HaveStreamsTextMode() { return false; }

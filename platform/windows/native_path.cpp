@@ -41,9 +41,9 @@ std::FILE* OpenShared(const std::wstring& path) {
   const auto file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                 nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return nullptr;
-  const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_RDONLY | _O_BINARY);
+  const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_RDONLY | _O_TEXT);
   if (descriptor == -1) CloseHandle(file);
-  return descriptor == -1 ? nullptr : _fdopen(descriptor, "rb");
+  return descriptor == -1 ? nullptr : _fdopen(descriptor, "r");
 }
 
 }  // namespace
@@ -54,5 +54,7 @@ std::string NativePath(const std::string& windowsPath) {
 }
 
 std::FILE* OpenNativeFile(const std::string& nativePath) {
-  return AsksEnvironment() ? OpenShared(ToWide(nativePath)) : std::fopen(nativePath.c_str(), "rb");
+  return AsksEnvironment() ? OpenShared(ToWide(nativePath)) : std::fopen(nativePath.c_str(), "r");
 }
+
+bool HaveStreamsTextMode() { return true; }
