@@ -16,13 +16,13 @@
 #include "fuzz/support/sections.h"
 #include "fuzz/support/text_checks.h"
 #include "host/hxacore/value_reader.h"
-#include "host/hxahost/terminal/ascii_output.h"
-#include "host/hxahost/machine/health.h"
-#include "host/hxahost/views/monitoring/health_views.h"
-#include "host/hxahost/result/json_result.h"
-#include "host/hxahost/terminal/page.h"
 #include "host/hxahost/diff/result_diff.h"
+#include "host/hxahost/machine/health.h"
+#include "host/hxahost/result/json_result.h"
+#include "host/hxahost/terminal/ascii_output.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/views.h"
 
 using Json = nlohmann::ordered_json;

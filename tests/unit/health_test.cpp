@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/result/property_values.h"
 #include "tests/support/healthy_machine.h"
 
 namespace {
@@ -50,7 +50,7 @@ TEST(Health, GivesEverythingThatThereIsToSayOfAFinding) {
   EXPECT_EQ(findings[0].text, "Degraded");
   EXPECT_EQ(findings[0].meaning, "one more failed disk loses its data; replace the failed disk now");
   ASSERT_TRUE(findings[0].instance.has_value());
-  EXPECT_EQ(PublishedText(*machine.Result().instances.at(*findings[0].instance), "DeviceID"), "Zentraxis2LD1");
+  EXPECT_EQ(RawText(*machine.Result().instances.at(*findings[0].instance), "DeviceID"), "Zentraxis2LD1");
 }
 
 TEST(Health, ShowsTheWorstFirstAndKeepsTheOrderOfTheRulesWithinASeverity) {

@@ -17,15 +17,15 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/program/bundle_command.h"
 #include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/collection/query_log.h"
 #include "host/hxahost/diff/diff_view.h"
 #include "host/hxahost/machine/health.h"
-#include "host/hxahost/views/monitoring/health_views.h"
+#include "host/hxahost/program/bundle_command.h"
 #include "host/hxahost/result/json_result.h"
-#include "host/hxahost/terminal/page.h"
-#include "host/hxahost/collection/query_log.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/tables/tool_summary.h"
 #include "host/hxahost/views/views.h"
 #include "tests/support/file_text.h"

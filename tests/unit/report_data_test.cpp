@@ -8,9 +8,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/views/tables/controller_columns.h"
 #include "host/hxahost/machine/health.h"
-#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/views/tables/controller_columns.h"
 #include "host/hxahost/views/tables/record_sections.h"
 #include "tests/support/healthy_machine.h"
 
@@ -75,7 +75,7 @@ TEST(ReportData, HasTheFindingsWithThePlacesOfWhatTheyAreAbout) {
   ASSERT_EQ(findings.size(), 2U);
   EXPECT_EQ(findings[0]["severity"], "critical");
   EXPECT_EQ(findings[0]["name"], "logical drive 1 (Data) of controller 2");
-  EXPECT_EQ(PublishedText(*result.instances.at(findings[0]["instance"]), "DeviceID"), "Zentraxis2LD1");
+  EXPECT_EQ(RawText(*result.instances.at(findings[0]["instance"]), "DeviceID"), "Zentraxis2LD1");
   EXPECT_EQ(findings[1]["class"], "tool run");
   EXPECT_FALSE(findings[1].contains("instance"));
 }

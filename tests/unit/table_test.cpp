@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
 
 namespace {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/hxahost/views/monitoring/finding_json.h"
-#include "host/hxahost/views/monitoring/finding_text.h"
 #include "host/hxahost/text/json_text.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/finding_json.h"
+#include "host/hxahost/views/monitoring/finding_line.h"
 
 namespace hxahost {
 

@@ -4,8 +4,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/result/published_text.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -17,32 +17,32 @@ std::string InParentheses(const std::string& text) { return text.empty() ? "" : 
 
 // "3 (arcconf)" and a model share one pair of parentheses: "3 (arcconf, Zentraxis C6-e)".
 std::string ControllerName(const TPublishedInstance& controller, const std::string& owner) {
-  const std::string model = PublishedText(controller, "ControllerType");
+  const std::string model = RawText(controller, "ControllerType");
   if (!owner.ends_with(')') || model.empty()) return "controller " + owner + InParentheses(model);
   return "controller " + owner.substr(0, owner.size() - 1) + ", " + model + ")";
 }
 
 std::string LogicalDriveName(const TPublishedInstance& drive, const std::string& owner) {
-  return "logical drive " + PublishedText(drive, "LogicalDriveNum") +
-         InParentheses(PublishedText(drive, "LogicalDriveName")) + " of controller " + owner;
+  return "logical drive " + RawText(drive, "LogicalDriveNum") + InParentheses(RawText(drive, "LogicalDriveName")) +
+         " of controller " + owner;
 }
 
 // "Device #4" of one utility is "4" of the other.
 std::string DeviceNumber(const TPublishedInstance& device) {
-  const std::string number = PublishedText(device, "DeviceNumber");
+  const std::string number = RawText(device, "DeviceNumber");
   return number.substr(std::min(number.size(), number.rfind('#') + 1));
 }
 
 // One utility reports the place of a device without telling its parts.
 std::string Place(const TPublishedInstance& device) {
-  const std::string id = PublishedText(device, "ScsiId");
-  const std::string reported = PublishedText(device, "ReportedChannel");
-  if (!id.empty()) return "channel " + PublishedText(device, "Channel") + ", ID " + id;
+  const std::string id = RawText(device, "ScsiId");
+  const std::string reported = RawText(device, "ReportedChannel");
+  if (!id.empty()) return "channel " + RawText(device, "Channel") + ", ID " + id;
   return reported.empty() ? "number " + DeviceNumber(device) : "channel,ID " + reported;
 }
 
 std::string DeviceName(const TPublishedInstance& device, const std::string& owner) {
-  const std::string type = PublishedText(device, "DeviceType");
+  const std::string type = RawText(device, "DeviceType");
   return (type.empty() ? "device" : type) + " at " + Place(device) + " of controller " + owner;
 }
 
@@ -51,7 +51,7 @@ std::string CountersName(const TPublishedInstance& counters, const std::string& 
 }
 
 std::string BadStripesName(const TPublishedInstance& stripes, const std::string& owner) {
-  return "logical drive " + PublishedText(stripes, "LogicalDrive") + " of controller " + owner;
+  return "logical drive " + RawText(stripes, "LogicalDrive") + " of controller " + owner;
 }
 
 struct Naming {
@@ -77,13 +77,13 @@ const Naming* FindNaming(const TPublishedInstance& instance) {
 
 std::string IdentifierOf(const TPublishedInstance& instance) {
   const Naming* const naming = FindNaming(instance);
-  return naming == nullptr ? "" : PublishedText(instance, naming->identifier);
+  return naming == nullptr ? "" : RawText(instance, naming->identifier);
 }
 
 std::string NameOf(const TPublishedInstance& instance, const std::string& owner) {
   const Naming* const naming = FindNaming(instance);
   if (naming == nullptr) return "";
-  return naming->name(instance, owner.empty() ? PublishedText(instance, "ControllerNum") : owner);
+  return naming->name(instance, owner.empty() ? RawText(instance, "ControllerNum") : owner);
 }
 
 }  // namespace hxahost

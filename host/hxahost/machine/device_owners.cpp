@@ -9,9 +9,9 @@
 #include <string_view>
 #include <utility>
 
-#include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/result/tool_names.h"
+#include "host/hxahost/schema/class_names.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -70,9 +70,9 @@ struct Told {
 
 // "Device #4" of arcconf is "4" of hrconf_64.
 Told ToolOf(const TPublishedInstance& instance) {
-  if (PublishedText(instance, "DeviceNumber").starts_with("Device")) return {kArcconf, Certainty::kCertain};
+  if (RawText(instance, "DeviceNumber").starts_with("Device")) return {kArcconf, Certainty::kCertain};
   for (const OwnerSign& sign : kOwnerSigns) {
-    if (instance.Class().name != sign.className || PublishedText(instance, sign.property).empty()) continue;
+    if (instance.Class().name != sign.className || RawText(instance, sign.property).empty()) continue;
     return {sign.tool, sign.certainty};
   }
   return {};
@@ -93,7 +93,7 @@ std::vector<std::string> PlacesIn(const std::string& text) {
 
 // "Cntrlr4LogicalDrv2" of an array without a letter, whose identifier is "ZentraxisCntrlr4LogicalDrv2 0,2 0,3".
 std::string DriveOfArray(const TPublishedInstance& array) {
-  const std::string identifier = PublishedText(array, "CollectionID");
+  const std::string identifier = RawText(array, "CollectionID");
   const std::size_t begin = identifier.find("Cntrlr");
   return begin == identifier.npos ? "" : identifier.substr(begin, identifier.find(' ', begin) - begin);
 }
@@ -105,20 +105,20 @@ DrivesByName LogicalDrives(const InstanceList& instances) {
   DrivesByName drives;
   for (const auto& instance : instances) {
     if (instance->Class().name != kLogicalDiskClass) continue;
-    drives.emplace("Cntrlr" + PublishedText(*instance, "ControllerNum") + "LogicalDrv" +
-                       PublishedText(*instance, "LogicalDriveNum"),
-                   instance.get());
+    drives.emplace(
+        "Cntrlr" + RawText(*instance, "ControllerNum") + "LogicalDrv" + RawText(*instance, "LogicalDriveNum"),
+        instance.get());
   }
   return drives;
 }
 
 // An array without a letter is of the utility whose drive has the same disks.
 Told ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
-  const std::vector<std::string> places = PlacesIn(PublishedText(array, "StripeOrder"));
+  const std::vector<std::string> places = PlacesIn(RawText(array, "StripeOrder"));
   const auto [first, last] = drives.equal_range(DriveOfArray(array));
   const auto drive = std::find_if(first, last, [&places](const auto& each) {
-    return places == PlacesIn(PublishedText(*each.second, "StripeOrder")) ||
-           places == PlacesIn(PublishedText(*each.second, "DriveList"));
+    return places == PlacesIn(RawText(*each.second, "StripeOrder")) ||
+           places == PlacesIn(RawText(*each.second, "DriveList"));
   });
   return drive == last ? Told() : ToolOf(*drive->second);
 }
@@ -140,7 +140,7 @@ std::vector<Owned> FindOwners(const InstanceList& instances) {
     }
     Told told = ToolOf(*instance);
     if (told.tool.empty() && instance->Class().name == kDiskGroupClass) told = ToolOfArray(*instance, drives);
-    owners.push_back({PublishedText(*instance, "ControllerNum"), told});
+    owners.push_back({RawText(*instance, "ControllerNum"), told});
   }
   return owners;
 }

@@ -5,13 +5,13 @@
 #include <iterator>
 #include <vector>
 
-#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/machine/device_names.h"
 #include "host/hxahost/machine/device_owners.h"
-#include "host/hxahost/result/published_text.h"
 #include "host/hxahost/machine/silent_controllers.h"
 #include "host/hxahost/machine/tool_findings.h"
 #include "host/hxahost/machine/unguarded_arrays.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/schema/class_names.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -73,7 +73,7 @@ InstanceList UnguardedDrives(const InstanceList& instances) {
   InstanceList unguarded;
   std::ranges::copy_if(instances, std::back_inserter(unguarded), [](const auto& instance) {
     if (instance->Class().name != kLogicalDiskClass) return false;
-    const Judgement state = JudgeText(kDriveState, PublishedText(*instance, kDriveState.property));
+    const Judgement state = JudgeText(kDriveState, RawText(*instance, kDriveState.property));
     return state.severity == Severity::kWarning || state.severity == Severity::kCritical;
   });
   return unguarded;
@@ -88,7 +88,7 @@ class Examination {
     for (std::size_t place = 0; place < instances_.size(); ++place) {
       const TPublishedInstance& instance = *instances_[place];
       if (instance.Class().name != value.className) continue;
-      const std::string text = PublishedText(instance, value.property);
+      const std::string text = RawText(instance, value.property);
       const Judgement judgement = Judge(value, text, [&](Where where) { return Holds(where, instance); });
       if (judgement.severity == Severity::kFine) continue;
       findings.push_back({judgement.severity, std::string(value.className), IdentifierOf(instance),
@@ -102,8 +102,8 @@ class Examination {
     switch (where) {
       case Where::kAnywhere: return true;
       // "Hard disk" of one utility is "Hard drive" of the others.
-      case Where::kOnHardDisk: return PublishedText(instance, "DeviceType").find("Hard d") != std::string::npos;
-      case Where::kWithChannelLine: return !PublishedText(instance, "ChannelDescription").empty();
+      case Where::kOnHardDisk: return RawText(instance, "DeviceType").find("Hard d") != std::string::npos;
+      case Where::kWithChannelLine: return !RawText(instance, "ChannelDescription").empty();
       case Where::kOnUnguardedArray: return arrays_.Has(instance);
       case Where::kOnConfiguration:
       case Where::kOnState: break;

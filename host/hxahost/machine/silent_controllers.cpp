@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "host/hxacore/value_reader.h"
-#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/machine/health_rules.h"
-#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/schema/class_names.h"
 
 using namespace NKVRHXA20;
 
@@ -36,12 +36,12 @@ bool IsLowerNumber(const std::string& left, const std::string& right) {
 std::vector<std::string> UnpublishedNumbers(const InstanceList& instances) {
   std::set<std::string> seen;
   for (const auto& instance : instances) {
-    if (instance->Class().name == kControllerClass) seen.insert(PublishedText(*instance, "ControllerNum"));
+    if (instance->Class().name == kControllerClass) seen.insert(RawText(*instance, "ControllerNum"));
   }
   std::vector<std::string> numbers;
   for (const auto& instance : instances) {
     if (std::ranges::find(kBelongToOne, instance->Class().name) == std::end(kBelongToOne)) continue;
-    const std::string number = PublishedText(*instance, "ControllerNum");
+    const std::string number = RawText(*instance, "ControllerNum");
     if (seen.insert(number).second) numbers.push_back(number);
   }
   std::ranges::sort(numbers, IsLowerNumber);
@@ -70,7 +70,7 @@ std::string FailedStatusIn(const std::vector<TCIMValue>& lines) {
 std::vector<FailedStatus> FailedStatuses(const InstanceList& instances) {
   std::vector<FailedStatus> failed;
   for (const auto& instance : instances) {
-    const std::string command = PublishedText(*instance, "Command");
+    const std::string command = RawText(*instance, "Command");
     if (instance->Class().name != kRawDataClass || command.find(" getconfig ") == command.npos) continue;
     for (const PublishedProperty& property : instance->Properties()) {
       if (TCIMValueReader::Kind(property.value) != ValueKind::kArray) continue;

@@ -5,8 +5,8 @@
 #include <sstream>
 #include <string_view>
 
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/result/published_text.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -27,17 +27,17 @@ std::map<Text, Text> StripeOrders(const InstanceList& all) {
   std::map<Text, Text> orders;
   for (const auto& group : all) {
     if (group->Class().name != kDiskGroupClass) continue;
-    const Text array = PublishedText(*group, "Array");
+    const Text array = RawText(*group, "Array");
     if (array.empty()) continue;
-    orders[PublishedText(*group, "ControllerNum") + " " + array] += " " + PublishedText(*group, "StripeOrder");
+    orders[RawText(*group, "ControllerNum") + " " + array] += " " + RawText(*group, "StripeOrder");
   }
   return orders;
 }
 
 void AddDisksOf(std::set<Text>& disks, const TPublishedInstance& drive, const std::map<Text, Text>& orders) {
-  const Text controller = PublishedText(drive, "ControllerNum");
-  AddDisks(disks, controller, PublishedText(drive, "DriveList"));
-  const auto order = orders.find(controller + " " + PublishedText(drive, "PartOfArray"));
+  const Text controller = RawText(drive, "ControllerNum");
+  AddDisks(disks, controller, RawText(drive, "DriveList"));
+  const auto order = orders.find(controller + " " + RawText(drive, "PartOfArray"));
   if (order != orders.end()) AddDisks(disks, controller, order->second);
 }
 
@@ -46,7 +46,7 @@ void AddDisksOf(std::set<Text>& disks, const TPublishedInstance& drive, const st
 UnguardedArrays::UnguardedArrays(const InstanceList& unguarded, const InstanceList& all) {
   const auto orders = StripeOrders(all);
   for (const auto& drive : unguarded) {
-    controllers_.insert(PublishedText(*drive, "ControllerNum"));
+    controllers_.insert(RawText(*drive, "ControllerNum"));
     AddDisksOf(unguarded_, *drive, orders);
   }
   for (const auto& drive : all) {
@@ -58,14 +58,14 @@ namespace {
 
 // One utility gives channel and number together alone.
 Text PlaceOf(const TPublishedInstance& disk) {
-  const Text id = PublishedText(disk, "ScsiId");
-  return id.empty() ? PublishedText(disk, "ReportedChannel") : PublishedText(disk, "Channel") + "," + id;
+  const Text id = RawText(disk, "ScsiId");
+  return id.empty() ? RawText(disk, "ReportedChannel") : RawText(disk, "Channel") + "," + id;
 }
 
 }  // namespace
 
 bool UnguardedArrays::Has(const TPublishedInstance& disk) const {
-  const Text controller = PublishedText(disk, "ControllerNum");
+  const Text controller = RawText(disk, "ControllerNum");
   const Text place = controller + " " + PlaceOf(disk);
   return placed_.contains(place) ? unguarded_.contains(place) : controllers_.contains(controller);
 }

@@ -1,8 +1,8 @@
 #include "host/hxahost/program/health_command.h"
 
 #include "host/hxahost/machine/health.h"
-#include "host/hxahost/views/monitoring/health_views.h"
 #include "host/hxahost/program/query_command.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 
 namespace hxahost {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
 #include "plugin/host_interface/exception.h"
 

@@ -6,12 +6,12 @@
 #include <CLI/CLI.hpp>
 
 #include "host/hxahost/diff/diff_view.h"
-#include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/views/monitoring/health_views.h"
 #include "host/hxahost/program/option_examples.h"
 #include "host/hxahost/program/option_values.h"
 #include "host/hxahost/schema/schema_view.h"
+#include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/views.h"
 
 namespace hxahost {

@@ -5,13 +5,13 @@
 #include "host/hxacore/schema.h"
 #include "host/hxahost/program/bundle_command.h"
 #include "host/hxahost/program/diff_command.h"
-#include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/program/health_command.h"
-#include "host/hxahost/views/monitoring/health_views.h"
 #include "host/hxahost/program/options.h"
 #include "host/hxahost/program/query_command.h"
 #include "host/hxahost/schema/schema_view.h"
+#include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 
 namespace hxahost {
 

@@ -1,7 +1,7 @@
 #include "host/hxahost/program/query_output.h"
 
-#include "host/hxahost/terminal/page.h"
-#include "host/hxahost/terminal/terminal_page.h"
+#include "host/hxahost/terminal/layout.h"
+#include "host/hxahost/terminal/terminal_layout.h"
 #include "host/hxahost/views/views.h"
 
 namespace hxahost {

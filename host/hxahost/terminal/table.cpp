@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/terminal/state_colour.h"
 #include "host/hxahost/text/text.h"
 

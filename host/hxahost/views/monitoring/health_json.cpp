@@ -2,10 +2,10 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/views/monitoring/finding_json.h"
-#include "host/hxahost/views/monitoring/health_views.h"
 #include "host/hxahost/text/json_text.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/finding_json.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 
 namespace hxahost {
 

@@ -11,12 +11,12 @@
 #include <utility>
 #include <vector>
 
-#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/machine/device_names.h"
 #include "host/hxahost/machine/health_rules.h"
-#include "host/hxahost/views/monitoring/health_views.h"
-#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -147,7 +147,7 @@ Labels LabelValues(const TPublishedInstance& instance, std::span<const LabelSour
   Labels labels = {
       {"identifier", IdentifierOf(instance)}
   };
-  for (const LabelSource& source : sources) labels.emplace_back(source.label, PublishedText(instance, source.property));
+  for (const LabelSource& source : sources) labels.emplace_back(source.label, RawText(instance, source.property));
   return labels;
 }
 
@@ -188,7 +188,7 @@ void WriteStates(std::ostream& out, const HealthReport& report) {
     Family family(state.name, state.help);
     for (const auto& instance : report.result.instances) {
       if (instance->Class().name != state.value->className) continue;
-      const std::string text = PublishedText(*instance, state.value->property);
+      const std::string text = RawText(*instance, state.value->property);
       const std::string identifier = IdentifierOf(*instance);
       const FoundState key = {state.value->property, identifier, text};
       const auto place = std::ranges::lower_bound(found, key, {}, &std::pair<FoundState, Severity>::first);
@@ -208,7 +208,7 @@ bool IsWholeNumber(const std::string& text) {
 void WriteBadStripes(std::ostream& out, const InstanceList& instances) {
   Family family("zenx_bad_stripes", "Stripes of the logical drive in which data was lost.");
   for (const auto& instance : instances) {
-    const std::string count = PublishedText(*instance, "NumBadStripes");
+    const std::string count = RawText(*instance, "NumBadStripes");
     if (IsWholeNumber(count)) family.Add(LabelValues(*instance, kStripeLabels), count);
   }
   family.Write(out);

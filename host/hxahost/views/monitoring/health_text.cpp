@@ -3,11 +3,11 @@
 #include <set>
 #include <string>
 
-#include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/views/monitoring/finding_text.h"
 #include "host/hxahost/machine/health_rules.h"
-#include "host/hxahost/views/monitoring/health_views.h"
+#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/monitoring/finding_line.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 
 namespace hxahost {
 

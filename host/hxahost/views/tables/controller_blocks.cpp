@@ -8,11 +8,11 @@
 #include <unordered_map>
 #include <vector>
 
-#include "host/hxahost/views/tables/controller_columns.h"
 #include "host/hxahost/machine/device_owners.h"
-#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/tables/controller_columns.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -47,7 +47,7 @@ void WriteFacts(std::ostream& out, const TPublishedInstance& controller, std::sp
   constexpr std::string_view kIndent = "  ";
   std::string line;
   for (const Fact& fact : facts) {
-    const std::string text = PropertyText(controller, fact.property);
+    const std::string text = ShownText(controller, fact.property);
     if (text.empty()) continue;
     const std::string labelled =
         CutToWidth(std::string(fact.label) + " " + text, PageOf(out).width - kIndent.size() - 1);
@@ -63,7 +63,7 @@ void WriteFacts(std::ostream& out, const TPublishedInstance& controller, std::sp
 void WriteController(std::ostream& out, const std::string& owner, const TPublishedInstance& controller) {
   std::string heading = "Controller " + owner;
   for (const std::string_view property : {"ControllerType", "ControllerStatus"}) {
-    const std::string text = PropertyText(controller, property);
+    const std::string text = ShownText(controller, property);
     if (!text.empty()) heading += (property == "ControllerType" ? ": " : " - ") + text;
   }
   out << CutToWidth(heading, PageOf(out).width) << '\n';

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/views/tables/instance_text.h"
 #include "host/hxahost/terminal/table.h"
+#include "host/hxahost/views/tables/instance_table.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -24,7 +24,7 @@ struct Source {
 
 // The tool of "zenx//arcconf.exe getconfig 1 al"; of the RAID manager's log the whole path, which may have blanks.
 std::string SourceName(const TPublishedInstance& instance) {
-  const std::string command = PropertyText(instance, "Command");
+  const std::string command = ShownText(instance, "Command");
   return instance.Class().name == kRawDataClass ? command.substr(0, command.find(' ')) : command;
 }
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "host/hxahost/views/tables/instance_text.h"
+#include "host/hxahost/views/tables/instance_table.h"
 
 namespace hxahost {
 

@@ -7,13 +7,13 @@
 #include <string_view>
 
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/views/tables/controller_blocks.h"
-#include "host/hxahost/views/tables/instance_text.h"
-#include "host/hxahost/terminal/page.h"
-#include "host/hxahost/views/tables/raw_text_summary.h"
-#include "host/hxahost/views/tables/record_sections.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/text.h"
+#include "host/hxahost/views/tables/controller_blocks.h"
+#include "host/hxahost/views/tables/instance_table.h"
+#include "host/hxahost/views/tables/raw_text_summary.h"
+#include "host/hxahost/views/tables/record_sections.h"
 #include "host/hxahost/views/tables/tool_summary.h"
 #include "host/hxahost/views/tables/unread_view.h"
 

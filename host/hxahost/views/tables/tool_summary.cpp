@@ -8,7 +8,7 @@
 #include <optional>
 #include <string_view>
 
-#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
 
 namespace hxahost {

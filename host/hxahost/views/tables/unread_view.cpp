@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "host/hxahost/terminal/page.h"
-#include "host/hxahost/text/text.h"
 #include "host/hxahost/result/unread_lines.h"
+#include "host/hxahost/terminal/layout.h"
+#include "host/hxahost/text/text.h"
 
 namespace hxahost {
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/layout.h"
 
 namespace hxahost {
 

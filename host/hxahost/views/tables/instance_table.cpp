@@ -1,4 +1,4 @@
-#include "host/hxahost/views/tables/instance_text.h"
+#include "host/hxahost/views/tables/instance_table.h"
 
 #include <algorithm>
 #include <array>
@@ -40,7 +40,7 @@ std::string ValueText(const TCIMValue& value) {
 
 }  // namespace
 
-std::string PropertyText(const TPublishedInstance& instance, std::string_view property) {
+std::string ShownText(const TPublishedInstance& instance, std::string_view property) {
   const TCIMValue* const value = FindValue(instance, property);
   return value == nullptr ? "" : ValueText(*value);
 }
@@ -71,7 +71,7 @@ void WriteInstances(std::ostream& out, std::string_view heading, std::span<const
   }
   for (const auto& instance : instances) {
     auto& row = table.rows.emplace_back();
-    for (const InstanceColumn& column : columns) row.push_back(PropertyText(*instance, column.property));
+    for (const InstanceColumn& column : columns) row.push_back(ShownText(*instance, column.property));
   }
   out << heading << '\n';
   WriteTable(out, table);

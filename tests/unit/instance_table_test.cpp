@@ -1,4 +1,4 @@
-#include "host/hxahost/views/tables/instance_text.h"
+#include "host/hxahost/views/tables/instance_table.h"
 
 #include <gtest/gtest.h>
 
@@ -32,14 +32,14 @@ TEST(InstanceText, ShowsEveryKindOfValue) {
                                                              {"Dependent", group}
   });
   const hxahost::InstanceList instances = repository.Instances();
-  EXPECT_EQ(PropertyText(*instances[1], "NumEntries"), "2");
-  EXPECT_EQ(PropertyText(*instances[1], "MessageTimestamp"), "2026-03-05 12:30:15 -05:30");
-  EXPECT_EQ(PropertyText(*instances[1], "HexHardEvent"), "0xdeadbeef, 0x00000007");
-  EXPECT_EQ(PropertyText(*instances[1], "LogName"), "") << "declared and not set";
-  EXPECT_EQ(PropertyText(*instances[1], "Nothing"), "") << "not declared";
-  EXPECT_EQ(PropertyText(*instances[2], "SoftwareElementState"), "3");
-  EXPECT_EQ(PropertyText(*instances[3], "RawResults"), "a\\x1b, b");
-  EXPECT_EQ(PropertyText(*instances[4], "Dependent"), "KVRSG_zxDiskGroup.CollectionID=\"G1\"");
+  EXPECT_EQ(ShownText(*instances[1], "NumEntries"), "2");
+  EXPECT_EQ(ShownText(*instances[1], "MessageTimestamp"), "2026-03-05 12:30:15 -05:30");
+  EXPECT_EQ(ShownText(*instances[1], "HexHardEvent"), "0xdeadbeef, 0x00000007");
+  EXPECT_EQ(ShownText(*instances[1], "LogName"), "") << "declared and not set";
+  EXPECT_EQ(ShownText(*instances[1], "Nothing"), "") << "not declared";
+  EXPECT_EQ(ShownText(*instances[2], "SoftwareElementState"), "3");
+  EXPECT_EQ(ShownText(*instances[3], "RawResults"), "a\\x1b, b");
+  EXPECT_EQ(ShownText(*instances[4], "Dependent"), "KVRSG_zxDiskGroup.CollectionID=\"G1\"");
 }
 
 TEST(InstanceText, ShowsATimeThatHasNoSuchFormAsItIs) {

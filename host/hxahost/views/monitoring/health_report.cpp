@@ -1,4 +1,4 @@
-#include "host/hxahost/views/monitoring/health_views.h"
+#include "host/hxahost/views/monitoring/health_report.h"
 
 #include <algorithm>
 #include <iterator>

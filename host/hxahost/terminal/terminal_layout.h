@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "host/hxahost/program/options.h"
-#include "host/hxahost/terminal/page.h"
+#include "host/hxahost/terminal/layout.h"
 
 namespace hxahost {
 

@@ -1,4 +1,4 @@
-#include "host/hxahost/terminal/terminal_page.h"
+#include "host/hxahost/terminal/terminal_layout.h"
 
 #include <algorithm>
 #include <charconv>

@@ -10,6 +10,6 @@ namespace hxahost {
 
 // The text of a property without the white space at both ends, its bytes untouched; "" where it was not set or is no
 // single text.
-std::string PublishedText(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
+std::string RawText(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
 
 }  // namespace hxahost

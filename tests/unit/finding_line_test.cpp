@@ -1,4 +1,4 @@
-#include "host/hxahost/views/monitoring/finding_text.h"
+#include "host/hxahost/views/monitoring/finding_line.h"
 
 #include <gtest/gtest.h>
 

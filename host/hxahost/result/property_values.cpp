@@ -1,4 +1,4 @@
-#include "host/hxahost/result/published_text.h"
+#include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
 
@@ -8,7 +8,7 @@ using namespace NKVRHXA20;
 
 namespace hxahost {
 
-std::string PublishedText(const TPublishedInstance& instance, std::string_view property) {
+std::string RawText(const TPublishedInstance& instance, std::string_view property) {
   constexpr std::string_view kSpace = " \t\r\n";
   const auto found = std::ranges::find(instance.Properties(), property, &PublishedProperty::name);
   if (found == instance.Properties().end() || TCIMValueReader::Kind(found->value) != ValueKind::kString) return {};

@@ -23,7 +23,7 @@ struct InstanceColumn {
 
 // A property for people, printable: the elements of an array with ", " between them, event codes in hexadecimal. ""
 // for a property that was not set.
-std::string PropertyText(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
+std::string ShownText(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
 
 // How many elements an array has; 0 for what is none.
 std::size_t ElementCount(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
