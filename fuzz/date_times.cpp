@@ -7,7 +7,7 @@
 #include "fuzz/support/fuzzer.h"
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
-#include "host/hxahost/views/tables/instance_table.h"
+#include "host/hxahost/result/property_values.h"
 #include "logs/raid_mgr_event_time.h"
 #include "logs/raid_mgr_fields.h"
 #include "logs/raid_mgr_zones.h"

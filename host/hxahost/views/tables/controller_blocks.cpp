@@ -1,4 +1,5 @@
 #include "host/hxahost/views/tables/controller_blocks.h"
+#include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
 #include <iterator>

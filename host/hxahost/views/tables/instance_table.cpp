@@ -1,66 +1,8 @@
 #include "host/hxahost/views/tables/instance_table.h"
 
-#include <algorithm>
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-
-#include "host/hxacore/value_reader.h"
-#include "host/hxahost/text/text.h"
-
-using namespace NKVRHXA20;
+#include "host/hxahost/result/property_values.h"
 
 namespace hxahost {
-
-namespace {
-
-const TCIMValue* FindValue(const TPublishedInstance& instance, std::string_view property) {
-  const auto& properties = instance.Properties();
-  const auto found = std::ranges::find(properties, property, &PublishedProperty::name);
-  return found == properties.end() ? nullptr : &found->value;
-}
-
-// Numbers in arrays are event codes, which manuals list in hexadecimal.
-std::string ElementText(const TCIMValue& element) {
-  if (TCIMValueReader::Kind(element) != ValueKind::kUInt32) return Printable(std::string(element));
-  std::array<char, 16> code{};
-  std::snprintf(code.data(), code.size(), "0x%08x", static_cast<unsigned>(TCIMValueReader::Number(element)));
-  return code.data();
-}
-
-std::string ValueText(const TCIMValue& value) {
-  if (TCIMValueReader::Kind(value) == ValueKind::kDateTime) return ReadableTime(TCIMValueReader::DateTime(value));
-  if (TCIMValueReader::Kind(value) != ValueKind::kArray) return Printable(std::string(value));
-  std::string text;
-  for (const TCIMValue& element : TCIMValueReader::Elements(value)) {
-    text += (text.empty() ? "" : ", ") + ElementText(element);
-  }
-  return text;
-}
-
-}  // namespace
-
-std::string ShownText(const TPublishedInstance& instance, std::string_view property) {
-  const TCIMValue* const value = FindValue(instance, property);
-  return value == nullptr ? "" : ValueText(*value);
-}
-
-std::size_t ElementCount(const TPublishedInstance& instance, std::string_view property) {
-  const TCIMValue* const value = FindValue(instance, property);
-  const bool isArray = value != nullptr && TCIMValueReader::Kind(*value) == ValueKind::kArray;
-  return isArray ? TCIMValueReader::Elements(*value).size() : 0;
-}
-
-std::string ReadableTime(const std::string& cimDateTime) {
-  // yyyymmddhhmmss.mmmmmmsutc; numbers that do not fit lengthen it, and then it is shown as it is.
-  if (cimDateTime.size() != 25) return cimDateTime;
-  const auto part = [&](std::size_t begin, std::size_t length) { return cimDateTime.substr(begin, length); };
-  const int offset = std::atoi(part(22, 3).c_str());
-  std::array<char, 16> zone{};
-  std::snprintf(zone.data(), zone.size(), "%c%02d:%02d", cimDateTime[21], offset / 60, offset % 60);
-  return part(0, 4) + "-" + part(4, 2) + "-" + part(6, 2) + " " + part(8, 2) + ":" + part(10, 2) + ":" + part(12, 2) +
-         " " + zone.data();
-}
 
 void WriteInstances(std::ostream& out, std::string_view heading, std::span<const InstanceColumn> columns,
                     const InstanceList& instances) {

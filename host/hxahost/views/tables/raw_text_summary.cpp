@@ -1,4 +1,5 @@
 #include "host/hxahost/views/tables/raw_text_summary.h"
+#include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
 #include <string>

@@ -1,4 +1,5 @@
 #include "host/hxahost/views/tables/table_view.h"
+#include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
 #include <map>

@@ -1,8 +1,6 @@
-#include "host/hxahost/views/tables/instance_table.h"
+#include "host/hxahost/result/property_values.h"
 
 #include <gtest/gtest.h>
-
-#include <sstream>
 
 #include "tests/support/filled_repository.h"
 
@@ -11,7 +9,7 @@ namespace {
 using namespace hxahost;
 using namespace NKVRHXA20;
 
-TEST(InstanceText, ShowsEveryKindOfValue) {
+TEST(PropertyValues, ShowsEveryKindOfValue) {
   FilledRepository repository;
   const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", {
                                                                           {"CollectionID", "G1"}
@@ -42,13 +40,13 @@ TEST(InstanceText, ShowsEveryKindOfValue) {
   EXPECT_EQ(ShownText(*instances[4], "Dependent"), "KVRSG_zxDiskGroup.CollectionID=\"G1\"");
 }
 
-TEST(InstanceText, ShowsATimeThatHasNoSuchFormAsItIs) {
+TEST(PropertyValues, ShowsATimeThatHasNoSuchFormAsItIs) {
   EXPECT_EQ(ReadableTime("20261121070000.000000+000"), "2026-11-21 07:00:00 +00:00");
   EXPECT_EQ(ReadableTime("20260021070000.000000+840"), "2026-00-21 07:00:00 +14:00");
   EXPECT_EQ(ReadableTime("2026112107000000.000000+000"), "2026112107000000.000000+000");
 }
 
-TEST(InstanceText, CountsTheElementsOfAnArray) {
+TEST(PropertyValues, CountsTheElementsOfAnArray) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxRawData", {
                                             {"Command",    "a"              },
@@ -58,15 +56,6 @@ TEST(InstanceText, CountsTheElementsOfAnArray) {
   EXPECT_EQ(ElementCount(*instance, "RawResults"), 2U);
   EXPECT_EQ(ElementCount(*instance, "Command"), 0U);
   EXPECT_EQ(ElementCount(*instance, "Nothing"), 0U);
-}
-
-TEST(InstanceText, WritesNoHeadingWithoutInstances) {
-  constexpr InstanceColumn kColumns[] = {
-      {"Command", "Command"}
-  };
-  std::ostringstream out;
-  WriteInstances(out, "Heading", kColumns, {});
-  EXPECT_EQ(out.str(), "");
 }
 
 }  // namespace
