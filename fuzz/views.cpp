@@ -32,12 +32,13 @@ namespace {
 
 std::string Shown(std::string_view format, const QueryHeader& header, const QueryResult& result,
                   std::size_t width = 100) {
+  QueryHeader laidOut = header;
+  laidOut.layout.width = width;
   std::ostringstream out;
-  SetPage(out, {width, false});
   const View& view = *FindView(format);
-  view.Begin(out, header);
-  view.Query(out, header, result);
-  view.End(out, header);
+  view.Begin(out, laidOut);
+  view.Query(out, laidOut, result);
+  view.End(out, laidOut);
   return out.str();
 }
 
@@ -109,7 +110,7 @@ void CheckMof(const QueryHeader& header, const QueryResult& result) {
 }
 
 void CheckTables(const QueryHeader& header, const QueryResult& result) {
-  for (const std::size_t width : {kNarrowestPage, std::size_t{100}, kWidestPage}) {
+  for (const std::size_t width : {kNarrowestLayout, std::size_t{100}, kWidestLayout}) {
     const std::string tables = Shown("table", header, result, width);
     RequirePlainLines(tables);
     const std::string ascii = ToAscii(tables);

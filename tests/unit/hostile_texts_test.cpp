@@ -122,12 +122,12 @@ class Machine {
     };
     header_ = machine_.Header();
     header_.machine = text;
+    header_.layout.width = kWidestLayout;
     result_ = machine_.Result();
   }
 
   std::string Query(const char* format) const {
     std::ostringstream out;
-    SetPage(out, {kWidestPage, false});
     const View& view = *FindView(format);
     view.Begin(out, header_);
     view.Query(out, header_, result_);

@@ -12,7 +12,7 @@ using namespace hxahost;
 
 std::string Summary(const FilledRepository& repository) {
   std::ostringstream out;
-  WriteRawTextSummary(out, repository.Instances());
+  WriteRawTextSummary(out, {}, repository.Instances());
   return out.str();
 }
 

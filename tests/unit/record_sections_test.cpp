@@ -15,7 +15,7 @@ using namespace NKVRHXA20;
 
 std::string Sections(const FilledRepository& repository) {
   std::ostringstream out;
-  WriteRecordSections(out, repository.Instances());
+  WriteRecordSections(out, {}, repository.Instances());
   return out.str();
 }
 

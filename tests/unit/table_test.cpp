@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
-#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
 
 namespace {
@@ -13,7 +13,7 @@ using namespace hxahost;
 
 std::string Text(const std::vector<TableColumn>& columns, const std::vector<std::vector<std::string>>& rows) {
   std::ostringstream out;
-  WriteTable(out, {columns, rows});
+  WriteTable(out, {}, {columns, rows});
   return out.str();
 }
 
@@ -100,7 +100,38 @@ TEST(Table, LeavesOutColumnsFromTheRightWhenTheyCannotBeNarrowedAndSaysSo) {
                 "\u2026\n");
 }
 
-TEST(Table, IsNeverWiderThanTheView) {
+TEST(Table, UsesTheWidthOfTheLayout) {
+  const Table table{
+      std::vector<TableColumn>(12, {"Title",                      30                    }
+       ),
+      { std::vector<std::string>(12, std::string(25, 'x')), std::vector<std::string>(12, "\u6f22e\u0301\u5b57")}
+  };
+  for (const std::size_t width : {40U, 80U, 100U, 200U}) {
+    std::ostringstream out;
+    WriteTable(out, {width, false}, table);
+    std::istringstream lines(out.str());
+    std::size_t widest = 0;
+    for (std::string line; std::getline(lines, line);) widest = std::max(widest, DisplayWidth(line));
+    EXPECT_LE(widest, width);
+    EXPECT_GE(widest, width - 12) << "room was wasted: " << out.str();
+  }
+}
+
+TEST(Table, ColoursStatesWithoutMovingWhatFollowsThem) {
+  const Table table{
+      {{"State", 30, 8, true}, {"Size"}    },
+      { {"Online", "1"},   {"Failed now", "2"}, {"New", "3"}},
+  };
+  std::ostringstream out;
+  WriteTable(out, {100, true}, table);
+  EXPECT_EQ(out.str(),
+            "  State       Size\n"
+            "  \x1b[32mOnline\x1b[0m      1\n"
+            "  \x1b[31mFailed now\x1b[0m  2\n"
+            "  New         3\n");
+}
+
+TEST(Table, IsNeverWiderThanTheLayout) {
   for (const std::size_t least : {0U, 1U, 8U, 50U}) {
     std::vector<TableColumn> columns;
     std::vector<std::string> row;
@@ -111,7 +142,7 @@ TEST(Table, IsNeverWiderThanTheView) {
     std::istringstream lines(Text(columns, {row, row}));
     std::string line;
     int count = 0;
-    for (; std::getline(lines, line); ++count) EXPECT_LE(DisplayWidth(line), Page().width) << line;
+    for (; std::getline(lines, line); ++count) EXPECT_LE(DisplayWidth(line), Layout().width) << line;
     EXPECT_EQ(count, 3) << "no row is wrapped";
   }
 }

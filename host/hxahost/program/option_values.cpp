@@ -50,7 +50,7 @@ NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text) {
 
 unsigned ReadWidth(const std::string& text) {
   const auto number = WholeNumber(text);
-  if (!number || *number < kNarrowestPage || *number > kWidestPage) {
+  if (!number || *number < kNarrowestLayout || *number > kWidestLayout) {
     Reject("--width", text, "give a whole number from 40 to 1000.");
   }
   return *number;

@@ -25,7 +25,7 @@ std::optional<std::uint16_t> ReadOsType(const std::string& text);
 // --local-time: a CIM date and time.
 NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text);
 
-// --width: columns of the page.
+// --width: columns of the tables.
 unsigned ReadWidth(const std::string& text);
 
 // --color: one of its words.

@@ -77,7 +77,7 @@ void SetUp(SessionTape& tape, const QueryOptions& options, const QueryPaths& pat
 QueryHeader MakeHeader(const QueryOptions& options, const SessionTape& tape, const std::vector<std::string>& classes) {
   const HostServices& services = CurrentServices();
   return {services.machineName(), ToolDirectory(tape), services.localTime(), classes,
-          options.repeat,         options.showRuns,    options.showUnread};
+          options.repeat,         options.showRuns,    options.showUnread,   LayoutFor(WishesOf(options))};
 }
 
 // Everything that a query needs, in the order in which it is set up.

@@ -1,7 +1,5 @@
 #include "host/hxahost/program/query_output.h"
 
-#include "host/hxahost/terminal/layout.h"
-#include "host/hxahost/terminal/terminal_layout.h"
 #include "host/hxahost/views/views.h"
 
 namespace hxahost {
@@ -14,11 +12,14 @@ std::ostream& Opened(std::optional<OutputFile>& file, const std::filesystem::pat
 
 }  // namespace
 
+LayoutWishes WishesOf(const QueryOptions& options) {
+  return {!options.output.empty(), options.width, options.color, options.isAscii};
+}
+
 QueryOutput::QueryOutput(const QueryOptions& options, const std::filesystem::path& file, std::ostream& out)
-    : shown_(Opened(file_, file, out)), asciiBuffer_(shown_), ascii_(&asciiBuffer_), page_(&shown_) {
+    : shown_(Opened(file_, file, out)), asciiBuffer_(shown_), ascii_(&asciiBuffer_), stream_(&shown_) {
   if (options.format != Views().front().format) return;
-  if (IsAsciiPage(options)) page_ = &ascii_;
-  SetPage(*page_, PageFor(options));
+  if (IsAsciiOnly(WishesOf(options))) stream_ = &ascii_;
 }
 
 void QueryOutput::Finish() {

@@ -4,13 +4,17 @@
 #include <optional>
 #include <ostream>
 
-#include "host/hxahost/terminal/ascii_output.h"
 #include "host/hxahost/program/options.h"
 #include "host/hxahost/system/output_file.h"
+#include "host/hxahost/terminal/ascii_output.h"
+#include "host/hxahost/terminal/terminal_layout.h"
 
 namespace hxahost {
 
-// Where a query is shown, and the page that its tables are made for.
+// The layout that the command line asks for.
+LayoutWishes WishesOf(const QueryOptions& options);
+
+// Where a query is shown.
 class QueryOutput {
  public:
   // To the file, or to out where the path is "". Throws ProgramError where the file cannot be written.
@@ -18,7 +22,7 @@ class QueryOutput {
   QueryOutput(const QueryOutput&) = delete;
   QueryOutput& operator=(const QueryOutput&) = delete;
 
-  std::ostream& Stream() { return *page_; }
+  std::ostream& Stream() { return *stream_; }
   bool IsFile() const { return file_.has_value(); }
 
   // The file takes its place; without this what was there before stays. Throws ProgramError.
@@ -29,7 +33,7 @@ class QueryOutput {
   std::ostream& shown_;
   TAsciiBuffer asciiBuffer_;
   std::ostream ascii_;
-  std::ostream* page_;
+  std::ostream* stream_;
 };
 
 }  // namespace hxahost

@@ -9,6 +9,7 @@
 
 #include "host/hxacore/repository.h"
 #include "host/hxahost/result/tool_run.h"
+#include "host/hxahost/terminal/layout.h"
 #include "plugin/host_interface/date_time.h"
 
 namespace hxahost {
@@ -22,6 +23,7 @@ struct QueryHeader {
   unsigned queryCount = 1;
   bool withRuns = false;    // what programs read has the runs of the tools
   bool withUnread = false;  // lines of the raw texts that no property shows are listed
+  Layout layout = {};       // of the tables
 };
 
 inline bool IsAskedFor(const QueryHeader& header, std::string_view className) {

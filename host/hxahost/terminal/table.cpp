@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <numeric>
 
-#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/terminal/state_colour.h"
 #include "host/hxahost/text/text.h"
 
@@ -46,8 +45,8 @@ std::size_t TotalWidth(const std::vector<Shown>& columns) {
 }
 
 // Takes from the widest of the columns that may be narrower.
-void Narrow(std::vector<Shown>& columns, std::size_t page) {
-  while (TotalWidth(columns) > page) {
+void Narrow(std::vector<Shown>& columns, std::size_t width) {
+  while (TotalWidth(columns) > width) {
     const auto widest = std::ranges::max_element(
         columns, {}, [](const Shown& column) { return column.width > column.least ? column.width : 0; });
     if (widest->width <= widest->least) return;
@@ -56,8 +55,8 @@ void Narrow(std::vector<Shown>& columns, std::size_t page) {
 }
 
 // What matters least stands at the right. The first column stays, whatever its width.
-void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t page) {
-  const std::size_t room = page - DisplayWidth(kMoreColumns);
+void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t width) {
+  const std::size_t room = width - DisplayWidth(kMoreColumns);
   while (columns.size() > 1 && TotalWidth(columns) > room) columns.pop_back();
 }
 
@@ -74,17 +73,16 @@ std::string RowText(const std::vector<Shown>& columns, const std::vector<std::st
 
 }  // namespace
 
-void WriteTable(std::ostream& out, const Table& table) {
+void WriteTable(std::ostream& out, const Layout& layout, const Table& table) {
   std::vector<Shown> columns = ColumnsWithText(table);
   if (columns.empty()) return;
-  const Page page = PageOf(out);
-  Narrow(columns, page.width);
-  const bool isTooWide = TotalWidth(columns) > page.width;
-  if (isTooWide) LeaveOutFromTheRight(columns, page.width);
+  Narrow(columns, layout.width);
+  const bool isTooWide = TotalWidth(columns) > layout.width;
+  if (isTooWide) LeaveOutFromTheRight(columns, layout.width);
   std::vector<std::string> titles;
   for (const TableColumn& column : table.columns) titles.push_back(column.title);
   out << RowText(columns, titles, false) << (isTooWide ? kMoreColumns : "") << '\n';
-  for (const auto& row : table.rows) out << RowText(columns, row, page.hasColours) << '\n';
+  for (const auto& row : table.rows) out << RowText(columns, row, layout.hasColours) << '\n';
 }
 
 }  // namespace hxahost

@@ -5,13 +5,15 @@
 #include <string>
 #include <vector>
 
+#include "host/hxahost/terminal/layout.h"
+
 namespace hxahost {
 
 struct TableColumn {
   std::string title;
   std::size_t widest = 30;  // a longer text is cut
   std::size_t least = 8;    // what the column is narrowed to at most, to make room for others
-  bool isState = false;     // its texts are coloured by what they say, where the page has colours
+  bool isState = false;     // its texts are coloured by what they say, where the layout has colours
 };
 
 // A table of texts that are printable already. A row may be shorter than the columns.
@@ -21,8 +23,8 @@ struct Table {
 };
 
 // Writes the table, indented by two columns. A column in which no row has a text is left out. Where it all is wider
-// than the page of the stream, the widest columns are narrowed; where that does not do, columns are left out from the
-// right, and an ellipsis behind the titles says so.
-void WriteTable(std::ostream& out, const Table& table);
+// than the layout, the widest columns are narrowed; where that does not do, columns are left out from the right, and an
+// ellipsis after the titles says so.
+void WriteTable(std::ostream& out, const Layout& layout, const Table& table);
 
 }  // namespace hxahost

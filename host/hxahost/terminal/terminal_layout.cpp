@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
-#include <optional>
-#include <string_view>
 
 #include "host/hxahost/system/system.h"
 
@@ -12,7 +10,7 @@ namespace hxahost {
 
 namespace {
 
-bool GoesToTerminal(const QueryOptions& options) { return options.output.empty() && StandardOutputIsTerminal(); }
+bool GoesToTerminal(const LayoutWishes& wishes) { return !wishes.isFile && StandardOutputIsTerminal(); }
 
 std::string_view Environment(const char* name) {
   const char* const value = std::getenv(name);
@@ -30,32 +28,32 @@ std::optional<std::size_t> ColumnsVariable() {
 
 std::size_t WidthOf(TerminalStream stream) {
   const auto columns = ColumnsVariable();
-  const std::size_t width = columns ? *columns : TerminalWidth(stream).value_or(Page().width);
-  return std::clamp(width, kNarrowestPage, kWidestPage);
+  const std::size_t width = columns ? *columns : TerminalWidth(stream).value_or(Layout().width);
+  return std::clamp(width, kNarrowestLayout, kWidestLayout);
 }
 
 // NO_COLOR, set to anything, is the wish of a person for every program.
-bool HasColours(const QueryOptions& options) {
-  if (!Environment("NO_COLOR").empty() || options.color == "never") return false;
-  if (options.color == "always") return true;
-  return GoesToTerminal(options) && TerminalTakesColours();
+bool HasColours(const LayoutWishes& wishes) {
+  if (!Environment("NO_COLOR").empty() || wishes.color == "never") return false;
+  if (wishes.color == "always") return true;
+  return GoesToTerminal(wishes) && TerminalTakesColours();
 }
 
 }  // namespace
 
-Page PageFor(const QueryOptions& options) {
-  Page page;
-  if (options.width) {
-    page.width = *options.width;
-  } else if (GoesToTerminal(options)) {
-    page.width = WidthOf(TerminalStream::kOutput);
+Layout LayoutFor(const LayoutWishes& wishes) {
+  Layout layout;
+  if (wishes.width) {
+    layout.width = *wishes.width;
+  } else if (GoesToTerminal(wishes)) {
+    layout.width = WidthOf(TerminalStream::kOutput);
   }
-  page.hasColours = HasColours(options);
-  return page;
+  layout.hasColours = HasColours(wishes);
+  return layout;
 }
 
-bool IsAsciiPage(const QueryOptions& options) {
-  return options.isAscii || (GoesToTerminal(options) && !TerminalShowsUtf8());
+bool IsAsciiOnly(const LayoutWishes& wishes) {
+  return wishes.isAscii || (GoesToTerminal(wishes) && !TerminalShowsUtf8());
 }
 
 std::size_t ProgressWidth() { return WidthOf(TerminalStream::kError); }

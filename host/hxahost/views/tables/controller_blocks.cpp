@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "host/hxahost/machine/device_owners.h"
-#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/text.h"
 #include "host/hxahost/views/tables/controller_columns.h"
@@ -44,15 +43,15 @@ std::vector<Block> BlocksOf(const InstanceList& instances) {
 }
 
 // "serial 123, slot 2, ...": as many facts as fit on a line, and the next line goes on.
-void WriteFacts(std::ostream& out, const TPublishedInstance& controller, std::span<const Fact> facts) {
+void WriteFacts(std::ostream& out, const Layout& layout, const TPublishedInstance& controller,
+                std::span<const Fact> facts) {
   constexpr std::string_view kIndent = "  ";
   std::string line;
   for (const Fact& fact : facts) {
     const std::string text = ShownText(controller, fact.property);
     if (text.empty()) continue;
-    const std::string labelled =
-        CutToWidth(std::string(fact.label) + " " + text, PageOf(out).width - kIndent.size() - 1);
-    if (!line.empty() && kIndent.size() + DisplayWidth(line) + 2 + DisplayWidth(labelled) >= PageOf(out).width) {
+    const std::string labelled = CutToWidth(std::string(fact.label) + " " + text, layout.width - kIndent.size() - 1);
+    if (!line.empty() && kIndent.size() + DisplayWidth(line) + 2 + DisplayWidth(labelled) >= layout.width) {
       out << kIndent << line << ",\n";
       line.clear();
     }
@@ -61,15 +60,16 @@ void WriteFacts(std::ostream& out, const TPublishedInstance& controller, std::sp
   if (!line.empty()) out << kIndent << line << '\n';
 }
 
-void WriteController(std::ostream& out, const std::string& owner, const TPublishedInstance& controller) {
+void WriteController(std::ostream& out, const Layout& layout, const std::string& owner,
+                     const TPublishedInstance& controller) {
   std::string heading = "Controller " + owner;
   for (const std::string_view property : {"ControllerType", "ControllerStatus"}) {
     const std::string text = ShownText(controller, property);
     if (!text.empty()) heading += (property == "ControllerType" ? ": " : " - ") + text;
   }
-  out << CutToWidth(heading, PageOf(out).width) << '\n';
-  WriteFacts(out, controller, IdentityFacts());
-  WriteFacts(out, controller, StateFacts());
+  out << CutToWidth(heading, layout.width) << '\n';
+  WriteFacts(out, layout, controller, IdentityFacts());
+  WriteFacts(out, layout, controller, StateFacts());
 }
 
 // The plug-in publishes no controller whose status contains "Failed", and yet what hangs on it.
@@ -81,12 +81,12 @@ std::string_view WhyWithoutInstance(const QueryHeader& header) {
 void WriteBlock(std::ostream& out, const QueryHeader& header, const Block& block) {
   const InstanceList& controllers = block.kinds.front();
   if (controllers.empty()) {
-    out << CutToWidth("Controller " + block.owner, PageOf(out).width / 2) << WhyWithoutInstance(header) << '\n';
+    out << CutToWidth("Controller " + block.owner, header.layout.width / 2) << WhyWithoutInstance(header) << '\n';
   }
-  for (const auto& controller : controllers) WriteController(out, block.owner, *controller);
+  for (const auto& controller : controllers) WriteController(out, header.layout, block.owner, *controller);
   for (std::size_t index = 1; index < block.kinds.size(); ++index) {
     const DeviceKind& kind = DeviceKinds()[index];
-    WriteInstances(out, "  " + std::string(kind.heading), kind.columns, block.kinds[index]);
+    WriteInstances(out, header.layout, "  " + std::string(kind.heading), kind.columns, block.kinds[index]);
   }
 }
 

@@ -4,8 +4,8 @@
 
 namespace hxahost {
 
-void WriteInstances(std::ostream& out, std::string_view heading, std::span<const InstanceColumn> columns,
-                    const InstanceList& instances) {
+void WriteInstances(std::ostream& out, const Layout& layout, std::string_view heading,
+                    std::span<const InstanceColumn> columns, const InstanceList& instances) {
   if (instances.empty()) return;
   Table table;
   for (const InstanceColumn& column : columns) {
@@ -16,7 +16,7 @@ void WriteInstances(std::ostream& out, std::string_view heading, std::span<const
     for (const InstanceColumn& column : columns) row.push_back(ShownText(*instance, column.property));
   }
   out << heading << '\n';
-  WriteTable(out, table);
+  WriteTable(out, layout, table);
 }
 
 }  // namespace hxahost

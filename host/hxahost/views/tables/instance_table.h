@@ -21,7 +21,7 @@ struct InstanceColumn {
 };
 
 // Writes the heading and one row for each instance; nothing at all where there is no instance.
-void WriteInstances(std::ostream& out, std::string_view heading, std::span<const InstanceColumn> columns,
-                    const InstanceList& instances);
+void WriteInstances(std::ostream& out, const Layout& layout, std::string_view heading,
+                    std::span<const InstanceColumn> columns, const InstanceList& instances);
 
 }  // namespace hxahost

@@ -47,7 +47,7 @@ std::vector<Source> Sources(const InstanceList& instances) {
 
 }  // namespace
 
-void WriteRawTextSummary(std::ostream& out, const InstanceList& instances) {
+void WriteRawTextSummary(std::ostream& out, const Layout& layout, const InstanceList& instances) {
   Table table;
   table.columns = {
       {"Raw texts of", 60},
@@ -61,7 +61,7 @@ void WriteRawTextSummary(std::ostream& out, const InstanceList& instances) {
   }
   if (table.rows.empty()) return;
   out << '\n';
-  WriteTable(out, table);
+  WriteTable(out, layout, table);
 }
 
 }  // namespace hxahost

@@ -100,7 +100,7 @@ constexpr RecordSection kSections[] = {
 
 std::span<const RecordSection> RecordSections() { return kSections; }
 
-void WriteRecordSections(std::ostream& out, const InstanceList& instances) {
+void WriteRecordSections(std::ostream& out, const Layout& layout, const InstanceList& instances) {
   for (const RecordSection& section : kSections) {
     InstanceList shown;
     std::ranges::copy_if(instances, std::back_inserter(shown), [&](const auto& instance) {
@@ -108,7 +108,7 @@ void WriteRecordSections(std::ostream& out, const InstanceList& instances) {
     });
     if (shown.empty()) continue;
     out << '\n';
-    WriteInstances(out, section.heading, section.columns, shown);
+    WriteInstances(out, layout, section.heading, section.columns, shown);
   }
 }
 

@@ -18,6 +18,6 @@ struct RecordSection {
 std::span<const RecordSection> RecordSections();
 
 // Writes the sections that have an instance.
-void WriteRecordSections(std::ostream& out, const InstanceList& instances);
+void WriteRecordSections(std::ostream& out, const Layout& layout, const InstanceList& instances);
 
 }  // namespace hxahost

@@ -8,7 +8,6 @@
 #include <string_view>
 
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/text.h"
 #include "host/hxahost/views/tables/controller_blocks.h"
@@ -26,7 +25,7 @@ namespace {
 bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != kRawDataClass; }
 
 // Where nothing was found, the first thing to know is whether anything looked.
-void WriteToolsNotStarted(std::ostream& out, const QueryResult& result) {
+void WriteToolsNotStarted(std::ostream& out, const Layout& layout, const QueryResult& result) {
   std::string names;
   std::set<std::string> known;
   for (const ToolRun& run : result.runs) {
@@ -34,13 +33,13 @@ void WriteToolsNotStarted(std::ostream& out, const QueryResult& result) {
     names += (names.empty() ? "" : ", ") + Printable(run.path);
   }
   if (names.empty()) return;
-  out << CutToWidth("Not started: " + names, PageOf(out).width) << '\n';
+  out << CutToWidth("Not started: " + names, layout.width) << '\n';
 }
 
-void WriteNothingFound(std::ostream& out, const QueryResult& result) {
+void WriteNothingFound(std::ostream& out, const Layout& layout, const QueryResult& result) {
   if (std::ranges::any_of(result.instances, [](const auto& instance) { return IsFound(*instance); })) return;
   out << "\nNothing was found: no controller, no drive and no log record of the classes asked for.\n";
-  WriteToolsNotStarted(out, result);
+  WriteToolsNotStarted(out, layout, result);
 }
 
 void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
@@ -53,7 +52,7 @@ void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult
   };
   for (const std::string& name : header.classes) table.rows.push_back({name, std::to_string(counts[name])});
   out << '\n';
-  WriteTable(out, table);
+  WriteTable(out, header.layout, table);
 }
 
 }  // namespace
@@ -61,18 +60,18 @@ void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult
 void BeginTables(std::ostream& out, const QueryHeader& header) {
   const std::string line = "RAID controllers of " + Printable(header.machine) + " on " +
                            ReadableTime(header.time.ToString()) + ", collected in " + Printable(header.directory);
-  out << CutToWidth(line, PageOf(out).width) << '\n';
+  out << CutToWidth(line, header.layout.width) << '\n';
 }
 
 void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   if (header.queryCount > 1) out << "\nQuery " << result.number << " of " << header.queryCount << '\n';
-  WriteNothingFound(out, result);
+  WriteNothingFound(out, header.layout, result);
   WriteControllerBlocks(out, header, result.instances);
-  WriteRecordSections(out, result.instances);
-  WriteRawTextSummary(out, result.instances);
+  WriteRecordSections(out, header.layout, result.instances);
+  WriteRawTextSummary(out, header.layout, result.instances);
   WriteCounts(out, header, result);
   WriteToolSummaries(out, header, result);
-  if (header.withUnread) WriteUnreadLines(out, result.instances);
+  if (header.withUnread) WriteUnreadLines(out, header.layout, result.instances);
 }
 
 void EndTables(std::ostream&, const QueryHeader&) {}

@@ -8,7 +8,6 @@
 #include <optional>
 #include <string_view>
 
-#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
 
 namespace hxahost {
@@ -121,8 +120,8 @@ std::vector<std::string> ToolsToShow(const ToolRunList& runs) {
   return tools;
 }
 
-void WriteLine(std::ostream& out, std::size_t indent, const std::string& text) {
-  out << std::string(indent, ' ') << CutToWidth(text, PageOf(out).width - indent) << '\n';
+void WriteLine(std::ostream& out, const Layout& layout, std::size_t indent, const std::string& text) {
+  out << std::string(indent, ' ') << CutToWidth(text, layout.width - indent) << '\n';
 }
 
 std::string TroubleHead(const ToolTrouble& trouble) {
@@ -132,31 +131,32 @@ std::string TroubleHead(const ToolTrouble& trouble) {
 }
 
 // The reason matters most: where the line has no room for all of it, it gets one of its own.
-void WriteTrouble(std::ostream& out, const ToolTrouble& trouble) {
+void WriteTrouble(std::ostream& out, const Layout& layout, const ToolTrouble& trouble) {
   constexpr std::size_t kIndent = 4;
-  if (kIndent + DisplayWidth(TroubleText(trouble)) <= PageOf(out).width) {
-    return WriteLine(out, kIndent, TroubleText(trouble));
+  if (kIndent + DisplayWidth(TroubleText(trouble)) <= layout.width) {
+    return WriteLine(out, layout, kIndent, TroubleText(trouble));
   }
-  WriteLine(out, kIndent, TroubleHead(trouble));
-  WriteLine(out, kIndent + 2, trouble.reason);
+  WriteLine(out, layout, kIndent, TroubleHead(trouble));
+  WriteLine(out, layout, kIndent + 2, trouble.reason);
 }
 
-void WriteSummary(std::ostream& out, const ToolSummary& summary) {
-  WriteLine(out, 2, SummaryText(summary));
+void WriteSummary(std::ostream& out, const Layout& layout, const ToolSummary& summary) {
+  WriteLine(out, layout, 2, SummaryText(summary));
   const std::size_t shown = std::min(summary.troubles.size(), kMostTroubles);
-  for (std::size_t index = 0; index < shown; ++index) WriteTrouble(out, summary.troubles[index]);
+  for (std::size_t index = 0; index < shown; ++index) WriteTrouble(out, layout, summary.troubles[index]);
   if (summary.troubles.size() > shown) {
-    WriteLine(out, 4, "and " + Counted(summary.troubles.size() - shown, "other trouble") + ": --log FILE shows all");
+    WriteLine(out, layout, 4,
+              "and " + Counted(summary.troubles.size() - shown, "other trouble") + ": --log FILE shows all");
   }
 }
 
 // What stopped the collection before all tools had their turn.
-void WriteAbort(std::ostream& out, const QueryResult& result) {
+void WriteAbort(std::ostream& out, const Layout& layout, const QueryResult& result) {
   constexpr std::string_view kAborted = "Collection aborted: ";
   for (const LoggedEntry& entry : result.log) {
     if (!entry.text.starts_with(kAborted)) continue;
-    WriteLine(out, 2, "The collection was aborted; what had not been run by then is missing. The log says:");
-    WriteLine(out, 4, Printable(entry.text));
+    WriteLine(out, layout, 2, "The collection was aborted; what had not been run by then is missing. The log says:");
+    WriteLine(out, layout, 4, Printable(entry.text));
   }
 }
 
@@ -187,11 +187,12 @@ void WriteToolSummaries(std::ostream& out, const QueryHeader& header, const Quer
   }
   bool isMissing = false;
   for (const ToolSummary& summary : SummarizeRuns(result.runs)) {
-    WriteSummary(out, summary);
+    WriteSummary(out, header.layout, summary);
     isMissing = isMissing || std::ranges::any_of(summary.troubles, IsNotStarted);
   }
-  if (isMissing) WriteLine(out, 2, "Tools belong into the folder zenx of " + Printable(header.directory) + ".");
-  WriteAbort(out, result);
+  if (isMissing)
+    WriteLine(out, header.layout, 2, "Tools belong into the folder zenx of " + Printable(header.directory) + ".");
+  WriteAbort(out, header.layout, result);
 }
 
 }  // namespace hxahost

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "host/hxahost/result/unread_lines.h"
-#include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/text.h"
 
 namespace hxahost {
@@ -17,21 +16,20 @@ std::size_t CountUnread(const std::vector<UnreadText>& texts) {
   return count;
 }
 
-void WriteUnreadText(std::ostream& out, const UnreadText& text) {
-  out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), PageOf(out).width)
-      << '\n';
+void WriteUnreadText(std::ostream& out, const Layout& layout, const UnreadText& text) {
+  out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), layout.width) << '\n';
   for (std::size_t index = 0; index < text.unread.size(); ++index) {
     const std::string line = std::to_string(text.unread[index] + 1) + "  " + Printable(text.unreadLines[index]);
-    out << CutToWidth("    " + line, PageOf(out).width) << '\n';
+    out << CutToWidth("    " + line, layout.width) << '\n';
   }
 }
 
 }  // namespace
 
-void WriteUnreadLines(std::ostream& out, const InstanceList& instances) {
+void WriteUnreadLines(std::ostream& out, const Layout& layout, const InstanceList& instances) {
   const std::vector<UnreadText> texts = FindUnreadLines(instances);
   out << "\nLines of the tools' texts that nothing above shows: " << CountUnread(texts) << '\n';
-  for (const UnreadText& text : texts) WriteUnreadText(out, text);
+  for (const UnreadText& text : texts) WriteUnreadText(out, layout, text);
 }
 
 }  // namespace hxahost
