@@ -74,13 +74,13 @@ bool HasToSkipHrconf(ICIMNamespace& nameSpace, const TPropertyMap& context) {
 }
 
 void CollectOnce(QueryState& state, HostHandle host, bool skipHrconf) {
+  state.collectPending = false;
   state.collector = std::make_unique<ZenxCollectData>(host);
   try {
     state.collector->Collect(skipHrconf);
   } catch (const std::exception& failure) {
     LogReason(host, std::string("Collection aborted: ") + failure.what());
   }
-  state.raidManagerLog = std::make_unique<CollectRaidMgrData>(host);
 }
 
 }  // namespace
@@ -92,7 +92,7 @@ void RunQuery(QueryState& state, HostHandle host, ICIMNamespace& nameSpace,
   const TPropertyMap lookupContext = PluginContext();
   ++state.callCounter;
   if (state.collectPending) CollectOnce(state, host, HasToSkipHrconf(nameSpace, lookupContext));
-  state.collectPending = false;
+  if (!state.raidManagerLog) state.raidManagerLog = std::make_unique<CollectRaidMgrData>(host);
 
   const PublishContext context{nameSpace, lookupContext, *state.collector, *state.raidManagerLog, host};
   for (const auto& requested : classes) {

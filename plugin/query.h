@@ -30,6 +30,6 @@ struct QueryState {
 
 // Publishes the classes in their order, one thread at a time. The first call collects before; later ones publish the
 // same records again. A collection that fails is logged, and the query goes on with what it gathered before. What the
-// host's own operations throw passes on.
+// host's own operations throw passes on; a RAID manager log collector that could not be made is made by the next call.
 void RunQuery(QueryState& state, HostHandle host, NKVRHXA20::ICIMNamespace& nameSpace,
               const std::vector<boost::shared_ptr<NKVRHXA20::ICIMClass>>& classes);

@@ -194,6 +194,30 @@ TEST(Query, ACollectionThatFailsIsLoggedAndTheQueryGoesOnWithWhatThereIs) {
   EXPECT_EQ(services.runs.size(), runs);
 }
 
+TEST(Query, RunsTheToolsOnceAlsoWhenTheLogCollectorCannotBeMade) {
+  ScriptedServices services;
+  const RaidLogMachine machine(services, "2007/03/05 11:02:03 PST\tINF\tSERVER\tText.\r\n");
+  const SampleAnswers answers(services);
+  QueryHost host;
+  const HostServices working = CurrentServices();
+  HostServices failing = working;
+  failing.localTime = [&] {
+    if (host.log.entries.back().text.find("CollectRaidMgrData") != std::string::npos) throw THXAException("no clock");
+    return working.localTime();
+  };
+  SetServices(failing);
+  EXPECT_THROW(host.Query({"KVRSG_zxSCSIProtocolController"}), THXAException);
+  SetServices(working);
+  const std::size_t runs = services.runs.size();
+  const auto controllers = host.state.collector->GetControllers();
+  EXPECT_THAT(controllers, SizeIs(5));
+
+  host.Query({"KVRSG_LogRecord_RAIDMgrEvent", "KVRSG_zxSCSIProtocolController"});
+  EXPECT_EQ(services.runs.size(), runs);
+  EXPECT_TRUE(host.state.collector->GetControllers() == controllers);
+  EXPECT_THAT(host.PublishedClasses(), SizeIs(6));
+}
+
 // A host whose classes cannot be asked for.
 class RefusingNamespace final : public ICIMNamespace {
  public:
