@@ -54,7 +54,15 @@ add_library(zenx_objects OBJECT ${zenx_sources} plugin/callbacks.cpp plugin/quer
 target_link_libraries(zenx_objects PUBLIC host_interface plugin_manager platform_answers)
 add_library(zenx SHARED plugin/library_entry_${system}.cpp)
 target_link_libraries(zenx PRIVATE zenx_objects)
+# The plug-in exports nothing: it registers itself when it is loaded.
 set_target_properties(zenx PROPERTIES PREFIX "" OUTPUT_NAME zenx SUFFIX .pi)
+set_target_properties(zenx zenx_objects platform_answers PROPERTIES CXX_VISIBILITY_PRESET hidden
+                      VISIBILITY_INLINES_HIDDEN ON)
+if(WIN32)
+  target_link_options(zenx PRIVATE -Wl,--exclude-all-symbols)
+else()
+  target_link_options(zenx PRIVATE -Wl,--version-script=${CMAKE_SOURCE_DIR}/plugin/no_exports.map)
+endif()
 if(WIN32)
   target_link_libraries(zenx_objects PUBLIC setupapi cfgmgr32)
 endif()

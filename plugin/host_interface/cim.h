@@ -5,19 +5,20 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "plugin/host_interface/export.h"
 #include "plugin/host_interface/value.h"
 
 // The operations stand in slot order: a plug-in that was built against them calls them by position.
 // A host that refuses an operation throws THXAException.
 namespace NKVRHXA20 {
 
-class ICIMProperty {
+class HXA_INTERFACE ICIMProperty {
  public:
   virtual ~ICIMProperty() = default;
   virtual TCIMValue GetValue(const TPropertyMap& context) = 0;
 };
 
-class ICIMInstance {
+class HXA_INTERFACE ICIMInstance {
  public:
   virtual ~ICIMInstance() = default;
   // Hands the finished instance to the host.
@@ -30,7 +31,7 @@ class ICIMInstance {
 
 // What the host calls once per item of an enumeration.
 template <class TItem>
-class ICallback {
+class HXA_INTERFACE ICallback {
  public:
   virtual ~ICallback() = default;
   virtual void Call(const boost::shared_ptr<TItem>& item) = 0;
@@ -38,7 +39,7 @@ class ICallback {
 
 // Appends every item to a vector, which must outlive it.
 template <class TItem>
-class TAddToVectorCallback : public ICallback<TItem> {
+class HXA_INTERFACE TAddToVectorCallback : public ICallback<TItem> {
  public:
   explicit TAddToVectorCallback(std::vector<boost::shared_ptr<TItem>>& items) : items_(items) {}
   void Call(const boost::shared_ptr<TItem>& item) override { items_.push_back(item); }
@@ -49,7 +50,7 @@ class TAddToVectorCallback : public ICallback<TItem> {
 
 // Holds a callback for the length of one enumeration.
 template <class TItem>
-class TCallbackHolder {
+class HXA_INTERFACE TCallbackHolder {
  public:
   explicit TCallbackHolder(const boost::shared_ptr<ICallback<TItem>>& callback) : callback_(callback) {}
   void Call(const boost::shared_ptr<TItem>& item) const { callback_->Call(item); }
@@ -58,7 +59,7 @@ class TCallbackHolder {
   boost::shared_ptr<ICallback<TItem>> callback_;
 };
 
-class ICIMClass {
+class HXA_INTERFACE ICIMClass {
  public:
   virtual ~ICIMClass() = default;
   // The name as the class declares it.
@@ -69,7 +70,7 @@ class ICIMClass {
                                   const TPropertyMap& context) = 0;
 };
 
-class ICIMNamespace {
+class HXA_INTERFACE ICIMNamespace {
  public:
   virtual ~ICIMNamespace() = default;
   // Looks a class up without regard to case. Throws THXAException for a class that the namespace does not know.

@@ -12,7 +12,7 @@
 namespace NKVRHXA20 {
 
 // The host's log. Levels: 3 routine, 2 and below more serious, 100 and above for the person at the machine.
-class ILogger {
+class HXA_INTERFACE ILogger {
  public:
   virtual ~ILogger() = default;
   virtual void Log(int level, const std::string& message) = 0;
