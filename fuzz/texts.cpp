@@ -11,11 +11,13 @@
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
 #include "fuzz/support/text_checks.h"
-#include "host/hxahost/terminal/ascii_output.h"
 #include "host/hxahost/result/raw_text_values.h"
-#include "host/hxahost/views/report/script_data.h"
-#include "host/hxahost/text/text.h"
 #include "host/hxahost/result/tool_answer.h"
+#include "host/hxahost/terminal/ascii_output.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
+#include "host/hxahost/views/report/script_data.h"
 
 using namespace hxahost;
 

@@ -21,7 +21,7 @@
 #include "host/hxahost/result/json_result.h"
 #include "host/hxahost/terminal/ascii_output.h"
 #include "host/hxahost/terminal/layout.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/views.h"
 

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 #include <boost/crc.hpp>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"
 

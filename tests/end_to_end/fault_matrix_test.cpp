@@ -14,8 +14,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/json/json_view.h"
-#include "host/hxahost/text/text.h"
 #include "tests/support/fault_matrix.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"

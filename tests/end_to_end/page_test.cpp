@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
 
 namespace {

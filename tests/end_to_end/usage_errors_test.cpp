@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_system.h"

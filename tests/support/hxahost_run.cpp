@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "host/hxahost/system/system.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace fs = std::filesystem;
 

@@ -8,7 +8,7 @@
 #include "host/hxahost/bundle/bundle_file.h"
 #include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"

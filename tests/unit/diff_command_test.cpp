@@ -7,7 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {

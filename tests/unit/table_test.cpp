@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace {
 

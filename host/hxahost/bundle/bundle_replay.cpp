@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
 
 using namespace NKVRHXA20;
 

@@ -8,7 +8,7 @@
 
 #include <boost/crc.hpp>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
 
 namespace hxahost {
 

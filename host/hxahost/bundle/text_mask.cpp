@@ -4,7 +4,7 @@
 #include <memory>
 #include <random>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 

@@ -3,7 +3,8 @@
 #include <utility>
 
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 

@@ -5,7 +5,8 @@
 #include <vector>
 
 #include "host/hxahost/system/file_rights.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace fs = std::filesystem;
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "host/hxahost/text/json_text.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/json_output.h"
+#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/finding_json.h"
 #include "host/hxahost/views/monitoring/finding_line.h"
 

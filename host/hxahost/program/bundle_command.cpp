@@ -9,11 +9,12 @@
 #include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/bundle/bundle_mask.h"
 #include "host/hxahost/bundle/bundle_text.h"
+#include "host/hxahost/result/tool_run.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/output_file.h"
 #include "host/hxahost/system/system.h"
-#include "host/hxahost/text/text.h"
-#include "host/hxahost/result/tool_run.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 using namespace NKVRHXA20;
 

@@ -4,9 +4,10 @@
 
 #include "host/hxahost/diff/diff_source.h"
 #include "host/hxahost/diff/diff_view.h"
-#include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/diff/result_diff.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 

@@ -7,7 +7,7 @@
 
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/terminal/layout.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
 #include "plugin/host_interface/exception.h"
 
 namespace hxahost {

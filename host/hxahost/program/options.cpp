@@ -10,7 +10,7 @@
 #include "host/hxahost/program/option_values.h"
 #include "host/hxahost/schema/schema_view.h"
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/views.h"
 

@@ -24,7 +24,8 @@
 #include "host/hxahost/system/system.h"
 #include "host/hxahost/terminal/progress.h"
 #include "host/hxahost/terminal/terminal_layout.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/views.h"
 
 using namespace NKVRHXA20;

@@ -5,7 +5,8 @@
 
 #include "host/hxacore/whole_file.h"
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 

@@ -1,6 +1,6 @@
 #include "host/hxahost/result/object_path.h"
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 
 using namespace NKVRHXA20;
 

@@ -6,7 +6,7 @@
 #include <cstdlib>
 
 #include "host/hxacore/value_reader.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
 
 using namespace NKVRHXA20;
 

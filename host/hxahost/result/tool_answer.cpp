@@ -4,8 +4,9 @@
 #include <iterator>
 #include <span>
 
-#include "host/hxahost/text/text.h"
 #include "host/hxahost/result/tool_names.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
 
 namespace hxahost {
 

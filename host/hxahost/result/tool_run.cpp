@@ -3,7 +3,7 @@
 #include <chrono>
 #include <utility>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
 
 using namespace NKVRHXA20;
 

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "host/hxacore/value_type.h"
-#include "host/hxahost/text/mof_text.h"
 #include "host/hxahost/schema/property_origins.h"
 #include "host/hxahost/schema/schema_markdown.h"
+#include "host/hxahost/text/mof_string.h"
 
 using namespace NKVRHXA20;
 

@@ -1,6 +1,6 @@
 #include "host/hxahost/terminal/ascii_output.h"
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
 
 namespace hxahost {
 

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
 
 namespace hxahost {
 

@@ -4,7 +4,7 @@
 #include <numeric>
 
 #include "host/hxahost/terminal/state_colour.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
 
 namespace hxahost {
 

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
 
 namespace {

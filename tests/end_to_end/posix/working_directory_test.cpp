@@ -9,7 +9,6 @@
 
 #include <unistd.h>
 
-#include "host/hxahost/text/text.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/machine_copy.h"
 #include "tests/support/temporary_folder.h"

@@ -10,7 +10,8 @@
 
 #include "host/hxacore/value_reader.h"
 #include "host/hxacore/value_type.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 using namespace NKVRHXA20;
 

@@ -4,9 +4,9 @@
 #include <string_view>
 
 #include "host/hxacore/value_reader.h"
-#include "host/hxahost/text/mof_text.h"
 #include "host/hxahost/result/object_path.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/mof_string.h"
 
 using namespace NKVRHXA20;
 

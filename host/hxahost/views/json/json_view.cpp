@@ -7,10 +7,10 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxacore/value_reader.h"
-#include "host/hxahost/text/json_text.h"
 #include "host/hxahost/result/object_path.h"
-#include "host/hxahost/text/text.h"
 #include "host/hxahost/result/unread_lines.h"
+#include "host/hxahost/text/json_output.h"
+#include "host/hxahost/text/utf8.h"
 
 using namespace NKVRHXA20;
 

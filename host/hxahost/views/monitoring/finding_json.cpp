@@ -1,6 +1,6 @@
 #include "host/hxahost/views/monitoring/finding_json.h"
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 

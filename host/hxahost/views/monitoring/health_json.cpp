@@ -2,8 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/text/json_text.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/json_output.h"
+#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/finding_json.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 

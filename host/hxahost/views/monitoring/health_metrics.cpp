@@ -15,7 +15,8 @@
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 
 using NKVRHXA20::TPublishedInstance;

@@ -5,7 +5,7 @@
 
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
 #include "host/hxahost/views/monitoring/finding_line.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 

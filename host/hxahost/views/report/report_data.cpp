@@ -7,14 +7,14 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxacore/schema.h"
-#include "host/hxahost/views/tables/controller_columns.h"
 #include "host/hxahost/machine/device_owners.h"
-#include "host/hxahost/views/monitoring/finding_json.h"
 #include "host/hxahost/machine/health.h"
-#include "host/hxahost/text/json_text.h"
-#include "host/hxahost/views/tables/record_sections.h"
-#include "host/hxahost/text/text.h"
 #include "host/hxahost/result/unread_lines.h"
+#include "host/hxahost/text/json_output.h"
+#include "host/hxahost/text/utf8.h"
+#include "host/hxahost/views/monitoring/finding_json.h"
+#include "host/hxahost/views/tables/controller_columns.h"
+#include "host/hxahost/views/tables/record_sections.h"
 
 using NKVRHXA20::ClassDeclaration;
 using NKVRHXA20::PublishedClasses;

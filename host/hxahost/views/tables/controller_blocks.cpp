@@ -11,7 +11,8 @@
 
 #include "host/hxahost/machine/device_owners.h"
 #include "host/hxahost/terminal/table.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
 #include "host/hxahost/views/tables/controller_columns.h"
 
 using NKVRHXA20::TPublishedInstance;

@@ -9,7 +9,8 @@
 
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/terminal/table.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
 #include "host/hxahost/views/tables/controller_blocks.h"
 #include "host/hxahost/views/tables/instance_table.h"
 #include "host/hxahost/views/tables/raw_text_summary.h"

@@ -8,7 +8,8 @@
 #include <optional>
 #include <string_view>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
 
 namespace hxahost {
 

@@ -4,7 +4,8 @@
 #include <vector>
 
 #include "host/hxahost/result/unread_lines.h"
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
 
 namespace hxahost {
 

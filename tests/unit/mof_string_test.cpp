@@ -1,4 +1,4 @@
-#include "host/hxahost/text/mof_text.h"
+#include "host/hxahost/text/mof_string.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 using namespace hxahost;
 using namespace std::string_literals;
 
-TEST(MofText, EscapesWhatMofGivesAMeaningAndWhatMustNotReachATerminal) {
+TEST(MofString, EscapesWhatMofGivesAMeaningAndWhatMustNotReachATerminal) {
   struct Case {
     const char* name;
     std::string text;
@@ -39,18 +39,18 @@ TEST(MofText, EscapesWhatMofGivesAMeaningAndWhatMustNotReachATerminal) {
   for (const Case& each : cases) EXPECT_EQ(MofText(each.text), each.expected) << each.name;
 }
 
-TEST(MofText, IsSeveralStringsWhereItIsLong) {
+TEST(MofString, IsSeveralStringsWhereItIsLong) {
   EXPECT_EQ(MofText(std::string(1000, 'x'), "  "), '"' + std::string(1000, 'x') + '"');
   EXPECT_EQ(MofText(std::string(2500, 'x'), "  "), '"' + std::string(1000, 'x') + "\"\n  \"" + std::string(1000, 'x') +
                                                        "\"\n  \"" + std::string(500, 'x') + '"');
 }
 
-TEST(MofText, CutsNoCharacterAndNoEscape) {
+TEST(MofString, CutsNoCharacterAndNoEscape) {
   const std::string text = std::string(999, 'x') + "\x1b\xc3\xa4";
   EXPECT_EQ(MofText(text), '"' + std::string(999, 'x') + "\\x001B\"\n\"\xc3\xa4\"");
 }
 
-TEST(MofText, HasAMebibyteWhole) {
+TEST(MofString, HasAMebibyteWhole) {
   const std::string text = MofText(std::string(1U << 20U, '"'));
   EXPECT_EQ(std::count(text.begin(), text.end(), '\\'), 1 << 20);
 }

@@ -1,9 +1,10 @@
-#include "host/hxahost/text/mof_text.h"
+#include "host/hxahost/text/mof_string.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 

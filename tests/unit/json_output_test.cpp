@@ -1,4 +1,4 @@
-#include "host/hxahost/text/json_text.h"
+#include "host/hxahost/text/json_output.h"
 
 #include <string>
 
@@ -9,7 +9,7 @@ namespace json_text_test {
 using namespace hxahost;
 using Json = nlohmann::ordered_json;
 
-TEST(JsonText, EscapesWhatMustNotReachATerminalAndIsTheSameJson) {
+TEST(JsonOutput, EscapesWhatMustNotReachATerminalAndIsTheSameJson) {
   struct Case {
     const char* name;
     std::string text;
@@ -37,7 +37,7 @@ TEST(JsonText, EscapesWhatMustNotReachATerminalAndIsTheSameJson) {
   }
 }
 
-TEST(JsonText, IsLaidOutInLines) {
+TEST(JsonOutput, IsLaidOutInLines) {
   const Json json = {
       {"key\u202e", {1, nullptr}}
   };

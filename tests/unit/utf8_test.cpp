@@ -1,4 +1,4 @@
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@ namespace {
 using namespace hxahost;
 using namespace std::string_literals;
 
-TEST(Text, KeepsValidUtf8AndReadsOtherBytesAsIso8859) {
+TEST(Utf8, KeepsValidUtf8AndReadsOtherBytesAsIso8859) {
   struct Case {
     const char* name;
     std::string bytes;
@@ -32,52 +32,11 @@ TEST(Text, KeepsValidUtf8AndReadsOtherBytesAsIso8859) {
   for (const Case& each : cases) EXPECT_EQ(AsUtf8(each.bytes), each.expected) << each.name;
 }
 
-TEST(Text, EscapesWhatWouldActOnATerminal) {
-  EXPECT_EQ(EscapeControls("a\tb\r\n"), "a\\tb\\r\\n");
-  EXPECT_EQ(EscapeControls("\x1b[2J\x7f"), "\\x1b[2J\\x7f");
-  EXPECT_EQ(EscapeControls("a\0b"s), "a\\x00b");
-  EXPECT_EQ(EscapeControls("\x9b"
-                           "2J"),
-            "\\x9b2J")
-      << "a single byte starts a command, too";
-  EXPECT_EQ(EscapeControls("\xc2\x9b"), "\\x9b");
-  EXPECT_EQ(EscapeControls("a\xe2\x80\xae."), "a\\u202e.") << "turns the direction of the text";
-  EXPECT_EQ(EscapeControls("\xef\xbf\xbe\xef\xbf\xbf"), "\\ufffe\\uffff") << "no characters";
-  EXPECT_EQ(EscapeControls("a\xf3\xa0\x81\x81\xe1\xa0\x8e."), "a\\U000e0041\\u180e.") << "an invisible letter";
-  EXPECT_EQ(EscapeControls("C:\\zenx"), "C:\\zenx") << "a path stays as it is";
-}
-
-TEST(Text, LosesWhiteSpaceAtBothEndsForPeople) {
-  EXPECT_EQ(Printable(" \tOptimal \r\n"), "Optimal");
-  EXPECT_EQ(Printable(" \r\n"), "");
-  EXPECT_EQ(Printable("two\r\nlines\n"), "two\\r\\nlines");
-}
-
-TEST(Text, CountsTheColumnsOfATerminal) {
-  EXPECT_EQ(DisplayWidth("disk"), 4U);
-  EXPECT_EQ(DisplayWidth("K\xc3\xa4se"), 4U);
-  EXPECT_EQ(DisplayWidth("\xe6\xbc\xa2"), 2U) << "a wide character";
-}
-
-TEST(Text, CutsWithAnEllipsisInsideTheWidth) {
-  EXPECT_EQ(CutToWidth("Optimal", 7), "Optimal");
-  EXPECT_EQ(CutToWidth("Optimal", 6), "Optim\u2026");
-  EXPECT_EQ(CutToWidth("Optimal", 1), "\u2026");
-  EXPECT_EQ(CutToWidth("Optimal", 0), "");
-  EXPECT_EQ(CutToWidth("\xc3\xa4\xc3\xb6\xc3\xbc", 2), "\xc3\xa4\u2026") << "no character is cut in two";
-  EXPECT_EQ(CutToWidth("\xe6\xbc\xa2\xe6\xbc\xa2", 3), "\xe6\xbc\xa2\u2026");
-}
-
-TEST(Text, PathsKeepEveryCharacter) {
+TEST(Utf8, PathsKeepEveryCharacter) {
   EXPECT_EQ(Utf8FromPath(PathFromUtf8("folder/K\xc3\xa4se \xe6\xbc\xa2")), "folder/K\xc3\xa4se \xe6\xbc\xa2");
 }
 
-TEST(Text, CountsNoColumnForACombiningMarkAndCutsItWithItsLetter) {
-  EXPECT_EQ(DisplayWidth("e\u0301a\u20dd"), 2U);
-  EXPECT_EQ(CutToWidth("e\u0301e\u0301e\u0301", 2), "e\u0301\u2026");
-}
-
-TEST(Text, IsReadCharacterByCharacter) {
+TEST(Utf8, IsReadCharacterByCharacter) {
   struct Case {
     const char* name;
     std::string_view text;

@@ -1,10 +1,11 @@
-#include "host/hxahost/text/json_text.h"
+#include "host/hxahost/text/json_output.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
 
-#include "host/hxahost/text/text.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 

@@ -1,0 +1,69 @@
+#include "host/hxahost/text/display_width.h"
+
+#include "host/hxahost/text/code_range.h"
+#include "host/hxahost/text/utf8.h"
+
+namespace hxahost {
+
+namespace {
+
+// None: they are drawn over the character before. Marks of scripts whose letters change shape are counted as one.
+constexpr CodeRange kCombining[] = {
+    {0x300,   0x36f  },
+    {0x483,   0x489  },
+    {0x591,   0x5bd  },
+    {0x610,   0x61a  },
+    {0x64b,   0x65f  },
+    {0x1ab0,  0x1aff },
+    {0x1dc0,  0x1dff },
+    {0x20d0,  0x20ff },
+    {0xfe00,  0xfe0f },
+    {0xfe20,  0xfe2f },
+    {0xe0100, 0xe01ef},
+};
+
+// Two columns each.
+constexpr CodeRange kWide[] = {
+    {0x1100,  0x115f },
+    {0x2e80,  0xa4cf },
+    {0xac00,  0xd7a3 },
+    {0xf900,  0xfaff },
+    {0xfe30,  0xfe6f },
+    {0xff00,  0xff60 },
+    {0xffe0,  0xffe6 },
+    {0x1f300, 0x1faff},
+    {0x20000, 0x3fffd},
+};
+
+std::size_t Columns(char32_t code) {
+  if (IsIn(code, kCombining)) return 0;
+  return IsIn(code, kWide) ? 2 : 1;
+}
+
+}  // namespace
+
+std::size_t DisplayWidth(std::string_view utf8) {
+  std::size_t width = 0;
+  while (!utf8.empty()) {
+    const Character character = NextCharacter(utf8);
+    width += Columns(character.code);
+    utf8.remove_prefix(character.length);
+  }
+  return width;
+}
+
+std::string CutToWidth(std::string_view utf8, std::size_t columns) {
+  if (DisplayWidth(utf8) <= columns) return std::string(utf8);
+  if (columns == 0) return {};
+  std::size_t length = 0;
+  std::size_t width = 1;  // the ellipsis
+  while (true) {
+    const Character character = NextCharacter(utf8.substr(length));
+    width += Columns(character.code);
+    if (width > columns) break;
+    length += character.length;
+  }
+  return std::string(utf8.substr(0, length)) + "\u2026";
+}
+
+}  // namespace hxahost

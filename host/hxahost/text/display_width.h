@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace hxahost {
+
+// The columns that UTF-8 text takes on a terminal.
+std::size_t DisplayWidth(std::string_view utf8);
+
+// The text, cut to the columns, with an ellipsis as its last character where something is missing.
+std::string CutToWidth(std::string_view utf8, std::size_t columns);
+
+}  // namespace hxahost

@@ -1,0 +1,31 @@
+#include "host/hxahost/text/escaping.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace hxahost;
+using namespace std::string_literals;
+
+TEST(Escaping, EscapesWhatWouldActOnATerminal) {
+  EXPECT_EQ(EscapeControls("a\tb\r\n"), "a\\tb\\r\\n");
+  EXPECT_EQ(EscapeControls("\x1b[2J\x7f"), "\\x1b[2J\\x7f");
+  EXPECT_EQ(EscapeControls("a\0b"s), "a\\x00b");
+  EXPECT_EQ(EscapeControls("\x9b"
+                           "2J"),
+            "\\x9b2J")
+      << "a single byte starts a command, too";
+  EXPECT_EQ(EscapeControls("\xc2\x9b"), "\\x9b");
+  EXPECT_EQ(EscapeControls("a\xe2\x80\xae."), "a\\u202e.") << "turns the direction of the text";
+  EXPECT_EQ(EscapeControls("\xef\xbf\xbe\xef\xbf\xbf"), "\\ufffe\\uffff") << "no characters";
+  EXPECT_EQ(EscapeControls("a\xf3\xa0\x81\x81\xe1\xa0\x8e."), "a\\U000e0041\\u180e.") << "an invisible letter";
+  EXPECT_EQ(EscapeControls("C:\\zenx"), "C:\\zenx") << "a path stays as it is";
+}
+
+TEST(Escaping, LosesWhiteSpaceAtBothEndsForPeople) {
+  EXPECT_EQ(Printable(" \tOptimal \r\n"), "Optimal");
+  EXPECT_EQ(Printable(" \r\n"), "");
+  EXPECT_EQ(Printable("two\r\nlines\n"), "two\\r\\nlines");
+}
+
+}  // namespace
