@@ -1,63 +1,43 @@
 #include "collect/collected_data.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
-#include "collect/text_search.h"
+#include "collect/ascii_text.h"
 
-CollectedData::CollectedData(HostHandle host, std::string text)
-    : text_(std::move(text)), lines_(std::string_view(text_).substr(0, text_.rfind('\n') + 1)), host_(host) {
-  Advance();
-}
-
-void CollectedData::ThrowNoLine() { throw std::out_of_range("there is no line left"); }
-
-void CollectedData::AdvanceOutside() {
-  if (outside_ == -1 && !lines_.empty()) return JumpTo(lines_.data());
-  outside_ = outside_ == -1 ? 1 : outside_ + 1;
-}
-
-void CollectedData::StepBack() {
-  const bool isInside = outside_ == 0 || outside_ == 1;
-  if (!isInside || begin_ == lines_.data()) {
-    begin_ = end_ = outside_ > 1 ? linesEnd_ : lines_.data();
-    outside_ = isInside ? -1 : outside_ - 1;
-  } else if (previous_ < begin_) {
-    outside_ = 0;
-    end_ = begin_;
-    begin_ = previous_;
-  } else {
-    JumpTo(begin_ - 1);
+CollectedData::CollectedData(HostHandle host, std::string text) : text_(std::move(text)), host_(host) {
+  std::string_view rest = text_;
+  for (std::size_t end = rest.find('\n'); end != rest.npos; end = rest.find('\n')) {
+    lines_.push_back(rest.substr(0, end + 1));
+    rest.remove_prefix(end + 1);
   }
 }
 
-// To the line that the position is in.
-void CollectedData::JumpTo(const char* position) {
-  const std::string_view before(lines_.data(), position);
-  outside_ = 0;
-  begin_ = previous_ = lines_.data() + (before.rfind('\n') + 1);
-  end_ = Find(position, linesEnd_, '\n') + 1;
-}
-
-bool CollectedData::FindLabel(std::string_view line, std::string_view label) {
-  const std::size_t found = FindInLine(line, label);
-  if (found == line.npos) return false;
-  labelColumn_ = found;
-  return true;
-}
-
 std::string_view CollectedData::FindLine(std::string_view label) {
-  // No line contains a label that goes on behind a line feed.
-  const bool fitsALine = label.find('\n') >= label.size() - 1;
-  const std::size_t found = fitsALine ? FindInReport(lines_, label) : lines_.npos;
-  if (found >= lines_.size()) return {};
-  JumpTo(lines_.data() + found);
+  const auto found = std::ranges::find_if(lines_, [label](std::string_view line) { return Contains(line, label); });
+  if (found == lines_.end()) return {};
+  cursor_ = found - lines_.begin();
+  return *found;
+}
+
+std::string_view CollectedData::FindValue(std::string_view label) { return ValueAfterColon(FindLine(label)); }
+
+std::string_view CollectedData::CurrentLine() const {
+  try {
+    return lines_.at(static_cast<std::size_t>(cursor_));
+  } catch (const std::out_of_range&) {
+    // This text gets into the log; the library's own differs from system to system.
+    throw std::out_of_range("there is no line left");
+  }
+}
+
+std::string_view CollectedData::NextLine() {
+  ++cursor_;
   return CurrentLine();
 }
 
-std::string_view CollectedData::FindValue(std::string_view label) { return ValueOfLine(FindLine(label)); }
-
-std::string_view CollectedData::ValueOfCurrentLine() const { return ValueOfLine(CurrentLine()); }
+std::string_view CollectedData::ValueOfCurrentLine() const { return ValueAfterColon(CurrentLine()); }
 
 std::string_view CollectedData::ValueAfterColon(std::string_view line) {
   const std::size_t colon = line.find(':');
@@ -66,3 +46,15 @@ std::string_view CollectedData::ValueAfterColon(std::string_view line) {
   if (lineFeed == line.npos) return {};
   return line.substr(colon + 1, lineFeed - colon);
 }
+
+std::string_view CollectedData::NextLineValueIf(std::string_view label) {
+  const std::string_view line = NextLine();
+  return Contains(line, label) ? ValueAfterColon(line) : std::string_view();
+}
+
+std::string_view CollectedData::TrimLeft(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  return text.empty() ? text : text.substr(std::min(first, text.size() - 1));
+}
+
+std::string_view CollectedData::TrimRight(std::string_view text) { return TrimEnd(text, kBlanks); }

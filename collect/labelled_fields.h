@@ -1,14 +1,11 @@
 #pragma once
 
-#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
 #include "collect/collected_data.h"
-#include "collect/each_index.h"
-#include "collect/field_text.h"
 
 // What a label that is not on its line costs.
 enum class Miss {
@@ -20,7 +17,7 @@ enum class Miss {
 template <class Record>
 struct LabelledField {
   std::string_view label;
-  FieldText Record::*field;
+  std::string Record::*field;
   Miss miss = Miss::kCostsNothing;
 };
 
@@ -28,17 +25,13 @@ template <class Record>
 using LabelTable = std::span<const LabelledField<std::type_identity_t<Record>>>;
 
 // Reads the lines that follow, one label a line, in the table's order. A label out of order is not found.
-template <const auto& kTable, class Record>
-void ReadInOrder(CollectedData& text, Record& record) {
-  bool isUsed = true;  // the current line, so that the next label is looked for on the one behind it
-  ForEachIndex<std::size(kTable)>([&](auto index) {
-    constexpr const auto& kRow = kTable[index];
-    if (isUsed) text.Advance();
-    const std::string_view value = text.ValueIf(kRow.label);
-    record.*kRow.field = value;
-    isUsed = !value.empty() || kRow.miss == Miss::kTakesLine;
-  });
-  if (!isUsed) text.StepBack();
+template <class Record>
+void ReadInOrder(CollectedData& text, Record& record, LabelTable<Record> table) {
+  for (const auto& row : table) {
+    const std::string_view value = text.NextLineValueIf(row.label);
+    record.*row.field = value;
+    if (value.empty() && row.miss == Miss::kCostsNothing) text.StepBack();
+  }
 }
 
 // Reads each label's first line in the whole text, wherever it stands.

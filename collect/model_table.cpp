@@ -1,6 +1,6 @@
 #include "collect/model_table.h"
 
-#include "collect/collected_data.h"
+#include "collect/ascii_text.h"
 
 std::string_view NameOfModel(std::string_view model, std::span<const ModelName> table) {
   for (const ModelName& row : table) {

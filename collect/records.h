@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "collect/field_text.h"
 #include "collect/host_handle.h"
 
 // What the tools said, word for word. Fields are named like the property that they feed, or like the tool's label
@@ -24,28 +23,28 @@ struct ZenxLogicalDevice {
   virtual ~ZenxLogicalDevice() = default;
 
   HostHandle Host;
-  FieldText ControllerNum;
-  FieldText LogicalDriveNum;
-  FieldText LogicalDriveName;
-  FieldText LogicalDriveStatus;
-  FieldText RaidLevel;
-  FieldText Size;
-  FieldText StripeUnitSize;
-  FieldText StripeOrder;
-  FieldText AccessBlocked;
-  FieldText NumOfChunks;
-  FieldText NumOfSegments;
-  FieldText PartOfArray;
-  FieldText PartOfMergeGroup;
-  FieldText WriteCacheStatus;
-  FieldText WriteCacheSetting;
-  FieldText ReadCacheStatus;
-  FieldText Partitioned;
-  FieldText DriveList;
-  FieldText DefunctSegments;
-  FieldText AdditionalInformation;
-  FieldText Raid5EEStatus;
-  FieldText DefunctStripes;
+  std::string ControllerNum;
+  std::string LogicalDriveNum;
+  std::string LogicalDriveName;
+  std::string LogicalDriveStatus;
+  std::string RaidLevel;
+  std::string Size;
+  std::string StripeUnitSize;
+  std::string StripeOrder;
+  std::string AccessBlocked;
+  std::string NumOfChunks;
+  std::string NumOfSegments;
+  std::string PartOfArray;
+  std::string PartOfMergeGroup;
+  std::string WriteCacheStatus;
+  std::string WriteCacheSetting;
+  std::string ReadCacheStatus;
+  std::string Partitioned;
+  std::string DriveList;
+  std::string DefunctSegments;
+  std::string AdditionalInformation;
+  std::string Raid5EEStatus;
+  std::string DefunctStripes;
   std::vector<std::string> Members;  // no tool prints them in a form of their own; stays empty
 };
 
@@ -55,32 +54,32 @@ struct ZenxPhysicalDevice {
   virtual ~ZenxPhysicalDevice() = default;
 
   HostHandle Host;
-  FieldText ControllerNum;
-  FieldText Channel;
-  FieldText ScsiId;
-  FieldText DeviceNumber;
-  FieldText DeviceType;
-  FieldText Type;
-  FieldText State;
-  FieldText DeviceCode;
-  FieldText DeviceSerialNum;
-  FieldText Firmware;
-  FieldText Vendor;
-  FieldText Model;
-  FieldText Size;
-  FieldText TransferSpeed;
-  FieldText ReportedChannel;
-  FieldText WorldWideName;
-  FieldText WriteCache;
-  FieldText Enclosure;
-  FieldText EnclosureId;
-  FieldText ReportedESD;
-  FieldText ReportedLocation;
-  FieldText Supported;
-  FieldText PFA;
-  FieldText FRU;
-  FieldText Temperature;
-  FieldText DeviceIdSuffix;  // ends the identifier that the drive is published under
+  std::string ControllerNum;
+  std::string Channel;
+  std::string ScsiId;
+  std::string DeviceNumber;
+  std::string DeviceType;
+  std::string Type;
+  std::string State;
+  std::string DeviceCode;
+  std::string DeviceSerialNum;
+  std::string Firmware;
+  std::string Vendor;
+  std::string Model;
+  std::string Size;
+  std::string TransferSpeed;
+  std::string ReportedChannel;
+  std::string WorldWideName;
+  std::string WriteCache;
+  std::string Enclosure;
+  std::string EnclosureId;
+  std::string ReportedESD;
+  std::string ReportedLocation;
+  std::string Supported;
+  std::string PFA;
+  std::string FRU;
+  std::string Temperature;
+  std::string DeviceIdSuffix;  // ends the identifier that the drive is published under
 };
 
 // The devices behind one logical drive or array, in the order in which stripes are laid out.
@@ -90,10 +89,10 @@ struct ArrayStripeOrder {
 
   HostHandle Host;
   std::vector<std::string> Members;  // stays empty: the list is kept as one text
-  FieldText ControllerNum;
-  FieldText CollectionID;
-  FieldText Array;
-  FieldText StripeOrder;
+  std::string ControllerNum;
+  std::string CollectionID;
+  std::string Array;
+  std::string StripeOrder;
 };
 
 // The raw text of one command.
@@ -104,7 +103,7 @@ struct ZenxRawData {
               std::string_view output);
   virtual ~ZenxRawData() = default;
 
-  FieldText Command;
+  std::string Command;
   std::vector<std::string> RawResults;
 };
 
@@ -114,9 +113,9 @@ struct ZenxHrConfBios {
   virtual ~ZenxHrConfBios() = default;
 
   HostHandle Host;
-  FieldText ControllerNum;
-  FieldText BIOS;
-  FieldText Driver;
+  std::string ControllerNum;
+  std::string BIOS;
+  std::string Driver;
 };
 
 // One controller and all that hangs on it.
@@ -126,60 +125,60 @@ struct ZenxController {
 
   HostHandle Host;
 
-  FieldText ControllerNum;
-  FieldText DeviceID;
-  FieldText OtherIdentifyingInfo;
-  FieldText ControllerName;
-  FieldText ControllerType;
-  FieldText SerialNum;
-  FieldText PartNum;
-  FieldText ControllerSlotInfo;
-  FieldText ControllerFRU;
-  FieldText VPD;
+  std::string ControllerNum;
+  std::string DeviceID;
+  std::string OtherIdentifyingInfo;
+  std::string ControllerName;
+  std::string ControllerType;
+  std::string SerialNum;
+  std::string PartNum;
+  std::string ControllerSlotInfo;
+  std::string ControllerFRU;
+  std::string VPD;
 
-  FieldText ControllerStatus;
-  FieldText ChannelDescription;
-  FieldText ScsiChannelDescr;
-  FieldText InitiatorChannelScsiId;
-  FieldText InstalledMemory;
-  FieldText MaxPhysicalDevices;
-  FieldText DefunctDiskDriveCnt;
-  FieldText LogicalDriveStatusCnt;
-  FieldText ReadAhead;
-  FieldText StripeUnitSize;
-  FieldText RebuildRate;
-  FieldText HotSwapRebuild;
-  FieldText DataScrubbing;
-  FieldText HotSpareCopyBack;
-  FieldText CopyBackEnabled;
-  FieldText PartOfCluster;
-  FieldText UnattendedMode;
-  FieldText ConcurrentCommandsSupported;
-  FieldText ConfigurationUpdateCount;
-  FieldText ClusterSolutionVersion;
+  std::string ControllerStatus;
+  std::string ChannelDescription;
+  std::string ScsiChannelDescr;
+  std::string InitiatorChannelScsiId;
+  std::string InstalledMemory;
+  std::string MaxPhysicalDevices;
+  std::string DefunctDiskDriveCnt;
+  std::string LogicalDriveStatusCnt;
+  std::string ReadAhead;
+  std::string StripeUnitSize;
+  std::string RebuildRate;
+  std::string HotSwapRebuild;
+  std::string DataScrubbing;
+  std::string HotSpareCopyBack;
+  std::string CopyBackEnabled;
+  std::string PartOfCluster;
+  std::string UnattendedMode;
+  std::string ConcurrentCommandsSupported;
+  std::string ConfigurationUpdateCount;
+  std::string ClusterSolutionVersion;
 
-  FieldText Current_MostRecentOperation;
-  FieldText Logical_Drive;
-  FieldText BackgroundOperationActive;
-  FieldText LastCmdStatus;
-  FieldText LogicalDriveSizeInStripes;
-  FieldText NumberOfRemainingStripes;
+  std::string Current_MostRecentOperation;
+  std::string Logical_Drive;
+  std::string BackgroundOperationActive;
+  std::string LastCmdStatus;
+  std::string LogicalDriveSizeInStripes;
+  std::string NumberOfRemainingStripes;
 
-  FieldText ECVersion;
-  FieldText ControllerTemp;
-  FieldText ControllerBatteryStatus;
-  FieldText ControllerBatteryOverTemp;
-  FieldText ControllerBatteryCapacity;
-  FieldText ControllerBatteryFRU;
-  FieldText BatteryTimeRemaining;
+  std::string ECVersion;
+  std::string ControllerTemp;
+  std::string ControllerBatteryStatus;
+  std::string ControllerBatteryOverTemp;
+  std::string ControllerBatteryCapacity;
+  std::string ControllerBatteryFRU;
+  std::string BatteryTimeRemaining;
 
-  FieldText DeviceDriverVersion;
-  FieldText FirmwareVersion;
-  FieldText BootBlockVersion;
-  FieldText BiosVersion;
+  std::string DeviceDriverVersion;
+  std::string FirmwareVersion;
+  std::string BootBlockVersion;
+  std::string BiosVersion;
 
-  bool Parsed = false;     // set by the parser once the controller's section was found and read
-  FieldText SlotDeviceId;  // the operating system's name of the device in the controller's slot
+  bool Parsed = false;       // set by the parser once the controller's section was found and read
+  std::string SlotDeviceId;  // the operating system's name of the device in the controller's slot
 
   std::vector<std::string> Lines;  // for an adapter that keeps lines of the section; none does
   std::vector<std::shared_ptr<ZenxLogicalDevice>> LogicalDevices;

@@ -2,13 +2,13 @@
 
 #include "collect/tool_text.h"
 
-bool ContinueList(CollectedData& text, FieldText& list) {
+bool ContinueList(CollectedData& text, std::string& list) {
   const std::string_view line = CollectedData::TrimLeft(text.NextLine());
   if (!BeginsWithDigit(line)) {
     text.StepBack();
     return false;
   }
-  list = Joined(list, " ", line);
+  Join(list, " ", line);
   return true;
 }
 

@@ -1,4 +1,5 @@
 #include "collect/tool_text.h"
+#include "collect/ascii_text.h"
 
 #include <algorithm>
 #include <limits>
@@ -26,7 +27,7 @@ std::string_view CutLogicalDriveNumber(std::string_view line, std::string_view l
 
 std::string_view CutDeviceType(std::string_view line) {
   constexpr std::string_view kLabel = "Device is a";
-  const std::size_t label = FindInLine(line, kLabel);
+  const std::size_t label = line.find(kLabel);
   if (label == line.npos) return {};
   // "a Hard drive", but "an Enclosure services device".
   const std::size_t articleRest = Contains(line, "Enclosure") ? 2 : 1;
@@ -35,18 +36,12 @@ std::string_view CutDeviceType(std::string_view line) {
 
 std::string_view CutDeviceName(std::string_view line) {
   constexpr std::size_t kNameLength = 12;
-  return line.substr(FindInLine(line, kDeviceNumberLabel), kNameLength);
+  return line.substr(line.find(kDeviceNumberLabel), kNameLength);
 }
 
-std::string Joined(std::string_view text, std::string_view separator, std::string_view part) {
-  const std::size_t last = text.find_last_not_of(" \t\r\n");
-  const std::size_t first = part.find_first_not_of(' ');
-  const std::string_view head = text.substr(0, last == text.npos ? 0 : last + 1);
-  const std::string_view tail = first == part.npos ? std::string_view() : part.substr(first);
-  std::string joined;
-  joined.reserve(head.size() + separator.size() + tail.size());
-  joined.append(head).append(separator).append(tail);
-  return joined;
+void Join(std::string& text, std::string_view separator, std::string_view part) {
+  text.resize(TrimEnd(text, kBlanksAndLineEnds).size());
+  text.append(separator).append(TrimStart(part, " "));
 }
 
 int LeadingNumber(std::string_view text) {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "collect/collected_data.h"
+#include "collect/ascii_text.h"
 
 // Cuts that the texts of several tools have in common.
 
@@ -22,11 +22,9 @@ std::string_view CutDeviceType(std::string_view line);
 // is part of it when the number is short. The label must be in the line.
 std::string_view CutDeviceName(std::string_view line);
 
-// Puts a further part behind a text: line end, blanks and tabs that close the text and blanks that open the part are
-// dropped, and the separator stands between the two.
-std::string Joined(std::string_view text, std::string_view separator, std::string_view part);
-
-inline bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+// Appends a further part to a text: line end, blanks and tabs that close the text and blanks that open the part are
+// dropped, and the separator is between the two.
+void Join(std::string& text, std::string_view separator, std::string_view part);
 
 // Whether a line goes on with a list: it begins with a decimal digit.
 inline bool BeginsWithDigit(std::string_view text) { return !text.empty() && IsDigit(text.front()); }

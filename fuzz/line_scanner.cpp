@@ -5,11 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
-#include "collect/field_text.h"
-#include "collect/label_ahead.h"
 #include "collect/labelled_fields.h"
-#include "collect/text_search.h"
 #include "collect/tool_text.h"
 #include "fuzz/support/fuzzer.h"
 #include "fuzz/support/require.h"
@@ -114,36 +112,12 @@ void TryCuts(const std::string& text, const std::string& label, const Section& s
     isPart(row.LastColumn());
     isPart(row.NextColumn());
   }
-  Require(FindInLine(text, label) == text.find(label), "a label is found where it stands first", label);
   if (Contains(text, kDeviceNumberLabel)) isPart(CutDeviceName(text));
   if (Contains(text, label)) isPart(CutLogicalDriveNumber(text, label));
-  const std::string joined = Joined(text, " ", label);
+  std::string joined = text;
+  Join(joined, " ", label);
   Require(joined.size() <= text.size() + 1 + label.size(), "joining adds a blank alone", joined);
   LeadingNumber(text);
-}
-
-// A walk over lines knows which have the label, and a field holds all of them one by one and together, as a string
-// does.
-void TryFields(const std::string& text, const std::string& label) {
-  const std::vector<std::string> lines = Lines(text);
-  if (lines.empty()) return;
-  const bool fitsALine = label.find('\n') == label.npos;
-  CollectedData scanner(nullptr, text);
-  LabelAhead ahead(scanner, label);
-  FieldText field;
-  FieldText all;
-  std::string whole;
-  for (std::size_t line = 0; line < std::min<std::size_t>(lines.size(), 100); ++line) {
-    const std::string_view current = line == 0 ? scanner.CurrentLine() : scanner.NextLine();
-    const bool hasLabel = lines[line].find(label) != std::string::npos;
-    Require(!fitsALine || ahead.IsOn(current) == hasLabel, "a walk knows the lines that have the label", current);
-    field = current;
-    Require(field == lines[line], "a field holds what it is given", current);
-    whole += lines[line];
-    Require(all.append(current) == whole, "a field holds what it is given piece by piece", current);
-    all = FieldText(all);
-  }
-  Require(FindInReport(text, label) == text.find(label), "a label is found where it stands first", label);
 }
 
 }  // namespace
@@ -158,6 +132,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string start = input.TextAt(3);
   const std::string end = input.TextAt(4);
   TryCuts(text, label, {start, end});
-  TryFields(text, label);
   return 0;
 }

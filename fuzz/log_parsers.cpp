@@ -66,8 +66,8 @@ std::string From(const std::string& line, const std::string& part) {
 
 // What the first six tokens of a sub-status line give, each searched behind the start of the one before it.
 void RequireTokens(const ZenxSubStatData& record, const std::string& line) {
-  const FieldText* const fields[] = {&record.ControllerNum, &record.Channel, &record.ScsiId,
-                                     &record.Params,        &record.Req_Off, &record.Max_Txer_P};
+  const std::string* const fields[] = {&record.ControllerNum, &record.Channel, &record.ScsiId,
+                                       &record.Params,        &record.Req_Off, &record.Max_Txer_P};
   const char* const tokens[] = {"A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:"};
   std::string rest = line;
   for (std::size_t index = 0; index < std::size(tokens); ++index) {
@@ -89,9 +89,9 @@ void RequireTokens(const ZenxSubStatData& record, const std::string& line) {
 
 // The columns of a row, as many as a device has counters; leading blanks are dropped but for the last character.
 void RequireColumns(const ZenxEventData& record, const std::string& line) {
-  const FieldText* const fields[] = {&record.Channel,       &record.ScsiId,        &record.NumParityErrors,
-                                     &record.NumSoftErrors, &record.NumHardErrors, &record.PFA,
-                                     &record.Misc};
+  const std::string* const fields[] = {&record.Channel,       &record.ScsiId,        &record.NumParityErrors,
+                                       &record.NumSoftErrors, &record.NumHardErrors, &record.PFA,
+                                       &record.Misc};
   const bool areTrimmed[] = {true, true, false, true, false, true, false};
   std::string rest = From(line, "|");
   for (std::size_t index = 0; index < std::size(fields); ++index) {

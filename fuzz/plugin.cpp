@@ -9,6 +9,7 @@
 #include <tuple>
 #include <vector>
 
+#include "collect/ascii_text.h"
 #include "collect/tool_text.h"
 #include "collect/zenx_collect_data.h"
 #include "fuzz/support/fuzzed_machine.h"
@@ -22,7 +23,6 @@
 #include "logs/collect_raid_mgr_data.h"
 #include "plugin/host_interface/services.h"
 #include "plugin/query.h"
-#include "publish/trim.h"
 
 using namespace NKVRHXA20;
 

@@ -43,7 +43,7 @@ std::vector<std::string> ReadAll(std::string_view text) {
     if (read == RaidMgrRead::kOtherLine) continue;
     Require(event.RecordID == std::to_string(counter - 1), "a record has the number of its read",
             std::string(event.RecordID));
-    for (const FieldText& field : {event.Severity, event.MachineName, event.Message}) RequirePart(text, field);
+    for (const std::string& field : {event.Severity, event.MachineName, event.Message}) RequirePart(text, field);
     records.push_back(event.MessageTimestamp.ToString() + event.Severity + event.MachineName + event.Message);
   }
   return records;

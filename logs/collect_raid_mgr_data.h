@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "collect/field_text.h"
 #include "collect/records.h"
 #include "logs/text_file.h"
 #include "platform/os_version.h"
@@ -10,11 +9,11 @@
 
 // One event of the RAID management application's log. Fields are named like the property that they feed.
 struct RaidMgrEvent {
-  FieldText RecordID;
+  std::string RecordID;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
-  FieldText Severity;
-  FieldText MachineName;
-  FieldText Message;  // with the line feed of its line
+  std::string Severity;
+  std::string MachineName;
+  std::string Message;  // with the line feed of its line
 };
 
 // What a read of the log found.

@@ -7,6 +7,7 @@
 #include <limits>
 #include <string>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
 #include "collect/tool_answers.h"
 #include "logs/event_records.h"
@@ -17,7 +18,7 @@ using NKVRHXA20::TCIMDateTime;
 namespace {
 
 // "| 03/15/2005 | 14:02:33 | 1 | 3 | 04 | Drive did not answer"; the text comes last.
-constexpr FieldText ZenxEventDddData::*kDddColumns[] = {
+constexpr std::string ZenxEventDddData::*kDddColumns[] = {
     &ZenxEventDddData::Date, &ZenxEventDddData::Time,   &ZenxEventDddData::Channel,
     &ZenxEventDddData::ID,   &ZenxEventDddData::Reason,
 };

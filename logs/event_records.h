@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "collect/field_text.h"
 #include "collect/host_handle.h"
 #include "plugin/host_interface/date_time.h"
 
@@ -16,14 +15,14 @@ struct ZenxEventDddData {
   virtual ~ZenxEventDddData() = default;
 
   HostHandle Host;
-  FieldText Controller;
-  FieldText Date;
-  FieldText Time;
-  FieldText Channel;
-  FieldText ID;
-  FieldText Reason;
-  FieldText Descrip;
-  FieldText RecordID;
+  std::string Controller;
+  std::string Date;
+  std::string Time;
+  std::string Channel;
+  std::string ID;
+  std::string Reason;
+  std::string Descrip;
+  std::string RecordID;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
 };
 
@@ -33,9 +32,9 @@ struct ZenxEventSoftData {
   virtual ~ZenxEventSoftData() = default;
 
   HostHandle Host;
-  FieldText Controller;
-  FieldText LogTitle;
-  FieldText RecordID;
+  std::string Controller;
+  std::string LogTitle;
+  std::string RecordID;
   std::vector<std::uint32_t> Codes;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
 };
@@ -46,9 +45,9 @@ struct ZenxEventHardData {
   virtual ~ZenxEventHardData() = default;
 
   HostHandle Host;
-  FieldText Controller;
-  FieldText LogTitle;
-  FieldText RecordID;
+  std::string Controller;
+  std::string LogTitle;
+  std::string RecordID;
   std::vector<std::uint32_t> Codes;
   NKVRHXA20::TCIMDateTime MessageTimestamp;
 };

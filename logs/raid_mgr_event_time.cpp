@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <iterator>
 
+#include "collect/ascii_text.h"
 #include "collect/tool_text.h"
 #include "logs/raid_mgr_zones.h"
 

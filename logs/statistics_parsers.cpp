@@ -1,12 +1,9 @@
 #include "logs/statistics_parsers.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 
 #include "collect/collected_data.h"
-#include "collect/each_index.h"
-#include "collect/text_search.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_records.h"
 #include "logs/table_columns.h"
@@ -19,8 +16,8 @@ namespace {
 // The text from there to one character before the line feed that ends the line, which is where the carriage return
 // stands.
 std::string_view UpToCarriageReturn(std::string_view line, std::size_t begin) {
-  const std::size_t end = std::max(line.size() - 1, begin + 1) - 1;
-  return line.substr(begin, end - begin);
+  constexpr std::size_t kLineEnd = 2;
+  return line.substr(begin, std::max(line.size(), begin + kLineEnd) - kLineEnd - begin);
 }
 
 std::string Normalised(std::string_view number) { return std::to_string(LeadingNumber(number)); }
@@ -28,7 +25,7 @@ std::string Normalised(std::string_view number) { return std::to_string(LeadingN
 enum class TrailingBlanks { kKept, kDropped };
 
 struct Column {
-  FieldText ZenxEventData::*field;
+  std::string ZenxEventData::*field;
   TrailingBlanks trailingBlanks;
 };
 
@@ -48,7 +45,7 @@ enum class ValueEnd { kBlank, kLineEnd };
 
 struct Token {
   std::string_view text;
-  FieldText ZenxSubStatData::*field;
+  std::string ZenxSubStatData::*field;
   ValueEnd end;
 };
 
@@ -63,53 +60,10 @@ constexpr Token kTokens[] = {
     {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p,    ValueEnd::kLineEnd},
 };
 
-// So no token can end in the colon of one before it: the first colon behind a value ends the next token, or none.
-static_assert(std::ranges::is_sorted(kTokens, {}, [](const Token& token) { return token.text.size(); }));
-
-// Where the token ends first that begins at a place or behind it; 0 where there is none. Every token ends in its only
-// colon, so what stands before each colon is compared: a search for the first letter would stop at each "A" of
-// "PARAMS".
-std::size_t FindTokenEnd(std::string_view line, std::string_view token, std::size_t from) {
-  for (std::size_t end = from + token.size();; ++end) {
-    end = line.find(':', end - 1) + 1;
-    if (end == 0 || AreSame(line.data() + end - token.size(), token.data(), token.size())) return end;
-  }
-}
-
-bool IsAt(std::string_view line, std::size_t at, std::string_view token) {
-  return at <= line.size() && line.size() - at >= token.size() && AreSame(line.data() + at, token.data(), token.size());
-}
-
-// Every line has an end, so no value runs past it.
-bool EndsValue(char character) { return character == ' ' || character == '\r' || character == '\n'; }
-
-// A line that is read from left to right, and where the next token may stand.
-struct TokenLine {
-  std::string_view text;
-  std::size_t from = 0;      // behind the start of the token before it
-  std::size_t expected = 0;  // where it stands as printed: one blank behind a value without a colon
-
-  // The value behind a token that ends there, and where the next one is expected.
-  std::string_view ValueUpToBlank(std::size_t begin) {
-    std::size_t end = begin;
-    bool hasColon = false;
-    for (; !EndsValue(text[end]); ++end) hasColon = hasColon || text[end] == ':';
-    expected = hasColon ? text.npos : end + 1;
-    return {text.data() + begin, end - begin};
-  }
-};
-
-// Each token has a reader of its own, so that the compiler knows what it compares.
-template <std::size_t kIndex>
-void ReadToken(ZenxSubStatData& record, TokenLine& line) {
-  constexpr Token kToken = kTokens[kIndex];
-  const std::size_t end = IsAt(line.text, line.expected, kToken.text) ? line.expected + kToken.text.size()
-                                                                      : FindTokenEnd(line.text, kToken.text, line.from);
-  if (end == 0) return;
-  line.from = end - kToken.text.size() + 1;
-  const std::string_view value =
-      kToken.end == ValueEnd::kBlank ? line.ValueUpToBlank(end) : UpToCarriageReturn(line.text, end);
-  record.*kToken.field = value;
+// The value that begins there.
+std::string_view CutValue(std::string_view line, std::size_t begin, ValueEnd end) {
+  if (end == ValueEnd::kLineEnd) return UpToCarriageReturn(line, begin);
+  return line.substr(begin, line.find_first_of(" \r\n", begin) - begin);
 }
 
 }  // namespace
@@ -129,21 +83,23 @@ void ParseBadStripe(ZenxBstData& record, const CollectedData& text, std::string_
 void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::string_view controllerNumber) {
   record.ControllerNum = controllerNumber;
   TableRow row(text.CurrentLine());
-  ForEachIndex<std::size(kColumns)>([&](auto index) {
-    constexpr Column kColumn = kColumns[index];
+  for (const auto& [field, trailingBlanks] : kColumns) {
     const std::string_view cut = row.NextColumn();
-    record.*kColumn.field = kColumn.trailingBlanks == TrailingBlanks::kKept ? cut : CollectedData::TrimRight(cut);
-  });
+    record.*field = trailingBlanks == TrailingBlanks::kKept ? cut : CollectedData::TrimRight(cut);
+  }
   record.StatisticTime = TOSSpecific::GetLocalTime();
 }
 
-// As printed, "A:1 C:2", a token stands one blank behind the value before it, and is the first there if the value has
-// no colon. Otherwise each is looked for behind the start of the one before it; a token that is not there costs
-// nothing.
+// Each token is looked for after the start of the one before it; one that is missing costs nothing.
 void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::string_view) {
-  TokenLine line = {text.CurrentLine()};
-  ForEachIndex<std::size(kTokens)>([&](auto index) { ReadToken<index>(record, line); });
-  record.InstanceID = "Zentraxis:";
-  record.InstanceID.append(record.ControllerNum).append("C").append(record.Channel).append("S").append(record.ScsiId);
+  const std::string_view line = text.CurrentLine();
+  std::size_t from = 0;
+  for (const auto& [token, field, end] : kTokens) {
+    const std::size_t at = line.find(token, from);
+    if (at == line.npos) continue;
+    record.*field = CutValue(line, at + token.size(), end);
+    from = at + 1;
+  }
+  record.InstanceID = "Zentraxis:" + record.ControllerNum + "C" + record.Channel + "S" + record.ScsiId;
   record.StatisticTime = TOSSpecific::GetLocalTime();
 }

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "collect/field_text.h"
 #include "collect/host_handle.h"
 #include "plugin/host_interface/date_time.h"
 
@@ -14,9 +13,9 @@ struct ZenxBstData {
   virtual ~ZenxBstData() = default;
 
   HostHandle Host;
-  FieldText ControllerNum;
-  FieldText LogicalDrive;
-  FieldText NumBadStripes;
+  std::string ControllerNum;
+  std::string LogicalDrive;
+  std::string NumBadStripes;
 };
 
 // One row of the device event table.
@@ -25,14 +24,14 @@ struct ZenxEventData {
   virtual ~ZenxEventData() = default;
 
   HostHandle Host;
-  FieldText ControllerNum;
-  FieldText Channel;
-  FieldText ScsiId;
-  FieldText NumParityErrors;
-  FieldText NumSoftErrors;
-  FieldText NumHardErrors;
-  FieldText PFA;
-  FieldText Misc;
+  std::string ControllerNum;
+  std::string Channel;
+  std::string ScsiId;
+  std::string NumParityErrors;
+  std::string NumSoftErrors;
+  std::string NumHardErrors;
+  std::string PFA;
+  std::string Misc;
   NKVRHXA20::TCIMDateTime StatisticTime;  // local time at which the row was read
 };
 
@@ -42,13 +41,13 @@ struct ZenxSubStatData {
   virtual ~ZenxSubStatData() = default;
 
   HostHandle Host;
-  FieldText ControllerNum;  // as the tool prints it: its own number, not the continued one
-  FieldText Channel;
-  FieldText ScsiId;
-  FieldText InstanceID;
-  FieldText Params;
-  FieldText Req_Off;
-  FieldText Max_Txer_P;
-  FieldText Cur_Txer_p;
+  std::string ControllerNum;  // as the tool prints it: its own number, not the continued one
+  std::string Channel;
+  std::string ScsiId;
+  std::string InstanceID;
+  std::string Params;
+  std::string Req_Off;
+  std::string Max_Txer_P;
+  std::string Cur_Txer_p;
   NKVRHXA20::TCIMDateTime StatisticTime;  // local time at which the line was read
 };

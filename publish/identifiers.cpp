@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <initializer_list>
 
+#include "collect/ascii_text.h"
 #include "collect/tool_text.h"
-#include "publish/trim.h"
 
 namespace {
 

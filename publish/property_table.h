@@ -7,15 +7,14 @@
 #include <type_traits>
 #include <variant>
 
-#include "collect/field_text.h"
+#include "collect/ascii_text.h"
 #include "plugin/host_interface/cim.h"
-#include "publish/trim.h"
 
 // Where a property comes from: a fixed text or number, a field of one of the records, a function of all of them, or a
 // function of none (the machine's name).
 template <class... Records>
 using PropertySource =
-    std::variant<const char*, unsigned short, FieldText Records::*..., NKVRHXA20::TCIMDateTime Records::*...,
+    std::variant<const char*, unsigned short, std::string Records::*..., NKVRHXA20::TCIMDateTime Records::*...,
                  std::string (*)(const Records&...), NKVRHXA20::TCIMValue (*)(const Records&...), std::string (*)()>;
 
 // One row of a table that describes a published class, in the order in which properties are set. The records are what
@@ -41,7 +40,7 @@ struct PropertyReader {
   NKVRHXA20::TCIMValue operator()(const char* text) const { return text; }
   NKVRHXA20::TCIMValue operator()(unsigned short number) const { return number; }
   template <class Record>
-  NKVRHXA20::TCIMValue operator()(FieldText Record::*field) const {
+  NKVRHXA20::TCIMValue operator()(std::string Record::*field) const {
     return std::string(form(std::get<const Record&>(records).*field));
   }
   template <class Record>

@@ -4,10 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "collect/collected_data.h"
+#include "collect/ascii_text.h"
 #include "publish/identifiers.h"
 #include "publish/instance_index.h"
-#include "publish/trim.h"
 
 using namespace NKVRHXA20;
 

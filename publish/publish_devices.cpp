@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "collect/collected_data.h"
+#include "collect/ascii_text.h"
 #include "plugin/host_interface/services.h"
 #include "publish/identifiers.h"
 #include "publish/property_table.h"

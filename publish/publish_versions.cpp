@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "collect/collected_data.h"
+#include "collect/ascii_text.h"
 #include "publish/identifiers.h"
 #include "publish/property_table.h"
 #include "publish/version_split.h"
@@ -13,11 +13,11 @@ namespace {
 
 // One piece of software, as it is published.
 struct SoftwareVersion {
-  FieldText Name;
-  FieldText Version;
-  FieldText BuildNumber;
-  FieldText SoftwareElementID;
-  FieldText Manufacturer;
+  std::string Name;
+  std::string Version;
+  std::string BuildNumber;
+  std::string SoftwareElementID;
+  std::string Manufacturer;
 };
 
 constexpr unsigned short kStateRunning = 3;
@@ -51,12 +51,13 @@ constexpr DriveKind kDriveKinds[] = {
 
 // The text is published whole, with the build also by itself.
 void PublishControllerVersions(const PublishContext& context, ICIMClass& publishedClass,
-                               FieldText ZenxController::*text, std::string (*name)(std::string_view)) {
+                               std::string ZenxController::*text, std::string (*name)(std::string_view)) {
   for (const auto& controller : context.collector.GetControllers()) {
     const std::string_view version = Trimmed((*controller).*text);
     if (version.empty()) continue;
     const std::string_view number = Trimmed(controller->ControllerNum);
-    const SoftwareVersion software{name(number), version, SplitVersion(version).build, number, ""};
+    const SoftwareVersion software{name(number), std::string(version), std::string(SplitVersion(version).build),
+                                   std::string(number), ""};
     PublishAsHeld(publishedClass, kVersionProperties, software);
   }
 }
@@ -64,8 +65,9 @@ void PublishControllerVersions(const PublishContext& context, ICIMClass& publish
 // A drive's version is published without its build.
 SoftwareVersion FirmwareOf(const ZenxController& controller, const ZenxPhysicalDevice& drive, const char* name) {
   const auto [version, build] = SplitVersion(Trimmed(drive.Firmware));
-  return {name, version, build, DriveSoftwareId(Trimmed(controller.ControllerNum), DiskDriveId(controller, drive)),
-          Trimmed(drive.Vendor)};
+  return {name, std::string(version), std::string(build),
+          DriveSoftwareId(Trimmed(controller.ControllerNum), DiskDriveId(controller, drive)),
+          std::string(Trimmed(drive.Vendor))};
 }
 
 void PublishDriveVersion(ICIMClass& publishedClass, const ZenxController& controller, const ZenxPhysicalDevice& drive) {

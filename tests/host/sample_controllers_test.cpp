@@ -23,7 +23,7 @@ std::string Trimmed(const std::string& text) {
 
 // One line a record: the fields, trimmed, with bars between.
 template <class Record>
-Lines Table(const std::vector<std::shared_ptr<Record>>& records, const std::vector<FieldText Record::*>& fields) {
+Lines Table(const std::vector<std::shared_ptr<Record>>& records, const std::vector<std::string Record::*>& fields) {
   Lines lines;
   for (const auto& record : records) {
     std::string line;

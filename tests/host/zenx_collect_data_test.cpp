@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
 #include "plugin/host_interface/services.h"
 #include "tests/support/scripted_services.h"

@@ -8,7 +8,7 @@
 template <class Record>
 struct NamedField {
   const char* name;
-  FieldText Record::*field;
+  std::string Record::*field;
 };
 
 // A field's own name, in the blanks and line ends that tools put around a value.

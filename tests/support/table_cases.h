@@ -7,7 +7,7 @@
 // What a test of a table holds it against: the labels of a block in the order of the tool and the field that each
 // feeds, written out in the test.
 template <class Record>
-using FieldCases = std::vector<std::pair<std::string, FieldText Record::*>>;
+using FieldCases = std::vector<std::pair<std::string, std::string Record::*>>;
 
 // "   Label : v<n>" for each label, n being its position.
 template <class Record>

@@ -93,7 +93,7 @@ std::set<std::string> Parsed(const std::string& text) {
   return FilledFields(controller);
 }
 
-std::string Field(FieldText ZenxController::*field, const std::string& text) {
+std::string Field(std::string ZenxController::*field, const std::string& text) {
   ZenxController controller(nullptr);
   arcconf::ParseController(controller, CrLf(text), 1);
   return controller.*field;

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
 #include "logs/event_records.h"
 #include "plugin/host_interface/exception.h"

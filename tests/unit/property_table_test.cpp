@@ -10,11 +10,11 @@ using NKVRHXA20::TCIMDateTime;
 using NKVRHXA20::TCIMValue;
 
 struct Owner {
-  FieldText Name;
+  std::string Name;
 };
 
 struct Part {
-  FieldText Name;
+  std::string Name;
   TCIMDateTime Time;
 };
 

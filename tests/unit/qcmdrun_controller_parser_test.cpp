@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
 #include "collect/records.h"
 #include "tests/support/sample_text.h"

@@ -8,7 +8,7 @@ namespace {
 
 TEST(StripeOrder, PutsOneBlankBetweenALineAndTheNext) {
   CollectedData text(nullptr, "head\r\n \t 0,2 0,3 \r\n");
-  FieldText list = " 0,0 0,1 \t\r\n";
+  std::string list = " 0,0 0,1 \t\r\n";
   EXPECT_TRUE(ContinueList(text, list));
   EXPECT_EQ(list, " 0,0 0,1 0,2 0,3 \r\n");
   EXPECT_EQ(text.CurrentLine(), " \t 0,2 0,3 \r\n");
@@ -17,7 +17,7 @@ TEST(StripeOrder, PutsOneBlankBetweenALineAndTheNext) {
 TEST(StripeOrder, LeavesALineThatBeginsWithNoDigit) {
   for (const char* const line : {"Logical drive number 2\r\n", "\r\n", "   \r\n", " :0,1\r\n", "\n"}) {
     CollectedData text(nullptr, std::string("head\r\n") + line);
-    FieldText list = " 0,0\r\n";
+    std::string list = " 0,0\r\n";
     EXPECT_FALSE(ContinueList(text, list)) << line;
     EXPECT_EQ(list, " 0,0\r\n") << line;
     EXPECT_EQ(text.CurrentLine(), "head\r\n") << line;
@@ -26,7 +26,7 @@ TEST(StripeOrder, LeavesALineThatBeginsWithNoDigit) {
 
 TEST(StripeOrder, FailsWhereTheTextHasNoFurtherLine) {
   CollectedData text(nullptr, "head\r\n");
-  FieldText list = " 0,0\r\n";
+  std::string list = " 0,0\r\n";
   EXPECT_THROW(ContinueList(text, list), std::out_of_range);
   EXPECT_EQ(list, " 0,0\r\n");
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -76,53 +75,6 @@ TEST(TableColumns, CutsTheLastColumnUpToTheLineFeed) {
   };
   for (const Case& columnCase : cases) {
     EXPECT_EQ(LastColumn(columnCase.line, columnCase.column), columnCase.expected) << columnCase.name;
-  }
-}
-
-// Every row of a few characters, beside the bars and the trimming as the simplest code has them.
-TEST(TableColumns, AreThoseBetweenTheBarsInEveryShortRow) {
-  constexpr std::string_view kCharacters = "| \n1";
-  constexpr int kLength = 7;
-  const auto trimmed = [](std::string text) {
-    while (text.size() > 1 && (text.front() == ' ' || text.front() == '\n')) text.erase(0, 1);
-    return text;
-  };
-  for (std::size_t number = 0; number < 4 * 4 * 4 * 4 * 4 * 4 * 4; ++number) {
-    std::string line;
-    for (std::size_t rest = number; line.size() < kLength; rest /= 4) line += kCharacters[rest % 4];
-    TableRow row(line);
-    std::size_t bar = line.find('|');
-    for (int column = 1; column < 4; ++column) {
-      const std::size_t lineFeed = line.find('\n', bar == line.npos ? line.size() : bar);
-      ASSERT_EQ(row.LastColumn(), lineFeed == line.npos ? "" : trimmed(line.substr(bar + 1, lineFeed - bar - 1)))
-          << line << " column " << column;
-      const std::size_t next = bar == line.npos ? bar : line.find('|', bar + 1);
-      const bool isEmpty = next == line.npos || next == bar + 1;
-      ASSERT_EQ(row.NextColumn(), isEmpty ? "" : trimmed(line.substr(bar + 1, next - bar - 2)))
-          << line << " column " << column;
-      bar = next;
-    }
-  }
-}
-
-// Rows as wide as those that are printed, of blanks for the most part.
-TEST(TableColumns, AreThoseBetweenTheBarsInEveryWideRow) {
-  const std::vector<std::string> pieces = {"        ", "    ", "  ", " ",  "|",    " | ",  "| ", "0",
-                                           "|",        "1512", "\t", "\n", "\r\n", "\xa0", "-",  std::string(1, '\0')};
-  std::mt19937 random(5);
-  for (int round = 0; round < 20'000; ++round) {
-    std::string line;
-    for (std::size_t left = random() % 40; left > 0; --left) line += pieces[random() % pieces.size()];
-    TableRow row(line);
-    std::size_t bar = line.find('|');
-    for (int column = 1; column < 9; ++column) {
-      const std::size_t next = bar == line.npos ? bar : line.find('|', bar + 1);
-      const bool isEmpty = next == line.npos || next == bar + 1;
-      std::string expected = isEmpty ? "" : line.substr(bar + 1, next - bar - 2);
-      while (expected.size() > 1 && std::string_view(" \t\n").find(expected[0]) != line.npos) expected.erase(0, 1);
-      ASSERT_EQ(row.NextColumn(), expected) << line << " column " << column;
-      bar = next;
-    }
   }
 }
 

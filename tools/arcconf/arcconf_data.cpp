@@ -2,10 +2,9 @@
 
 #include <utility>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
-#include "collect/record_blocks.h"
-#include "collect/text_search.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
 #include "tools/arcconf/controller_parser.h"
@@ -44,10 +43,9 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Logical drive information").empty()) return;
   text.NextLine();
   text.NextLine();
-  RecordBlocks<ZenxLogicalDevice> drives(controller.Host);
   while (Contains(text.CurrentLine(), kLogicalDriveHead)) {
     const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDriveHead);
-    const auto drive = drives.Make();
+    const auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
     controller.LogicalDevices.push_back(drive);
     arcconf::ParseLogicalDrive(*drive, text, controller.ControllerNum, driveNumber);
     const std::string_view line = text.NextLine();
@@ -60,8 +58,8 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   }
 }
 
-void ReadPhysicalDevice(ZenxController& controller, RecordBlocks<ZenxPhysicalDevice>& devices, CollectedData& text) {
-  const auto device = devices.Make();
+void ReadPhysicalDevice(ZenxController& controller, CollectedData& text) {
+  const auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
   controller.PhysicalDevices.push_back(device);
   // Devices say where they are, so their channel is not given.
   arcconf::ParsePhysicalDevice(*device, text, controller.ControllerNum, "", CutDeviceName(text.CurrentLine()));
@@ -76,12 +74,11 @@ void ReadPhysicalDevices(ZenxController& controller, CollectedData& text) {
     text.NextLine();
     text.NextLine();
   }
-  RecordBlocks<ZenxPhysicalDevice> devices(controller.Host);
   while (!Contains(text.CurrentLine(), kCommandCompleted)) {
     const bool speaksOfDevice = Contains(text.CurrentLine(), "Device");
     if (!Contains(text.CurrentLine(), kDeviceNumberLabel)) text.NextLine();
     while (Contains(text.CurrentLine(), kDeviceNumberLabel)) {
-      if (speaksOfDevice) ReadPhysicalDevice(controller, devices, text);
+      if (speaksOfDevice) ReadPhysicalDevice(controller, text);
       text.NextLine();
     }
   }
@@ -97,8 +94,8 @@ void ArcconfData::Collect(unsigned firstControllerNumber) {
 void ArcconfData::RecordOutputs() {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     const std::string config = RunTool(kArcconf, host_, kGetConfig, number);
-    if (ReportContains(config, kNoControllers)) return;
-    if (ReportContains(config, kInvalidController)) continue;
+    if (Contains(config, kNoControllers)) return;
+    if (Contains(config, kInvalidController)) continue;
     for (const ToolCommand& command : kRecorded) RecordOutput(command, number);
   }
 }
@@ -113,9 +110,9 @@ void ArcconfData::RecordOutput(const ToolCommand& command, unsigned controllerNu
 void ArcconfData::ParseControllers(unsigned firstControllerNumber) {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     std::string config = RunTool(kArcconf, host_, kGetConfig, number);
-    if (ReportContains(config, kNoControllers)) return;
-    if (ReportContains(config, kDriverMismatch)) return arcconf::LogDriverMismatch(host_);
-    if (ReportContains(config, kInvalidController) || config.empty()) continue;
+    if (Contains(config, kNoControllers)) return;
+    if (Contains(config, kDriverMismatch)) return arcconf::LogDriverMismatch(host_);
+    if (Contains(config, kInvalidController) || config.empty()) continue;
     ParseConfig(std::move(config), firstControllerNumber + number);
   }
 }

@@ -1,8 +1,8 @@
 #include "tools/arcconf/controller_parser.h"
 
+#include "collect/ascii_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/model_table.h"
-#include "collect/text_search.h"
 
 namespace arcconf {
 namespace {
@@ -28,7 +28,7 @@ constexpr Section kBattery = {"Controller Battery Information", "Controller Vita
 
 struct SectionField {
   std::string_view label;
-  FieldText ZenxController::*field;
+  std::string ZenxController::*field;
   Section section;
 };
 
@@ -69,7 +69,7 @@ std::string_view ControllerType(std::string_view config) {
 
 void ParseController(ZenxController& controller, std::string_view config, unsigned controllerNumber) {
   controller.ControllerNum = std::to_string(controllerNumber);
-  if (!ReportContains(config, "Controller information")) return;
+  if (!Contains(config, "Controller information")) return;
   controller.ControllerType = ControllerType(config);
   for (const auto& [label, field, section] : kFields) controller.*field = GetSectionValue(label, config, section);
   controller.Parsed = true;

@@ -32,7 +32,7 @@ void ParseLogicalDrive(ZenxLogicalDevice& drive, CollectedData& text, std::strin
                        std::string_view driveNumber) {
   drive.ControllerNum = controllerNumber;
   drive.LogicalDriveNum = driveNumber;
-  UntilEndOfText([&] { ReadInOrder<kLogicalDrive>(text, drive); });
+  UntilEndOfText([&] { ReadInOrder(text, drive, kLogicalDrive); });
 }
 
 }  // namespace arcconf

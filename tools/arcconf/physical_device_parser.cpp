@@ -1,5 +1,6 @@
 #include "tools/arcconf/physical_device_parser.h"
 
+#include "collect/ascii_text.h"
 #include "collect/end_of_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/tool_text.h"
@@ -54,26 +55,26 @@ constexpr LabelledField<Device> kHardDrive[] = {
     {"PFA",                &Device::PFA             },
 };
 
-void ReadUnknown(Device& device, CollectedData& text) { ReadInOrder<kUnknown>(text, device); }
+void ReadUnknown(Device& device, CollectedData& text) { ReadInOrder(text, device, kUnknown); }
 
 void ReadEnclosure(Device& device, CollectedData& text) {
-  ReadInOrder<kEnclosure>(text, device);
+  ReadInOrder(text, device, kEnclosure);
   // Heads the readings of the enclosure's sensors; it has no value of its own.
   if (!Contains(text.NextLine(), "Status of Enclosure services device")) text.StepBack();
-  ReadInOrder<kEnclosureStatus>(text, device);
+  ReadInOrder(text, device, kEnclosureStatus);
 }
 
 // "State : Hot Spare" and below it "Assigned Spare for : Logical drive 1" are one state.
 void ReadAssignedSpare(Device& device, CollectedData& text) {
   const std::string_view spareFor = text.NextLineValueIf("Assigned Spare for");
   if (spareFor.empty()) return text.StepBack();
-  device.State = Joined(device.State, " for ", spareFor);
+  Join(device.State, " for ", spareFor);
 }
 
 void ReadHardDrive(Device& device, CollectedData& text) {
-  ReadInOrder<kHardDriveState>(text, device);
+  ReadInOrder(text, device, kHardDriveState);
   ReadAssignedSpare(device, text);
-  ReadInOrder<kHardDrive>(text, device);
+  ReadInOrder(text, device, kHardDrive);
 }
 
 // "0,3": channel 0, device 3.

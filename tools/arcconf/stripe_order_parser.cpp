@@ -1,5 +1,6 @@
 #include "tools/arcconf/stripe_order_parser.h"
 
+#include "collect/ascii_text.h"
 #include "collect/end_of_text.h"
 #include "collect/stripe_order.h"
 

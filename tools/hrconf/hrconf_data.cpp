@@ -3,10 +3,9 @@
 #include <span>
 #include <utility>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
 #include "collect/end_of_text.h"
-#include "collect/record_blocks.h"
-#include "collect/text_search.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
 #include "tools/hrconf/controller_parser.h"
@@ -53,10 +52,9 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Logical drive information").empty()) return;
   text.NextLine();
   text.NextLine();
-  RecordBlocks<ZenxLogicalDevice> drives(controller.Host);
   while (Contains(text.CurrentLine(), kLogicalDriveHead)) {
     const std::string_view driveNumber = CutLogicalDriveNumber(text.CurrentLine(), kLogicalDriveHead);
-    const auto drive = drives.Make();
+    const auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
     controller.LogicalDevices.push_back(drive);
     hrconf::ParseLogicalDrive(*drive, text, controller.ControllerNum, driveNumber);
     if (Contains(text.NextLine(), "size")) text.NextLine();
@@ -65,11 +63,10 @@ void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   }
 }
 
-void ReadPhysicalDevice(ZenxController& controller, RecordBlocks<ZenxPhysicalDevice>& devices, CollectedData& text,
-                        std::string_view channel) {
+void ReadPhysicalDevice(ZenxController& controller, CollectedData& text, std::string_view channel) {
   const std::string_view line = text.CurrentLine();
   const std::size_t number = line.find(kDeviceNumberLabel) + kDeviceNumberLabel.size();
-  const auto device = devices.Make();
+  const auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
   controller.PhysicalDevices.push_back(device);
   hrconf::ParsePhysicalDevice(*device, text, controller.ControllerNum, channel, CutDeviceName(line));
   device->DeviceNumber = line.substr(number);
@@ -95,10 +92,9 @@ void ReadPhysicalDevices(ZenxController& controller, CollectedData& text) {
   text.NextLine();
   const bool hasChannels = Contains(text.NextLine(), "Channel");
   std::string_view channel = hasChannels ? "" : "0";
-  RecordBlocks<ZenxPhysicalDevice> devices(controller.Host);
   while (!Contains(text.CurrentLine(), kCommandCompleted)) {
     if (Contains(text.CurrentLine(), kDeviceNumberLabel)) {
-      ReadPhysicalDevice(controller, devices, text, channel);
+      ReadPhysicalDevice(controller, text, channel);
     } else if (hasChannels) {
       TakeChannel(text.CurrentLine(), channel);
     }
@@ -117,8 +113,8 @@ void HrconfData::RecordOutputs() {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     const bool isOsVersion60 = hrconf::IsOsVersion60(host_, getOsVersion_);
     const std::string config = RunTool(kHrconf, host_, kGetConfig, number);
-    if (ReportContains(config, kNoControllers)) return;
-    if (ReportContains(config, kInvalidController)) continue;
+    if (Contains(config, kNoControllers)) return;
+    if (Contains(config, kInvalidController)) continue;
     const std::span<const ToolCommand> all = kRecorded;
     for (const ToolCommand& command : isOsVersion60 ? all.first(kRecordedOnOsVersion60) : all) {
       RecordOutput(command, number);
@@ -136,8 +132,8 @@ void HrconfData::ParseControllers(unsigned firstControllerNumber) {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     std::string config = RunTool(kHrconf, host_, kGetConfig, number);
     Log(host_, kLogRoutine, "HRCONFDATA-Getconfig " + std::to_string(number) + " al:\n" + config);
-    if (ReportContains(config, kNoControllers)) return;
-    if (ReportContains(config, kInvalidController) || config.empty()) continue;
+    if (Contains(config, kNoControllers)) return;
+    if (Contains(config, kInvalidController) || config.empty()) continue;
     ParseConfig(std::move(config), number, firstControllerNumber + number);
   }
 }

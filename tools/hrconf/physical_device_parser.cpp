@@ -1,5 +1,6 @@
 #include "tools/hrconf/physical_device_parser.h"
 
+#include "collect/ascii_text.h"
 #include "collect/end_of_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/tool_text.h"
@@ -45,20 +46,20 @@ constexpr LabelledField<Device> kHardDrive[] = {
 
 struct Branch {
   std::string_view type;
-  void (*read)(CollectedData& text, Device& device);
+  LabelTable<Device> lines;
 };
 
 // The first whose type is in the device's counts. Of other devices the type is all that is taken.
 constexpr Branch kBranches[] = {
-    {"Unknown",    ReadInOrder<kUnknown>  },
-    {"Enclosure",  ReadInOrder<kEnclosure>},
-    {"Hard drive", ReadInOrder<kHardDrive>},
+    {"Unknown",    kUnknown  },
+    {"Enclosure",  kEnclosure},
+    {"Hard drive", kHardDrive},
 };
 
 void ReadDevice(Device& device, CollectedData& text) {
   device.DeviceType = CutDeviceType(text.NextLine());
-  for (const auto& [type, read] : kBranches) {
-    if (Contains(device.DeviceType, type)) return read(text, device);
+  for (const auto& [type, lines] : kBranches) {
+    if (Contains(device.DeviceType, type)) return ReadInOrder(text, device, lines);
   }
 }
 

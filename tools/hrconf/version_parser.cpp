@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "collect/ascii_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/tool_answers.h"
 #include "plugin/host_interface/exception.h"
@@ -19,7 +20,7 @@ void ReadVersions(ZenxHrConfBios& versions, CollectedData& text) {
   if (Contains(text.CurrentLine(), kNoControllers)) return;
   constexpr int kLinesOfHead = 3;
   for (int line = 0; line < kLinesOfHead; ++line) text.NextLine();
-  ReadInOrder<kVersions>(text, versions);
+  ReadInOrder(text, versions, kVersions);
 }
 
 void LogBadData(HostHandle host, const std::exception& failure) {

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
-#include "collect/record_blocks.h"
 #include "collect/records.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
@@ -28,10 +28,9 @@ std::string CutChannel(std::string_view line) {
   return std::string(colon == line.npos ? std::string_view() : line.substr(begin, colon - begin));
 }
 
-void AttachDevicesOfTargetLines(ZenxController& controller, RecordBlocks<ZenxPhysicalDevice>& devices,
-                                CollectedData& text, const std::string& channel) {
+void AttachDevicesOfTargetLines(ZenxController& controller, CollectedData& text, const std::string& channel) {
   for (; Contains(text.CurrentLine(), "Target"); text.NextLine()) {
-    auto device = devices.Make();
+    auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
     ParsePhysicalDevice(*device, text, controller.ControllerNum, channel);
     controller.PhysicalDevices.push_back(std::move(device));
   }
@@ -47,11 +46,10 @@ void AttachLogicalDrives(ZenxController& controller, CollectedData& text) {
   StepOverRule(text);
   // A line without the blank behind the label gives no number of its own.
   std::string number;
-  RecordBlocks<ZenxLogicalDevice> drives(controller.Host);
   for (; Contains(text.CurrentLine(), "Logical drive number"); text.NextLine()) {
     const std::string_view line = text.CurrentLine();
     if (Contains(line, kLabelAndBlank)) number = CutLogicalDriveNumber(line, kLabelAndBlank);
-    auto drive = drives.Make();
+    auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
     ParseLogicalDrive(*drive, text, number, controller.ControllerNum);
     controller.LogicalDevices.push_back(std::move(drive));
   }
@@ -60,10 +58,9 @@ void AttachLogicalDrives(ZenxController& controller, CollectedData& text) {
 void AttachStripeOrders(ZenxController& controller, CollectedData& text) {
   Log(controller.Host, kLogRoutine, "Parse For  QCMDRUN Stripe Order\n");
   if (text.FindLine(kStripeOrderLabel).empty()) return;
-  RecordBlocks<ArrayStripeOrder> orders(controller.Host);
   for (; Contains(text.CurrentLine(), kStripeOrderLabel); text.NextLine()) {
     Log(controller.Host, kLogRoutine, "Found QCMDRUN Stripe Order Data\n");
-    auto order = orders.Make();
+    auto order = std::make_shared<ArrayStripeOrder>(controller.Host);
     ParseStripeOrder(*order, text, controller.ControllerNum);
     controller.StripeOrders.push_back(std::move(order));
   }
@@ -76,7 +73,6 @@ bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Physical device information").empty()) return false;
   StepOverRule(text);
   std::string channel;
-  RecordBlocks<ZenxPhysicalDevice> devices(controller.Host);
   while (!Contains(text.CurrentLine(), kCommandCompleted)) {
     const std::string_view line = text.CurrentLine();
     if (Contains(line, "#")) {
@@ -85,7 +81,7 @@ bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text) {
     } else if (!Contains(line, "Target")) {
       text.NextLine();
     }
-    AttachDevicesOfTargetLines(controller, devices, text, channel);
+    AttachDevicesOfTargetLines(controller, text, channel);
   }
   return true;
 }

@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "collect/ascii_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/model_table.h"
 #include "collect/records.h"
-#include "collect/text_search.h"
 
 namespace qcmdrun {
 
@@ -57,7 +57,7 @@ constexpr ModelName kModels[] = {
 
 void ParseController(ZenxController& controller, std::string_view text, unsigned number) {
   controller.ControllerNum = std::to_string(number);
-  if (!ReportContains(text, "Controller information")) return;
+  if (!Contains(text, "Controller information")) return;
   for (const auto& row : kController) controller.*row.field = GetSectionValue(row.label, text);
   controller.ControllerType = std::string(NameOfModel(controller.ControllerType, kModels));
   controller.Parsed = true;

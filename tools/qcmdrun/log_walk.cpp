@@ -1,8 +1,7 @@
 #include "tools/qcmdrun/log_walk.h"
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
-#include "collect/label_ahead.h"
-#include "collect/record_blocks.h"
 #include "collect/records.h"
 #include "collect/tool_answers.h"
 #include "logs/event_parsers.h"
@@ -38,15 +37,12 @@ void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Device event table:").empty()) return;
   constexpr int kLinesToFirstRow = 3;
   for (int line = 0; line < kLinesToFirstRow; ++line) text.NextLine();
-  RecordBlocks<ZenxEventData> rows(controller.Host);
-  LabelAhead end(text, kCommandCompleted);
-  LabelAhead nextController(text, "Controller ");  // the utility may print several tables
-  LabelAhead rule(text, kRule);
   for (;; text.NextLine()) {
     const std::string_view line = text.CurrentLine();
-    if (end.IsOn(line) || nextController.IsOn(line)) return;
-    if (rule.IsOn(line)) continue;
-    auto record = rows.Make();
+    // The utility may print several tables.
+    if (Contains(line, kCommandCompleted) || Contains(line, "Controller ")) return;
+    if (Contains(line, kRule)) continue;
+    auto record = std::make_shared<ZenxEventData>(controller.Host);
     ParseDeviceEvent(*record, text, controller.ControllerNum);
     controller.DeviceEvents.push_back(std::move(record));
   }
@@ -84,9 +80,8 @@ void SetHardEvents(ZenxController& controller, CollectedData& text) {
 
 void AttachSubStats(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("A:").empty()) return;
-  RecordBlocks<ZenxSubStatData> lines(controller.Host);
-  for (LabelAhead end(text, kCommandCompleted); !end.IsOn(text.CurrentLine()); text.NextLine()) {
-    auto record = lines.Make();
+  for (; !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
+    auto record = std::make_shared<ZenxSubStatData>(controller.Host);
     ParseSubStat(*record, text, controller.ControllerNum);
     controller.SubStats.push_back(std::move(record));
   }

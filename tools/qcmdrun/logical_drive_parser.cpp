@@ -28,7 +28,7 @@ void ParseLogicalDrive(ZenxLogicalDevice& drive, CollectedData& text, std::strin
                        std::string_view controllerNumber) {
   drive.LogicalDriveNum = driveNumber;
   drive.ControllerNum = controllerNumber;
-  ReadInOrder<kLogicalDrive>(text, drive);
+  ReadInOrder(text, drive, kLogicalDrive);
 }
 
 }  // namespace qcmdrun

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "collect/ascii_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/records.h"
 
@@ -27,7 +28,7 @@ constexpr LabelledField<ZenxPhysicalDevice> kReplacementPart[] = {
 struct Piece {
   std::size_t offset;
   std::size_t length;
-  FieldText ZenxPhysicalDevice::*field;
+  std::string ZenxPhysicalDevice::*field;
 };
 
 constexpr Piece kModel = {0, 16, &ZenxPhysicalDevice::Model};
@@ -69,7 +70,7 @@ void CutTape(ZenxPhysicalDevice& device) {
 // "     Device is a Hard disk": what follows the label, line end included.
 std::string_view CutType(std::string_view line) {
   constexpr std::string_view kLabel = "Device is a";
-  const std::size_t label = FindInLine(line, kLabel);
+  const std::size_t label = line.find(kLabel);
   return label == line.npos ? std::string_view() : line.substr(label + kLabel.size());
 }
 
@@ -80,10 +81,10 @@ void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::s
   device.ControllerNum = controllerNumber;
   device.Channel = channel;
   device.DeviceType = CutType(text.NextLine());
-  ReadInOrder<kDevice>(text, device);
+  ReadInOrder(text, device, kDevice);
   if (Contains(device.DeviceType, "Tape")) CutTape(device);
   if (Contains(device.DeviceType, "Hard disk")) CutHardDisk(device);
-  ReadInOrder<kReplacementPart>(text, device);
+  ReadInOrder(text, device, kReplacementPart);
 }
 
 }  // namespace qcmdrun

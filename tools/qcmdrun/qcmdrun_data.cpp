@@ -3,8 +3,8 @@
 #include <string>
 #include <utility>
 
+#include "collect/ascii_text.h"
 #include "collect/collected_data.h"
-#include "collect/text_search.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_runner.h"
 #include "collect/tool_text.h"
@@ -80,8 +80,8 @@ void QcmdrunData::Collect(unsigned firstControllerNumber) {
 void QcmdrunData::RecordAnswers() {
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
     const std::string configuration = RunTool(kTool, host_, kGetConfig, number);
-    if (ReportContains(configuration, kNoneFound)) return;
-    if (ReportContains(configuration, kAborted)) continue;
+    if (Contains(configuration, kNoneFound)) return;
+    if (Contains(configuration, kAborted)) continue;
     for (const ToolCommand& command : kRecorded) {
       const std::string output = RunTool(kTool, host_, command, number);
       if (output.empty()) continue;
@@ -94,8 +94,8 @@ void QcmdrunData::RecordAnswers() {
 QcmdrunData::Next QcmdrunData::CollectController(unsigned utilityNumber, unsigned firstControllerNumber) {
   Log(host_, kLogRoutine, "Looking for QCMRUN controller");
   std::string configuration = RunTool(kTool, host_, kGetConfig, utilityNumber);
-  if (ReportContains(configuration, kNoneFound)) return Next::kStop;
-  if (ReportContains(configuration, kAborted) || configuration.empty()) return Next::kGoOn;
+  if (Contains(configuration, kNoneFound)) return Next::kStop;
+  if (Contains(configuration, kAborted) || configuration.empty()) return Next::kGoOn;
 
   Log(host_, kLogRoutine, "configData is not empty!\n");
   CollectedData text(host_, std::move(configuration));

@@ -1,4 +1,4 @@
-#include "publish/trim.h"
+#include "collect/ascii_text.h"
 
 #include <gtest/gtest.h>
 
