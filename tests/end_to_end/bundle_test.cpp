@@ -1,7 +1,8 @@
 // Bundles as people use them: the sample machine recorded by the real program with real processes, and replayed.
 //
-// tests/golden/sample-machine.bundle was recorded by the Windows build, and is replayed on both systems. To renew it
-// run RecordsTheBundleThatIsKept on Windows with ZENX_RENEW_GOLDEN=1 in the environment.
+// tests/golden/one-controller.bundle keeps bundles of this form readable, and is replayed on both systems. It holds
+// what the Windows build recorded of one of the sample machine's controllers. To renew it run
+// RecordsTheBundleThatIsKept on Windows with ZENX_RENEW_GOLDEN=1 in the environment.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,7 @@
 #include "host/hxahost/bundle/bundle_format.h"
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
+#include "tests/support/same_lines.h"
 
 namespace {
 
@@ -43,34 +46,23 @@ class Bundles : public testing::Test {
     return result.out;
   }
 
-  // A query of a live machine, twice, which is recorded.
-  std::string Record(const std::string& bundle, const std::string& format, const std::string& directory) const {
-    const RaidLogSetting setting(kRaidLogFolder);
-    return Run(
-        {"query", "--format", format, "--runs", "--repeat", "2", "--directory", directory, "--record", Name(bundle)});
-  }
-
-  std::string Replay(const std::string& bundle, const std::string& format) const {
-    return Run({"query", "--format", format, "--runs", "--repeat", "2", "--replay", Name(bundle)});
-  }
-
   TemporaryFolder folder_;
 };
 
 std::string Sample() { return Utf8FromPath(SampleMachine()); }
-
-// The file as the query shows it whose bytes do not depend on clock, name and folder of the machine.
-std::vector<std::string> GoldenArguments() {
-  return {"--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060", "--repeat", "2"};
-}
+std::string KeptBundle() { return Utf8FromPath(Golden("one-controller.bundle")); }
 
 TEST_F(Bundles, GiveTheSameResultAgainInEveryFormat) {
-  const std::string live = Record("m.bundle", "json", Sample());
-  EXPECT_TRUE(Replay("m.bundle", "json") == live) << "other JSON";
-  EXPECT_THAT(live, HasSubstr("KVRSG_LogRecord_RAIDMgrEvent"));
-  for (const char* const format : {"table", "html"}) {
-    const std::string shown = Record("m.bundle", format, Sample());
-    EXPECT_TRUE(Replay("m.bundle", format) == shown) << format;
+  const RaidLogSetting setting(kRaidLogFolder);
+  for (const char* const format : {"json", "table", "html"}) {
+    const std::vector<std::string> query = {"query", "--format", format, "--runs", "--repeat", "2"};
+    std::vector<std::string> live = query;
+    live.insert(live.end(), {"--directory", Sample(), "--record", Name("m.bundle")});
+    std::vector<std::string> again = query;
+    again.insert(again.end(), {"--replay", Name("m.bundle")});
+    const std::string shown = Run(live);
+    EXPECT_TRUE(Run(again) == shown) << format;
+    EXPECT_THAT(shown, HasSubstr(format == std::string("table") ? "RAID manager" : "KVRSG_LogRecord_RAIDMgrEvent"));
   }
 }
 
@@ -101,46 +93,61 @@ TEST_F(Bundles, GiveFailuresOfToolsAgainAndThatThereIsNoLog) {
 }
 
 TEST_F(Bundles, AreTheSameWhenTheyAreRecordedFromAReplay) {
-  const std::string kept = Utf8FromPath(Golden("sample-machine.bundle"));
-  Run({"query", "--format", "json", "--repeat", "2", "--replay", kept, "--record", Name("n.bundle"), "--output",
-       Name("out")});
-  EXPECT_TRUE(FileText(Golden("sample-machine.bundle")) == Text("n.bundle"));
+  Run({"query", "--format", "json", "--replay", KeptBundle(), "--record", Name("n.bundle"), "--output", Name("out")});
+  EXPECT_TRUE(FileText(Golden("one-controller.bundle")) == Text("n.bundle"));
+}
+
+TEST_F(Bundles, OfTheSampleMachinePublishWhatItPublishes) {
+  const std::string json = Run({"query", "--format", "json", "--repeat", "2", "--replay", RecordedSampleMachine()});
+  EXPECT_TRUE(SameText(RunOfSampleMachine().result.dump(1), Json::parse(json).dump(1)));
 }
 
 TEST_F(Bundles, OfWindowsAreReplayedOnEverySystem) {
-  const std::string json =
-      Run({"query", "--format", "json", "--repeat", "2", "--replay", Utf8FromPath(Golden("sample-machine.bundle"))});
-  EXPECT_TRUE(Json::parse(json).dump(1) + "\n" == FileText(Golden("sample-machine.json")));
-  const std::string page = Run({"query", "--replay", Utf8FromPath(Golden("sample-machine.bundle"))});
+  const Json replayed = Json::parse(Run({"query", "--format", "json", "--replay", KeptBundle()}));
+  const Json golden = Json::parse(FileText(Golden("sample-machine.json")));
+  // All that the sample machine publishes of that controller, in the same order.
+  Json expected = Json::array();
+  std::set<std::string> paths;
+  for (const Json& instance : replayed["queries"][0]["instances"]) paths.insert(instance["path"]);
+  for (const Json& instance : golden["queries"][0]["instances"]) {
+    if (paths.contains(instance["path"])) expected.push_back(instance);
+  }
+  EXPECT_TRUE(SameText(expected.dump(1), replayed["queries"][0]["instances"].dump(1)));
+  EXPECT_GT(expected.size(), 100U);
+  const std::string page = Run({"query", "--replay", KeptBundle()});
   EXPECT_THAT(page,
               HasSubstr("RAID controllers of SAMPLE on 2026-11-21 09:30:00 +01:00, collected in C:\\sample-machine\n"));
 }
 
-// What is asked for and told is what was asked for and told when the kept bundle was recorded; times and folder differ.
+// What is asked for and answered is what was asked for and answered when the kept bundle was recorded; times and
+// folder differ.
 TEST_F(Bundles, RecordsTheBundleThatIsKept) {
   const RaidLogSetting setting(kRaidLogFolder);
-  std::vector<std::string> arguments = {"query",    "--format",       "json",     "--directory", Sample(),
-                                        "--record", Name("m.bundle"), "--output", Name("out")};
-  const std::vector<std::string> further = GoldenArguments();
-  arguments.insert(arguments.end(), further.begin(), further.end());
-  Run(arguments);
+  const MachineCopy machine;
+  machine.RemoveController("qcmdrun", "3");
+  machine.RemoveControllers("hrconf_64");
+  machine.RemoveControllers("arcconf");
+  machine.SetAnswer("arcconf/other", "Controllers found: 0\n");
+  Run({"query", "--format", "json", "--directory", machine.Directory(), "--record", Name("m.bundle"), "--output",
+       Name("out"), "--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060"});
   hxahost::Bundle now = hxahost::ReadBundleFile(folder_.Path() / "m.bundle");
-  now.directory = "C:\\sample-machine";  // it belongs to no machine
+  ASSERT_TRUE(now.raidLog);
+  // As on a Windows machine of no one in particular.
+  now.directory = "C:\\sample-machine";
+  std::ranges::replace(now.raidLog->path, '/', '\\');
   if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) {
-    WriteFileText(Golden("sample-machine.bundle"), hxahost::WriteBundle(now));
+    WriteFileText(Golden("one-controller.bundle"), hxahost::WriteBundle(now));
   }
-  const hxahost::Bundle kept = hxahost::ReadBundleFile(Golden("sample-machine.bundle"));
+  const hxahost::Bundle kept = hxahost::ReadBundleFile(Golden("one-controller.bundle"));
   ASSERT_EQ(now.runs.size(), kept.runs.size());
   for (std::size_t run = 0; run < now.runs.size(); ++run) now.runs[run].seconds = kept.runs[run].seconds;
-  ASSERT_TRUE(now.raidLog);
-  std::ranges::replace(now.raidLog->path, '/', '\\');
   now.osVersion = kept.osVersion;
   now.querySeconds = kept.querySeconds;
   EXPECT_TRUE(hxahost::WriteBundle(now) == hxahost::WriteBundle(kept));
 }
 
 TEST_F(Bundles, ThatAreMaskedPublishAsMuchWithTheSameLinks) {
-  const std::string plain = Utf8FromPath(Golden("sample-machine.bundle"));
+  const std::string plain = RecordedSampleMachine();
   EXPECT_EQ(Run({"bundle", "mask", plain, Name("masked.bundle")}), "");
   const Json before = Json::parse(Run({"query", "--format", "json", "--replay", plain}));
   const Json after = Json::parse(Run({"query", "--format", "json", "--replay", Name("masked.bundle")}));
@@ -175,25 +182,25 @@ TEST_F(Bundles, ThatAreMaskedPublishAsMuchWithTheSameLinks) {
   for (const char* const secret : {"SAMPLE", "DBSERVER", "NV3LE77Q2H", "5000F0A0001B7800", "S96H8B01234", "K6E0412277",
                                    "ZX20912", "Database", "sample-machine"}) {
     EXPECT_THAT(Text("masked.bundle"), Not(HasSubstr(secret)));
-    EXPECT_THAT(FileText(Golden("sample-machine.bundle")), HasSubstr(secret));
+    EXPECT_THAT(FileText(RunOfSampleMachine().bundle), HasSubstr(secret));
   }
 }
 
 TEST_F(Bundles, AreMaskedAsTheyAreRecordedWhileTheResultIsNot) {
-  const std::string shown =
-      Run({"query", "--format", "json", "--class", "KVRSG_zxDiskDrive", "--replay",
-           Utf8FromPath(Golden("sample-machine.bundle")), "--record", Name("m.bundle"), "--mask"});
+  const std::string shown = Run({"query", "--format", "json", "--class", "KVRSG_zxDiskDrive", "--replay",
+                                 RecordedSampleMachine(), "--record", Name("m.bundle"), "--mask"});
   EXPECT_THAT(shown, HasSubstr("NV3LE77Q2H"));
   EXPECT_THAT(Text("m.bundle"), HasSubstr("\nmasked: yes\n"));
   EXPECT_THAT(Text("m.bundle"), Not(HasSubstr("NV3LE77Q2H")));
 }
 
 TEST_F(Bundles, CanBeComparedWithEachOtherAndWithResults) {
-  const std::string bundle = Utf8FromPath(Golden("sample-machine.bundle"));
-  const std::string json = Utf8FromPath(Golden("sample-machine.json"));
+  const std::string bundle = RecordedSampleMachine();
   EXPECT_EQ(RunHxahost({"diff", bundle, bundle}).exitStatus, 0);
+  EXPECT_EQ(RunHxahost({"diff", bundle, Utf8FromPath(Golden("sample-machine.json"))}).exitStatus, 0);
   // The second query, whose result the file has last, does not read the log again.
-  const ProgramResult result = RunHxahost({"diff", bundle, json});
+  const auto twice = folder_.Write("twice.json", RunOfSampleMachine().result.dump());
+  const ProgramResult result = RunHxahost({"diff", bundle, Utf8FromPath(twice)});
   EXPECT_EQ(result.exitStatus, 1);
   EXPECT_THAT(result.out, HasSubstr("KVRSG_LogRecord_RAIDMgrEvent"));
   EXPECT_THAT(result.out, Not(HasSubstr("KVRSG_zxDiskDrive")));
@@ -201,7 +208,7 @@ TEST_F(Bundles, CanBeComparedWithEachOtherAndWithResults) {
 
 // A bundle from which something was taken, and that was closed again.
 std::string Without(const std::string& command) {
-  hxahost::Bundle bundle = hxahost::ReadBundleFile(Golden("sample-machine.bundle"));
+  hxahost::Bundle bundle = hxahost::ReadBundleFile(RunOfSampleMachine().bundle);
   std::erase_if(bundle.runs, [&command](const auto& run) { return CommandText(run) == command; });
   return hxahost::WriteBundle(bundle);
 }
@@ -218,7 +225,7 @@ TEST_F(Bundles, ThatLackACommandAreAnErrorThatNamesIt) {
 }
 
 TEST_F(Bundles, ThatAreDamagedNewerOrForeignAreRefusedInOneLine) {
-  const std::string text = FileText(Golden("sample-machine.bundle"));
+  const std::string text = FileText(Golden("one-controller.bundle"));
   std::string newer = text;
   newer.replace(newer.find("bundle 1\n"), 9, "bundle 9\n");
   const std::string cut = Utf8FromPath(folder_.Write("cut.bundle", text.substr(0, text.size() / 2)));

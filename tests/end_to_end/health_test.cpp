@@ -2,7 +2,6 @@
 // machine and on copies of it in which something was mended or broken.
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <string>
@@ -15,6 +14,7 @@
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"
+#include "tests/support/same_lines.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -151,9 +151,7 @@ TEST_F(Health, IsWrittenToAFileWholeAndAtOnce) {
 
 TEST_F(Health, IsTheSameOnBothSystems) {
   const ProgramResult result = Run({"--format", "json", "--local-time", "20261121093000.000000+060"});
-  const fs::path golden = fs::path(ZENX_TEST_DATA) / "golden" / "sample-machine-health.json";
-  if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) WriteFileText(golden, result.out);
-  EXPECT_EQ(result.out, FileText(golden));
+  EXPECT_TRUE(IsGolden("sample-machine-health.json", result.out));
 }
 
 TEST_F(Health, EndsWithStatus3AndOneLineForWhateverKeepsItFromItsAnswer) {

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
 
 namespace {
@@ -15,8 +14,7 @@ using testing::HasSubstr;
 using testing::Not;
 
 ProgramResult Tables(std::vector<std::string> further) {
-  further.insert(further.begin(),
-                 {"query", "--replay", hxahost::Utf8FromPath(RecordedSampleMachine()), "--class", "KVRSG_zxDiskDrive"});
+  further.insert(further.begin(), {"query", "--replay", RecordedSampleMachine(), "--class", "KVRSG_zxDiskDrive"});
   return RunHxahost(further);
 }
 

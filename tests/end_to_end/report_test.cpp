@@ -19,11 +19,8 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-const std::vector<std::string> kReport = {"query", "--format", "html", "--replay",
-                                          Utf8FromPath(RecordedSampleMachine())};
-
 ProgramResult WriteReport(const std::vector<std::string>& furtherArguments) {
-  std::vector<std::string> arguments = kReport;
+  std::vector<std::string> arguments = {"query", "--format", "html", "--replay", RecordedSampleMachine()};
   arguments.insert(arguments.end(), furtherArguments.begin(), furtherArguments.end());
   return RunHxahost(arguments);
 }
@@ -39,8 +36,7 @@ TEST(Report, HoldsWhatTheJsonSaysOfTheSampleMachine) {
   ASSERT_EQ(result.exitStatus, 0) << result.err;
   EXPECT_THAT(result.out, StartsWith("<!DOCTYPE html>\n"));
   EXPECT_THAT(result.out, EndsWith("</html>\n"));
-  const ProgramResult json =
-      RunHxahost({"query", "--format", "json", "--replay", Utf8FromPath(RecordedSampleMachine())});
+  const ProgramResult json = RunHxahost({"query", "--format", "json", "--replay", RecordedSampleMachine()});
   EXPECT_EQ(QueryData(result.out), nlohmann::ordered_json::parse(json.out));
 }
 

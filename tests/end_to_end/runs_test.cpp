@@ -54,13 +54,12 @@ TEST(Runs, AreAllInTheJsonWithTheirExactCommands) {
 }
 
 TEST(Runs, AreNotInTheJsonWhereNobodyAsksForThem) {
-  const ProgramResult result =
-      RunHxahost({"query", "--format", "json", "--replay", hxahost::Utf8FromPath(RecordedSampleMachine())});
+  const ProgramResult result = RunHxahost({"query", "--format", "json", "--replay", RecordedSampleMachine()});
   EXPECT_FALSE(Json::parse(result.out)["queries"][0].contains("runs"));
 }
 
 TEST(Runs, AreSummedUpByToolAtTheEndOfTheTables) {
-  const ProgramResult result = RunHxahost({"query", "--replay", hxahost::Utf8FromPath(RecordedSampleMachine())});
+  const ProgramResult result = RunHxahost({"query", "--replay", RecordedSampleMachine()});
   const std::string seconds = kSeconds;
   EXPECT_THAT(result.out,
               ContainsPattern("  qcmdrun: 46 runs, 2 controllers [(]1, 3[)], numbers 2, 4-8 refused, " + seconds +

@@ -37,7 +37,7 @@ std::vector<std::string> Listed(const Json& unread) {
 TEST(Unread, ListsOfTheSampleMachineWhatIsReallyNotPublished) {
   std::vector<std::string> commands;
   std::size_t lines = 0;
-  for (const Json& text : UnreadOf("--replay", hxahost::Utf8FromPath(RecordedSampleMachine()))) {
+  for (const Json& text : UnreadOf("--replay", RecordedSampleMachine())) {
     if (!text["command"].get<std::string>().starts_with("raid-manager")) commands.push_back(text["command"]);
     lines += text["lines"].size();
   }
@@ -66,8 +66,7 @@ TEST(Unread, ShowsAtOnceThatAToolHasNewWords) {
 }
 
 TEST(Unread, AreCountedAndListedBelowTheTables) {
-  const ProgramResult result =
-      RunHxahost({"query", "--unread", "--replay", hxahost::Utf8FromPath(RecordedSampleMachine())});
+  const ProgramResult result = RunHxahost({"query", "--unread", "--replay", RecordedSampleMachine()});
   EXPECT_THAT(result.out, HasSubstr("\nLines of the tools' texts that nothing above shows: 31\n"));
   EXPECT_THAT(result.out, HasSubstr("  zenx//qcmdrun.exe getstatus 1 device: 1\n    12  Percentage complete"));
 }

@@ -170,7 +170,7 @@ class UsageErrors : public testing::Test {
         {kUnderFile, "file/out"   },
     };
     for (std::string& argument : arguments) {
-      if (argument == kBundle) argument = ZENX_TEST_DATA "/golden/sample-machine.bundle";
+      if (argument == kBundle) argument = ZENX_TEST_DATA "/golden/one-controller.bundle";
       for (const auto& [mark, path] : marks) {
         if (argument == mark) argument = Utf8FromPath(folder_.Path() / path);
       }

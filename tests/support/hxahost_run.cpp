@@ -4,6 +4,7 @@
 
 #include "host/hxahost/system/system.h"
 #include "host/hxahost/text/utf8.h"
+#include "tests/support/raid_log_setting.h"
 
 namespace fs = std::filesystem;
 
@@ -16,8 +17,6 @@ ProgramResult RunHxahost(const std::vector<std::string>& arguments) {
   return RunningProgram(HxahostPath(), arguments).Wait();
 }
 
-fs::path RecordedSampleMachine() { return fs::path(ZENX_TEST_DATA) / "golden/sample-machine.bundle"; }
-
 fs::path SampleMachine() { return hxahost::ProgramFolder().parent_path() / "sample-machine"; }
 
 nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArguments) {
@@ -28,3 +27,18 @@ nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArgume
   if (result.exitStatus != 0) throw std::runtime_error("hxahost failed: " + result.err);
   return nlohmann::ordered_json::parse(result.out);
 }
+
+const SampleRun& RunOfSampleMachine() {
+  static const TemporaryFolder folder;
+  static const SampleRun run = [] {
+    const fs::path bundle = folder.Path() / "sample-machine.bundle";
+    // Relative to the sample machine's folder, as the tools' own paths are.
+    const RaidLogSetting setting("raid-manager\\");
+    return SampleRun{QuerySampleMachine({"--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060",
+                                         "--repeat", "2", "--record", hxahost::Utf8FromPath(bundle)}),
+                     bundle};
+  }();
+  return run;
+}
+
+std::string RecordedSampleMachine() { return hxahost::Utf8FromPath(RunOfSampleMachine().bundle); }

@@ -30,6 +30,10 @@ class MachineCopy {
     }
   }
 
+  void RemoveController(const std::string& tool, const std::string& number) const {
+    std::filesystem::remove_all(Zenx() / "answers" / tool / number);
+  }
+
   std::string Answer(const std::string& name) const { return FileText(AnswerFile(name)); }
   void SetAnswer(const std::string& name, std::string_view text) const {
     folder_.Write(std::filesystem::relative(AnswerFile(name), folder_.Path()), text);

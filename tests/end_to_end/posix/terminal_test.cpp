@@ -67,9 +67,8 @@ std::string ShownOnTerminal(unsigned short width, const std::vector<std::string>
 }
 
 std::string Tables(unsigned short width, const Variables& variables = {}, std::vector<std::string> further = {}) {
-  std::vector<std::string> arguments = {"query",    "--no-progress",
-                                        "--replay", hxahost::Utf8FromPath(RecordedSampleMachine()),
-                                        "--class",  "KVRSG_zxDiskDrive"};
+  std::vector<std::string> arguments = {"query",   "--no-progress",    "--replay", RecordedSampleMachine(),
+                                        "--class", "KVRSG_zxDiskDrive"};
   arguments.insert(arguments.end(), further.begin(), further.end());
   return ShownOnTerminal(width, arguments, variables);
 }
