@@ -32,6 +32,7 @@ endforeach()
 set(says /usr/share/doc)
 file(MAKE_DIRECTORY "${root}/${licences}")
 file(COPY_FILE ${says}/libcli11-dev/copyright "${root}/${licences}/cli11.txt")
+file(COPY_FILE ${says}/libfmt-dev/copyright "${root}/${licences}/fmt.txt")
 file(COPY_FILE ${says}/nlohmann-json3-dev/copyright "${root}/${licences}/nlohmann-json.txt")
 file(GLOB boost ${says}/libboost1.*-dev/copyright)
 execute_process(COMMAND awk "/^License: BSL-1.0/ { n = 1; text = \"\" } n { text = text $0 \"\\n\" } /^$/ { if (text ~ /Permission is hereby granted/) { printf \"%s\", text; exit } n = 0 }"

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
+#include <chrono>
 #include <cstdlib>
 #include <string_view>
+
+#include <fmt/core.h>
 
 #include "plugin/host_interface/exception.h"
 
@@ -50,12 +52,6 @@ unsigned ReadField(const std::string& text, const Field& field) {
   return number;
 }
 
-unsigned DaysInMonth(unsigned year, unsigned month) {
-  constexpr unsigned kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  const bool isLeapYear = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-  return month == 2 && isLeapYear ? 29 : kDays[month - 1];
-}
-
 }  // namespace
 
 TCIMDateTime::TCIMDateTime() = default;
@@ -66,7 +62,9 @@ TCIMDateTime::TCIMDateTime(const std::string& text) {
   if (text[21] != '+' && text[21] != '-') Reject(text, "the UTC offset has no sign");
   std::array<unsigned, std::size(kFields)> numbers{};
   std::ranges::transform(kFields, numbers.begin(), [&](const Field& field) { return ReadField(text, field); });
-  if (numbers[2] > DaysInMonth(numbers[0], numbers[1])) Reject(text, "the month has no such day");
+  const std::chrono::year_month_day date{std::chrono::year(static_cast<int>(numbers[0])),
+                                         std::chrono::month(numbers[1]), std::chrono::day(numbers[2])};
+  if (!date.ok()) Reject(text, "the month has no such day");
 
   const int offset = static_cast<int>(numbers[7]);
   *this = TCIMDateTime(static_cast<std::uint16_t>(numbers[0]), static_cast<std::uint16_t>(numbers[1]), numbers[2],
@@ -89,11 +87,8 @@ TCIMDateTime::TCIMDateTime(std::uint16_t year, std::uint16_t month, std::uint32_
 
 std::string TCIMDateTime::ToString() const {
   // Numbers that the form has no room for lengthen it; nothing is cut off.
-  std::array<char, 64> text{};
-  std::snprintf(text.data(), text.size(), "%04u%02u%02u%02u%02u%02u.%06u%c%03u", unsigned{year_}, unsigned{month_},
-                unsigned{day_}, unsigned{hour_}, unsigned{minute_}, unsigned{second_}, unsigned{microseconds_},
-                utcOffsetMinutes_ < 0 ? '-' : '+', static_cast<unsigned>(std::abs(int{utcOffsetMinutes_})));
-  return text.data();
+  return fmt::format("{:04}{:02}{:02}{:02}{:02}{:02}.{:06}{:+04}", year_, month_, day_, hour_, minute_, second_,
+                     microseconds_, utcOffsetMinutes_);
 }
 
 }  // namespace NKVRHXA20

@@ -1,8 +1,8 @@
 #include <array>
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 
-#include <sys/time.h>
 #include <unistd.h>
 
 #include "host/hxacore/operating_system.h"
@@ -17,14 +17,16 @@ std::string MachineName() {
 }
 
 TCIMDateTime LocalTime() {
-  timeval now{};
-  gettimeofday(&now, nullptr);
+  const auto now = std::chrono::system_clock::now();
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(now);
+  const auto microseconds = std::chrono::floor<std::chrono::microseconds>(now - seconds).count();
+  const std::time_t time = std::chrono::system_clock::to_time_t(seconds);
   tm local{};
-  localtime_r(&now.tv_sec, &local);
+  localtime_r(&time, &local);
   return {static_cast<std::uint16_t>(local.tm_year + 1900), static_cast<std::uint16_t>(local.tm_mon + 1),
           static_cast<std::uint32_t>(local.tm_mday),        static_cast<std::uint16_t>(local.tm_hour),
           static_cast<std::uint16_t>(local.tm_min),         static_cast<std::uint16_t>(local.tm_sec),
-          static_cast<std::uint32_t>(now.tv_usec),          static_cast<std::int16_t>(local.tm_gmtoff / 60)};
+          static_cast<std::uint32_t>(microseconds),         static_cast<std::int16_t>(local.tm_gmtoff / 60)};
 }
 
 }  // namespace NKVRHXA20
