@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace json_text_test {
+namespace {
 
 using namespace hxahost;
 using Json = nlohmann::ordered_json;
@@ -16,19 +16,19 @@ TEST(JsonOutput, EscapesWhatMustNotReachATerminalAndIsTheSameJson) {
     std::string expected;
   };
   const Case cases[] = {
-      {"plain",               "Degraded",           "\"Degraded\""          },
-      {"UTF-8",               "K\xc3\xa4se \u78c1", "\"K\xc3\xa4se \u78c1\""},
-      {"quote and backslash", "\"\\",               "\"\\\"\\\\\""          },
-      {"control",             "\x1b[2J\n",          "\"\\u001b[2J\\n\""     },
-      {"delete",              "a\x7f",              "\"a\\u007f\""          },
+      {"plain",               "Degraded",           "\"Degraded\""         },
+      {"UTF-8",               "K\xc3\xa4se \u78c1", R"("K\u00e4se \u78c1")"},
+      {"quote and backslash", "\"\\",               "\"\\\"\\\\\""         },
+      {"control",             "\x1b[2J\n",          "\"\\u001b[2J\\n\""    },
+      {"delete",              "a\x7f",              "\"a\\u007f\""         },
       {"C1 control",
        "\xc2\x9b"
-       "2J",                                        "\"\\u009b2J\""         },
-      {"turned text",         "a\u202e.\u202c",     "\"a\\u202e.\\u202c\""  },
-      {"line end",            "\u2028\u0085",       "\"\\u2028\\u0085\""    },
-      {"invisible",           "\u200b\ufeff",       "\"\\u200b\\ufeff\""    },
-      {"invisible letter",    "\U000e0041",         "\"\\udb40\\udc41\""    },
-      {"beyond four digits",  "\xf0\x9f\x92\xbe",   "\"\xf0\x9f\x92\xbe\""  },
+       "2J",                                        "\"\\u009b2J\""        },
+      {"turned text",         "a\u202e.\u202c",     "\"a\\u202e.\\u202c\"" },
+      {"line end",            "\u2028\u0085",       "\"\\u2028\\u0085\""   },
+      {"invisible",           "\u200b\ufeff",       "\"\\u200b\\ufeff\""   },
+      {"invisible letter",    "\U000e0041",         "\"\\udb40\\udc41\""   },
+      {"beyond four digits",  "\xf0\x9f\x92\xbe",   R"("\ud83d\udcbe")"    },
   };
   for (const Case& each : cases) {
     SCOPED_TRACE(each.name);
@@ -45,4 +45,4 @@ TEST(JsonOutput, IsLaidOutInLines) {
   EXPECT_EQ(JsonText(json), "{\"key\\u202e\":[1,null]}");
 }
 
-}  // namespace json_text_test
+}  // namespace

@@ -4,21 +4,15 @@
 #include <optional>
 #include <string_view>
 
+#include "host/hxahost/text/ascii.h"
+
 namespace hxahost {
 
 namespace {
 
 using Values = std::vector<std::string>;
 
-constexpr std::string_view kWhiteSpace = " \t\r\n";
-
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kWhiteSpace);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
-}
-
-bool IsBlank(std::string_view line) { return Trimmed(line).empty(); }
+bool IsBlank(std::string_view line) { return Trim(line).empty(); }
 
 // "-----", "+---+---+", "====".
 bool IsRule(std::string_view line) { return !IsBlank(line) && line.find_first_not_of("-+=| \t\r\n") == line.npos; }
@@ -26,12 +20,8 @@ bool IsRule(std::string_view line) { return !IsBlank(line) && line.find_first_no
 // Pieces between separators, trimmed, without empty ones.
 Values Pieces(std::string_view text, std::string_view separator) {
   Values pieces;
-  while (!text.empty()) {
-    const std::size_t end = text.find(separator);
-    const std::string_view piece = Trimmed(text.substr(0, end));
-    if (!piece.empty()) pieces.emplace_back(piece);
-    if (end == text.npos) break;
-    text.remove_prefix(end + separator.size());
+  for (const std::string_view piece : Split(text, separator)) {
+    if (!Trim(piece).empty()) pieces.emplace_back(Trim(piece));
   }
   return pieces;
 }
@@ -44,7 +34,7 @@ Values AttributeValues(std::string_view line) {
     begin += 2;
     const std::size_t end = line.find('"', begin);
     if (end == line.npos) break;
-    if (end > begin) values.emplace_back(Trimmed(line.substr(begin, end - begin)));
+    if (end > begin) values.emplace_back(Trim(line.substr(begin, end - begin)));
     begin = end + 1;
   }
   return values;
@@ -67,7 +57,7 @@ Values PairValues(std::string_view line) {
 Values ValueBehindLabel(std::string_view line) {
   const std::size_t end = line.find_first_of(":=");
   if (end == line.npos || IsBlank(line.substr(0, end)) || IsBlank(line.substr(end + 1))) return {};
-  return {std::string(Trimmed(line.substr(end + 1)))};
+  return {std::string(Trim(line.substr(end + 1)))};
 }
 
 // "Logical drive 2 - 3".
@@ -75,16 +65,15 @@ Values CountedValue(std::string_view line) {
   constexpr std::string_view kDash = " - ";
   const std::size_t dash = line.rfind(kDash);
   if (dash == line.npos) return {};
-  const std::string_view count = Trimmed(line.substr(dash + kDash.size()));
-  if (count.empty() || count.find_first_not_of("0123456789") != count.npos) return {};
-  return {std::string(count)};
+  const std::string_view count = Trim(line.substr(dash + kDash.size()));
+  return IsDigits(count) ? Values{std::string(count)} : Values();
 }
 
 // "Device is a Hard drive", "Device is an Enclosure services device".
 Values KindValue(std::string_view line) {
   for (const std::string_view words : {" is an ", " is a "}) {
     const std::size_t begin = line.find(words);
-    if (begin != line.npos) return {std::string(Trimmed(line.substr(begin + words.size())))};
+    if (begin != line.npos) return {std::string(Trim(line.substr(begin + words.size())))};
   }
   return {};
 }
@@ -111,7 +100,7 @@ Values LogValues(std::string_view line) {
 }
 
 Values LineValues(std::string_view line) {
-  const std::string_view text = Trimmed(line);
+  const std::string_view text = Trim(line);
   if (text.starts_with("Command completed") || text.starts_with("Command aborted")) return {};
   if (text.starts_with('<')) return AttributeValues(text);
   if (text.starts_with('|')) return Pieces(text, "|");
@@ -138,7 +127,7 @@ bool Continues(std::string_view line, std::size_t column) {
 // The names of a table's columns stand directly above a rule.
 bool IsHead(std::span<const std::string> lines, std::size_t index) {
   return index + 1 < lines.size() && IsRule(lines[index + 1]) && ValueBehindLabel(lines[index]).empty() &&
-         (index == 0 || !Trimmed(lines[index]).starts_with('|') || IsRule(lines[index - 1]));
+         (index == 0 || !Trim(lines[index]).starts_with('|') || IsRule(lines[index - 1]));
 }
 
 }  // namespace
@@ -153,7 +142,7 @@ std::vector<RawValues> ReadRawValues(std::span<const std::string> lines) {
       while (index + 1 < lines.size() && Continues(lines[index + 1], *column)) {
         ++index;
         ++read.lineCount;
-        read.values.back() += " " + std::string(Trimmed(lines[index]));
+        read.values.back() += " " + std::string(Trim(lines[index]));
       }
     }
     all.push_back(std::move(read));

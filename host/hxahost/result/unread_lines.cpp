@@ -1,13 +1,14 @@
 #include "host/hxahost/result/unread_lines.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
-#include <cstdio>
+
+#include <fmt/core.h>
 
 #include "host/hxacore/value_reader.h"
-#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/result/raw_text_values.h"
+#include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/text/ascii.h"
 
 using namespace NKVRHXA20;
 
@@ -35,13 +36,6 @@ std::string WithSingleBlanks(std::string_view text) {
   return words;
 }
 
-// Codes are published as numbers and printed as eight hexadecimal digits.
-std::string CodeText(unsigned long number) {
-  std::array<char, 24> text{};
-  std::snprintf(text.data(), text.size(), "%08lx", number);
-  return text.data();
-}
-
 template <class Add>
 void ForEachText(const TCIMValue& value, const Add& add) {
   switch (TCIMValueReader::Kind(value)) {
@@ -52,7 +46,8 @@ void ForEachText(const TCIMValue& value, const Add& add) {
     case ValueKind::kUInt16:
     case ValueKind::kUInt32:
       add(std::to_string(TCIMValueReader::Number(value)));
-      return add(CodeText(TCIMValueReader::Number(value)));
+      // Codes are published as numbers and printed as eight hexadecimal digits.
+      return add(fmt::format("{:08x}", TCIMValueReader::Number(value)));
     case ValueKind::kArray:
       for (const TCIMValue& element : TCIMValueReader::Elements(value)) ForEachText(element, add);
   }
@@ -66,11 +61,6 @@ bool IsWordEdge(const std::string& text, std::size_t place) {
 bool ContainsWords(const std::string& text, const std::string& words) {
   const std::size_t place = text.find(words);
   return place != text.npos && IsWordEdge(text, place) && IsWordEdge(text, place + words.size());
-}
-
-std::string LowerCase(std::string text) {
-  std::ranges::transform(text, text.begin(), [](unsigned char each) { return static_cast<char>(std::tolower(each)); });
-  return text;
 }
 
 }  // namespace
@@ -88,21 +78,17 @@ ShownValues::ShownValues(const InstanceList& instances) {
 
 bool ShownValues::Shows(std::string_view value) const {
   const std::string words = WithSingleBlanks(value);
-  return words.empty() || texts_.contains(words) || texts_.contains(LowerCase(words)) || ShowsPieces(words) ||
+  return words.empty() || texts_.contains(words) || texts_.contains(Lower(words)) || ShowsPieces(words) ||
          ShowsWords(words);
 }
 
 bool ShownValues::ShowsPieces(std::string_view value) const {
   constexpr std::string_view kSeparators = ",/";
   if (value.find_first_of(kSeparators) == value.npos) return false;
-  while (!value.empty()) {
-    const std::size_t end = value.find_first_of(kSeparators);
-    const std::string piece = WithSingleBlanks(value.substr(0, end));
-    if (!piece.empty() && !texts_.contains(piece)) return false;
-    if (end == value.npos) break;
-    value.remove_prefix(end + 1);
-  }
-  return true;
+  return std::ranges::all_of(SplitAtAny(value, kSeparators), [this](std::string_view piece) {
+    const std::string words = WithSingleBlanks(piece);
+    return words.empty() || texts_.contains(words);
+  });
 }
 
 // One word is found in some sentence by chance.

@@ -1,8 +1,8 @@
 #include "host/hxahost/text/escaping.h"
 
-#include <array>
-#include <cstdio>
+#include <fmt/core.h>
 
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/code_range.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -26,35 +26,17 @@ constexpr CodeRange kUnsafe[] = {
     {0xe0000, 0xe007f}, // copies of ASCII that nobody sees
 };
 
-std::string_view WithoutOuterSpace(std::string_view text) {
-  constexpr std::string_view kSpace = " \t\r\n";
-  const std::size_t first = text.find_first_not_of(kSpace);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
-}
-
-constexpr char32_t kFirstOfTwoUnits = 0x10000;  // of UTF-16
-
-std::string ByNumber(char32_t code, const char* format) {
-  std::array<char, 16> text{};
-  std::snprintf(text.data(), text.size(), format, static_cast<unsigned>(code));
-  return text.data();
-}
-
 std::string Escaped(char32_t code) {
   if (code == '\t') return "\\t";
   if (code == '\r') return "\\r";
   if (code == '\n') return "\\n";
-  return ByNumber(code, code < 0x100 ? "\\x%02x" : code < kFirstOfTwoUnits ? "\\u%04x" : "\\U%08x");
+  const auto number = static_cast<unsigned>(code);
+  if (code < 0x100) return fmt::format("\\x{:02x}", number);
+  if (code < 0x10000) return fmt::format("\\u{:04x}", number);
+  return fmt::format("\\U{:08x}", number);
 }
 
 }  // namespace
-
-std::string ByCodeUnits(char32_t code, const char* format) {
-  if (code < kFirstOfTwoUnits) return ByNumber(code, format);
-  const char32_t offset = code - kFirstOfTwoUnits;
-  return ByNumber(0xd800 + (offset >> 10U), format) + ByNumber(0xdc00 + (offset & 0x3ffU), format);
-}
 
 bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe); }
 
@@ -74,7 +56,7 @@ std::string EscapeControls(std::string_view bytes) {
   return printable;
 }
 
-std::string Printable(std::string_view bytes) { return EscapeControls(WithoutOuterSpace(bytes)); }
+std::string Printable(std::string_view bytes) { return EscapeControls(Trim(bytes)); }
 
 std::size_t PrintableLength(std::string_view bytes) {
   if (bytes.empty()) return 0;

@@ -11,10 +11,6 @@ namespace hxahost {
 // the direction of the text around it, or a code that is no character.
 bool IsUnsafe(char32_t code);
 
-// A character by its number: its UTF-16 code units, one or two, each written by a format of printf for an unsigned
-// number. So characters are named in JSON and in MOF.
-std::string ByCodeUnits(char32_t code, const char* format);
-
 // UTF-8 with control characters and characters that change the direction of text as escapes (\t, \r, \n, \x1b,
 // \u202e): one line, and nothing in it reaches a terminal as a command.
 std::string EscapeControls(std::string_view bytes);

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include <fmt/core.h>
+#include <boost/locale/encoding_utf.hpp>
+
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -29,11 +32,19 @@ constexpr MofEscape kMofEscapes[] = {
 // In bytes; the last character may go past it.
 constexpr std::size_t kLongestString = 1000;
 
+// By its UTF-16 code units, each with four digits, so that a digit that follows is no part of it.
+std::string ByCodeUnits(char32_t code) {
+  std::string text;
+  for (const char16_t unit : boost::locale::conv::utf_to_utf<char16_t>(&code, &code + 1)) {
+    text += fmt::format("\\x{:04X}", static_cast<unsigned>(unit));
+  }
+  return text;
+}
+
 std::string EscapedForMof(char32_t code, std::string_view character) {
   const auto* const escape = std::ranges::find(kMofEscapes, code, &MofEscape::code);
   if (escape != std::end(kMofEscapes)) return escape->text;
-  // Always four digits, so that a digit that follows is no part of it.
-  return IsUnsafe(code) ? ByCodeUnits(code, "\\x%04X") : std::string(character);
+  return IsUnsafe(code) ? ByCodeUnits(code) : std::string(character);
 }
 
 }  // namespace

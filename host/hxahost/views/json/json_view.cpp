@@ -9,6 +9,7 @@
 #include "host/hxacore/value_reader.h"
 #include "host/hxahost/result/object_path.h"
 #include "host/hxahost/result/unread_lines.h"
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/json_output.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -40,56 +41,55 @@ Json InstanceJson(const TPublishedInstance& instance) {
   for (const PublishedProperty& property : instance.Properties()) {
     properties[std::string(property.name)] = ValueJson(property.value);
   }
-  Json json = Json::object();
-  json["class"] = instance.Class().name;
-  json["path"] = ObjectPathText(instance.Reference());
-  json["properties"] = std::move(properties);
-  return json;
+  return {
+      {"class",      instance.Class().name               },
+      {"path",       ObjectPathText(instance.Reference())},
+      {"properties", std::move(properties)               }
+  };
 }
 
 Json EntryJson(const LoggedEntry& entry) {
-  Json json = Json::object();
-  json["level"] = entry.level;
-  json["text"] = AsUtf8(entry.text);
-  return json;
+  return {
+      {"level", entry.level       },
+      {"text",  AsUtf8(entry.text)}
+  };
 }
 
 Json RunJson(const ToolRun& run) {
-  Json json = Json::object();
-  json["command"] = AsUtf8(run.path);
-  json["arguments"] = Json::array();
-  for (const std::string& argument : run.arguments) json["arguments"].push_back(AsUtf8(argument));
-  json["seconds"] = std::round(run.seconds * 1000) / 1000;
-  json["exitStatus"] = run.exitStatus ? Json(*run.exitStatus) : Json();
-  json["bytes"] = run.bytes;
-  json["outcome"] = OutcomeWord(run.outcome);
-  json["failure"] = run.failure;
-  return json;
+  Json arguments = Json::array();
+  for (const std::string& argument : run.arguments) arguments.push_back(AsUtf8(argument));
+  return {
+      {"command",    AsUtf8(run.path)                               },
+      {"arguments",  std::move(arguments)                           },
+      {"seconds",    std::round(run.seconds * 1000) / 1000          },
+      {"exitStatus", run.exitStatus ? Json(*run.exitStatus) : Json()},
+      {"bytes",      run.bytes                                      },
+      {"outcome",    OutcomeWord(run.outcome)                       },
+      {"failure",    run.failure                                    }
+  };
 }
 
 Json UnreadTextJson(const UnreadText& text) {
-  Json json = Json::object();
-  json["command"] = AsUtf8(text.command);
-  json["lines"] = Json::array();
+  Json lines = Json::array();
   for (std::size_t index = 0; index < text.unread.size(); ++index) {
-    Json line = Json::object();
-    line["number"] = text.unread[index] + 1;
-    line["text"] = AsUtf8(text.unreadLines[index]);
-    json["lines"].push_back(std::move(line));
+    lines.push_back({
+        {"number", text.unread[index] + 1         },
+        {"text",   AsUtf8(text.unreadLines[index])}
+    });
   }
-  return json;
+  return {
+      {"command", AsUtf8(text.command)},
+      {"lines",   std::move(lines)    }
+  };
 }
 
 // Line feeds within strings are escapes, so each one here ends a line of the layout.
 void WriteIndented(std::ostream& out, const Json& json, std::string_view indent) {
   const std::string text = JsonText(json, 2);
-  std::string_view rest = text;
-  while (true) {
-    const std::size_t end = rest.find('\n');
-    out << indent << rest.substr(0, end);
-    if (end == rest.npos) return;
-    out << '\n';
-    rest.remove_prefix(end + 1);
+  std::string_view lineEnd;
+  for (const std::string_view line : Split(text, "\n")) {
+    out << lineEnd << indent << line;
+    lineEnd = "\n";
   }
 }
 

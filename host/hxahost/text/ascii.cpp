@@ -1,0 +1,43 @@
+#include "host/hxahost/text/ascii.h"
+
+#include <algorithm>
+
+#include "host/hxacore/ignore_case.h"
+
+namespace hxahost {
+
+std::string_view Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kWhiteSpace);
+  if (first == text.npos) return {};
+  return text.substr(first, text.find_last_not_of(kWhiteSpace) - first + 1);
+}
+
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  std::ranges::transform(lower, lower.begin(), NKVRHXA20::LowerCase);
+  return lower;
+}
+
+std::vector<std::string_view> Split(std::string_view text, std::string_view separator) {
+  std::vector<std::string_view> pieces;
+  for (std::size_t end = text.find(separator); end != text.npos; end = text.find(separator)) {
+    pieces.push_back(text.substr(0, end));
+    text.remove_prefix(end + separator.size());
+  }
+  pieces.push_back(text);
+  return pieces;
+}
+
+std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view separators) {
+  std::vector<std::string_view> pieces;
+  for (std::size_t end = text.find_first_of(separators); end != text.npos; end = text.find_first_of(separators)) {
+    pieces.push_back(text.substr(0, end));
+    text.remove_prefix(end + 1);
+  }
+  pieces.push_back(text);
+  return pieces;
+}
+
+bool IsDigits(std::string_view text) { return !text.empty() && text.find_first_not_of("0123456789") == text.npos; }
+
+}  // namespace hxahost

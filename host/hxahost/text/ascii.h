@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// ASCII text, whatever the locale says of a letter. Bytes that are not ASCII stay as they are.
+namespace hxahost {
+
+// Blanks, tabs and line ends.
+constexpr std::string_view kWhiteSpace = " \t\r\n";
+
+// The text without the white space at both ends.
+std::string_view Trim(std::string_view text);
+
+// The text with its capital letters as small ones.
+std::string Lower(std::string_view text);
+
+// What is between the separators, empty pieces included: one more than there are separators.
+std::vector<std::string_view> Split(std::string_view text, std::string_view separator);
+
+// The same where each of the characters is a separator.
+std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view separators);
+
+// Whether the text is a decimal number without a sign.
+bool IsDigits(std::string_view text);
+
+}  // namespace hxahost

@@ -1,0 +1,33 @@
+#include "host/hxahost/text/ascii.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace hxahost;
+using testing::ElementsAre;
+
+TEST(Ascii, LosesWhiteSpaceAtBothEnds) {
+  EXPECT_EQ(Trim(" \t a b\r\n"), "a b");
+  EXPECT_EQ(Trim(" \r\n"), "");
+  EXPECT_EQ(Trim(""), "");
+  EXPECT_EQ(Trim("\va\xa0"), "\va\xa0") << "only what tools put around their values";
+}
+
+TEST(Ascii, HasSmallLettersForCapitalOnes) { EXPECT_EQ(Lower("RAID-5E \xc4"), "raid-5e \xc4"); }
+
+TEST(Ascii, IsSplitAtASeparatorWithEmptyPieces) {
+  EXPECT_THAT(Split("a, b,, c", ", "), ElementsAre("a", "b,", "c"));
+  EXPECT_THAT(Split("\na\n", "\n"), ElementsAre("", "a", ""));
+  EXPECT_THAT(Split("", "\n"), ElementsAre(""));
+  EXPECT_THAT(SplitAtAny("Failed,(a;b)", ",;()"), ElementsAre("Failed", "", "a", "b", ""));
+  EXPECT_THAT(SplitAtAny("", ","), ElementsAre(""));
+}
+
+TEST(Ascii, IsANumberWhereItHasDigitsAlone) {
+  EXPECT_TRUE(IsDigits("0190"));
+  for (const char* const text : {"", "-1", "1 ", "0x1", "1.5"}) EXPECT_FALSE(IsDigits(text)) << text;
+}
+
+}  // namespace
