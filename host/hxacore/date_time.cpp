@@ -37,18 +37,16 @@ constexpr Field kFields[] = {
 };
 
 [[noreturn]] void Reject(const std::string& text, const std::string& reason) {
-  throw THXAException("\"" + text + "\" is not a CIM date and time: " + reason);
+  throw THXAException(fmt::format("\"{}\" is not a CIM date and time: {}", text, reason));
 }
 
 unsigned ReadField(const std::string& text, const Field& field) {
   unsigned number = 0;
   for (const char digit : std::string_view(text).substr(field.begin, field.length)) {
-    if (digit < '0' || digit > '9') Reject(text, std::string("the ") + field.name + " is not a number");
+    if (digit < '0' || digit > '9') Reject(text, fmt::format("the {} is not a number", field.name));
     number = number * 10 + static_cast<unsigned>(digit - '0');
   }
-  if (number < field.lowest || number > field.highest) {
-    Reject(text, std::string("the ") + field.name + " is out of range");
-  }
+  if (number < field.lowest || number > field.highest) Reject(text, fmt::format("the {} is out of range", field.name));
   return number;
 }
 

@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include <fmt/core.h>
 #include <boost/make_shared.hpp>
 
 #include "host/hxacore/ignore_case.h"
@@ -38,13 +39,12 @@ std::string_view Spelling(std::string_view declared, const std::string& asSet) {
 
 const PropertyDeclaration& Declared(const ClassDeclaration& declaration, const std::string& name) {
   const PropertyDeclaration* const property = FindProperty(declaration, name);
-  if (!property)
-    throw THXAException("The class \"" + std::string(declaration.name) + "\" has no property \"" + name + "\".");
+  if (!property) throw THXAException(fmt::format("The class \"{}\" has no property \"{}\".", declaration.name, name));
   return *property;
 }
 
 std::string Place(const ClassDeclaration& declaration, const PropertyDeclaration& property) {
-  return "\"" + std::string(declaration.name) + "." + std::string(property.name) + "\"";
+  return fmt::format("\"{}.{}\"", declaration.name, property.name);
 }
 
 }  // namespace
@@ -57,7 +57,7 @@ TInstance::TInstance(const ClassDeclaration& declaration, TKeep keep)
 }
 
 void TInstance::Commit(TPropertyMap) {
-  if (!keep_) throw THXAException("An instance of \"" + std::string(declaration_.name) + "\" is committed already.");
+  if (!keep_) throw THXAException(fmt::format("An instance of \"{}\" is committed already.", declaration_.name));
   std::exchange(keep_, nullptr)(shared_from_this());
 }
 
@@ -72,7 +72,8 @@ void TInstance::SetProperty(const std::string& name, const TCIMValue& value, con
   const PropertyDeclaration& declared = Declared(declaration_, name);
   if (!keep_) throw THXAException(Place(declaration_, declared) + " cannot be set: the instance is committed already.");
   if (!HasDeclaredType(value, declared)) {
-    throw THXAException(Place(declaration_, declared) + " is " + TypeText(declared) + ", which the value set is not.");
+    throw THXAException(
+        fmt::format("{} is {}, which the value set is not.", Place(declaration_, declared), TypeText(declared)));
   }
   const auto isSame = [&](const PublishedProperty& property) { return EqualIgnoringCase(property.name, name); };
   const auto found = std::ranges::find_if(properties_, isSame);

@@ -3,6 +3,7 @@
 #include <map>
 #include <utility>
 
+#include <fmt/core.h>
 #include <boost/make_shared.hpp>
 
 #include "host/hxacore/instance.h"
@@ -22,7 +23,7 @@ struct Contents {
 
 const ClassDeclaration& Known(const std::string& name) {
   const ClassDeclaration* const declaration = FindClass(name);
-  if (!declaration) throw THXAException("There is no class \"" + name + "\".");
+  if (!declaration) throw THXAException(fmt::format("There is no class \"{}\".", name));
   return *declaration;
 }
 
@@ -35,7 +36,7 @@ class TClass final : public ICIMClass {
 
   boost::shared_ptr<ICIMInstance> CreateInstance(const TPropertyMap&) override {
     if (declaration_.name == kOperatingSystem) {
-      throw THXAException(std::string("Only the host makes instances of \"") + kOperatingSystem + "\".");
+      throw THXAException(fmt::format("Only the host makes instances of \"{}\".", kOperatingSystem));
     }
     return boost::make_shared<TInstance>(declaration_,
                                          [contents = contents_](const boost::shared_ptr<TInstance>& committed) {

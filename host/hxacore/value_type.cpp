@@ -55,10 +55,8 @@ bool HasDeclaredType(const TCIMValue& value, const PropertyDeclaration& declared
 std::string TypeName(ECIMType type) { return TypeOf(type).name; }
 
 std::string TypeText(const PropertyDeclaration& declared) {
-  std::string text = TypeName(declared.type);
-  if (declared.isArray) text += "[]";
-  if (!declared.referencedClass.empty()) text += " to " + std::string(declared.referencedClass);
-  return text;
+  if (declared.type == kCIMReference) return "reference to " + std::string(declared.referencedClass);
+  return TypeName(declared.type) + (declared.isArray ? "[]" : "");
 }
 
 }  // namespace NKVRHXA20

@@ -3,6 +3,8 @@
 #include <string_view>
 #include <utility>
 
+#include <fmt/core.h>
+
 #include "host/hxacore/whole_file.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/escaping.h"
@@ -24,13 +26,13 @@ class NoResult : public std::runtime_error {
 const Json& Member(const Json& object, const char* name) {
   if (!object.is_object()) throw NoResult("an object is missing");
   const auto member = object.find(name);
-  if (member == object.end()) throw NoResult("\"" + std::string(name) + "\" is missing");
+  if (member == object.end()) throw NoResult(fmt::format("\"{}\" is missing", name));
   return *member;
 }
 
 const Json& Member(const Json& object, const char* name, Json::value_t type) {
   const Json& member = Member(object, name);
-  if (member.type() != type) throw NoResult("\"" + std::string(name) + "\" is missing");
+  if (member.type() != type) throw NoResult(fmt::format("\"{}\" is missing", name));
   return member;
 }
 
@@ -58,7 +60,7 @@ ToolRun ReadJsonRun(const Json& json) {
   }
   const std::string outcome = Member(json, "outcome", Json::value_t::string);
   const auto read = OutcomeOfWord(outcome);
-  if (!read) throw NoResult("the outcome \"" + outcome + "\" is not known");
+  if (!read) throw NoResult(fmt::format("the outcome \"{}\" is not known", outcome));
   run.outcome = *read;
   run.failure = Member(json, "failure", Json::value_t::string);
   return run;
@@ -75,7 +77,7 @@ bool AddItems(Items& items, const Json& query, const char* name, Read read) {
 JsonResult ReadWholeResult(const Json& json) {
   if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
   const Json& format = Member(json, "format", Json::value_t::number_unsigned);
-  if (format != 1) throw NoResult("its format is " + format.dump() + ", not 1");
+  if (format != 1) throw NoResult(fmt::format("its format is {}, not 1", format.dump()));
   const Json& queries = Member(json, "queries", Json::value_t::array);
   if (queries.empty()) throw NoResult("it has no query");
   JsonResult result;
@@ -110,7 +112,7 @@ JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
   try {
     return ReadWholeResult(Json::parse(text, CheckDepth, false));
   } catch (const NoResult& reason) {
-    RejectFile(name, "is no result of \"hxahost query --format json\": " + Printable(reason.what()) + ".");
+    RejectFile(name, fmt::format("is no result of \"hxahost query --format json\": {}.", Printable(reason.what())));
   }
 }
 

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include <fmt/core.h>
+
 #include "host/hxacore/value_type.h"
 #include "host/hxahost/schema/property_origins.h"
 
@@ -33,10 +35,8 @@ std::string CellText(std::string_view text) {
 }
 
 std::string TypeCell(const PropertyDeclaration& property) {
-  std::string cell = property.type == kCIMReference ? "reference to " : TypeName(property.type);
-  if (property.isArray) cell += "[]";
-  if (property.type == kCIMReference) cell.append("`").append(property.referencedClass).append("`");
-  return cell;
+  if (property.type == kCIMReference) return fmt::format("reference to `{}`", property.referencedClass);
+  return TypeText(property);
 }
 
 std::string OriginCell(const ClassDeclaration& declaration, const PropertyDeclaration& property) {
@@ -48,11 +48,11 @@ std::string OriginCell(const ClassDeclaration& declaration, const PropertyDeclar
 }
 
 void WriteClass(std::ostream& out, const ClassDeclaration& declaration) {
-  out << "\n## " << declaration.name << "\n\n" << declaration.description << "\n\n";
+  out << fmt::format("\n## {}\n\n{}\n\n", declaration.name, declaration.description);
   out << "| Property | Type | Meaning | From |\n|---|---|---|---|\n";
   for (const PropertyDeclaration& property : declaration.properties) {
-    out << "| `" << property.name << '`' << (property.isKey ? " (key)" : "") << " | " << TypeCell(property) << " | "
-        << CellText(property.description) << " | " << OriginCell(declaration, property) << " |\n";
+    out << fmt::format("| `{}`{} | {} | {} | {} |\n", property.name, property.isKey ? " (key)" : "", TypeCell(property),
+                       CellText(property.description), OriginCell(declaration, property));
   }
 }
 
@@ -63,8 +63,8 @@ void WriteDrawing(std::ostream& out, std::span<const ClassDeclaration> classes) 
     if (!declaration.isAssociation) continue;
     const PropertyDeclaration& from = declaration.properties.front();
     const PropertyDeclaration& to = declaration.properties.back();
-    out << "  " << from.referencedClass << " -- \"" << declaration.name << "<br>" << from.name << " to " << to.name
-        << "\" --> " << to.referencedClass << '\n';
+    out << fmt::format("  {} -- \"{}<br>{} to {}\" --> {}\n", from.referencedClass, declaration.name, from.name,
+                       to.name, to.referencedClass);
   }
   out << "```\n";
 }

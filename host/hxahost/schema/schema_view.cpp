@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include <fmt/format.h>
+
 #include "host/hxacore/value_type.h"
 #include "host/hxahost/schema/property_origins.h"
 #include "host/hxahost/schema/schema_markdown.h"
@@ -31,18 +33,15 @@ std::string MofType(const PropertyDeclaration& property) {
 }
 
 void WriteOrigins(std::ostream& out, const std::vector<std::string>& lines) {
-  std::string_view separator = ",\n   MappingStrings {";
-  for (const std::string& line : lines) {
-    out << separator << MofText(line);
-    separator = ", ";
-  }
-  if (!lines.empty()) out << '}';
+  std::vector<std::string> texts;
+  for (const std::string& line : lines) texts.push_back(MofText(line));
+  if (!texts.empty()) out << fmt::format(",\n   MappingStrings {{{}}}", fmt::join(texts, ", "));
 }
 
 void WriteProperty(std::ostream& out, const ClassDeclaration& declaration, const PropertyDeclaration& property) {
-  out << "  [" << (property.isKey ? "Key, " : "") << "Description(" << MofText(property.description) << ")";
+  out << fmt::format("  [{}Description({})", property.isKey ? "Key, " : "", MofText(property.description));
   WriteOrigins(out, OriginLines(declaration.name, property.name));
-  out << "]\n  " << MofType(property) << ' ' << property.name << (property.isArray ? "[]" : "") << ";\n";
+  out << fmt::format("]\n  {} {}{};\n", MofType(property), property.name, property.isArray ? "[]" : "");
 }
 
 constexpr SchemaView kSchemaViews[] = {
@@ -56,15 +55,15 @@ void WriteClassList(std::ostream& out, std::span<const ClassDeclaration> classes
   std::size_t width = 0;
   for (const ClassDeclaration& declaration : classes) width = std::max(width, declaration.name.size());
   for (const ClassDeclaration& declaration : classes) {
-    out << declaration.name << std::string(width - declaration.name.size() + 2, ' ') << declaration.description << '\n';
+    out << fmt::format("{:{}}  {}\n", declaration.name, width, declaration.description);
   }
 }
 
 void WriteSchemaMof(std::ostream& out, std::span<const ClassDeclaration> classes) {
   out << kQualifiers;
   for (const ClassDeclaration& declaration : classes) {
-    out << "\n[" << (declaration.isAssociation ? "Association, " : "") << "Description("
-        << MofText(declaration.description) << ")]\nclass " << declaration.name << " {\n";
+    out << fmt::format("\n[{}Description({})]\nclass {} {{\n", declaration.isAssociation ? "Association, " : "",
+                       MofText(declaration.description), declaration.name);
     for (const PropertyDeclaration& property : declaration.properties) WriteProperty(out, declaration, property);
     out << "};\n";
   }
