@@ -36,12 +36,6 @@ std::vector<std::string> RecordedRuns(unsigned number) {
   return {GetConfig(number), logs + " device", logs + " dead", logs + " event", logs + " uart"};
 }
 
-std::vector<std::string> Concatenated(const std::vector<std::vector<std::string>>& lists) {
-  std::vector<std::string> all;
-  for (const auto& list : lists) all.insert(all.end(), list.begin(), list.end());
-  return all;
-}
-
 // A machine on which arcconf answers for no controller; a test gives it some.
 class ArcconfDataTest : public testing::Test {
  protected:
@@ -84,45 +78,6 @@ TEST_F(ArcconfDataTest, AsksTwiceAndFindsNothingOnAMachineWithoutControllers) {
   EXPECT_EQ(services_.runs, (std::vector<std::string>{GetConfig(1), GetConfig(1)}));
   EXPECT_TRUE(controllers_.empty());
   EXPECT_TRUE(rawData_.empty());
-}
-
-TEST_F(ArcconfDataTest, RunsAllFiveCommandsForARecordAndTheFirstOnceMoreForParsing) {
-  AddController(1, "A");
-  Collect();
-  EXPECT_EQ(services_.runs, Concatenated({
-                                {GetConfig(1)},
-                                RecordedRuns(1), {            GetConfig(2)           },
-                                { GetConfig(1),            GetConfig(2)}
-  }));
-}
-
-TEST_F(ArcconfDataTest, LogsEveryCommandBeforeItRuns) {
-  AddController(1, "A");
-  Collect();
-  const std::string config = " ARCCONF  using Spawnprocess. Controller# :1 opt1: getconfig opt2: al";
-  const std::string logs = " ARCCONF  using Spawnprocess. Controller# :1 opt1: getlogs opt2: ";
-  const std::string next = " ARCCONF  using Spawnprocess. Controller# :2 opt1: getconfig opt2: al";
-  EXPECT_EQ(services_.log, (std::vector<LogEntry>{
-                               {3, config         },
-                               {3, config         },
-                               {3, logs + "device"},
-                               {3, logs + "dead"  },
-                               {3, logs + "event" },
-                               {3, logs + "uart"  },
-                               {3, next           },
-                               {3, config         },
-                               {3, next           }
-  }));
-}
-
-TEST_F(ArcconfDataTest, KeepsTheOutputOfEachCommandUnderItsCommandLine) {
-  AddController(1, "A");
-  Collect();
-  EXPECT_EQ(Commands(),
-            (std::vector<std::string>{"zenx//arcconf.exe getconfig 1 al", "zenx//arcconf.exe getlogs 1 device",
-                                      "zenx//arcconf.exe getlogs 1 dead", "zenx//arcconf.exe getlogs 1 event",
-                                      "zenx//arcconf.exe getlogs 1 uart"}));
-  EXPECT_EQ(rawData_[2]->RawResults, (std::vector<std::string>{"output of arcconf getlogs 1 dead"}));
 }
 
 TEST_F(ArcconfDataTest, KeepsNoRecordOfAnEmptyOutput) {

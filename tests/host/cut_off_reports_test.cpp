@@ -140,7 +140,7 @@ TEST_P(CutOffReport, HasNothingOfALineThatIsCutOffItself) {
     ASSERT_TRUE(SameFields(found[0]->LogicalDevices, before[0]->LogicalDevices)) << end;
     ASSERT_TRUE(SameFields(found[0]->StripeOrders, before[0]->StripeOrders)) << end;
     ASSERT_TRUE(SameFields(found[0]->PhysicalDevices, before[0]->PhysicalDevices)) << end;
-    for (const auto& [name, field] : kControllerFields) {
+    for (const auto& [name, field] : FieldsOf(*found[0])) {
       if (field == &ZenxController::ControllerType) continue;  // named without a model, too
       const std::string& value = (*found[0]).*field;
       ASSERT_TRUE(value.empty() || value == (*full_[0]).*field) << name << " at " << end;

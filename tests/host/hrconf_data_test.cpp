@@ -104,34 +104,6 @@ TEST_F(HrconfDataTest, AsksThreeControllersByTheirNumbersAndStopsAtTheFourth) {
   EXPECT_EQ(controllers_.size(), 3u);
 }
 
-TEST_F(HrconfDataTest, LogsEveryCommandAndEveryConfigurationThatItParses) {
-  AddController(1);
-  Collect(4);
-  const std::string run = " HRCCONF  using Spawnprocess. Controller# :";
-  EXPECT_EQ(services_.log, (std::vector<LogEntry>{
-                               {3, run + "1 opt1: getconfig opt2: al"             },
-                               {3, run + "1 opt1: getconfig opt2: al"             },
-                               {3, run + "1 opt1: getstatus"                      },
-                               {3, run + "1 opt1: getversion"                     },
-                               {3, run + "2 opt1: getconfig opt2: al"             },
-                               {3, run + "1 opt1: getconfig opt2: al"             },
-                               {3, "HRCONFDATA-Getconfig 1 al:\n" + Config("Okay")},
-                               {3, run + "1 opt1: getversion"                     },
-                               {3, "Found HRCONF Physical Drive Info\n"           },
-                               {3, run + "2 opt1: getconfig opt2: al"             },
-                               {3, "HRCONFDATA-Getconfig 2 al:\n" + kNoControllers}
-  }));
-}
-
-TEST_F(HrconfDataTest, KeepsTheOutputOfEachCommandWithTheWordForNoOption) {
-  AddController(1);
-  Collect();
-  EXPECT_EQ(Commands(),
-            (std::vector<std::string>{"zenx//hrconf_64.exe getconfig 1 al", "zenx//hrconf_64.exe getstatus 1 nuthin",
-                                      "zenx//hrconf_64.exe getversion 1 nuthin"}));
-  EXPECT_EQ(rawData_[1]->RawResults, (std::vector<std::string>{"status 1"}));
-}
-
 TEST_F(HrconfDataTest, KeepsARecordOfAFailedOrEmptyCommandToo) {
   AddController(1);
   services_.answers.erase(GetStatus(1));

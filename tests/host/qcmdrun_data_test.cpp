@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -13,7 +12,8 @@
 #include "logs/statistics_parsers.h"
 #include "logs/statistics_records.h"
 #include "plugin/host_interface/services.h"
-#include "tests/support/qcmdrun_answers.h"
+#include "tests/support/sample_text.h"
+#include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 #include "tools/qcmdrun/status_parser.h"
 
@@ -23,6 +23,17 @@ using NKVRHXA20::THXAException;
 using NKVRHXA20::TRootObject;
 
 using Texts = std::vector<std::string>;
+
+// The commands that a controller is asked after its configuration.
+const std::pair<const char*, const char*> kFurtherCommands[] = {
+    {"getstatus",  "device"},
+    {"getbst",     "device"},
+    {"getevent",   "device"},
+    {"getevent",   "ddd"   },
+    {"getevent",   "soft"  },
+    {"getevent",   "hard"  },
+    {"getsubstat", "device"},
+};
 
 const std::string kNoneFound = "Found 0 KVR Zentraxis controller(s)\r\n";
 const std::string kAborted = "Command aborted.\r\n";
@@ -92,8 +103,9 @@ class QcmdrunDataTest : public testing::Test {
     return "| " + month + "/15/2005 | 14:02:33 | 1 | " + id + " | 07 | gone\n";
   }
 
+  // "qcmdrun getconfig 1 al"
   static std::string Run(const std::string& command, int number, const std::string& option) {
-    return QcmdrunRun(command, number, option);
+    return "qcmdrun " + command + " " + std::to_string(number) + " " + option;
   }
 
   void Answer(const std::string& command, const std::string& option, const std::string& text, int number = 1) {
@@ -111,6 +123,17 @@ class QcmdrunDataTest : public testing::Test {
   std::shared_ptr<ZenxController> OnlyController() {
     const ControllerList controllers = data_.GetControllers();
     return controllers.size() == 1 ? controllers.front() : nullptr;
+  }
+
+  static void ExpectDevicesAlone(const ZenxController& controller) {
+    EXPECT_EQ(controller.PhysicalDevices.size(), 1u);
+    EXPECT_EQ(controller.Current_MostRecentOperation, "");
+    EXPECT_TRUE(controller.BadStripes.empty());
+    EXPECT_TRUE(controller.DeviceEvents.empty());
+    EXPECT_TRUE(controller.DddEvents.empty());
+    EXPECT_FALSE(controller.SoftEvents);
+    EXPECT_FALSE(controller.HardEvents);
+    EXPECT_TRUE(controller.SubStats.empty());
   }
 
   Texts ControllerNumbers() const {
@@ -138,98 +161,6 @@ class QcmdrunDataTest : public testing::Test {
   ScriptedServices services_;
   QcmdrunData data_{TRootObject::GetCoreLogger()};
 };
-
-TEST_F(QcmdrunDataTest, RunsTheRecordingPassThenTheParsingPass) {
-  Collect();
-  EXPECT_EQ(services_.runs, (Texts{
-                                "qcmdrun getconfig 1 al",  "qcmdrun getconfig 1 al",    "qcmdrun getstatus 1 device",
-                                "qcmdrun getbst 1 device", "qcmdrun getevent 1 device", "qcmdrun getevent 1 ddd",
-                                "qcmdrun getevent 1 soft", "qcmdrun getevent 1 hard",   "qcmdrun getsubstat 1 device",
-                                "qcmdrun getconfig 2 al",  "qcmdrun getconfig 1 al",    "qcmdrun getstatus 1 device",
-                                "qcmdrun getbst 1 device", "qcmdrun getevent 1 device", "qcmdrun getevent 1 ddd",
-                                "qcmdrun getevent 1 soft", "qcmdrun getevent 1 hard",   "qcmdrun getsubstat 1 device",
-                                "qcmdrun getconfig 2 al",
-                            }));
-}
-
-TEST_F(QcmdrunDataTest, LogsEveryStepAtTheRoutineLevel) {
-  Collect();
-  const std::string prefix = " QCMDRUN is using Spawnprocess. Controller# :";
-  const Texts expected = {
-      prefix + "1 opt1: getconfig opt2: al",
-      prefix + "1 opt1: getconfig opt2: al",
-      prefix + "1 opt1: getstatus opt2: device",
-      prefix + "1 opt1: getbst opt2: device",
-      prefix + "1 opt1: getevent opt2: device",
-      prefix + "1 opt1: getevent opt2: ddd",
-      prefix + "1 opt1: getevent opt2: soft",
-      prefix + "1 opt1: getevent opt2: hard",
-      prefix + "1 opt1: getsubstat opt2: device",
-      prefix + "2 opt1: getconfig opt2: al",
-      "Looking for QCMRUN controller",
-      prefix + "1 opt1: getconfig opt2: al",
-      "configData is not empty!\n",
-      "Found QCMRUN Controller information",
-      "Parsing for QCMRUN logical drive information\n",
-      "Found QCMDRUN Logical Drive Information\n",
-      "Parse For  QCMDRUN Stripe Order\n",
-      "Found QCMDRUN Stripe Order Data\n",
-      "Parse For QCMDRUN Physical Devices\n",
-      prefix + "1 opt1: getstatus opt2: device",
-      prefix + "1 opt1: getbst opt2: device",
-      prefix + "1 opt1: getevent opt2: device",
-      prefix + "1 opt1: getevent opt2: ddd",
-      prefix + "1 opt1: getevent opt2: soft",
-      prefix + "1 opt1: getevent opt2: hard",
-      prefix + "1 opt1: getsubstat opt2: device",
-      "Looking for QCMRUN controller",
-      prefix + "2 opt1: getconfig opt2: al",
-  };
-  EXPECT_EQ(services_.LogTexts(), expected);
-  for (const LogEntry& entry : services_.log) EXPECT_EQ(entry.level, 3) << entry.text;
-}
-
-TEST_F(QcmdrunDataTest, RecordsEveryAnswerOfTheFirstPassOnce) {
-  Collect();
-  EXPECT_EQ(RawCommands(), (Texts{
-                               "zenx//qcmdrun.exe getconfig 1 al",
-                               "zenx//qcmdrun.exe getstatus 1 device",
-                               "zenx//qcmdrun.exe getbst 1 device",
-                               "zenx//qcmdrun.exe getevent 1 device",
-                               "zenx//qcmdrun.exe getevent 1 ddd",
-                               "zenx//qcmdrun.exe getevent 1 soft",
-                               "zenx//qcmdrun.exe getevent 1 hard",
-                               "zenx//qcmdrun.exe getsubstat 1 device",
-                           }));
-  EXPECT_EQ(data_.GetRawData()[2]->RawResults,
-            (Texts{"Get bad stripe information", "Logical drive 1 - 2", "Command completed."}));
-}
-
-TEST_F(QcmdrunDataTest, AttachesEverythingToTheController) {
-  Collect();
-  const auto controller = OnlyController();
-  ASSERT_TRUE(controller);
-  EXPECT_EQ(controller->ControllerType, "Zentraxis C4");
-  EXPECT_EQ(controller->Current_MostRecentOperation, " None\r\n");
-  ASSERT_EQ(controller->LogicalDevices.size(), 1u);
-  EXPECT_EQ(controller->LogicalDevices[0]->LogicalDriveNum, "1");
-  ASSERT_EQ(controller->StripeOrders.size(), 1u);
-  EXPECT_EQ(controller->StripeOrders[0]->CollectionID, "Zentraxis1ArrayA");
-  ASSERT_EQ(controller->PhysicalDevices.size(), 1u);
-  EXPECT_EQ(controller->PhysicalDevices[0]->Channel, "1");
-  ASSERT_EQ(controller->BadStripes.size(), 1u);
-  EXPECT_EQ(controller->BadStripes[0]->NumBadStripes, "2");
-  ASSERT_EQ(controller->DeviceEvents.size(), 1u);
-  EXPECT_EQ(controller->DeviceEvents[0]->Channel, "1");
-  ASSERT_EQ(controller->DddEvents.size(), 1u);
-  EXPECT_EQ(controller->DddEvents[0]->RecordID, "0001");
-  ASSERT_TRUE(controller->SoftEvents);
-  EXPECT_EQ(controller->SoftEvents->Codes, (std::vector<std::uint32_t>{1}));
-  ASSERT_TRUE(controller->HardEvents);
-  EXPECT_EQ(controller->HardEvents->Codes, (std::vector<std::uint32_t>{2}));
-  ASSERT_EQ(controller->SubStats.size(), 1u);
-  EXPECT_EQ(controller->SubStats[0]->InstanceID, "Zentraxis:1C1S0");
-}
 
 TEST_F(QcmdrunDataTest, RunsTwiceAndFindsNothingWhereTheFirstNumberReportsNoController) {
   SetNoneFrom(1);
@@ -288,19 +219,11 @@ TEST_F(QcmdrunDataTest, RecordsTheTextForAFailedRunAndGoesOnWithoutAController) 
 }
 
 TEST_F(QcmdrunDataTest, FindsNothingInTheTextForAFailedRunOfALaterCommand) {
-  for (const auto& [command, option] : kQcmdrunCommands) {
-    if (command != "getconfig") Fail(command, option);
-  }
+  for (const auto& [command, option] : kFurtherCommands) Fail(command, option);
   Collect();
   const auto controller = OnlyController();
   ASSERT_TRUE(controller);
-  EXPECT_EQ(controller->Current_MostRecentOperation, "");
-  EXPECT_TRUE(controller->BadStripes.empty());
-  EXPECT_TRUE(controller->DeviceEvents.empty());
-  EXPECT_TRUE(controller->DddEvents.empty());
-  EXPECT_FALSE(controller->SoftEvents);
-  EXPECT_FALSE(controller->HardEvents);
-  EXPECT_TRUE(controller->SubStats.empty());
+  ExpectDevicesAlone(*controller);
   EXPECT_EQ(Logged("Qcmdrun aborted: zenx//qcmdrun.exe is not here"), 14);
 }
 
@@ -321,20 +244,11 @@ TEST_F(QcmdrunDataTest, SkipsANumberWithAnEmptyConfiguration) {
 }
 
 TEST_F(QcmdrunDataTest, KeepsAControllerAllOfWhoseOtherAnswersAreEmpty) {
-  for (const auto& [command, option] : kQcmdrunCommands) {
-    if (command != "getconfig") Answer(command, option, "");
-  }
+  for (const auto& [command, option] : kFurtherCommands) Answer(command, option, "");
   Collect();
   const auto controller = OnlyController();
   ASSERT_TRUE(controller);
-  EXPECT_EQ(controller->PhysicalDevices.size(), 1u);
-  EXPECT_EQ(controller->Current_MostRecentOperation, "");
-  EXPECT_TRUE(controller->BadStripes.empty());
-  EXPECT_TRUE(controller->DeviceEvents.empty());
-  EXPECT_TRUE(controller->DddEvents.empty());
-  EXPECT_FALSE(controller->SoftEvents);
-  EXPECT_FALSE(controller->HardEvents);
-  EXPECT_TRUE(controller->SubStats.empty());
+  ExpectDevicesAlone(*controller);
 }
 
 TEST_F(QcmdrunDataTest, EndsBothPassesAtTheNumberThatReportsNoController) {
@@ -436,91 +350,30 @@ TEST_F(QcmdrunDataTest, LeavesTheSlotDeviceEmptyWhenNoPresentDeviceHasTheSlotNum
   EXPECT_EQ(controller->SlotDeviceId, "");
 }
 
-// One answer that the utility gives on the sample machine for controller 1, cut off at any place. The controller has
-// no more of a configuration than it takes to be asked for everything, and all other answers are empty.
-class QcmdrunDataCutOff : public testing::Test {
- protected:
-  QcmdrunDataCutOff() {
-    AnswerAsSampleQcmdrun(services_);
-    samples_ = services_.answers;
-    for (const auto& [command, option] : kQcmdrunCommands) services_.answers[QcmdrunRun(command, 1, option)] = "";
-    services_.answers[QcmdrunRun("getconfig", 2, "al")] = kNoneFound;
-    services_.answers[kGetConfig] = kShortest;
-  }
-
-  // Collects with this answer to the run. True: the whole answer could be read. Any failure but the stated one ends
-  // the test.
-  bool Collects(const std::string& run, const std::string& answer) {
-    const std::string before = std::exchange(services_.answers[run], answer);
-    services_.log.clear();
-    services_.runs.clear();
-    bool isRead = true;
-    QcmdrunData data(TRootObject::GetCoreLogger());
-    try {
-      data.Collect(0);
-    } catch (const std::out_of_range&) {
-      isRead = false;
-    }
-    services_.answers[run] = before;
-    return isRead;
-  }
-
-  void CutBehindEveryLine(const std::string& run, const std::string& text) {
-    for (std::size_t lineFeed = text.find('\n'); lineFeed != text.npos; lineFeed = text.find('\n', lineFeed + 1)) {
-      Collects(run, text.substr(0, lineFeed + 1));
-    }
-    EXPECT_TRUE(Collects(run, text)) << run;
-  }
-
-  const std::string kGetConfig = QcmdrunRun("getconfig", 1, "al");
-  const std::string kShortest =
-      CrLf("Controller information\nPhysical device information\n-----\nCommand completed successfully.\n");
-
-  ScriptedServices services_;
-  std::map<std::string, std::string> samples_;
-};
-
-TEST_F(QcmdrunDataCutOff, IsReadOrFailsInTheStatedWayAtEveryLine) {
-  for (const auto& [command, option] : kQcmdrunCommands) {
-    const std::string run = QcmdrunRun(command, 1, option);
-    CutBehindEveryLine(run, samples_[run]);
-  }
-}
-
-TEST_F(QcmdrunDataCutOff, IsReadOrFailsInTheStatedWayWithLineFeedsAlone) {
-  for (const auto& [command, option] : kQcmdrunCommands) {
-    const std::string run = QcmdrunRun(command, 1, option);
-    std::string text = samples_[run];
-    std::erase(text, '\r');
-    CutBehindEveryLine(run, text);
-  }
-}
-
-TEST_F(QcmdrunDataCutOff, IsReadOrFailsInTheStatedWayAsTheAnswerToEveryOtherCommand) {
-  for (const auto& [command, option] : kQcmdrunCommands) {
-    for (const auto& sample : samples_) Collects(QcmdrunRun(command, 1, option), sample.second);
-  }
-}
-
-TEST_F(QcmdrunDataCutOff, FailsWhereverItsListsOfDrivesOrDevicesAreCut) {
-  const std::string text = samples_[kGetConfig];
+// Otherwise than the answers of the other utilities, a list that is cut off ends collection.
+TEST_F(QcmdrunDataTest, FailsWhereverTheListsOfDrivesOrDevicesAreCut) {
+  const std::string text = SampleAnswer("qcmdrun/1/getconfig-al");
   struct Case {
-    std::string name;
-    std::size_t length;
+    const char* before;
     bool isRead;
   };
-  const std::vector<Case> cases = {
-      {"before the controller",     text.find("Controller information"),         true },
-      {"inside the controller",     text.find("Hot-spare"),                      true },
-      {"inside a logical drive",    text.find("Access blocked"),                 false},
-      {"behind the logical drives", text.find("Array information"),              true },
-      {"inside the stripe orders",  text.find("   Array B"),                     false},
-      {"before the devices",        text.find("Physical device information"),    true },
-      {"inside a device",           text.find("PFA (Yes/No)"),                   false},
-      {"before the last line",      text.find("Command completed successfully"), false},
+  const Case cases[] = {
+      {"Controller information",         true },
+      {"Hot-spare",                      true },
+      {"Access blocked",                 false},
+      {"Array information",              true },
+      {"   Array B",                     false},
+      {"Physical device information",    true },
+      {"PFA (Yes/No)",                   false},
+      {"Command completed successfully", false},
   };
-  for (const Case& cutCase : cases) {
-    EXPECT_EQ(Collects(kGetConfig, text.substr(0, cutCase.length)), cutCase.isRead) << cutCase.name;
+  for (const auto& [before, isRead] : cases) {
+    services_.answers[Run("getconfig", 1, "al")] = text.substr(0, text.find(before));
+    if (isRead) {
+      EXPECT_NO_THROW(Collect()) << before;
+    } else {
+      EXPECT_THROW(Collect(), std::out_of_range) << before;
+    }
   }
 }
 

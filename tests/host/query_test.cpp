@@ -8,7 +8,7 @@
 #include "tests/support/one_of_everything.h"
 #include "tests/support/query_host.h"
 #include "tests/support/raid_log_machine.h"
-#include "tests/support/sample_answers.h"
+#include "tests/support/sample_text.h"
 
 namespace {
 
@@ -20,27 +20,6 @@ using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 using Names = std::vector<std::string>;
-
-Names CatalogueNames() {
-  Names names;
-  for (const CatalogueEntry& entry : Catalogue()) names.emplace_back(entry.name);
-  return names;
-}
-
-TEST(Query, KnowsTheClassesInTheirFixedOrder) {
-  EXPECT_THAT(
-      CatalogueNames(),
-      ElementsAre("KVRSG_zxManagerRawData", "KVRSG_zxRawData", "KVRSG_zxSCSIProtocolController", "KVRSG_zxLogicalDisk",
-                  "KVRSG_zxDiskGroup", "KVRSG_zxDiskDrive", "KVRSG_DiskGroup", "KVRSG_BadStripeData",
-                  "KVRSG_zxSCSIDeviceData", "KVRSG_zxSCSISubStatData", "KVRSG_LogRecord_SoftEvent",
-                  "KVRSG_LogRecord_zxDDD", "KVRSG_LogRecord_HardEvent", "KVRSG_LogRecord_RAIDMgrEvent",
-                  "KVRSG_zxFirmwareVersion", "KVRSG_zxBootBlockVersion", "KVRSG_zxDiskDriveVersion",
-                  "KVRSG_zxBiosVersion", "KVRSG_zxProtocolControllerForUnit",
-                  "KVRSG_zxProtocolControllerForPhysicalDisk", "KVRSG_zxDriveInDiskGroup", "KVRSG_zxExtenInDiskGroup",
-                  "KVRSG_zxStripeOrderForController", "KVRSG_zxFirmwareOnController", "KVRSG_zxBootBlockOnController",
-                  "KVRSG_zxFirmwareOnDiskDrive", "KVRSG_zxBiosOnController", "KVRSG_ElementZxScsiDeviceData",
-                  "KVRSG_ElementBadStripeData"));
-}
 
 TEST(Query, PublishesInTheOrderOfTheHostsList) {
   const ScriptedServices services;
@@ -87,7 +66,7 @@ TEST(Query, AClassNameThatDiffersInCaseAloneMatchesNothing) {
 
 TEST(Query, AnEmptyListPublishesNothingAndStillCollects) {
   ScriptedServices services;
-  const SampleAnswers answers(services);
+  services.answers = AllAnswers();
   QueryHost host;
   host.Query({});
   EXPECT_THAT(host.PublishedClasses(), IsEmpty());
@@ -96,25 +75,23 @@ TEST(Query, AnEmptyListPublishesNothingAndStillCollects) {
   EXPECT_EQ(host.state.callCounter, 1U);
 }
 
-TEST(Query, ASecondQueryRunsNoToolAndPublishesTheSame) {
-  ScriptedServices services;
-  const RaidLogSetting noLog(std::nullopt);
-  const SampleAnswers answers(services);
+TEST(Query, AnAssociationLinksWhatAnEarlierQueryPublished) {
+  constexpr const char* kDisk = "KVRSG_zxLogicalDisk";
+  constexpr const char* kLink = "KVRSG_zxProtocolControllerForUnit";
+  const ScriptedServices services;
   QueryHost host;
-  const Names names = CatalogueNames();
-  host.Query(names);
-  std::vector<std::vector<std::vector<std::string>>> first;
-  for (const std::string& name : names) first.push_back(host.Published(name));
-  const std::size_t runs = services.runs.size();
-  EXPECT_GT(runs, 0U);
-  EXPECT_THAT(host.PublishedClasses(), Contains("KVRSG_zxSCSIProtocolController"));
-
-  host.Query(names);
-  for (std::size_t index = 0; index < names.size(); ++index) {
-    EXPECT_EQ(host.Published(names[index]), first[index]) << names[index];
-  }
-  EXPECT_EQ(services.runs.size(), runs);
-  EXPECT_EQ(host.state.callCounter, 2U);
+  host.Hold({ControllerWithEverything(&host.log, "1"), ControllerWithEverything(&host.log, "2")});
+  host.Query({kLink});
+  EXPECT_THAT(host.PublishedClasses(), IsEmpty());
+  host.Query({"KVRSG_zxSCSIProtocolController", kDisk});
+  host.Query({kLink});
+  EXPECT_THAT(host.PublishedClasses(), ElementsAre(kLink, kLink));
+  // Naming an end again takes its instances away until they are published anew, which is after the association here.
+  host.Query({kLink, kDisk});
+  EXPECT_THAT(host.PublishedClasses(), ElementsAre(kDisk, kDisk));
+  host.Query({kDisk, kLink});
+  EXPECT_THAT(host.PublishedClasses(), ElementsAre(kDisk, kDisk, kLink, kLink));
+  EXPECT_EQ(host.state.callCounter, 5U);
 }
 
 TEST(Query, ASecondQueryFindsTheRaidManagersLogReadAndItsRawRecordStillThere) {
@@ -137,7 +114,7 @@ TEST(Query, ASecondQueryFindsTheRaidManagersLogReadAndItsRawRecordStillThere) {
 // Whether hrconf was run on a system of that type.
 bool RunsHrconf(std::optional<std::uint16_t> osType) {
   ScriptedServices services;
-  const SampleAnswers answers(services);
+  services.answers = AllAnswers();
   QueryHost host(osType);
   host.Query({});
   EXPECT_THAT(services.runs, Contains(StartsWith("qcmdrun ")));
@@ -155,11 +132,9 @@ TEST(Query, AHostWithoutAnOperatingSystemInstanceSkipsNothing) { EXPECT_TRUE(Run
 
 TEST(Query, AnOperatingSystemInstanceWithoutAnOsTypeSkipsNothing) {
   ScriptedServices services;
-  const SampleAnswers answers(services);
+  services.answers = AllAnswers();
   FakeNamespace nameSpace;
-  nameSpace.Add("KVRSG_OperatingSystem", {
-                                             {"Name", "System"}
-  });
+  nameSpace.Add("KVRSG_OperatingSystem", {"Name", "System"});
   RecordingLog log;
   QueryState state;
   RunQuery(state, &log, nameSpace, {});
@@ -169,7 +144,7 @@ TEST(Query, AnOperatingSystemInstanceWithoutAnOsTypeSkipsNothing) {
 TEST(Query, ACollectionThatFailsIsLoggedAndTheQueryGoesOnWithWhatThereIs) {
   ScriptedServices services;
   const RaidLogSetting noLog(std::nullopt);
-  const SampleAnswers answers(services);
+  services.answers = AllAnswers();
   services.answers["qcmdrun getevent 1 soft"] = "Controller Soft Event Log\r\n";  // cut off behind its title
   QueryHost host;
   host.Query({"KVRSG_zxSCSIProtocolController", "KVRSG_LogRecord_RAIDMgrEvent", "KVRSG_zxRawData"});
@@ -197,7 +172,7 @@ TEST(Query, ACollectionThatFailsIsLoggedAndTheQueryGoesOnWithWhatThereIs) {
 TEST(Query, RunsTheToolsOnceAlsoWhenTheLogCollectorCannotBeMade) {
   ScriptedServices services;
   const RaidLogMachine machine(services, "2007/03/05 11:02:03 PST\tINF\tSERVER\tText.\r\n");
-  const SampleAnswers answers(services);
+  services.answers = AllAnswers();
   QueryHost host;
   const HostServices working = CurrentServices();
   HostServices failing = working;

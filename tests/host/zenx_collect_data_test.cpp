@@ -2,204 +2,158 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <iterator>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
-#include "collect/ascii_text.h"
-#include "collect/collected_data.h"
 #include "plugin/host_interface/services.h"
+#include "tests/support/sample_text.h"
 #include "tests/support/scripted_services.h"
-#include "tests/support/tool_text.h"
+#include "tools/arcconf/arcconf_data.h"
+#include "tools/hrconf/hrconf_data.h"
+#include "tools/qcmdrun/qcmdrun_data.h"
 
 namespace {
 
 using NKVRHXA20::TRootObject;
+using Lines = std::vector<std::string>;
 
-using Texts = std::vector<std::string>;
+// What was found, recorded and logged, and what was run for it.
+struct Outcome {
+  Lines controllers;
+  Lines commands;
+  Lines runs;
+  std::vector<LogEntry> log;
 
-const std::string kQcmdrunConfig = CrLf(R"(Controller information
-Physical device information
------
-Command completed successfully.
-)");
-
-const std::string kConfig = CrLf(R"(Controller information
-Controller Status : Optimal
-Command completed successfully.
-)");
-
-// A machine without a controller: every utility is there and reports none. Each test gives it some.
-class ZenxCollectDataTest : public testing::Test {
- protected:
-  ZenxCollectDataTest() {
-    SetQcmdrunControllers(0);
-    SetHrconfControllers(0);
-    SetArcconfControllers(0);
-  }
-
-  // Numbers up to the count answer, higher ones report that there is no controller.
-  void SetQcmdrunControllers(int count) {
-    SetConfigs("qcmdrun", count, kQcmdrunConfig, "Found 0 KVR Zentraxis controller(s)\r\n");
-    const Texts others = {"getstatus N device", "getbst N device", "getevent N device",  "getevent N ddd",
-                          "getevent N soft",    "getevent N hard", "getsubstat N device"};
-    SetAnswers("qcmdrun", others, count, "");
-  }
-
-  void SetHrconfControllers(int count) {
-    SetConfigs("hrconf_64", count, kConfig, "Controllers found: 0\r\n");
-    SetAnswers("hrconf_64", {"getstatus N", "getversion N"}, count, "some answer\r\n");
-  }
-
-  void SetArcconfControllers(int count) {
-    SetConfigs("arcconf", count, kConfig, "Controllers found: 0\r\n");
-    SetAnswers("arcconf", {"getlogs N device", "getlogs N dead", "getlogs N event", "getlogs N uart"}, count, "");
-  }
-
-  ZenxCollectData& Collect(bool skipHrconf = false) {
-    data_.Collect(skipHrconf);
-    return data_;
-  }
-
-  Texts ControllerNumbers() const {
-    Texts numbers;
-    for (const auto& controller : data_.GetControllers()) numbers.push_back(controller->ControllerNum);
-    return numbers;
-  }
-
-  // The command and the tool's name of each raw record: "arcconf getconfig 1 al".
-  Texts RawCommands() const {
-    Texts commands;
-    for (const auto& raw : data_.GetRawData()) {
-      std::string command = std::string(raw->Command).substr(std::string("zenx//").size());
-      commands.push_back(command.erase(command.find(".exe"), std::string(".exe").size()));
-    }
-    return commands;
-  }
-
-  // The tools in the order in which they were first run.
-  Texts Tools() const {
-    Texts tools;
-    for (const std::string& run : services_.runs) {
-      const std::string tool = run.substr(0, run.find(' '));
-      if (std::find(tools.begin(), tools.end(), tool) == tools.end()) tools.push_back(tool);
-    }
-    return tools;
-  }
-
-  ScriptedServices services_;
-  ZenxCollectData data_{TRootObject::GetCoreLogger()};
-
- private:
-  void SetConfigs(const std::string& tool, int count, const std::string& config, const std::string& none) {
-    for (int number = 1; number <= 8; ++number) {
-      services_.answers[tool + " getconfig " + std::to_string(number) + " al"] = number <= count ? config : none;
-    }
-  }
-
-  void SetAnswers(const std::string& tool, const Texts& commands, int count, const std::string& answer) {
-    for (const std::string& command : commands) {
-      for (int number = 1; number <= count; ++number) {
-        std::string run = command;
-        services_.answers[tool + " " + run.replace(run.find('N'), 1, std::to_string(number))] = answer;
-      }
-    }
-  }
+  friend bool operator==(const Outcome&, const Outcome&) = default;
 };
 
-TEST_F(ZenxCollectDataTest, RunsTheToolsOneAfterTheOther) {
-  Collect();
-  EXPECT_EQ(Tools(), (Texts{"qcmdrun", "hrconf_64", "arcconf"}));
-  EXPECT_EQ(ControllerNumbers(), Texts{});
-  EXPECT_EQ(RawCommands(), Texts{});
+template <class Collector, class Start>
+Outcome Collect(const std::map<std::string, std::string>& answers, Start start) {
+  ScriptedServices services;
+  services.answers = answers;
+  Collector collector(TRootObject::GetCoreLogger());
+  collector.Collect(start);
+  Outcome outcome;
+  for (const auto& controller : collector.GetControllers()) outcome.controllers.push_back(controller->ControllerNum);
+  for (const auto& raw : collector.GetRawData()) outcome.commands.push_back(raw->Command);
+  outcome.runs = services.runs;
+  outcome.log = services.log;
+  return outcome;
 }
 
-TEST_F(ZenxCollectDataTest, NumbersControllersOnFromToolToTool) {
-  SetQcmdrunControllers(2);
-  SetHrconfControllers(1);
-  SetArcconfControllers(2);
-  Collect();
-  EXPECT_EQ(ControllerNumbers(), (Texts{"1", "2", "3", "4", "5"}));
+template <class List>
+void Append(List& to, const List& from) {
+  to.insert(to.end(), from.begin(), from.end());
 }
 
-TEST_F(ZenxCollectDataTest, StartsHrconfAt0AndArcconfAtItsCountWithoutLegacyControllers) {
-  SetHrconfControllers(2);
-  SetArcconfControllers(1);
-  Collect();
-  EXPECT_EQ(ControllerNumbers(), (Texts{"1", "2", "3"}));
+void Append(Outcome& to, const Outcome& from) {
+  Append(to.controllers, from.controllers);
+  Append(to.commands, from.commands);
+  Append(to.runs, from.runs);
+  Append(to.log, from.log);
 }
 
-// Numbers continue the count of controllers, not the last number: a gap gives a number twice.
-TEST_F(ZenxCollectDataTest, ContinuesTheCountOfControllersAlsoWhereAToolLeftAGap) {
-  SetQcmdrunControllers(3);
-  services_.answers["qcmdrun getconfig 2 al"] = "Command aborted\r\n";
-  SetArcconfControllers(1);
-  Collect();
-  EXPECT_EQ(ControllerNumbers(), (Texts{"1", "3", "3"}));
+// A machine that has all, some or none of the three utilities, with the controllers of the sample machine.
+struct Machine {
+  const char* name;
+  std::vector<std::string> tools;
+  Lines controllers;
+  std::size_t recorded;  // commands
+};
+
+std::map<std::string, std::string> AnswersOf(const Machine& machine) {
+  std::map<std::string, std::string> answers;
+  for (const std::string& tool : machine.tools) answers.merge(AllAnswersOf(tool));
+  return answers;
 }
 
-TEST_F(ZenxCollectDataTest, RunsNoHrconfCommandWhenItIsSkippedAndStartsArcconfAtTheLegacyCount) {
-  SetQcmdrunControllers(2);
-  SetHrconfControllers(4);
-  SetArcconfControllers(1);
-  Collect(true);
-  EXPECT_EQ(Tools(), (Texts{"qcmdrun", "arcconf"}));
-  EXPECT_EQ(ControllerNumbers(), (Texts{"1", "2", "3"}));
+// A missing qcmdrun is recorded as 64 failures, a missing hrconf as 24, a missing arcconf not at all. With their
+// controllers they record 16, 3 and 10. Numbers go on from the count of controllers before: the legacy utility has none
+// under its number 2, so the number 3 comes twice.
+const Machine kMachines[] = {
+    {"none",                {},                                  {},                        64 + 24     },
+    {"qcmdrun",             {"qcmdrun"},                         {"1", "3"},                16 + 24     },
+    {"hrconf",              {"hrconf_64"},                       {"1"},                     64 + 3      },
+    {"arcconf",             {"arcconf"},                         {"1", "2"},                64 + 24 + 10},
+    {"qcmdrun and hrconf",  {"qcmdrun", "hrconf_64"},            {"1", "3", "3"},           16 + 3      },
+    {"qcmdrun and arcconf", {"qcmdrun", "arcconf"},              {"1", "3", "3", "4"},      16 + 24 + 10},
+    {"hrconf and arcconf",  {"hrconf_64", "arcconf"},            {"1", "2", "3"},           64 + 3 + 10 },
+    {"all",                 {"qcmdrun", "hrconf_64", "arcconf"}, {"1", "3", "3", "4", "5"}, 16 + 3 + 10 },
+};
+
+TEST(ZenxCollectData, NumberControllersOnFromToolToTool) {
+  for (const Machine& machine : kMachines) {
+    const Outcome outcome = Collect<ZenxCollectData>(AnswersOf(machine), false);
+    EXPECT_EQ(outcome.controllers, machine.controllers) << machine.name;
+    EXPECT_EQ(outcome.commands.size(), machine.recorded) << machine.name;
+  }
 }
 
-TEST_F(ZenxCollectDataTest, KeepsTheRawRecordsOfAToolThatFoundNoController) {
-  SetArcconfControllers(1);
-  services_.answers["arcconf getconfig 1 al"] = "nothing that a controller is made of\r\n";
-  Collect();
-  EXPECT_EQ(ControllerNumbers(), Texts{});
-  EXPECT_EQ(RawCommands(), (Texts{"arcconf getconfig 1 al"}));
+TEST(ZenxCollectData, RunRecordAndLogWhatTheThreeToolsDoOneAfterTheOther) {
+  for (const Machine& machine : kMachines) {
+    const auto answers = AnswersOf(machine);
+    Outcome expected = Collect<QcmdrunData>(answers, 0u);
+    Append(expected, Collect<HrconfData>(answers, static_cast<unsigned>(expected.controllers.size())));
+    Append(expected, Collect<ArcconfData>(answers, static_cast<unsigned>(expected.controllers.size())));
+    const Outcome outcome = Collect<ZenxCollectData>(answers, false);
+    EXPECT_TRUE(outcome == expected) << machine.name;
+    EXPECT_EQ(outcome.log, expected.log) << machine.name;
+    EXPECT_FALSE(outcome.log.empty()) << machine.name;
+  }
 }
 
-TEST_F(ZenxCollectDataTest, KeepsRawRecordsInTheOrderOfTheTools) {
-  SetQcmdrunControllers(1);
-  SetHrconfControllers(1);
-  SetArcconfControllers(1);
-  services_.answers["arcconf getlogs 1 dead"] = "dead\r\n";
-  services_.answers["qcmdrun getbst 1 device"] = "none\r\n";
-  Collect(true);
-  EXPECT_EQ(RawCommands(), (Texts{"qcmdrun getconfig 1 al", "qcmdrun getbst 1 device", "arcconf getconfig 1 al",
-                                  "arcconf getlogs 1 dead"}));
+TEST(ZenxCollectData, RunNoHrconfCommandWhereItIsSkippedAndStartArcconfAtTheLegacyCount) {
+  const Machine& all = std::end(kMachines)[-1];
+  const Outcome outcome = Collect<ZenxCollectData>(AnswersOf(all), true);
+  EXPECT_EQ(outcome.controllers, (Lines{"1", "3", "3", "4"}));
+  EXPECT_EQ(outcome.commands.size(), 16u + 10u);
+  for (const std::string& run : outcome.runs) EXPECT_FALSE(run.starts_with("hrconf_64")) << run;
 }
 
-TEST_F(ZenxCollectDataTest, ListsAControllerTwiceThatTwoToolsReport) {
-  SetHrconfControllers(1);
-  SetArcconfControllers(1);
-  Collect();
-  const ControllerList controllers = data_.GetControllers();
-  ASSERT_EQ(controllers.size(), 2u);
-  EXPECT_TRUE(Contains(controllers[0]->ControllerStatus, "Optimal"));
-  EXPECT_TRUE(Contains(controllers[1]->ControllerStatus, "Optimal"));
+TEST(ZenxCollectData, LogOneLineForEachFailureOfAMissingTool) {
+  const Outcome outcome = Collect<ZenxCollectData>({}, false);
+  std::size_t qcmdrun = 0;
+  std::size_t hrconf = 0;
+  std::size_t arcconf = 0;
+  for (const LogEntry& entry : outcome.log) {
+    qcmdrun += entry == LogEntry{3, "Qcmdrun aborted: zenx//qcmdrun.exe is not here"};
+    hrconf += entry == LogEntry{3, "hrconf aborted: zenx//hrconf_64.exe is not here"};
+    arcconf += entry == LogEntry{3, "ArcConf Aborted: zenx//arcconf.exe is not here"};
+  }
+  EXPECT_EQ(qcmdrun, 8u + 64u + 8u);
+  EXPECT_EQ(hrconf, 8u + 24u + 8u);
+  EXPECT_EQ(arcconf, 8u + 40u + 8u);
+  EXPECT_EQ(outcome.runs.size(), qcmdrun + hrconf + arcconf);
 }
 
-TEST_F(ZenxCollectDataTest, GivesCopiesOfItsListsThatHoldTheSameRecords) {
-  SetArcconfControllers(1);
-  Collect();
-  ControllerList copy = data_.GetControllers();
-  EXPECT_EQ(copy[0], data_.GetControllers()[0]);
-  copy.clear();
-  EXPECT_EQ(data_.GetControllers().size(), 1u);
+TEST(ZenxCollectData, KeepsTheRawRecordsOfAToolThatFoundNoController) {
+  auto answers = AllAnswersOf("hrconf_64");
+  answers["hrconf_64 getconfig 1 al"] = "nothing that a controller is made of\r\n";
+  const Outcome outcome = Collect<ZenxCollectData>(answers, false);
+  EXPECT_EQ(outcome.controllers, Lines{});
+  EXPECT_EQ(outcome.commands.size(), 64u + 3u);
 }
 
-TEST_F(ZenxCollectDataTest, LetsAFailurePassAndRunsNoFurtherTool) {
-  SetQcmdrunControllers(1);
-  services_.answers["qcmdrun getsubstat 1 device"] = "A:1 C:1\r\n";
-  EXPECT_THROW(Collect(), std::out_of_range);
-  EXPECT_EQ(Tools(), (Texts{"qcmdrun"}));
-  EXPECT_EQ(ControllerNumbers(), Texts{});
-  EXPECT_EQ(RawCommands(), Texts{});
+TEST(ZenxCollectData, LetsAFailurePassAndRunsNoFurtherTool) {
+  ScriptedServices services;
+  services.answers = AllAnswers();
+  services.answers["qcmdrun getsubstat 1 device"] = "A:1 C:1\r\n";
+  ZenxCollectData data(TRootObject::GetCoreLogger());
+  EXPECT_THROW(data.Collect(false), std::out_of_range);
+  for (const std::string& run : services.runs) EXPECT_TRUE(run.starts_with("qcmdrun ")) << run;
+  EXPECT_TRUE(data.GetControllers().empty());
+  EXPECT_TRUE(data.GetRawData().empty());
 }
 
-TEST_F(ZenxCollectDataTest, StartsWithTheRecordsThatItIsGiven) {
+TEST(ZenxCollectData, StartsWithTheRecordsThatItIsGivenAndGivesCopiesOfItsLists) {
+  const ScriptedServices services;
   const auto controller = std::make_shared<ZenxController>(TRootObject::GetCoreLogger());
   const ZenxCollectData data(TRootObject::GetCoreLogger(), {controller});
+  ControllerList copy = data.GetControllers();
+  EXPECT_EQ(copy, (ControllerList{controller}));
+  copy.clear();
   EXPECT_EQ(data.GetControllers(), (ControllerList{controller}));
-  EXPECT_EQ(services_.runs, Texts{});
+  EXPECT_EQ(services.runs, Lines{});
 }
 
 }  // namespace

@@ -45,10 +45,10 @@ class FakeInstance final : public ICIMInstance, public boost::enable_shared_from
     extent_.push_back(shared_from_this());
   }
   TCIMReference GetReference(const TPropertyMap&) override {
-    return TCIMReferenceFactory::Make(nullptr, className_,
-                                      {
-                                          {"Number", number_}
-    });
+    const TPropertyMap keys = {
+        {"Number", number_}
+    };
+    return TCIMReferenceFactory::Make(nullptr, className_, keys);
   }
   boost::shared_ptr<ICIMProperty> GetProperty(const std::string& name, const TPropertyMap&) override {
     const auto found = std::ranges::find(properties, name, &std::pair<std::string, TCIMValue>::first);
@@ -96,10 +96,11 @@ boost::shared_ptr<ICIMClass> FakeNamespace::GetClass(const std::string& name, co
   return classes_[name];
 }
 
-void FakeNamespace::Add(const std::string& className,
-                        const std::vector<std::pair<std::string, std::string>>& properties) {
+void FakeNamespace::Add(const std::string& className, const std::vector<std::string>& namesAndValues) {
   const auto instance = GetClass(className, {})->CreateInstance({});
-  for (const auto& [name, value] : properties) instance->SetProperty(name, value, {});
+  for (std::size_t index = 0; index < namesAndValues.size(); index += 2) {
+    instance->SetProperty(namesAndValues[index], namesAndValues[index + 1], {});
+  }
   instance->Commit({});
 }
 

@@ -2,7 +2,6 @@
 
 #include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <boost/shared_ptr.hpp>
@@ -18,8 +17,8 @@ class FakeNamespace final : public NKVRHXA20::ICIMNamespace {
   boost::shared_ptr<NKVRHXA20::ICIMClass> GetClass(const std::string& name,
                                                    const NKVRHXA20::TPropertyMap& context) override;
 
-  // Commits an instance as another program might.
-  void Add(const std::string& className, const std::vector<std::pair<std::string, std::string>>& properties);
+  // Commits an instance as another program might: its properties, each a name and a value, one after the other.
+  void Add(const std::string& className, const std::vector<std::string>& namesAndValues);
 
   // The committed instances of a class, each as its properties in the order in which they were set: Name = value.
   std::vector<std::vector<std::string>> Published(const std::string& className);

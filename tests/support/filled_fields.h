@@ -1,19 +1,9 @@
 #pragma once
 
 #include <set>
-#include <span>
 #include <string>
 
-#include "tests/support/device_fields.h"
-
-inline std::span<const NamedField<ZenxController>> FieldsOf(const ZenxController&) { return kControllerFields; }
-inline std::span<const NamedField<ZenxLogicalDevice>> FieldsOf(const ZenxLogicalDevice&) {
-  return kLogicalDeviceFields;
-}
-inline std::span<const NamedField<ZenxPhysicalDevice>> FieldsOf(const ZenxPhysicalDevice&) {
-  return kPhysicalDeviceFields;
-}
-inline std::span<const NamedField<ArrayStripeOrder>> FieldsOf(const ArrayStripeOrder&) { return kStripeOrderFields; }
+#include "tests/support/record_fields.h"
 
 // The fields of a record that hold something, as "Name=value".
 template <class Record>

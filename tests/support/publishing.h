@@ -1,13 +1,23 @@
 #pragma once
 
+#include <algorithm>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "collect/zenx_collect_data.h"
+#include "host/hxacore/ignore_case.h"
+#include "host/hxacore/schema.h"
 #include "logs/collect_raid_mgr_data.h"
 #include "publish/publish_context.h"
 #include "tests/support/fake_namespace.h"
+#include "tests/support/record_fields.h"
+#include "tests/support/same_lines.h"
 #include "tests/support/scripted_services.h"
+
+using Properties = std::vector<std::string>;
+using Instances = std::vector<Properties>;
+using Entries = std::vector<LogEntry>;
 
 // Publishes hand-made records into a fake namespace.
 struct Publishing {
@@ -38,4 +48,39 @@ struct Publishing {
 template <class Record>
 Record& Add(std::vector<std::shared_ptr<Record>>& records) {
   return *records.emplace_back(std::make_shared<Record>(nullptr));
+}
+
+// A field's own name, in the blanks and line ends that tools put around a value.
+inline std::string AsPrinted(const std::string& name) { return " " + name + " \r\n"; }
+
+// Every text of the record holds its own name, as printed.
+template <class Record>
+void NameFields(Record& record) {
+  for (const auto& [name, field] : FieldsOf(record)) record.*field = AsPrinted(name);
+}
+
+// A new record at the end of a controller's list, so named.
+template <class Record>
+Record& AddNamed(std::vector<std::shared_ptr<Record>>& records) {
+  Record& record = Add(records);
+  NameFields(record);
+  return record;
+}
+
+// Whether the only instance of a class has the declared properties in their order, each with its own name for a value,
+// but for the rows that are given.
+inline testing::AssertionResult IsNamedAfterFields(FakeNamespace& nameSpace, const std::string& className,
+                                                   std::string (*form)(const std::string& name),
+                                                   const Properties& otherRows) {
+  const Instances published = nameSpace.Published(className);
+  if (published.size() != 1) return testing::AssertionFailure() << published.size() << " instances";
+  Properties expected;
+  for (const auto& property : NKVRHXA20::FindClass(className)->properties) {
+    const std::string name(property.name);
+    const auto other = std::ranges::find_if(otherRows, [&](const std::string& row) {
+      return NKVRHXA20::EqualIgnoringCase(row.substr(0, row.find(' ')), name);
+    });
+    expected.push_back(other != otherRows.end() ? *other : name + " = \"" + form(name) + '"');
+  }
+  return SameLines(expected, published.front());
 }

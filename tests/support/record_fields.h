@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <boost/preprocessor/seq/for_each.hpp>
+#include <boost/preprocessor/stringize.hpp>
 #include <boost/preprocessor/variadic/to_seq.hpp>
 
 #include "collect/records.h"
@@ -17,7 +18,7 @@
 template <class Record>
 struct NamedField {
   const char* name;
-  decltype(ZenxController::ControllerNum) Record::*field;
+  std::string Record::*field;
 };
 
 // All texts of a record, in order.
@@ -43,10 +44,10 @@ struct EachRecord {
 template <class Record, class... Others>
 constexpr bool ListsAllBeside() {
   return sizeof(Record) == sizeof(EachRecord) + (InWholeWords(sizeof(Others)) + ... + 0) +
-                               std::size(Fields<Record>::kAll) * sizeof(ZenxController::ControllerNum);
+                               std::size(Fields<Record>::kAll) * sizeof(std::string);
 }
 
-#define ZENX_NAMED_FIELD(unused, Record, Field) {#Field, &Record::Field},
+#define ZENX_NAMED_FIELD(unused, Record, Field) {BOOST_PP_STRINGIZE(Field), &Record::Field},
 #define ZENX_FIELDS(Record, ...)                                                                 \
   template <>                                                                                    \
   struct Fields<Record> {                                                                        \

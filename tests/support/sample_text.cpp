@@ -43,3 +43,10 @@ std::map<std::string, std::string> AllAnswersOf(const std::string& tool) {
   }
   return answers;
 }
+
+std::map<std::string, std::string> AllAnswers() {
+  auto answers = AllAnswersOf("qcmdrun");
+  answers.merge(AllAnswersOf("hrconf_64"));
+  answers.merge(AllAnswersOf("arcconf"));
+  return answers;
+}

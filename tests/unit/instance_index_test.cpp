@@ -11,10 +11,7 @@ std::vector<std::string> Found(const std::string& key) {
   Publishing host;
   for (const auto& [number, name] :
        {std::pair("1", "b"), std::pair("2", "x"), std::pair("1", "a"), std::pair("", "e")}) {
-    host.nameSpace.Add("Class", {
-                                    {"ControllerNum", number},
-                                    {"Name",          name  }
-    });
+    host.nameSpace.Add("Class", {"ControllerNum", number, "Name", name});
   }
   ZenxCollectData collector(&host.log);
   CollectRaidMgrData raidManagerLog(&host.log);

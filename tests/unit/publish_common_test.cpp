@@ -29,13 +29,8 @@ TEST(PublishCommon, AControllerListThatCanBeReadIsTheListAndNoMessage) {
 
 TEST(PublishCommon, InstancesComeInTheOrderInWhichTheyWereCommitted) {
   FakeNamespace nameSpace;
-  for (const char* const value : {"b", "a", "b"})
-    nameSpace.Add("Class", {
-                               {"Name", value}
-    });
-  nameSpace.Add("Other", {
-                             {"Name", "c"}
-  });
+  for (const char* const value : {"b", "a", "b"}) nameSpace.Add("Class", {"Name", value});
+  nameSpace.Add("Other", {"Name", "c"});
   std::vector<std::string> names;
   for (const auto& instance : InstancesOf(nameSpace, "Class", {})) names.push_back(TextOf(*instance, "Name"));
   EXPECT_EQ(names, (std::vector<std::string>{"b", "a", "b"}));
@@ -44,9 +39,7 @@ TEST(PublishCommon, InstancesComeInTheOrderInWhichTheyWereCommitted) {
 
 TEST(PublishCommon, APropertyThatTheHostRefusesPassesItsException) {
   FakeNamespace nameSpace;
-  nameSpace.Add("Class", {
-                             {"Name", "a"}
-  });
+  nameSpace.Add("Class", {"Name", "a"});
   EXPECT_THROW(TextOf(*InstancesOf(nameSpace, "Class", {}).front(), "Other"), NKVRHXA20::THXAException);
 }
 

@@ -2,14 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/log_fields.h"
 #include "tests/support/publishing.h"
 #include "tests/support/raid_log_machine.h"
 
 namespace {
-
-using Properties = std::vector<std::string>;
-using Instances = std::vector<Properties>;
 
 constexpr const char* kSoft = "KVRSG_LogRecord_SoftEvent";
 constexpr const char* kHard = "KVRSG_LogRecord_HardEvent";
@@ -18,40 +14,41 @@ constexpr const char* kRaidManager = "KVRSG_LogRecord_RAIDMgrEvent";
 
 const NKVRHXA20::TCIMDateTime kTime(2005, 3, 15, 14, 2, 33, 0, 0);
 
-// A log with all its fields named.
-template <class Log, class Fields>
-std::shared_ptr<Log> NamedLog(const Fields& fields, const std::vector<std::uint32_t>& codes) {
+template <class Log>
+std::shared_ptr<Log> NamedLog(const std::vector<std::uint32_t>& codes) {
   const auto log = std::make_shared<Log>(nullptr);
-  NameFields<Log>(*log, fields);
+  NameFields(*log);
   log->Codes = codes;
   log->MessageTimestamp = kTime;
   return log;
 }
 
-TEST(PublishLogs, ASoftEventLogGoesByTheControllersNumber) {
+// Soft and hard events go by the controller's number; both have the class of soft events in all naming properties.
+TEST(PublishLogs, PublishEachFieldUnderItsOwnNameAsItWasPrinted) {
   Publishing host;
-  host.AddController("3").SoftEvents = NamedLog<ZenxEventSoftData>(kSoftEventFields, {1, 163, 0xffffffff});
+  ZenxController& controller = host.AddController("3");
+  controller.SoftEvents = NamedLog<ZenxEventSoftData>({1, 163, 0xffffffff});
+  controller.HardEvents = NamedLog<ZenxEventHardData>({7});
+  AddNamed(controller.DddEvents).MessageTimestamp = kTime;
   host.Run(PublishSoftEvents, kSoft);
-  EXPECT_EQ(host.nameSpace.Published(kSoft),
-            (Instances{
-                {"CreationClassName = \"KVRSG_LogRecord_SoftEvent\"",
-                 "LogCreationClassName = \"KVRSG_LogRecord_SoftEvent\"", "LogName = \"KVRSG_LogRecord_SoftEvent\"",
-                 "MessageTimestamp = datetime 20050315140233.000000+000", "RecordID = \"3\"", "ControllerNum = \"3\"",
-                 "NumEntries = \"3\"", "HexSoftEvent = uint32[uint32 1, uint32 163, uint32 4294967295]"}
-  }));
-}
-
-TEST(PublishLogs, AHardEventLogShowsTheSoftEventClassInAllThreeNamingProperties) {
-  Publishing host;
-  host.AddController("3").HardEvents = NamedLog<ZenxEventHardData>(kHardEventFields, {7});
   host.Run(PublishHardEvents, kHard);
-  EXPECT_EQ(host.nameSpace.Published(kHard),
-            (Instances{
-                {"CreationClassName = \"KVRSG_LogRecord_SoftEvent\"",
-                 "LogCreationClassName = \"KVRSG_LogRecord_SoftEvent\"", "LogName = \"KVRSG_LogRecord_SoftEvent\"",
-                 "ControllerNum = \"3\"", "MessageTimestamp = datetime 20050315140233.000000+000", "RecordID = \"3\"",
-                 "NumEntries = \"1\"", "HexHardEvent = uint32[uint32 7]"}
-  }));
+  host.Run(PublishDddEvents, kDdd);
+  Properties rows = {"CreationClassName = \"KVRSG_LogRecord_SoftEvent\"",
+                     "LogCreationClassName = \"KVRSG_LogRecord_SoftEvent\"",
+                     "LogName = \"KVRSG_LogRecord_SoftEvent\"",
+                     "MessageTimestamp = datetime 20050315140233.000000+000",
+                     "RecordID = \"3\"",
+                     "ControllerNum = \"3\"",
+                     "NumEntries = \"3\"",
+                     "HexSoftEvent = uint32[uint32 1, uint32 163, uint32 4294967295]"};
+  EXPECT_TRUE(IsNamedAfterFields(host.nameSpace, kSoft, AsPrinted, rows));
+  rows[6] = "NumEntries = \"1\"";
+  rows[7] = "HexHardEvent = uint32[uint32 7]";
+  EXPECT_TRUE(IsNamedAfterFields(host.nameSpace, kHard, AsPrinted, rows));
+  EXPECT_TRUE(IsNamedAfterFields(
+      host.nameSpace, kDdd, AsPrinted,
+      {"CreationClassName = \"KVRSG_LogRecord_zxDDD\"", "LogCreationClassName = \"KVRSG_LogRecord_zxDDD\"",
+       "LogName = \"KVRSG_LogRecord_zxDDD\"", rows[3]}));
 }
 
 TEST(PublishLogs, ALogWithoutCodesIsPublishedAndAMissingLogIsNot) {
@@ -66,23 +63,7 @@ TEST(PublishLogs, ALogWithoutCodesIsPublishedAndAMissingLogIsNot) {
   EXPECT_EQ(host.nameSpace.Published(kSoft).at(0).back(), "HexSoftEvent = uint32[]");
   EXPECT_EQ(host.nameSpace.Published(kSoft, "NumEntries"), Properties{"0"});
   EXPECT_EQ(host.nameSpace.Published(kHard, "RecordID"), Properties{"2"});
-  EXPECT_EQ(host.log.entries, std::vector<LogEntry>{});
-}
-
-TEST(PublishLogs, PublishesADddRowFieldByFieldAsItWasPrinted) {
-  Publishing host;
-  ZenxEventDddData& row = Add(host.AddController("1").DddEvents);
-  NameFields<ZenxEventDddData>(row, kDddFields);
-  row.MessageTimestamp = kTime;
-  host.Run(PublishDddEvents, kDdd);
-  EXPECT_EQ(host.nameSpace.Published(kDdd),
-            (Instances{
-                {"CreationClassName = \"KVRSG_LogRecord_zxDDD\"", "LogCreationClassName = \"KVRSG_LogRecord_zxDDD\"",
-                 "LogName = \"KVRSG_LogRecord_zxDDD\"", SameNameAsPrinted("Controller"),
-                 "MessageTimestamp = datetime 20050315140233.000000+000", SameNameAsPrinted("RecordID"),
-                 SameNameAsPrinted("Date"), SameNameAsPrinted("Time"), SameNameAsPrinted("Channel"),
-                 SameNameAsPrinted("ID"), SameNameAsPrinted("Reason"), SameNameAsPrinted("Descrip")}
-  }));
+  EXPECT_EQ(host.log.entries, Entries{});
 }
 
 TEST(PublishLogs, DddRowsStandControllerByControllerInListOrder) {
@@ -110,7 +91,7 @@ TEST(PublishLogs, ALogWhoseReadsReturn2And1And2And0PublishesExactlyOneInstance) 
                         "MessageTimestamp = datetime 20070305110203.000000-480", "Severity = \"WRN\"",
                         "MachineName = \"SERVER \"", "Message = \"Text.\n\""}));
   const LogEntry invalid = {1, "In RaidEvtA.log file, there has invalid line for zentraxis log, please check it."};
-  EXPECT_EQ(host.log.entries, (std::vector<LogEntry>{invalid, invalid}));
+  EXPECT_EQ(host.log.entries, (Entries{invalid, invalid}));
 }
 
 TEST(PublishLogs, AMissingRaidManagerLogIsAWarningAndNoInstance) {
@@ -118,7 +99,7 @@ TEST(PublishLogs, AMissingRaidManagerLogIsAWarningAndNoInstance) {
   const RaidLogSetting none(std::nullopt);
   host.Run(PublishRaidManagerEvents, kRaidManager);
   EXPECT_TRUE(host.nameSpace.Published(kRaidManager).empty());
-  EXPECT_EQ(host.log.entries, (std::vector<LogEntry>{
+  EXPECT_EQ(host.log.entries, (Entries{
                                   {2, "There are no KVRSG_LogRecord_RAIDMgrEvent Log file or no path to it"}
   }));
 }
@@ -128,7 +109,7 @@ TEST(PublishLogs, AnEmptyRaidManagerLogIsNoWarningAndNoInstance) {
   const RaidLogMachine machine(host.services, "");
   host.Run(PublishRaidManagerEvents, kRaidManager);
   EXPECT_TRUE(host.nameSpace.Published(kRaidManager).empty());
-  EXPECT_EQ(host.log.entries, std::vector<LogEntry>{});
+  EXPECT_EQ(host.log.entries, Entries{});
 }
 
 }  // namespace

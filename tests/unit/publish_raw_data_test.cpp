@@ -7,10 +7,6 @@
 
 namespace {
 
-using Properties = std::vector<std::string>;
-using Instances = std::vector<Properties>;
-using Entries = std::vector<LogEntry>;
-
 constexpr const char* kRawData = "KVRSG_zxRawData";
 constexpr const char* kManagerRawData = "KVRSG_zxManagerRawData";
 

@@ -6,9 +6,6 @@
 
 namespace {
 
-using Properties = std::vector<std::string>;
-using Instances = std::vector<Properties>;
-
 constexpr const char* kFirmware = "KVRSG_zxFirmwareVersion";
 constexpr const char* kBootBlock = "KVRSG_zxBootBlockVersion";
 constexpr const char* kBios = "KVRSG_zxBiosVersion";
@@ -78,7 +75,7 @@ TEST(PublishVersions, ATextOfBlanksAndLineEndsIsNoVersion) {
     for (const char* const name : {kFirmware, kBootBlock, kBios, kDriveVersion}) {
       EXPECT_TRUE(host.nameSpace.Published(name).empty()) << name;
     }
-    EXPECT_EQ(host.log.entries, std::vector<LogEntry>{});
+    EXPECT_EQ(host.log.entries, Entries{});
   }
 }
 

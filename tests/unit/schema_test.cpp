@@ -36,52 +36,12 @@ TEST(Schema, EveryClassHasAKeyAndAllKeysAreSingleValues) {
   }
 }
 
-TEST(Schema, KeysAreThoseThatNameTheThing) {
-  struct KeyCase {
-    const char* className;
-    std::vector<std::string_view> keys;
-  };
-  const std::vector<std::string_view> device = {"CreationClassName", "DeviceID"};
-  const std::vector<std::string_view> record = {"CreationClassName", "LogCreationClassName", "LogName",
-                                                "MessageTimestamp", "RecordID"};
-  const std::vector<std::string_view> version = {"Name", "SoftwareElementID", "SoftwareElementState",
-                                                 "TargetOperatingSystem", "Version"};
-  const std::vector<std::string_view> link = {"Antecedent", "Dependent"};
-  const std::vector<std::string_view> measured = {"ManagedElement", "Stats"};
-  const KeyCase cases[] = {
-      {"KVRSG_zxManagerRawData",                    {"Command"}     },
-      {"KVRSG_zxRawData",                           {"Command"}     },
-      {"KVRSG_zxSCSIProtocolController",            device          },
-      {"KVRSG_zxLogicalDisk",                       device          },
-      {"KVRSG_zxDiskGroup",                         {"CollectionID"}},
-      {"KVRSG_zxDiskDrive",                         device          },
-      {"KVRSG_DiskGroup",                           {"InstanceID"}  },
-      {"KVRSG_BadStripeData",                       {"InstanceID"}  },
-      {"KVRSG_zxSCSIDeviceData",                    {"InstanceID"}  },
-      {"KVRSG_zxSCSISubStatData",                   {"InstanceID"}  },
-      {"KVRSG_LogRecord_SoftEvent",                 record          },
-      {"KVRSG_LogRecord_zxDDD",                     record          },
-      {"KVRSG_LogRecord_HardEvent",                 record          },
-      {"KVRSG_LogRecord_RAIDMgrEvent",              record          },
-      {"KVRSG_zxFirmwareVersion",                   version         },
-      {"KVRSG_zxBootBlockVersion",                  version         },
-      {"KVRSG_zxDiskDriveVersion",                  version         },
-      {"KVRSG_zxBiosVersion",                       version         },
-      {"KVRSG_zxProtocolControllerForUnit",         link            },
-      {"KVRSG_zxProtocolControllerForPhysicalDisk", link            },
-      {"KVRSG_zxDriveInDiskGroup",                  link            },
-      {"KVRSG_zxExtenInDiskGroup",                  link            },
-      {"KVRSG_zxStripeOrderForController",          link            },
-      {"KVRSG_zxFirmwareOnController",              link            },
-      {"KVRSG_zxBootBlockOnController",             link            },
-      {"KVRSG_zxFirmwareOnDiskDrive",               link            },
-      {"KVRSG_zxBiosOnController",                  link            },
-      {"KVRSG_ElementZxScsiDeviceData",             measured        },
-      {"KVRSG_ElementBadStripeData",                measured        },
-      {"KVRSG_OperatingSystem",                     {"Name"}        },
-  };
-  EXPECT_EQ(std::size(cases), AllClasses().size());
-  for (const KeyCase& one : cases) EXPECT_EQ(KeysOf(one.className), one.keys) << one.className;
+// The keys of all other classes are in the paths of what the sample machine publishes.
+TEST(Schema, ClassesThatAreNeverPublishedHaveKeysToo) {
+  EXPECT_THAT(KeysOf("KVRSG_DiskGroup"), ElementsAre("InstanceID"));
+  EXPECT_THAT(KeysOf("KVRSG_zxDriveInDiskGroup"), ElementsAre("Antecedent", "Dependent"));
+  EXPECT_THAT(KeysOf("KVRSG_zxExtenInDiskGroup"), ElementsAre("Antecedent", "Dependent"));
+  EXPECT_THAT(KeysOf("KVRSG_OperatingSystem"), ElementsAre("Name"));
 }
 
 TEST(Schema, NoTwoNamesDifferOnlyInCase) {
@@ -143,25 +103,6 @@ TEST(Schema, TheOperatingSystemIsKnownAndNotPublished) {
   EXPECT_EQ(FindProperty(*system, "OSType")->type, kCIMUInt16);
   EXPECT_EQ(std::ranges::count(PublishedClasses(), system->name, &ClassDeclaration::name), 0);
   EXPECT_EQ(PublishedClasses().size(), 29U);
-}
-
-TEST(Schema, PropertiesStandInTheOrderInWhichTheyArePublished) {
-  const auto namesOf = [](const char* className) {
-    std::vector<std::string_view> names;
-    for (const PropertyDeclaration& property : FindClass(className)->properties) names.push_back(property.name);
-    return names;
-  };
-  EXPECT_THAT(namesOf("KVRSG_LogRecord_SoftEvent"),
-              ElementsAre("CreationClassName", "LogCreationClassName", "LogName", "MessageTimestamp", "RecordID",
-                          "ControllerNum", "NumEntries", "HexSoftEvent"));
-  EXPECT_THAT(namesOf("KVRSG_LogRecord_HardEvent"),
-              ElementsAre("CreationClassName", "LogCreationClassName", "LogName", "ControllerNum", "MessageTimestamp",
-                          "RecordID", "NumEntries", "HexHardEvent"));
-  EXPECT_THAT(namesOf("KVRSG_zxDiskDriveVersion"),
-              ElementsAre("Name", "Version", "BuildNumber", "SoftwareElementState", "SoftwareElementID",
-                          "TargetOperatingSystem", "Manufacturer"));
-  EXPECT_THAT(namesOf("KVRSG_zxProtocolControllerForUnit"), ElementsAre("Dependent", "Antecedent"));
-  EXPECT_THAT(namesOf("KVRSG_ElementBadStripeData"), ElementsAre("Stats", "ManagedElement"));
 }
 
 }  // namespace
