@@ -48,7 +48,7 @@ RecordedRun RunOf(const std::string& text) {
   run.path = "zenx//arcconf.exe";
   run.arguments = {parts[0], "1"};
   run.limitSeconds = 300;
-  run.seconds = static_cast<double>(parts.size()) / 3;
+  run.result.seconds = static_cast<double>(parts.size()) / 3;
   if (how >= "0" && how <= "4") {
     run.failure = RecordedFailure{static_cast<FailureKind>(how[0] - '0'), text};
     return run;

@@ -1,5 +1,6 @@
 #include "host/hxacore/host_services.h"
 
+#include <chrono>
 #include <utility>
 
 #include "host/hxacore/operating_system.h"
@@ -27,10 +28,23 @@ HostState& State() {
   return state;
 }
 
+SpawnResult TimedSpawn(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+  using Clock = std::chrono::steady_clock;
+  const auto begin = Clock::now();
+  const auto seconds = [begin] { return std::chrono::duration<double>(Clock::now() - begin).count(); };
+  try {
+    SpawnResult result = SpawnProcess(path, arguments, limitSeconds);
+    result.seconds = seconds();
+    return result;
+  } catch (const TSpawnException& failure) {
+    throw TSpawnException(failure.Failure(), failure.what(), seconds());
+  }
+}
+
 }  // namespace
 
 HostServices RealServices() {
-  return {SpawnProcess, CaptureFile, MachineName, LocalTime, [](int, const std::string&) {}};
+  return {TimedSpawn, CaptureFile, MachineName, LocalTime, [](int, const std::string&) {}};
 }
 
 const HostServices& CurrentServices() { return State().services; }

@@ -2,8 +2,8 @@
 
 namespace NKVRHXA20 {
 
-TSpawnException::TSpawnException(SpawnFailure failure, const std::string& message)
-    : THXAException(message), failure_(failure) {}
+TSpawnException::TSpawnException(SpawnFailure failure, const std::string& message, double seconds)
+    : THXAException(message), failure_(failure), seconds_(seconds) {}
 TSpawnException::~TSpawnException() = default;
 
 }  // namespace NKVRHXA20

@@ -19,6 +19,7 @@ struct SpawnResult {
   std::string output;
   std::optional<std::int64_t> exitStatus;  // none: not known, or the system ended it
   std::string ending;                      // how it ended where it has no exit status: "signal 11"
+  double seconds = 0;                      // that it took
 };
 
 // Why a program gave nothing.
@@ -27,12 +28,14 @@ enum class SpawnFailure { kNotStarted, kTooLong, kTooMuchOutput };
 // What a spawn service throws: to the plug-in an exception as any other, to the host one with a reason it can tell.
 class HXACORE_API TSpawnException : public THXAException {
  public:
-  TSpawnException(SpawnFailure failure, const std::string& message);
+  TSpawnException(SpawnFailure failure, const std::string& message, double seconds = 0);
   ~TSpawnException() override;
   SpawnFailure Failure() const { return failure_; }
+  double Seconds() const { return seconds_; }  // that the run took
 
  private:
   SpawnFailure failure_;
+  double seconds_;
 };
 
 }  // namespace NKVRHXA20

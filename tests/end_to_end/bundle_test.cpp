@@ -140,7 +140,7 @@ TEST_F(Bundles, RecordsTheBundleThatIsKept) {
   }
   const hxahost::Bundle kept = hxahost::ReadBundleFile(Golden("one-controller.bundle"));
   ASSERT_EQ(now.runs.size(), kept.runs.size());
-  for (std::size_t run = 0; run < now.runs.size(); ++run) now.runs[run].seconds = kept.runs[run].seconds;
+  for (std::size_t run = 0; run < now.runs.size(); ++run) now.runs[run].result.seconds = kept.runs[run].result.seconds;
   now.osVersion = kept.osVersion;
   now.querySeconds = kept.querySeconds;
   EXPECT_TRUE(hxahost::WriteBundle(now) == hxahost::WriteBundle(kept));

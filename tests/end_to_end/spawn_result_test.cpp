@@ -46,4 +46,17 @@ TEST(SpawnResult, TellsAProgramThatCannotBeStartedFromOneThatTakesTooLong) {
   EXPECT_EQ(FailureOf(ChildPath(), {"sleep", "300"}, 1), static_cast<int>(SpawnFailure::kTooLong));
 }
 
+TEST(SpawnResult, SaysHowLongTheRunTookAlsoWhereItFailed) {
+  const SpawnResult result = RunChild({"sleep-silently", "1"});
+  EXPECT_GE(result.seconds, 1);
+  EXPECT_LT(result.seconds, kGenerous);
+  try {
+    RealServices().spawn(ChildPath(), {"sleep", "300"}, 1);
+    ADD_FAILURE() << "it ended in time";
+  } catch (const TSpawnException& failure) {
+    EXPECT_GE(failure.Seconds(), 1);
+    EXPECT_LT(failure.Seconds(), kGenerous);
+  }
+}
+
 }  // namespace

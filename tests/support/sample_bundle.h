@@ -19,7 +19,7 @@ inline hxahost::Bundle SampleBundle() {
   good.path = "zenx//arcconf.exe";
   good.arguments = {"getconfig", "1", "al"};
   good.limitSeconds = 300;
-  good.seconds = 0.125;
+  good.result.seconds = 0.125;
   good.result.output =
       "Controllers found: 1\r\n   Serial number : AB12CD34\r\n\r\n\\ \"\t\x1b[2J \xff K\xc3\xa4se\n"
       "no line end";
@@ -28,13 +28,14 @@ inline hxahost::Bundle SampleBundle() {
   RecordedRun ended = good;
   ended.arguments = {"getlogs", "1", ""};
   ended.result = {};
+  ended.result.seconds = 0.125;
   ended.result.ending = "signal 11";
   bundle.runs.push_back(ended);
   RecordedRun late = ended;
   late.path = "zenx//qcmdrun.exe";
   late.arguments.clear();
-  late.seconds = 300.5;
   late.result = {};
+  late.result.seconds = 300.5;
   late.failure = RecordedFailure{FailureKind::kTooLong, "\"it\" was\nended"};
   bundle.runs.push_back(late);
   bundle.raidLog = RecordedLog{"C:\\ZXM\\RaidEvtA.log", "day\tINF\tDBSERVER\tmessage\r\n", {}};

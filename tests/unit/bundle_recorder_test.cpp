@@ -15,8 +15,6 @@ namespace {
 using namespace hxahost;
 using namespace NKVRHXA20;
 
-constexpr auto kNoSeconds = [] { return 0.0; };
-
 // Asks for all that a bundle holds, once each, in its order.
 void AskForAll(const HostServices& services, const Bundle& bundle) {
   services.machineName();
@@ -38,7 +36,7 @@ TEST(BundleRecorder, KeepsAllThatTheServicesSay) {
   const RaidLogSetting setting("C:\\ZXM\\");
   BundleReplay replay(SampleBundle());
   BundleRecorder recorder(18, "C:\\tools");
-  AskForAll(recorder.Wrap(replay.Services(), [&replay] { return replay.LastRunSeconds(); }), SampleBundle());
+  AskForAll(recorder.Wrap(replay.Services()), SampleBundle());
   recorder.AddQuery(1.25);
   Bundle recorded = recorder.Recorded();
   // Where these tests run, the system has a version of its own.
@@ -64,11 +62,11 @@ TEST(BundleRecorder, PassesOnWhatIsThrownAndKeepsItsKind) {
   services.spawn = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
     throw THXAException("no");
   };
-  EXPECT_THROW(recorder.Wrap(services, kNoSeconds).spawn("tool", {}, 1), THXAException);
+  EXPECT_THROW(recorder.Wrap(services).spawn("tool", {}, 1), THXAException);
   services.spawn = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
     throw std::bad_alloc();
   };
-  EXPECT_THROW(recorder.Wrap(services, kNoSeconds).spawn("tool", {}, 1), std::bad_alloc);
+  EXPECT_THROW(recorder.Wrap(services).spawn("tool", {}, 1), std::bad_alloc);
   ASSERT_EQ(recorder.Recorded().runs.size(), 2U);
   EXPECT_EQ(recorder.Recorded().runs[0].failure->kind, FailureKind::kHost);
   EXPECT_EQ(recorder.Recorded().runs[1].failure->kind, FailureKind::kOther);
@@ -80,7 +78,7 @@ TEST(BundleRecorder, KeepsTheBytesOfALogThatCannotBeCaptured) {
   BundleRecorder recorder(std::nullopt, "");
   HostServices services = RealServices();
   services.capture = [](const std::string&) -> std::string { throw THXAException("locked"); };
-  EXPECT_THROW(recorder.Wrap(services, kNoSeconds).capture(path), THXAException);
+  EXPECT_THROW(recorder.Wrap(services).capture(path), THXAException);
   EXPECT_EQ(recorder.Recorded().raidLog->bytes, "a\r\nb");
   EXPECT_EQ(recorder.Recorded().raidLog->failure->message, "locked");
 }

@@ -50,7 +50,7 @@ TEST(ReadBundle, GivesBackAllThatWasWritten) {
   ASSERT_EQ(bundle.runs.size(), 3U);
   EXPECT_EQ(bundle.runs[0].result.output, SampleBundle().runs[0].result.output);
   EXPECT_EQ(bundle.runs[0].result.exitStatus, 0);
-  EXPECT_EQ(bundle.runs[0].seconds, 0.125);
+  EXPECT_EQ(bundle.runs[0].result.seconds, 0.125);
   EXPECT_EQ(bundle.runs[1].arguments, (std::vector<std::string>{"getlogs", "1", ""}));
   EXPECT_EQ(bundle.runs[1].result.exitStatus, std::nullopt);
   EXPECT_EQ(bundle.runs[1].result.ending, "signal 11");

@@ -6,15 +6,20 @@ using namespace NKVRHXA20;
 
 namespace hxahost {
 
-void Throw(const RecordedFailure& failure) {
+void Throw(const RecordedFailure& failure, double seconds) {
   switch (failure.kind) {
-    case FailureKind::kNotStarted: throw TSpawnException(SpawnFailure::kNotStarted, failure.message);
-    case FailureKind::kTooLong: throw TSpawnException(SpawnFailure::kTooLong, failure.message);
-    case FailureKind::kTooMuchOutput: throw TSpawnException(SpawnFailure::kTooMuchOutput, failure.message);
+    case FailureKind::kNotStarted: throw TSpawnException(SpawnFailure::kNotStarted, failure.message, seconds);
+    case FailureKind::kTooLong: throw TSpawnException(SpawnFailure::kTooLong, failure.message, seconds);
+    case FailureKind::kTooMuchOutput: throw TSpawnException(SpawnFailure::kTooMuchOutput, failure.message, seconds);
     case FailureKind::kHost: throw THXAException(failure.message);
     case FailureKind::kOther: break;
   }
   throw std::runtime_error(failure.message);
+}
+
+SpawnResult Repeat(const RecordedRun& run) {
+  if (run.failure) Throw(*run.failure, run.result.seconds);
+  return run.result;
 }
 
 std::string CommandText(const RecordedRun& run) {

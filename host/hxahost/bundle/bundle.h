@@ -28,18 +28,20 @@ struct RecordedFailure {
   std::string message;
 };
 
-// Throws what the service threw, with the same message.
-[[noreturn]] void Throw(const RecordedFailure& failure);
-
 // One run of a tool.
 struct RecordedRun {
   std::string path;
   std::vector<std::string> arguments;
   int limitSeconds = 0;
-  double seconds = 0;
-  NKVRHXA20::SpawnResult result;  // nothing where it failed
+  NKVRHXA20::SpawnResult result;  // its seconds alone where it failed
   std::optional<RecordedFailure> failure;
 };
+
+// What the run gave: its result, or what the service threw, with the same message.
+NKVRHXA20::SpawnResult Repeat(const RecordedRun& run);
+
+// Throws what the service threw after a run of so many seconds.
+[[noreturn]] void Throw(const RecordedFailure& failure, double seconds = 0);
 
 // "zenx//arcconf.exe getconfig 1 al", as it is.
 std::string CommandText(const RecordedRun& run);

@@ -26,8 +26,6 @@ FailureKind KindOf(SpawnFailure failure) {
 RecordedFailure CurrentFailure() {
   try {
     throw;
-  } catch (const TSpawnException& failure) {
-    return {KindOf(failure.Failure()), failure.what()};
   } catch (const THXAException& failure) {
     return {FailureKind::kHost, failure.what()};
   } catch (const std::exception& failure) {
@@ -52,11 +50,11 @@ BundleRecorder::BundleRecorder(std::optional<std::uint16_t> osType, std::string 
   bundle_.raidLogDir = ReadLocalMachineText(kRaidManagerKey, kRaidLogDirValue, kRaidLogPathSize);
 }
 
-HostServices BundleRecorder::Wrap(HostServices services, std::function<double()> lastRunSeconds) {
+HostServices BundleRecorder::Wrap(HostServices services) {
   HostServices recording = services;
-  recording.spawn = [this, spawn = std::move(services.spawn), seconds = std::move(lastRunSeconds)](
+  recording.spawn = [this, spawn = std::move(services.spawn)](
                         const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
-    return Spawn(spawn, {path, arguments, limitSeconds, 0, {}, {}}, seconds);
+    return Spawn(spawn, {path, arguments, limitSeconds, {}, {}});
   };
   recording.capture = [this, capture = std::move(services.capture)](const std::string& path) {
     return Capture(capture, path);
@@ -72,19 +70,19 @@ HostServices BundleRecorder::Wrap(HostServices services, std::function<double()>
   return recording;
 }
 
-SpawnResult BundleRecorder::Spawn(const SpawnFunction& spawn, RecordedRun run,
-                                  const std::function<double()>& lastRunSeconds) {
+// A run is kept, in the order of their starts, before it has ended.
+SpawnResult BundleRecorder::Spawn(const SpawnFunction& spawn, RecordedRun started) {
+  RecordedRun& run = bundle_.runs.emplace_back(std::move(started));
   try {
-    run.result = spawn(run.path, run.arguments, run.limitSeconds);
+    return run.result = spawn(run.path, run.arguments, run.limitSeconds);
+  } catch (const TSpawnException& failure) {
+    run.failure = {KindOf(failure.Failure()), failure.what()};
+    run.result.seconds = failure.Seconds();
+    throw;
   } catch (...) {
     run.failure = CurrentFailure();
-    run.seconds = lastRunSeconds();
-    bundle_.runs.push_back(std::move(run));
     throw;
   }
-  run.seconds = lastRunSeconds();
-  bundle_.runs.push_back(std::move(run));
-  return bundle_.runs.back().result;
 }
 
 // The only file that plug-ins have the host read is the log.

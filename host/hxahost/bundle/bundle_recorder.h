@@ -17,17 +17,15 @@ class BundleRecorder {
   // UTF-8.
   BundleRecorder(std::optional<std::uint16_t> osType, std::string directory);
 
-  // The services, with all that they say taken down; this outlives them. lastRunSeconds says how long the run took
-  // that has just ended.
-  NKVRHXA20::HostServices Wrap(NKVRHXA20::HostServices services, std::function<double()> lastRunSeconds);
+  // The services, with all that they say taken down; this outlives them.
+  NKVRHXA20::HostServices Wrap(NKVRHXA20::HostServices services);
 
   void AddQuery(double seconds) { bundle_.querySeconds.push_back(seconds); }
 
   const Bundle& Recorded() const { return bundle_; }
 
  private:
-  NKVRHXA20::SpawnResult Spawn(const NKVRHXA20::SpawnFunction& spawn, RecordedRun run,
-                               const std::function<double()>& lastRunSeconds);
+  NKVRHXA20::SpawnResult Spawn(const NKVRHXA20::SpawnFunction& spawn, RecordedRun run);
   std::string Capture(const std::function<std::string(const std::string&)>& capture, const std::string& path);
   void AddTime(const NKVRHXA20::TCIMDateTime& time);
 

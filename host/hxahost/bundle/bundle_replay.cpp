@@ -60,15 +60,11 @@ std::vector<std::string> BundleReplay::UnusedRuns() const {
 
 SpawnResult BundleReplay::Spawn(const std::string& path, const std::vector<std::string>& arguments) {
   const auto found = runs_.find(KeyOf(path, arguments));
-  lastRunSeconds_ = 0;
   if (found == runs_.end() || found->second.used == found->second.places.size()) {
     const std::string again = found == runs_.end() ? "" : ", run once more than it was recorded";
-    ThrowMissing(CommandText({path, arguments, 0, 0, {}, {}}) + again);
+    ThrowMissing(CommandText({path, arguments, 0, {}, {}}) + again);
   }
-  const RecordedRun& run = bundle_.runs[found->second.places[found->second.used++]];
-  lastRunSeconds_ = run.seconds;
-  if (run.failure) Throw(*run.failure);
-  return run.result;
+  return Repeat(bundle_.runs[found->second.places[found->second.used++]]);
 }
 
 // The path is that of the file that stands in for the log.

@@ -21,9 +21,6 @@ class BundleReplay {
   // than it was, stands still.
   NKVRHXA20::HostServices Services();
 
-  // How long the run took that has just been repeated.
-  double LastRunSeconds() const { return lastRunSeconds_; }
-
   // How long a query took, counted from 1; 0 where it did not come to its end.
   double QuerySeconds(unsigned number) const;
 
@@ -48,9 +45,8 @@ class BundleReplay {
 
   Bundle bundle_;
   std::map<std::vector<std::string>, SameRuns> runs_;  // by path and arguments
-  double lastRunSeconds_ = 0;
-  std::size_t time_ = 0;       // the place of the current time
-  std::size_t timesUsed_ = 0;  // how often it was given
+  std::size_t time_ = 0;                               // the place of the current time
+  std::size_t timesUsed_ = 0;                          // how often it was given
   std::string missing_;
 };
 

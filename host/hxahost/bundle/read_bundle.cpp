@@ -210,7 +210,7 @@ RecordedRun ReadRecordedRun(BundleLines& lines) {
   run.path = lines.Value("path", Unquote);
   while (lines.IsNext("argument")) run.arguments.push_back(lines.Value("argument", Unquote));
   run.limitSeconds = lines.Value("limit", ReadWhole<int>);
-  run.seconds = lines.Value("seconds", ReadSeconds);
+  run.result.seconds = lines.Value("seconds", ReadSeconds);
   if (lines.IsNext("failure")) {
     run.failure = lines.Value("failure", ReadFailure);
     return run;

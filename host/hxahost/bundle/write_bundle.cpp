@@ -55,7 +55,7 @@ void AddRun(std::string& text, const RecordedRun& run) {
   Add(text, "path", Quote(run.path));
   for (const std::string& argument : run.arguments) Add(text, "argument", Quote(argument));
   Add(text, "limit", std::to_string(run.limitSeconds));
-  Add(text, "seconds", DecimalText(run.seconds));
+  Add(text, "seconds", DecimalText(run.result.seconds));
   if (run.failure) return AddFailure(text, *run.failure);
   Add(text, "exit-status", run.result.exitStatus ? std::to_string(*run.result.exitStatus) : std::string(kNone));
   Add(text, "ending", Quote(run.result.ending));

@@ -30,19 +30,6 @@ class RunningCommand {
   Progress* progress_;
 };
 
-// Gives the run that ends, however it ends, the seconds that a tape has for it.
-class PlayedSeconds {
- public:
-  PlayedSeconds(const SessionTape& tape, ToolRunList& runs) : tape_(tape), runs_(runs) {}
-  ~PlayedSeconds() { runs_.back().seconds = tape_.RunSeconds(runs_.back().seconds); }
-  PlayedSeconds(const PlayedSeconds&) = delete;
-  PlayedSeconds& operator=(const PlayedSeconds&) = delete;
-
- private:
-  const SessionTape& tape_;
-  ToolRunList& runs_;
-};
-
 }  // namespace
 
 SessionServices::SessionServices(const QueryOptions& options, QueryLog& log, ToolRunList& runs, Progress* progress,
@@ -51,13 +38,12 @@ SessionServices::SessionServices(const QueryOptions& options, QueryLog& log, Too
   services.log = [&log](int level, const std::string& text) { log.Add(level, text); };
   if (options.machineName) services.machineName = [name = *options.machineName] { return name; };
   if (options.localTime) services.localTime = [time = *options.localTime] { return time; };
-  services.spawn = [spawn = services.spawn, &runs, &tape, progress](
+  services.spawn = [spawn = services.spawn, &runs, progress](
                        const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
     const RunningCommand running(progress, path, arguments);
-    const PlayedSeconds seconds(tape, runs);
     return SpawnAndRecord(spawn, path, arguments, limitSeconds, runs);
   };
-  SetServices(tape.Recorded(std::move(services), [&runs] { return runs.back().seconds; }));
+  SetServices(tape.Recorded(std::move(services)));
 }
 
 SessionServices::~SessionServices() { SetServices(RealServices()); }

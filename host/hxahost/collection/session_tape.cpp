@@ -23,8 +23,8 @@ void SessionTape::Record(const std::filesystem::path& file, std::optional<std::u
 
 HostServices SessionTape::Services() { return replay_ ? replay_->Services() : RealServices(); }
 
-HostServices SessionTape::Recorded(HostServices services, std::function<double()> lastRunSeconds) {
-  return recorder_ ? recorder_->Wrap(std::move(services), std::move(lastRunSeconds)) : services;
+HostServices SessionTape::Recorded(HostServices services) {
+  return recorder_ ? recorder_->Wrap(std::move(services)) : services;
 }
 
 double SessionTape::EndQuery(unsigned number, double measuredSeconds) {

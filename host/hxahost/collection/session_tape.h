@@ -2,15 +2,14 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/bundle/bundle_recorder.h"
 #include "host/hxahost/bundle/bundle_replay.h"
-#include "host/hxahost/system/output_file.h"
 #include "host/hxahost/bundle/replayed_platform.h"
+#include "host/hxahost/system/output_file.h"
 
 namespace hxahost {
 
@@ -33,9 +32,7 @@ class SessionTape {
   // The services that answer: those of the bundle, or the system's.
   NKVRHXA20::HostServices Services();
   // The services with all that they say kept, where it is to be.
-  NKVRHXA20::HostServices Recorded(NKVRHXA20::HostServices services, std::function<double()> lastRunSeconds);
-  // How long the last run took: as it is played, or as it was measured.
-  double RunSeconds(double measured) const { return replay_ ? replay_->LastRunSeconds() : measured; }
+  NKVRHXA20::HostServices Recorded(NKVRHXA20::HostServices services);
 
   // A query came to its end: gives how long it took, as it is played or as it was measured. Throws ProgramError where
   // the bundle lacks what the query asked for.

@@ -31,10 +31,7 @@ struct Item {
 
 Item RunItem(const RecordedRun& run) {
   ToolRunList runs;
-  const SpawnFunction repeat = [&run](const std::string&, const std::vector<std::string>&, int) {
-    if (run.failure) Throw(*run.failure);
-    return run.result;
-  };
+  const SpawnFunction repeat = [&run](const std::string&, const std::vector<std::string>&, int) { return Repeat(run); };
   try {
     SpawnAndRecord(repeat, run.path, run.arguments, run.limitSeconds, runs);
   } catch (const std::exception&) {
@@ -42,7 +39,7 @@ Item RunItem(const RecordedRun& run) {
   }
   const ToolRun& read = runs.front();
   std::array<char, 32> seconds{};
-  std::snprintf(seconds.data(), seconds.size(), "%.3f", run.seconds);
+  std::snprintf(seconds.data(), seconds.size(), "%.3f", run.result.seconds);
   const std::string reason = read.failure.empty() ? "" : ": " + read.failure;
   return {CommandText(run), run.result.output, seconds.data(), std::string(OutcomeWord(read.outcome)) + reason};
 }

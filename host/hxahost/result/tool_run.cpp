@@ -1,6 +1,5 @@
 #include "host/hxahost/result/tool_run.h"
 
-#include <chrono>
 #include <utility>
 
 #include "host/hxahost/text/escaping.h"
@@ -10,8 +9,6 @@ using namespace NKVRHXA20;
 namespace hxahost {
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 Outcome OutcomeOf(SpawnFailure failure) {
   switch (failure) {
@@ -24,6 +21,7 @@ Outcome OutcomeOf(SpawnFailure failure) {
 
 // An answer that looks complete is no success where the program itself says otherwise.
 void ReadAnswerOf(const SpawnResult& result, ToolRun& run) {
+  run.seconds = result.seconds;
   run.exitStatus = result.exitStatus;
   run.bytes = result.output.size();
   ReadAnswer answer = ReadToolAnswer(ToolName(run.path), run.arguments, result.output);
@@ -35,19 +33,6 @@ void ReadAnswerOf(const SpawnResult& result, ToolRun& run) {
   run.outcome = answer.outcome;
   run.failure = std::move(answer.reason);
 }
-
-// Takes the time until it goes, however that comes.
-class Stopwatch {
- public:
-  explicit Stopwatch(double& seconds) : seconds_(seconds) {}
-  ~Stopwatch() { seconds_ = std::chrono::duration<double>(Clock::now() - begin_).count(); }
-  Stopwatch(const Stopwatch&) = delete;
-  Stopwatch& operator=(const Stopwatch&) = delete;
-
- private:
-  double& seconds_;
-  Clock::time_point begin_ = Clock::now();
-};
 
 }  // namespace
 
@@ -63,12 +48,12 @@ SpawnResult SpawnAndRecord(const SpawnFunction& spawn, const std::string& path,
   run.path = path;
   run.arguments = arguments;
   run.outcome = Outcome::kNotStarted;
-  const Stopwatch stopwatch(run.seconds);
   try {
     SpawnResult result = spawn(path, arguments, limitSeconds);
     ReadAnswerOf(result, run);
     return result;
   } catch (const TSpawnException& failure) {
+    run.seconds = failure.Seconds();
     run.outcome = OutcomeOf(failure.Failure());
     run.failure = Printable(failure.what());
     throw;
