@@ -9,7 +9,7 @@
 
 #include "host/hxacore/schema.h"
 #include "host/hxahost/collection/collection_lock.h"
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/raid_log_setting.h"
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/environment.h"
 
 // A variable of the environment with another value while it lives, and none afterwards.
 class VariableSetting {

@@ -1,5 +1,6 @@
 #include "host/hxahost/bundle/replayed_platform.h"
 
+#include "host/hxahost/system/environment.h"
 #include "platform/environment.h"
 #include "platform/environment_answers.h"
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/hxahost/bundle/bundle.h"
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/private_file.h"
 
 namespace hxahost {
 

@@ -5,7 +5,7 @@
 
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/plugin_library.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 #include "host/plugin_manager/plugin_manager_access.h"

@@ -3,7 +3,7 @@
 #include <system_error>
 
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 

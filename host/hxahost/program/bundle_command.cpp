@@ -12,7 +12,7 @@
 #include "host/hxahost/result/tool_run.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/output_file.h"
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/terminal.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 

@@ -1,7 +1,8 @@
 #include <iostream>
 
 #include "host/hxahost/program/program.h"
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/standard_streams.h"
+#include "host/hxahost/system/this_program.h"
 
 int main(int argc, char** argv) {
   const hxahost::StandardStreams streams;

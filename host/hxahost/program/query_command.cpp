@@ -21,7 +21,7 @@
 #include "host/hxahost/collection/writable_tools.h"
 #include "host/hxahost/program/query_output.h"
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/terminal.h"
 #include "host/hxahost/terminal/progress.h"
 #include "host/hxahost/terminal/terminal_layout.h"
 #include "host/hxahost/text/escaping.h"

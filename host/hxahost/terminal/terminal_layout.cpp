@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cstdlib>
 
-#include "host/hxahost/system/system.h"
+#include "host/hxahost/system/terminal.h"
 
 namespace hxahost {
 

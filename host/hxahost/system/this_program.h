@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace hxahost {
+
+// The arguments after the program's name, in UTF-8.
+std::vector<std::string> ProgramArguments(int count, char** arguments);
+
+// The running program, and its folder.
+std::filesystem::path ProgramFile();
+std::filesystem::path ProgramFolder();
+
+unsigned long ProcessId();
+
+}  // namespace hxahost

@@ -1,0 +1,42 @@
+#include "host/hxahost/system/this_program.h"
+
+#include <memory>
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include "host/hxahost/text/utf8.h"
+
+namespace hxahost {
+
+namespace {
+
+struct FreeArguments {
+  void operator()(wchar_t** memory) const { LocalFree(memory); }
+};
+
+}  // namespace
+
+// The narrow arguments have lost what the ANSI code page lacks; the command line has all of it.
+std::vector<std::string> ProgramArguments(int, char**) {
+  int count = 0;
+  const std::unique_ptr<wchar_t*, FreeArguments> wide(CommandLineToArgvW(GetCommandLineW(), &count));
+  std::vector<std::string> arguments;
+  for (int index = 1; wide && index < count; ++index) {
+    arguments.push_back(Utf8FromPath(std::filesystem::path(wide.get()[index])));
+  }
+  return arguments;
+}
+
+std::filesystem::path ProgramFile() {
+  std::wstring name(32768, L'\0');  // the longest path that there is
+  name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+  return name;
+}
+
+std::filesystem::path ProgramFolder() { return ProgramFile().parent_path(); }
+
+unsigned long ProcessId() { return GetCurrentProcessId(); }
+
+}  // namespace hxahost
