@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/hxacore/schema.h"
-#include "host/hxahost/collection/collection_lock.h"
+#include "host/hxahost/system/folder_lock.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
@@ -195,7 +195,8 @@ TEST_F(Hxahost, NamesTheClassesThatMustComeBefore) {
 TEST_F(Hxahost, WaitsForAnotherCollectionInTheSameFolderAndSaysSo) {
   fs::create_directory(folder_.Path() / "zenx");
   const std::vector<std::string> arguments = {"query", "--directory", Utf8FromPath(folder_.Path())};
-  auto other = std::make_unique<hxahost::CollectionLock>(folder_.Path() / "zenx", [] { FAIL() << "nobody else"; });
+  auto other = std::make_unique<hxahost::FolderLock>(folder_.Path() / "zenx");
+  ASSERT_TRUE(other->Take());
   RunningProgram waiting(HxahostPath(), arguments);
   EXPECT_TRUE(waiting.SaysOnStandardError("waiting"));
   other.reset();

@@ -8,7 +8,6 @@
 #include "host/hxahost/bundle/bundle_file.h"
 #include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"
@@ -22,7 +21,7 @@ using testing::StartsWith;
 
 class BundleCommand : public testing::Test {
  protected:
-  BundleCommand() { options_.file = Utf8FromPath(folder_.Write("m.bundle", WriteBundle(SampleBundle()))); }
+  BundleCommand() { options_.file = folder_.Write("m.bundle", WriteBundle(SampleBundle())); }
 
   std::string Shown() {
     std::ostringstream out;
@@ -75,7 +74,7 @@ TEST_F(BundleCommand, ShowsAnItemWithoutSendingAControlToTheTerminal) {
 TEST_F(BundleCommand, GivesTheBytesOfAnItemToAFile) {
   options_.items = {1};
   options_.isRaw = true;
-  options_.output = Utf8FromPath(folder_.Path() / "raw");
+  options_.output = folder_.Path() / "raw";
   EXPECT_EQ(Shown(), "");
   EXPECT_EQ(FileText(folder_.Path() / "raw"), SampleBundle().runs[0].result.output);
 }
@@ -86,7 +85,7 @@ TEST_F(BundleCommand, RefusesAnItemThatIsNotThere) {
 }
 
 TEST_F(BundleCommand, MasksABundleIntoAnother) {
-  options_.output = Utf8FromPath(folder_.Path() / "masked");
+  options_.output = folder_.Path() / "masked";
   MaskBundleFile(options_);
   const Bundle masked = ReadBundleFile(folder_.Path() / "masked");
   EXPECT_TRUE(masked.isMasked);
@@ -99,22 +98,22 @@ TEST_F(BundleCommand, RefusesWhatIsNoWholeBundleInOneLine) {
   std::ostringstream out;
   const std::string damaged = WriteBundle(SampleBundle()).substr(0, 300);
   for (const auto& [name, text] : {std::pair("foreign", std::string("{}")), std::pair("damaged", damaged)}) {
-    options_.file = Utf8FromPath(folder_.Write(name, text));
+    options_.file = folder_.Write(name, text);
     EXPECT_THAT(Error([&] { ListBundle(options_, out); }), HasSubstr(name));
     EXPECT_THAT(Error([&] { Shown(); }), Not(HasSubstr("\n")));
-    options_.output = Utf8FromPath(folder_.Path() / "out");
+    options_.output = folder_.Path() / "out";
     EXPECT_NE(Error([&] { MaskBundleFile(options_); }), "");
     EXPECT_FALSE(std::filesystem::exists(folder_.Path() / "out"));
   }
   for (const std::filesystem::path& missing : {folder_.Path() / "missing", folder_.Path()}) {
-    options_.file = Utf8FromPath(missing);
+    options_.file = missing;
     EXPECT_THAT(Error([&] { ListBundle(options_, out); }), HasSubstr("cannot be read"));
   }
   EXPECT_EQ(out.str(), "");
 }
 
 TEST_F(BundleCommand, TellsBundlesFromOtherFiles) {
-  EXPECT_TRUE(IsBundleFile(PathFromUtf8(options_.file)));
+  EXPECT_TRUE(IsBundleFile(options_.file));
   EXPECT_FALSE(IsBundleFile(folder_.Write("short", "hxahost")));
   EXPECT_FALSE(IsBundleFile(folder_.Write("json", "{\"format\": 1, \"machine\": 2}")));
   EXPECT_FALSE(IsBundleFile(folder_.Path()));

@@ -24,17 +24,17 @@ QueryOptions Query(std::vector<std::string> arguments) {
 
 TEST(Options, HaveDefaultsForEverything) {
   const QueryOptions options = Query({});
-  EXPECT_EQ(options.plugin, "");
-  EXPECT_EQ(options.directory, "");
+  EXPECT_EQ(options.collection.plugin, "");
+  EXPECT_EQ(options.collection.directory, "");
   EXPECT_THAT(options.classes, IsEmpty());
   EXPECT_EQ(options.repeat, 1U);
   EXPECT_EQ(options.format, "table");
   EXPECT_EQ(options.output, "");
-  EXPECT_EQ(options.log, "");
-  EXPECT_FALSE(options.osType);
-  EXPECT_FALSE(options.machineName);
-  EXPECT_FALSE(options.localTime);
-  EXPECT_TRUE(options.showProgress);
+  EXPECT_EQ(options.collection.log, "");
+  EXPECT_FALSE(options.collection.osType);
+  EXPECT_FALSE(options.collection.machineName);
+  EXPECT_FALSE(options.collection.localTime);
+  EXPECT_TRUE(options.collection.showProgress);
 }
 
 TEST(Options, TakeEveryOptionOfAQuery) {
@@ -62,28 +62,28 @@ TEST(Options, TakeEveryOptionOfAQuery) {
                                       "--local-time",
                                       "20260305123015.250000+060",
                                       "--no-progress"});
-  EXPECT_EQ(options.plugin, "p.pi");
-  EXPECT_EQ(options.directory, "dir with blank");
+  EXPECT_EQ(options.collection.plugin, "p.pi");
+  EXPECT_EQ(options.collection.directory, "dir with blank");
   EXPECT_THAT(options.classes, ElementsAre("B", "A", "B"));
   EXPECT_EQ(options.repeat, 3U);
   EXPECT_EQ(options.format, "json");
   EXPECT_EQ(options.output, "o.json");
-  EXPECT_EQ(options.log, "l.txt");
-  EXPECT_EQ(options.osType, 65535);
-  EXPECT_EQ(options.machineName, "K\xc3\xa4se");
-  ASSERT_TRUE(options.localTime);
-  EXPECT_EQ(options.localTime->ToString(), "20260305123015.250000+060");
-  EXPECT_FALSE(options.showProgress);
+  EXPECT_EQ(options.collection.log, "l.txt");
+  EXPECT_EQ(options.collection.osType, 65535);
+  EXPECT_EQ(options.collection.machineName, "K\xc3\xa4se");
+  ASSERT_TRUE(options.collection.localTime);
+  EXPECT_EQ(options.collection.localTime->ToString(), "20260305123015.250000+060");
+  EXPECT_FALSE(options.collection.showProgress);
 }
 
 TEST(Options, TakeBundlesToRecordAndToReplay) {
   const QueryOptions both = Query({"--record", "new", "--mask", "--replay", "old"});
-  EXPECT_EQ(both.record, "new");
-  EXPECT_TRUE(both.isMasked);
-  EXPECT_EQ(both.replay, "old");
-  EXPECT_FALSE(both.hasOsType);
-  EXPECT_TRUE(Query({"--os-type", "none"}).hasOsType);
-  EXPECT_EQ(ParseCommandLine({"health", "--replay", "old"}).query.replay, "old");
+  EXPECT_EQ(both.collection.record, "new");
+  EXPECT_TRUE(both.collection.isMasked);
+  EXPECT_EQ(both.collection.replay, "old");
+  EXPECT_FALSE(both.collection.hasOsType);
+  EXPECT_TRUE(Query({"--os-type", "none"}).collection.hasOsType);
+  EXPECT_EQ(ParseCommandLine({"health", "--replay", "old"}).query.collection.replay, "old");
 }
 
 TEST(Options, SelectWhatIsDoneWithABundle) {
@@ -103,8 +103,8 @@ TEST(Options, SelectWhatIsDoneWithABundle) {
 }
 
 TEST(Options, TakeZeroAndNoneAsTypesOfTheOperatingSystem) {
-  EXPECT_EQ(Query({"--os-type", "0"}).osType, 0);
-  EXPECT_EQ(Query({"--os-type", "none"}).osType, std::nullopt);
+  EXPECT_EQ(Query({"--os-type", "0"}).collection.osType, 0);
+  EXPECT_EQ(Query({"--os-type", "none"}).collection.osType, std::nullopt);
 }
 
 TEST(Options, TakeEveryOptionOfHealth) {
@@ -113,15 +113,15 @@ TEST(Options, TakeEveryOptionOfHealth) {
                         "o.prom", "--log", "l.txt", "--os-type", "82", "--machine-name", "M", "--local-time",
                         "20260305123015.250000+060", "--no-progress"});
   EXPECT_EQ(line.command, Command::kHealth);
-  EXPECT_EQ(line.query.plugin, "p.pi");
-  EXPECT_EQ(line.query.directory, "d");
+  EXPECT_EQ(line.query.collection.plugin, "p.pi");
+  EXPECT_EQ(line.query.collection.directory, "d");
   EXPECT_EQ(line.query.format, "prometheus");
   EXPECT_EQ(line.query.output, "o.prom");
-  EXPECT_EQ(line.query.log, "l.txt");
-  EXPECT_EQ(line.query.osType, 82);
-  EXPECT_EQ(line.query.machineName, "M");
-  EXPECT_TRUE(line.query.localTime);
-  EXPECT_FALSE(line.query.showProgress);
+  EXPECT_EQ(line.query.collection.log, "l.txt");
+  EXPECT_EQ(line.query.collection.osType, 82);
+  EXPECT_EQ(line.query.collection.machineName, "M");
+  EXPECT_TRUE(line.query.collection.localTime);
+  EXPECT_FALSE(line.query.collection.showProgress);
 }
 
 TEST(Options, OfHealthHaveATextForPeopleAsDefault) {

@@ -9,7 +9,6 @@
 #include <string>
 
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/utf8.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -23,11 +22,11 @@ TEST(QueryCommand, SaysThatWhatAFailedQueryLeftOnStandardOutputIsNotWhole) {
   const fs::path before = fs::current_path();
   const TemporaryFolder folder;
   QueryOptions options;
-  options.directory = Utf8FromPath(folder.Path());
+  options.collection.directory = folder.Path();
   options.classes = {"KVRSG_zxDiskDrive"};
   options.repeat = 2;
   options.format = "json";
-  options.showProgress = false;
+  options.collection.showProgress = false;
   QueryDisplay display;
   display.begin = [](std::ostream& out, const QueryHeader&) { out << "begin "; };
   display.query = [](std::ostream& out, const QueryHeader&, const QueryResult& result) {

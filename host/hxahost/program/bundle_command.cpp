@@ -102,7 +102,7 @@ void ShowItems(const Bundle& bundle, const BundleOptions& options, std::ostream&
 }  // namespace
 
 void ListBundle(const BundleOptions& options, std::ostream& out) {
-  const Bundle bundle = ReadBundleFile(PathFromUtf8(options.file));
+  const Bundle bundle = ReadBundleFile(options.file);
   out << " ITEM     BYTES   SECONDS  COMMAND (OUTCOME)\n";
   for (std::size_t number = 1; number <= ItemCount(bundle); ++number) {
     const Item item = ItemOf(bundle, number);
@@ -112,14 +112,14 @@ void ListBundle(const BundleOptions& options, std::ostream& out) {
 }
 
 void ShowBundle(const BundleOptions& options, std::ostream& out) {
-  const Bundle bundle = ReadBundleFile(PathFromUtf8(options.file));
+  const Bundle bundle = ReadBundleFile(options.file);
   CheckItems(bundle, options);
   if (options.isRaw && options.output.empty() && StandardOutputIsTerminal()) {
     throw ProgramError(ExitStatus::kWrongArguments,
                        "--raw could give commands to this terminal: leave it out, or name a file with --output.");
   }
   std::optional<OutputFile> file;
-  if (!options.output.empty()) file.emplace(PathFromUtf8(options.output));
+  if (!options.output.empty()) file.emplace(options.output);
   std::ostream& shown = file ? file->Stream() : out;
   if (options.items.empty()) ShowHeader(bundle, shown);
   ShowItems(bundle, options, shown);
@@ -127,8 +127,8 @@ void ShowBundle(const BundleOptions& options, std::ostream& out) {
 }
 
 void MaskBundleFile(const BundleOptions& options) {
-  const Bundle bundle = ReadBundleFile(PathFromUtf8(options.file));
-  OutputFile file(PathFromUtf8(options.output), "OUT");
+  const Bundle bundle = ReadBundleFile(options.file);
+  OutputFile file(options.output, "OUT");
   file.Stream() << WriteBundle(MaskBundle(bundle, SystemRandom()));
   file.Finish();
 }

@@ -11,6 +11,7 @@
 #include "host/hxahost/schema/schema_view.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/views.h"
 
@@ -45,21 +46,27 @@ void CheckFormat(const std::string& format, std::span<const AnyView> views) {
   }
 }
 
+// Paths are UTF-8 on every system.
+CLI::Option* AddPath(CLI::App& command, const std::string& name, std::filesystem::path& path,
+                     const std::string& description) {
+  return command.add_option_function<std::string>(
+      name, [&path](const std::string& text) { path = PathFromUtf8(text); }, description);
+}
+
 // What every command that collects is told.
 void AddCollecting(CLI::App& command, TypedOptions& typed) {
-  QueryOptions& read = typed.read;
-  command.add_option("--plugin", read.plugin, "The plug-in to load (default: zenx.pi beside this program)")
+  CollectionOptions& read = typed.read.collection;
+  AddPath(command, "--plugin", read.plugin, "The plug-in to load (default: zenx.pi beside this program)")
       ->type_name("FILE");
-  command.add_option("--directory", read.directory, "Where the folder zenx with the tools is (default: here)")
+  AddPath(command, "--directory", read.directory, "Where the folder zenx with the tools is (default: here)")
       ->type_name("DIR");
-  command.add_option("--output", read.output, "Where to write (default: standard output); complete or not at all")
+  AddPath(command, "--output", typed.read.output, "Where to write (default: standard output); complete or not at all")
       ->type_name("FILE");
-  command.add_option("--log", read.log, "Write the log there: one line for an entry, its level first")
-      ->type_name("FILE");
-  command.add_option("--record", read.record, "Keep all that the collection was told in a bundle, to be replayed")
+  AddPath(command, "--log", read.log, "Write the log there: one line for an entry, its level first")->type_name("FILE");
+  AddPath(command, "--record", read.record, "Keep all that the collection was told in a bundle, to be replayed")
       ->type_name("BUNDLE");
   command.add_flag("--mask", read.isMasked, "Hide machine name, serial numbers and given names in that bundle");
-  command.add_option("--replay", read.replay, "Run no tool: take everything from a bundle")->type_name("BUNDLE");
+  AddPath(command, "--replay", read.replay, "Run no tool: take everything from a bundle")->type_name("BUNDLE");
   command
       .add_option("--os-type", typed.osType,
                   "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
@@ -141,15 +148,15 @@ CLI::App* AddBundle(CLI::App& program, TypedBundle& typed) {
   bundle->footer(kBundleExamples);
   BundleOptions& read = typed.read;
   CLI::App* const list = bundle->add_subcommand("list", "One line for each command, and for the log");
-  list->add_option("FILE", read.file, "The bundle")->required();
+  AddPath(*list, "FILE", read.file, "The bundle")->required();
   CLI::App* const show = bundle->add_subcommand("show", "What a command printed, or what holds for all of them");
-  show->add_option("FILE", read.file, "The bundle")->required();
+  AddPath(*show, "FILE", read.file, "The bundle")->required();
   show->add_option("ITEM", typed.items, "Numbers of the list (default: what stands before the items)");
   show->add_flag("--raw", read.isRaw, "The bytes themselves, for a file or another program");
-  show->add_option("--output", read.output, "Where to write (default: standard output)")->type_name("FILE");
+  AddPath(*show, "--output", read.output, "Where to write (default: standard output)")->type_name("FILE");
   CLI::App* const mask = bundle->add_subcommand("mask", "Hide machine name, serial numbers and given names");
-  mask->add_option("IN", read.file, "The bundle")->required();
-  mask->add_option("OUT", read.output, "The masked one")->required();
+  AddPath(*mask, "IN", read.file, "The bundle")->required();
+  AddPath(*mask, "OUT", read.output, "The masked one")->required();
   return bundle;
 }
 
@@ -161,7 +168,7 @@ void RejectEmptyValues(const CLI::App& query) {
   }
 }
 
-void CheckBundles(const QueryOptions& options) {
+void CheckBundles(const CollectionOptions& options) {
   if (options.isMasked && options.record.empty()) {
     throw ProgramError(ExitStatus::kWrongArguments,
                        "--mask hides what is in a bundle: name one with --record, or leave it out.");
@@ -176,14 +183,15 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   RejectEmptyValues(query);
   QueryOptions options = typed.read;
   options.repeat = ReadRepeat(typed.repeat);
-  options.osType = ReadOsType(typed.osType);
-  options.hasOsType = query.get_option("--os-type")->count() > 0;
-  if (!typed.machineName.empty()) options.machineName = typed.machineName;
-  if (!typed.localTime.empty()) options.localTime = ReadLocalTime(typed.localTime);
-  options.showProgress = !typed.noProgress;
+  CollectionOptions& collection = options.collection;
+  collection.osType = ReadOsType(typed.osType);
+  collection.hasOsType = query.get_option("--os-type")->count() > 0;
+  if (!typed.machineName.empty()) collection.machineName = typed.machineName;
+  if (!typed.localTime.empty()) collection.localTime = ReadLocalTime(typed.localTime);
+  collection.showProgress = !typed.noProgress;
   if (!typed.width.empty()) options.width = ReadWidth(typed.width);
   CheckColor(options.color);
-  CheckBundles(options);
+  CheckBundles(collection);
   return options;
 }
 

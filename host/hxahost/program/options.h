@@ -1,34 +1,24 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "plugin/host_interface/date_time.h"
+#include "host/hxahost/collection/collection_options.h"
 
 namespace hxahost {
 
 // What "hxahost query" is asked for. Texts are UTF-8; an empty path was not given.
 struct QueryOptions {
-  std::string plugin;
-  std::string directory;
+  CollectionOptions collection;
   std::vector<std::string> classes;  // in the order given; none: every class that the plug-in publishes
   unsigned repeat = 1;
   std::string format = "table";
-  std::string output;
-  std::string log;
-  std::string record;     // the bundle to write
-  bool isMasked = false;  // names and serial numbers in it are hidden
-  std::string replay;     // the bundle to take everything from
-  std::optional<std::uint16_t> osType;
-  bool hasOsType = false;  // it was asked for; none is an answer, too
-  std::optional<std::string> machineName;
-  std::optional<NKVRHXA20::TCIMDateTime> localTime;
+  std::filesystem::path output;
   bool showRuns = false;
   bool showUnread = false;
-  bool showProgress = true;
   std::optional<unsigned> width;  // of the tables
   bool isAscii = false;
   std::string color = "auto";
@@ -36,10 +26,10 @@ struct QueryOptions {
 
 // What "hxahost bundle" is asked for.
 struct BundleOptions {
-  std::string file;
+  std::filesystem::path file;
   std::vector<std::size_t> items;  // to be shown, counted from 1; none: what stands before them
   bool isRaw = false;
-  std::string output;  // where the items, or the masked bundle, go
+  std::filesystem::path output;  // where the items, or the masked bundle, go
 };
 
 // What "hxahost diff" is asked for: two results that were written before.

@@ -16,8 +16,8 @@ LayoutWishes WishesOf(const QueryOptions& options) {
   return {!options.output.empty(), options.width, options.color, options.isAscii};
 }
 
-QueryOutput::QueryOutput(const QueryOptions& options, const std::filesystem::path& file, std::ostream& out)
-    : shown_(Opened(file_, file, out)), asciiBuffer_(shown_), ascii_(&asciiBuffer_), stream_(&shown_) {
+QueryOutput::QueryOutput(const QueryOptions& options, std::ostream& out)
+    : shown_(Opened(file_, options.output, out)), asciiBuffer_(shown_), ascii_(&asciiBuffer_), stream_(&shown_) {
   if (options.format != Views().front().format) return;
   if (IsAsciiOnly(WishesOf(options))) stream_ = &ascii_;
 }

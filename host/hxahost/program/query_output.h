@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <optional>
 #include <ostream>
 
@@ -17,8 +16,8 @@ LayoutWishes WishesOf(const QueryOptions& options);
 // Where a query is shown.
 class QueryOutput {
  public:
-  // To the file, or to out where the path is "". Throws ProgramError where the file cannot be written.
-  QueryOutput(const QueryOptions& options, const std::filesystem::path& file, std::ostream& out);
+  // To the output that the options name, or to out. Throws ProgramError where the file cannot be written.
+  QueryOutput(const QueryOptions& options, std::ostream& out);
   QueryOutput(const QueryOutput&) = delete;
   QueryOutput& operator=(const QueryOutput&) = delete;
 

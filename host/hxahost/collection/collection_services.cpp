@@ -1,8 +1,6 @@
-#include "host/hxahost/collection/session_services.h"
+#include "host/hxahost/collection/collection_services.h"
 
 #include <utility>
-
-#include "host/hxacore/host_services.h"
 
 using namespace NKVRHXA20;
 
@@ -32,9 +30,8 @@ class RunningCommand {
 
 }  // namespace
 
-SessionServices::SessionServices(const QueryOptions& options, QueryLog& log, ToolRunList& runs, Progress* progress,
-                                 SessionTape& tape) {
-  HostServices services = tape.Services();
+CollectionServices::CollectionServices(HostServices services, const CollectionOptions& options, QueryLog& log,
+                                       ToolRunList& runs, Progress* progress, BundleRecorder* recorder) {
   services.log = [&log](int level, const std::string& text) { log.Add(level, text); };
   if (options.machineName) services.machineName = [name = *options.machineName] { return name; };
   if (options.localTime) services.localTime = [time = *options.localTime] { return time; };
@@ -43,9 +40,9 @@ SessionServices::SessionServices(const QueryOptions& options, QueryLog& log, Too
     const RunningCommand running(progress, path, arguments);
     return SpawnAndRecord(spawn, path, arguments, limitSeconds, runs);
   };
-  SetServices(tape.Recorded(std::move(services)));
+  SetServices(recorder != nullptr ? recorder->Wrap(std::move(services)) : std::move(services));
 }
 
-SessionServices::~SessionServices() { SetServices(RealServices()); }
+CollectionServices::~CollectionServices() { SetServices(RealServices()); }
 
 }  // namespace hxahost

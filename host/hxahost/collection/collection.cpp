@@ -1,0 +1,107 @@
+#include "host/hxahost/collection/collection.h"
+
+#include <chrono>
+#include <filesystem>
+#include <utility>
+
+#include "host/hxacore/host_services.h"
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/bundle_mask.h"
+#include "host/hxahost/collection/writable_tools.h"
+#include "host/hxahost/result/tool_answer.h"
+#include "host/hxahost/system/terminal.h"
+#include "host/hxahost/system/this_program.h"
+#include "host/hxahost/terminal/terminal_layout.h"
+#include "host/hxahost/text/utf8.h"
+
+using namespace NKVRHXA20;
+namespace fs = std::filesystem;
+
+namespace hxahost {
+
+namespace {
+
+std::optional<BundleReplay> OpenReplay(const fs::path& bundle) {
+  if (bundle.empty()) return std::nullopt;
+  return BundleReplay(ReadBundleFile(bundle));
+}
+
+std::optional<OutputFile> OpenRecord(const fs::path& bundle) {
+  if (bundle.empty()) return std::nullopt;
+  return std::optional<OutputFile>(std::in_place, bundle, "--record");
+}
+
+}  // namespace
+
+Collection::Collection(const CollectionOptions& options, std::ostream& err)
+    : isMasked_(options.isMasked),
+      replay_(OpenReplay(options.replay)),
+      platform_(replay_ ? std::make_unique<ReplayedPlatform>(replay_->Recorded()) : nullptr),
+      osType_(replay_ && !options.hasOsType ? replay_->Recorded().osType : options.osType),
+      recordFile_(OpenRecord(options.record)),
+      recorder_(recordFile_ ? std::make_unique<BundleRecorder>(osType_, ToolDirectory()) : nullptr),
+      log_(options.log),
+      progress_(options.showProgress && StandardErrorIsTerminal()
+                    ? std::make_unique<Progress>(err, ProgressWidth(), MostRuns())
+                    : nullptr),
+      services_(replay_ ? replay_->Services() : RealServices(), options, log_, runs_, progress_.get(), recorder_.get()),
+      plugin_(options.plugin.empty() ? ProgramFolder() / "zenx.pi" : options.plugin),
+      repository_(TRepository::Make(osType_)) {
+  if (replay_) return;
+  const std::string warning = WritableToolsWarning(fs::current_path());
+  if (!warning.empty()) err << "hxahost: " << warning << std::endl;
+  lock_.emplace("zenx", err);
+}
+
+// Where the tools are run, or were when they were recorded.
+std::string Collection::ToolDirectory() const {
+  return replay_ ? replay_->Recorded().directory : Utf8FromPath(fs::current_path());
+}
+
+QueryHeader Collection::Header(std::vector<std::string> classes) const {
+  const HostServices& services = CurrentServices();
+  QueryHeader header;
+  header.machine = services.machineName();
+  header.directory = ToolDirectory();
+  header.time = services.localTime();
+  header.classes = std::move(classes);
+  return header;
+}
+
+QueryResult Collection::Query(const QueryHeader& header, unsigned number) {
+  using Clock = std::chrono::steady_clock;
+  std::vector<boost::shared_ptr<ICIMClass>> classes;
+  for (const std::string& name : header.classes) classes.push_back(repository_->GetClass(name, {}));
+  repository_->BeginQuery(classes);
+  const auto begin = Clock::now();
+  plugin_.Query(repository_, classes);
+  double seconds = std::chrono::duration<double>(Clock::now() - begin).count();
+  if (replay_) {
+    replay_->CheckNothingWasMissing();
+    seconds = replay_->QuerySeconds(number);
+  }
+  if (recorder_) recorder_->AddQuery(seconds);
+  if (progress_) progress_->Clear();  // or the tables would go on in its line
+  return {number, repository_->Published(), log_.Take(), std::exchange(runs_, {}), seconds};
+}
+
+void Collection::Finish() {
+  progress_.reset();
+  log_.Finish();
+}
+
+void Collection::SaveRecording() {
+  if (!recorder_) return;
+  Bundle bundle = recorder_->Recorded();
+  if (replay_) {
+    // What the plug-in was given in the log's place is nobody's log.
+    if (bundle.raidLog) bundle.raidLog = replay_->Recorded().raidLog;
+    bundle.isMasked = replay_->Recorded().isMasked;
+  }
+  if (isMasked_) bundle = MaskBundle(bundle, SystemRandom());
+  recordFile_->Stream() << WriteBundle(bundle);
+  recordFile_->Finish();
+}
+
+}  // namespace hxahost

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "host/hxacore/repository.h"
+#include "host/hxahost/bundle/bundle_recorder.h"
+#include "host/hxahost/bundle/bundle_replay.h"
+#include "host/hxahost/bundle/replayed_platform.h"
+#include "host/hxahost/collection/collection_lock.h"
+#include "host/hxahost/collection/collection_options.h"
+#include "host/hxahost/collection/collection_services.h"
+#include "host/hxahost/collection/plugin.h"
+#include "host/hxahost/collection/query_log.h"
+#include "host/hxahost/result/query_result.h"
+#include "host/hxahost/system/output_file.h"
+#include "host/hxahost/terminal/progress.h"
+
+namespace hxahost {
+
+// One collection in the working directory: all that a query needs, in the order in which it is set up.
+class Collection {
+ public:
+  // Waits until no other program collects there; what a person should know meanwhile goes to err. Throws ProgramError.
+  Collection(const CollectionOptions& options, std::ostream& err);
+  Collection(const Collection&) = delete;
+  Collection& operator=(const Collection&) = delete;
+
+  // What holds for all queries of these classes.
+  QueryHeader Header(std::vector<std::string> classes) const;
+
+  // Has the plug-in publish the classes of the header. Queries are counted from 1. Throws ProgramError where a bundle
+  // lacks what the plug-in asks for; what the plug-in throws passes on.
+  QueryResult Query(const QueryHeader& header, unsigned number);
+
+  // No query follows. Throws ProgramError where the log lacks entries.
+  void Finish();
+
+  // Writes what was recorded, also of a query that failed. Throws ProgramError.
+  void SaveRecording();
+
+ private:
+  std::string ToolDirectory() const;
+
+  bool isMasked_;
+  std::optional<BundleReplay> replay_;
+  std::unique_ptr<ReplayedPlatform> platform_;
+  std::optional<std::uint16_t> osType_;
+  std::optional<OutputFile> recordFile_;
+  std::unique_ptr<BundleRecorder> recorder_;
+  QueryLog log_;
+  ToolRunList runs_;
+  std::unique_ptr<Progress> progress_;
+  CollectionServices services_;
+  Plugin plugin_;
+  boost::shared_ptr<NKVRHXA20::TRepository> repository_;
+  std::optional<CollectionLock> lock_;
+};
+
+}  // namespace hxahost

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "plugin/host_interface/date_time.h"
+
+namespace hxahost {
+
+// How to collect. An empty path was not given; the others are absolute.
+struct CollectionOptions {
+  std::filesystem::path plugin;     // none: zenx.pi beside the program
+  std::filesystem::path directory;  // the working directory of the tools
+  std::filesystem::path log;
+  std::filesystem::path record;  // the bundle to write
+  bool isMasked = false;         // names and serial numbers in it are hidden
+  std::filesystem::path replay;  // the bundle to take everything from
+  std::optional<std::uint16_t> osType;
+  bool hasOsType = false;  // it was asked for; none is an answer, too
+  std::optional<std::string> machineName;
+  std::optional<NKVRHXA20::TCIMDateTime> localTime;
+  bool showProgress = true;
+};
+
+}  // namespace hxahost
