@@ -23,8 +23,13 @@ set(common_headers <algorithm> <boost/shared_ptr.hpp> <chrono> <cstdint> <filesy
                    <optional> <ostream> <set> <span> <sstream> <stdexcept> <string> <string_view> <utility> <variant>
                    <vector>)
 
+# Every binary is built from hxacore: what includes something it must not is found first.
+add_custom_target(includes COMMAND ${CMAKE_COMMAND} -P ${CMAKE_SOURCE_DIR}/cmake/check_includes.cmake
+                  WORKING_DIRECTORY ${CMAKE_SOURCE_DIR} COMMENT "Checking what files include" VERBATIM)
+
 sources_of(hxacore_sources host/hxacore)
 add_library(hxacore SHARED ${hxacore_sources} plugin/host_interface/assertion_failed.cpp)
+add_dependencies(hxacore includes)
 target_compile_definitions(hxacore PRIVATE HXACORE_BUILD)
 target_link_libraries(hxacore PUBLIC compile_options)
 if(WIN32)
@@ -76,11 +81,10 @@ if(ZENX_COVERAGE)
   add_custom_command(TARGET zenx PRE_LINK COMMAND find ${CMAKE_BINARY_DIR} -name *.gcda -delete VERBATIM)
 endif()
 
-# The program's own code is a library, so that tests can call it. Its rooms, from the top floor down.
-set(hxahost_rooms program diff views views/tables views/report views/json views/cim views/monitoring machine collection
-    result bundle terminal schema system text)
+# The program's own code is a library, so that tests can call it.
+include(Rooms)
 list(TRANSFORM hxahost_rooms PREPEND host/hxahost/ OUTPUT_VARIABLE hxahost_folders)
-sources_of(hxahost_sources ${hxahost_folders})
+sources_of(hxahost_sources ${hxahost_folders} host/hxahost/views/*)
 list(REMOVE_ITEM hxahost_sources ${CMAKE_SOURCE_DIR}/host/hxahost/program/main.cpp)
 add_library(hxahost_objects OBJECT ${hxahost_sources})
 target_link_libraries(hxahost_objects PUBLIC host_interface plugin_manager platform_answers)

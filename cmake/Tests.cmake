@@ -50,6 +50,9 @@ endforeach()
 # The preset asan runs two of all tests at a time. Programs that collect from one folder wait for each other, and say so.
 set_tests_properties(end_to_end PROPERTIES RESOURCE_LOCK sample_machine)
 
+# Every build checks what the product includes; this is a test of the check.
+add_test(NAME includes COMMAND ${CMAKE_SOURCE_DIR}/tests/includes/includes_test)
+
 # What binaries import: those for Linux scripts/test looks at in the release build, as what counts lines imports more.
 if(CMAKE_CROSSCOMPILING)
   add_test(NAME binaries COMMAND ${CMAKE_SOURCE_DIR}/tests/binaries/binaries_test ${system} ${CMAKE_BINARY_DIR}/bin)
