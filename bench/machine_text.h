@@ -1,11 +1,11 @@
 #pragma once
 
+#include <map>
 #include <string>
 
-// Answers of the utilities for one controller with so many disks, as large as real ones: an array and a logical drive
-// for every eight disks, sixteen disks a channel.
-std::string QcmdrunConfig(int disks);
-std::string QcmdrunDeviceEvents(int disks);
-std::string QcmdrunSubStatus(int disks);
-std::string ArcconfConfig(int disks);
-std::string HrconfConfig(int disks);
+// What a utility prints of one controller with so many disks, as much as real ones do: a logical drive for every eight
+// disks, sixteen disks a channel. By command and option, such as "getconfig-al". Lines end in lineEnd.
+using Answers = std::map<std::string, std::string>;
+Answers QcmdrunAnswers(int disks, const std::string& lineEnd);
+Answers ArcconfAnswers(int disks, const std::string& lineEnd);
+Answers HrconfAnswers(int disks, const std::string& lineEnd);

@@ -1,71 +1,72 @@
-// Prints one table of what the plug-in costs, each row against something that does the least there is to do. Given a
-// job and a size, does that job alone: that is what valgrind is run on.
+// Prints one table of what people feel of the program's speed, each row with its limit. The exit status is 1 when a
+// limit is missed.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
-#include "bench/collection_cost.h"
-#include "bench/job_runner.h"
+#include <nlohmann/json.hpp>
+
+#include "bench/machine_text.h"
+#include "bench/measured_process.h"
+#include "bench/tool_speed.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kDisks = 512;
-constexpr int kLogLines = 100'000;
+constexpr int kRounds = 15;         // of collecting from the sample machine
+constexpr int kDisks = 4'096;       // on the controller whose text is collected
+constexpr int kMostDisks = 32'768;  // on one controller
+constexpr int kLogLines = 200'000;
+constexpr double kSteepest = 1.1;  // growth: 1 is with the disks, 2 with their square
 
-void PrintRow(const std::string& what, const std::string& measured, const std::string& compared, double ratio,
-              const char* target) {
-  std::printf("%-50s %-34s %-34s %8.3f  %s\n", what.c_str(), measured.c_str(), compared.c_str(), ratio, target);
-  std::fflush(stdout);
+constexpr const char* kViews[] = {"table", "json", "html", "cim-xml", "mof"};
+constexpr const char* kHealthViews[] = {"text", "json", "prometheus"};
+// Three links for each disk, and before them what they link.
+constexpr const char* kLinks[] = {"KVRSG_zxSCSIProtocolController", "KVRSG_zxDiskDrive",
+                                  "KVRSG_zxDiskDriveVersion",       "KVRSG_zxSCSIDeviceData",
+                                  "KVRSG_ElementZxScsiDeviceData",  "KVRSG_zxProtocolControllerForPhysicalDisk",
+                                  "KVRSG_zxFirmwareOnDiskDrive"};
+
+// The rows, and whether all limits are met.
+class Table {
+ public:
+  Table() { std::printf("%-44s %12s %12s\n", "what", "measured", "limit"); }
+
+  void AtMost(const std::string& what, double measured, double limit) {
+    Add(what, measured, "at most", limit, measured <= limit);
+  }
+  void AtLeast(const std::string& what, double measured, double limit) {
+    Add(what, measured, "at least", limit, measured >= limit);
+  }
+  bool IsMet() const { return isMet_; }
+
+ private:
+  void Add(const std::string& what, double measured, const char* relation, double limit, bool isMet) {
+    const int digits = limit < 10 ? 2 : 0;
+    std::printf("%-44s %12.*f   %8s %8.*f  %s\n", what.c_str(), digits, measured, relation, digits, limit,
+                isMet ? "met" : "MISSED");
+    std::fflush(stdout);
+    isMet_ = isMet_ && isMet;
+  }
+
+  bool isMet_ = true;
+};
+
+double Median(std::vector<double> values) {
+  std::ranges::sort(values);
+  return values[values.size() / 2];
 }
 
-std::string Text(const char* format, auto... values) {
-  const int size = std::snprintf(nullptr, 0, format, values...);
-  std::string text(static_cast<std::size_t>(size), '\0');
-  std::snprintf(text.data(), text.size() + 1, format, values...);
-  return text;
-}
-
-double Of(std::size_t count) { return static_cast<double>(count); }
-
-double EachMicroseconds(const Cost& cost) { return cost.seconds / Of(cost.things) * 1e6; }
-double EachInstructions(const Cost& cost) { return cost.instructions / Of(cost.things); }
-
-void PrintHead() { std::printf("%-50s %-34s %-34s %8s  %s\n", "what", "measured", "compared with", "ratio", "target"); }
-
-void PrintCollection(const std::string& machine, int rounds) {
-  const CollectionCost cost = MeasureCollection(machine, rounds);
-  PrintRow(Text("whole collection, %zu runs of tools", cost.runs), Text("%.2f ms", cost.whole * 1e3),
-           Text("%.2f ms, the same runs bare", cost.bare * 1e3), cost.ratio, "<= 1.03");
-  PrintRow("  the same in the processors' time", Text("%.2f ms", cost.wholeBusy * 1e3),
-           Text("%.2f ms, the same runs bare", cost.bareBusy * 1e3), cost.ratioBusy, "<= 1.03");
-}
-
-void PrintParsing(const std::string& tool) {
-  const Cost parsed = Counted("parse-" + tool, kDisks);
-  const Cost split = Counted("split-" + tool, kDisks);
-  const double bytes = Of(parsed.bytes);
-  PrintRow("parsing " + tool + Text(", %d disks", kDisks),
-           Text("%.2f instr/byte, %.0f MB/s", parsed.instructions / bytes, bytes / parsed.seconds / 1e6),
-           Text("%.2f instr/byte, lines by memchr", split.instructions / bytes),
-           parsed.instructions / split.instructions, "<= 8");
-}
-
-void PrintPublication() {
-  const Cost whole = Counted("publish", kDisks);
-  const Cost idle = Counted("publish-idle", kDisks);
-  const auto each = [](const Cost& cost) {
-    return Text("%.0f instr, %.2f us", EachInstructions(cost), EachMicroseconds(cost));
-  };
-  PrintRow(Text("publication of one of %zu instances", whole.things), each(whole) + ", own host",
-           each(idle) + ", idle host", EachInstructions(whole) / EachInstructions(idle), "");
-}
-
-// The slope of the straight line through the logarithms: 1 grows with the disks, 2 with their square.
-double FittedPower(const std::vector<double>& sizes, const std::vector<double>& costs) {
+// The slope of the straight line through the logarithms of sizes and costs.
+double Growth(const std::vector<double>& sizes, const std::vector<double>& costs) {
   double x = 0;
   double y = 0;
   double xx = 0;
@@ -78,96 +79,158 @@ double FittedPower(const std::vector<double>& sizes, const std::vector<double>& 
     xx += size * size;
     xy += size * cost;
   }
-  const double n = Of(sizes.size());
+  const auto n = static_cast<double>(sizes.size());
   return (n * xy - x * y) / (n * xx - x * x);
 }
 
-void PrintAssociations() {
-  std::vector<double> sizes;
-  std::vector<double> instructions;
-  double each = 0;
-  for (const int disks : {10, 100, 1'000, 10'000}) {
-    const Cost cost = Counted("associations", disks);
-    const double ofOne = EachInstructions(cost);
-    if (each == 0) each = ofOne;
-    PrintRow(Text("associations of %d disks, %zu links", disks, cost.things),
-             Text("%.0f instr, %.2f us a link", ofOne, EachMicroseconds(cost)),
-             Text("%.0f instr a link with 10 disks", each), ofOne / each, "");
-    sizes.push_back(disks);
-    instructions.push_back(cost.instructions);
+// The commands that a collection runs, in their order.
+std::vector<Command> CommandsOf(const std::string& program) {
+  const auto result = nlohmann::json::parse(OutputOf({program, "query", "--format", "json", "--runs"}));
+  std::vector<Command> commands;
+  for (const auto& run : result.at("queries").at(0).at("runs")) {
+    commands.push_back({run.at("command")});
+    for (const auto& argument : run.at("arguments")) commands.back().push_back(argument);
   }
-  PrintRow("their growth, fitted: power of the disks", "", "", FittedPower(sizes, instructions), "<= 1.1");
+  return commands;
 }
 
-void PrintLog() {
-  struct Step {
-    const char* job;
-    const char* what;
-    const char* target;
-  };
-  constexpr Step kSteps[] = {
-      {"log-records",      "into records",         "<= 6"},
-      {"log-publish-idle", "published, idle host", ""    },
-      {"log-publish",      "published, own host",  ""    },
-  };
-  const Cost lines = Counted("log-lines", kLogLines);
-  for (const auto& [job, what, target] : kSteps) {
-    const Cost cost = Counted(job, kLogLines);
-    PrintRow(Text("RAID manager log, %d lines, %s", kLogLines, what), Text("%.2f us a line", EachMicroseconds(cost)),
-             Text("%.2f us, getline", EachMicroseconds(lines)), cost.seconds / lines.seconds, target);
-    PrintRow("  the same in instructions", Text("%.0f instr", EachInstructions(cost)),
-             Text("%.0f instr, getline", EachInstructions(lines)), cost.instructions / lines.instructions, target);
+// The program against its tools alone, in rounds of one after the other.
+void MeasureCollection(Table& table, const std::string& program) {
+  const std::vector<Command> commands = CommandsOf(program);
+  std::vector<double> wall;
+  std::vector<double> busy;
+  for (int round = 0; round < kRounds; ++round) {
+    const Cost whole = CostOf({program, "query", "--format", "json"}, true);
+    Cost bare;
+    for (const Command& command : commands) {
+      const Cost cost = CostOf(command, false);
+      bare.wall += cost.wall;
+      bare.busy += cost.busy;
+    }
+    wall.push_back(whole.wall / bare.wall);
+    busy.push_back(whole.busy / bare.busy);
+  }
+  const std::string what = "sample machine / its " + std::to_string(commands.size()) + " tool runs alone: ";
+  table.AtMost(what + "clock", Median(wall), 1.2);
+  table.AtMost(what + "processors", Median(busy), 1.2);
+}
+
+void MeasureTools(Table& table) {
+  for (const MeasuredTool& tool : MeasuredTools()) {
+    const Collecting some = tool.measure(kDisks);
+    table.AtLeast(std::string(tool.name) + ": MB/s of text", some.megabytes / some.seconds, 200);
+    const double growth = Growth({kDisks, kMostDisks}, {some.seconds, tool.measure(kMostDisks).seconds});
+    table.AtMost(std::string(tool.name) + ": growth with disks", growth, kSteepest);
   }
 }
 
-// Nearly all of it is the system's loader, which finds the symbols of the plug-in's library.
-void PrintFirstQuery() {
-  const Cost loaded = Counted("first-query", 0);
-  const Cost linked = Counted("first-query-linked", 0);
-  PrintRow("loading to the first query's end, no tool answers",
-           Text("%.2f ms, %.0f instr", loaded.seconds * 1e3, loaded.instructions),
-           Text("%.2f ms, %.0f instr, linked in", linked.seconds * 1e3, linked.instructions),
-           loaded.instructions / linked.instructions, "");
+// A machine's folder with one controller of qcmdrun, the working directory until it goes.
+class Machine {
+ public:
+  Machine(const fs::path& sampleMachine, int disks) : folder_(fs::temp_directory_path() / "zenx-bench") {
+    fs::remove_all(folder_);
+    const fs::path answers = folder_ / "zenx" / "answers" / "qcmdrun";
+    fs::create_directories(answers / "1");
+    fs::copy(sampleMachine / "zenx" / "qcmdrun.exe", folder_ / "zenx");
+    std::ofstream(answers / "other.txt") << "Found 0 KVR Zentraxis controller(s)\n";
+    for (const auto& [name, text] : QcmdrunAnswers(disks, "\n")) std::ofstream(answers / "1" / (name + ".txt")) << text;
+    fs::current_path(folder_);
+  }
+  ~Machine() {
+    fs::current_path("/");
+    fs::remove_all(folder_);
+  }
+  Machine(const Machine&) = delete;
+  Machine& operator=(const Machine&) = delete;
+
+ private:
+  fs::path folder_;
+};
+
+struct Question {
+  std::string what;
+  Command command;
+  std::vector<double> seconds;  // for each number of disks
+};
+
+std::vector<Question> Questions(const std::string& program) {
+  std::vector<Question> questions = {
+      {"collection", {program, "query", "--format", "json", "--class", "KVRSG_zxSCSIProtocolController"}, {}},
+      {"links",      {program, "query", "--format", "json"},                                              {}}
+  };
+  for (const std::string name : kLinks) questions[1].command.insert(questions[1].command.end(), {"--class", name});
+  for (const std::string view : kViews)
+    questions.push_back({
+        "query, " + view, {program,      "query", "--format", view},
+           {}
+    });
+  for (const std::string view : kHealthViews) {
+    questions.push_back({
+        "health, " + view, {program,      "health", "--format", view},
+           {}
+    });
+  }
+  return questions;
 }
 
-void PrintMemory() {
-  for (const int disks : {8, 512, 4'096, 32'768}) {
-    for (const char* const tool : {"qcmdrun", "arcconf", "hrconf"}) {
-      for (const char* const extent : {"collect-", "whole-"}) {
-        const Cost cost = Timed(std::string(extent) + tool, disks);
-        const double text = Of(cost.things) / (1 << 20);
-        PrintRow(Text("peak memory, %s%s, %d disks", extent, tool, disks), Text("%.1f MiB", cost.peakMiB),
-                 Text("3 x %.1f MiB of text + 16", text), cost.peakMiB / (3 * text + 16), "<= 1");
-      }
+// Each question to machines of several sizes, less what it takes where there is no disk.
+void MeasureGrowth(Table& table, const std::string& program, const fs::path& sampleMachine) {
+  const std::vector<double> sizes = {kMostDisks / 16, kMostDisks / 4, kMostDisks};
+  std::vector<Question> questions = Questions(program);
+  std::vector<double> none;
+  double peak = 0;
+  for (const double disks : {0.0, sizes[0], sizes[1], sizes[2]}) {
+    const Machine machine(sampleMachine, static_cast<int>(disks));
+    for (std::size_t i = 0; i < questions.size(); ++i) {
+      const Cost cost = CostOf(questions[i].command, questions[i].command[1] == "query");
+      disks == 0 ? none.push_back(cost.busy) : questions[i].seconds.push_back(cost.busy - none[i]);
+      peak = std::max(peak, cost.peakMiB);
     }
   }
+  for (const Question& question : questions) {
+    char seconds[32];
+    std::snprintf(seconds, sizeof seconds, ", %.1f s", question.seconds.back());
+    table.AtMost(question.what + seconds + ": growth with disks", Growth(sizes, question.seconds), kSteepest);
+  }
+  table.AtMost("peak memory in MiB, 32,768 disks", peak, 1024);
 }
 
-int PrintTable(const std::string& machine, int rounds) {
-  PrintHead();
-  PrintCollection(machine, rounds);
-  for (const char* const tool : {"qcmdrun", "arcconf", "hrconf"}) PrintParsing(tool);
-  PrintPublication();
-  PrintAssociations();
-  PrintLog();
-  PrintFirstQuery();
-  PrintMemory();
-  return 0;
+void MeasureLog(Table& table, const std::string& program, const fs::path& sampleMachine) {
+  const Machine machine(sampleMachine, 0);
+  setenv("ZENX_RAID_LOG_DIR", (fs::current_path().string() + "/").c_str(), 1);
+  const Command command = {program, "query", "--format", "json", "--class", "KVRSG_LogRecord_RAIDMgrEvent"};
+  const double without = CostOf(command, true).busy;
+  {
+    std::ofstream log("RaidEvtA.log", std::ios::binary);
+    for (int line = 0; line < kLogLines; ++line) {
+      log << "2007/03/" << 10 + line % 20 << " 08:" << 10 + line % 50 << ":09 PST\tINF\tSERVER\tEvent " << line
+          << " of controller 3, channel 1, SCSI ID 4.\r\n";
+    }
+  }
+  table.AtLeast("RAID manager log: lines/s, read and shown", kLogLines / (CostOf(command, true).busy - without),
+                50'000);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::fprintf(stderr, "Usage: %s MACHINE-FOLDER ROUNDS | JOB SIZE\n", argv[0]);
+  if (argc != 2) {
+    std::fprintf(stderr, "Usage: %s BUILD-FOLDER\n", argv[0]);
     return 2;
   }
   try {
-    const std::string first = argv[1];
-    const int second = std::atoi(argv[2]);
-    return first.find('/') == first.npos ? DoJob(first, second) : PrintTable(first, second);
+    const fs::path build = fs::canonical(argv[1]);
+    const std::string program = (build / "bin" / "hxahost").string();
+    const fs::path sampleMachine = build / "sample-machine";
+    Table table;
+    fs::current_path(sampleMachine);
+    MeasureCollection(table, program);
+    MeasureTools(table);
+    MeasureGrowth(table, program, sampleMachine);
+    MeasureLog(table, program, sampleMachine);
+    return table.IsMet() ? 0 : 1;
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "%s\n", failure.what());
-    return 1;
+    return 2;
   }
 }
