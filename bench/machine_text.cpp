@@ -1,5 +1,6 @@
 #include "bench/machine_text.h"
 
+#include <fstream>
 #include <string_view>
 
 namespace {
@@ -8,40 +9,6 @@ constexpr int kDisksPerDrive = 8;
 constexpr int kDisksPerChannel = 16;
 
 constexpr const char* kCompleted = "Command completed successfully.\n";
-
-constexpr const char* kQcmdrunHead = R"(
-Controller information
-----------------------------------------------------------------------
-   Controller type                        : Zentraxis C6-e
-   Controller FRU part number             : 61K4417
-   Controller Serial Number               : K6E0412277
-   Part number                            : 61K4402
-   Actual BIOS version                    : 7.10.18 (0398)
-   Firmware version                       : 7.12.05 (0412)
-   Boot block version                     : 7.10.02 (0377)
-   Device driver version                  : 7.12.04
-   Cluster solution version               : None
-   Controller slot information            : 3
-   Controller name                        : DBSERVER
-   SCSI channel description               : 2 channels - 1 internal, 2 external
-   Initiator IDs (Channel/SCSI ID)        : 1/7 2/7
-   Maximum physical devices               : 30
-   Defunct disk drive count               : 1
-   Logical drives/Offline/Critical        : 3/0/1
-   Readahead cache setting                : Adaptive
-   Stripe-unit size                       : 8 KB
-   Rebuild rate (Low/Medium/High)         : High
-   Hot-swap rebuild                       : Enabled
-   Data scrubbing                         : Enabled
-   Hot-spare copy back                    : Enabled
-   Part of cluster (Yes/No)               : No
-   Unattended mode (Yes/No)               : No
-   Concurrent commands supported          : 64
-   Configuration update count             : 17
-----------------------------------------------------------------------
-Logical drive information
-----------------------------------------------------------------------
-)";
 
 constexpr const char* kQcmdrunDrive = R"(   Logical drive number %n
       Status of logical drive             : Okay (OKY)
@@ -82,61 +49,6 @@ constexpr const char* kEventEnd =
     "+---------+---------+---------------+-------------+-------------+-----+-------------+\n";
 
 constexpr const char* kSubStatus = "A:1 C:%c I:%i PARAMS:0x1f REQ-OFF:127 MAX-TXER-P:8 CUR-TXER-P:8\n";
-
-constexpr const char* kArcconfHead = R"(Controllers found: 1
-----------------------------------------------------------------------
-Controller information
-----------------------------------------------------------------------
-   Controller Status                        : Optimal
-   Channel description                      : SAS/SATA
-   Controller Model                         : KVR Zentraxis C6-e
-   Controller Serial Number                 : 3E41A077
-   Physical Slot                            : 3
-   Temperature                              : 46 C/ 114 F (Normal)
-   Installed memory                         : 256 MB
-   Copyback                                 : Disabled
-   Data scrubbing                           : Enabled
-   Defunct disk drive count                 : 1
-   Logical drives/Offline/Critical          : 3/0/1
-   -------------------------------------------------------------------
-   Controller Version Information
-   -------------------------------------------------------------------
-   BIOS                                     : 5.2-0 (15611)
-   Firmware                                 : 5.2-0 (15611)
-   Driver                                   : 5.2-0 (15611)
-   Boot Flash                               : 5.1-0 (15204)
-   -------------------------------------------------------------------
-   Controller Battery Information
-   -------------------------------------------------------------------
-   Status                                   : Optimal
-   Over temperature                         : No
-   Capacity remaining                       : 98 percent
-   Time remaining (at current draw)         : 3 days, 1 hours, 11 minutes
-   -------------------------------------------------------------------
-   Controller Vital Product Data
-   -------------------------------------------------------------------
-   VPD Assigned#                            : ZX10466
-   EC Version#                              : J85096
-   Controller FRU#                          : ZX10471
-   Battery FRU#                             : ZX10478
-----------------------------------------------------------------------
-Logical drive information
-----------------------------------------------------------------------
-)";
-
-constexpr const char* kHrconfHead = R"(Controllers found: 1
-----------------------------------------------------------------------
-Controller information
-----------------------------------------------------------------------
-   Controller Status                        : Okay
-   Channel description                      : SATA
-   Boot ROM                                 : 4.2-1 (8710)
-   Defunct disk drive count                 : 0
-   Logical drives/Offline/Critical          : 2/0/0
-----------------------------------------------------------------------
-Logical drive information
-----------------------------------------------------------------------
-)";
 
 constexpr const char* kDrive = R"(Logical drive number %n
    Logical drive name                       : DATA%n
@@ -188,9 +100,16 @@ void Add(std::string& to, std::string_view text, const std::string& lineEnd, int
   }
 }
 
-std::string NewerConfig(const char* head, const char* headOfDisks, int disks, const std::string& lineEnd) {
+// What the utility of the sample machine prints before the first logical drive.
+void AddHead(std::string& to, const std::string& utility, const std::string& lineEnd) {
+  std::ifstream recorded(SampleMachine() / "zenx/answers" / utility / "1/getconfig-al.txt");
+  for (std::string line; line != "Logical drive information" && std::getline(recorded, line);) to += line + lineEnd;
+  to += "---" + lineEnd;
+}
+
+std::string NewerConfig(const char* utility, const char* headOfDisks, int disks, const std::string& lineEnd) {
   std::string text;
-  Add(text, head, lineEnd);
+  AddHead(text, utility, lineEnd);
   for (int drive = 1; drive <= disks / kDisksPerDrive; ++drive) Add(text, kDrive, lineEnd, drive);
   Add(text, headOfDisks, lineEnd);
   for (int disk = 0; disk < disks; ++disk) Add(text, kDisk, lineEnd, disk);
@@ -200,11 +119,15 @@ std::string NewerConfig(const char* head, const char* headOfDisks, int disks, co
 
 }  // namespace
 
+std::filesystem::path SampleMachine() {
+  return std::filesystem::canonical("/proc/self/exe").parent_path().parent_path() / "sample-machine";
+}
+
 Answers QcmdrunAnswers(int disks, const std::string& lineEnd) {
   std::string config;
   std::string events;
   std::string subStatus;
-  Add(config, kQcmdrunHead, lineEnd);
+  AddHead(config, "qcmdrun", lineEnd);
   for (int drive = 1; drive <= disks / kDisksPerDrive; ++drive) Add(config, kQcmdrunDrive, lineEnd, drive);
   Add(config, kQcmdrunArrays, lineEnd);
   for (int drive = 1; drive <= disks / kDisksPerDrive; ++drive) Add(config, kQcmdrunArray, lineEnd, drive);
@@ -229,12 +152,12 @@ Answers QcmdrunAnswers(int disks, const std::string& lineEnd) {
 
 Answers ArcconfAnswers(int disks, const std::string& lineEnd) {
   return {
-      {"getconfig-al", NewerConfig(kArcconfHead, kArcconfDisks, disks, lineEnd)}
+      {"getconfig-al", NewerConfig("arcconf", kArcconfDisks, disks, lineEnd)}
   };
 }
 
 Answers HrconfAnswers(int disks, const std::string& lineEnd) {
   return {
-      {"getconfig-al", NewerConfig(kHrconfHead, kHrconfDisks, disks, lineEnd)}
+      {"getconfig-al", NewerConfig("hrconf_64", kHrconfDisks, disks, lineEnd)}
   };
 }
