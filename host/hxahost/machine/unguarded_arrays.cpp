@@ -34,24 +34,28 @@ std::map<Text, Text> StripeOrders(const InstanceList& all) {
   return orders;
 }
 
-void AddDisksOf(std::set<Text>& disks, const TPublishedInstance& drive, const std::map<Text, Text>& orders) {
-  const Text controller = RawText(drive, "ControllerNum");
-  AddDisks(disks, controller, RawText(drive, "DriveList"));
-  const auto order = orders.find(controller + " " + RawText(drive, "PartOfArray"));
-  if (order != orders.end()) AddDisks(disks, controller, order->second);
+// The disks of the logical drives. The stripe order of an array counts once, however many drives lie on it.
+std::set<Text> DisksOf(const InstanceList& instances, const std::map<Text, Text>& orders) {
+  std::set<Text> disks;
+  std::set<Text> arrays;
+  for (const auto& drive : instances) {
+    if (drive->Class().name != kLogicalDiskClass) continue;
+    const Text controller = RawText(*drive, "ControllerNum");
+    AddDisks(disks, controller, RawText(*drive, "DriveList"));
+    const Text array = controller + " " + RawText(*drive, "PartOfArray");
+    const auto order = orders.find(array);
+    if (order != orders.end() && arrays.insert(array).second) AddDisks(disks, controller, order->second);
+  }
+  return disks;
 }
 
 }  // namespace
 
 UnguardedArrays::UnguardedArrays(const InstanceList& unguarded, const InstanceList& all) {
   const auto orders = StripeOrders(all);
-  for (const auto& drive : unguarded) {
-    controllers_.insert(RawText(*drive, "ControllerNum"));
-    AddDisksOf(unguarded_, *drive, orders);
-  }
-  for (const auto& drive : all) {
-    if (drive->Class().name == kLogicalDiskClass) AddDisksOf(placed_, *drive, orders);
-  }
+  for (const auto& drive : unguarded) controllers_.insert(RawText(*drive, "ControllerNum"));
+  unguarded_ = DisksOf(unguarded, orders);
+  placed_ = DisksOf(all, orders);
 }
 
 namespace {

@@ -63,12 +63,23 @@ bool ContainsWords(const std::string& text, const std::string& words) {
   return place != text.npos && IsWordEdge(text, place) && IsWordEdge(text, place + words.size());
 }
 
+// The words between blanks and punctuation.
+std::vector<std::string> WordsOf(std::string_view text) {
+  std::vector<std::string> words;
+  for (const std::string_view word : SplitAtAny(text, " !\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~")) {
+    if (!word.empty()) words.emplace_back(word);
+  }
+  return words;
+}
+
 }  // namespace
 
 ShownValues::ShownValues(const InstanceList& instances) {
   const auto add = [this](std::string text) {
     if (text.empty() || !texts_.insert(text).second) return;
-    if (text.find(' ') != text.npos) longTexts_.push_back(std::move(text));
+    if (text.find(' ') == text.npos) return;
+    for (std::string& word : WordsOf(text)) textsWith_[std::move(word)].push_back(longTexts_.size());
+    longTexts_.push_back(std::move(text));
   };
   for (const auto& instance : instances) {
     if (IsOfRawText(*instance)) continue;
@@ -91,10 +102,19 @@ bool ShownValues::ShowsPieces(std::string_view value) const {
   });
 }
 
-// One word is found in some sentence by chance.
+// One word is found in some sentence by chance. Only the texts with the value's rarest word are looked through: values
+// and texts grow in number together.
 bool ShownValues::ShowsWords(const std::string& value) const {
-  return value.find(' ') != value.npos &&
-         std::ranges::any_of(longTexts_, [&value](const std::string& text) { return ContainsWords(text, value); });
+  if (value.find(' ') == value.npos) return false;
+  const std::vector<std::size_t>* fewest = nullptr;
+  for (const std::string& word : WordsOf(value)) {
+    const auto texts = textsWith_.find(word);
+    if (texts == textsWith_.end()) return false;
+    if (fewest == nullptr || texts->second.size() < fewest->size()) fewest = &texts->second;
+  }
+  const auto isShownBy = [&value](const std::string& text) { return ContainsWords(text, value); };
+  if (fewest == nullptr) return std::ranges::any_of(longTexts_, isShownBy);
+  return std::ranges::any_of(*fewest, [&](std::size_t place) { return isShownBy(longTexts_[place]); });
 }
 
 std::vector<std::size_t> UnreadLines(const std::vector<std::string>& lines, const ShownValues& shown) {

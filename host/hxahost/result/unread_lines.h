@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -25,7 +26,8 @@ class ShownValues {
   bool ShowsWords(const std::string& value) const;
 
   std::unordered_set<std::string> texts_;
-  std::vector<std::string> longTexts_;
+  std::vector<std::string> longTexts_;                                   // of several words
+  std::unordered_map<std::string, std::vector<std::size_t>> textsWith_;  // places in longTexts_, by each word in them
 };
 
 // The raw text of one command.
