@@ -17,7 +17,7 @@ using namespace NKVRHXA20;
 
 namespace {
 
-constexpr int kRuns = 5;
+constexpr int kRuns = 10;
 constexpr const char* kNoController = "Found 0 KVR Zentraxis controller(s)\r\nControllers found: 0\r\n";
 
 // "getconfig 1 al" is answered by "getconfig-al"; there is no other controller.
