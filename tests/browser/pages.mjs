@@ -53,14 +53,32 @@ export function countOf(name, ...classes) {
   return lastQuery(name).instances.filter((instance) => classes.includes(instance.class)).length;
 }
 
-// The page of a machine with something else in the data that it has beside the query.
-export function pageWith(name, newName, changed) {
+function splitPage(name) {
   const page = readFileSync(pageFile(name), "utf8");
   const begin = page.indexOf('id="report-data">') + 'id="report-data">'.length;
-  const end = page.indexOf("</script>", begin);
-  const data = { ...JSON.parse(page.slice(begin, end)), ...changed };
+  return { page, begin, end: page.indexOf("</script>", begin) };
+}
+
+// What the program says of the machine beside the query.
+export function reportData(name) {
+  const { page, begin, end } = splitPage(name);
+  return JSON.parse(page.slice(begin, end));
+}
+
+// The page of a machine with something else in the data that it has beside the query.
+export function pageWith(name, newName, changed) {
+  const { page, begin, end } = splitPage(name);
+  const data = { ...reportData(name), ...changed };
   writeFileSync(pageFile(newName), page.slice(0, begin) + JSON.stringify(data).replaceAll("<", "\\u003c") + page.slice(end));
   return pageFile(newName);
+}
+
+export const kEveryLevel = ["critical", "warning", "unknown", "busy", "idle", "unsaid", "ok"];
+
+// The page of the sample machine with objects of every level.
+export function pageOfEveryLevel() {
+  const objects = reportData("sample").objects.map((object, index) => ({ ...object, level: kEveryLevel[index % kEveryLevel.length] }));
+  return pageWith("sample", "every-level", { objects });
 }
 
 // What "hxahost health" finds on the sample machine.

@@ -1,7 +1,7 @@
 // What the page shows, held against the JSON of the same query.
 import assert from "node:assert/strict";
 import { test } from "./harness.mjs";
-import { countOf, findings, lastQuery, pageFile, pageWith, unreadLines } from "./pages.mjs";
+import { countOf, findings, kEveryLevel, lastQuery, pageFile, pageOfEveryLevel, pageWith, reportData, unreadLines } from "./pages.mjs";
 
 const kDevices = ["KVRSG_zxSCSIProtocolController", "KVRSG_zxLogicalDisk", "KVRSG_zxDiskGroup", "KVRSG_zxDiskDrive"];
 
@@ -62,17 +62,28 @@ test("The drawing has a box for every device and says its state in words", async
   }
 });
 
-// A finding counts more than the word of a state: without findings there are all colours.
-test("Colours never stand alone: failed, suspect and unknown states have their symbols", async (open) => {
-  const page = await open(pageWith("sample", "words-alone", { findings: [] }));
+test("Colours never stand alone: each level has its symbol", async (open) => {
+  const page = await open(pageOfEveryLevel());
   const symbols = await page.locator(".drawing a.box").evaluateAll((links) =>
     links.map((link) => [[...link.classList].find((name) => name.startsWith("level-")), link.querySelector("text.symbol").textContent]));
   const bySymbol = new Map(symbols.map(([level, symbol]) => [symbol, level]));
   assert.equal(bySymbol.size, new Set(symbols.map(([level]) => level)).size);
-  assert.ok(["level-bad", "level-warn", "level-good", "level-busy", "level-idle"].every((level) => symbols.some(([each]) => each === level)));
+  assert.ok(kEveryLevel.every((level) => symbols.some(([each]) => each === "level-" + level)));
 });
 
-test("Disks stand under their arrays and logical drives, also where two controllers share a number", async (open) => {
+test("Boxes and states have the levels that the program gives", async (open) => {
+  const page = await open(pageFile("sample"));
+  const objects = new Map(reportData("sample").objects.map((object) => [object.instance, object]));
+  const boxes = await page.locator(".drawing a.box").evaluateAll((links) => links.map((link) => [Number(link.dataset.object), link.classList[1]]));
+  assert.ok(boxes.length > 50);
+  for (const [index, level] of boxes) assert.equal(level, "level-" + objects.get(index).level);
+  const badges = await page.locator('section:has(> h2:text-is("Controllers")) tbody .badge').evaluateAll((each) => each.map((one) => one.textContent));
+  assert.deepEqual([...new Set(badges)].sort(), ["\u2013not said", "\u2713Okay", "\u2713Optimal"]);
+  const controller = page.getByLabel(/^Controller 4, 2 findings, Optimal/);
+  assert.match(await controller.textContent(), /\u2715.*2 findings, Optimal/);
+});
+
+test("Disks are under their arrays and logical drives, also where two controllers share a number", async (open) => {
   const page = await open(pageFile("sample"));
   const figure = (owner) => page.locator(`figure:has(h3:text-is("${owner}"))`);
   assert.match(await figure("Controller 1").getByLabel("Array A, 8 disks").first().textContent(), /Drive 1.*Drive 2/s);
@@ -147,19 +158,16 @@ test("The findings of the program's rules stand first on the page, worst first, 
   assert.ok(dialog.includes(expected[about].meaning), dialog);
   assert.ok(dialog.includes(expected[about].identifier), dialog);
   const index = instances.findIndex(({ properties }) => properties.DeviceID === expected[about].identifier);
-  assert.equal(await page.locator(`.drawing a.level-bad[data-object="${index}"]`).count(), 1, "the finding colours the disk");
+  assert.equal(await page.locator(`.drawing a.level-critical[data-object="${index}"]`).count(), 1, "the finding colours the disk");
 });
 
 test("A finding is about one object alone, also where two share an identifier", async (open) => {
   const instances = lastQuery("sample").instances;
   const twins = instances.flatMap(({ properties }, index) => (properties.DeviceID === "Zentraxis3" ? [index] : []));
   assert.equal(twins.length, 2);
-  const finding = { severity: "critical", class: kDevices[0], identifier: "Zentraxis3", name: "controller 3", property: "ControllerStatus",
-    text: "<b>Failed</b>", meaning: "it has failed", instance: twins[1] };
-  const page = await open(pageWith("sample", "twins", { findings: [finding] }));
-  assert.equal(await page.locator(`.drawing a.level-bad[data-object="${twins[0]}"]`).count(), 0);
-  assert.equal(await page.locator(`.drawing a.level-bad[data-object="${twins[1]}"]`).count(), 1);
-  assert.match(await page.locator("#findings tbody tr").innerText(), /ControllerStatus "<b>Failed<\/b>"/);
+  const page = await open(pageFile("sample"));
+  assert.equal(await page.locator(`.drawing a.level-critical[data-object="${twins[0]}"]`).count(), 1);
+  assert.equal(await page.locator(`.drawing a.level-critical[data-object="${twins[1]}"]`).count(), 0);
 });
 
 test("Of very many findings the worst are shown until the rest is asked for", async (open) => {
@@ -252,7 +260,7 @@ test("Of several queries the last is shown, with a note", async (open) => {
 test("A machine with nothing is not shown as a healthy one", async (open) => {
   const page = await open(pageFile("nothing"));
   assert.match(await sectionText(page, "Health"), /Nothing was found/);
-  assert.equal(await page.locator(".level-good").count(), 0);
+  assert.equal(await page.locator(".level-ok").count(), 0);
 });
 
 test("Markup and scripts of tools change nothing and are shown literally", async (open) => {

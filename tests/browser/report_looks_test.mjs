@@ -1,7 +1,7 @@
 // How the page looks: light, dark, narrow, on paper, and to a screen reader.
 import assert from "node:assert/strict";
 import { test } from "./harness.mjs";
-import { pageFile, pageWith } from "./pages.mjs";
+import { pageFile, pageOfEveryLevel } from "./pages.mjs";
 
 // The contrast of each element's text with what is behind it, as the accessibility guidelines compute it.
 function lowContrasts(page, selector) {
@@ -45,11 +45,11 @@ for (const colorScheme of ["light", "dark"]) {
 
 test("Boxes differ in their colours from one level to the next, in both schemes", async (open) => {
   for (const colorScheme of ["light", "dark"]) {
-    const page = await open(pageWith("sample", "words-alone", { findings: [] }), { colorScheme });
+    const page = await open(pageOfEveryLevel(), { colorScheme });
     const bars = await page.locator(".drawing a.box").evaluateAll((boxes) =>
       boxes.map((box) => [[...box.classList].find((name) => name.startsWith("level-")), getComputedStyle(box.querySelector(".bar")).fill]));
     const colours = new Map(bars);
-    const coloured = ["level-bad", "level-warn", "level-good", "level-busy", "level-idle"].map((level) => colours.get(level));
+    const coloured = ["critical", "warning", "unknown", "busy", "idle", "ok"].map((level) => colours.get("level-" + level));
     assert.ok(!coloured.includes(undefined), coloured.join());
     assert.equal(new Set(coloured).size, coloured.length, coloured.join());
   }

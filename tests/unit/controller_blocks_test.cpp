@@ -17,7 +17,9 @@ constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
 std::string Blocks(const FilledRepository& repository, const std::vector<std::string>& askedFor = {kController}) {
   std::ostringstream out;
-  WriteControllerBlocks(out, {"", "", {}, askedFor, 1}, repository.Instances());
+  const QueryHeader header{"", "", {}, askedFor, 1};
+  const QueryResult result{1, repository.Instances(), {}};
+  WriteControllerBlocks(out, header, result.instances, BuildMachine(header, result));
   return out.str();
 }
 

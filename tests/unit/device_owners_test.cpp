@@ -11,8 +11,14 @@
 
 namespace {
 
-using hxahost::DeviceOwners;
 using testing::ElementsAre;
+
+// What tells the controllers of the instances apart.
+std::vector<std::string> Labels(const FilledRepository& repository) {
+  std::vector<std::string> labels;
+  for (const auto& owner : hxahost::DeviceOwners(repository.Instances())) labels.push_back(owner.label);
+  return labels;
+}
 
 constexpr const char* kController = "KVRSG_zxSCSIProtocolController";
 constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
@@ -36,7 +42,7 @@ TEST(DeviceOwners, AreNumbersAloneWhereEachIsOfOneTool) {
   repository.Publish("KVRSG_zxRawData", {
                                             {"Command", "c"}
   });
-  EXPECT_THAT(DeviceOwners(repository.Instances()), ElementsAre("1", "1", "2", ""));
+  EXPECT_THAT(Labels(repository), ElementsAre("1", "1", "2", ""));
 }
 
 TEST(DeviceOwners, NameTheToolWhereTwoShareANumber) {
@@ -75,7 +81,7 @@ TEST(DeviceOwners, NameTheToolWhereTwoShareANumber) {
                                            {"ControllerNum", " 3\r"},
                                            each.sign
     });
-    EXPECT_EQ(DeviceOwners(repository.Instances()).back(), each.owner) << each.name;
+    EXPECT_EQ(Labels(repository).back(), each.owner) << each.name;
   }
 }
 
@@ -114,7 +120,7 @@ TEST(DeviceOwners, FindTheToolOfAnArrayWithoutALetterByTheDisksOfItsDrive) {
                                      {"CollectionID",  "ZentraxisCntrlr3LogicalDrv10 0,2 0,3"},
                                      {"StripeOrder",   "0,2 0,3"                             }
   });
-  EXPECT_THAT(DeviceOwners(repository.Instances()),
+  EXPECT_THAT(Labels(repository),
               ElementsAre("3 (arcconf)", "3 (hrconf_64)", "3 (hrconf_64)", "3 (arcconf)", "3 (tool not known)"));
 }
 
@@ -132,7 +138,7 @@ TEST(DeviceOwners, AreNotSplitByAnAnswerThatIsCutOff) {
                                      {"ControllerNum", "1"},
                                      {"ScsiId",        "0"}
   });
-  EXPECT_THAT(DeviceOwners(repository.Instances()), ElementsAre("1", "1", "1"));
+  EXPECT_THAT(Labels(repository), ElementsAre("1", "1", "1"));
 }
 
 TEST(DeviceOwners, AreEmptyForDevicesWithoutANumber) {
@@ -143,7 +149,7 @@ TEST(DeviceOwners, AreEmptyForDevicesWithoutANumber) {
   repository.Publish(kController, {
                                       {"SerialNum", "8A"}
   });
-  EXPECT_THAT(DeviceOwners(repository.Instances()), ElementsAre("", ""));
+  EXPECT_THAT(Labels(repository), ElementsAre("", ""));
 }
 
 }  // namespace

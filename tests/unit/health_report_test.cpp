@@ -23,7 +23,7 @@ std::string Written(const HealthyMachine& machine, std::string_view format) {
   const QueryHeader header = machine.Header();
   const QueryResult result = machine.Result();
   std::ostringstream out;
-  FindHealthView(format)->Write(out, {header, result, EvaluateHealth(header, result), 1.25});
+  FindHealthView(format)->Write(out, {header, result, BuildMachine(header, result), 1.25});
   return out.str();
 }
 

@@ -25,7 +25,8 @@ std::string Brief(const Finding& finding) {
 
 std::vector<std::string> FindingsOf(const HealthyMachine& machine) {
   std::vector<std::string> findings;
-  for (const Finding& finding : EvaluateHealth(machine.Header(), machine.Result())) findings.push_back(Brief(finding));
+  for (const Finding& finding : BuildMachine(machine.Header(), machine.Result()).findings)
+    findings.push_back(Brief(finding));
   return findings;
 }
 
@@ -40,7 +41,7 @@ TEST(Health, FindsNothingOnAHealthyMachine) { EXPECT_THAT(FindingsOf(HealthyMach
 TEST(Health, GivesEverythingThatThereIsToSayOfAFinding) {
   HealthyMachine machine;
   machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", " Degraded \r\n");
-  const Findings findings = EvaluateHealth(machine.Header(), machine.Result());
+  const Findings findings = BuildMachine(machine.Header(), machine.Result()).findings;
   ASSERT_EQ(findings.size(), 1U);
   EXPECT_EQ(findings[0].severity, Severity::kCritical);
   EXPECT_EQ(findings[0].className, "KVRSG_zxLogicalDisk");
@@ -134,7 +135,7 @@ TEST(Health, MissesNoControllerWhereNoneWasAskedFor) {
   machine.Remove(kController);
   QueryHeader header = machine.Header();
   header.classes = {"KVRSG_zxLogicalDisk", "KVRSG_zxDiskDrive"};
-  EXPECT_TRUE(EvaluateHealth(header, machine.Result()).empty());
+  EXPECT_TRUE(BuildMachine(header, machine.Result()).findings.empty());
 }
 
 TEST(Health, TellsWhatWentWrongWithTheTools) {
@@ -164,7 +165,7 @@ TEST(Health, IsUnknownWhereNoToolCanBeRun) {
   for (const char* const tool : {"qcmdrun", "hrconf_64", "arcconf"}) {
     machine.runs.push_back(RunOf(tool, {"getconfig", "1", "al"}, Outcome::kNotStarted, "not here"));
   }
-  const Findings findings = EvaluateHealth(machine.Header(), machine.Result());
+  const Findings findings = BuildMachine(machine.Header(), machine.Result()).findings;
   EXPECT_EQ(findings.size(), 3U);
   EXPECT_EQ(WorstOf(findings), Severity::kUnknown);
 }
@@ -181,7 +182,7 @@ TEST(Health, OfALaterQueryNeedsNoRun) {
   machine.runs.clear();
   QueryResult result = machine.Result();
   result.number = 2;
-  EXPECT_TRUE(EvaluateHealth(machine.Header(), result).empty());
+  EXPECT_TRUE(BuildMachine(machine.Header(), result).findings.empty());
 }
 
 TEST(Health, IsUnknownWhereAControllerAnsweredThatIsNotPublished) {
@@ -211,12 +212,6 @@ TEST(Health, ReadsTheLogForWhatEndedTheCollection) {
     };
     EXPECT_THAT(FindingsOf(machine), ElementsAre(std::string(each.severity) + ": log, text \"" + each.text + "\""));
   }
-}
-
-TEST(Health, JudgesTextsWithoutAMachine) {
-  EXPECT_EQ(JudgeText(kDriveState, "Okay (OKY)").severity, Severity::kFine);
-  EXPECT_EQ(JudgeText(kDriveState, "Offline (OFL)").severity, Severity::kCritical);
-  EXPECT_EQ(JudgeText(kDriveState, "Strange").severity, Severity::kUnknown);
 }
 
 TEST(Health, AsksForLogicalDrivesBeforeTheirBadStripes) {

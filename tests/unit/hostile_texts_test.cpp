@@ -139,7 +139,7 @@ class Machine {
 
   std::string Health(const char* format) const {
     std::ostringstream out;
-    FindHealthView(format)->Write(out, {header_, result_, EvaluateHealth(header_, result_), 1});
+    FindHealthView(format)->Write(out, {header_, result_, BuildMachine(header_, result_), 1});
     return out.str();
   }
 

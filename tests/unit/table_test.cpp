@@ -117,17 +117,18 @@ TEST(Table, UsesTheWidthOfTheLayout) {
   }
 }
 
-TEST(Table, ColoursStatesWithoutMovingWhatFollowsThem) {
+TEST(Table, ColoursCellsWithoutMovingWhatFollowsThem) {
   const Table table{
-      {{"State", 30, 8, true}, {"Size"}    },
-      { {"Online", "1"},   {"Failed now", "2"}, {"New", "3"}},
+      {{"State"},               {"Size"}                  },
+      { {"Online", "1"},    {"Failed now", "2"},               {"New", "3"}},
+      { {{0, 0}, Colour::kGreen}, {{1, 0}, Colour::kRed}, {{1, 1}, Colour::kMagenta}},
   };
   std::ostringstream out;
   WriteTable(out, {100, true}, table);
   EXPECT_EQ(out.str(),
             "  State       Size\n"
             "  \x1b[32mOnline\x1b[0m      1\n"
-            "  \x1b[31mFailed now\x1b[0m  2\n"
+            "  \x1b[31mFailed now\x1b[0m  \x1b[35m2\x1b[0m\n"
             "  New         3\n");
 }
 

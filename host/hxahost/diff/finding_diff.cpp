@@ -34,7 +34,7 @@ Findings FindingsOf(const JsonResult& result, const std::vector<std::string>& cl
   query.instances = made.instances;
   query.log = result.log;
   if (withRuns) query.runs = *result.runs;
-  Findings findings = EvaluateHealth(header, query);
+  Findings findings = BuildMachine(header, query).findings;
   for (Finding& finding : findings) {
     if (finding.instance) finding.instance = made.places[*finding.instance];
   }

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "host/hxahost/machine/state_words.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 
@@ -78,6 +79,14 @@ const Naming* FindNaming(const TPublishedInstance& instance) {
 std::string IdentifierOf(const TPublishedInstance& instance) {
   const Naming* const naming = FindNaming(instance);
   return naming == nullptr ? "" : RawText(instance, naming->identifier);
+}
+
+std::string LocationOf(const TPublishedInstance& device, const std::string& channel, const std::string& id) {
+  const std::string slot = RawText(device, "ReportedLocation");
+  if (!slot.empty()) return NormalWord(slot);
+  if (!id.empty()) return "channel " + channel + ", ID " + id;
+  const std::string number = DeviceNumber(device);
+  return number.empty() ? "" : "device " + number;
 }
 
 std::string NameOf(const TPublishedInstance& instance, const std::string& owner) {

@@ -1,7 +1,6 @@
 #include "host/hxahost/machine/device_owners.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
 #include <iterator>
 #include <map>
@@ -9,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "host/hxahost/machine/members.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/result/tool_names.h"
 #include "host/hxahost/schema/class_names.h"
@@ -78,26 +78,6 @@ Told ToolOf(const TPublishedInstance& instance) {
   return {};
 }
 
-// The pairs "0,7" in a list of places, whatever stands around them.
-std::vector<std::string> PlacesIn(const std::string& text) {
-  const auto isPart = [](unsigned char character) { return std::isdigit(character) != 0 || character == ','; };
-  std::vector<std::string> places;
-  for (auto first = std::ranges::find_if(text, isPart); first != text.end();) {
-    const auto last = std::find_if_not(first, text.end(), isPart);
-    places.emplace_back(first, last);
-    first = std::find_if(last, text.end(), isPart);
-  }
-  std::erase_if(places, [](const std::string& place) { return place.find(',') == place.npos; });
-  return places;
-}
-
-// "Cntrlr4LogicalDrv2" of an array without a letter, whose identifier is "ZentraxisCntrlr4LogicalDrv2 0,2 0,3".
-std::string DriveOfArray(const TPublishedInstance& array) {
-  const std::string identifier = RawText(array, "CollectionID");
-  const std::size_t begin = identifier.find("Cntrlr");
-  return begin == identifier.npos ? "" : identifier.substr(begin, identifier.find(' ', begin) - begin);
-}
-
 // The drives that an array without a letter may stand for.
 using DrivesByName = std::multimap<std::string, const TPublishedInstance*>;
 
@@ -115,7 +95,7 @@ DrivesByName LogicalDrives(const InstanceList& instances) {
 // An array without a letter is of the utility whose drive has the same disks.
 Told ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
   const std::vector<std::string> places = PlacesIn(RawText(array, "StripeOrder"));
-  const auto [first, last] = drives.equal_range(DriveOfArray(array));
+  const auto [first, last] = drives.equal_range(DriveKeyOf(array));
   const auto drive = std::find_if(first, last, [&places](const auto& each) {
     return places == PlacesIn(RawText(*each.second, "StripeOrder")) ||
            places == PlacesIn(RawText(*each.second, "DriveList"));
@@ -166,15 +146,15 @@ std::set<std::string> SharedNumbers(const InstanceList& instances, const std::ve
 
 }  // namespace
 
-std::vector<std::string> DeviceOwners(const InstanceList& instances) {
-  const std::vector<Owned> owners = FindOwners(instances);
-  const std::set<std::string> shared = SharedNumbers(instances, owners);
-  std::vector<std::string> texts;
-  for (const auto& [number, told] : owners) {
-    const std::string_view tool = told.tool.empty() ? "tool not known" : told.tool;
-    texts.push_back(shared.contains(number) ? number + " (" + std::string(tool) + ")" : number);
+std::vector<DeviceOwner> DeviceOwners(const InstanceList& instances) {
+  const std::vector<Owned> owned = FindOwners(instances);
+  const std::set<std::string> shared = SharedNumbers(instances, owned);
+  std::vector<DeviceOwner> owners;
+  for (const auto& [number, told] : owned) {
+    const std::string tool(told.tool.empty() ? "tool not known" : told.tool);
+    owners.push_back({number, shared.contains(number) ? number + " (" + tool + ")" : number, told.tool});
   }
-  return texts;
+  return owners;
 }
 
 }  // namespace hxahost

@@ -1,15 +1,21 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/hxahost/result/query_result.h"
 
 namespace hxahost {
 
-// By the place of each instance: what tells its controller from the others. The utilities count their controllers each
-// by itself, so controllers of two of them may share a number: "3"; "3 (arcconf)" where they do; "3 (tool not known)"
-// where nothing tells which one described the instance. "" for what is no controller, drive, array or disk.
-std::vector<std::string> DeviceOwners(const InstanceList& instances);
+// The controller that an instance belongs to.
+struct DeviceOwner {
+  std::string number;
+  std::string label;      // the number; "3 (arcconf)" or "3 (tool not known)" where controllers of two tools share it
+  std::string_view tool;  // that described the instance; "" where nothing tells
+};
+
+// By the place of each instance; empty for what is no controller, drive, group or disk.
+std::vector<DeviceOwner> DeviceOwners(const InstanceList& instances);
 
 }  // namespace hxahost

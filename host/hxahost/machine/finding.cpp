@@ -1,38 +1,39 @@
 #include "host/hxahost/machine/finding.h"
 
 #include <algorithm>
-#include <array>
 
 namespace hxahost {
 
-namespace {
-
-int Rank(Severity severity) {
-  constexpr std::array kFromBestToWorst = {Severity::kFine, Severity::kUnknown, Severity::kWarning,
-                                           Severity::kCritical};
-  return static_cast<int>(std::ranges::find(kFromBestToWorst, severity) - kFromBestToWorst.begin());
-}
-
-}  // namespace
-
-std::string_view SeverityWord(Severity severity) {
-  switch (severity) {
-    case Severity::kFine: return "ok";
-    case Severity::kWarning: return "warning";
-    case Severity::kCritical: return "critical";
-    case Severity::kUnknown: break;
+Severity SeverityOf(Level level) {
+  switch (level) {
+    case Level::kUnknown: return Severity::kUnknown;
+    case Level::kWarning: return Severity::kWarning;
+    case Level::kCritical: return Severity::kCritical;
+    default: return Severity::kFine;
   }
-  return "unknown";
 }
 
-bool IsWorse(Severity left, Severity right) { return Rank(left) > Rank(right); }
+Level LevelOf(Severity severity) {
+  switch (severity) {
+    case Severity::kFine: return Level::kFine;
+    case Severity::kWarning: return Level::kWarning;
+    case Severity::kCritical: return Level::kCritical;
+    default: return Level::kUnknown;
+  }
+}
+
+std::string_view LevelWord(Level level) {
+  constexpr std::string_view kWords[] = {"unsaid", "ok", "idle", "busy", "unknown", "warning", "critical"};
+  return kWords[static_cast<std::size_t>(level)];
+}
+
+std::string_view SeverityWord(Severity severity) { return LevelWord(LevelOf(severity)); }
+
+bool IsWorse(Severity left, Severity right) { return LevelOf(left) > LevelOf(right); }
 
 Severity WorstOf(const Findings& findings) {
-  Severity worst = Severity::kFine;
-  for (const Finding& finding : findings) {
-    if (IsWorse(finding.severity, worst)) worst = finding.severity;
-  }
-  return worst;
+  const auto worst = std::ranges::max_element(findings, {}, [](const Finding& each) { return LevelOf(each.severity); });
+  return worst == findings.end() ? Severity::kFine : worst->severity;
 }
 
 }  // namespace hxahost

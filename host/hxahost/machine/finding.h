@@ -11,10 +11,26 @@ namespace hxahost {
 // How bad something is. The numbers are the exit statuses of monitoring plug-ins.
 enum class Severity { kFine = 0, kWarning = 1, kCritical = 2, kUnknown = 3 };
 
-// "ok", "warning", "critical", "unknown".
+// How an object is: what its symbol and its colour show. From the best to the worst; up to kBusy it is fine. A fault
+// that is known outweighs one that is merely possible.
+enum class Level {
+  kUnsaid,  // the utility printed no state, and need not
+  kFine,
+  kIdle,  // a spare or unused
+  kBusy,  // at work: a rebuild, a migration, ...
+  kUnknown,
+  kWarning,
+  kCritical,
+};
+
+Severity SeverityOf(Level level);
+Level LevelOf(Severity severity);
+
+// "ok", "warning", "critical", "unknown"; also "unsaid", "idle", "busy" of a level.
+std::string_view LevelWord(Level level);
 std::string_view SeverityWord(Severity severity);
 
-// Critical over warning over unknown over fine: a fault that is known outweighs one that is merely possible.
+// Critical over warning over unknown over fine.
 bool IsWorse(Severity left, Severity right);
 
 // One thing that is wrong, or that cannot be told to be right.

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <set>
 #include <vector>
 
 #include "host/hxahost/machine/device_names.h"
-#include "host/hxahost/machine/device_owners.h"
+#include "host/hxahost/machine/members.h"
 #include "host/hxahost/machine/silent_controllers.h"
 #include "host/hxahost/machine/tool_findings.h"
-#include "host/hxahost/machine/unguarded_arrays.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 
@@ -24,7 +24,7 @@ constexpr std::string_view kClasses[] = {
     "KVRSG_BadStripeData", "KVRSG_zxSCSIDeviceData", kRawDataClass,
 };
 
-constexpr Judgement kNotKnown = {Severity::kUnknown, "no rule knows what this says; see the manual of the utility"};
+constexpr Judgement kNotKnown = {Level::kUnknown, "no rule knows what this says; see the manual of the utility"};
 
 // Whether a rule that holds in one place holds for what is judged.
 using Holds = std::function<bool(Where where)>;
@@ -32,33 +32,29 @@ using Holds = std::function<bool(Where where)>;
 Judgement JudgeWord(const WatchedValue& value, std::string_view word, const Holds& holds) {
   for (const HealthRule& rule : HealthRules()) {
     const bool isNamed = rule.word == word || (!rule.code.empty() && rule.code == word);
-    if (rule.value == &value && isNamed && holds(rule.where)) return {rule.severity, rule.meaning};
+    if (rule.value == &value && isNamed && holds(rule.where)) return {rule.level, rule.meaning};
   }
   return word.empty() ? Judgement{} : kNotKnown;  // most values may be absent
 }
 
-Judgement Judge(const WatchedValue& value, std::string_view text, const Holds& holds) {
+Judgement JudgeValue(const WatchedValue& value, std::string_view text, const Holds& holds) {
   const Words words = value.cut(text);
   if (words.empty()) return JudgeWord(value, "", holds);
   Judgement worst;
   for (const std::string& word : words) {
     const Judgement judgement = JudgeWord(value, word, holds);
-    if (IsWorse(judgement.severity, worst.severity)) worst = judgement;
+    if (judgement.level > worst.level) worst = judgement;
   }
   return worst;
 }
 
 // Controllers that are missing among those published.
-Findings ControllerFindings(const QueryResult& result) {
+Findings ControllerFindings(const Machine& machine, const QueryResult& result) {
   Findings findings = SilentControllers(result.instances);
-  const auto published = std::ranges::count_if(
-      result.instances, [](const auto& instance) { return instance->Class().name == kControllerClass; });
-  const std::size_t known = static_cast<std::size_t>(published) + findings.size();
+  const std::size_t known = CountOf(machine, kControllerClass) + findings.size();
   std::ranges::move(AnswerFindings(result, known), std::back_inserter(findings));
   return findings;
 }
-
-bool HoldsAnywhere(Where where) { return where == Where::kAnywhere; }
 
 // The values of the rules, each once, in their order.
 std::vector<const WatchedValue*> WatchedValues() {
@@ -69,42 +65,85 @@ std::vector<const WatchedValue*> WatchedValues() {
   return values;
 }
 
-InstanceList UnguardedDrives(const InstanceList& instances) {
-  InstanceList unguarded;
-  std::ranges::copy_if(instances, std::back_inserter(unguarded), [](const auto& instance) {
-    if (instance->Class().name != kLogicalDiskClass) return false;
-    const Judgement state = JudgeText(kDriveState, RawText(*instance, kDriveState.property));
-    return state.severity == Severity::kWarning || state.severity == Severity::kCritical;
-  });
+// The disks of logical drives that are not guarded against the next failed disk, as places of instances. A disk that is
+// in no list is taken to belong to any logical drive of its controller's number.
+std::set<std::size_t> UnguardedDisks(const Machine& machine) {
+  std::set<std::string> numbers;
+  std::set<std::size_t> unguarded;
+  std::set<std::size_t> placed;
+  for (const Controller& controller : machine.controllers) {
+    for (const LogicalDrive& drive : controller.logicalDrives) {
+      const bool isUnguarded = JudgeText(kDriveState, drive.state.text).level >= Level::kWarning;
+      if (isUnguarded) numbers.insert(controller.number);
+      for (const std::size_t device : DevicesOf(controller, drive)) {
+        placed.insert(controller.devices[device].instance);
+        if (isUnguarded) unguarded.insert(controller.devices[device].instance);
+      }
+    }
+  }
+  for (const Controller& controller : machine.controllers) {
+    if (!numbers.contains(controller.number)) continue;
+    for (const Device& device : controller.devices) {
+      if (!placed.contains(device.instance)) unguarded.insert(device.instance);
+    }
+  }
   return unguarded;
 }
 
 class Examination {
  public:
-  explicit Examination(const InstanceList& instances)
-      : instances_(instances), owners_(DeviceOwners(instances)), arrays_(UnguardedDrives(instances), instances) {}
+  Examination(Machine& machine, const InstanceList& instances)
+      : instances_(instances), objects_(instances.size()), unguarded_(UnguardedDisks(machine)) {
+    for (Controller& controller : machine.controllers) {
+      AddObjects(controller.units);
+      AddObjects(controller.logicalDrives);
+      AddObjects(controller.groups);
+      AddObjects(controller.devices);
+    }
+  }
 
-  void Examine(const WatchedValue& value, Findings& findings) const {
+  void Examine(const WatchedValue& value, Findings& findings) {
     for (std::size_t place = 0; place < instances_.size(); ++place) {
       const TPublishedInstance& instance = *instances_[place];
       if (instance.Class().name != value.className) continue;
       const std::string text = RawText(instance, value.property);
-      const Judgement judgement = Judge(value, text, [&](Where where) { return Holds(where, instance); });
-      if (judgement.severity == Severity::kFine) continue;
-      findings.push_back({judgement.severity, std::string(value.className), IdentifierOf(instance),
-                          NameOf(instance, owners_[place]), std::string(value.property), text,
+      const Judgement judgement = JudgeValue(value, text, [&](Where where) { return Holds(where, place); });
+      Object* const object = objects_[place];
+      if (object != nullptr && object->state.property == value.property) {
+        object->state.level = object->level = judgement.level;
+      }
+      const Severity severity = SeverityOf(judgement.level);
+      if (severity == Severity::kFine) continue;
+      findings.push_back({severity, std::string(value.className), IdentifierOf(instance),
+                          object == nullptr ? NameOf(instance, "") : object->name, std::string(value.property), text,
                           std::string(judgement.meaning), place});
     }
   }
 
+  // Gives each object the findings about it.
+  void Assign(const Findings& findings) {
+    for (std::size_t index = 0; index < findings.size(); ++index) {
+      const auto& instance = findings[index].instance;
+      if (!instance || objects_[*instance] == nullptr) continue;
+      Object& object = *objects_[*instance];
+      object.findings.push_back(index);
+      object.level = std::max(object.level, LevelOf(findings[index].severity));
+    }
+  }
+
  private:
-  bool Holds(Where where, const TPublishedInstance& instance) const {
+  template <class Kind>
+  void AddObjects(std::vector<Kind>& objects) {
+    for (Kind& object : objects) objects_[object.instance] = &object;
+  }
+
+  bool Holds(Where where, std::size_t place) const {
     switch (where) {
       case Where::kAnywhere: return true;
       // "Hard disk" of one utility is "Hard drive" of the others.
-      case Where::kOnHardDisk: return RawText(instance, "DeviceType").find("Hard d") != std::string::npos;
-      case Where::kWithChannelLine: return !RawText(instance, "ChannelDescription").empty();
-      case Where::kOnUnguardedArray: return arrays_.Has(instance);
+      case Where::kOnHardDisk: return RawText(*instances_[place], "DeviceType").find("Hard d") != std::string::npos;
+      case Where::kWithChannelLine: return !RawText(*instances_[place], "ChannelDescription").empty();
+      case Where::kOnUnguardedArray: return unguarded_.contains(place);
       case Where::kOnConfiguration:
       case Where::kOnState: break;
     }
@@ -112,25 +151,27 @@ class Examination {
   }
 
   const InstanceList& instances_;
-  std::vector<std::string> owners_;
-  UnguardedArrays arrays_;
+  std::vector<Object*> objects_;  // by the place of their instance; null for what is none
+  std::set<std::size_t> unguarded_;
 };
 
 }  // namespace
 
 std::span<const std::string_view> HealthClasses() { return kClasses; }
 
-Judgement JudgeText(const WatchedValue& value, std::string_view text) { return Judge(value, text, HoldsAnywhere); }
+Judgement JudgeText(const WatchedValue& value, std::string_view text) {
+  return JudgeValue(value, text, [](Where where) { return where == Where::kAnywhere; });
+}
 
-Findings EvaluateHealth(const QueryHeader& header, const QueryResult& result) {
-  Findings findings;
-  if (IsAskedFor(header, kControllerClass)) findings = ControllerFindings(result);
-  const Examination examination(result.instances);
+void Judge(Machine& machine, const QueryHeader& header, const QueryResult& result) {
+  Findings& findings = machine.findings;
+  if (IsAskedFor(header, kControllerClass)) findings = ControllerFindings(machine, result);
+  Examination examination(machine, result.instances);
   for (const WatchedValue* const value : WatchedValues()) examination.Examine(*value, findings);
   std::ranges::move(ToolFindings(result), std::back_inserter(findings));
   std::ranges::stable_sort(
       findings, [](const Finding& left, const Finding& right) { return IsWorse(left.severity, right.severity); });
-  return findings;
+  examination.Assign(findings);
 }
 
 }  // namespace hxahost

@@ -3,16 +3,15 @@
 #include <span>
 #include <string_view>
 
-#include "host/hxahost/machine/finding.h"
 #include "host/hxahost/machine/health_rules.h"
-#include "host/hxahost/result/query_result.h"
+#include "host/hxahost/machine/machine.h"
 
 // Whether anything is wrong with a machine, by the rules of health_rules.h.
 namespace hxahost {
 
 // What a rule, or the lack of one, says of a value.
 struct Judgement {
-  Severity severity = Severity::kFine;
+  Level level = Level::kUnsaid;
   std::string_view meaning;  // lives as long as the program
 };
 
@@ -22,8 +21,8 @@ std::span<const std::string_view> HealthClasses();
 // Judges one text under the rules of a value that hold anywhere.
 Judgement JudgeText(const WatchedValue& value, std::string_view text);
 
-// Everything that is wrong with what a query gave, worst first; what is equally bad in the order of the rules. Of
-// classes that were not asked for nothing is missed.
-Findings EvaluateHealth(const QueryHeader& header, const QueryResult& result);
+// Sets the levels and findings of the machine, whose objects and members are known. Of classes that were not asked for
+// nothing is missed.
+void Judge(Machine& machine, const QueryHeader& header, const QueryResult& result);
 
 }  // namespace hxahost

@@ -2,17 +2,19 @@
 
 #include <algorithm>
 
-#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/result/tool_names.h"
+#include "host/hxahost/schema/class_names.h"
 
 namespace hxahost {
 
 namespace {
 
-constexpr auto kFine = Severity::kFine;
-constexpr auto kWarning = Severity::kWarning;
-constexpr auto kCritical = Severity::kCritical;
-constexpr auto kUnknown = Severity::kUnknown;
+constexpr auto kFine = Level::kFine;
+constexpr auto kIdle = Level::kIdle;
+constexpr auto kBusy = Level::kBusy;
+constexpr auto kUnknown = Level::kUnknown;
+constexpr auto kWarning = Level::kWarning;
+constexpr auto kCritical = Level::kCritical;
 
 constexpr auto kAnywhere = Where::kAnywhere;
 constexpr auto kOnHardDisk = Where::kOnHardDisk;
@@ -27,7 +29,6 @@ constexpr WatchedValue kStripes = {"KVRSG_BadStripeData", "NumBadStripes", Count
 constexpr WatchedValue kDriveCounts = {kControllerClass, "LogicalDriveStatusCnt", DriveCountWords};
 constexpr WatchedValue kDefunct = {kControllerClass, "DefunctDiskDriveCnt", CountWords};
 constexpr WatchedValue kHeat = {kControllerClass, "ControllerTemp", BracketedWords};
-constexpr WatchedValue kBattery = {kControllerClass, "ControllerBatteryStatus", StateWords};
 constexpr WatchedValue kBatteryHeat = {kControllerClass, "ControllerBatteryOverTemp", FirstWord};
 constexpr WatchedValue kPfa = {kDiskDriveClass, "PFA", FirstWord};
 constexpr WatchedValue kPfaCount = {"KVRSG_zxSCSIDeviceData", "PFA", CountWords};
@@ -92,16 +93,16 @@ constexpr HealthRule kRules[] = {
 
     {&kDriveState,  "okay",                    "oky", kAll,     kFine,     "",                 kAnywhere        },
     {&kDriveState,  "optimal",                 "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "free",                    "fre", kQcmdrun, kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "system",                  "sys", kQcmdrun, kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "logical drive migration", "ldm", kQcmdrun, kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "building",                "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "clearing",                "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "expanding",               "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "initializing",            "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "migrating",               "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "synchronizing",           "",    kAll,     kFine,     "",                 kAnywhere        },
-    {&kDriveState,  "verifying",               "",    kNewer,   kFine,     "",                 kAnywhere        },
+    {&kDriveState,  "free",                    "fre", kQcmdrun, kIdle,     "",                 kAnywhere        },
+    {&kDriveState,  "system",                  "sys", kQcmdrun, kIdle,     "",                 kAnywhere        },
+    {&kDriveState,  "logical drive migration", "ldm", kQcmdrun, kBusy,     "",                 kAnywhere        },
+    {&kDriveState,  "building",                "",    kNewer,   kBusy,     "",                 kAnywhere        },
+    {&kDriveState,  "clearing",                "",    kNewer,   kBusy,     "",                 kAnywhere        },
+    {&kDriveState,  "expanding",               "",    kNewer,   kBusy,     "",                 kAnywhere        },
+    {&kDriveState,  "initializing",            "",    kNewer,   kBusy,     "",                 kAnywhere        },
+    {&kDriveState,  "migrating",               "",    kNewer,   kBusy,     "",                 kAnywhere        },
+    {&kDriveState,  "synchronizing",           "",    kAll,     kBusy,     "",                 kAnywhere        },
+    {&kDriveState,  "verifying",               "",    kNewer,   kBusy,     "",                 kAnywhere        },
     {&kDriveState,  "offline",                 "ofl", kAll,     kCritical, kDataGone,          kAnywhere        },
     {&kDriveState,  "failed",                  "",    kNewer,   kCritical, kDataGone,          kAnywhere        },
     {&kDriveState,  "missing",                 "",    kNewer,   kCritical, kDataGone,          kAnywhere        },
@@ -130,21 +131,21 @@ constexpr HealthRule kRules[] = {
     {&kDiskState,   "online",                  "onl", kAll,     kFine,     "",                 kAnywhere        },
     {&kDiskState,   "optimal",                 "",    kNewer,   kFine,     "",                 kAnywhere        },
     {&kDiskState,   "okay",                    "oky", kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "ready",                   "rdy", kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "available",               "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "raw",                     "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "unconfigured",            "",    kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "unconfigured good",       "",    kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "empty",                   "emp", kQcmdrun, kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "standby",                 "sby", kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "hot spare",               "hsp", kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "standby hot spare",       "shs", kQcmdrun, kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "dedicated hot spare",     "",    kNewer,   kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "global hot spare",        "",    kNewer,   kFine,     "",                 kAnywhere        },
+    {&kDiskState,   "ready",                   "rdy", kAll,     kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "available",               "",    kNewer,   kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "raw",                     "",    kNewer,   kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "unconfigured",            "",    kAll,     kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "unconfigured good",       "",    kAll,     kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "empty",                   "emp", kQcmdrun, kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "standby",                 "sby", kAll,     kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "hot spare",               "hsp", kAll,     kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "standby hot spare",       "shs", kQcmdrun, kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "dedicated hot spare",     "",    kNewer,   kIdle,     "",                 kAnywhere        },
+    {&kDiskState,   "global hot spare",        "",    kNewer,   kIdle,     "",                 kAnywhere        },
     {&kDiskState,   "rebuild",                 "rbl", kAll,     kWarning,  kDiskRebuilt,       kOnUnguardedArray},
     {&kDiskState,   "rebuilding",              "",    kAll,     kWarning,  kDiskRebuilt,       kOnUnguardedArray},
-    {&kDiskState,   "rebuild",                 "rbl", kAll,     kFine,     "",                 kAnywhere        },
-    {&kDiskState,   "rebuilding",              "",    kAll,     kFine,     "",                 kAnywhere        },
+    {&kDiskState,   "rebuild",                 "rbl", kAll,     kBusy,     "",                 kAnywhere        },
+    {&kDiskState,   "rebuilding",              "",    kAll,     kBusy,     "",                 kAnywhere        },
     {&kDiskState,   "defunct",                 "ddd", kQcmdrun, kCritical, kFailedDisk,        kAnywhere        },
     {&kDiskState,   "failed",                  "",    kAll,     kCritical, kFailedDisk,        kAnywhere        },
     {&kDiskState,   "missing",                 "",    kAll,     kCritical, kDiskGone,          kAnywhere        },
@@ -220,9 +221,18 @@ constexpr HealthRule kRules[] = {
     {&kLogText,     kMismatch,                 "",    kArcconf, kWarning,  kUpdateDriver,      kAnywhere        },
 };
 
+constexpr EventSeverity kEventSeverities[] = {
+    {"ERR", kCritical},
+    {"FAT", kCritical},
+    {"CRI", kCritical},
+    {"WRN", kWarning },
+    {"INF", kIdle    },
+};
+
 }  // namespace
 
 std::span<const HealthRule> HealthRules() { return kRules; }
+std::span<const EventSeverity> EventSeverities() { return kEventSeverities; }
 
 const HealthRule& RuleFor(const WatchedValue& value, std::string_view word) {
   return *std::ranges::find_if(kRules,

@@ -22,6 +22,7 @@ inline constexpr std::string_view kLeftOut = "left out";
 
 inline constexpr WatchedValue kDriveState = {"KVRSG_zxLogicalDisk", "LogicalDriveStatus", StateWords};
 inline constexpr WatchedValue kStatus = {"KVRSG_zxSCSIProtocolController", "ControllerStatus", StateWords};
+inline constexpr WatchedValue kBattery = {"KVRSG_zxSCSIProtocolController", "ControllerBatteryStatus", StateWords};
 inline constexpr WatchedValue kDiskState = {"KVRSG_zxDiskDrive", "State", StateWords};
 // What is said of a controller that was not published.
 inline constexpr WatchedValue kPresence = {kLeftOut, "ControllerNum", WholeText};
@@ -49,13 +50,21 @@ struct HealthRule {
   std::string_view word;   // as NormalWord gives it; "": the utility printed nothing
   std::string_view code;   // the short form that the legacy utility adds; "" where there is none
   std::string_view tools;  // which print it
-  Severity severity;
+  Level level;
   std::string_view meaning;  // "" where it is fine
   Where where;
 };
 
 // Rules of one value stand together; what matters most comes first.
 std::span<const HealthRule> HealthRules();
+
+// What the RAID manager's log says of how bad an event is; a word that is not here is unknown.
+struct EventSeverity {
+  std::string_view word;
+  Level level;
+};
+
+std::span<const EventSeverity> EventSeverities();
 
 // The rule that names the word of a value; there must be one.
 const HealthRule& RuleFor(const WatchedValue& value, std::string_view word);

@@ -83,18 +83,14 @@ std::vector<FailedStatus> FailedStatuses(const InstanceList& instances) {
 
 Finding UnpublishedFinding(const std::string& number, const std::string& status) {
   const HealthRule& rule = RuleFor(kPresence, "not published");
-  return {rule.severity,
-          std::string(kControllerClass),
-          "Zentraxis" + number,
-          "controller " + number,
-          std::string(rule.value->property),
-          status,
+  return {SeverityOf(rule.level),   std::string(kControllerClass),     "Zentraxis" + number,
+          "controller " + number,   std::string(rule.value->property), status,
           std::string(rule.meaning)};
 }
 
 Finding FailedFinding(const FailedStatus& failed) {
   const HealthRule& rule = RuleFor(kPresence, "failed");
-  return {rule.severity,
+  return {SeverityOf(rule.level),
           std::string(kRawDataClass),
           failed.command,
           "the controller of the command " + failed.command,

@@ -49,7 +49,7 @@ std::vector<Trouble> Troubles(const ToolRunList& runs) {
   std::vector<Trouble> troubles;
   for (const ToolRun& run : runs) {
     const HealthRule& rule = RuleForRun(run);
-    if (rule.severity == Severity::kFine) continue;
+    if (SeverityOf(rule.level) == Severity::kFine) continue;
     const std::string tool = ToolName(run.path);
     const auto same = std::ranges::find_if(troubles, [&](const Trouble& trouble) {
       return trouble.rule == &rule && trouble.tool == tool && trouble.reason == run.failure;
@@ -66,7 +66,7 @@ std::vector<Trouble> Troubles(const ToolRunList& runs) {
 Finding AsFinding(const Trouble& trouble) {
   std::string name = trouble.tool + " " + trouble.firstCommand;
   if (trouble.times > 1) name += " and " + std::to_string(trouble.times - 1) + " more";
-  return {trouble.rule->severity,
+  return {SeverityOf(trouble.rule->level),
           std::string(kToolRun),
           trouble.tool,
           std::move(name),
@@ -87,8 +87,9 @@ std::size_t CountAnswers(const ToolRunList& runs) {
 
 Finding OfCollection(std::string_view word, std::string text) {
   const HealthRule& rule = RuleFor(kAnswers, word);
-  return {rule.severity,   std::string(kToolRun),    "collection", "the collection", std::string(kAnswers.property),
-          std::move(text), std::string(rule.meaning)};
+  return {SeverityOf(rule.level),   std::string(kToolRun),          "collection",
+          "the collection",         std::string(kAnswers.property), std::move(text),
+          std::string(rule.meaning)};
 }
 
 std::optional<Finding> LogFinding(const std::string& text) {
@@ -97,8 +98,8 @@ std::optional<Finding> LogFinding(const std::string& text) {
     return each.value == &kLogText && !head.empty() && each.word == head.front();
   });
   if (rule == HealthRules().end()) return std::nullopt;
-  return Finding{rule->severity, std::string(kLog),         "log", "the log", std::string(kLogText.property),
-                 text,           std::string(rule->meaning)};
+  return Finding{SeverityOf(rule->level),   std::string(kLog), "log", "the log", std::string(kLogText.property), text,
+                 std::string(rule->meaning)};
 }
 
 // The log may say one thing twice, in a line and in a longer form.

@@ -14,8 +14,8 @@ Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::o
   QueryDisplay display;
   display.begin = [](std::ostream&, const QueryHeader&) {};
   display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
-    const HealthReport report{header, result, EvaluateHealth(header, result), result.seconds};
-    worst = WorstOf(report.findings);
+    const HealthReport report{header, result, BuildMachine(header, result), result.seconds};
+    worst = WorstOf(report.machine.findings);
     view.Write(shown, report);
   };
   display.end = [](std::ostream&, const QueryHeader&) {};

@@ -1,9 +1,9 @@
 #include "host/hxahost/terminal/table.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 
-#include "host/hxahost/terminal/state_colour.h"
 #include "host/hxahost/text/display_width.h"
 
 namespace hxahost {
@@ -19,7 +19,6 @@ struct Shown {
   std::size_t index = 0;
   std::size_t width = 0;
   std::size_t least = 0;
-  bool isState = false;
 };
 
 std::string_view Cell(const std::vector<std::string>& row, std::size_t index) {
@@ -34,7 +33,7 @@ std::vector<Shown> ColumnsWithText(const Table& table) {
     for (const auto& row : table.rows) width = std::max(width, DisplayWidth(Cell(row, index)));
     if (width == 0) continue;
     width = std::min(std::max(width, DisplayWidth(column.title)), column.widest);
-    shown.push_back({index, width, std::min(width, column.least), column.isState});
+    shown.push_back({index, width, std::min(width, column.least)});
   }
   return shown;
 }
@@ -60,12 +59,20 @@ void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t width) {
   while (columns.size() > 1 && TotalWidth(columns) > room) columns.pop_back();
 }
 
-std::string RowText(const std::vector<Shown>& columns, const std::vector<std::string>& row, bool hasColours) {
+std::string InColour(const std::string& text, Colour colour) {
+  constexpr std::string_view kColours[] = {"\x1b[31m", "\x1b[32m", "\x1b[33m", "\x1b[35m"};
+  return std::string(kColours[static_cast<std::size_t>(colour)]) + text + "\x1b[0m";
+}
+
+// Gives the text of a cell its colour.
+using Painter = std::function<std::string(const std::string& text, std::size_t column)>;
+
+std::string RowText(const std::vector<Shown>& columns, const std::vector<std::string>& row, const Painter& paint) {
   std::string line(kIndentWidth, ' ');
   std::size_t missing = 0;  // blanks that are owed: none are put at the end of a line
   for (const Shown& column : columns) {
     const std::string text = CutToWidth(Cell(row, column.index), column.width);
-    if (!text.empty()) line.append(missing, ' ').append(hasColours && column.isState ? InStateColour(text) : text);
+    if (!text.empty()) line.append(missing, ' ').append(paint(text, column.index));
     missing = (text.empty() ? missing : 0) + column.width - DisplayWidth(text) + kGap;
   }
   return line;
@@ -81,8 +88,15 @@ void WriteTable(std::ostream& out, const Layout& layout, const Table& table) {
   if (isTooWide) LeaveOutFromTheRight(columns, layout.width);
   std::vector<std::string> titles;
   for (const TableColumn& column : table.columns) titles.push_back(column.title);
-  out << RowText(columns, titles, false) << (isTooWide ? kMoreColumns : "") << '\n';
-  for (const auto& row : table.rows) out << RowText(columns, row, layout.hasColours) << '\n';
+  const auto plain = [](const std::string& text, std::size_t) { return text; };
+  out << RowText(columns, titles, plain) << (isTooWide ? kMoreColumns : "") << '\n';
+  for (std::size_t row = 0; row < table.rows.size(); ++row) {
+    const auto paint = [&](const std::string& text, std::size_t column) {
+      const auto colour = table.colours.find({row, column});
+      return layout.hasColours && colour != table.colours.end() ? InColour(text, colour->second) : text;
+    };
+    out << RowText(columns, table.rows[row], paint) << '\n';
+  }
 }
 
 }  // namespace hxahost

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/hxahost/terminal/layout.h"
@@ -13,13 +15,15 @@ struct TableColumn {
   std::string title;
   std::size_t widest = 30;  // a longer text is cut
   std::size_t least = 8;    // what the column is narrowed to at most, to make room for others
-  bool isState = false;     // its texts are coloured by what they say, where the layout has colours
 };
+
+enum class Colour { kRed, kGreen, kYellow, kMagenta };
 
 // A table of texts that are printable already. A row may be shorter than the columns.
 struct Table {
   std::vector<TableColumn> columns;
   std::vector<std::vector<std::string>> rows;
+  std::map<std::pair<std::size_t, std::size_t>, Colour> colours = {};  // of cells, by row and column
 };
 
 // Writes the table, indented by two columns. A column in which no row has a text is left out. Where it all is wider

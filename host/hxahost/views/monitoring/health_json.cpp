@@ -20,9 +20,9 @@ void WriteHealthJson(std::ostream& out, const HealthReport& report) {
   json["format"] = 1;
   json["machine"] = AsUtf8(report.header.machine);
   json["time"] = report.header.time.ToString();
-  json["status"] = SeverityWord(WorstOf(report.findings));
+  json["status"] = SeverityWord(WorstOf(report.machine.findings));
   json["findings"] = Json::array();
-  for (const Finding& finding : report.findings) json["findings"].push_back(FindingJson(finding));
+  for (const Finding& finding : report.machine.findings) json["findings"].push_back(FindingJson(finding));
   out << JsonText(json, 2) << '\n';
 }
 

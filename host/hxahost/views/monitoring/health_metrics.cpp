@@ -6,13 +6,11 @@
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "host/hxahost/machine/device_names.h"
-#include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/escaping.h"
@@ -152,51 +150,32 @@ Labels LabelValues(const TPublishedInstance& instance, std::span<const LabelSour
   return labels;
 }
 
-// A state that is shown with its severity.
+// States that are shown with their severity.
 struct StateFamily {
-  const WatchedValue* value;
+  std::string_view className;
   std::string_view name;
-  std::string_view help;
   std::span<const LabelSource> labels;
 };
 
+constexpr std::string_view kStateHelp = "0 ok, 1 warning, 2 critical, 3 unknown; state: as the utility prints it.";
+
 constexpr StateFamily kStateFamilies[] = {
-    {&kStatus,     "zenx_controller_state",   "0 ok, 1 warning, 2 critical, 3 unknown; state: as the utility prints it.",
-     kControllerLabels                                                                                                                },
-    {&kDriveState, "zenx_logical_disk_state",
-     "0 ok, 1 warning, 2 critical, 3 unknown; state: as the utility prints it.",                                          kDriveLabels},
-    {&kDiskState,  "zenx_disk_state",         "0 ok, 1 warning, 2 critical, 3 unknown; state: as the utility prints it.",
-     kDiskLabels                                                                                                                      },
+    {kControllerClass,  "zenx_controller_state",   kControllerLabels},
+    {kLogicalDiskClass, "zenx_logical_disk_state", kDriveLabels     },
+    {kDiskDriveClass,   "zenx_disk_state",         kDiskLabels      },
 };
 
-using FoundState = std::tuple<std::string_view, std::string_view, std::string_view>;  // property, identifier, text
-
-std::vector<std::pair<FoundState, Severity>> FoundStates(const Findings& findings) {
-  std::vector<std::pair<FoundState, Severity>> states;
-  for (const Finding& finding : findings) {
-    states.push_back({
-        {finding.property, finding.identifier, finding.text},
-        finding.severity
-    });
-  }
-  std::ranges::sort(states, {}, &std::pair<FoundState, Severity>::first);
-  return states;
-}
-
 void WriteStates(std::ostream& out, const HealthReport& report) {
-  const auto found = FoundStates(report.findings);
   for (const StateFamily& state : kStateFamilies) {
-    Family family(state.name, state.help);
-    for (const auto& instance : report.result.instances) {
-      if (instance->Class().name != state.value->className) continue;
-      const std::string text = RawText(*instance, state.value->property);
-      const std::string identifier = IdentifierOf(*instance);
-      const FoundState key = {state.value->property, identifier, text};
-      const auto place = std::ranges::lower_bound(found, key, {}, &std::pair<FoundState, Severity>::first);
-      const bool isFound = place != found.end() && place->first == key;
-      Labels labels = LabelValues(*instance, state.labels);
-      labels.emplace_back("state", text);
-      if (isFound || !text.empty()) family.Add(labels, SeverityNumber(isFound ? place->second : Severity::kFine));
+    Family family(state.name, kStateHelp);
+    for (const Controller& controller : report.machine.controllers) {
+      for (const Object* const object : ObjectsOf(controller, state.className)) {
+        const Severity severity = SeverityOf(object->state.level);
+        if (object->state.text.empty() && severity == Severity::kFine) continue;
+        Labels labels = LabelValues(*report.result.instances[object->instance], state.labels);
+        labels.emplace_back("state", object->state.text);
+        family.Add(labels, SeverityNumber(severity));
+      }
     }
     family.Write(out);
   }
@@ -227,11 +206,9 @@ constexpr CountFamily kCounts[] = {
     {kDiskDriveClass,   "zenx_disks",         "Disks and other devices that were published."},
 };
 
-void WriteCountMetrics(std::ostream& out, const InstanceList& instances) {
+void WriteCountMetrics(std::ostream& out, const Machine& machine) {
   for (const CountFamily& count : kCounts) {
-    WriteNumber(out, count.name, count.help, std::to_string(std::ranges::count_if(instances, [&](const auto& instance) {
-                  return instance->Class().name == count.className;
-                })));
+    WriteNumber(out, count.name, count.help, std::to_string(CountOf(machine, count.className)));
   }
 }
 
@@ -269,11 +246,11 @@ void WriteCollection(std::ostream& out, const HealthReport& report) {
 }  // namespace
 
 void WriteHealthMetrics(std::ostream& out, const HealthReport& report) {
-  WriteStatus(out, report.findings);
-  WriteFindingMetrics(out, report.findings);
+  WriteStatus(out, report.machine.findings);
+  WriteFindingMetrics(out, report.machine.findings);
   WriteStates(out, report);
   WriteBadStripes(out, report.result.instances);
-  WriteCountMetrics(out, report.result.instances);
+  WriteCountMetrics(out, report.machine);
   WriteCollection(out, report);
 }
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "host/hxahost/machine/finding.h"
+#include "host/hxahost/machine/machine.h"
 #include "host/hxahost/result/query_result.h"
 
 // How the health of a machine is shown.
@@ -13,7 +13,7 @@ namespace hxahost {
 struct HealthReport {
   const QueryHeader& header;
   const QueryResult& result;
-  Findings findings;   // as EvaluateHealth gives them
+  Machine machine;
   double seconds = 0;  // that the collection took
 };
 

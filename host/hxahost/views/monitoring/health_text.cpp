@@ -24,15 +24,10 @@ std::string CountedAs(std::size_t count, const std::string& one, const std::stri
   return std::to_string(count) + " " + (count == 1 ? one : several);
 }
 
-std::size_t CountOf(const InstanceList& instances, std::string_view className) {
-  return static_cast<std::size_t>(
-      std::ranges::count_if(instances, [&](const auto& instance) { return instance->Class().name == className; }));
-}
-
-std::string Inventory(const InstanceList& instances) {
-  return CountedAs(CountOf(instances, kControllerClass), "controller", "controllers") + ", " +
-         CountedAs(CountOf(instances, kLogicalDiskClass), "logical drive", "logical drives") + ", " +
-         CountedAs(CountOf(instances, kDiskDriveClass), "device", "devices");
+std::string Inventory(const Machine& machine) {
+  return CountedAs(CountOf(machine, kControllerClass), "controller", "controllers") + ", " +
+         CountedAs(CountOf(machine, kLogicalDiskClass), "logical drive", "logical drives") + ", " +
+         CountedAs(CountOf(machine, kDiskDriveClass), "device", "devices");
 }
 
 // "4 critical, 1 warning"
@@ -57,15 +52,12 @@ std::string ToolsThatRan(const ToolRunList& runs) {
 }
 
 std::string Summary(const HealthReport& report) {
-  const std::string machine = Printable(report.header.machine);
-  const InstanceList& instances = report.result.instances;
-  if (!report.findings.empty()) {
-    return Tally(report.findings) + " on " + machine + " (" + Inventory(instances) + ")";
-  }
-  if (CountOf(instances, kControllerClass) > 0) {
-    return "nothing is wrong on " + machine + " (" + Inventory(instances) + ")";
-  }
-  return "no controller on " + machine + ": " + ToolsThatRan(report.result.runs) + " answered that there is none";
+  const std::string name = Printable(report.header.machine);
+  const Machine& machine = report.machine;
+  const std::string inventory = " (" + Inventory(machine) + ")";
+  if (!machine.findings.empty()) return Tally(machine.findings) + " on " + name + inventory;
+  if (CountOf(machine, kControllerClass) > 0) return "nothing is wrong on " + name + inventory;
+  return "no controller on " + name + ": " + ToolsThatRan(report.result.runs) + " answered that there is none";
 }
 
 std::string Padded(std::string_view text, std::size_t width) {
@@ -93,8 +85,8 @@ std::string_view WhereOf(Where where) {
 
 // The first line is what monitoring programs show.
 void WriteHealthText(std::ostream& out, const HealthReport& report) {
-  out << InCapitals(SeverityWord(WorstOf(report.findings))) << ": " << Summary(report) << '\n';
-  for (const Finding& finding : report.findings) out << FindingText(finding) << '\n';
+  out << InCapitals(SeverityWord(WorstOf(report.machine.findings))) << ": " << Summary(report) << '\n';
+  for (const Finding& finding : report.machine.findings) out << FindingText(finding) << '\n';
 }
 
 void WriteHealthRules(std::ostream& out) {
@@ -103,8 +95,8 @@ void WriteHealthRules(std::ostream& out) {
     if (rule.value != value)
       out << (value == nullptr ? "" : "\n") << rule.value->className << ", " << rule.value->property << '\n';
     value = rule.value;
-    out << "  " << Padded(SeverityWord(rule.severity), 9) << WordOf(rule) << WhereOf(rule.where) << ", printed by "
-        << rule.tools << (rule.meaning.empty() ? "" : ": ") << rule.meaning << '\n';
+    out << "  " << Padded(SeverityWord(SeverityOf(rule.level)), 9) << WordOf(rule) << WhereOf(rule.where)
+        << ", printed by " << rule.tools << (rule.meaning.empty() ? "" : ": ") << rule.meaning << '\n';
   }
 }
 

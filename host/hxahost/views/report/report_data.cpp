@@ -7,7 +7,6 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxacore/schema.h"
-#include "host/hxahost/machine/device_owners.h"
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/result/unread_lines.h"
 #include "host/hxahost/text/json_output.h"
@@ -83,18 +82,57 @@ Json UnjudgedJson(const QueryHeader& header) {
   return json;
 }
 
-Json FindingsJson(const QueryHeader& header, const QueryResult& result) {
+Json FindingsJson(const Findings& findings) {
   Json json = Json::array();
-  for (const Finding& finding : EvaluateHealth(header, result)) {
+  for (const Finding& finding : findings) {
     json.push_back(FindingJson(finding));
     if (finding.instance) json.back()["instance"] = *finding.instance;
   }
   return json;
 }
 
-Json OwnersJson(const QueryResult& result) {
+Json ObjectJson(const Controller& controller, const Object& object) {
+  Json json = Json::object();
+  json["instance"] = object.instance;
+  json["owner"] = AsUtf8(controller.label);
+  json["level"] = LevelWord(object.level);
+  json["stateLevel"] = LevelWord(object.state.level);
+  return json;
+}
+
+template <class Kind>
+Json InstancesJson(const std::vector<Kind>& objects, const std::vector<std::size_t>& places) {
   Json json = Json::array();
-  for (const std::string& owner : DeviceOwners(result.instances)) json.push_back(AsUtf8(owner));
+  for (const std::size_t place : places) json.push_back(objects[place].instance);
+  return json;
+}
+
+// By controller, each with what belongs to it. Members are places of instances.
+Json ObjectsJson(const Machine& machine) {
+  Json json = Json::array();
+  for (const Controller& controller : machine.controllers) {
+    for (const ControllerUnit& unit : controller.units) json.push_back(ObjectJson(controller, unit));
+    for (const LogicalDrive& drive : controller.logicalDrives) {
+      json.push_back(ObjectJson(controller, drive));
+      json.back()["groups"] = InstancesJson(controller.groups, drive.groups);
+      json.back()["devices"] = InstancesJson(controller.devices, drive.devices);
+    }
+    for (const DiskGroup& group : controller.groups) {
+      json.push_back(ObjectJson(controller, group));
+      json.back()["devices"] = InstancesJson(controller.devices, group.devices);
+    }
+    for (const Device& device : controller.devices) {
+      json.push_back(ObjectJson(controller, device));
+      json.back()["channel"] = AsUtf8(device.channel);
+      json.back()["id"] = AsUtf8(device.id);
+    }
+  }
+  return json;
+}
+
+Json EventLevelsJson() {
+  Json json = Json::object();
+  for (const EventSeverity& each : EventSeverities()) json[std::string(each.word)] = LevelWord(each.level);
   return json;
 }
 
@@ -115,6 +153,7 @@ Json UnreadLinesJson(const QueryHeader& header, const QueryResult& result) {
 }  // namespace
 
 void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  const Machine machine = BuildMachine(header, result);
   Json json = Json::object();
   json["program"] = "hxahost " ZENX_VERSION;
   json["directory"] = AsUtf8(header.directory);
@@ -122,8 +161,9 @@ void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryRe
   json["classes"] = header.classes;
   json["queryCount"] = header.queryCount;
   json["tables"] = TablesJson();
-  json["owners"] = OwnersJson(result);
-  json["findings"] = FindingsJson(header, result);
+  json["objects"] = ObjectsJson(machine);
+  json["eventLevels"] = EventLevelsJson();
+  json["findings"] = FindingsJson(machine.findings);
   json["unjudged"] = UnjudgedJson(header);
   json["unread"] = UnreadLinesJson(header, result);
   out << JsonText(json, 2);

@@ -1,15 +1,11 @@
 #include "host/hxahost/views/tables/controller_blocks.h"
 #include "host/hxahost/result/property_values.h"
 
-#include <algorithm>
-#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
-#include "host/hxahost/machine/device_owners.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
@@ -20,28 +16,6 @@ using NKVRHXA20::TPublishedInstance;
 namespace hxahost {
 
 namespace {
-
-// Everything of one controller, by kind in the order of kDeviceKinds.
-struct Block {
-  std::string owner;
-  std::vector<InstanceList> kinds;
-};
-
-std::vector<Block> BlocksOf(const InstanceList& instances) {
-  const std::vector<std::string> owners = DeviceOwners(instances);
-  std::vector<Block> blocks;
-  std::unordered_map<std::string, std::size_t> places;
-  for (const DeviceKind& kind : DeviceKinds()) {
-    const auto index = static_cast<std::size_t>(&kind - DeviceKinds().data());
-    for (std::size_t instance = 0; instance < instances.size(); ++instance) {
-      if (instances[instance]->Class().name != kind.className) continue;
-      const auto [place, isNew] = places.emplace(owners[instance], blocks.size());
-      if (isNew) blocks.push_back({Printable(owners[instance]), std::vector<InstanceList>(DeviceKinds().size())});
-      blocks[place->second].kinds[index].push_back(instances[instance]);
-    }
-  }
-  return blocks;
-}
 
 // "serial 123, slot 2, ...": as many facts as fit on a line, and the next line goes on.
 void WriteFacts(std::ostream& out, const Layout& layout, const TPublishedInstance& controller,
@@ -61,9 +35,9 @@ void WriteFacts(std::ostream& out, const Layout& layout, const TPublishedInstanc
   if (!line.empty()) out << kIndent << line << '\n';
 }
 
-void WriteController(std::ostream& out, const Layout& layout, const std::string& owner,
+void WriteController(std::ostream& out, const Layout& layout, const std::string& label,
                      const TPublishedInstance& controller) {
-  std::string heading = "Controller " + owner;
+  std::string heading = "Controller " + label;
   for (const std::string_view property : {"ControllerType", "ControllerStatus"}) {
     const std::string text = ShownText(controller, property);
     if (!text.empty()) heading += (property == "ControllerType" ? ": " : " - ") + text;
@@ -73,30 +47,39 @@ void WriteController(std::ostream& out, const Layout& layout, const std::string&
   WriteFacts(out, layout, controller, StateFacts());
 }
 
-// The plug-in publishes no controller whose status contains "Failed", and yet what hangs on it.
+// The plug-in publishes no controller whose status contains "Failed", but what belongs to it.
 std::string_view WhyWithoutInstance(const QueryHeader& header) {
-  const bool wasAskedFor = std::ranges::count(header.classes, DeviceKinds().front().className) > 0;
-  return wasAskedFor ? " was not published: its status may say \"Failed\"" : " (controllers were not asked for)";
+  return IsAskedFor(header, DeviceKinds().front().className) ? " was not published: its status may say \"Failed\""
+                                                             : " (controllers were not asked for)";
 }
 
-void WriteBlock(std::ostream& out, const QueryHeader& header, const Block& block) {
-  const InstanceList& controllers = block.kinds.front();
-  if (controllers.empty()) {
-    out << CutToWidth("Controller " + block.owner, header.layout.width / 2) << WhyWithoutInstance(header) << '\n';
+void WriteDevices(std::ostream& out, const Layout& layout, const DeviceKind& kind, const InstanceList& instances,
+                  const Machine& machine, const std::vector<const Object*>& objects) {
+  InstanceList shown;
+  for (const Object* const object : objects) shown.push_back(instances[object->instance]);
+  WriteInstances(out, layout, "  " + std::string(kind.heading), kind.columns, shown,
+                 [&](std::size_t row, std::string_view property) { return LevelOf(machine, *objects[row], property); });
+}
+
+void WriteBlock(std::ostream& out, const QueryHeader& header, const InstanceList& instances, const Machine& machine,
+                const Controller& controller) {
+  const std::string label = Printable(controller.label);
+  if (controller.units.empty()) {
+    out << CutToWidth("Controller " + label, header.layout.width / 2) << WhyWithoutInstance(header) << '\n';
   }
-  for (const auto& controller : controllers) WriteController(out, header.layout, block.owner, *controller);
-  for (std::size_t index = 1; index < block.kinds.size(); ++index) {
-    const DeviceKind& kind = DeviceKinds()[index];
-    WriteInstances(out, header.layout, "  " + std::string(kind.heading), kind.columns, block.kinds[index]);
+  for (const auto& unit : controller.units) WriteController(out, header.layout, label, *instances[unit.instance]);
+  for (const DeviceKind& kind : DeviceKinds().subspan(1)) {
+    WriteDevices(out, header.layout, kind, instances, machine, ObjectsOf(controller, kind.className));
   }
 }
 
 }  // namespace
 
-void WriteControllerBlocks(std::ostream& out, const QueryHeader& header, const InstanceList& instances) {
-  for (const Block& block : BlocksOf(instances)) {
+void WriteControllerBlocks(std::ostream& out, const QueryHeader& header, const InstanceList& instances,
+                           const Machine& machine) {
+  for (const Controller& controller : machine.controllers) {
     out << '\n';
-    WriteBlock(out, header, block);
+    WriteBlock(out, header, instances, machine, controller);
   }
 }
 

@@ -32,40 +32,40 @@ constexpr Fact kState[] = {
     {"battery time",             "BatteryTimeRemaining"       },
 };
 
-// States are not narrowed, and stand where no narrow page cuts them off: they are what people look for.
+// States are not narrowed, and are where no narrow page cuts them off: they are what people look for.
 constexpr InstanceColumn kLogicalDrives[] = {
-    {"Drive", "LogicalDriveNum",    8,   5                               },
-    {"Name",  "LogicalDriveName",   20,  8                               },
-    {"RAID",  "RaidLevel",          12,  4                               },
-    {"Size",  "Size",               16,  10                              },
-    {"State", "LogicalDriveStatus", 30,  30,                               true},
-    {"Blocked",       "AccessBlocked",                   10, 7,             true},
-    {"Defunct",   "DefunctSegments",                       20,                  9,                   true},
-    {"Array",      "PartOfArray",                      10,        5               },
-    {"Stripe unit",     "StripeUnitSize",   12,6   },
-    {"Write cache",     "WriteCacheStatus",                      24,                           8                                           },
-    {"Read cache",     "ReadCacheStatus",   16,8},
-    {"Stripe order",     "StripeOrder",                      40,                                              12                                                                                                           },
+    {"Drive",        "LogicalDriveNum",    8,  5 },
+    {"Name",         "LogicalDriveName",   20, 8 },
+    {"RAID",         "RaidLevel",          12, 4 },
+    {"Size",         "Size",               16, 10},
+    {"State",        "LogicalDriveStatus", 30, 30},
+    {"Blocked",      "AccessBlocked",      10, 7 },
+    {"Defunct",      "DefunctSegments",    20, 9 },
+    {"Array",        "PartOfArray",        10, 5 },
+    {"Stripe unit",  "StripeUnitSize",     12, 6 },
+    {"Write cache",  "WriteCacheStatus",   24, 8 },
+    {"Read cache",   "ReadCacheStatus",    16, 8 },
+    {"Stripe order", "StripeOrder",        40, 12},
 };
 
 constexpr InstanceColumn kDiskGroups[] = {
-    {"Array",        "Array",        10},
-    {"Stripe order", "StripeOrder",  60},
-    {"Identifier",   "CollectionID", 60},
+    {"Array",        "Array",        10, 8},
+    {"Stripe order", "StripeOrder",  60, 8},
+    {"Identifier",   "CollectionID", 60, 8},
 };
 
 constexpr InstanceColumn kDisks[] = {
-    {"Ch",    "Channel",    8,  2                    },
-    {"ID",    "ScsiId",     6,  2                    },
-    {"Type",  "DeviceType", 24, 9                    },
-    {"Model", "Model",      20, 10                   },
-    {"State", "State",      30, 30,                    true},
-    {"PFA",       "PFA",               8,      3,            true},
-    {"Size",   "Size",               16,            8             },
-    {"Serial",      "DeviceSerialNum",                  24,  20},
-    {"Firmware",     "Firmware",                 10,         8                            },
-    {"FRU",      "FRU",                  12,        8},
-    {"Vendor",      "Vendor",                  10,      8                       },
+    {"Ch",       "Channel",         8,  2 },
+    {"ID",       "ScsiId",          6,  2 },
+    {"Type",     "DeviceType",      24, 9 },
+    {"Model",    "Model",           20, 10},
+    {"State",    "State",           30, 30},
+    {"PFA",      "PFA",             8,  3 },
+    {"Size",     "Size",            16, 8 },
+    {"Serial",   "DeviceSerialNum", 24, 20},
+    {"Firmware", "Firmware",        10, 8 },
+    {"FRU",      "FRU",             12, 8 },
+    {"Vendor",   "Vendor",          10, 8 },
 };
 
 constexpr DeviceKind kKinds[] = {

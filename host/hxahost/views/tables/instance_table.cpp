@@ -1,19 +1,39 @@
 #include "host/hxahost/views/tables/instance_table.h"
 
+#include <optional>
+
 #include "host/hxahost/result/property_values.h"
 
 namespace hxahost {
 
+namespace {
+
+std::optional<Colour> ColourOf(Level level) {
+  switch (level) {
+    case Level::kUnsaid: return std::nullopt;
+    case Level::kUnknown: return Colour::kMagenta;
+    case Level::kWarning: return Colour::kYellow;
+    case Level::kCritical: return Colour::kRed;
+    default: return Colour::kGreen;
+  }
+}
+
+}  // namespace
+
 void WriteInstances(std::ostream& out, const Layout& layout, std::string_view heading,
-                    std::span<const InstanceColumn> columns, const InstanceList& instances) {
+                    std::span<const InstanceColumn> columns, const InstanceList& instances, const CellLevel& level) {
   if (instances.empty()) return;
   Table table;
   for (const InstanceColumn& column : columns) {
-    table.columns.push_back({std::string(column.title), column.widest, column.least, column.isState});
+    table.columns.push_back({std::string(column.title), column.widest, column.least});
   }
-  for (const auto& instance : instances) {
-    auto& row = table.rows.emplace_back();
-    for (const InstanceColumn& column : columns) row.push_back(ShownText(*instance, column.property));
+  for (std::size_t row = 0; row < instances.size(); ++row) {
+    auto& cells = table.rows.emplace_back();
+    for (const InstanceColumn& column : columns) {
+      const auto colour = level ? ColourOf(level(row, column.property)) : std::nullopt;
+      if (colour) table.colours[{row, cells.size()}] = *colour;
+      cells.push_back(ShownText(*instances[row], column.property));
+    }
   }
   out << heading << '\n';
   WriteTable(out, layout, table);

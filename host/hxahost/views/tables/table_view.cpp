@@ -67,7 +67,7 @@ void BeginTables(std::ostream& out, const QueryHeader& header) {
 void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   if (header.queryCount > 1) out << "\nQuery " << result.number << " of " << header.queryCount << '\n';
   WriteNothingFound(out, header.layout, result);
-  WriteControllerBlocks(out, header, result.instances);
+  WriteControllerBlocks(out, header, result.instances, BuildMachine(header, result));
   WriteRecordSections(out, header.layout, result.instances);
   WriteRawTextSummary(out, header.layout, result.instances);
   WriteCounts(out, header, result);

@@ -38,8 +38,8 @@ function findingList(model, object) {
 }
 
 function stateBadge(object) {
-  const state = stateText(object) || "not said";
-  return badge(report.model.level(object), isPredicted(object) ? `${state}, PFA ${textOf(object, "PFA")}` : state);
+  const { words, level } = report.model.stateWords(object);
+  return badge(level, words);
 }
 
 function detailParts(model, object) {

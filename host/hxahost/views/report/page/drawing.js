@@ -12,7 +12,7 @@ const kPrintedWidth = 680;
 
 // A box: two lines and a symbol, cut to its size; the whole text stands in the hint and behind the link.
 function box(model, object, at, lines) {
-  const level = model.level(object);
+  const level = object.level;
   const words = [nameOf(object), ...lines.slice(1).filter((line) => line !== "")].join(", ") + ", " + kLevels[level].words;
   const content = draw("svg", { x: at.x, y: at.y, width: kBoxWidth, height: kBoxHeight },
     draw("rect", { class: "body", x: 1, y: 1, width: kBoxWidth - 2, height: kBoxHeight - 2, rx: 4 }),
@@ -24,31 +24,38 @@ function box(model, object, at, lines) {
     draw("title", {}, words), content);
 }
 
+// The state; how many findings there are where one of them is worse, and gives the box its colour.
+function stateLine(model, object) {
+  const state = stateText(object) || "state not said";
+  const isWorse = object.level !== object.stateLevel && !model.isPredicted(object);
+  return isWorse ? `${counted(model.findingsOf(object).length, "finding", "findings")}, ${state}` : state;
+}
+
 function diskLines(model, disk) {
   const members = (model.membersByDisk().get(disk.index) || []).map((object) => memberName(model, object));
-  const state = textOf(disk, "State") || "state not said";
-  return [diskName(disk), isPredicted(disk) ? `PFA ${textOf(disk, "PFA")}, ${state}` : state,
+  const state = stateLine(model, disk);
+  return [diskName(disk), model.isPredicted(disk) ? `PFA ${textOf(disk, "PFA")}, ${state}` : state,
     [...new Set(members)].filter((name) => name !== "").join(", ") || textOf(disk, "DeviceType")];
 }
 
 // An array with a letter stands for the drives on it.
 function memberName(model, object) {
   if (object.class === kArrays) return textOf(object, "Array") === "" ? "" : arrayName(object);
-  const hasLetter = model.arraysOf(object).some((array) => textOf(array, "Array") !== "");
+  const hasLetter = object.groups.some((array) => textOf(array, "Array") !== "");
   return hasLetter ? "" : "Drive " + textOf(object, "LogicalDriveNum");
 }
 
-function logicalDriveLines(drive) {
+function logicalDriveLines(model, drive) {
   const name = textOf(drive, "LogicalDriveName");
   const level = textOf(drive, "RaidLevel");
   const size = textOf(drive, "Size");
   return [`Drive ${textOf(drive, "LogicalDriveNum")}${name === "" ? "" : ": " + name}`,
-    textOf(drive, "LogicalDriveStatus") || "state not said",
+    stateLine(model, drive),
     [level === "" ? "" : "RAID " + level, size].filter((text) => text !== "").join(", ")];
 }
 
-function controllerLines(controller) {
-  return ["Controller " + textOf(controller, "ControllerNum"), textOf(controller, "ControllerStatus") || "state not said", textOf(controller, "ControllerType")];
+function controllerLines(model, controller) {
+  return ["Controller " + textOf(controller, "ControllerNum"), stateLine(model, controller), textOf(controller, "ControllerType")];
 }
 
 function band(width, height, label, ...content) {
@@ -70,7 +77,7 @@ function bandsOfBoxes(model, label, objects, linesOf, width) {
   for (let first = 0; first < objects.length; first += columns * kRowsInBand) {
     const part = objects.slice(first, first + columns * kRowsInBand);
     const height = Math.ceil(part.length / columns) * (kBoxHeight + kGap);
-    bands.push(band(width, height, label, ...part.map((object, index) => box(model, object, placed(index, columns, 0), linesOf(object)))));
+    bands.push(band(width, height, label, ...part.map((object, index) => box(model, object, placed(index, columns, 0), linesOf(model, object)))));
   }
   return bands;
 }
@@ -95,7 +102,7 @@ function arrayBand(model, array, width) {
     draw("text", { class: "first", x: inside, y: 17 }, cut(`${frameName(array)}, ${disks}`, kTitleLength * columns + 3)));
   const boxes = drives.map((drive, index) => {
     const at = placed(index, columns, kHeadHeight);
-    return box(model, drive, { x: at.x + inside, y: at.y }, logicalDriveLines(drive));
+    return box(model, drive, { x: at.x + inside, y: at.y }, logicalDriveLines(model, drive));
   });
   return band(size.width, size.height, label, head, ...boxes);
 }
@@ -106,13 +113,13 @@ function bandGroup(title, bands, className) {
 
 function byChannel(disks) {
   const channels = new Map();
-  for (const disk of disks) listOf(channels, channelOf(disk)).push(disk);
+  for (const disk of disks) listOf(channels, disk.channel).push(disk);
   return [...channels].sort(([one], [other]) => (one === "") - (other === "") || compareTexts(one, other));
 }
 
 function logicalGroups(model, owner, width) {
   const arrays = model.ownedBy(owner, kArrays);
-  const alone = model.ownedBy(owner, kLogicalDrives).filter((drive) => model.arraysOf(drive).length === 0);
+  const alone = model.ownedBy(owner, kLogicalDrives).filter((drive) => drive.groups.length === 0);
   const groups = [];
   if (arrays.length > 0) groups.push(bandGroup("Arrays", arrays.map((array) => arrayBand(model, array, width)), "band-group"));
   if (alone.length > 0) {
@@ -124,11 +131,10 @@ function logicalGroups(model, owner, width) {
 
 function diskGroups(model, owner, width) {
   return byChannel(model.ownedBy(owner, kDisks)).map(([channel, disks]) => {
-    const inOrder = disks.map((disk) => [disk, position(disk)])
-      .sort((one, other) => compareTexts(one[1], other[1]) || one[0].index - other[0].index).map(([disk]) => disk);
+    const inOrder = [...disks].sort((one, other) => compareTexts(one.id, other.id) || one.index - other.index);
     const title = channel === "" ? "Channel not said" : "Channel " + channel;
     return bandGroup(`${title}: ${counted(disks.length, "device", "devices")}`,
-      bandsOfBoxes(model, title, inOrder, (disk) => diskLines(model, disk), width), "band-group");
+      bandsOfBoxes(model, title, inOrder, diskLines, width), "band-group");
   });
 }
 

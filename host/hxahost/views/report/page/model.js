@@ -1,4 +1,5 @@
-// What the query published, as objects that know each other. Identity comes from properties and associations.
+// What the query published, as objects that know each other: by what the program says of the machine's objects, and by
+// associations.
 
 const kControllers = "KVRSG_zxSCSIProtocolController";
 const kLogicalDrives = "KVRSG_zxLogicalDisk";
@@ -21,46 +22,35 @@ function listOf(map, key) {
 }
 
 class Model {
-  constructor(query, findings, owners) {
+  constructor(query, data) {
     this.objects = query.instances.map((instance, index) => ({ index, ...instance }));
-    this.findings = findings;
+    this.findings = data.findings;
     this.findingsByObject = new Map();
-    for (const finding of findings) listOf(this.findingsByObject, finding.instance).push(finding);
+    for (const finding of this.findings) listOf(this.findingsByObject, finding.instance).push(finding);
     this.byClass = new Map();
     this.byPath = new Map();
     for (const object of this.objects) {
       listOf(this.byClass, object.class).push(object);
       listOf(this.byPath, object.path).push(object);
     }
-    for (const object of this.devices()) object.owner = "Controller " + printable(owners[object.index]);
-    this.owners = this.findOwners();
-    this.places = this.findPlaces();
+    this.owners = new Map();
+    this.users = new Map();
+    for (const each of data.objects) this.addObject(each);
     this.links = this.findLinks();
+  }
+
+  // Adds what the program says of an object; the owners keep their objects by class.
+  addObject({ instance, owner, level, stateLevel, groups = [], devices = [], channel = "", id = "" }) {
+    const object = Object.assign(this.objects[instance], { level, stateLevel, owner: "Controller " + printable(owner),
+      groups: groups.map((index) => this.objects[index]), devices: devices.map((index) => this.objects[index]),
+      channel: printable(channel), id: printable(id) });
+    if (!this.owners.has(object.owner)) this.owners.set(object.owner, new Map());
+    listOf(this.owners.get(object.owner), object.class).push(object);
+    for (const group of object.groups) listOf(this.users, group.index).push(object);
   }
 
   all(className) {
     return this.byClass.get(className) || [];
-  }
-
-  devices() {
-    return kDeviceClasses.flatMap((className) => this.all(className));
-  }
-
-  // Objects by the controller that owns them, then by class; controllers in the order in which they are met.
-  findOwners() {
-    const owners = new Map();
-    for (const object of this.devices()) {
-      if (!owners.has(object.owner)) owners.set(object.owner, new Map());
-      listOf(owners.get(object.owner), object.class).push(object);
-    }
-    return owners;
-  }
-
-  // Disks by owner and position.
-  findPlaces() {
-    const places = new Map();
-    for (const disk of this.all(kDisks)) listOf(places, disk.owner + "/" + position(disk)).push(disk);
-    return places;
   }
 
   // What associations link, by the index of the object at either end.
@@ -81,27 +71,17 @@ class Model {
     return links;
   }
 
-  disksAt(owner, positions) {
-    return positions.flatMap((place) => this.places.get(owner + "/" + place) || []);
-  }
-
-  logicalDrivesOf(array) {
-    return this.ownedBy(array.owner, kLogicalDrives).filter((drive) => isBuiltOn(drive, array));
-  }
-
   ownedBy(owner, className) {
     const classes = this.owners.get(owner);
     return (classes && classes.get(className)) || [];
   }
 
-  arraysOf(drive) {
-    return this.ownedBy(drive.owner, kArrays).filter((array) => isBuiltOn(drive, array));
+  logicalDrivesOf(array) {
+    return this.users.get(array.index) || [];
   }
 
   disksOf(object) {
-    const lists = [object, ...(object.class === kLogicalDrives ? this.arraysOf(object) : [])];
-    const found = lists.flatMap((each) => this.disksAt(each.owner, namedPositions(each)));
-    return [...new Set(found)];
+    return [...new Set([object, ...object.groups].flatMap((each) => each.devices))];
   }
 
   // The arrays and logical drives by disk, found once: a machine has thousands of disks.
@@ -123,7 +103,7 @@ class Model {
     const found = new Set((this.links.get(object.index) || []).filter(isOwned));
     const add = (objects) => objects.forEach((each) => found.add(each));
     if (object.class === kArrays) add([...this.logicalDrivesOf(object), ...this.disksOf(object)]);
-    if (object.class === kLogicalDrives) add([...this.arraysOf(object), ...this.disksOf(object)]);
+    if (object.class === kLogicalDrives) add([...object.groups, ...this.disksOf(object)]);
     if (object.class === kDisks) add([...(this.membersByDisk().get(object.index) || []), ...this.statisticsOf(object)]);
     if (object.class === kControllers) {
       for (const className of kDeviceClasses) add(this.ownedBy(object.owner, className));
@@ -144,51 +124,21 @@ class Model {
     return this.findingsByObject.get(object.index) || [];
   }
 
-  // The level of what the tool printed, or of the worst finding about it.
-  level(object) {
-    const levels = this.findingsOf(object).map((finding) => levelOfSeverity(finding.severity));
-    levels.push(stateText(object) === "" ? "unsaid" : levelOfWord(stateText(object)));
-    if (isPredicted(object)) levels.push("warn");
-    return kWorstFirst.find((level) => levels.includes(level));
+  // A disk that predicts its failure is not fine, whatever its state.
+  isPredicted(object) {
+    return this.findingsOf(object).some((finding) => finding.property === "PFA");
+  }
+
+  // What the state and, of a disk, its prediction come to.
+  stateWords(object) {
+    const state = stateText(object) || "not said";
+    return this.isPredicted(object) ? { words: `${state}, PFA ${textOf(object, "PFA")}`, level: object.level }
+      : { words: state, level: object.stateLevel };
   }
 }
 
 function textOf(object, property) {
   return valueText(object.properties[property]);
-}
-
-// "channel,ID": the tools name places so in stripe orders and drive lists.
-function position(disk) {
-  const [reportedChannel, reportedId] = (textOf(disk, "ReportedChannel") + ",").split(",");
-  const channel = textOf(disk, "Channel") || reportedChannel.trim();
-  const id = textOf(disk, "ScsiId") || (reportedId || "").trim();
-  return channel + "," + id;
-}
-
-function channelOf(disk) {
-  return position(disk).split(",")[0];
-}
-
-function idOf(disk) {
-  return position(disk).split(",")[1];
-}
-
-function positionsIn(text) {
-  return text.match(/\d+,\d+/g) || [];
-}
-
-function namedPositions(object) {
-  return positionsIn(textOf(object, "StripeOrder") + " " + textOf(object, "DriveList"));
-}
-
-// Arrays with a letter are named by their drives. Those without one carry their drive's number in the identifier:
-// "ZentraxisCntrlr4LogicalDrv2 0,2 0,3".
-function isBuiltOn(drive, array) {
-  if (textOf(drive, "ControllerNum") !== textOf(array, "ControllerNum")) return false;
-  const letter = textOf(array, "Array");
-  if (letter !== "") return textOf(drive, "PartOfArray") === letter;
-  const place = "Cntrlr" + textOf(array, "ControllerNum") + "LogicalDrv" + textOf(drive, "LogicalDriveNum");
-  return textOf(array, "CollectionID").split(" ")[0].endsWith(place);
 }
 
 const kStateProperties = {
@@ -202,10 +152,6 @@ function stateText(object) {
   return property ? textOf(object, property) : "";
 }
 
-function isPredicted(object) {
-  return object.class === kDisks && /^(yes|[1-9])/i.test(textOf(object, "PFA"));
-}
-
 // An array has a letter, or stands for one logical drive, whose number ends the identifier's first word.
 function arrayName(array) {
   const letter = textOf(array, "Array");
@@ -215,8 +161,7 @@ function arrayName(array) {
 }
 
 function diskName(disk) {
-  const id = idOf(disk);
-  if (id !== "") return "ID " + id;
+  if (disk.id !== "") return "ID " + disk.id;
   const number = textOf(disk, "DeviceNumber");
   return number === "" ? "Position not said" : /^\d+$/.test(number) ? "Device " + number : number;
 }
@@ -227,7 +172,7 @@ function nameOf(object) {
     case kControllers: return object.owner;
     case kLogicalDrives: return `${object.owner}, logical drive ${textOf(object, "LogicalDriveNum")}`;
     case kArrays: return `${object.owner}, ${arrayName(object)}`;
-    case kDisks: return `${object.owner}, channel ${channelOf(object) || "not said"}, ${diskName(object)}`;
+    case kDisks: return `${object.owner}, channel ${object.channel || "not said"}, ${diskName(object)}`;
     default: return keyText(object) || object.class;
   }
 }

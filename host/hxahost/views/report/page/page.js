@@ -9,7 +9,7 @@ function readData(id) {
 // Health: the findings of the program's rules, then the state words as the tools printed them.
 
 function findingBadge(finding) {
-  return badge(levelOfSeverity(finding.severity), printable(String(finding.severity)));
+  return badge(finding.severity, finding.severity);
 }
 
 function findingWords(finding) {
@@ -20,7 +20,7 @@ function findingWords(finding) {
 const kMostFindings = 50;
 
 function severityCell(finding) {
-  const rank = kWorstFirst.indexOf(levelOfSeverity(finding.severity));
+  const rank = kWorstFirst.indexOf(finding.severity);
   return { text: finding.severity, sortText: String(rank), node: () => findingBadge(finding) };
 }
 
@@ -35,8 +35,8 @@ function subjectCell(finding) {
 }
 
 function tallyOf(findings) {
-  const severities = [...kSeverities.keys()].filter((severity) => findings.some((finding) => finding.severity === severity));
-  return severities.map((severity) => badge(levelOfSeverity(severity),
+  const severities = kWorstFirst.filter((severity) => findings.some((finding) => finding.severity === severity));
+  return severities.map((severity) => badge(severity,
     `${findings.filter((finding) => finding.severity === severity).length.toLocaleString("en-US")} ${severity}`));
 }
 
@@ -60,7 +60,7 @@ function findingLimits(data) {
 function findingSection(findings, data) {
   const isWhole = data.unjudged.length === 0;
   const verdict = findings.length > 0 ? tallyOf(findings)
-    : [isWhole ? badge("good", "Nothing needs attention") : badge("unsaid", "No finding in what was asked for")];
+    : [isWhole ? badge("ok", "Nothing needs attention") : badge("unsaid", "No finding in what was asked for")];
   return make("div", { id: "findings" }, make("p", { class: "verdict" }, ...verdict.flatMap((each) => [each, " "])),
     ...findingLimits(data), ...(findings.length > 0 ? [findingTable(findings)] : []));
 }
@@ -70,8 +70,9 @@ const kKinds = { [kControllers]: "Controllers", [kLogicalDrives]: "Logical drive
 function stateCounts(model, className) {
   const counts = new Map();
   for (const object of model.all(className)) {
-    const key = [stateText(object) || "not said", ...(isPredicted(object) ? ["PFA " + textOf(object, "PFA")] : [])].join(", ");
-    const entry = counts.get(key) || { words: key, level: model.level(object), count: 0 };
+    const { words, level } = model.stateWords(object);
+    const key = level + " " + words;
+    const entry = counts.get(key) || { words, level, count: 0 };
     entry.count += 1;
     counts.set(key, entry);
   }
@@ -209,7 +210,7 @@ function start() {
   report.data = readData("report-data");
   const query = json.queries[json.queries.length - 1];
   writeHead(json, report.data);
-  report.model = new Model(query, report.data.findings, report.data.owners);
+  report.model = new Model(query, report.data);
   for (const section of sectionList(report.model, query, report.data)) addSection(section);
   if (report.drawing) setUpDrawing(report.drawing);
   setUpDetails(report.model);

@@ -1,18 +1,21 @@
 // The events of all logs that have a time, in one order, and beside them the logs that have none.
 
 const kBins = 120;
-// A map: what a log says, "__proto__" for one, must not find anything but these.
-const kEventLevels = new Map([["ERR", "bad"], ["FAT", "bad"], ["CRI", "bad"], ["WRN", "warn"], ["INF", "idle"]]);
 
 function dddEvent(object) {
   const place = `Channel ${textOf(object, "Channel")}, ID ${textOf(object, "ID")}`;
-  return { object, log: "Defunct drives", number: textOf(object, "Controller"), severity: "", level: "bad",
+  return { object, log: "Defunct drives", number: textOf(object, "Controller"), severity: "", level: "critical",
     text: `${place}, reason ${textOf(object, "Reason")}: ${textOf(object, "Descrip")}` };
+}
+
+// What a log says, "__proto__" for one, must find nothing but the levels that there are.
+function levelOfEvent(severity) {
+  return Object.hasOwn(report.data.eventLevels, severity) ? report.data.eventLevels[severity] : "unknown";
 }
 
 function managerEvent(object) {
   const severity = textOf(object, "Severity");
-  return { object, log: "RAID manager", number: "", severity, level: kEventLevels.get(severity) || "unknown",
+  return { object, log: "RAID manager", number: "", severity, level: levelOfEvent(severity),
     text: textOf(object, "Message"), machine: textOf(object, "MachineName") };
 }
 

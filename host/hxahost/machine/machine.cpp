@@ -1,0 +1,175 @@
+#include "host/hxahost/machine/machine.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <system_error>
+#include <unordered_map>
+#include <utility>
+
+#include "host/hxahost/machine/device_names.h"
+#include "host/hxahost/machine/device_owners.h"
+#include "host/hxahost/machine/health.h"
+#include "host/hxahost/machine/members.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/schema/class_names.h"
+
+using NKVRHXA20::TPublishedInstance;
+
+namespace hxahost {
+
+namespace {
+
+// "0,7" reports the place of a device in one property.
+void SetPlace(Device& device, const TPublishedInstance& instance) {
+  const std::string reported = RawText(instance, "ReportedChannel");
+  const std::size_t comma = std::min(reported.find(','), reported.size());
+  device.channel = RawText(instance, "Channel");
+  device.id = RawText(instance, "ScsiId");
+  if (device.channel.empty()) device.channel = reported.substr(0, comma);
+  if (device.id.empty()) device.id = reported.substr(std::min(comma + 1, reported.size()));
+}
+
+void Describe(ControllerUnit& unit, const TPublishedInstance& instance) {
+  unit.model = RawText(instance, "ControllerType");
+  const std::string battery = RawText(instance, kBattery.property);
+  unit.battery = {
+      {kBattery.property, battery, JudgeText(kBattery, battery).level},
+      RawText(instance, "ControllerBatteryOverTemp"),
+      RawText(instance, "ControllerBatteryCapacity"),
+      RawText(instance, "BatteryTimeRemaining"),
+  };
+  unit.operation = {
+      RawText(instance, "Current_MostRecentOperation"),
+      RawText(instance, "Logical_Drive"),
+      RawText(instance, "LastCmdStatus"),
+      RawText(instance, "LogicalDriveSizeInStripes"),
+      RawText(instance, "NumberOfRemainingStripes"),
+  };
+}
+
+void Describe(LogicalDrive& drive, const TPublishedInstance& instance) {
+  drive.number = RawText(instance, "LogicalDriveNum");
+}
+
+void Describe(DiskGroup&, const TPublishedInstance&) {}
+
+void Describe(Device& device, const TPublishedInstance& instance) {
+  SetPlace(device, instance);
+  device.location = LocationOf(instance, device.channel, device.id);
+  device.type = RawText(instance, "DeviceType");
+  device.vendor = RawText(instance, "Vendor");
+  device.model = RawText(instance, "Model");
+  device.serialNumber = RawText(instance, "DeviceSerialNum");
+  device.fru = RawText(instance, "FRU");
+  device.firmware = RawText(instance, "Firmware");
+  device.size = RawText(instance, "Size");
+  device.bytes = ReadBytes(device.size);
+}
+
+// Adds the instances of a class to the list of their controllers, which are made where they are met first.
+class Sorter {
+ public:
+  explicit Sorter(const InstanceList& instances) : instances_(instances), owners_(DeviceOwners(instances)) {}
+
+  template <class Kind>
+  void Add(std::string_view className, std::vector<Kind> Controller::*list, std::string_view stateProperty) {
+    for (std::size_t place = 0; place < instances_.size(); ++place) {
+      const TPublishedInstance& instance = *instances_[place];
+      if (instance.Class().name != className) continue;
+      Kind& object = (ControllerOf(owners_[place]).*list).emplace_back();
+      object.instance = place;
+      object.identifier = IdentifierOf(instance);
+      object.name = NameOf(instance, owners_[place].label);
+      object.state = {stateProperty, RawText(instance, stateProperty)};
+      Describe(object, instance);
+    }
+  }
+
+  std::vector<Controller> Take() { return std::move(controllers_); }
+
+ private:
+  Controller& ControllerOf(const DeviceOwner& owner) {
+    const auto [place, isNew] = places_.emplace(owner.label, controllers_.size());
+    if (isNew) controllers_.push_back({owner.number, owner.label, owner.tool, {}, {}, {}, {}});
+    return controllers_[place->second];
+  }
+
+  const InstanceList& instances_;
+  std::vector<DeviceOwner> owners_;
+  std::vector<Controller> controllers_;
+  std::unordered_map<std::string, std::size_t> places_;
+};
+
+std::vector<Controller> Controllers(const InstanceList& instances) {
+  Sorter sorter(instances);
+  sorter.Add(kControllerClass, &Controller::units, kStatus.property);
+  sorter.Add(kLogicalDiskClass, &Controller::logicalDrives, kDriveState.property);
+  sorter.Add(kDiskGroupClass, &Controller::groups, {});
+  sorter.Add(kDiskDriveClass, &Controller::devices, kDiskState.property);
+  return sorter.Take();
+}
+
+template <class Kind>
+std::vector<const Object*> Pointers(const std::vector<Kind>& objects) {
+  std::vector<const Object*> pointers;
+  for (const Kind& object : objects) pointers.push_back(&object);
+  return pointers;
+}
+
+}  // namespace
+
+Machine BuildMachine(const QueryHeader& header, const QueryResult& result) {
+  Machine machine;
+  machine.controllers = Controllers(result.instances);
+  for (Controller& controller : machine.controllers) FindMembers(controller, result.instances);
+  Judge(machine, header, result);
+  return machine;
+}
+
+std::vector<const Object*> ObjectsOf(const Controller& controller, std::string_view className) {
+  if (className == kControllerClass) return Pointers(controller.units);
+  if (className == kLogicalDiskClass) return Pointers(controller.logicalDrives);
+  return className == kDiskGroupClass ? Pointers(controller.groups) : Pointers(controller.devices);
+}
+
+std::size_t CountOf(const Machine& machine, std::string_view className) {
+  std::size_t count = 0;
+  for (const Controller& controller : machine.controllers) count += ObjectsOf(controller, className).size();
+  return count;
+}
+
+Level LevelOf(const Machine& machine, const Object& object, std::string_view property) {
+  for (const std::size_t place : object.findings) {
+    if (machine.findings[place].property == property) return LevelOf(machine.findings[place].severity);
+  }
+  return property == object.state.property ? object.state.level : Level::kUnsaid;
+}
+
+std::optional<std::uint64_t> ReadBytes(std::string_view size) {
+  struct Unit {
+    std::string_view name;
+    double bytes;
+  };
+  constexpr double kKilo = 1024.0;
+  constexpr Unit kUnits[] = {
+      {"",   kKilo * kKilo                },
+      {"MB", kKilo * kKilo                },
+      {"GB", kKilo * kKilo * kKilo        },
+      {"TB", kKilo * kKilo * kKilo * kKilo},
+  };
+  constexpr double kSector = 512.0;
+  const std::size_t slash = size.find('/');
+  if (slash != size.npos) size.remove_prefix(slash + 1);
+  double number = 0;
+  const auto [stop, error] = std::from_chars(size.data(), size.data() + size.size(), number, std::chars_format::fixed);
+  size.remove_prefix(static_cast<std::size_t>(stop - size.data()));
+  size.remove_prefix(std::min(size.find_first_not_of(' '), size.size()));
+  const auto* const unit = std::ranges::find(kUnits, size, &Unit::name);
+  if (error != std::errc() || unit == std::end(kUnits) || (slash != size.npos && !size.empty())) return std::nullopt;
+  const double bytes = number * (slash == size.npos ? unit->bytes : kSector);
+  if (!(bytes >= 0 && bytes < 1e18)) return std::nullopt;  // an infinite one, too
+  return static_cast<std::uint64_t>(bytes);
+}
+
+}  // namespace hxahost

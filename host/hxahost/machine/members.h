@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/hxahost/machine/machine.h"
+
+// Which disks make up a disk group or a logical drive.
+namespace hxahost {
+
+// Fills in the members of the controller's groups and logical drives.
+void FindMembers(Controller& controller, const InstanceList& instances);
+
+// The devices of a logical drive, as places in the controller's list: those that its own lists name and those of the
+// groups that it is built on; one may come twice.
+std::vector<std::size_t> DevicesOf(const Controller& controller, const LogicalDrive& drive);
+
+// The pairs "0,7" (channel and number) in a list of disks, whatever is around them.
+std::vector<std::string> PlacesIn(const std::string& text);
+
+// "Cntrlr4LogicalDrv2" ties a group without a letter to its logical drive: it is part of the group's identifier,
+// "ZentraxisCntrlr4LogicalDrv2 0,2 0,3".
+std::string DriveKey(const std::string& controller, const std::string& drive);
+std::string DriveKeyOf(const NKVRHXA20::TPublishedInstance& group);
+
+}  // namespace hxahost

@@ -1,0 +1,296 @@
+#include "host/hxahost/machine/machine.h"
+
+#include <algorithm>
+#include <sstream>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "host/hxahost/machine/members.h"
+#include "host/hxahost/views/monitoring/health_report.h"
+#include "host/hxahost/views/report/report_data.h"
+#include "host/hxahost/views/tables/table_view.h"
+#include "tests/support/healthy_machine.h"
+
+namespace {
+
+using namespace hxahost;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
+constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
+constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
+
+using Properties = std::vector<std::pair<std::string, NKVRHXA20::TCIMValue>>;
+
+Machine Built(const HealthyMachine& machine) { return BuildMachine(machine.Header(), machine.Result()); }
+
+// The only device of a machine that has these properties.
+Device DeviceOf(const Properties& properties) {
+  FilledRepository repository;
+  repository.Publish(kDiskDrive, properties);
+  return BuildMachine({}, {2, repository.Instances(), {}}).controllers.at(0).devices.at(0);
+}
+
+TEST(Machine, HasItsControllersWithWhatBelongsToThem) {
+  const Machine machine = Built(HealthyMachine());
+  ASSERT_EQ(machine.controllers.size(), 2U);
+  const Controller& controller = machine.controllers[1];
+  EXPECT_EQ(controller.number, "2");
+  EXPECT_EQ(controller.label, "2");
+  EXPECT_EQ(controller.tool, "arcconf");
+  ASSERT_EQ(controller.units.size(), 1U);
+  EXPECT_EQ(controller.units[0].name, "controller 2 (Zentraxis C5)");
+  EXPECT_EQ(controller.units[0].battery.state.text, "Optimal");
+  EXPECT_EQ(controller.units[0].battery.state.level, Level::kFine);
+  ASSERT_EQ(controller.logicalDrives.size(), 1U);
+  EXPECT_THAT(controller.logicalDrives[0].groups, ElementsAre(0));
+  EXPECT_THAT(controller.logicalDrives[0].devices, ElementsAre(0, 1));
+  ASSERT_EQ(controller.groups.size(), 1U);
+  EXPECT_THAT(controller.groups[0].devices, ElementsAre(0, 1));
+  EXPECT_EQ(controller.devices.size(), 5U);
+  EXPECT_EQ(CountOf(machine, kDiskDrive), 9U);
+  EXPECT_THAT(machine.findings, IsEmpty());
+}
+
+TEST(Machine, KnowsTheDisksOfADriveByTheLetterOfItsArray) {
+  const Machine machine = Built(HealthyMachine());
+  const Controller& controller = machine.controllers[0];
+  EXPECT_THAT(controller.logicalDrives[0].groups, ElementsAre(0));
+  EXPECT_THAT(controller.logicalDrives[0].devices, IsEmpty()) << "it names none itself";
+  EXPECT_THAT(DevicesOf(controller, controller.logicalDrives[0]), ElementsAre(0, 1));
+}
+
+TEST(Machine, KeepsApartWhatTwoToolsDescribeUnderOneNumber) {
+  FilledRepository repository;
+  for (const Properties& sign : {Properties{{"PartOfArray", "A"}}, Properties{{"NumOfChunks", "2"}}}) {
+    Properties drive = {
+        {"ControllerNum", "3"  },
+        {"DriveList",     "0,1"}
+    };
+    drive.insert(drive.end(), sign.begin(), sign.end());
+    repository.Publish(kLogicalDisk, drive);
+  }
+  repository.Publish(kDiskDrive, {
+                                     {"ControllerNum",   "3"  },
+                                     {"DeviceNumber",    "4"  },
+                                     {"ReportedChannel", "0,1"}
+  });
+  const Machine machine = BuildMachine({}, {2, repository.Instances(), {}});
+  ASSERT_EQ(machine.controllers.size(), 2U);
+  EXPECT_EQ(machine.controllers[0].label, "3 (qcmdrun)");
+  EXPECT_THAT(machine.controllers[0].logicalDrives[0].devices, IsEmpty());
+  EXPECT_EQ(machine.controllers[1].label, "3 (hrconf_64)");
+  EXPECT_THAT(machine.controllers[1].logicalDrives[0].devices, ElementsAre(0));
+  EXPECT_THAT(machine.controllers[1].units, IsEmpty());
+}
+
+TEST(Machine, DescribesADevice) {
+  const Device device = DeviceOf({
+      {"ControllerNum",    "4"                  },
+      {"Channel",          "0"                  },
+      {"ScsiId",           "8"                  },
+      {"DeviceType",       "Hard drive"         },
+      {"Vendor",           "NORDVIK"            },
+      {"Model",            " NV73-15SAS\r\n"    },
+      {"DeviceSerialNum",  "NV3LE77Q2H"         },
+      {"FRU",              "ZX20912"            },
+      {"Firmware",         "BA31"               },
+      {"Size",             "70007 MB"           },
+      {"ReportedLocation", "Enclosure 0, Slot 8"}
+  });
+  EXPECT_EQ(device.name, "Hard drive at channel 0, ID 8 of controller 4");
+  EXPECT_EQ(device.location, "enclosure 0, slot 8");
+  EXPECT_THAT(
+      (std::vector{device.channel, device.id, device.type, device.vendor, device.model, device.serialNumber, device.fru,
+                   device.firmware, device.size}),
+      ElementsAre("0", "8", "Hard drive", "NORDVIK", "NV73-15SAS", "NV3LE77Q2H", "ZX20912", "BA31", "70007 MB"));
+  EXPECT_EQ(device.bytes, 70007ULL * 1024 * 1024);
+}
+
+TEST(Machine, LocatesADeviceByWhatThereIs) {
+  EXPECT_EQ(DeviceOf({
+                         {"Channel", "2"},
+                         {"ScsiId",  "4"}
+  })
+                .location,
+            "channel 2, ID 4");
+  EXPECT_EQ(DeviceOf({
+                         {"Channel",         "0"  },
+                         {"ReportedChannel", "0,7"}
+  })
+                .location,
+            "channel 0, ID 7");
+  EXPECT_EQ(DeviceOf({
+                         {"DeviceNumber", "Device #4"}
+  })
+                .location,
+            "device 4");
+  EXPECT_EQ(DeviceOf({
+                         {"DeviceType", "Tape drive"}
+  })
+                .location,
+            "");
+}
+
+TEST(Machine, KnowsWhatAControllerIsDoing) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxSCSIProtocolController", {
+                                                           {"Current_MostRecentOperation", "Rebuild"    },
+                                                           {"Logical_Drive",               "3"          },
+                                                           {"LastCmdStatus",               "In progress"},
+                                                           {"LogicalDriveSizeInStripes",   "4442880"    },
+                                                           {"NumberOfRemainingStripes",    "1466150"    }
+  });
+  const Operation operation = BuildMachine({}, {2, repository.Instances(), {}}).controllers.at(0).units.at(0).operation;
+  EXPECT_THAT((std::vector{operation.name, operation.logicalDrive, operation.status, operation.stripes,
+                           operation.stripesRemaining}),
+              ElementsAre("Rebuild", "3", "In progress", "4442880", "1466150"));
+}
+
+TEST(Machine, ReadsSizes) {
+  EXPECT_EQ(ReadBytes("34715/71096320"), 71096320ULL * 512);
+  EXPECT_EQ(ReadBytes("40960"), 40960ULL << 20);
+  EXPECT_EQ(ReadBytes("70007 MB"), 70007ULL << 20);
+  EXPECT_EQ(ReadBytes("1.5 GB"), 3ULL << 29);
+  EXPECT_EQ(ReadBytes("2TB"), 2ULL << 40);
+  for (const char* const text : {"", "MB", "-1", "inf", "1e300", "12 parsecs", "1/2 MB", "1/", "9e18"}) {
+    EXPECT_EQ(ReadBytes(text), std::nullopt) << text;
+  }
+}
+
+// Controller 1: array A is not guarded, B is. Controller 2: drive 1 is not guarded, drive 2 is.
+Level LevelOfRebuild(const Properties& disk) {
+  FilledRepository repository;
+  const auto drive = [&](const char* controller, const char* state, const char* property, const char* members) {
+    repository.Publish(kLogicalDisk,
+                       {
+                           {"ControllerNum",      controller},
+                           {"LogicalDriveStatus", state     },
+                           {property,             members   }
+    });
+  };
+  const auto array = [&](const char* letter, const char* order) {
+    repository.Publish(kDiskGroup, {
+                                       {"Array",         letter},
+                                       {"ControllerNum", "1"   },
+                                       {"StripeOrder",   order }
+    });
+  };
+  drive("1", "Critical (CRT)", "PartOfArray", "A");
+  drive("1", "Okay (OKY)", "PartOfArray", "B");
+  drive("2", "Degraded", "DriveList", " 0,1 0,2\r\n");
+  drive("2", "Optimal", "DriveList", "0,3 0,11");
+  array("A", "1,0 1,1");
+  array("B", "1,10");
+  Properties properties = disk;
+  properties.emplace_back("State", "Rebuild (RBL)");
+  repository.Publish(kDiskDrive, properties);
+  const Machine machine = BuildMachine({}, {2, repository.Instances(), {}});
+  const auto has = std::ranges::find_if(machine.controllers, [](const auto& each) { return !each.devices.empty(); });
+  return has->devices.front().state.level;
+}
+
+TEST(Machine, WarnsOfARebuildOnDrivesThatAreNotGuarded) {
+  struct Case {
+    const char* name;
+    Properties disk;
+    Level level;
+  };
+  const Case cases[] = {
+      {"in the stripe order",      {{"ControllerNum", "1"}, {"Channel", "1"}, {"ScsiId", "1"}},  Level::kWarning},
+      {"in another stripe order",  {{"ControllerNum", "1"}, {"Channel", "1"}, {"ScsiId", "10"}}, Level::kBusy   },
+      {"in the drive list",        {{"ControllerNum", "2"}, {"Channel", "0"}, {"ScsiId", "1"}},  Level::kWarning},
+      {"in another drive list",    {{"ControllerNum", "2"}, {"Channel", "0"}, {"ScsiId", "11"}}, Level::kBusy   },
+      {"its place reported whole", {{"ControllerNum", "2"}, {"ReportedChannel", "0,2"}},         Level::kWarning},
+      {"another, reported whole",  {{"ControllerNum", "2"}, {"ReportedChannel", "0,3"}},         Level::kBusy   },
+      {"in no list",               {{"ControllerNum", "2"}, {"Channel", "0"}, {"ScsiId", "7"}},  Level::kWarning},
+      {"of another controller",    {{"ControllerNum", "3"}, {"Channel", "0"}, {"ScsiId", "1"}},  Level::kBusy   },
+  };
+  for (const Case& each : cases) EXPECT_EQ(LevelOfRebuild(each.disk), each.level) << each.name;
+}
+
+TEST(Machine, GivesAnObjectItsFindingsAndTheWorstLevelOfAll) {
+  HealthyMachine broken;
+  broken.SetOf("C1 CH1 I01:B", "PFA", "Yes");
+  broken.SetOf("Zentraxis2", "DefunctDiskDriveCnt", "1");
+  const Machine machine = Built(broken);
+  const Device& disk = machine.controllers[0].devices[1];
+  EXPECT_EQ(disk.state.level, Level::kFine);
+  EXPECT_EQ(disk.level, Level::kWarning);
+  ASSERT_EQ(disk.findings.size(), 1U);
+  EXPECT_EQ(machine.findings[disk.findings[0]].property, "PFA");
+  EXPECT_EQ(LevelOf(machine, disk, "PFA"), Level::kWarning);
+  EXPECT_EQ(LevelOf(machine, disk, "State"), Level::kFine);
+  EXPECT_EQ(LevelOf(machine, disk, "Model"), Level::kUnsaid);
+  const ControllerUnit& unit = machine.controllers[1].units[0];
+  EXPECT_EQ(unit.state.level, Level::kFine);
+  EXPECT_EQ(unit.level, Level::kCritical);
+}
+
+// One classification: what is critical in one place is critical in every other.
+TEST(Machine, IsJudgedAlikeInTablesReportHealthAndMetrics) {
+  struct Case {
+    const char* identifier;
+    const char* property;
+    const char* text;
+    const char* level;
+    const char* colour;
+    const char* status;
+  };
+  constexpr const char* kDrive = "Zentraxis2LD1";
+  constexpr const char* kDisk = "C2 CH0 I01:Controller: Device #1";
+  const Case cases[] = {
+      {kDrive, "LogicalDriveStatus", "Okay (OKY)",                    "ok",       "\x1b[32m", "0"},
+      {kDrive, "LogicalDriveStatus", "Okay (CRT)",                    "critical", "\x1b[31m", "2"},
+      {kDrive, "LogicalDriveStatus", "Critical (CRT)",                "critical", "\x1b[31m", "2"},
+      {kDrive, "LogicalDriveStatus", "Degraded",                      "critical", "\x1b[31m", "2"},
+      {kDrive, "LogicalDriveStatus", "Blocked (BLK)",                 "critical", "\x1b[31m", "2"},
+      {kDrive, "LogicalDriveStatus", "Impacted",                      "warning",  "\x1b[33m", "1"},
+      {kDrive, "LogicalDriveStatus", "Rebuilding",                    "warning",  "\x1b[33m", "1"},
+      {kDrive, "LogicalDriveStatus", "Migrating",                     "busy",     "\x1b[32m", "0"},
+      {kDisk,  "State",              "Online",                        "ok",       "\x1b[32m", "0"},
+      {kDisk,  "State",              "Available",                     "idle",     "\x1b[32m", "0"},
+      {kDisk,  "State",              "Rebuilding",                    "busy",     "\x1b[32m", "0"},
+      {kDisk,  "State",              "Hot Spare for Logical drive 1", "idle",     "\x1b[32m", "0"},
+      {kDisk,  "State",              "Defunct hot-spare (DHS)",       "warning",  "\x1b[33m", "1"},
+      {kDisk,  "State",              "Ready for removal",             "unknown",  "\x1b[35m", "3"},
+      {kDisk,  "State",              "Online, not responding",        "unknown",  "\x1b[35m", "3"},
+      {kDisk,  "State",              "Failed",                        "critical", "\x1b[31m", "2"},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.text);
+    HealthyMachine machine;
+    machine.SetOf(each.identifier, each.property, each.text);
+    QueryHeader header = machine.Header();
+    header.layout = {200, true};
+    const QueryResult result = machine.Result();
+
+    std::ostringstream tables;
+    WriteQueryTables(tables, header, result);
+    EXPECT_THAT(tables.str(), HasSubstr(std::string(each.colour) + each.text + "\x1b[0m"));
+
+    std::ostringstream report;
+    WriteReportData(report, header, result);
+    const std::string property = each.property;
+    const Machine built = BuildMachine(header, result);
+    const Object& object = property == "State" ? static_cast<const Object&>(built.controllers[1].devices[1])
+                                               : built.controllers[1].logicalDrives[0];
+    const auto objects = nlohmann::json::parse(report.str())["objects"];
+    const auto entry = std::ranges::find_if(
+        objects, [&object](const nlohmann::json& candidate) { return candidate["instance"] == object.instance; });
+    EXPECT_EQ((*entry)["level"], each.level);
+    EXPECT_EQ((*entry)["stateLevel"], each.level);
+
+    EXPECT_EQ(std::to_string(static_cast<int>(WorstOf(built.findings))), each.status);
+    std::ostringstream metrics;
+    WriteHealthMetrics(metrics, {header, result, built, 0});
+    EXPECT_THAT(metrics.str(), HasSubstr(",state=\"" + std::string(each.text) + "\"} " + each.status + "\n"));
+  }
+}
+
+}  // namespace
