@@ -48,24 +48,16 @@ TCIMValue NothingEmptyAndBlank() {
 // What one value becomes, as a property and as a key.
 std::string RawDataWith(const std::string& value) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    value         },
-                                            {"RawResults", Texts({value})},
-  });
+  repository.Publish("KVRSG_zxRawData", "Command", value, "RawResults", Texts({value}));
   return Document(repository);
 }
 
 TEST(CimXmlView, IsADeclarationWithAPathForEachInstance) {
   FilledRepository repository;
-  repository.Publish("KVRSG_LogRecord_SoftEvent", {
-                                                      {"RecordID",         "1"                                      },
-                                                      {"MessageTimestamp", TCIMDateTime("20260305123015.250000-060")},
-                                                      {"HexSoftEvent",     TwoCodes()                               }
-  });
-  repository.Publish("KVRSG_zxFirmwareVersion", {
-                                                    {"Name",                 "Zentraxis1 Firmware"         },
-                                                    {"SoftwareElementState", static_cast<unsigned short>(3)},
-  });
+  repository.Publish("KVRSG_LogRecord_SoftEvent", "RecordID", "1", "MessageTimestamp",
+                     TCIMDateTime("20260305123015.250000-060"), "HexSoftEvent", TwoCodes());
+  repository.Publish("KVRSG_zxFirmwareVersion", "Name", "Zentraxis1 Firmware", "SoftwareElementState",
+                     static_cast<unsigned short>(3));
   EXPECT_EQ(Document(repository), R"(<?xml version="1.0" encoding="utf-8"?>
 <CIM CIMVERSION="2.8" DTDVERSION="2.4">
 <DECLARATION>
@@ -132,12 +124,8 @@ TEST(CimXmlView, IsADeclarationWithAPathForEachInstance) {
 
 TEST(CimXmlView, NestsThePathOfWhatAnAssociationRefersTo) {
   FilledRepository repository;
-  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", {
-                                                                          {"CollectionID", "a\"b\\c"}
-  });
-  repository.Publish("KVRSG_zxStripeOrderForController", {
-                                                             {"Dependent", group}
-  });
+  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
+  repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
   const std::string document = Document(repository);
   EXPECT_THAT(document, HasSubstr(R"(
   <INSTANCENAME CLASSNAME="KVRSG_zxStripeOrderForController">
@@ -161,31 +149,18 @@ TEST(CimXmlView, NestsThePathOfWhatAnAssociationRefersTo) {
 
 TEST(CimXmlView, GivesAReferenceWithoutAClassTheDeclaredOne) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxStripeOrderForController", {
-                                                             {"Dependent", TCIMReference()}
-  });
+  repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", TCIMReference());
   EXPECT_THAT(Document(repository),
               AllOf(HasSubstr("<INSTANCENAME CLASSNAME=\"KVRSG_zxDiskGroup\"/>"), Not(HasSubstr("CLASSNAME=\"\""))));
 }
 
 TEST(CimXmlView, TellsNoValueFromAnEmptyOne) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxDiskGroup", {
-                                              {"CollectionID", ""         },
-                                              {"Array",        TCIMValue()},
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"RawResults", Texts({})},
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"RawResults", NothingEmptyAndBlank()},
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"RawResults", TCIMValue()},
-  });
-  repository.Publish("KVRSG_zxStripeOrderForController", {
-                                                             {"Dependent", TCIMValue()}
-  });
+  repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "", "Array", TCIMValue());
+  repository.Publish("KVRSG_zxRawData", "RawResults", Texts({}));
+  repository.Publish("KVRSG_zxRawData", "RawResults", NothingEmptyAndBlank());
+  repository.Publish("KVRSG_zxRawData", "RawResults", TCIMValue());
+  repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", TCIMValue());
   const std::string document = Document(repository);
   EXPECT_THAT(document, HasSubstr("<PROPERTY NAME=\"CollectionID\" TYPE=\"string\">\n   <VALUE/>\n"));
   EXPECT_THAT(document, HasSubstr("<KEYVALUE VALUETYPE=\"string\" TYPE=\"string\"/>\n"));
@@ -198,18 +173,14 @@ TEST(CimXmlView, TellsNoValueFromAnEmptyOne) {
 
 TEST(CimXmlView, KeepsNamesAsTheyWereSet) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxDiskDrive", {
-                                              {"CreationClassname", "KVRSG_zxDiskDrive"}
-  });
+  repository.Publish("KVRSG_zxDiskDrive", "CreationClassname", "KVRSG_zxDiskDrive");
   EXPECT_THAT(Document(repository), AllOf(HasSubstr("<PROPERTY NAME=\"CreationClassname\""),
                                           HasSubstr("<KEYBINDING NAME=\"CreationClassName\"")));
 }
 
 TEST(CimXmlView, HasAGroupForEachQuery) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxDiskGroup", {
-                                              {"CollectionID", "x"}
-  });
+  repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "x");
   const std::string document = Document({
       QueryResult{1, repository.Instances(), {}},
       QueryResult{2, {},                     {}},
@@ -220,6 +191,7 @@ TEST(CimXmlView, HasAGroupForEachQuery) {
   EXPECT_THAT(document, testing::EndsWith("</DECLGROUP.WITHPATH>\n</DECLARATION>\n</CIM>\n"));
 }
 
+// The hostile texts have what else values can be.
 TEST(CimXmlView, MakesNoMarkupOfAValueAndLosesNothingThatXmlCanHold) {
   struct Case {
     const char* name;
@@ -227,41 +199,26 @@ TEST(CimXmlView, MakesNoMarkupOfAValueAndLosesNothingThatXmlCanHold) {
     std::string expected;
   };
   const Case cases[] = {
-      {"quotes",                  "\"a\" 'b'",                      "&quot;a&quot; &apos;b&apos;"                         },
-      {"backslash",               "C:\\zenx\\",                     "C:\\zenx\\"                                          },
-      {"end of character data",   "]]>",                            "]]&gt;"                                              },
-      {"script",                  "<script>alert(1)</script>",      "&lt;script&gt;alert(1)&lt;/script&gt;"               },
-      {"comment and instruction", "<!-- --><?php ?>",               "&lt;!-- --&gt;&lt;?php ?&gt;"                        },
-      {"references",              "&amp;&#13;&x;",                  "&amp;amp;&amp;#13;&amp;x;"                           },
-      {"entity",                  "<!DOCTYPE a [<!ENTITY b 'c'>]>", "&lt;!DOCTYPE a [&lt;!ENTITY b &apos;c&apos;&gt;]&gt;"},
-      {"semicolon",               "a; b;",                          "a; b;"                                               },
-      {"line ends",               "a\r\nb\rc\nd\te",                "a&#13;\nb&#13;c\nd\te"                               },
-      {"blanks at the ends",      "  a  ",                          "  a  "                                               },
-      {"blanks alone",            "   ",                            "&#32;  "                                             },
-      {"UTF-8",                   "K\xc3\xa4se \xf0\x9f\x92\xbe",   "K\xc3\xa4se \xf0\x9f\x92\xbe"                        },
-      {"ISO 8859-1",              "K\xe4se\xff",                    "K\xc3\xa4se\xc3\xbf"                                 },
-      {"control",                 "\x1b[2J\x07",                    "\xe2\x90\x9b[2J\xe2\x90\x87"                         },
-      {"NUL",                     "a\0b"s,                          "a\xe2\x90\x80" + "b"s                                },
-      {"DEL and C1",              "\x7f \xc2\x9b",                  "&#127; &#155;"                                       },
-      {"turns the text around",   "a\xe2\x80\xae.",                 "a&#8238;."                                           },
-      {"no characters",           "\xef\xbf\xbe \xef\xbf\xbf",      "\xef\xbf\xbd \xef\xbf\xbd"                           },
-      {"surrogate",               "\xed\xa0\x80",                   "\xc3\xad\xc2\xa0&#128;"                              },
-      {"format",                  "%s%n@QUERY_DATA@",               "%s%n@QUERY_DATA@"                                    },
+      {"quotes",                "\"a\" 'b'",                    "&quot;a&quot; &apos;b&apos;" },
+      {"end of character data", "]]>",                          "]]&gt;"                      },
+      {"references",            "&amp;&#13;&x;",                "&amp;amp;&amp;#13;&amp;x;"   },
+      {"line ends",             "a\r\nb\rc\nd\te",              "a&#13;\nb&#13;c\nd\te"       },
+      {"blanks at the ends",    "  a  ",                        "  a  "                       },
+      {"blanks alone",          "   ",                          "&#32;  "                     },
+      {"UTF-8",                 "K\xc3\xa4se \xf0\x9f\x92\xbe", "K\xc3\xa4se \xf0\x9f\x92\xbe"},
+      {"ISO 8859-1",            "K\xe4se\xff",                  "K\xc3\xa4se\xc3\xbf"         },
+      {"control",               "\x1b[2J\x07",                  "\xe2\x90\x9b[2J\xe2\x90\x87" },
+      {"NUL",                   "a\0b"s,                        "a\xe2\x90\x80" + "b"s        },
+      {"DEL and C1",            "\x7f \xc2\x9b",                "&#127; &#155;"               },
+      {"turns the text around", "a\xe2\x80\xae.",               "a&#8238;."                   },
+      {"no characters",         "\xef\xbf\xbe \xef\xbf\xbf",    "\xef\xbf\xbd \xef\xbf\xbd"   },
+      {"surrogate",             "\xed\xa0\x80",                 "\xc3\xad\xc2\xa0&#128;"      },
   };
   for (const Case& each : cases) {
     const std::string document = RawDataWith(each.value);
     EXPECT_THAT(document, HasSubstr("TYPE=\"string\">" + each.expected + "</KEYVALUE>\n")) << each.name;
     EXPECT_THAT(document, HasSubstr("\n   <VALUE>" + each.expected + "</VALUE>\n")) << each.name;
     EXPECT_THAT(document, HasSubstr("\n    <VALUE>" + each.expected + "</VALUE>\n")) << each.name;
-  }
-}
-
-TEST(CimXmlView, HasNoByteThatXmlForbidsOfAllThereAre) {
-  std::string every;
-  for (int byte = 0; byte < 256; ++byte) every += static_cast<char>(byte);
-  for (const char character : RawDataWith(every)) {
-    const auto byte = static_cast<unsigned char>(character);
-    EXPECT_TRUE(byte >= 0x20 || byte == '\n' || byte == '\t') << static_cast<int>(byte);
   }
 }
 

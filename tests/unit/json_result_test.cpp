@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <span>
 #include <string>
 
 #include "host/hxahost/system/exit_status.h"
@@ -61,39 +62,49 @@ std::string Rejection(const std::filesystem::path& file) {
   return "read";
 }
 
-TEST(JsonResult, RejectsWhatIsNoResultAndSaysWhy) {
-  struct Case {
-    const char* name;
-    const char* text;
-    const char* says;
-  };
-  const Case cases[] = {
-      {"nothing",                      "",                                                                                                 "damaged"                 },
-      {"no JSON",                      "<html>",                                                                                           "damaged"                 },
-      {"no object",                    "[1]",                                                                                              "an object is missing"    },
-      {"another program's",            "{}",                                                                                               "\"format\" is missing"   },
-      {"a later format",               R"({"format": 2})",                                                                                 "its format is 2, not 1"  },
-      {"no query",                     R"({"format": 1, "machine": "M", "queries": []})",                                                  "it has no query"         },
-      {"a query of text",              R"({"format": 1, "machine": "M", "queries": ["x"]})",                                               "an object is missing"    },
-      {"no machine",                   R"({"format": 1, "queries": [{}]})",                                                                "\"machine\" is missing"  },
-      {"a bare instance",              R"({"format": 1, "machine": "M", "queries": [{"instances": [{"class": 1}]}]})",
-       "\"class\" is missing"                                                                                                                                        },
-      {"a log of text",                R"({"format": 1, "machine": "M", "queries": [{"instances": [], "log": ["x"]}]})",
-       "an object is missing"                                                                                                                                        },
-      {"a level of text",
-       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "log": [{"level": "3", "text": ""}]}]})",                            "\"level\" is missing"    },
-      {"a run without arguments",
-       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "runs": [{"command": "c"}]}]})",                                     "\"arguments\" is missing"},
-      {"an argument that is a number",
-       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "runs": [{"command": "c", "arguments": [1]}]}]})",                   "an argument is no text"  },
-      {"an outcome of the future",
-       R"({"format": 1, "machine": "M", "queries": [{"instances": [], "runs": [{"command": "c", "arguments": [], "outcome": "lost"}]}]})",
-       "the outcome \"lost\" is not known"                                                                                                                           },
-  };
+struct RejectedCase {
+  const char* name;
+  std::string text;
+  const char* says;
+};
+
+void ExpectRejections(std::span<const RejectedCase> cases) {
   const TemporaryFolder folder;
-  for (const Case& each : cases) {
+  for (const RejectedCase& each : cases) {
     EXPECT_THAT(Rejection(folder.Write("r.json", each.text)), testing::HasSubstr(each.says)) << each.name;
   }
+}
+
+TEST(JsonResult, RejectsWhatIsNoResultAndSaysWhy) {
+  const RejectedCase cases[] = {
+      {"nothing",           "",                                                "damaged"               },
+      {"no JSON",           "<html>",                                          "damaged"               },
+      {"no object",         "[1]",                                             "an object is missing"  },
+      {"another program's", "{}",                                              "\"format\" is missing" },
+      {"a later format",    R"({"format": 2})",                                "its format is 2, not 1"},
+      {"no query",          R"({"format": 1, "machine": "M", "queries": []})", "it has no query"       },
+      {"no machine",        R"({"format": 1, "queries": [{}]})",               "\"machine\" is missing"},
+  };
+  ExpectRejections(cases);
+}
+
+TEST(JsonResult, RejectsAQueryThatIsNoneAndSaysWhy) {
+  const auto result = [](const std::string& query) {
+    return R"({"format": 1, "machine": "M", "queries": [)" + query + "]}";
+  };
+  const auto run = [&](const std::string& members) {
+    return result(R"({"instances": [], "runs": [{"command": "c", )" + members + "}]}");
+  };
+  const RejectedCase cases[] = {
+      {"text",                     result(R"("x")"),                                        "an object is missing"    },
+      {"a bare instance",          result(R"({"instances": [{"class": 1}]})"),              "\"class\" is missing"    },
+      {"a log of text",            result(R"({"instances": [], "log": ["x"]})"),            "an object is missing"    },
+      {"a level of text",          result(R"({"instances": [], "log": [{"level": "3"}]})"), "\"level\" is missing"    },
+      {"a run without arguments",  run(R"("failure": "")"),                                 "\"arguments\" is missing"},
+      {"a number for an argument", run(R"("arguments": [1])"),                              "an argument is no text"  },
+      {"an outcome of the future", run(R"("arguments": [], "outcome": "lost")"),            "the outcome \"lost\""    },
+  };
+  ExpectRejections(cases);
 }
 
 TEST(JsonResult, RejectsAResultCutOffAnywhere) {

@@ -32,22 +32,13 @@ nlohmann::ordered_json Properties(const FilledRepository& repository) {
 TEST(JsonView, WritesEveryKindOfValueInTheOrderInWhichItWasSet) {
   FilledRepository repository;
   const TCIMReference soft =
-      repository.Publish("KVRSG_LogRecord_SoftEvent",
-                         {
-                             {"RecordID", "1"     },
-                             {                         "ControllerNum", "1"},
-                             { "MessageTimestamp", TCIMDateTime(2026,              3, 5, 12, 30, 15, 250000, -60)},
-                             {                                    "HexSoftEvent",                                             TCIMValue(kCIMUInt32,     0, {TCIMValue(0xffffffffU), TCIMValue(7U)})},
-  });
-  repository.Publish("KVRSG_zxFirmwareVersion", {
-                                                    {"Name",                 "Zentraxis1 Firmware"         },
-                                                    {"SoftwareElementState", static_cast<unsigned short>(3)},
-                                                    {"Version",              ""                            },
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"RawResults", Texts({"a \"quoted\" line", "b\\"})},
-                                            {"Command",    "zenx//qcmdrun.exe getconfig 1 al" },
-  });
+      repository.Publish("KVRSG_LogRecord_SoftEvent", "RecordID", "1", "ControllerNum", "1", "MessageTimestamp",
+                         TCIMDateTime(2026, 3, 5, 12, 30, 15, 250000, -60), "HexSoftEvent",
+                         TCIMValue(kCIMUInt32, 0, {TCIMValue(0xffffffffU), TCIMValue(7U)}));
+  repository.Publish("KVRSG_zxFirmwareVersion", "Name", "Zentraxis1 Firmware", "SoftwareElementState",
+                     static_cast<unsigned short>(3), "Version", "");
+  repository.Publish("KVRSG_zxRawData", "RawResults", Texts({"a \"quoted\" line", "b\\"}), "Command",
+                     "zenx//qcmdrun.exe getconfig 1 al");
   const QueryHeader header{"MACHINE", "", {}, {}, 1};
   const QueryResult result{
       1, repository.Instances(), {{3, "one"}, {100, "two\n"}}
@@ -111,8 +102,8 @@ TEST(JsonView, WritesEveryKindOfValueInTheOrderInWhichItWasSet) {
 TEST(JsonView, KeepsTheQueriesApart) {
   EXPECT_EQ(Json(
                 {
-                    "M", "", {                                     },
-                      {},
+                    "M", "", {},
+                      { },
                       2
   },
                 {QueryResult{1, {}, {}}, QueryResult{2, {}, {}}}),
@@ -135,29 +126,20 @@ TEST(JsonView, KeepsTheQueriesApart) {
 
 TEST(JsonView, KeepsNamesAsTheyWereSet) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxDiskDrive", {
-                                              {"CreationClassname", "KVRSG_zxDiskDrive"}
-  });
+  repository.Publish("KVRSG_zxDiskDrive", "CreationClassname", "KVRSG_zxDiskDrive");
   EXPECT_EQ(Properties(repository).dump(), R"({"CreationClassname":"KVRSG_zxDiskDrive"})");
 }
 
 TEST(JsonView, ShowsAReferenceAsTheObjectPathOfWhatItRefersTo) {
   FilledRepository repository;
-  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", {
-                                                                          {"CollectionID", "a\"b\\c"}
-  });
-  repository.Publish("KVRSG_zxStripeOrderForController", {
-                                                             {"Dependent", group}
-  });
+  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
+  repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
   EXPECT_EQ(Properties(repository)["Dependent"], R"(KVRSG_zxDiskGroup.CollectionID="a\"b\\c")");
 }
 
 TEST(JsonView, ReadsEachKeyOfAPathByItselfAsTheProperty) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxFirmwareVersion", {
-                                                    {"Name",    "K\xc3\xa4se"},
-                                                    {"Version", "K\xe4se"    },
-  });
+  repository.Publish("KVRSG_zxFirmwareVersion", "Name", "K\xc3\xa4se", "Version", "K\xe4se");
   const auto json = nlohmann::json::parse(Json(
       {
   },
@@ -167,45 +149,28 @@ TEST(JsonView, ReadsEachKeyOfAPathByItselfAsTheProperty) {
 }
 
 TEST(JsonView, KeepsEveryByte) {
-  struct Case {
-    const char* name;
-    std::string bytes;
-    std::string expected;
-  };
-  const Case cases[] = {
-      {"valid UTF-8",          "K\xc3\xa4se",   "K\xc3\xa4se"        },
-      {"ISO 8859-1",           "K\xe4se\xff",   "K\xc3\xa4se\xc3\xbf"},
-      {"controls",             "\x1b[2J\x7f\t", "\x1b[2J\x7f\t"      },
-      {"line ends and blanks", " a \r\n",       " a \r\n"            },
-      {"NUL",                  "a\0b"s,         "a\0b"s              },
-  };
-  for (const Case& each : cases) {
-    FilledRepository repository;
-    repository.Publish("KVRSG_zxRawData", {
-                                              {"Command",    each.bytes         },
-                                              {"RawResults", Texts({each.bytes})},
-    });
-    const auto properties = Properties(repository);
-    EXPECT_EQ(properties["Command"].get<std::string>(), each.expected) << each.name;
-    EXPECT_EQ(properties["RawResults"][0].get<std::string>(), each.expected) << each.name;
-  }
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxRawData", "Command", " K\xe4se\r\n", "RawResults", Texts({"\x1b\t \0\xff"s}));
+  const auto properties = Properties(repository);
+  EXPECT_EQ(properties["Command"], " K\xc3\xa4se\r\n");
+  EXPECT_EQ(properties["RawResults"][0].get<std::string>(), "\x1b\t \0\xc3\xbf"s);
 }
 
 TEST(JsonView, KeepsTheBytesOfMachineAndLog) {
   QueryHeader header;
   header.machine = "K\xe4se\n";
-  const auto json = nlohmann::json::parse(Json(header, {
-                                                           QueryResult{1, {}, {{0, "\xe4\x00"s}}}
-  }));
+  QueryResult result;
+  result.log = {
+      {0, "\xe4\x00"s}
+  };
+  const auto json = nlohmann::json::parse(Json(header, {result}));
   EXPECT_EQ(json["machine"], "K\xc3\xa4se\n");
   EXPECT_EQ(json["queries"][0]["log"][0]["text"].get<std::string>(), "\xc3\xa4\0"s);
 }
 
 TEST(JsonView, ShowsAnEmptyArrayAndAnEmptyValue) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"RawResults", Texts({})},
-  });
+  repository.Publish("KVRSG_zxRawData", "RawResults", Texts({}));
   EXPECT_EQ(Properties(repository).dump(), R"({"RawResults":[]})");
 }
 

@@ -11,24 +11,13 @@ using namespace NKVRHXA20;
 
 TEST(PropertyValues, ShowsEveryKindOfValue) {
   FilledRepository repository;
-  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", {
-                                                                          {"CollectionID", "G1"}
-  });
-  repository.Publish("KVRSG_LogRecord_HardEvent",
-                     {
-                         {"NumEntries", " 2\r\n"},
-                         {   "MessageTimestamp", TCIMDateTime(2026,                  3, 5, 12, 30, 15, 0, -330)},
-                         { "HexHardEvent",                 TCIMValue(kCIMUInt32,              0, {TCIMValue(0xdeadbeefU), TCIMValue(7U)})},
-  });
-  repository.Publish("KVRSG_zxFirmwareVersion", {
-                                                    {"SoftwareElementState", static_cast<unsigned short>(3)}
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"RawResults", Texts({"a\x1b", " b\n"})}
-  });
-  repository.Publish("KVRSG_zxStripeOrderForController", {
-                                                             {"Dependent", group}
-  });
+  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "G1");
+  repository.Publish("KVRSG_LogRecord_HardEvent", "NumEntries", " 2\r\n", "MessageTimestamp",
+                     TCIMDateTime(2026, 3, 5, 12, 30, 15, 0, -330), "HexHardEvent",
+                     TCIMValue(kCIMUInt32, 0, {TCIMValue(0xdeadbeefU), TCIMValue(7U)}));
+  repository.Publish("KVRSG_zxFirmwareVersion", "SoftwareElementState", static_cast<unsigned short>(3));
+  repository.Publish("KVRSG_zxRawData", "RawResults", Texts({"a\x1b", " b\n"}));
+  repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
   const hxahost::InstanceList instances = repository.Instances();
   EXPECT_EQ(ShownText(*instances[1], "NumEntries"), "2");
   EXPECT_EQ(ShownText(*instances[1], "MessageTimestamp"), "2026-03-05 12:30:15 -05:30");
@@ -48,10 +37,7 @@ TEST(PropertyValues, ShowsATimeThatHasNoSuchFormAsItIs) {
 
 TEST(PropertyValues, CountsTheElementsOfAnArray) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    "a"              },
-                                            {"RawResults", Texts({"1", "2"})}
-  });
+  repository.Publish("KVRSG_zxRawData", "Command", "a", "RawResults", Texts({"1", "2"}));
   const auto instance = repository.Instances().front();
   EXPECT_EQ(ElementCount(*instance, "RawResults"), 2U);
   EXPECT_EQ(ElementCount(*instance, "Command"), 0U);

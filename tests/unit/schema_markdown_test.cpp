@@ -51,10 +51,4 @@ TEST(SchemaMarkdown, ShowsKeysTypesArraysReferencesAndEscapes) {
   EXPECT_THAT(page, HasSubstr("\n  X_Plain -- \"X_Link<br>Dependent to Antecedent\" --> X_Other\n"));
 }
 
-TEST(SchemaMarkdown, NamesTheLabelsThatValuesStandBehind) {
-  EXPECT_THAT(Page(PublishedClasses()),
-              HasSubstr("| `ControllerFRU` | string | Number under which a replacement of the controller is ordered. | "
-                        "qcmdrun: \"Controller FRU\"<br>arcconf: \"Controller FRU#\" |\n"));
-}
-
 }  // namespace

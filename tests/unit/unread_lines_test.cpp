@@ -38,42 +38,21 @@ TEST(UnreadLines, TakesAValueForShownHoweverAPropertyShowsIt) {
       {"nothing",                      " ",                 true },
   };
   FilledRepository repository;
-  repository.Publish("KVRSG_zxLogicalDisk",
-                     {
-                         {"LogicalDriveStatus", "Okay (OKY)\r"},
-                         {"LogicalDriveNum",    "7"           },
-                         {"Size",               "12"          }
-  });
-  repository.Publish("KVRSG_zxDiskDrive",
-                     {
-                         {"OtherIdentifyingInfo", Texts({"Hard disk"})         },
-                         {"DeviceID",             "I00:MAKER MODEL S96H8B01234"}
-  });
-  repository.Publish("KVRSG_LogRecord_SoftEvent",
-                     {
-                         {"HexSoftEvent", TCIMValue(kCIMUInt32, 0, {TCIMValue(0x120cU)})}
-  });
+  repository.Publish("KVRSG_zxLogicalDisk", "LogicalDriveStatus", "Okay (OKY)\r", "LogicalDriveNum", "7", "Size", "12");
+  repository.Publish("KVRSG_zxDiskDrive", "OtherIdentifyingInfo", Texts({"Hard disk"}), "DeviceID",
+                     "I00:MAKER MODEL S96H8B01234");
+  repository.Publish("KVRSG_LogRecord_SoftEvent", "HexSoftEvent", TCIMValue(kCIMUInt32, 0, {TCIMValue(0x120cU)}));
   const ShownValues shown(repository.Instances());
   for (const Case& each : cases) EXPECT_EQ(shown.Shows(each.value), each.isShown) << each.name;
 }
 
 TEST(UnreadLines, AreListedByTextWithTheirPlaces) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxLogicalDisk", {
-                                                {"Size", "5 MB"}
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    "tool one"                                             },
-                                            {"RawResults", Texts({"Size : 5 MB", "Mode : new", "", "More : news"})}
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    "tool two"            },
-                                            {"RawResults", Texts({"Size : 5 MB"})}
-  });
-  repository.Publish("KVRSG_zxManagerRawData", {
-                                                   {"Command",    "log"                      },
-                                                   {"RawResults", Texts({"today\tERR\t5 MB"})}
-  });
+  repository.Publish("KVRSG_zxLogicalDisk", "Size", "5 MB");
+  repository.Publish("KVRSG_zxRawData", "Command", "tool one", "RawResults",
+                     Texts({"Size : 5 MB", "Mode : new", "", "More : news"}));
+  repository.Publish("KVRSG_zxRawData", "Command", "tool two", "RawResults", Texts({"Size : 5 MB"}));
+  repository.Publish("KVRSG_zxManagerRawData", "Command", "log", "RawResults", Texts({"today\tERR\t5 MB"}));
   const std::vector<UnreadText> texts = FindUnreadLines(repository.Instances());
   ASSERT_EQ(texts.size(), 2U);
   EXPECT_EQ(texts[0].command, "tool one");
@@ -86,23 +65,15 @@ TEST(UnreadLines, AreListedByTextWithTheirPlaces) {
 
 TEST(UnreadLines, AreNotShownByTheRawTextsThemselves) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    "new"                       },
-                                            {"RawResults", Texts({"Mode : new", "new"})}
-  });
+  repository.Publish("KVRSG_zxRawData", "Command", "new", "RawResults", Texts({"Mode : new", "new"}));
   EXPECT_EQ(FindUnreadLines(repository.Instances()).size(), 1U);
 }
 
 TEST(UnreadLines, AreAllLinesOfAValueThatGoesOn) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    "c"                                  },
-                                            {"RawResults", Texts({"Order : 0,2", "        0,3"})}
-  });
+  repository.Publish("KVRSG_zxRawData", "Command", "c", "RawResults", Texts({"Order : 0,2", "        0,3"}));
   EXPECT_EQ(FindUnreadLines(repository.Instances()).at(0).unread, (std::vector<std::size_t>{0, 1}));
-  repository.Publish("KVRSG_zxLogicalDisk", {
-                                                {"StripeOrder", "0,2 0,3"}
-  });
+  repository.Publish("KVRSG_zxLogicalDisk", "StripeOrder", "0,2 0,3");
   EXPECT_TRUE(FindUnreadLines(repository.Instances()).empty());
 }
 

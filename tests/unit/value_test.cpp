@@ -21,6 +21,8 @@ TCIMValue Codes() {
   };
 }
 
+constexpr const char* kDiskOnePath = "KVRSG_zxLogicalDisk.DeviceID=\"Zentraxis1LD1\"";
+
 struct TextCase {
   const char* name;
   TCIMValue value;
@@ -29,16 +31,17 @@ struct TextCase {
 };
 
 TEST(Value, KnowsItsKindAndItsText) {
+  const TCIMDateTime time("20260305010203.000004+000");
   const TextCase cases[] = {
-      {"nothing",                    {},                                 ValueKind::kNone,   ""          },
-      {"string",                     std::string("a\n"),                 ValueKind::kString, "a\n"       },
-      {"literal",                    "text",                             ValueKind::kString, "text"      },
-      {"empty string",               "",                                 ValueKind::kString, ""          },
-      {"uint16",                     static_cast<unsigned short>(65535), ValueKind::kUInt16, "65535"     },
-      {"uint32",                     4294967295U,                        ValueKind::kUInt32, "4294967295"},
-      {"date and time",              TCIMDateTime(2026,                  3,                  5,            1, 2, 3, 4, 0), ValueKind::kDateTime, "20260305010203.000004+000"},
-      {"reference",                           DiskOne(),                                                            ValueKind::kReference,                                                                             "KVRSG_zxLogicalDisk.DeviceID=\"Zentraxis1LD1\""                                                                                      },
-      {"array", Codes(),                                   ValueKind::kArray,                                           ""                   },
+      {"nothing",       TCIMValue(),                        ValueKind::kNone,      ""                         },
+      {"string",        std::string("a\n"),                 ValueKind::kString,    "a\n"                      },
+      {"literal",       "text",                             ValueKind::kString,    "text"                     },
+      {"empty string",  "",                                 ValueKind::kString,    ""                         },
+      {"uint16",        static_cast<unsigned short>(65535), ValueKind::kUInt16,    "65535"                    },
+      {"uint32",        4294967295U,                        ValueKind::kUInt32,    "4294967295"               },
+      {"date and time", time,                               ValueKind::kDateTime,  "20260305010203.000004+000"},
+      {"reference",     DiskOne(),                          ValueKind::kReference, kDiskOnePath               },
+      {"array",         Codes(),                            ValueKind::kArray,     ""                         },
   };
   for (const TextCase& one : cases) {
     EXPECT_EQ(TCIMValueReader::Kind(one.value), one.kind) << one.name;
@@ -99,16 +102,20 @@ struct PathCase {
 };
 
 TEST(ObjectPath, NamesKeysInTheirOrderWithQuotesAndBackslashesEscaped) {
+  const TCIMReference quote = TCIMReferenceFactory::Make(nullptr, "D",
+                                                         {
+                                                             {"k", "\""}
+  });
   const PathCase cases[] = {
-      {"no key",           {},                                                               "C"                                 },
-      {"order of names",   {{"b", "2"}, {"a", "1"}},                                         R"(C.a="1",b="2")"                  },
-      {"number",           {{"n", static_cast<unsigned short>(3)}, {"u", 7U}},               "C.n=3,u=7"                         },
-      {"text of digits",   {{"n", "3"}},                                                     R"(C.n="3")"                        },
-      {"quote",            {{"k", "a\"b"}},                                                  R"(C.k="a\"b")"                     },
-      {"backslash",        {{"k", "a\\"}},                                                   R"(C.k="a\\")"                      },
-      {"time",             {{"t", TCIMDateTime()}},                                          R"(C.t="00000000000000.000000+000")"},
-      {"comma and equals", {{"k", "a,b=c"}},                                                 R"(C.k="a,b=c")"                    },
-      {"reference",        {{"r", TCIMReferenceFactory::Make(nullptr, "D", {{"k", "\""}})}}, R"(C.r="D.k=\"\\\"\"")"             },
+      {"no key",           {},                                                 "C"                                 },
+      {"order of names",   {{"b", "2"}, {"a", "1"}},                           R"(C.a="1",b="2")"                  },
+      {"number",           {{"n", static_cast<unsigned short>(3)}, {"u", 7U}}, "C.n=3,u=7"                         },
+      {"text of digits",   {{"n", "3"}},                                       R"(C.n="3")"                        },
+      {"quote",            {{"k", "a\"b"}},                                    R"(C.k="a\"b")"                     },
+      {"backslash",        {{"k", "a\\"}},                                     R"(C.k="a\\")"                      },
+      {"time",             {{"t", TCIMDateTime()}},                            R"(C.t="00000000000000.000000+000")"},
+      {"comma and equals", {{"k", "a,b=c"}},                                   R"(C.k="a,b=c")"                    },
+      {"reference",        {{"r", quote}},                                     R"(C.r="D.k=\"\\\"\"")"             },
   };
   for (const PathCase& one : cases) {
     EXPECT_EQ(TCIMReferenceFactory::ObjectPath(TCIMReferenceFactory::Make(nullptr, "C", one.keys)), one.path)
