@@ -29,7 +29,8 @@ class SilentControllersTest : public testing::Test {
   }
   std::vector<std::string> Found() const {
     std::vector<std::string> found;
-    for (const Finding& finding : SilentControllers(repository_.Instances())) {
+    for (const Finding& finding :
+         SilentControllers(BuildMachine({}, {2, repository_.Instances(), {}}), repository_.Instances())) {
       found.push_back(finding.identifier + " \"" + finding.text + "\"");
       EXPECT_EQ(finding.severity, Severity::kCritical);
     }

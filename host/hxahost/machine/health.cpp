@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <map>
 #include <set>
 #include <vector>
 
 #include "host/hxahost/machine/device_names.h"
-#include "host/hxahost/machine/members.h"
 #include "host/hxahost/machine/silent_controllers.h"
 #include "host/hxahost/machine/tool_findings.h"
 #include "host/hxahost/result/property_values.h"
@@ -50,7 +50,7 @@ Judgement JudgeValue(const WatchedValue& value, std::string_view text, const Hol
 
 // Controllers that are missing among those published.
 Findings ControllerFindings(const Machine& machine, const QueryResult& result) {
-  Findings findings = SilentControllers(result.instances);
+  Findings findings = SilentControllers(machine, result.instances);
   const std::size_t known = CountOf(machine, kControllerClass) + findings.size();
   std::ranges::move(AnswerFindings(result, known), std::back_inserter(findings));
   return findings;
@@ -66,25 +66,32 @@ std::vector<const WatchedValue*> WatchedValues() {
 }
 
 // The disks of logical drives that are not guarded against the next failed disk, as places of instances. A disk that is
-// in no list is taken to belong to any logical drive of its controller's number.
+// in no list is taken to belong to any logical drive of its controller's number. A group counts once, however many
+// drives are built on it.
 std::set<std::size_t> UnguardedDisks(const Machine& machine) {
   std::set<std::string> numbers;
-  std::set<std::size_t> unguarded;
   std::set<std::size_t> placed;
+  std::set<std::size_t> unguarded;
   for (const Controller& controller : machine.controllers) {
-    for (const LogicalDrive& drive : controller.logicalDrives) {
-      const bool isUnguarded = JudgeText(kDriveState, drive.state.text).level >= Level::kWarning;
-      if (isUnguarded) numbers.insert(controller.number);
-      for (const std::size_t device : DevicesOf(controller, drive)) {
+    const auto place = [&](const std::vector<std::size_t>& devices, bool isUnguarded) {
+      for (const std::size_t device : devices) {
         placed.insert(controller.devices[device].instance);
         if (isUnguarded) unguarded.insert(controller.devices[device].instance);
       }
+    };
+    std::map<std::size_t, bool> groups;  // whether a drive on it is not guarded
+    for (const LogicalDrive& drive : controller.logicalDrives) {
+      const bool isUnguarded = JudgeText(kDriveState, drive.state.text).level >= Level::kWarning;
+      if (isUnguarded) numbers.insert(controller.number);
+      place(drive.devices, isUnguarded);
+      for (const std::size_t group : drive.groups) groups[group] = groups[group] || isUnguarded;
     }
+    for (const auto& [group, isUnguarded] : groups) place(controller.groups[group].devices, isUnguarded);
   }
   for (const Controller& controller : machine.controllers) {
-    if (!numbers.contains(controller.number)) continue;
     for (const Device& device : controller.devices) {
-      if (!placed.contains(device.instance)) unguarded.insert(device.instance);
+      const bool isUnplaced = numbers.contains(controller.number) && !placed.contains(device.instance);
+      if (isUnplaced) unguarded.insert(device.instance);
     }
   }
   return unguarded;

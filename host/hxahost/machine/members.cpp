@@ -53,15 +53,6 @@ void FindMembers(Controller& controller, const InstanceList& instances) {
   }
 }
 
-std::vector<std::size_t> DevicesOf(const Controller& controller, const LogicalDrive& drive) {
-  std::vector<std::size_t> devices = drive.devices;
-  for (const std::size_t group : drive.groups) {
-    const auto& members = controller.groups[group].devices;
-    devices.insert(devices.end(), members.begin(), members.end());
-  }
-  return devices;
-}
-
 std::vector<std::string> PlacesIn(const std::string& text) {
   const auto isPart = [](unsigned char character) { return std::isdigit(character) != 0 || character == ','; };
   std::vector<std::string> places;

@@ -11,10 +11,6 @@ namespace hxahost {
 // Fills in the members of the controller's groups and logical drives.
 void FindMembers(Controller& controller, const InstanceList& instances);
 
-// The devices of a logical drive, as places in the controller's list: those that its own lists name and those of the
-// groups that it is built on; one may come twice.
-std::vector<std::size_t> DevicesOf(const Controller& controller, const LogicalDrive& drive);
-
 // The pairs "0,7" (channel and number) in a list of disks, whatever is around them.
 std::vector<std::string> PlacesIn(const std::string& text);
 

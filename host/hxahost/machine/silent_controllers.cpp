@@ -12,14 +12,13 @@
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/text/ascii.h"
 
 using namespace NKVRHXA20;
 
 namespace hxahost {
 
 namespace {
-
-constexpr std::string_view kBelongToOne[] = {kLogicalDiskClass, kDiskGroupClass, kDiskDriveClass};
 
 // A status as a utility printed it, under the command that was run.
 struct FailedStatus {
@@ -33,16 +32,14 @@ bool IsLowerNumber(const std::string& left, const std::string& right) {
 }
 
 // The numbers of controllers that something belongs to but that are not there, from the lowest.
-std::vector<std::string> UnpublishedNumbers(const InstanceList& instances) {
-  std::set<std::string> seen;
-  for (const auto& instance : instances) {
-    if (instance->Class().name == kControllerClass) seen.insert(RawText(*instance, "ControllerNum"));
+std::vector<std::string> UnpublishedNumbers(const Machine& machine) {
+  std::set<std::string> published;
+  for (const Controller& controller : machine.controllers) {
+    if (!controller.units.empty()) published.insert(controller.number);
   }
   std::vector<std::string> numbers;
-  for (const auto& instance : instances) {
-    if (std::ranges::find(kBelongToOne, instance->Class().name) == std::end(kBelongToOne)) continue;
-    const std::string number = RawText(*instance, "ControllerNum");
-    if (seen.insert(number).second) numbers.push_back(number);
+  for (const Controller& controller : machine.controllers) {
+    if (published.insert(controller.number).second) numbers.push_back(controller.number);
   }
   std::ranges::sort(numbers, IsLowerNumber);
   return numbers;
@@ -53,9 +50,7 @@ std::string StatusOn(const std::string& line) {
   const std::size_t label = line.find("Controller Status");
   const std::size_t colon = label == line.npos ? line.npos : line.find(':', label);
   if (colon == line.npos) return {};
-  const std::size_t begin = line.find_first_not_of(" \t", colon + 1);
-  if (begin == line.npos) return {};
-  return line.substr(begin, line.find_last_not_of(" \t\r\n") - begin + 1);
+  return std::string(Trim(std::string_view(line).substr(colon + 1)));
 }
 
 // The first status line counts, as it does for the plug-in; the word that it looks for is in this spelling.
@@ -103,8 +98,8 @@ Finding FailedFinding(const FailedStatus& failed) {
 
 // Both lists are in the order of the controllers' numbers. Where they are equally long they speak of the same
 // controllers; otherwise there is no telling which belong together, and each is shown for itself.
-Findings SilentControllers(const InstanceList& instances) {
-  const std::vector<std::string> numbers = UnpublishedNumbers(instances);
+Findings SilentControllers(const Machine& machine, const InstanceList& instances) {
+  const std::vector<std::string> numbers = UnpublishedNumbers(machine);
   const std::vector<FailedStatus> failed = FailedStatuses(instances);
   const bool isSame = numbers.size() == failed.size();
   Findings findings;

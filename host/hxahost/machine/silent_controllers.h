@@ -1,12 +1,11 @@
 #pragma once
 
-#include "host/hxahost/machine/finding.h"
-#include "host/hxahost/result/query_result.h"
+#include "host/hxahost/machine/machine.h"
 
 namespace hxahost {
 
 // Controllers that are there but were not published, as the plug-in does with one whose status says that it has
 // failed: those that drives, disks or groups name, and those that only the raw answer of a utility shows.
-Findings SilentControllers(const InstanceList& instances);
+Findings SilentControllers(const Machine& machine, const InstanceList& instances);
 
 }  // namespace hxahost

@@ -3,27 +3,13 @@
 #include <algorithm>
 #include <cctype>
 
+#include "host/hxahost/text/ascii.h"
+
 namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
-
-bool IsNumber(std::string_view text) {
-  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
 bool IsZero(std::string_view number) { return number.find_first_not_of('0') == std::string_view::npos; }
-
-std::vector<std::string_view> Split(std::string_view text, std::string_view separators) {
-  std::vector<std::string_view> parts;
-  while (true) {
-    const std::size_t end = text.find_first_of(separators);
-    parts.push_back(text.substr(0, end));
-    if (end == text.npos) return parts;
-    text.remove_prefix(end + 1);
-  }
-}
 
 void AddWord(Words& words, std::string_view text) {
   std::string word = NormalWord(text);
@@ -52,7 +38,7 @@ std::string NormalWord(std::string_view text) {
   std::string word;
   bool isBlankDue = false;
   for (const char character : text) {
-    if (character == '-' || kBlanks.find(character) != kBlanks.npos) {
+    if (character == '-' || kWhiteSpace.find(character) != kWhiteSpace.npos) {
       isBlankDue = !word.empty();
       continue;
     }
@@ -66,15 +52,14 @@ std::string NormalWord(std::string_view text) {
 Words StateWords(std::string_view text) {
   Words words;
   const std::string parted = WithCommasForDashes(text);
-  for (const std::string_view part : Split(parted, ",;()")) AddWord(words, WithoutPurpose(part));
+  for (const std::string_view part : SplitAtAny(parted, ",;()")) AddWord(words, WithoutPurpose(part));
   return words;
 }
 
 Words FirstWord(std::string_view text) {
   Words words;
-  const std::size_t begin = std::min(text.find_first_not_of(kBlanks), text.size());
-  text.remove_prefix(begin);
-  AddWord(words, text.substr(0, text.find_first_of(" \t\r\n(,;")));
+  const std::string_view trimmed = Trim(text);
+  AddWord(words, trimmed.substr(0, trimmed.find_first_of(" \t\r\n(,;")));
   return words;
 }
 
@@ -89,7 +74,7 @@ Words BracketedWords(std::string_view text) {
 Words CountWords(std::string_view text) {
   const std::string word = NormalWord(text);
   if (word.empty()) return {};
-  if (!IsNumber(word)) return {word};
+  if (!IsDigits(word)) return {word};
   return {IsZero(word) ? "none" : "some"};
 }
 
@@ -98,7 +83,7 @@ Words DriveCountWords(std::string_view text) {
   if (word.empty()) return {};
   std::vector<std::string> counts;
   for (const std::string_view part : Split(word, "/")) counts.push_back(NormalWord(part));
-  if (counts.size() != 3 || !std::ranges::all_of(counts, IsNumber)) return {word};
+  if (counts.size() != 3 || !std::ranges::all_of(counts, IsDigits)) return {word};
   Words words;
   if (!IsZero(counts[1])) words.emplace_back("offline");
   if (!IsZero(counts[2])) words.emplace_back("critical");

@@ -1,11 +1,12 @@
 #include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <cstdlib>
 
+#include <fmt/core.h>
+
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
 
 using namespace NKVRHXA20;
@@ -23,9 +24,7 @@ const TCIMValue* FindValue(const TPublishedInstance& instance, std::string_view 
 // Numbers in arrays are event codes, which manuals list in hexadecimal.
 std::string ElementText(const TCIMValue& element) {
   if (TCIMValueReader::Kind(element) != ValueKind::kUInt32) return Printable(std::string(element));
-  std::array<char, 16> code{};
-  std::snprintf(code.data(), code.size(), "0x%08x", static_cast<unsigned>(TCIMValueReader::Number(element)));
-  return code.data();
+  return fmt::format("{:#010x}", TCIMValueReader::Number(element));
 }
 
 std::string ValueText(const TCIMValue& value) {
@@ -41,13 +40,9 @@ std::string ValueText(const TCIMValue& value) {
 }  // namespace
 
 std::string RawText(const TPublishedInstance& instance, std::string_view property) {
-  constexpr std::string_view kSpace = " \t\r\n";
   const TCIMValue* const value = FindValue(instance, property);
   if (value == nullptr || TCIMValueReader::Kind(*value) != ValueKind::kString) return {};
-  const std::string& text = TCIMValueReader::Text(*value);
-  const std::size_t first = text.find_first_not_of(kSpace);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kSpace) - first + 1);
+  return std::string(Trim(TCIMValueReader::Text(*value)));
 }
 
 std::string ShownText(const TPublishedInstance& instance, std::string_view property) {
@@ -66,10 +61,8 @@ std::string ReadableTime(const std::string& cimDateTime) {
   if (cimDateTime.size() != 25) return cimDateTime;
   const auto part = [&](std::size_t begin, std::size_t length) { return cimDateTime.substr(begin, length); };
   const int offset = std::atoi(part(22, 3).c_str());
-  std::array<char, 16> zone{};
-  std::snprintf(zone.data(), zone.size(), "%c%02d:%02d", cimDateTime[21], offset / 60, offset % 60);
-  return part(0, 4) + "-" + part(4, 2) + "-" + part(6, 2) + " " + part(8, 2) + ":" + part(10, 2) + ":" + part(12, 2) +
-         " " + zone.data();
+  return fmt::format("{}-{}-{} {}:{}:{} {}{:02}:{:02}", part(0, 4), part(4, 2), part(6, 2), part(8, 2), part(10, 2),
+                     part(12, 2), cimDateTime[21], offset / 60, offset % 60);
 }
 
 }  // namespace hxahost

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <chrono>
-#include <locale>
 #include <optional>
 #include <span>
 #include <sstream>
@@ -10,9 +9,12 @@
 #include <utility>
 #include <vector>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/machine/device_names.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/health_report.h"
@@ -43,7 +45,7 @@ std::string LabelValue(const std::string& bytes) {
 std::string LabelText(const Labels& labels) {
   std::string text;
   for (const auto& [name, value] : labels) {
-    text += (text.empty() ? "{" : ",") + std::string(name) + "=\"" + LabelValue(value) + "\"";
+    text += fmt::format("{}{}=\"{}\"", text.empty() ? "{" : ",", name, LabelValue(value));
   }
   return text.empty() ? text : text + "}";
 }
@@ -181,15 +183,11 @@ void WriteStates(std::ostream& out, const HealthReport& report) {
   }
 }
 
-bool IsWholeNumber(const std::string& text) {
-  return !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-}
-
 void WriteBadStripes(std::ostream& out, const InstanceList& instances) {
   Family family("zenx_bad_stripes", "Stripes of the logical drive in which data was lost.");
   for (const auto& instance : instances) {
     const std::string count = RawText(*instance, "NumBadStripes");
-    if (IsWholeNumber(count)) family.Add(LabelValues(*instance, kStripeLabels), count);
+    if (IsDigits(count)) family.Add(LabelValues(*instance, kStripeLabels), count);
   }
   family.Write(out);
 }
@@ -226,17 +224,8 @@ std::optional<long long> SecondsSince1970(const std::string& cim) {
   return std::chrono::duration_cast<std::chrono::seconds>((local - offset).time_since_epoch()).count();
 }
 
-std::string Decimal(double seconds) {
-  std::ostringstream text;
-  text.imbue(std::locale::classic());
-  text << std::fixed;
-  text.precision(3);
-  text << seconds;
-  return text.str();
-}
-
 void WriteCollection(std::ostream& out, const HealthReport& report) {
-  WriteNumber(out, "zenx_collection_seconds", "How long the collection took.", Decimal(report.seconds));
+  WriteNumber(out, "zenx_collection_seconds", "How long the collection took.", fmt::format("{:.3f}", report.seconds));
   const auto time = SecondsSince1970(report.header.time.ToString());
   if (!time) return;
   WriteNumber(out, "zenx_collection_timestamp_seconds", "When the collection began, in seconds since 1970.",

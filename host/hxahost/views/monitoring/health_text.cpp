@@ -3,6 +3,8 @@
 #include <set>
 #include <string>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/escaping.h"
@@ -20,14 +22,14 @@ std::string InCapitals(std::string_view word) {
   return capitals;
 }
 
-std::string CountedAs(std::size_t count, const std::string& one, const std::string& several) {
-  return std::to_string(count) + " " + (count == 1 ? one : several);
+std::string Counted(const Machine& machine, std::string_view className, std::string_view what) {
+  const std::size_t count = CountOf(machine, className);
+  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
 }
 
 std::string Inventory(const Machine& machine) {
-  return CountedAs(CountOf(machine, kControllerClass), "controller", "controllers") + ", " +
-         CountedAs(CountOf(machine, kLogicalDiskClass), "logical drive", "logical drives") + ", " +
-         CountedAs(CountOf(machine, kDiskDriveClass), "device", "devices");
+  return fmt::format("{}, {}, {}", Counted(machine, kControllerClass, "controller"),
+                     Counted(machine, kLogicalDiskClass, "logical drive"), Counted(machine, kDiskDriveClass, "device"));
 }
 
 // "4 critical, 1 warning"
@@ -36,7 +38,7 @@ std::string Tally(const Findings& findings) {
   for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
     const auto count = std::ranges::count(findings, severity, &Finding::severity);
     if (count == 0) continue;
-    tally += (tally.empty() ? "" : ", ") + std::to_string(count) + " " + std::string(SeverityWord(severity));
+    tally += fmt::format("{}{} {}", tally.empty() ? "" : ", ", count, SeverityWord(severity));
   }
   return tally;
 }
@@ -54,19 +56,16 @@ std::string ToolsThatRan(const ToolRunList& runs) {
 std::string Summary(const HealthReport& report) {
   const std::string name = Printable(report.header.machine);
   const Machine& machine = report.machine;
-  const std::string inventory = " (" + Inventory(machine) + ")";
-  if (!machine.findings.empty()) return Tally(machine.findings) + " on " + name + inventory;
-  if (CountOf(machine, kControllerClass) > 0) return "nothing is wrong on " + name + inventory;
-  return "no controller on " + name + ": " + ToolsThatRan(report.result.runs) + " answered that there is none";
-}
-
-std::string Padded(std::string_view text, std::size_t width) {
-  return std::string(text) + std::string(width - std::min(width, text.size()), ' ');
+  if (machine.findings.empty() && CountOf(machine, kControllerClass) == 0) {
+    return fmt::format("no controller on {}: {} answered that there is none", name, ToolsThatRan(report.result.runs));
+  }
+  const std::string verdict = machine.findings.empty() ? "nothing is wrong" : Tally(machine.findings);
+  return fmt::format("{} on {} ({})", verdict, name, Inventory(machine));
 }
 
 std::string WordOf(const HealthRule& rule) {
   if (rule.word.empty()) return "nothing";
-  return "\"" + std::string(rule.word) + "\"" + (rule.code.empty() ? "" : " (" + std::string(rule.code) + ")");
+  return fmt::format("\"{}\"{}", rule.word, rule.code.empty() ? "" : fmt::format(" ({})", rule.code));
 }
 
 std::string_view WhereOf(Where where) {
@@ -95,8 +94,8 @@ void WriteHealthRules(std::ostream& out) {
     if (rule.value != value)
       out << (value == nullptr ? "" : "\n") << rule.value->className << ", " << rule.value->property << '\n';
     value = rule.value;
-    out << "  " << Padded(SeverityWord(SeverityOf(rule.level)), 9) << WordOf(rule) << WhereOf(rule.where)
-        << ", printed by " << rule.tools << (rule.meaning.empty() ? "" : ": ") << rule.meaning << '\n';
+    out << fmt::format("  {:<9}{}{}, printed by {}{}{}\n", SeverityWord(SeverityOf(rule.level)), WordOf(rule),
+                       WhereOf(rule.where), rule.tools, rule.meaning.empty() ? "" : ": ", rule.meaning);
   }
 }
 

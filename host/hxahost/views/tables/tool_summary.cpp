@@ -1,12 +1,12 @@
 #include "host/hxahost/views/tables/tool_summary.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <cstdio>
 #include <map>
 #include <optional>
 #include <string_view>
+
+#include <fmt/core.h>
 
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
@@ -77,7 +77,7 @@ std::string NumbersText(const std::vector<int>& numbers, std::size_t shortestRan
 }
 
 std::string Counted(std::size_t count, std::string_view what) {
-  return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
+  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
 }
 
 std::string ControllersText(const ToolSummary& summary) {
@@ -95,19 +95,13 @@ std::string RefusedText(const std::vector<int>& refused) {
   return (refused.size() == 1 ? ", number " : ", numbers ") + NumbersText(refused, kShortestRange) + " refused";
 }
 
-std::string SecondsText(double seconds) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f s", seconds);
-  return text.data();
-}
-
 // What each kind of trouble came to, the worst first: "2 timed out, 1 cut off".
 std::string TroubleCounts(const ToolSummary& summary) {
   std::map<Outcome, std::size_t, std::greater<>> counts;
   for (const ToolTrouble& trouble : summary.troubles) counts[trouble.outcome] += trouble.times;
   std::string text;
   for (const auto& [outcome, count] : counts) {
-    text += ", " + std::to_string(count) + " " + std::string(OutcomeWord(outcome));
+    text += fmt::format(", {} {}", count, OutcomeWord(outcome));
   }
   return text;
 }
@@ -174,8 +168,8 @@ std::vector<ToolSummary> SummarizeRuns(const ToolRunList& runs) {
 std::string SummaryText(const ToolSummary& summary) {
   const std::string tool = Printable(summary.tool);
   if (summary.runs == 0) return tool + ": not run";
-  return tool + ": " + Counted(summary.runs, "run") + ", " + ControllersText(summary) + RefusedText(summary.refused) +
-         TroubleCounts(summary) + ", " + SecondsText(summary.seconds);
+  return fmt::format("{}: {}, {}{}{}, {:.1f} s", tool, Counted(summary.runs, "run"), ControllersText(summary),
+                     RefusedText(summary.refused), TroubleCounts(summary), summary.seconds);
 }
 
 std::string TroubleText(const ToolTrouble& trouble) { return TroubleHead(trouble) + " " + trouble.reason; }
