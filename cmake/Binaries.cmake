@@ -47,8 +47,8 @@ target_link_libraries(plugin_manager PUBLIC hxacore PRIVATE host_interface)
 set_target_properties(plugin_manager PROPERTIES PREFIX "" OUTPUT_NAME plugin SUFFIX .nsp)
 
 # What the system says of itself: to the plug-in, and to the program that records what the plug-in is told.
-add_library(platform_answers STATIC platform/environment_answers.cpp platform/${system}/environment.cpp
-                                    platform/${system}/os_version.cpp platform/${system}/registry.cpp)
+add_library(platform_answers STATIC platform/recorded_system.cpp platform/${system}/os_version.cpp
+                                    platform/${system}/registry.cpp)
 target_link_libraries(platform_answers PUBLIC compile_options)
 
 sources_of(zenx_sources collect tools/qcmdrun tools/arcconf tools/hrconf logs publish platform)

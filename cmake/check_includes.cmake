@@ -40,7 +40,7 @@ may_include(tools/arcconf collect ${host})
 may_include(tools/hrconf collect platform ${host})
 may_include(tools/qcmdrun collect logs platform ${host})
 may_include(publish collect logs ${host})
-may_include(plugin publish collect ${host})
+may_include(plugin publish collect platform/recorded_system.h ${host})
 
 # The host. It shares with the plug-in what the host declares, what describes a system, and constant tables.
 may_include(host/hxacore ${host})

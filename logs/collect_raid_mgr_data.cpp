@@ -8,6 +8,7 @@
 #include "platform/ask_os_version.h"
 #include "platform/native_path.h"
 #include "platform/raid_manager_key.h"
+#include "platform/recorded_system.h"
 #include "platform/registry.h"
 #include "plugin/host_interface/services.h"
 
@@ -71,7 +72,8 @@ bool CollectRaidMgrData::SetRaidMgrPath() {
 bool CollectRaidMgrData::OpenRaidMgrLog() {
   path_ += kFileName;
   const std::string nativePath = NativePath(path_);
-  file_ = TextFile(nativePath);
+  const RecordedSystem* const recorded = AnswersInPlace();
+  file_ = recorded != nullptr ? TextFile(recorded->raidLog) : TextFile(nativePath);
   if (!file_.IsOpen()) {
     // The path ends in the file's name already: it stands twice in this line.
     Log(host_, kLogRoutine, path_ + kFileName + " not found.");

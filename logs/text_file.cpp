@@ -2,26 +2,51 @@
 
 #include "platform/native_path.h"
 
-TextFile::TextFile(const std::string& nativePath) : file_(OpenNativeFile(nativePath)) {}
+TextFile::TextFile(const std::string& nativePath) : file_(std::fopen(nativePath.c_str(), "r")) {}
+
+TextFile::TextFile(const std::optional<std::string>& recorded) {
+  if (recorded) recorded_.emplace(*recorded);
+}
 
 std::string TextFile::ReadLine() {
-  // A line may have NULs in it. Of those in the buffer the last one is the end that fgets writes.
-  std::string line(kLongestLine + 1, ' ');
-  if (!IsOpen() || std::fgets(line.data(), static_cast<int>(line.size()), file_.get()) == nullptr) return {};
-  line.resize(line.rfind('\0'));
-  if (HaveStreamsTextMode()) return line;
+  std::string line = Gets();
+  if (file_ && HaveStreamsTextMode()) return line;
   if (line.ends_with("\r\n")) {
     line.replace(line.size() - 2, 2, "\n");
-  } else if (line.size() == kLongestLine && line.ends_with('\r') && TakeNext('\n')) {
-    line.back() = '\n';
+  } else if (line.size() == kLongestLine && line.ends_with('\r')) {
+    const int next = GetNext();
+    if (next == '\n') {
+      line.back() = '\n';
+    } else {
+      PutBack(next);
+    }
   }
   return line;
 }
 
-// Whether the next character is the one given, which is read then.
-bool TextFile::TakeNext(char character) {
-  const int next = std::getc(file_.get());
-  if (next == static_cast<unsigned char>(character)) return true;
-  std::ungetc(next, file_.get());
-  return false;
+// What fgets gives.
+std::string TextFile::Gets() {
+  std::string line;
+  if (file_) {
+    // A line may have NULs in it. Of those in the buffer the last one is the end that fgets writes.
+    line.resize(kLongestLine + 1, ' ');
+    if (std::fgets(line.data(), static_cast<int>(line.size()), file_.get()) == nullptr) return {};
+    line.resize(line.rfind('\0'));
+  }
+  while (recorded_ && line.size() < kLongestLine && !line.ends_with('\n')) {
+    const int next = GetNext();
+    if (next == EOF) break;
+    line += static_cast<char>(next);
+  }
+  return line;
+}
+
+int TextFile::GetNext() { return file_ ? std::getc(file_.get()) : recorded_->get(); }
+
+void TextFile::PutBack(int character) {
+  if (file_) {
+    std::ungetc(character, file_.get());
+  } else if (character != EOF) {
+    recorded_->unget();
+  }
 }

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
+#include <sstream>
 #include <string>
 
 // A text file that the system opens by a native path, read line by line with the C streams in text mode. Carriage
@@ -17,10 +19,13 @@ class TextFile {
   // Open if the system opens the path for reading.
   explicit TextFile(const std::string& nativePath);
 
-  bool IsOpen() const { return file_ != nullptr; }
+  // What a file held when it was recorded; not open where there was none.
+  explicit TextFile(const std::optional<std::string>& recorded);
+
+  bool IsOpen() const { return file_ || recorded_; }
 
   // Whether a read has run into the end. True only after it has: not yet when a read stopped just before.
-  bool HasMetEnd() const { return IsOpen() && std::feof(file_.get()) != 0; }
+  bool HasMetEnd() const { return file_ ? std::feof(file_.get()) != 0 : recorded_ && recorded_->eof(); }
 
   // The next line with its line feed. "" when there is nothing left, when the file cannot be read further, and when it
   // is not open.
@@ -31,7 +36,10 @@ class TextFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
   };
 
-  bool TakeNext(char character);
+  std::string Gets();
+  int GetNext();
+  void PutBack(int character);
 
   std::unique_ptr<std::FILE, Close> file_;
+  std::optional<std::istringstream> recorded_;  // read as a file is
 };

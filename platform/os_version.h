@@ -7,7 +7,6 @@ struct OsVersion {
   unsigned minor = 0;
 };
 
-// Windows: GetVersionExA, asked again with the basic record when it refuses the extended one. Elsewhere, and
-// where ZENX_PLATFORM says "environment", the environment's ZENX_OS_VERSION, for example "6.1"; unset, it is not a
-// Windows NT system.
+// Windows: GetVersionExA, asked again with the basic record when it refuses the extended one. Elsewhere the
+// environment's ZENX_OS_VERSION, for example "6.1"; unset or empty, it is not a Windows NT system.
 OsVersion GetOsVersion();

@@ -38,6 +38,8 @@ void TZenxCallbacks::Query(boost::shared_ptr<ICIMNamespace> nameSpace,
   RunQuery(ProcessWideState(), host_, *nameSpace, classes);
 }
 
+void TZenxCallbacks::AnswerAs(const RecordedSystem& recorded) { ::AnswerAs(recorded); }
+
 int OnLibraryNotification(unsigned reason) {
   if (reason != kProcessAttach) return 1;
   return new (std::nothrow) TZenxCallbacks != nullptr ? 1 : 0;

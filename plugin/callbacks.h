@@ -4,11 +4,15 @@
 #include <vector>
 
 #include "collect/host_handle.h"
+#include "platform/recorded_system.h"
 #include "plugin/host_interface/plugin_callbacks.h"
 
 // The plug-in as the host sees it. Registers itself with the host's plug-in manager when it is made; from then on it
-// belongs to the host, which releases it.
-class TZenxCallbacks final : public NKVRHXA20::IPluginCallbacks, public NKVRHXA20::IPluginBasicQueryCallbacks {
+// belongs to the host, which releases it. The host calls by position in the first two interfaces; what others may ask
+// for follows them.
+class TZenxCallbacks final : public NKVRHXA20::IPluginCallbacks,
+                             public NKVRHXA20::IPluginBasicQueryCallbacks,
+                             public IReplaysSystem {
  public:
   // Throws TBrokenInvariant when the host has no plug-in manager.
   TZenxCallbacks();
@@ -23,6 +27,9 @@ class TZenxCallbacks final : public NKVRHXA20::IPluginCallbacks, public NKVRHXA2
 
   void Query(boost::shared_ptr<NKVRHXA20::ICIMNamespace> nameSpace,
              const std::vector<boost::shared_ptr<NKVRHXA20::ICIMClass>>& classes) override;
+
+  // To be called before the first query.
+  void AnswerAs(const RecordedSystem& recorded) override;
 
  private:
   HostHandle host_;

@@ -9,7 +9,7 @@
 #include <cfgmgr32.h>
 #include <setupapi.h>
 
-#include "platform/environment_answers.h"
+#include "platform/recorded_system.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ std::vector<std::string> CompatibleIds(HDEVINFO set, SP_DEVINFO_DATA& device) {
 
 std::string LookupSlotDevice(HostHandle host, unsigned slotNumber) {
   std::string found;
-  if (AsksEnvironment()) return found;  // these are not the devices of the machine that answers
+  if (AnswersInPlace() != nullptr) return found;  // the devices here are not those of the machine that answers
   const PresentDevices devices;
   if (!devices.IsValid()) {
     Log(host, kLogRoutine, "Error invalid handle for device info.");

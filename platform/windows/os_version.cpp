@@ -2,10 +2,10 @@
 
 #include <windows.h>
 
-#include "platform/environment_answers.h"
+#include "platform/recorded_system.h"
 
 OsVersion GetOsVersion() {
-  if (AsksEnvironment()) return OsVersionFromEnvironment();
+  if (const RecordedSystem* const recorded = AnswersInPlace()) return recorded->version;
   OSVERSIONINFOEXA version = {};
   auto* const basic = reinterpret_cast<OSVERSIONINFOA*>(&version);
   version.dwOSVersionInfoSize = sizeof(OSVERSIONINFOEXA);

@@ -1,13 +1,17 @@
 #include "platform/registry.h"
 
+#include <string_view>
 #include <vector>
 
 #include <windows.h>
 
-#include "platform/environment_answers.h"
+#include "platform/raid_manager_key.h"
+#include "platform/recorded_system.h"
 
 std::optional<std::string> ReadLocalMachineText(const char* key, const char* value, std::size_t limit) {
-  if (AsksEnvironment()) return RegistryTextFromEnvironment(value, limit);
+  if (const RecordedSystem* const recorded = AnswersInPlace()) {
+    return std::string_view(value) == kRaidLogDirValue ? recorded->raidLogDir : std::nullopt;
+  }
   HKEY opened = nullptr;
   if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, key, 0, KEY_READ, &opened) != ERROR_SUCCESS) return std::nullopt;
   std::vector<char> text(limit);

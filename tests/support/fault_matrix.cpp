@@ -6,10 +6,9 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "platform/environment_answers.h"
+#include "tests/support/recorded_system_setting.h"
 #include "tests/support/sample_text.h"
 #include "tests/support/scripted_services.h"
-#include "tests/support/variable_setting.h"
 
 namespace fault_matrix {
 
@@ -320,7 +319,7 @@ std::size_t ControllerCount(const std::vector<Instance>& instances) {
 
 Published QueryScripted(const Machine& machine, Read read) {
   // Or Windows would list the devices of the machine that runs the test for every slot: thousands of times.
-  const VariableSetting platform(kPlatformVariable, std::string(kEnvironmentPlatform));
+  const RecordedSystemSetting system{RecordedSystem()};
   ScriptedServices scripted;
   HostServices services = CurrentServices();
   Published published;

@@ -16,6 +16,13 @@ Lines Read(std::string_view bytes) {
   Lines lines;
   for (std::string line = file.ReadLine(); !line.empty(); line = file.ReadLine()) lines.push_back(line);
   EXPECT_TRUE(file.HasMetEnd());
+  TextFile recorded{std::optional<std::string>(bytes)};
+  for (const std::string& line : lines) {
+    EXPECT_FALSE(recorded.HasMetEnd());
+    EXPECT_EQ(recorded.ReadLine(), line);
+  }
+  EXPECT_EQ(recorded.ReadLine(), "");
+  EXPECT_TRUE(recorded.HasMetEnd());
   return lines;
 }
 

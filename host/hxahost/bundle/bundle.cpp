@@ -28,6 +28,12 @@ std::string CommandText(const RecordedRun& run) {
   return text;
 }
 
+RecordedSystem SystemOf(const Bundle& bundle) {
+  RecordedSystem system{bundle.osVersion, bundle.raidLogDir, std::nullopt};
+  if (bundle.raidLog) system.raidLog = bundle.raidLog->bytes;
+  return system;
+}
+
 std::size_t ItemCount(const Bundle& bundle) { return bundle.runs.size() + (bundle.raidLog ? 1 : 0); }
 
 }  // namespace hxahost

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/hxacore/spawn_result.h"
-#include "platform/os_version.h"
+#include "platform/recorded_system.h"
 #include "plugin/host_interface/date_time.h"
 
 // A bundle: all that a collection was told by the machine, so that it can be repeated anywhere.
@@ -73,6 +73,9 @@ struct Bundle {
   std::vector<RecordedRun> runs;          // in the order in which they were started
   std::optional<RecordedLog> raidLog;
 };
+
+// What the plug-in is told of the system in a replay.
+RecordedSystem SystemOf(const Bundle& bundle);
 
 // The items of a bundle are counted from 1: the runs, then the log.
 std::size_t ItemCount(const Bundle& bundle);

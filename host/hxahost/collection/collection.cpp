@@ -37,7 +37,6 @@ std::optional<OutputFile> OpenRecord(const fs::path& bundle) {
 Collection::Collection(const CollectionOptions& options, std::ostream& err)
     : isMasked_(options.isMasked),
       replay_(OpenReplay(options.replay)),
-      platform_(replay_ ? std::make_unique<ReplayedPlatform>(replay_->Recorded()) : nullptr),
       osType_(replay_ && !options.hasOsType ? replay_->Recorded().osType : options.osType),
       recordFile_(OpenRecord(options.record)),
       recorder_(recordFile_ ? std::make_unique<BundleRecorder>(osType_, ToolDirectory()) : nullptr),
@@ -48,7 +47,10 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
       services_(replay_ ? replay_->Services() : RealServices(), options, log_, runs_, progress_.get(), recorder_.get()),
       plugin_(options.plugin.empty() ? ProgramFolder() / "zenx.pi" : options.plugin),
       repository_(TRepository::Make(osType_)) {
-  if (replay_) return;
+  if (replay_) {
+    plugin_.AnswerAs(SystemOf(replay_->Recorded()));
+    return;
+  }
   const std::string warning = WritableToolsWarning(fs::current_path());
   if (!warning.empty()) err << "hxahost: " << warning << std::endl;
   lock_.emplace("zenx", err);
@@ -95,9 +97,12 @@ void Collection::SaveRecording() {
   if (!recorder_) return;
   Bundle bundle = recorder_->Recorded();
   if (replay_) {
-    // What the plug-in was given in the log's place is nobody's log.
-    if (bundle.raidLog) bundle.raidLog = replay_->Recorded().raidLog;
-    bundle.isMasked = replay_->Recorded().isMasked;
+    // The system and the log are those of the machine that was recorded.
+    const Bundle& played = replay_->Recorded();
+    bundle.osVersion = played.osVersion;
+    bundle.raidLogDir = played.raidLogDir;
+    if (bundle.raidLog) bundle.raidLog = played.raidLog;
+    bundle.isMasked = played.isMasked;
   }
   if (isMasked_) bundle = MaskBundle(bundle, SystemRandom());
   recordFile_->Stream() << WriteBundle(bundle);

@@ -10,7 +10,6 @@
 #include "host/hxacore/repository.h"
 #include "host/hxahost/bundle/bundle_recorder.h"
 #include "host/hxahost/bundle/bundle_replay.h"
-#include "host/hxahost/bundle/replayed_platform.h"
 #include "host/hxahost/collection/collection_lock.h"
 #include "host/hxahost/collection/collection_options.h"
 #include "host/hxahost/collection/collection_services.h"
@@ -48,7 +47,6 @@ class Collection {
 
   bool isMasked_;
   std::optional<BundleReplay> replay_;
-  std::unique_ptr<ReplayedPlatform> platform_;
   std::optional<std::uint16_t> osType_;
   std::optional<OutputFile> recordFile_;
   std::unique_ptr<BundleRecorder> recorder_;

@@ -43,6 +43,15 @@ Plugin::~Plugin() {
   SetPluginManager(nullptr);
 }
 
+void Plugin::AnswerAs(const RecordedSystem& recorded) {
+  auto* const replays = dynamic_cast<IReplaysSystem*>(query_);
+  if (replays == nullptr) {
+    throw ProgramError(ExitStatus::kPluginNotLoaded,
+                       "The plug-in cannot replay a bundle: give the path of zenx.pi with --plugin.");
+  }
+  replays->AnswerAs(recorded);
+}
+
 void Plugin::Query(const boost::shared_ptr<ICIMNamespace>& nameSpace,
                    const std::vector<boost::shared_ptr<ICIMClass>>& classes) {
   const std::lock_guard lock(oneAtATime_);

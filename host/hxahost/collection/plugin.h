@@ -6,6 +6,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "platform/recorded_system.h"
 #include "plugin/host_interface/cim.h"
 #include "plugin/host_interface/plugin_manager.h"
 
@@ -19,6 +20,9 @@ class Plugin {
   ~Plugin();
   Plugin(const Plugin&) = delete;
   Plugin& operator=(const Plugin&) = delete;
+
+  // Has it take a recorded system's answers for those of this one. Throws ProgramError where it cannot.
+  void AnswerAs(const RecordedSystem& recorded);
 
   // Has it publish the classes, in their order; plug-ins count on one thread at a time, so further ones wait. What it
   // throws passes on.

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/os_version.h"
+
+// What the system of a machine answered when a collection was recorded on it.
+struct RecordedSystem {
+  OsVersion version;
+  std::optional<std::string> raidLogDir;  // the registry's value; nothing: it has none
+  std::optional<std::string> raidLog;     // the bytes of the RAID manager's log; nothing: it cannot be opened
+};
+
+// From here on it answers in the place of the system, to all that this library asks; nothing: the system answers.
+void AnswerAs(std::optional<RecordedSystem> recorded);
+
+// What answers in the place of the system; null where the system does.
+const RecordedSystem* AnswersInPlace();
+
+// What a plug-in offers to a host that replays, beside the host's interface. Other hosts do not ask for it.
+class IReplaysSystem {
+ public:
+  virtual void AnswerAs(const RecordedSystem& recorded) = 0;
+
+ protected:
+  ~IReplaysSystem() = default;
+};
