@@ -31,8 +31,8 @@ set_target_properties(planted_library PROPERTIES PREFIX "" OUTPUT_NAME planted S
 sources_of(test_support_sources tests/support)
 add_library(test_support OBJECT ${test_support_sources} tests/main.cpp)
 target_link_libraries(test_support PUBLIC zenx_objects hxahost_objects test_framework)
-target_compile_definitions(test_support PUBLIC ZENX_SAMPLES="${CMAKE_SOURCE_DIR}/samples"
-                                               ZENX_TEST_DATA="${CMAKE_SOURCE_DIR}/tests")
+set_source_files_properties(tests/support/source_folder.cpp PROPERTIES
+                            COMPILE_DEFINITIONS ZENX_SOURCE_FOLDER="${CMAKE_SOURCE_DIR}")
 
 find_program(ZENX_LLD ld.lld-14)
 foreach(level unit host end_to_end)

@@ -20,6 +20,7 @@
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 #include "tests/support/same_lines.h"
+#include "tests/support/source_folder.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ using testing::Not;
 
 constexpr const char* kRaidLogFolder = "raid-manager\\";
 
-fs::path Golden(const std::string& name) { return fs::path(ZENX_TEST_DATA) / "golden" / name; }
+fs::path Golden(const std::string& name) { return SourceFile("tests/golden") / name; }
 
 class Bundles : public testing::Test {
  protected:

@@ -14,6 +14,7 @@
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"
+#include "tests/support/source_folder.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -170,7 +171,7 @@ class UsageErrors : public testing::Test {
         {kUnderFile, "file/out"   },
     };
     for (std::string& argument : arguments) {
-      if (argument == kBundle) argument = ZENX_TEST_DATA "/golden/one-controller.bundle";
+      if (argument == kBundle) argument = Utf8FromPath(SourceFile("tests/golden/one-controller.bundle"));
       for (const auto& [mark, path] : marks) {
         if (argument == mark) argument = Utf8FromPath(folder_.Path() / path);
       }

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "tests/support/file_text.h"
+#include "tests/support/source_folder.h"
 
 namespace {
 
@@ -51,7 +52,7 @@ testing::AssertionResult SameText(const std::string& expected, const std::string
 }
 
 testing::AssertionResult IsGolden(const std::string& name, const std::string& text) {
-  const std::filesystem::path file = std::filesystem::path(ZENX_TEST_DATA) / "golden" / name;
+  const std::filesystem::path file = SourceFile("tests/golden") / name;
   if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) WriteFileText(file, text);
   return SameText(FileText(file), text);
 }

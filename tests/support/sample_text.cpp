@@ -5,13 +5,14 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "tests/support/source_folder.h"
 #include "tests/support/tool_text.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kAnswers = ZENX_SAMPLES "/machine/zenx/answers";
+const fs::path kAnswers = SourceFile("samples/machine/zenx/answers");
 
 // "getconfig-al" for controller 1 is the command "getconfig 1 al", "getstatus" is "getstatus 1".
 std::string CommandLine(const std::string& name, const std::string& number) {

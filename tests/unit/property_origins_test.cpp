@@ -12,6 +12,7 @@
 
 #include "host/hxacore/schema.h"
 #include "tests/support/file_text.h"
+#include "tests/support/source_folder.h"
 
 namespace {
 
@@ -38,7 +39,7 @@ constexpr Tool kTools[] = {
     {"arcconf", &PropertyOrigin::arcconf},
 };
 
-fs::path Sources() { return fs::path(ZENX_TEST_DATA).parent_path(); }
+fs::path Sources() { return SourceFile(""); }
 
 // Everything that the folder's sources say.
 std::string SourceText(const fs::path& folder) {

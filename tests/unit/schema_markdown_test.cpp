@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include "tests/support/file_text.h"
+#include "tests/support/source_folder.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ std::string Page(std::span<const ClassDeclaration> classes) {
 }
 
 TEST(SchemaMarkdown, IsThePageOfTheDocumentation) {
-  const std::filesystem::path page = std::filesystem::path(ZENX_TEST_DATA).parent_path() / "docs" / "classes.md";
+  const std::filesystem::path page = SourceFile("docs/classes.md");
   const std::string written = Page(PublishedClasses());
   if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) WriteFileText(page, written);
   EXPECT_EQ(written, FileText(page)) << "ZENX_RENEW_GOLDEN=1 renews it";

@@ -6,6 +6,7 @@
 #include "host/hxahost/bundle/bundle_format.h"
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"
+#include "tests/support/source_folder.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ using namespace hxahost;
 
 // The worked example of the description, between the fences that begin with ```bundle.
 std::string DocumentedExample() {
-  const std::string page = FileText(std::filesystem::path(ZENX_TEST_DATA).parent_path() / "docs" / "bundle-format.md");
+  const std::string page = FileText(SourceFile("docs/bundle-format.md"));
   constexpr std::string_view kFence = "```bundle\n";
   const std::size_t begin = page.find(kFence) + kFence.size();
   return page.substr(begin, page.find("```", begin) - begin);
