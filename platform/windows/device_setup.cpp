@@ -1,84 +1,76 @@
 #include "platform/device_setup.h"
 
 #include <new>
-#include <string_view>
 #include <vector>
 
-#include <windows.h>
-
-#include <cfgmgr32.h>
-#include <setupapi.h>
-
 #include "platform/recorded_system.h"
+#include "platform/windows/setup_api.h"
 
 namespace {
 
 // All present devices of all classes, for as long as it lives.
 class PresentDevices {
  public:
-  PresentDevices() : set_(SetupDiGetClassDevsA(nullptr, nullptr, nullptr, DIGCF_PRESENT | DIGCF_ALLCLASSES)) {}
+  explicit PresentDevices(const SetupApi& api)
+      : api_(api), set_(api.getDevices(nullptr, nullptr, nullptr, DIGCF_PRESENT | DIGCF_ALLCLASSES)) {}
   ~PresentDevices() {
-    if (IsValid()) SetupDiDestroyDeviceInfoList(set_);
+    if (IsValid()) api_.destroyList(set_);
   }
   PresentDevices(const PresentDevices&) = delete;
   PresentDevices& operator=(const PresentDevices&) = delete;
 
   bool IsValid() const { return set_ != INVALID_HANDLE_VALUE; }
-  HDEVINFO Set() const { return set_; }
+  bool Get(DWORD index, SP_DEVINFO_DATA& device) const { return api_.enumerate(set_, index, &device); }
+  bool Property(SP_DEVINFO_DATA& device, DWORD property, void* buffer, DWORD size, DWORD* needed = nullptr) const {
+    return api_.getProperty(set_, &device, property, nullptr, static_cast<PBYTE>(buffer), size, needed);
+  }
 
  private:
+  const SetupApi& api_;
   HDEVINFO set_;
 };
 
-bool StandsInSlot(HDEVINFO set, SP_DEVINFO_DATA& device, unsigned slotNumber) {
+bool IsInSlot(const PresentDevices& devices, SP_DEVINFO_DATA& device, unsigned slotNumber) {
   DWORD uiNumber = 0;
-  return SetupDiGetDeviceRegistryPropertyA(set, &device, SPDRP_UI_NUMBER, nullptr, reinterpret_cast<PBYTE>(&uiNumber),
-                                           sizeof(uiNumber), nullptr) &&
-         uiNumber == slotNumber;
+  return devices.Property(device, SPDRP_UI_NUMBER, &uiNumber, sizeof(uiNumber)) && uiNumber == slotNumber;
 }
 
-// The list is one block: texts with their ends, one behind the other. Nothing uses it; what a log may show of it is
-// that there was no memory for it, a sign of a machine in trouble.
-std::vector<std::string> CompatibleIds(HDEVINFO set, SP_DEVINFO_DATA& device) {
+// Nothing uses the list. What a log may show of it is that there was no memory for it, a sign of a machine in trouble.
+void ReadCompatibleIds(const PresentDevices& devices, SP_DEVINFO_DATA& device) {
   DWORD size = 0;
-  SetupDiGetDeviceRegistryPropertyA(set, &device, SPDRP_COMPATIBLEIDS, nullptr, nullptr, 0, &size);
-  std::vector<char> block(size);
-  std::vector<std::string> ids;
-  if (size == 0 || !SetupDiGetDeviceRegistryPropertyA(set, &device, SPDRP_COMPATIBLEIDS, nullptr,
-                                                      reinterpret_cast<PBYTE>(block.data()), size, nullptr)) {
-    return ids;
-  }
-  const std::string_view texts(block.data(), block.size());
-  for (std::size_t begin = 0; begin < texts.size() && texts[begin] != '\0'; begin += ids.back().size() + 1) {
-    ids.emplace_back(texts.substr(begin, texts.find('\0', begin) - begin));
-  }
-  return ids;
+  devices.Property(device, SPDRP_COMPATIBLEIDS, nullptr, 0, &size);
+  std::vector<char> texts(size);
+  if (size > 0) devices.Property(device, SPDRP_COMPATIBLEIDS, texts.data(), size);
 }
 
 }  // namespace
 
-std::string LookupSlotDevice(HostHandle host, unsigned slotNumber) {
+std::string LookupSlotDevice(HostHandle host, unsigned slotNumber, const SetupApi& api) {
   std::string found;
-  if (AnswersInPlace() != nullptr) return found;  // the devices here are not those of the machine that answers
-  const PresentDevices devices;
+  const PresentDevices devices(api);
   if (!devices.IsValid()) {
     Log(host, kLogRoutine, "Error invalid handle for device info.");
     return found;
   }
   SP_DEVINFO_DATA device = {};
   device.cbSize = sizeof(device);
-  for (DWORD index = 0; SetupDiEnumDeviceInfo(devices.Set(), index, &device); ++index) {
-    if (!StandsInSlot(devices.Set(), device, slotNumber)) continue;
+  for (DWORD index = 0; devices.Get(index, device); ++index) {
+    if (!IsInSlot(devices, device, slotNumber)) continue;
     try {
-      CompatibleIds(devices.Set(), device);
+      ReadCompatibleIds(devices, device);
     } catch (const std::bad_alloc&) {
       Log(host, kLogRoutine, "Error could not allocate memory.");
     }
     char identifier[100] = {};
-    if (CM_Get_Device_IDA(device.DevInst, identifier, sizeof(identifier), 0) == CR_SUCCESS) {
+    if (api.getIdentifier(device.DevInst, identifier, sizeof(identifier), 0) == CR_SUCCESS) {
       identifier[sizeof(identifier) - 1] = '\0';
       found = identifier;
     }
   }
   return found;
+}
+
+std::string LookupSlotDevice(HostHandle host, unsigned slotNumber) {
+  if (AnswersInPlace() != nullptr) return {};  // the devices here are not those of the machine that answers
+  return LookupSlotDevice(host, slotNumber, SetupApi());
 }
