@@ -43,59 +43,34 @@ constexpr int kDriveDisks = 10;  // of a logical drive
 std::string Text(int number) { return std::to_string(number); }
 
 void PublishController(FilledRepository& repository, int controller) {
-  repository.Publish("KVRSG_zxSCSIProtocolController", {
-                                                           {"DeviceID",         "Zentraxis" + Text(controller)},
-                                                           {"ControllerNum",    Text(controller)              },
-                                                           {"ControllerType",   "Type"                        },
-                                                           {"ControllerStatus", "Optimal"                     },
-  });
+  repository.Publish("KVRSG_zxSCSIProtocolController", "DeviceID", "Zentraxis" + Text(controller), "ControllerNum",
+                     Text(controller), "ControllerType", "Type", "ControllerStatus", "Optimal");
 }
 
 void PublishDisk(FilledRepository& repository, int controller, int channel, int id) {
-  repository.Publish("KVRSG_zxDiskDrive",
-                     {
-                         {"DeviceID",        "C" + Text(controller) + " CH" + Text(channel) + " I" + Text(id) + ":disk"},
-                         {"ControllerNum",   Text(controller)                                                          },
-                         {"Channel",         Text(channel)                                                             },
-                         {"DeviceNumber",    "Device #" + Text(id)                                                     },
-                         {"ScsiId",          Text(id)                                                                  },
-                         {"DeviceType",      "Hard drive"                                                              },
-                         {"PFA",             "No"                                                                      },
-                         {"State",           id == 7 ? "Failed" : "Online"                                             },
-                         {"Size",            "70007 MB"                                                                },
-                         {"DeviceSerialNum", "S" + Text(controller) + "-" + Text(channel) + "-" + Text(id)             },
-                         {"Firmware",        "1.0"                                                                     },
-                         {"Vendor",          "VENDOR"                                                                  },
-                         {"Model",           "MODEL 70"                                                                },
-  });
+  repository.Publish("KVRSG_zxDiskDrive", "DeviceID",
+                     "C" + Text(controller) + " CH" + Text(channel) + " I" + Text(id) + ":disk", "ControllerNum",
+                     Text(controller), "Channel", Text(channel), "DeviceNumber", "Device #" + Text(id), "ScsiId",
+                     Text(id), "DeviceType", "Hard drive", "PFA", "No", "State", id == 7 ? "Failed" : "Online", "Size",
+                     "70007 MB", "DeviceSerialNum", "S" + Text(controller) + "-" + Text(channel) + "-" + Text(id),
+                     "Firmware", "1.0", "Vendor", "VENDOR", "Model", "MODEL 70");
 }
 
 void PublishEvent(FilledRepository& repository, int controller, int channel, int id) {
   const auto part = [](int number) { return static_cast<std::uint16_t>(number); };
   const TCIMDateTime time(part(2000 + controller), part(1 + channel), part(1 + id % 28), 12, 0, 0, 0, 60);
-  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent",
-                     {
-                         {"MessageTimestamp", time                                                   },
-                         {"RecordID",         Text(controller) + "-" + Text(channel) + "-" + Text(id)},
-                         {"Severity",         id == 7 ? "ERR" : "INF"                                },
-                         {"MachineName",      "MACHINE"                                              },
-                         {"Message",          "Event of disk " + Text(id)                            },
-  });
+  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", "MessageTimestamp", time, "RecordID",
+                     Text(controller) + "-" + Text(channel) + "-" + Text(id), "Severity", id == 7 ? "ERR" : "INF",
+                     "MachineName", "MACHINE", "Message", "Event of disk " + Text(id));
 }
 
 void PublishDrive(FilledRepository& repository, int controller, int channel, int firstId) {
   const std::string drive = Text(1 + (channel * kDisks + firstId) / kDriveDisks);
   std::string disks;
   for (int id = firstId; id < firstId + kDriveDisks; ++id) disks += Text(channel) + "," + Text(id) + " ";
-  repository.Publish("KVRSG_zxLogicalDisk", {
-                                                {"DeviceID",           "Zentraxis" + Text(controller) + "LD" + drive},
-                                                {"ControllerNum",      Text(controller)                             },
-                                                {"LogicalDriveNum",    drive                                        },
-                                                {"LogicalDriveStatus", "Optimal"                                    },
-                                                {"NumOfSegments",      Text(kDriveDisks)                            },
-                                                {"RaidLevel",          "5"                                          },
-                                                {"DriveList",          disks                                        },
-  });
+  repository.Publish("KVRSG_zxLogicalDisk", "DeviceID", "Zentraxis" + Text(controller) + "LD" + drive, "ControllerNum",
+                     Text(controller), "LogicalDriveNum", drive, "LogicalDriveStatus", "Optimal", "NumOfSegments",
+                     Text(kDriveDisks), "RaidLevel", "5", "DriveList", disks);
 }
 
 // Ten controllers with 200 disks each, an event for every disk and a logical drive on every ten.
@@ -146,10 +121,7 @@ InstanceList HostileMachine() {
     }
   }
   const TCIMDateTime noDay(2026, 0, 99, 12, 0, 0, 0, 60);
-  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", {
-                                                         {"RecordID",         "0"  },
-                                                         {"MessageTimestamp", noDay},
-  });
+  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", "RecordID", "0", "MessageTimestamp", noDay);
   return repository.Instances();
 }
 

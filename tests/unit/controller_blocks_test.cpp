@@ -25,53 +25,19 @@ std::string Blocks(const FilledRepository& repository, const std::vector<std::st
 
 TEST(ControllerBlocks, ShowAControllerWithAllThatHangsOnIt) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ControllerNum",           "1"           },
-                                      {"ControllerType",          "Zentraxis-6M"},
-                                      {"ControllerStatus",        "Okay"        },
-                                      {"SerialNum",               "8A1234"      },
-                                      {"ControllerSlotInfo",      "3"           },
-                                      {"DefunctDiskDriveCnt",     "1"           },
-                                      {"ControllerBatteryStatus", "Charging"    },
-  });
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum",   "1"         },
-                                     {"Channel",         "0"         },
-                                     {"ScsiId",          "3"         },
-                                     {"DeviceType",      "Hard disk" },
-                                     {"PFA",             "No"        },
-                                     {"State",           "Online"    },
-                                     {"Size",            "34715 MB"  },
-                                     {"DeviceSerialNum", "3KR0123"   },
-                                     {"Firmware",        "B26A"      },
-                                     {"Model",           "ST336607LC"},
-  });
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum",   "1"                                 },
-                                     {"Channel",         "0"                                 },
-                                     {"ScsiId",          "4"                                 },
-                                     {"DeviceType",      "Hard disk"                         },
-                                     {"PFA",             "Yes"                               },
-                                     {"State",           "Defunct for a very, very long time"},
-                                     {"Size",            "34715 MB"                          },
-                                     {"DeviceSerialNum", "3KR0124"                           },
-                                     {"Firmware",        "B26A"                              },
-                                     {"Model",           "ST336607LC"                        },
-  });
-  repository.Publish(kLogicalDisk, {
-                                       {"ControllerNum",      "1"             },
-                                       {"LogicalDriveNum",    "1"             },
-                                       {"LogicalDriveStatus", "Critical (CRT)"},
-                                       {"RaidLevel",          "5"             },
-                                       {"Size",               "69430 MB"      },
-                                       {"LogicalDriveName",   "data"          },
-  });
-  repository.Publish(kDiskGroup, {
-                                     {"CollectionID",  "Zentraxis1ArrayA"},
-                                     {"Array",         "A"               },
-                                     {"ControllerNum", "1"               },
-                                     {"StripeOrder",   "0,3 0,4"         },
-  });
+  repository.Publish(kController, "ControllerNum", "1", "ControllerType", "Zentraxis-6M", "ControllerStatus", "Okay",
+                     "SerialNum", "8A1234", "ControllerSlotInfo", "3", "DefunctDiskDriveCnt", "1",
+                     "ControllerBatteryStatus", "Charging");
+  repository.Publish(kDiskDrive, "ControllerNum", "1", "Channel", "0", "ScsiId", "3", "DeviceType", "Hard disk", "PFA",
+                     "No", "State", "Online", "Size", "34715 MB", "DeviceSerialNum", "3KR0123", "Firmware", "B26A",
+                     "Model", "ST336607LC");
+  repository.Publish(kDiskDrive, "ControllerNum", "1", "Channel", "0", "ScsiId", "4", "DeviceType", "Hard disk", "PFA",
+                     "Yes", "State", "Defunct for a very, very long time", "Size", "34715 MB", "DeviceSerialNum",
+                     "3KR0124", "Firmware", "B26A", "Model", "ST336607LC");
+  repository.Publish(kLogicalDisk, "ControllerNum", "1", "LogicalDriveNum", "1", "LogicalDriveStatus", "Critical (CRT)",
+                     "RaidLevel", "5", "Size", "69430 MB", "LogicalDriveName", "data");
+  repository.Publish(kDiskGroup, "CollectionID", "Zentraxis1ArrayA", "Array", "A", "ControllerNum", "1", "StripeOrder",
+                     "0,3 0,4");
   EXPECT_EQ(Blocks(repository), R"(
 Controller 1: Zentraxis-6M - Okay
   serial 8A1234, slot 3
@@ -91,13 +57,8 @@ Controller 1: Zentraxis-6M - Okay
 
 TEST(ControllerBlocks, ShowWhatHangsOnAControllerThatHasNoInstance) {
   FilledRepository repository;
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum", "2"},
-                                     {"Channel",       "1"},
-  });
-  repository.Publish(kController, {
-                                      {"ControllerNum", "1"}
-  });
+  repository.Publish(kDiskDrive, "ControllerNum", "2", "Channel", "1");
+  repository.Publish(kController, "ControllerNum", "1");
   EXPECT_EQ(Blocks(repository), R"(
 Controller 1
 
@@ -116,26 +77,15 @@ Controller 2 (controllers were not asked for)
 
 TEST(ControllerBlocks, ShowTwoInstancesOfOneNumber) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ControllerNum",  "1"},
-                                      {"ControllerType", "A"}
-  });
-  repository.Publish(kController, {
-                                      {"ControllerNum",  "1"},
-                                      {"ControllerType", "B"}
-  });
+  repository.Publish(kController, "ControllerNum", "1", "ControllerType", "A");
+  repository.Publish(kController, "ControllerNum", "1", "ControllerType", "B");
   EXPECT_EQ(Blocks(repository), "\nController 1: A\nController 1: B\n");
 }
 
 TEST(ControllerBlocks, BreakTheFactsBetweenTwoOfThem) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ControllerNum",  "1"            },
-                                      {"ControllerName", std::string(60,  'n')},
-                                      {"SerialNum",                std::string(30,                     's')},
-                                      {"ControllerSlotInfo",            std::string(200,       'i')},
-                                      {"InstalledMemory","128 MB"},
-  });
+  repository.Publish(kController, "ControllerNum", "1", "ControllerName", std::string(60, 'n'), "SerialNum",
+                     std::string(30, 's'), "ControllerSlotInfo", std::string(200, 'i'), "InstalledMemory", "128 MB");
   EXPECT_EQ(Blocks(repository), "\nController 1\n  name " + std::string(60, 'n') + ",\n  serial " +
                                     std::string(30, 's') + ",\n  slot " + std::string(91, 'i') +
                                     "\u2026,\n  memory 128 MB\n");
@@ -143,16 +93,9 @@ TEST(ControllerBlocks, BreakTheFactsBetweenTwoOfThem) {
 
 TEST(ControllerBlocks, NeverSendAControlCharacterToATerminal) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ControllerNum",    "\x1b[1m"},
-                                      {"ControllerType",   "\x1b[2m"},
-                                      {"ControllerStatus", "\x07"   },
-                                      {"SerialNum",        "a\nb"   }
-  });
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum", "\x1b[1m"},
-                                     {"Model",         "\x9b"   }
-  });
+  repository.Publish(kController, "ControllerNum", "\x1b[1m", "ControllerType", "\x1b[2m", "ControllerStatus", "\x07",
+                     "SerialNum", "a\nb");
+  repository.Publish(kDiskDrive, "ControllerNum", "\x1b[1m", "Model", "\x9b");
   EXPECT_EQ(Blocks(repository), R"(
 Controller \x1b[1m: \x1b[2m - \x07
   serial a\nb
@@ -164,27 +107,10 @@ Controller \x1b[1m: \x1b[2m - \x07
 
 TEST(ControllerBlocks, AreTwoWhereTwoToolsGiveOneNumber) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ControllerNum",  "3"     },
-                                      {"ReadAhead",      "On"    },
-                                      {"ControllerType", "Legacy"}
-  });
-  repository.Publish(kController,
-                     {
-                         {"ControllerNum",      "3"      },
-                         {"ChannelDescription", "SAS"    },
-                         {"ControllerStatus",   "Optimal"}
-  });
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum", "3"  },
-                                     {"ScsiId",        "1"  },
-                                     {"Model",         "OLD"}
-  });
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum", "3"  },
-                                     {"DeviceNumber",  "0"  },
-                                     {"Model",         "NEW"}
-  });
+  repository.Publish(kController, "ControllerNum", "3", "ReadAhead", "On", "ControllerType", "Legacy");
+  repository.Publish(kController, "ControllerNum", "3", "ChannelDescription", "SAS", "ControllerStatus", "Optimal");
+  repository.Publish(kDiskDrive, "ControllerNum", "3", "ScsiId", "1", "Model", "OLD");
+  repository.Publish(kDiskDrive, "ControllerNum", "3", "DeviceNumber", "0", "Model", "NEW");
   const std::string blocks = Blocks(repository);
   const std::size_t legacy = blocks.find("\nController 3 (qcmdrun): Legacy\n");
   const std::size_t newer = blocks.find("\nController 3 (hrconf_64) - Optimal\n");

@@ -6,73 +6,51 @@
 
 namespace {
 
-using Properties = std::vector<std::pair<std::string, NKVRHXA20::TCIMValue>>;
+constexpr const char* kController = "KVRSG_zxSCSIProtocolController";
+constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
+constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
-struct Case {
-  const char* description;
-  const char* className;
-  Properties properties;
-  const char* identifier;
-  const char* name;
-};
+// Of an instance of controller 1 with these properties: names and values in turn.
+template <class... Properties>
+std::string Name(const std::string& owner, const char* className, const Properties&... properties) {
+  FilledRepository repository;
+  repository.Publish(className, "ControllerNum", "1", properties...);
+  return hxahost::NameOf(*repository.Instances().front(), owner);
+}
+
+template <class... Properties>
+std::string Identifier(const char* className, const Properties&... properties) {
+  FilledRepository repository;
+  repository.Publish(className, properties...);
+  return hxahost::IdentifierOf(*repository.Instances().front());
+}
 
 TEST(DeviceNames, AreWhatPeopleCallTheDevices) {
-  const Case cases[] = {
-      {"controller with a model",
-       "KVRSG_zxSCSIProtocolController",                        {{"DeviceID", "Zentraxis1"}, {"ControllerNum", "1"}, {"ControllerType", "Zentraxis C5"}},
-       "Zentraxis1",                                                                                                                                                             "controller 1 (Zentraxis C5)"                 },
-      {"controller without a model",
-       "KVRSG_zxSCSIProtocolController",                        {{"DeviceID", "Zentraxis1"}, {"ControllerNum", "1"}},
-       "Zentraxis1",                                                                                                                                                             "controller 1"                                },
-      {"logical drive with a name",
-       "KVRSG_zxLogicalDisk",                                   {{"DeviceID", "Zentraxis1LD2"},
-        {"ControllerNum", "1"},
-        {"LogicalDriveNum", "2"},
-        {"LogicalDriveName", " Data "}},
-       "Zentraxis1LD2",                                                                                                                                                          "logical drive 2 (Data) of controller 1"      },
-      {"disk",
-       "KVRSG_zxDiskDrive",                                     {{"DeviceID", "D"}, {"ControllerNum", "1"}, {"Channel", "0"}, {"ScsiId", "8"}, {"DeviceType", "Hard disk"}},
-       "D",                                                                                                                                                                      "Hard disk at channel 0, ID 8 of controller 1"},
-      {"disk whose place is reported whole",
-       "KVRSG_zxDiskDrive",                                     {{"DeviceID", "D"}, {"ControllerNum", "1"}, {"DeviceType", "Hard drive"}, {"ReportedChannel", "0,2"}},
-       "D",                                                                                                                                                                      "Hard drive at channel,ID 0,2 of controller 1"},
-      {"device with a number alone",
-       "KVRSG_zxDiskDrive",                                     {{"DeviceID", "D"}, {"ControllerNum", "1"}, {"DeviceNumber", "Device #12"}},
-       "D",                                                                                                                                                                      "device at number 12 of controller 1"         },
-      {"bad stripes",
-       "KVRSG_BadStripeData",                                   {{"InstanceID", "B"}, {"ControllerNum", "1"}, {"LogicalDrive", "3"}},
-       "B",                                                                                                                                                                      "logical drive 3 of controller 1"             },
-      {"counters of a device",
-       "KVRSG_zxSCSIDeviceData",                                {{"InstanceID", "S"}, {"ControllerNum", "1"}, {"Channel", "2"}, {"ScsiId", "4"}},
-       "S",                                                                                                                                                                      "device at channel 2, ID 4 of controller 1"   },
-      {"no device",                          "KVRSG_zxRawData", {{"Command", "C"}},                                                                                          "", ""                                            },
-  };
-  for (const Case& each : cases) {
-    FilledRepository repository;
-    repository.Publish(each.className, each.properties);
-    const auto instance = repository.Instances().front();
-    EXPECT_EQ(hxahost::IdentifierOf(*instance), each.identifier) << each.description;
-    EXPECT_EQ(hxahost::NameOf(*instance, ""), each.name) << each.description;
-  }
+  EXPECT_EQ(Name("", kController, "ControllerType", "Zentraxis C5"), "controller 1 (Zentraxis C5)");
+  EXPECT_EQ(Name("", kController), "controller 1");
+  EXPECT_EQ(Name("", kLogicalDisk, "LogicalDriveNum", "2", "LogicalDriveName", " Data "),
+            "logical drive 2 (Data) of controller 1");
+  EXPECT_EQ(Name("", kDiskDrive, "Channel", "0", "ScsiId", "8", "DeviceType", "Hard disk"),
+            "Hard disk at channel 0, ID 8 of controller 1");
+  EXPECT_EQ(Name("", kDiskDrive, "DeviceType", "Hard drive", "ReportedChannel", "0,2"),
+            "Hard drive at channel,ID 0,2 of controller 1");
+  EXPECT_EQ(Name("", kDiskDrive, "DeviceNumber", "Device #12"), "device at number 12 of controller 1");
+  EXPECT_EQ(Name("", "KVRSG_BadStripeData", "LogicalDrive", "3"), "logical drive 3 of controller 1");
+  EXPECT_EQ(Name("", "KVRSG_zxSCSIDeviceData", "Channel", "2", "ScsiId", "4"),
+            "device at channel 2, ID 4 of controller 1");
+  EXPECT_EQ(Name("", "KVRSG_zxDiskGroup"), "");
 }
 
 TEST(DeviceNames, SayWhatTellsTheControllerFromAnotherOfItsNumber) {
-  FilledRepository repository;
-  repository.Publish("KVRSG_zxSCSIProtocolController", {
-                                                           {"ControllerNum",  "3" },
-                                                           {"ControllerType", "C6"}
-  });
-  repository.Publish("KVRSG_zxSCSIProtocolController", {
-                                                           {"ControllerNum", "3"}
-  });
-  repository.Publish("KVRSG_zxLogicalDisk", {
-                                                {"ControllerNum",   "3"},
-                                                {"LogicalDriveNum", "1"}
-  });
-  const auto instances = repository.Instances();
-  EXPECT_EQ(hxahost::NameOf(*instances[0], "3 (arcconf)"), "controller 3 (arcconf, C6)");
-  EXPECT_EQ(hxahost::NameOf(*instances[1], "3 (arcconf)"), "controller 3 (arcconf)");
-  EXPECT_EQ(hxahost::NameOf(*instances[2], "3 (arcconf)"), "logical drive 1 of controller 3 (arcconf)");
+  EXPECT_EQ(Name("3 (arcconf)", kController, "ControllerType", "C6"), "controller 3 (arcconf, C6)");
+  EXPECT_EQ(Name("3 (arcconf)", kController), "controller 3 (arcconf)");
+  EXPECT_EQ(Name("3 (arcconf)", kLogicalDisk, "LogicalDriveNum", "1"), "logical drive 1 of controller 3 (arcconf)");
+}
+
+TEST(DeviceNames, AreOfWhatTheirIdentifierIdentifies) {
+  EXPECT_EQ(Identifier(kController, "DeviceID", "Zentraxis1"), "Zentraxis1");
+  EXPECT_EQ(Identifier("KVRSG_BadStripeData", "InstanceID", "B"), "B");
+  EXPECT_EQ(Identifier("KVRSG_zxRawData", "Command", "C"), "");
 }
 
 }  // namespace

@@ -27,21 +27,10 @@ constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
 TEST(DeviceOwners, AreNumbersAloneWhereEachIsOfOneTool) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ControllerNum", "1" },
-                                      {"ReadAhead",     "On"}
-  });
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum", "1"},
-                                     {"ScsiId",        "0"}
-  });
-  repository.Publish(kController, {
-                                      {"ControllerNum", "2" },
-                                      {"SerialNum",     "8A"}
-  });
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command", "c"}
-  });
+  repository.Publish(kController, "ControllerNum", "1", "ReadAhead", "On");
+  repository.Publish(kDiskDrive, "ControllerNum", "1", "ScsiId", "0");
+  repository.Publish(kController, "ControllerNum", "2", "SerialNum", "8A");
+  repository.Publish("KVRSG_zxRawData", "Command", "c");
   EXPECT_THAT(Labels(repository), ElementsAre("1", "1", "2", ""));
 }
 
@@ -69,14 +58,8 @@ TEST(DeviceOwners, NameTheToolWhereTwoShareANumber) {
   };
   for (const Case& each : cases) {
     FilledRepository repository;
-    repository.Publish(kController, {
-                                        {"ControllerNum", "3" },
-                                        {"ReadAhead",     "On"}
-    });
-    repository.Publish(kController, {
-                                        {"ControllerNum",      "3"  },
-                                        {"ChannelDescription", "SAS"}
-    });
+    repository.Publish(kController, "ControllerNum", "3", "ReadAhead", "On");
+    repository.Publish(kController, "ControllerNum", "3", "ChannelDescription", "SAS");
     repository.Publish(each.className, {
                                            {"ControllerNum", " 3\r"},
                                            each.sign
@@ -87,68 +70,32 @@ TEST(DeviceOwners, NameTheToolWhereTwoShareANumber) {
 
 TEST(DeviceOwners, FindTheToolOfAnArrayWithoutALetterByTheDisksOfItsDrive) {
   FilledRepository repository;
-  repository.Publish(
-      kLogicalDisk,
-      {
-          {"ControllerNum",   "3"          },
-          {"LogicalDriveNum", "1"          },
-          {"NumOfSegments",   "2"          },
-          {"StripeOrder",     "(0,2) (0,3)"}
-  });
-  repository.Publish(
-      kLogicalDisk,
-      {
-          {"ControllerNum",   "3"      },
-          {"LogicalDriveNum", "1"      },
-          {"NumOfChunks",     "2"      },
-          {"DriveList",       "0,4 0,5"}
-  });
-  repository.Publish(kDiskGroup, {
-                                     {"ControllerNum", "3"                                  },
-                                     {"CollectionID",  "ZentraxisCntrlr3LogicalDrv1 0,4 0,5"},
-                                     {"StripeOrder",   "0,4  0,5\r\n"                       }
-  });
-  repository.Publish(
-      kDiskGroup,
-      {
-          {"ControllerNum", "3"                                  },
-          {"CollectionID",  "ZentraxisCntrlr3LogicalDrv1 0,2 0,3"},
-          {"StripeOrder",   "0,2 0,3"                            }
-  });
-  repository.Publish(kDiskGroup, {
-                                     {"ControllerNum", "3"                                   },
-                                     {"CollectionID",  "ZentraxisCntrlr3LogicalDrv10 0,2 0,3"},
-                                     {"StripeOrder",   "0,2 0,3"                             }
-  });
+  repository.Publish(kLogicalDisk, "ControllerNum", "3", "LogicalDriveNum", "1", "NumOfSegments", "2", "StripeOrder",
+                     "(0,2) (0,3)");
+  repository.Publish(kLogicalDisk, "ControllerNum", "3", "LogicalDriveNum", "1", "NumOfChunks", "2", "DriveList",
+                     "0,4 0,5");
+  repository.Publish(kDiskGroup, "ControllerNum", "3", "CollectionID", "ZentraxisCntrlr3LogicalDrv1 0,4 0,5",
+                     "StripeOrder", "0,4  0,5\r\n");
+  repository.Publish(kDiskGroup, "ControllerNum", "3", "CollectionID", "ZentraxisCntrlr3LogicalDrv1 0,2 0,3",
+                     "StripeOrder", "0,2 0,3");
+  repository.Publish(kDiskGroup, "ControllerNum", "3", "CollectionID", "ZentraxisCntrlr3LogicalDrv10 0,2 0,3",
+                     "StripeOrder", "0,2 0,3");
   EXPECT_THAT(Labels(repository),
               ElementsAre("3 (arcconf)", "3 (hrconf_64)", "3 (hrconf_64)", "3 (arcconf)", "3 (tool not known)"));
 }
 
 TEST(DeviceOwners, AreNotSplitByAnAnswerThatIsCutOff) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ControllerNum",  "1" },
-                                      {"ControllerType", "C6"}
-  });
-  repository.Publish(kLogicalDisk, {
-                                       {"ControllerNum", "1"},
-                                       {"PartOfArray",   "A"}
-  });
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum", "1"},
-                                     {"ScsiId",        "0"}
-  });
+  repository.Publish(kController, "ControllerNum", "1", "ControllerType", "C6");
+  repository.Publish(kLogicalDisk, "ControllerNum", "1", "PartOfArray", "A");
+  repository.Publish(kDiskDrive, "ControllerNum", "1", "ScsiId", "0");
   EXPECT_THAT(Labels(repository), ElementsAre("1", "1", "1"));
 }
 
 TEST(DeviceOwners, AreEmptyForDevicesWithoutANumber) {
   FilledRepository repository;
-  repository.Publish(kController, {
-                                      {"ReadAhead", "On"}
-  });
-  repository.Publish(kController, {
-                                      {"SerialNum", "8A"}
-  });
+  repository.Publish(kController, "ReadAhead", "On");
+  repository.Publish(kController, "SerialNum", "8A");
   EXPECT_THAT(Labels(repository), ElementsAre("", ""));
 }
 

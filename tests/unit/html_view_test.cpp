@@ -48,10 +48,7 @@ std::string Json(const QueryHeader& header, const QueryResult& result) {
 
 QueryResult HostileResult() {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    std::string(kHostile)         },
-                                            {"RawResults", Texts({std::string(kHostile)})},
-  });
+  repository.Publish("KVRSG_zxRawData", "Command", std::string(kHostile), "RawResults", Texts({std::string(kHostile)}));
   return {1, repository.Instances(), {{3, std::string(kHostile)}}};
 }
 
@@ -90,10 +87,7 @@ TEST(HtmlView, IsAsLongAsThePageAndItsDataTogether) {
 
   FilledRepository repository;
   const std::string text(1'000'000, 'x');
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command",    "c"          },
-                                            {"RawResults", Texts({text})},
-  });
+  repository.Publish("KVRSG_zxRawData", "Command", "c", "RawResults", Texts({text}));
   EXPECT_LT(Page(
                 {
   },

@@ -24,14 +24,13 @@ constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
 constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
-using Properties = std::vector<std::pair<std::string, NKVRHXA20::TCIMValue>>;
-
 Machine Built(const HealthyMachine& machine) { return BuildMachine(machine.Header(), machine.Result()); }
 
-// The only device of a machine that has these properties.
-Device DeviceOf(const Properties& properties) {
+// The only device of a machine that has these properties: names and values in turn.
+template <class... Given>
+Device DeviceWith(const Given&... given) {
   FilledRepository repository;
-  repository.Publish(kDiskDrive, properties);
+  repository.Publish(kDiskDrive, given...);
   return BuildMachine({}, {2, repository.Instances(), {}}).controllers.at(0).devices.at(0);
 }
 
@@ -66,19 +65,9 @@ TEST(Machine, KnowsTheDisksOfADriveByTheLetterOfItsArray) {
 
 TEST(Machine, KeepsApartWhatTwoToolsDescribeUnderOneNumber) {
   FilledRepository repository;
-  for (const Properties& sign : {Properties{{"PartOfArray", "A"}}, Properties{{"NumOfChunks", "2"}}}) {
-    Properties drive = {
-        {"ControllerNum", "3"  },
-        {"DriveList",     "0,1"}
-    };
-    drive.insert(drive.end(), sign.begin(), sign.end());
-    repository.Publish(kLogicalDisk, drive);
-  }
-  repository.Publish(kDiskDrive, {
-                                     {"ControllerNum",   "3"  },
-                                     {"DeviceNumber",    "4"  },
-                                     {"ReportedChannel", "0,1"}
-  });
+  repository.Publish(kLogicalDisk, "ControllerNum", "3", "DriveList", "0,1", "PartOfArray", "A");
+  repository.Publish(kLogicalDisk, "ControllerNum", "3", "DriveList", "0,1", "NumOfChunks", "2");
+  repository.Publish(kDiskDrive, "ControllerNum", "3", "DeviceNumber", "4", "ReportedChannel", "0,1");
   const Machine machine = BuildMachine({}, {2, repository.Instances(), {}});
   ASSERT_EQ(machine.controllers.size(), 2U);
   EXPECT_EQ(machine.controllers[0].label, "3 (qcmdrun)");
@@ -89,19 +78,10 @@ TEST(Machine, KeepsApartWhatTwoToolsDescribeUnderOneNumber) {
 }
 
 TEST(Machine, DescribesADevice) {
-  const Device device = DeviceOf({
-      {"ControllerNum",    "4"                  },
-      {"Channel",          "0"                  },
-      {"ScsiId",           "8"                  },
-      {"DeviceType",       "Hard drive"         },
-      {"Vendor",           "NORDVIK"            },
-      {"Model",            " NV73-15SAS\r\n"    },
-      {"DeviceSerialNum",  "NV3LE77Q2H"         },
-      {"FRU",              "ZX20912"            },
-      {"Firmware",         "BA31"               },
-      {"Size",             "70007 MB"           },
-      {"ReportedLocation", "Enclosure 0, Slot 8"}
-  });
+  const Device device =
+      DeviceWith("ControllerNum", "4", "Channel", "0", "ScsiId", "8", "DeviceType", "Hard drive", "Vendor", "NORDVIK",
+                 "Model", " NV73-15SAS\r\n", "DeviceSerialNum", "NV3LE77Q2H", "FRU", "ZX20912", "Firmware", "BA31",
+                 "Size", "70007 MB", "ReportedLocation", "Enclosure 0, Slot 8");
   EXPECT_EQ(device.name, "Hard drive at channel 0, ID 8 of controller 4");
   EXPECT_EQ(device.location, "enclosure 0, slot 8");
   EXPECT_THAT(
@@ -112,39 +92,17 @@ TEST(Machine, DescribesADevice) {
 }
 
 TEST(Machine, LocatesADeviceByWhatThereIs) {
-  EXPECT_EQ(DeviceOf({
-                         {"Channel", "2"},
-                         {"ScsiId",  "4"}
-  })
-                .location,
-            "channel 2, ID 4");
-  EXPECT_EQ(DeviceOf({
-                         {"Channel",         "0"  },
-                         {"ReportedChannel", "0,7"}
-  })
-                .location,
-            "channel 0, ID 7");
-  EXPECT_EQ(DeviceOf({
-                         {"DeviceNumber", "Device #4"}
-  })
-                .location,
-            "device 4");
-  EXPECT_EQ(DeviceOf({
-                         {"DeviceType", "Tape drive"}
-  })
-                .location,
-            "");
+  EXPECT_EQ(DeviceWith("Channel", "2", "ScsiId", "4").location, "channel 2, ID 4");
+  EXPECT_EQ(DeviceWith("Channel", "0", "ReportedChannel", "0,7").location, "channel 0, ID 7");
+  EXPECT_EQ(DeviceWith("DeviceNumber", "Device #4").location, "device 4");
+  EXPECT_EQ(DeviceWith("DeviceType", "Tape drive").location, "");
 }
 
 TEST(Machine, KnowsWhatAControllerIsDoing) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxSCSIProtocolController", {
-                                                           {"Current_MostRecentOperation", "Rebuild"    },
-                                                           {"Logical_Drive",               "3"          },
-                                                           {"LastCmdStatus",               "In progress"},
-                                                           {"LogicalDriveSizeInStripes",   "4442880"    },
-                                                           {"NumberOfRemainingStripes",    "1466150"    }
-  });
+  repository.Publish("KVRSG_zxSCSIProtocolController", "Current_MostRecentOperation", "Rebuild", "Logical_Drive", "3",
+                     "LastCmdStatus", "In progress", "LogicalDriveSizeInStripes", "4442880", "NumberOfRemainingStripes",
+                     "1466150");
   const Operation operation = BuildMachine({}, {2, repository.Instances(), {}}).controllers.at(0).units.at(0).operation;
   EXPECT_THAT((std::vector{operation.name, operation.logicalDrive, operation.status, operation.stripes,
                            operation.stripesRemaining}),
@@ -162,55 +120,34 @@ TEST(Machine, ReadsSizes) {
   }
 }
 
-// Controller 1: array A is not guarded, B is. Controller 2: drive 1 is not guarded, drive 2 is.
-Level LevelOfRebuild(const Properties& disk) {
+// Of a disk that is being rebuilt. Controller 1: array A is not guarded, B is. Controller 2: drive 1 is not, 2 is.
+template <class... Given>
+Level LevelOfRebuild(const char* controller, const Given&... given) {
   FilledRepository repository;
-  const auto drive = [&](const char* controller, const char* state, const char* property, const char* members) {
-    repository.Publish(kLogicalDisk,
-                       {
-                           {"ControllerNum",      controller},
-                           {"LogicalDriveStatus", state     },
-                           {property,             members   }
-    });
-  };
-  const auto array = [&](const char* letter, const char* order) {
-    repository.Publish(kDiskGroup, {
-                                       {"Array",         letter},
-                                       {"ControllerNum", "1"   },
-                                       {"StripeOrder",   order }
-    });
+  const auto drive = [&](const char* number, const char* state, const char* property, const char* members) {
+    repository.Publish(kLogicalDisk, "ControllerNum", number, "LogicalDriveStatus", state, property, members);
   };
   drive("1", "Critical (CRT)", "PartOfArray", "A");
   drive("1", "Okay (OKY)", "PartOfArray", "B");
   drive("2", "Degraded", "DriveList", " 0,1 0,2\r\n");
   drive("2", "Optimal", "DriveList", "0,3 0,11");
-  array("A", "1,0 1,1");
-  array("B", "1,10");
-  Properties properties = disk;
-  properties.emplace_back("State", "Rebuild (RBL)");
-  repository.Publish(kDiskDrive, properties);
+  repository.Publish(kDiskGroup, "Array", "A", "ControllerNum", "1", "StripeOrder", "1,0 1,1");
+  repository.Publish(kDiskGroup, "Array", "B", "ControllerNum", "1", "StripeOrder", "1,10");
+  repository.Publish(kDiskDrive, "ControllerNum", controller, "State", "Rebuild (RBL)", given...);
   const Machine machine = BuildMachine({}, {2, repository.Instances(), {}});
   const auto has = std::ranges::find_if(machine.controllers, [](const auto& each) { return !each.devices.empty(); });
   return has->devices.front().state.level;
 }
 
 TEST(Machine, WarnsOfARebuildOnDrivesThatAreNotGuarded) {
-  struct Case {
-    const char* name;
-    Properties disk;
-    Level level;
-  };
-  const Case cases[] = {
-      {"in the stripe order",      {{"ControllerNum", "1"}, {"Channel", "1"}, {"ScsiId", "1"}},  Level::kWarning},
-      {"in another stripe order",  {{"ControllerNum", "1"}, {"Channel", "1"}, {"ScsiId", "10"}}, Level::kBusy   },
-      {"in the drive list",        {{"ControllerNum", "2"}, {"Channel", "0"}, {"ScsiId", "1"}},  Level::kWarning},
-      {"in another drive list",    {{"ControllerNum", "2"}, {"Channel", "0"}, {"ScsiId", "11"}}, Level::kBusy   },
-      {"its place reported whole", {{"ControllerNum", "2"}, {"ReportedChannel", "0,2"}},         Level::kWarning},
-      {"another, reported whole",  {{"ControllerNum", "2"}, {"ReportedChannel", "0,3"}},         Level::kBusy   },
-      {"in no list",               {{"ControllerNum", "2"}, {"Channel", "0"}, {"ScsiId", "7"}},  Level::kWarning},
-      {"of another controller",    {{"ControllerNum", "3"}, {"Channel", "0"}, {"ScsiId", "1"}},  Level::kBusy   },
-  };
-  for (const Case& each : cases) EXPECT_EQ(LevelOfRebuild(each.disk), each.level) << each.name;
+  EXPECT_EQ(LevelOfRebuild("1", "Channel", "1", "ScsiId", "1"), Level::kWarning) << "in the stripe order";
+  EXPECT_EQ(LevelOfRebuild("1", "Channel", "1", "ScsiId", "10"), Level::kBusy) << "in the order of the other array";
+  EXPECT_EQ(LevelOfRebuild("2", "Channel", "0", "ScsiId", "1"), Level::kWarning) << "in the drive's list";
+  EXPECT_EQ(LevelOfRebuild("2", "Channel", "0", "ScsiId", "11"), Level::kBusy) << "in the other drive's list";
+  EXPECT_EQ(LevelOfRebuild("2", "ReportedChannel", "0,2"), Level::kWarning) << "its place reported whole";
+  EXPECT_EQ(LevelOfRebuild("2", "ReportedChannel", "0,3"), Level::kBusy);
+  EXPECT_EQ(LevelOfRebuild("2", "Channel", "0", "ScsiId", "7"), Level::kWarning) << "in no list";
+  EXPECT_EQ(LevelOfRebuild("3", "Channel", "0", "ScsiId", "1"), Level::kBusy) << "of another controller";
 }
 
 TEST(Machine, GivesAnObjectItsFindingsAndTheWorstLevelOfAll) {

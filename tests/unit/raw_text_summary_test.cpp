@@ -19,10 +19,7 @@ std::string Summary(const FilledRepository& repository) {
 TEST(RawTextSummary, CountsCommandsAnswersAndLinesOfEachTool) {
   FilledRepository repository;
   const auto publish = [&](const char* className, const char* command, const std::vector<std::string>& lines) {
-    repository.Publish(className, {
-                                      {"Command",    command     },
-                                      {"RawResults", Texts(lines)}
-    });
+    repository.Publish(className, "Command", command, "RawResults", Texts(lines));
   };
   publish("KVRSG_zxManagerRawData", "C:\\Program Files\\RaidEvtA.log", {"1", "2", "3"});
   publish("KVRSG_zxRawData", "zenx//qcmdrun.exe getconfig 1 al", {"1", "2"});

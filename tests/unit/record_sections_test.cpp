@@ -48,19 +48,11 @@ TEST(RecordSections, ShowNothingWithoutInstances) { EXPECT_EQ(Sections(FilledRep
 
 TEST(RecordSections, ShowVersionsOfAllKindsInOneTable) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxFirmwareVersion", {
-                                                    {"Name",                 "Zentraxis1 Firmware"         },
-                                                    {"Version",              "5.2-0 (12345)"               },
-                                                    {"BuildNumber",          "12345"                       },
-                                                    {"SoftwareElementState", static_cast<unsigned short>(3)},
-                                                    {"SoftwareElementID",    "1"                           },
-  });
-  repository.Publish("KVRSG_zxDiskDriveVersion", {
-                                                     {"Name",              "Zentraxis Disk"   },
-                                                     {"Version",           "5.2-0 "           },
-                                                     {"SoftwareElementID", "1-C1 CH0 I03:3KR0"},
-                                                     {"Manufacturer",      "SEAGULL"          },
-  });
+  repository.Publish("KVRSG_zxFirmwareVersion", "Name", "Zentraxis1 Firmware", "Version", "5.2-0 (12345)",
+                     "BuildNumber", "12345", "SoftwareElementState", static_cast<unsigned short>(3),
+                     "SoftwareElementID", "1");
+  repository.Publish("KVRSG_zxDiskDriveVersion", "Name", "Zentraxis Disk", "Version", "5.2-0 ", "SoftwareElementID",
+                     "1-C1 CH0 I03:3KR0", "Manufacturer", "SEAGULL");
   EXPECT_EQ(Sections(repository), R"(
 Versions
   Name                 Version        Build  Element            Manufacturer
@@ -74,64 +66,19 @@ TEST(RecordSections, ShowStatisticsAndLogs) {
   const TCIMDateTime time(2026, 3, 5, 12, 30, 15, 0, 60);
   const TCIMValue softCodes(kCIMUInt32, 0, {TCIMValue(255U)});
   const TCIMValue hardCodes(kCIMUInt32, 0, {TCIMValue(16U)});
-  repository.Publish("KVRSG_BadStripeData", {
-                                                {"ControllerNum", "1"},
-                                                {"LogicalDrive",  "2"},
-                                                {"NumBadStripes", "3"}
-  });
-  repository.Publish("KVRSG_zxSCSIDeviceData", {
-                                                   {"StatisticTime",   time},
-                                                   {"ControllerNum",   "1" },
-                                                   {"Channel",         "0" },
-                                                   {"Misc",            "m" },
-                                                   {"NumHardErrors",   "h" },
-                                                   {"NumParityErrors", "p" },
-                                                   {"NumSoftErrors",   "s" },
-                                                   {"PFA",             "f" },
-                                                   {"ScsiId",          "3" }
-  });
-  repository.Publish("KVRSG_zxSCSISubStatData", {
-                                                    {"ControllerNum", "1"  },
-                                                    {"Channel",       "0"  },
-                                                    {"ScsiId",        "3"  },
-                                                    {"Params",        "p"  },
-                                                    {"Req_Off",       "r"  },
-                                                    {"Max_Txer_P",    "max"},
-                                                    {"Cur_Txer_p",    "cur"}
-  });
-  repository.Publish("KVRSG_LogRecord_zxDDD", {
-                                                  {"Controller", "1"          },
-                                                  {"RecordID",   "7"          },
-                                                  {"Date",       "03/05/26"   },
-                                                  {"Time",       "12:30:15"   },
-                                                  {"Channel",    "0"          },
-                                                  {"ID",         "3"          },
-                                                  {"Reason",     "0x24"       },
-                                                  {"Descrip",    "Timed out\r"}
-  });
-  repository.Publish(
-      "KVRSG_LogRecord_SoftEvent",
-      {
-          {"MessageTimestamp", time     },
-          {"ControllerNum",    "1"      },
-          {"NumEntries",       "1"      },
-          {"HexSoftEvent",     softCodes}
-  });
-  repository.Publish(
-      "KVRSG_LogRecord_HardEvent",
-      {
-          {"MessageTimestamp", time     },
-          {"ControllerNum",    "1"      },
-          {"NumEntries",       "1"      },
-          {"HexHardEvent",     hardCodes}
-  });
-  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", {
-                                                         {"MessageTimestamp", time      },
-                                                         {"RecordID",         "1"       },
-                                                         {"Severity",         "Error"   },
-                                                         {"MachineName",      "M"       },
-                                                         {"Message",          "Bad disk"}
-  });
+  repository.Publish("KVRSG_BadStripeData", "ControllerNum", "1", "LogicalDrive", "2", "NumBadStripes", "3");
+  repository.Publish("KVRSG_zxSCSIDeviceData", "StatisticTime", time, "ControllerNum", "1", "Channel", "0", "Misc", "m",
+                     "NumHardErrors", "h", "NumParityErrors", "p", "NumSoftErrors", "s", "PFA", "f", "ScsiId", "3");
+  repository.Publish("KVRSG_zxSCSISubStatData", "ControllerNum", "1", "Channel", "0", "ScsiId", "3", "Params", "p",
+                     "Req_Off", "r", "Max_Txer_P", "max", "Cur_Txer_p", "cur");
+  repository.Publish("KVRSG_LogRecord_zxDDD", "Controller", "1", "RecordID", "7", "Date", "03/05/26", "Time",
+                     "12:30:15", "Channel", "0", "ID", "3", "Reason", "0x24", "Descrip", "Timed out\r");
+  repository.Publish("KVRSG_LogRecord_SoftEvent", "MessageTimestamp", time, "ControllerNum", "1", "NumEntries", "1",
+                     "HexSoftEvent", softCodes);
+  repository.Publish("KVRSG_LogRecord_HardEvent", "MessageTimestamp", time, "ControllerNum", "1", "NumEntries", "1",
+                     "HexHardEvent", hardCodes);
+  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", "MessageTimestamp", time, "RecordID", "1", "Severity", "Error",
+                     "MachineName", "M", "Message", "Bad disk");
   EXPECT_EQ(Sections(repository), R"(
 Bad stripes
   Controller  Logical drive  Bad stripes

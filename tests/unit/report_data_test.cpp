@@ -90,14 +90,8 @@ TEST(ReportData, NamesTheClassesThatHealthIsReadFromAndThatWereNotAskedFor) {
 
 TEST(ReportData, TellsUnreadLinesWhereEveryClassWasAskedFor) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxLogicalDisk", {
-                                                {"Size", "5 MB"}
-  });
-  repository.Publish("KVRSG_zxRawData",
-                     {
-                         {"Command",    "tool"                               },
-                         {"RawResults", ::Texts({"Size : 5 MB", "New : new"})}
-  });
+  repository.Publish("KVRSG_zxLogicalDisk", "Size", "5 MB");
+  repository.Publish("KVRSG_zxRawData", "Command", "tool", "RawResults", ::Texts({"Size : 5 MB", "New : new"}));
   const QueryResult result{1, repository.Instances(), {}};
   QueryHeader header;
   EXPECT_TRUE(ReportData(header, result)["unread"].is_null());

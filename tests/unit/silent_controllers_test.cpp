@@ -17,15 +17,10 @@ using testing::IsEmpty;
 class SilentControllersTest : public testing::Test {
  protected:
   void Drive(const std::string& className, const std::string& controller) {
-    repository_.Publish(className, {
-                                       {"ControllerNum", controller}
-    });
+    repository_.Publish(className, "ControllerNum", controller);
   }
   void Answer(const std::string& command, const std::vector<std::string>& lines) {
-    repository_.Publish("KVRSG_zxRawData", {
-                                               {"Command",    command     },
-                                               {"RawResults", Texts(lines)}
-    });
+    repository_.Publish("KVRSG_zxRawData", "Command", command, "RawResults", Texts(lines));
   }
   std::vector<std::string> Found() const {
     std::vector<std::string> found;

@@ -25,13 +25,8 @@ std::string Tables(const QueryHeader& header, const std::vector<QueryResult>& re
 
 TEST(TableView, SaysWhatWhereAndWhenThenTheBlocksThenTheSectionsThenTheCounts) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxFirmwareVersion", {
-                                                    {"Name", "Zentraxis1 Firmware"}
-  });
-  repository.Publish("KVRSG_zxSCSIProtocolController", {
-                                                           {"ControllerNum",    "1"   },
-                                                           {"ControllerStatus", "Okay"}
-  });
+  repository.Publish("KVRSG_zxFirmwareVersion", "Name", "Zentraxis1 Firmware");
+  repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "1", "ControllerStatus", "Okay");
   const QueryHeader header = Header({"KVRSG_zxFirmwareVersion", "KVRSG_zxSCSIProtocolController", "KVRSG_zxDiskDrive"});
   EXPECT_EQ(Tables(header,
                    {
@@ -59,9 +54,7 @@ Runs of the tools
 
 TEST(TableView, SaysWhenNothingWasFoundAndWhichToolsCouldNotBeRun) {
   FilledRepository repository;
-  repository.Publish("KVRSG_zxRawData", {
-                                            {"Command", "zenx//hrconf_64.exe getversion  nuthin"}
-  });
+  repository.Publish("KVRSG_zxRawData", "Command", "zenx//hrconf_64.exe getversion  nuthin");
   ToolRun run;
   run.path = "zenx//qcmdrun.exe";
   run.arguments = {"getconfig", "1", "al"};
