@@ -11,32 +11,32 @@ namespace {
 using namespace hxahost;
 using Json = nlohmann::ordered_json;
 
-ResultInstance Instance(const std::string& className, const std::string& path, Json properties) {
+void Append(Json&) {}
+
+template <class... More>
+void Append(Json& properties, const std::string& name, const Json& value, const More&... more) {
+  properties[name] = value;
+  Append(properties, more...);
+}
+
+// With its properties, names and values in turn.
+template <class... Given>
+ResultInstance Instance(const std::string& className, const std::string& path, const Given&... given) {
+  Json properties = Json::object();
+  Append(properties, given...);
   return {className, path, std::move(properties)};
 }
 
 ResultInstance Disk(const std::string& path, const std::string& serial, const std::string& state = "Online") {
-  return Instance("KVRSG_zxDiskDrive", path,
-                  {
-                      {"DeviceSerialNum", serial},
-                      {"State",           state }
-  });
+  return Instance("KVRSG_zxDiskDrive", path, "DeviceSerialNum", serial, "State", state);
 }
 
 ResultInstance Raw(const std::string& command, const Json& lines) {
-  return Instance("KVRSG_zxRawData", command,
-                  {
-                      {"Command",    command},
-                      {"RawResults", lines  }
-  });
+  return Instance("KVRSG_zxRawData", command, "Command", command, "RawResults", lines);
 }
 
 ResultInstance Link(const std::string& from, const std::string& to) {
-  return Instance("KVRSG_zxFirmwareOnDiskDrive", from + to,
-                  {
-                      {"Dependent",  from},
-                      {"Antecedent", to  }
-  });
+  return Instance("KVRSG_zxFirmwareOnDiskDrive", from + to, "Dependent", from, "Antecedent", to);
 }
 
 JsonResult Result(std::vector<ResultInstance> instances) { return {"M", std::move(instances)}; }
@@ -67,24 +67,11 @@ TEST(ResultDiff, FindsNothingBetweenEqualResults) {
 
 TEST(ResultDiff, PutsTheWorstFirst) {
   const auto data = [](const char* errors, const char* time) {
-    return Instance("KVRSG_zxSCSIDeviceData", "s",
-                    {
-                        {"NumHardErrors", errors},
-                        {"StatisticTime", time  }
-    });
+    return Instance("KVRSG_zxSCSIDeviceData", "s", "NumHardErrors", errors, "StatisticTime", time);
   };
-  const auto log = [](const char* path) {
-    return Instance("KVRSG_LogRecord_zxDDD", path,
-                    {
-                        {"ID", "1"}
-    });
-  };
+  const auto log = [](const char* path) { return Instance("KVRSG_LogRecord_zxDDD", path, "ID", "1"); };
   const auto disk = [](const char* state, const char* firmware) {
-    return Instance("KVRSG_zxDiskDrive", "d",
-                    {
-                        {"Firmware", firmware},
-                        {"State",    state   }
-    });
+    return Instance("KVRSG_zxDiskDrive", "d", "Firmware", firmware, "State", state);
   };
   EXPECT_EQ(
       Changes(Result({data("1", "t1"), disk("Online", "1.0"), Disk("gone", "7"), Link("x", "y")}),
@@ -95,36 +82,22 @@ TEST(ResultDiff, PutsTheWorstFirst) {
 }
 
 TEST(ResultDiff, TakesACountThatFellForMoreThanACount) {
-  const auto data = [](const char* errors) {
-    return Instance("KVRSG_zxSCSIDeviceData", "s",
-                    {
-                        {"NumHardErrors", errors}
-    });
-  };
+  const auto data = [](const char* errors) { return Instance("KVRSG_zxSCSIDeviceData", "s", "NumHardErrors", errors); };
   EXPECT_EQ(Changes(Result({data("5")}), Result({data("6")}))[0].substr(0, 7), "counter");
   EXPECT_EQ(Changes(Result({data("5")}), Result({data("0")}))[0].substr(0, 8), "property");
   EXPECT_EQ(Changes(Result({data("5")}), Result({data("")}))[0].substr(0, 8), "property");
 }
 
 TEST(ResultDiff, CallsResultsTheSameThatDifferInTimesOfCollectionAlone) {
-  const auto data = [](const char* time) {
-    return Instance("KVRSG_zxSCSIDeviceData", "s",
-                    {
-                        {"StatisticTime", time}
-    });
-  };
+  const auto data = [](const char* time) { return Instance("KVRSG_zxSCSIDeviceData", "s", "StatisticTime", time); };
   const ResultDiff diff = CompareResults(Result({data("1")}), Result({data("2")}));
   EXPECT_EQ(diff.changes.size(), 1U);
   EXPECT_TRUE(IsSame(diff));
 }
 
 TEST(ResultDiff, TellsAPropertyThatIsNotThereFromAnEmptyOne) {
-  const auto disk = [](const Json& properties) { return Instance("KVRSG_zxDiskDrive", "d", properties); };
-  EXPECT_EQ(Changes(Result({
-                        disk({{"Size", ""}, {"Old", "1"}}
-                        )
-  }),
-                    Result({disk({{"New", ""}})})),
+  const auto disk = [](const auto&... given) { return Instance("KVRSG_zxDiskDrive", "d", given...); };
+  EXPECT_EQ(Changes(Result({disk("Size", "", "Old", "1")}), Result({disk("New", "")})),
             (Texts{"property changed d Size \"\" null", "property changed d Old \"1\" null",
                    "property changed d New null \"\""}));
 }
@@ -142,12 +115,8 @@ TEST(ResultDiff, KnowsNothingByASerialNumberThatIsEmptyOrThereTwice) {
 
 TEST(ResultDiff, ShowsAnUpdateOfFirmwareAsAChangeAlthoughThePathHasTheVersion) {
   const auto firmware = [](const std::string& version) {
-    return Instance("KVRSG_zxFirmwareVersion", "F" + version,
-                    {
-                        {"Name",              "Zentraxis1 Firmware"},
-                        {"Version",           version              },
-                        {"SoftwareElementID", "1"                  }
-    });
+    return Instance("KVRSG_zxFirmwareVersion", "F" + version, "Name", "Zentraxis1 Firmware", "Version", version,
+                    "SoftwareElementID", "1");
   };
   EXPECT_EQ(Changes(Result({firmware("1")}), Result({firmware("2")})),
             Texts{"property changed F1=F2 Version \"1\" \"2\""});
@@ -162,11 +131,7 @@ TEST(ResultDiff, LetsLinksFollowWhatTheyLink) {
 
 TEST(ResultDiff, SeesALinkThatIsNoneBothWays) {
   const ResultInstance link = Link("a", "b");
-  const ResultInstance none = Instance(link.className, link.path,
-                                       {
-                                           {"Dependent", "a"},
-                                           {"Strange",   "b"}
-  });
+  const ResultInstance none = Instance(link.className, link.path, "Dependent", "a", "Strange", "b");
   EXPECT_EQ(Changes(Result({link}), Result({none})).size(), 2U);
   EXPECT_EQ(Changes(Result({none}), Result({link})).size(), 2U);
 }

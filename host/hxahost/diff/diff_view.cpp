@@ -80,10 +80,10 @@ void WriteDiffText(std::ostream& out, const ComparedFile& before, const Compared
 }
 
 Json FileJson(const ComparedFile& file) {
-  Json json = Json::object();
-  json["file"] = AsUtf8(file.name);
-  json["machine"] = file.machine;
-  return json;
+  return {
+      {"file",    AsUtf8(file.name)},
+      {"machine", file.machine     }
+  };
 }
 
 Json ChangeJson(const Change& change) {
@@ -101,37 +101,45 @@ Json ChangeJson(const Change& change) {
 }
 
 Json RawTextJson(const RawTextChange& change) {
-  Json json = Json::object();
-  json["command"] = change.command;
-  json["kind"] = KindWord(change.kind);
-  json["linesGone"] = change.linesGone;
-  json["linesNew"] = change.linesNew;
-  return json;
+  const std::string_view kind = KindWord(change.kind);
+  return {
+      {"command",   change.command  },
+      {"kind",      kind            },
+      {"linesGone", change.linesGone},
+      {"linesNew",  change.linesNew }
+  };
 }
 
 Json FindingChangeJson(const FindingChange& change) {
-  Json json = Json::object();
   const ChangeKind kind = !change.before  ? ChangeKind::kAppeared
                           : !change.after ? ChangeKind::kDisappeared
                                           : ChangeKind::kChanged;
-  json["kind"] = KindWord(kind);
-  json["old"] = change.before ? FindingJson(*change.before) : Json();
-  json["new"] = change.after ? FindingJson(*change.after) : Json();
+  const Json before = change.before ? FindingJson(*change.before) : Json();
+  const Json after = change.after ? FindingJson(*change.after) : Json();
+  return {
+      {"kind", KindWord(kind)},
+      {"old",  before        },
+      {"new",  after         }
+  };
+}
+
+template <class Each>
+Json ListJson(const std::vector<Each>& list, Json (*toJson)(const Each&)) {
+  Json json = Json::array();
+  for (const Each& each : list) json.push_back(toJson(each));
   return json;
 }
 
 void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
-  Json json = Json::object();
-  json["format"] = 1;
-  json["old"] = FileJson(before);
-  json["new"] = FileJson(after);
-  json["same"] = IsSame(diff);
-  json["findings"] = Json::array();
-  for (const FindingChange& change : diff.findings) json["findings"].push_back(FindingChangeJson(change));
-  json["changes"] = Json::array();
-  for (const Change& change : diff.changes) json["changes"].push_back(ChangeJson(change));
-  json["rawTexts"] = Json::array();
-  for (const RawTextChange& change : diff.rawTexts) json["rawTexts"].push_back(RawTextJson(change));
+  Json json = {
+      {"format", 1               },
+      {"old",    FileJson(before)},
+      {"new",    FileJson(after) },
+      {"same",   IsSame(diff)    }
+  };
+  json["findings"] = ListJson(diff.findings, FindingChangeJson);
+  json["changes"] = ListJson(diff.changes, ChangeJson);
+  json["rawTexts"] = ListJson(diff.rawTexts, RawTextJson);
   out << JsonText(json, 2) << '\n';
 }
 

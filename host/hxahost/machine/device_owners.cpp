@@ -85,9 +85,8 @@ DrivesByName LogicalDrives(const InstanceList& instances) {
   DrivesByName drives;
   for (const auto& instance : instances) {
     if (instance->Class().name != kLogicalDiskClass) continue;
-    drives.emplace(
-        "Cntrlr" + RawText(*instance, "ControllerNum") + "LogicalDrv" + RawText(*instance, "LogicalDriveNum"),
-        instance.get());
+    drives.emplace(DriveKey(RawText(*instance, "ControllerNum"), RawText(*instance, "LogicalDriveNum")),
+                   instance.get());
   }
   return drives;
 }

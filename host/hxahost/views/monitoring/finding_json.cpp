@@ -5,15 +5,15 @@
 namespace hxahost {
 
 nlohmann::ordered_json FindingJson(const Finding& finding) {
-  auto json = nlohmann::ordered_json::object();
-  json["severity"] = SeverityWord(finding.severity);
-  json["class"] = finding.className;
-  json["identifier"] = AsUtf8(finding.identifier);
-  json["name"] = AsUtf8(finding.name);
-  json["property"] = finding.property;
-  json["text"] = AsUtf8(finding.text);
-  json["meaning"] = finding.meaning;
-  return json;
+  return {
+      {"severity",   SeverityWord(finding.severity)},
+      {"class",      finding.className             },
+      {"identifier", AsUtf8(finding.identifier)    },
+      {"name",       AsUtf8(finding.name)          },
+      {"property",   finding.property              },
+      {"text",       AsUtf8(finding.text)          },
+      {"meaning",    finding.meaning               },
+  };
 }
 
 }  // namespace hxahost

@@ -1,5 +1,3 @@
-#include <string>
-
 #include <nlohmann/json.hpp>
 
 #include "host/hxahost/text/json_output.h"
@@ -9,19 +7,14 @@
 
 namespace hxahost {
 
-namespace {
-
-using Json = nlohmann::ordered_json;
-
-}  // namespace
-
 void WriteHealthJson(std::ostream& out, const HealthReport& report) {
-  Json json = Json::object();
-  json["format"] = 1;
-  json["machine"] = AsUtf8(report.header.machine);
-  json["time"] = report.header.time.ToString();
-  json["status"] = SeverityWord(WorstOf(report.machine.findings));
-  json["findings"] = Json::array();
+  nlohmann::ordered_json json = {
+      {"format",   1                                             },
+      {"machine",  AsUtf8(report.header.machine)                 },
+      {"time",     report.header.time.ToString()                 },
+      {"status",   SeverityWord(WorstOf(report.machine.findings))},
+      {"findings", nlohmann::ordered_json::array()               },
+  };
   for (const Finding& finding : report.machine.findings) json["findings"].push_back(FindingJson(finding));
   out << JsonText(json, 2) << '\n';
 }

@@ -31,18 +31,18 @@ constexpr Fact kControllerNames[] = {
 };
 
 Json ColumnJson(std::string_view title, std::string_view property) {
-  Json column = Json::object();
-  column["title"] = title;
-  column["property"] = property;
-  return column;
+  return {
+      {"title",    title   },
+      {"property", property}
+  };
 }
 
-Json TableJson(std::string_view heading, std::span<const std::string_view> classes, Json columns) {
-  Json table = Json::object();
-  table["heading"] = heading;
-  table["classes"] = classes;
-  table["columns"] = std::move(columns);
-  return table;
+Json TableJson(std::string_view heading, std::span<const std::string_view> classes, const Json& columns) {
+  return {
+      {"heading", heading},
+      {"classes", classes},
+      {"columns", columns}
+  };
 }
 
 Json ColumnsJson(std::span<const InstanceColumn> columns) {
@@ -92,12 +92,12 @@ Json FindingsJson(const Findings& findings) {
 }
 
 Json ObjectJson(const Controller& controller, const Object& object) {
-  Json json = Json::object();
-  json["instance"] = object.instance;
-  json["owner"] = AsUtf8(controller.label);
-  json["level"] = LevelWord(object.level);
-  json["stateLevel"] = LevelWord(object.state.level);
-  return json;
+  return {
+      {"instance",   object.instance              },
+      {"owner",      AsUtf8(controller.label)     },
+      {"level",      LevelWord(object.level)      },
+      {"stateLevel", LevelWord(object.state.level)},
+  };
 }
 
 template <class Kind>
@@ -142,10 +142,10 @@ Json UnreadLinesJson(const QueryHeader& header, const QueryResult& result) {
   if (!isWhole) return nullptr;
   Json json = Json::array();
   for (const UnreadText& text : FindUnreadLines(result.instances)) {
-    Json each = Json::object();
-    each["instance"] = text.instance;
-    each["lines"] = text.unread;
-    json.push_back(std::move(each));
+    json.push_back({
+        {"instance", text.instance},
+        {"lines",    text.unread  }
+    });
   }
   return json;
 }
