@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <boost/crc.hpp>
 
@@ -35,13 +34,6 @@ TEST(Exchange, IsTheSameOnBothSystems) {
                              Line("schema mof", Output({"schema"})) +
                              Line("schema markdown", Output({"schema", "--format", "markdown"}));
   EXPECT_TRUE(IsGolden("exchange.txt", actual));
-}
-
-TEST(Exchange, RefusesAFormatOfTheSchemaThatIsNone) {
-  const ProgramResult result = RunHxahost({"schema", "--format", "json"});
-  EXPECT_EQ(result.exitStatus, 2);
-  EXPECT_EQ(result.out, "");
-  EXPECT_THAT(result.err, testing::StartsWith("hxahost: --format \"json\": give mof or markdown."));
 }
 
 }  // namespace

@@ -20,7 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 using hxahost::Utf8FromPath;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
@@ -58,33 +57,6 @@ TEST_F(Hxahost, ShowsItsHelpWithExamplesAndExitStatuses) {
   EXPECT_THAT(result.out, HasSubstr("hxahost query --format json --output machine.json"));
   EXPECT_THAT(result.out, HasSubstr("3 the plug-in could not be loaded"));
   EXPECT_EQ(result.err, "");
-}
-
-TEST_F(Hxahost, EndsWithStatus2AndOneLineForWrongArguments) {
-  struct Case {
-    const char* name;
-    std::vector<std::string> arguments;
-    const char* says;
-  };
-  const Case cases[] = {
-      {"no command",           {},                                                  "--help"         },
-      {"unknown option",       {"query", "--bogus"},                                "--bogus"        },
-      {"unknown class",        {"query", "--class", "KVRSG_Nothing"},               "hxahost classes"},
-      {"missing directory",    {"query", "--directory", InFolder("missing")},       "--directory"    },
-      {"output in no folder",  {"query", "--output", InFolder("missing/out.json")}, "--output"       },
-      {"log in no folder",     {"query", "--log", InFolder("missing/log.txt")},     "--log"          },
-      {"output is a folder",   {"query", "--output", Utf8FromPath(folder_.Path())}, "--output"       },
-      {"repeat nothing",       {"query", "--repeat", "0"},                          "from 1 on"      },
-      {"format of the future", {"query", "--format", "yaml"},                       "table or json"  },
-  };
-  for (const Case& each : cases) {
-    SCOPED_TRACE(each.name);
-    const ProgramResult result = RunHxahost(each.arguments);
-    EXPECT_EQ(result.exitStatus, 2);
-    EXPECT_EQ(result.out, "");
-    ExpectOneLine(result.err);
-    EXPECT_THAT(result.err, HasSubstr(each.says));
-  }
 }
 
 TEST_F(Hxahost, EndsWithStatus3WhenThePluginCannotBeLoaded) {
@@ -155,19 +127,6 @@ TEST_F(Hxahost, FindsNothingWithoutTheFolderOfToolsAndNamesTheTools) {
       return entry["text"].template get<std::string>().find(tool) != std::string::npos;
     })) << tool;
     EXPECT_THAT(tables.out, HasSubstr("\"" + std::string(tool) + "\" cannot be started"));
-  }
-}
-
-TEST_F(Hxahost, RepeatsTheQueryInOneProcess) {
-  const ProgramResult result = Query({"--format", "json", "--repeat", "3", "--machine-name", "M"});
-  EXPECT_EQ(result.exitStatus, 0);
-  const auto json = nlohmann::json::parse(result.out);
-  EXPECT_EQ(json["format"], 1);
-  EXPECT_EQ(json["machine"], "M");
-  ASSERT_EQ(json["queries"].size(), 3U);
-  for (const auto& query : json["queries"]) {
-    EXPECT_TRUE(query["instances"].is_array());
-    EXPECT_TRUE(query["log"].is_array());
   }
 }
 

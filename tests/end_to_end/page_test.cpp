@@ -31,17 +31,4 @@ TEST(PageOfAPipe, HasColoursAndAsciiWhereAskedFor) {
   for (const char character : result.out) ASSERT_LT(static_cast<unsigned char>(character), 0x80U) << result.out;
 }
 
-TEST(PageOfAPipe, RejectsWrongValuesInOneLine) {
-  for (const std::vector<std::string>& wrong : {
-           std::vector<std::string>{"--width", "39"  },
-           {"--width", "1001"},
-           {"--width", "wide"},
-           {"--color", "red" }
-  }) {
-    const ProgramResult result = Tables(wrong);
-    EXPECT_EQ(result.exitStatus, 2) << wrong[1];
-    EXPECT_THAT(result.err, HasSubstr(wrong[0] + " \"" + wrong[1] + "\": give "));
-  }
-}
-
 }  // namespace

@@ -10,6 +10,7 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "plugin/host_interface/exception.h"
@@ -107,54 +108,15 @@ TEST(SpawnProcess, GivesArgumentsToTheProgramAsTheyAre) {
 
 // Whatever a shell, the C runtime or the system takes for something else than a letter.
 std::string RandomArgument(std::mt19937& random) {
-  static const char* const kPieces[] = {"\"",
-                                        "\"\"",
-                                        "\\",
-                                        "\\\\",
-                                        "\\\"",
-                                        " ",
-                                        "\t",
-                                        "\n",
-                                        "\r",
-                                        "\v",
-                                        "%PATH%",
-                                        "%",
-                                        "^",
-                                        "&",
-                                        "&&",
-                                        "|",
-                                        "<",
-                                        ">",
-                                        "(",
-                                        ")",
-                                        "!",
-                                        "'",
-                                        "`",
-                                        "$HOME",
-                                        "$(",
-                                        ";",
-                                        "*",
-                                        "?",
-                                        "[a]",
-                                        "{,}",
-                                        "~",
-                                        ",",
-                                        "=",
-                                        "/",
-                                        "-",
-                                        "--",
-                                        "#",
-                                        "@",
-                                        "a",
-                                        "Z9",
-                                        "\xC3\xA9",
-                                        "\xE2\x82\xAC",
-                                        "\xF0\x9F\x98\x80",
-                                        "\xE2\x80\xAE"};
-  std::uniform_int_distribution<std::size_t> piece(0, std::size(kPieces) - 1);
+  constexpr std::string_view kCharacters = "\"\"\"\\\\\\ \t\n\r\v%^&|<>()!'`$;*?[]{,}~=/-#@aZ9";
+  const std::string pieces[] = {"%PATH%",           "$HOME",       "$(", "\xC3\xA9", "\xE2\x82\xAC",
+                                "\xF0\x9F\x98\x80", "\xE2\x80\xAE"};
+  std::uniform_int_distribution<std::size_t> piece(0, kCharacters.size() + std::size(pieces) - 1);
   std::string argument;
-  for (unsigned count = std::uniform_int_distribution(0U, 6U)(random); count > 0; --count)
-    argument += kPieces[piece(random)];
+  for (unsigned count = std::uniform_int_distribution(0U, 9U)(random); count > 0; --count) {
+    const std::size_t index = piece(random);
+    argument += index < kCharacters.size() ? std::string(1, kCharacters[index]) : pieces[index - kCharacters.size()];
+  }
   return argument;
 }
 

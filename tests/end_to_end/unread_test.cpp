@@ -71,10 +71,4 @@ TEST(Unread, AreCountedAndListedBelowTheTables) {
   EXPECT_THAT(result.out, HasSubstr("  zenx//qcmdrun.exe getstatus 1 device: 1\n    12  Percentage complete"));
 }
 
-TEST(Unread, NeedEveryClass) {
-  const ProgramResult result = RunHxahost({"query", "--unread", "--class", "KVRSG_zxDiskDrive"});
-  EXPECT_EQ(result.exitStatus, 2);
-  EXPECT_THAT(result.err, HasSubstr("--unread needs every class"));
-}
-
 }  // namespace

@@ -52,6 +52,8 @@ FaultMatrix& Matrix() {
   return matrix;
 }
 
+std::vector<Command> Commands() { return CommandsOf(Matrix().OfWholeMachine()); }
+
 // The raw data of the command itself: what it printed. A legacy utility that could not be run leaves a text of the
 // plug-in's own behind, without a line; hrconf's silence is recorded, that of the others is not.
 void ExpectOwnRawData(const Command& command, const Behaviour& behaviour, const Published& published) {
@@ -94,19 +96,19 @@ void ExpectCost(const Command& command, std::size_t column, const Behaviour& beh
 
 TEST(FaultMatrix, EveryFaultOfEveryCommandCostsWhatItsColumnSays) {
   std::size_t number = 0;
-  for (const Command& command : Matrix().Commands()) {
+  for (const Command& command : Commands()) {
     for (std::size_t column = 0; column < Faults().size(); ++column) {
       if (number++ % CasesForOneTry() != 0) continue;
       SCOPED_TRACE(command.Key() + ": " + Faults()[column].name);
       ExpectCost(command, kFirstFault + column, Faults()[column].Make(command, WholeMachine()));
     }
   }
-  EXPECT_EQ(number, Matrix().Commands().size() * Faults().size());
+  EXPECT_EQ(number, Commands().size() * Faults().size());
 }
 
 TEST(FaultMatrix, EveryAnswerCutOffBehindEachOfItsLinesCostsWhatItsColumnSays) {
   std::size_t number = 0;
-  for (const Command& command : Matrix().Commands()) {
+  for (const Command& command : Commands()) {
     const std::string text = WholeMachine().at(command.Key()).text;
     for (std::size_t end = text.find('\n'); end != text.npos; end = text.find('\n', end + 1)) {
       if (number++ % CasesForOneTry() != 0) continue;

@@ -292,11 +292,6 @@ std::string Command::PublishedKey() const {
   return "zenx//" + tool + ".exe" + key.substr(tool.size()) + (words.find(' ') == words.npos ? " nuthin" : "");
 }
 
-std::string KindName(const Command& command) {
-  const Kind& kind = KindOf(command);
-  return std::string(kind.tool) + " " + kind.words;
-}
-
 // Identifiers, numbers and references say so.
 bool IsOf(const Instance& instance, const std::string& number) {
   const std::string marks[] = {
@@ -348,9 +343,9 @@ const std::vector<Instance>& FaultMatrix::WithoutController(const Moved& control
   return place->second;
 }
 
-std::vector<Command> FaultMatrix::Commands() const {
+std::vector<Command> CommandsOf(const Published& published) {
   std::vector<Command> commands;
-  for (const std::string& run : std::set<std::string>(whole_.runs.begin(), whole_.runs.end())) {
+  for (const std::string& run : std::set<std::string>(published.runs.begin(), published.runs.end())) {
     commands.push_back(CommandOf(run));
   }
   return commands;

@@ -118,9 +118,6 @@ class FaultMatrix {
   // What is published of a machine that lacks the controller.
   const std::vector<Instance>& WithoutController(const Moved& controller);
 
-  // Every command that is run, each once.
-  std::vector<Command> Commands() const;
-
   // What the fault cost, the least that it can be called.
   Cost CostOf(const Command& command, const Published& published);
 
@@ -140,7 +137,7 @@ bool IsOf(const Instance& instance, const std::string& number);
 
 std::size_t ControllerCount(const std::vector<Instance>& instances);
 
-// Commands of one kind, "arcconf getlogs uart", cost the same: the name of the command's kind.
-std::string KindName(const Command& command);
+// Every command that was run, each once.
+std::vector<Command> CommandsOf(const Published& published);
 
 }  // namespace fault_matrix

@@ -30,6 +30,15 @@ class MachineCopy {
     }
   }
 
+  // One tool alone has controllers: the others answer that they have none.
+  void LeaveOnly(const std::string& tool) const {
+    for (const std::string each : {"qcmdrun", "arcconf", "hrconf_64"}) {
+      if (each == tool) continue;
+      RemoveControllers(each);
+      SetAnswer(each + "/other",
+                each == "qcmdrun" ? "Found 0 KVR Zentraxis controller(s)\n" : "Controllers found: 0\n");
+    }
+  }
   void RemoveController(const std::string& tool, const std::string& number) const {
     std::filesystem::remove_all(Zenx() / "answers" / tool / number);
   }

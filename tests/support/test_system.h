@@ -33,5 +33,6 @@ bool UnloadLibrary(const std::filesystem::path& file);
 // How often a test does what must not wear out. Wine takes a hundred times longer to start a program than Linux does.
 extern const int kManyRuns;
 
-// Of how many cases a test tries one where each takes a whole run of the program with all of its tools.
+// Of how many cases a test tries one where each takes a whole run of the program with all of its tools: a prime, so
+// that each fault has its turn.
 extern const std::size_t kCasesForOneRun;

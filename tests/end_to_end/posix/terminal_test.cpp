@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -25,12 +24,15 @@ using testing::HasSubstr;
 using testing::MatchesRegex;
 using testing::Not;
 
-using Variables = std::map<std::string, std::string>;
+using Variables = std::vector<std::string>;  // NAME=value
 
 // In the child: it must not come back.
 [[noreturn]] void RunProgram(const std::vector<std::string>& arguments, const Variables& variables) {
   for (const char* const name : {"COLUMNS", "NO_COLOR", "LC_ALL", "LC_CTYPE"}) unsetenv(name);
-  for (const auto& [name, value] : variables) setenv(name.c_str(), value.c_str(), 1);
+  for (const std::string& variable : variables) {
+    const std::size_t equals = variable.find('=');
+    setenv(variable.substr(0, equals).c_str(), variable.substr(equals + 1).c_str(), 1);
+  }
   const std::string program = HxahostPath().string();
   std::vector<std::string> texts = arguments;
   texts.insert(texts.begin(), program);
@@ -43,10 +45,7 @@ using Variables = std::map<std::string, std::string>;
 
 // What the program shows on a terminal of this width.
 std::string ShownOnTerminal(unsigned short width, const std::vector<std::string>& arguments, Variables variables) {
-  variables.insert({
-      {"TERM", "xterm"      },
-      {"LANG", "en_US.UTF-8"}
-  });
+  variables.insert(variables.begin(), {"TERM=xterm", "LANG=en_US.UTF-8"});
   winsize size{};
   size.ws_col = width;
   size.ws_row = 24;
@@ -108,48 +107,20 @@ TEST(Terminal, IsFilledByTheTablesAndNeverLeft) {
 }
 
 TEST(Terminal, GivesWayToColumnsAndToTheOption) {
-  EXPECT_LE(WidestLine(Tables(200,
-                              {
-                                  {"COLUMNS", "80"}
-  })),
-            80U);
-  EXPECT_LE(WidestLine(Tables(200,
-                              {
-                                  {"COLUMNS", "90"}
-  },
-                              {"--width", "70"})),
-            70U);
-  EXPECT_GT(WidestLine(Tables(80,
-                              {
-                                  {"COLUMNS", "none"}
-  })),
-            60U);
+  EXPECT_LE(WidestLine(Tables(200, {"COLUMNS=80"})), 80U);
+  EXPECT_LE(WidestLine(Tables(200, {"COLUMNS=90"}, {"--width", "70"})), 70U);
+  EXPECT_GT(WidestLine(Tables(80, {"COLUMNS=none"})), 60U);
 }
 
 TEST(Terminal, HasNoColourWhereAPersonWantsNone) {
-  EXPECT_THAT(Tables(100,
-                     {
-                         {"NO_COLOR", "1"}
-  }),
-              Not(HasSubstr("\x1b")));
-  EXPECT_THAT(Tables(100,
-                     {
-                         {"TERM", "dumb"}
-  }),
-              Not(HasSubstr("\x1b")));
+  EXPECT_THAT(Tables(100, {"NO_COLOR=1"}), Not(HasSubstr("\x1b")));
+  EXPECT_THAT(Tables(100, {"TERM=dumb"}), Not(HasSubstr("\x1b")));
   EXPECT_THAT(Tables(100, {}, {"--color", "never"}), Not(HasSubstr("\x1b")));
-  EXPECT_THAT(Tables(100,
-                     {
-                         {"NO_COLOR", "1"}
-  },
-                     {"--color", "always"}),
-              Not(HasSubstr("\x1b")));
+  EXPECT_THAT(Tables(100, {"NO_COLOR=1"}, {"--color", "always"}), Not(HasSubstr("\x1b")));
 }
 
 TEST(Terminal, ShowsAsciiWhereItsLocaleHasNothingElse) {
-  const std::string shown = Tables(80, {
-                                           {"LC_ALL", "C"}
-  });
+  const std::string shown = Tables(80, {"LC_ALL=C"});
   EXPECT_THAT(shown, HasSubstr("~"));
   for (const char character : shown) ASSERT_LT(static_cast<unsigned char>(character), 0x80U) << shown;
   EXPECT_THAT(Tables(80), HasSubstr("\u2026"));
@@ -192,9 +163,7 @@ TEST(Terminal, HasNothingOfTheProgressLeftBesideTheTables) {
                                           "--class", "KVRSG_zxDiskGroup", "--machine-name",
                                           "M",       "--local-time",      "20260305123015.250000+060",
                                           "--ascii"};
-  const Variables noColour = {
-      {"NO_COLOR", "1"}
-  };
+  const Variables noColour = {"NO_COLOR=1"};
   const std::string with = ShownOnTerminal(100, fixed, noColour);
   std::vector<std::string> quiet = fixed;
   quiet.emplace_back("--no-progress");

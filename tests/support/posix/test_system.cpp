@@ -51,4 +51,4 @@ bool UnloadLibrary(const fs::path& file) {
 
 const int kManyRuns = 10000;
 
-const std::size_t kCasesForOneRun = 13;
+const std::size_t kCasesForOneRun = 29;

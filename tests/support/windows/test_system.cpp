@@ -74,4 +74,4 @@ bool UnloadLibrary(const std::filesystem::path& file) {
 
 const int kManyRuns = 300;
 
-const std::size_t kCasesForOneRun = 17;
+const std::size_t kCasesForOneRun = 37;
