@@ -6,17 +6,14 @@
 #include <stdexcept>
 
 #include "plugin/host_interface/services.h"
-#include "tests/support/controller_summary.h"
+#include "tests/support/adapter_test.h"
 #include "tests/support/filled_fields.h"
-#include "tests/support/scripted_services.h"
-#include "tests/support/tool_text.h"
 
 namespace {
 
 using NKVRHXA20::TRootObject;
 
 const std::string kNoControllers = CrLf("Controllers found: 0\n");
-const std::string kInvalidNumber = CrLf("Controllers found: 2\nInvalid controller number.\n");
 const std::string kVersions = CrLf("1\n2\n3\n4\nBIOS : 4.2\nDriver : 4.3\n");
 
 OsVersion Version52() { return {true, 5, 2}; }
@@ -32,7 +29,6 @@ std::string Config(const std::string& status) {
               "Command completed successfully.\n");
 }
 
-std::string GetConfig(unsigned number) { return "hrconf_64 getconfig " + std::to_string(number) + " al"; }
 std::string GetStatus(unsigned number) { return "hrconf_64 getstatus " + std::to_string(number); }
 std::string GetVersion(unsigned number) { return "hrconf_64 getversion " + std::to_string(number); }
 
@@ -41,12 +37,22 @@ std::string Found(unsigned number) {
   return std::to_string(number) + " \n drive 1| 100 MB\n device Controller: 0Device #0|Hard drive| Online\n";
 }
 
-// A machine on which hrconf answers for no controller; a test gives it some.
-class HrconfDataTest : public testing::Test {
- protected:
-  HrconfDataTest() {
-    for (unsigned number = 1; number <= 9; ++number) services_.answers[GetConfig(number)] = kNoControllers;
+// The devices' channels and numbers: "0/0 0/1 ".
+std::string Places(const ControllerList& controllers) {
+  std::string places;
+  for (const auto& controller : controllers) {
+    for (const auto& device : controller->PhysicalDevices) {
+      const std::string name = device->DeviceNumber;
+      const std::string number = name.substr(0, name.find_first_of("\r\n"));
+      places += device->Channel + "/" + number + " ";
+    }
   }
+  return places;
+}
+
+class HrconfDataTest : public AdapterTest {
+ protected:
+  HrconfDataTest() : AdapterTest("hrconf_64", kNoControllers) {}
 
   void AddController(unsigned number, const std::string& status = "Okay") {
     services_.answers[GetConfig(number)] = Config(status);
@@ -55,10 +61,7 @@ class HrconfDataTest : public testing::Test {
   }
 
   void Collect(unsigned firstControllerNumber = 0, OsVersion (*version)() = Version52) {
-    HrconfData hrconf(TRootObject::GetCoreLogger(), version);
-    hrconf.Collect(firstControllerNumber);
-    controllers_ = hrconf.GetControllers();
-    rawData_ = hrconf.GetRawData();
+    CollectBy(HrconfData(TRootObject::GetCoreLogger(), version), firstControllerNumber);
   }
 
   std::string CollectOne(const std::string& config) {
@@ -68,15 +71,21 @@ class HrconfDataTest : public testing::Test {
     return Summary(controllers_);
   }
 
-  std::vector<std::string> Commands() const {
-    std::vector<std::string> commands;
-    for (const auto& raw : rawData_) commands.push_back(raw->Command);
-    return commands;
+  // LD stands for the begin of a drive's heading.
+  void ExpectDrives(const char* name, const std::string& section, const std::string& found) {
+    EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n----\n" +
+                              Replaced(section, "LD", "Logical drive"))),
+              "1 \n" + found)
+        << name;
   }
 
-  ScriptedServices services_;
-  ControllerList controllers_;
-  RawDataList rawData_;
+  void ExpectPlaces(const char* name, const std::string& section, const std::string& found) {
+    for (const std::string head : {"Physical drive information", "Physical Device information"}) {
+      CollectOne(CrLf("Controller information\n" + head + "\n----\n" + section +
+                      "Command completed successfully.\nDevice #9\n type\n"));
+      EXPECT_EQ(Places(controllers_), found) << name;
+    }
+  }
 };
 
 TEST_F(HrconfDataTest, AsksTwiceAndFindsNothingOnAMachineWithoutControllers) {
@@ -104,51 +113,12 @@ TEST_F(HrconfDataTest, AsksThreeControllersByTheirNumbersAndStopsAtTheFourth) {
   EXPECT_EQ(controllers_.size(), 3u);
 }
 
-TEST_F(HrconfDataTest, KeepsARecordOfAFailedOrEmptyCommandToo) {
-  AddController(1);
-  services_.answers.erase(GetStatus(1));
-  services_.answers[GetVersion(1)] = "";
-  Collect();
-  ASSERT_EQ(Commands().size(), 3u);
-  EXPECT_TRUE(rawData_[1]->RawResults.empty());
-  EXPECT_TRUE(rawData_[2]->RawResults.empty());
-  EXPECT_THAT(services_.log, testing::Contains(LogEntry{3, "hrconf aborted: zenx//hrconf_64.exe is not here"}));
-}
-
-TEST_F(HrconfDataTest, NumbersControllersFromTheOnesFoundBeforeAndToleratesGaps) {
-  AddController(1);
-  services_.answers[GetConfig(2)] = kInvalidNumber;
-  AddController(3);
-  Collect(4);
-  EXPECT_EQ(Summary(controllers_), Found(5) + Found(7));
-  // The record names the utility's own numbers.
-  ASSERT_EQ(rawData_.size(), 6u);
-  EXPECT_EQ(rawData_[3]->Command, "zenx//hrconf_64.exe getconfig 3 al");
-}
-
-TEST_F(HrconfDataTest, LooksAtEightControllersAtMost) {
-  for (unsigned number = 1; number <= 9; ++number) AddController(number);
-  Collect();
-  EXPECT_EQ(controllers_.size(), 8u);
-  EXPECT_EQ(rawData_.size(), 24u);
-  EXPECT_THAT(services_.runs, testing::Not(testing::Contains(GetConfig(9))));
-}
-
-TEST_F(HrconfDataTest, TriesEveryNumberOfAMissingToolAndKeepsARecordOfEachCommand) {
-  services_.answers.clear();
-  Collect();
-  EXPECT_EQ(services_.runs.size(), 8u * 4u + 8u);
-  EXPECT_TRUE(controllers_.empty());
-  EXPECT_EQ(rawData_.size(), 24u);
-}
-
 TEST_F(HrconfDataTest, AsksForNoVersionOnASystemOfVersionSixPointNought) {
   AddController(1);
   Collect(0, Version60);
   EXPECT_EQ(services_.runs, (std::vector<std::string>{GetConfig(1), GetConfig(1), GetStatus(1), GetConfig(2),
                                                       GetConfig(1), GetConfig(2)}));
-  EXPECT_EQ(Commands(),
-            (std::vector<std::string>{"zenx//hrconf_64.exe getconfig 1 al", "zenx//hrconf_64.exe getstatus 1 nuthin"}));
+  EXPECT_EQ(rawData_.size(), 2u);
   ASSERT_EQ(controllers_.size(), 1u);
   EXPECT_EQ(controllers_[0]->BiosVersion, "");
   EXPECT_EQ(controllers_[0]->DeviceDriverVersion, "");
@@ -212,78 +182,45 @@ TEST_F(HrconfDataTest, GoesOnBehindAnAnswerThatIsNoReport) {
   }
 }
 
-struct WalkCase {
-  const char* name;
-  const char* section;
-  const char* found;
-};
-
 TEST_F(HrconfDataTest, ReadsLogicalDrivesThatFollowEachOther) {
-  const WalkCase cases[] = {
-      {"a line between",          "LD number 1\n Size : 1\n\nLD number 2\n Size : 2\n\n\n",                                     " drive 1| 1\n drive 2| 2\n"                                 },
-      {"no line between",         "LD number 1\n Size : 1\nLD number 2\n Size : 2\n\n",                                         " drive 1| 1\n"                                              },
-      {"two lines between",       "LD number 1\n Size : 1\n\n\nLD number 2\n\n",                                                " drive 1| 1\n"                                              },
-      {"a stripe order",          "LD number 1\n Size : 1\n Stripe order (Channel,Device) : 0,0\nLD number 2\n Size : 2\n\n\n",
-       " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0\n"                                                                                                                                 },
-      {"of three lines",
-       "LD number 1\n Size : 1\n Stripe order (Channel,Device) : 0,0\n 0,1\n 0,2\nLD number 2\n Size : 2\n\n\n",                " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0 0,1 0,2\n"},
-      {"a size out of order",
-       "LD number 1\n Size : 1\n Segment size : 8\n Stripe order (Channel,Device) : 0,0\nLD number 2\n Size : 2\n\n\n",         " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0\n"        },
-      {"a size and nothing else", "LD number 1\n Size : 1\n Segment size : 8\n\nLD number 2\n Size : 2\n\n\n",
-       " drive 1| 1\n drive 2| 2\n"                                                                                                                                                          },
-      {"another list",            "LD number 1\n Size : 1\n Stripe order : 0,0\n 0,1\nLD number 2\n Size : 2\n\n\n",
-       " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,1\n"                                                                                                                                 },
-      {"a long number",           "LD number 12 (12)\n Size : 1\n\n\n",                                                         " drive 12 (12)| 1\n"                                        },
-      {"no number",               "LD number\n Size : 1\n\n\n",                                                                 " drive | 1\n"                                               },
-      {"no drive",                "No logical drives\n\n",                                                                      ""                                                           },
-  };
-  for (const auto& [name, section, found] : cases) {
-    std::string text = section;
-    for (std::size_t at = text.find("LD"); at != text.npos; at = text.find("LD", at))
-      text.replace(at, 2, "Logical drive");
-    EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n----\n" + text)),
-              std::string("1 \n") + found)
-        << name;
-  }
-}
-
-// The devices' channels and numbers: "0/0 0/1 ".
-std::string Places(const ControllerList& controllers) {
-  std::string places;
-  for (const auto& controller : controllers) {
-    for (const auto& device : controller->PhysicalDevices) {
-      const std::string name = device->DeviceNumber;
-      const std::string number = name.substr(0, name.find_first_of("\r\n"));
-      places += device->Channel + "/" + number + " ";
-    }
-  }
-  return places;
+  ExpectDrives("a line between", "LD number 1\n Size : 1\n\nLD number 2\n Size : 2\n\n\n",
+               " drive 1| 1\n drive 2| 2\n");
+  ExpectDrives("no line between", "LD number 1\n Size : 1\nLD number 2\n Size : 2\n\n", " drive 1| 1\n");
+  ExpectDrives("two lines between", "LD number 1\n Size : 1\n\n\nLD number 2\n\n", " drive 1| 1\n");
+  ExpectDrives("a stripe order",
+               "LD number 1\n Size : 1\n Stripe order (Channel,Device) : 0,0\nLD number 2\n Size : 2\n\n\n",
+               " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0\n");
+  ExpectDrives("of three lines",
+               "LD number 1\n Size : 1\n Stripe order (Channel,Device) : 0,0\n 0,1\n 0,2\nLD number 2\n Size : 2\n\n\n",
+               " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0 0,1 0,2\n");
+  ExpectDrives(
+      "a size out of order",
+      "LD number 1\n Size : 1\n Segment size : 8\n Stripe order (Channel,Device) : 0,0\nLD number 2\n Size : 2\n\n\n",
+      " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,0\n");
+  ExpectDrives("a size and nothing else", "LD number 1\n Size : 1\n Segment size : 8\n\nLD number 2\n Size : 2\n\n\n",
+               " drive 1| 1\n drive 2| 2\n");
+  ExpectDrives("another list", "LD number 1\n Size : 1\n Stripe order : 0,0\n 0,1\nLD number 2\n Size : 2\n\n\n",
+               " drive 1| 1\n drive 2| 2\n order 1LogicalDrv1 0,1\n");
+  ExpectDrives("a long number", "LD number 12 (12)\n Size : 1\n\n\n", " drive 12 (12)| 1\n");
+  ExpectDrives("no number", "LD number\n Size : 1\n\n\n", " drive | 1\n");
+  ExpectDrives("no drive", "No logical drives\n\n", "");
 }
 
 TEST_F(HrconfDataTest, WalksDevicesWithAndWithoutChannels) {
-  const WalkCase cases[] = {
-      {"channel 0 without headings", "Device #0\n type\nDevice #1\n type\n",                             "0/0 0/1 "  },
-      {"a heading that comes late",  "Device #0\n type\nChannel #1:\nDevice #1\n type\n",                "0/0 0/1 "  },
-      {"two channels",               "Channel #0:\nDevice #0\n type\n\nChannel #1:\nDevice #1\n type\n", "0/0 1/1 "  },
-      {"gaps between devices",       "Channel #0:\n\n\nDevice #0\n type\n\n\n\nDevice #1\n type\n",      "0/0 0/1 "  },
-      {"an initiator",               "Channel #2:\n Initiator at SCSI ID 7\nDevice #0\n type\n",         "2/0 "      },
-      {"a heading of another kind",  "Channel list\nBus #4 of 5: fast\nDevice #0\n type\n",              "4 of 5/0 " },
-      {"no heading behind the line", "Channel list\nDevice #0\n type\n",                                 "/0 "       },
-      {"no colon behind the sign",   "Channel #3\nDevice #0\n type\n",                                   "/0 "       },
-      {"a colon before the sign",    "Channel: #3\nDevice #0\n type\n",                                  "/0 "       },
-      {"a device line with a colon", "Channel #1:\nDevice #7: here\n type\n",                            "1/7: here "},
-      {"a long number",              "Channel #1:\nDevice #1234567\n type\n",                            "1/1234567 "},
-      {"the line behind is used up", "Device #0\nDevice #1\nDevice #2\n type\n",                         "0/0 0/2 "  },
-      {"no number",                  "Device #\n type\n",                                                "0/ "       },
-      {"no device",                  "Channel #1:\n",                                                    ""          },
-  };
-  for (const char* const head : {"Physical drive information", "Physical Device information"}) {
-    for (const auto& [name, section, found] : cases) {
-      CollectOne(CrLf(std::string("Controller information\n") + head + "\n----\n" + section +
-                      "Command completed successfully.\nDevice #9\n type\n"));
-      EXPECT_EQ(Places(controllers_), found) << name;
-    }
-  }
+  ExpectPlaces("channel 0 without headings", "Device #0\n type\nDevice #1\n type\n", "0/0 0/1 ");
+  ExpectPlaces("a heading that comes late", "Device #0\n type\nChannel #1:\nDevice #1\n type\n", "0/0 0/1 ");
+  ExpectPlaces("two channels", "Channel #0:\nDevice #0\n type\n\nChannel #1:\nDevice #1\n type\n", "0/0 1/1 ");
+  ExpectPlaces("gaps between devices", "Channel #0:\n\n\nDevice #0\n type\n\n\n\nDevice #1\n type\n", "0/0 0/1 ");
+  ExpectPlaces("an initiator", "Channel #2:\n Initiator at SCSI ID 7\nDevice #0\n type\n", "2/0 ");
+  ExpectPlaces("a heading of another kind", "Channel list\nBus #4 of 5: fast\nDevice #0\n type\n", "4 of 5/0 ");
+  ExpectPlaces("no heading behind the line", "Channel list\nDevice #0\n type\n", "/0 ");
+  ExpectPlaces("no colon behind the sign", "Channel #3\nDevice #0\n type\n", "/0 ");
+  ExpectPlaces("a colon before the sign", "Channel: #3\nDevice #0\n type\n", "/0 ");
+  ExpectPlaces("a device line with a colon", "Channel #1:\nDevice #7: here\n type\n", "1/7: here ");
+  ExpectPlaces("a long number", "Channel #1:\nDevice #1234567\n type\n", "1/1234567 ");
+  ExpectPlaces("the line behind is used up", "Device #0\nDevice #1\nDevice #2\n type\n", "0/0 0/2 ");
+  ExpectPlaces("no number", "Device #\n type\n", "0/ ");
+  ExpectPlaces("no device", "Channel #1:\n", "");
 }
 
 TEST_F(HrconfDataTest, TakesThePhysicalDrivesWhereBothHeadsAreThere) {

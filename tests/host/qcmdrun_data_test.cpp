@@ -24,17 +24,6 @@ using NKVRHXA20::TRootObject;
 
 using Texts = std::vector<std::string>;
 
-// The commands that a controller is asked after its configuration.
-const std::pair<const char*, const char*> kFurtherCommands[] = {
-    {"getstatus",  "device"},
-    {"getbst",     "device"},
-    {"getevent",   "device"},
-    {"getevent",   "ddd"   },
-    {"getevent",   "soft"  },
-    {"getevent",   "hard"  },
-    {"getsubstat", "device"},
-};
-
 const std::string kNoneFound = "Found 0 KVR Zentraxis controller(s)\r\n";
 const std::string kAborted = "Command aborted.\r\n";
 
@@ -112,9 +101,6 @@ class QcmdrunDataTest : public testing::Test {
     services_.answers[Run(command, number, option)] = CrLf(text);
   }
 
-  // The run of the command for controller 1 fails from now on.
-  void Fail(const std::string& command, const std::string& option) { services_.answers.erase(Run(command, 1, option)); }
-
   QcmdrunData& Collect(unsigned firstControllerNumber = 0) {
     data_.Collect(firstControllerNumber);
     return data_;
@@ -123,17 +109,6 @@ class QcmdrunDataTest : public testing::Test {
   std::shared_ptr<ZenxController> OnlyController() {
     const ControllerList controllers = data_.GetControllers();
     return controllers.size() == 1 ? controllers.front() : nullptr;
-  }
-
-  static void ExpectDevicesAlone(const ZenxController& controller) {
-    EXPECT_EQ(controller.PhysicalDevices.size(), 1u);
-    EXPECT_EQ(controller.Current_MostRecentOperation, "");
-    EXPECT_TRUE(controller.BadStripes.empty());
-    EXPECT_TRUE(controller.DeviceEvents.empty());
-    EXPECT_TRUE(controller.DddEvents.empty());
-    EXPECT_FALSE(controller.SoftEvents);
-    EXPECT_FALSE(controller.HardEvents);
-    EXPECT_TRUE(controller.SubStats.empty());
   }
 
   Texts ControllerNumbers() const {
@@ -162,24 +137,6 @@ class QcmdrunDataTest : public testing::Test {
   QcmdrunData data_{TRootObject::GetCoreLogger()};
 };
 
-TEST_F(QcmdrunDataTest, RunsTwiceAndFindsNothingWhereTheFirstNumberReportsNoController) {
-  SetNoneFrom(1);
-  Collect();
-  EXPECT_EQ(services_.runs, (Texts{"qcmdrun getconfig 1 al", "qcmdrun getconfig 1 al"}));
-  EXPECT_EQ(RawCommands(), Texts{});
-  EXPECT_EQ(ControllerNumbers(), Texts{});
-}
-
-TEST_F(QcmdrunDataTest, SkipsANumberWhoseCommandIsAbortedAndTriesHigherOnes) {
-  SetController(2);
-  services_.answers[Run("getconfig", 1, "al")] = kAborted;
-  Collect();
-  EXPECT_EQ(ControllerNumbers(), (Texts{"2"}));
-  EXPECT_EQ(RawCommands().size(), 8u);
-  EXPECT_EQ(RawCommands().front(), "zenx//qcmdrun.exe getconfig 2 al");
-  EXPECT_FALSE(Ran("qcmdrun getstatus 1 device"));
-}
-
 TEST_F(QcmdrunDataTest, NumbersControllers1And3As5And7Behind4ButTheirRawRecords1And3) {
   services_.answers[Run("getconfig", 2, "al")] = kAborted;
   SetController(3);
@@ -199,16 +156,8 @@ TEST_F(QcmdrunDataTest, NumbersControllers1And3As5And7Behind4ButTheirRawRecords1
   EXPECT_EQ(RawCommands().size(), 16u);
 }
 
-TEST_F(QcmdrunDataTest, AsksForEightNumbersAtMost) {
-  for (int number = 1; number <= 9; ++number) SetController(number);
-  Collect();
-  EXPECT_EQ(ControllerNumbers(), (Texts{"1", "2", "3", "4", "5", "6", "7", "8"}));
-  EXPECT_EQ(services_.runs.size(), 8u + 8 * 8 + 8 * 8);
-  EXPECT_FALSE(Ran("qcmdrun getconfig 9 al"));
-}
-
 TEST_F(QcmdrunDataTest, RecordsTheTextForAFailedRunAndGoesOnWithoutAController) {
-  Fail("getconfig", "al");
+  services_.answers.erase(Run("getconfig", 1, "al"));
   Collect();
   EXPECT_EQ(ControllerNumbers(), Texts{});
   EXPECT_EQ(RawCommands().size(), 8u);
@@ -216,39 +165,6 @@ TEST_F(QcmdrunDataTest, RecordsTheTextForAFailedRunAndGoesOnWithoutAController) 
   EXPECT_EQ(Logged("Qcmdrun aborted: zenx//qcmdrun.exe is not here"), 3);
   EXPECT_EQ(Logged("configData is not empty!\n"), 1);
   EXPECT_EQ(Logged("Found QCMRUN Controller information"), 0);
-}
-
-TEST_F(QcmdrunDataTest, FindsNothingInTheTextForAFailedRunOfALaterCommand) {
-  for (const auto& [command, option] : kFurtherCommands) Fail(command, option);
-  Collect();
-  const auto controller = OnlyController();
-  ASSERT_TRUE(controller);
-  ExpectDevicesAlone(*controller);
-  EXPECT_EQ(Logged("Qcmdrun aborted: zenx//qcmdrun.exe is not here"), 14);
-}
-
-TEST_F(QcmdrunDataTest, RecordsNoEmptyAnswer) {
-  Answer("getevent", "ddd", "");
-  Collect();
-  EXPECT_EQ(RawCommands().size(), 7u);
-  EXPECT_EQ(RawCommands()[4], "zenx//qcmdrun.exe getevent 1 soft");
-}
-
-TEST_F(QcmdrunDataTest, SkipsANumberWithAnEmptyConfiguration) {
-  Answer("getconfig", "al", "");
-  SetController(2);
-  Collect();
-  EXPECT_EQ(ControllerNumbers(), (Texts{"2"}));
-  EXPECT_EQ(Logged("configData is not empty!\n"), 1);
-  EXPECT_EQ(RawCommands()[0], "zenx//qcmdrun.exe getstatus 1 device");
-}
-
-TEST_F(QcmdrunDataTest, KeepsAControllerAllOfWhoseOtherAnswersAreEmpty) {
-  for (const auto& [command, option] : kFurtherCommands) Answer(command, option, "");
-  Collect();
-  const auto controller = OnlyController();
-  ASSERT_TRUE(controller);
-  ExpectDevicesAlone(*controller);
 }
 
 TEST_F(QcmdrunDataTest, EndsBothPassesAtTheNumberThatReportsNoController) {

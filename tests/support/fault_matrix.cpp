@@ -9,6 +9,7 @@
 #include "tests/support/recorded_system_setting.h"
 #include "tests/support/sample_text.h"
 #include "tests/support/scripted_services.h"
+#include "tests/support/tool_text.h"
 
 namespace fault_matrix {
 
@@ -80,13 +81,6 @@ Command CommandOf(const std::string& run) {
 }
 
 std::string TextOf(const Command& command, const Machine& machine) { return machine.at(command.Key()).text; }
-
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-  for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size())) {
-    text.replace(at, from.size(), to);
-  }
-  return text;
-}
 
 Behaviour NotStarted(const Command&, const Machine&) { return {"", "", SpawnFailure::kNotStarted}; }
 Behaviour TimeLimit(const Command&, const Machine&) { return {"", "", SpawnFailure::kTooLong}; }

@@ -30,6 +30,13 @@ struct Publishing {
     routine({nameSpace, lookupContext, collector, raidManagerLog, &log}, *nameSpace.GetClass(className, {}));
   }
 
+  // The routine publishes nothing and logs this.
+  void ExpectNothing(PublishRoutine routine, const std::string& className, const Entries& logged) {
+    Run(routine, className);
+    EXPECT_TRUE(nameSpace.Published(className).empty()) << className;
+    EXPECT_EQ(log.entries, logged) << className;
+  }
+
   // A new controller at the end of the list.
   ZenxController& AddController(const std::string& number) {
     controllers.push_back(std::make_shared<ZenxController>(&log));

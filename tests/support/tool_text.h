@@ -12,3 +12,11 @@ inline std::string CrLf(std::string_view text) {
   }
   return converted;
 }
+
+// The text with each of the one replaced by the other.
+inline std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+  for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size())) {
+    text.replace(at, from.size(), to);
+  }
+  return text;
+}

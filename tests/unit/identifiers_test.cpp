@@ -15,22 +15,20 @@ TEST(Identifiers, NameAControllerAndItsLogicalDisks) {
 
 TEST(Identifiers, NameADriveByChannelTargetAndItsOwnEnding) {
   struct Case {
-    const char* name;
     const char* channel;
     const char* scsiId;
     const char* suffix;
     const char* expected;
   };
   constexpr Case kCases[] = {
-      {"channel text 0 and target text 3 on controller 1", "0",           "3",            "SN1",                    "C1 CH0 I03:SN1"               },
-      {"a target text that is not numeric is I00",         "0",           "none",         "SN1",                    "C1 CH0 I00:SN1"               },
-      {"two digits stay two",                              "1",           "15",           "",                       "C1 CH1 I15:"                  },
-      {"three digits stay three",                          "2",           "128",          "",                       "C1 CH2 I128:"                 },
-      {"the texts as cut from the tool's lines",           " 1\r\n",      " 7\r\n",       " Controller: 1 0,7\r\n",
-       "C1 CH1 I07:Controller: 1 0,7"                                                                                                              },
-      {"what follows the digits is ignored",               "1 (SAS)",     "4,0",          "",                       "C1 CH1 I04:"                  },
-      {"no texts at all",                                  "",            "",             "",                       "C1 CH0 I00:"                  },
-      {"numbers beyond an int",                            "99999999999", "-99999999999", "",                       "C1 CH2147483647 I-2147483648:"},
+      {"0",           "3",            "SN1",                    "C1 CH0 I03:SN1"               },
+      {"0",           "none",         "SN1",                    "C1 CH0 I00:SN1"               },
+      {"1",           "15",           "",                       "C1 CH1 I15:"                  },
+      {"2",           "128",          "",                       "C1 CH2 I128:"                 },
+      {" 1\r\n",      " 7\r\n",       " Controller: 1 0,7\r\n", "C1 CH1 I07:Controller: 1 0,7" },
+      {"1 (SAS)",     "4,0",          "",                       "C1 CH1 I04:"                  },
+      {"",            "",             "",                       "C1 CH0 I00:"                  },
+      {"99999999999", "-99999999999", "",                       "C1 CH2147483647 I-2147483648:"},
   };
   ZenxController controller(nullptr);
   controller.ControllerNum = "1";
@@ -39,7 +37,7 @@ TEST(Identifiers, NameADriveByChannelTargetAndItsOwnEnding) {
     drive.Channel = one.channel;
     drive.ScsiId = one.scsiId;
     drive.DeviceIdSuffix = one.suffix;
-    EXPECT_EQ(DiskDriveId(controller, drive), one.expected) << one.name;
+    EXPECT_EQ(DiskDriveId(controller, drive), one.expected);
   }
 }
 

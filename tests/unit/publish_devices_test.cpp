@@ -96,20 +96,12 @@ TEST(PublishDevices, ARecordWithoutAnyValueIsPublishedWithEveryPropertyEmpty) {
 }
 
 TEST(PublishDevices, WithoutControllersOrTheirPartsNothingIsPublishedOrLogged) {
-  Publishing empty;
-  Publishing bare;
-  bare.AddController("1");
-  for (Publishing* const host : {&empty, &bare}) {
-    host->Run(PublishLogicalDisks, kLogicalDisk);
-    host->Run(PublishDiskGroups, kDiskGroup);
-    host->Run(PublishDiskDrives, kDiskDrive);
-    EXPECT_TRUE(host->nameSpace.Published(kLogicalDisk).empty());
-    EXPECT_TRUE(host->nameSpace.Published(kDiskGroup).empty());
-    EXPECT_TRUE(host->nameSpace.Published(kDiskDrive).empty());
-    EXPECT_EQ(host->log.entries, Entries{});
-  }
-  empty.Run(PublishControllers, kController);
-  EXPECT_TRUE(empty.nameSpace.Published(kController).empty());
+  Publishing host;
+  host.ExpectNothing(PublishControllers, kController, {});
+  host.AddController("1");
+  host.ExpectNothing(PublishLogicalDisks, kLogicalDisk, {});
+  host.ExpectNothing(PublishDiskGroups, kDiskGroup, {});
+  host.ExpectNothing(PublishDiskDrives, kDiskDrive, {});
 }
 
 TEST(PublishDevices, DrivesAreListedControllerByControllerInListOrder) {

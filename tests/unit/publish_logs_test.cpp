@@ -94,22 +94,15 @@ TEST(PublishLogs, ALogWhoseReadsReturn2And1And2And0PublishesExactlyOneInstance) 
   EXPECT_EQ(host.log.entries, (Entries{invalid, invalid}));
 }
 
-TEST(PublishLogs, AMissingRaidManagerLogIsAWarningAndNoInstance) {
+TEST(PublishLogs, OnlyAMissingRaidManagerLogIsAWarning) {
   Publishing host;
-  const RaidLogSetting none(std::nullopt);
-  host.Run(PublishRaidManagerEvents, kRaidManager);
-  EXPECT_TRUE(host.nameSpace.Published(kRaidManager).empty());
-  EXPECT_EQ(host.log.entries, (Entries{
-                                  {2, "There are no KVRSG_LogRecord_RAIDMgrEvent Log file or no path to it"}
-  }));
-}
-
-TEST(PublishLogs, AnEmptyRaidManagerLogIsNoWarningAndNoInstance) {
-  Publishing host;
+  {
+    const RaidLogSetting none(std::nullopt);
+    const LogEntry warning = {2, "There are no KVRSG_LogRecord_RAIDMgrEvent Log file or no path to it"};
+    host.ExpectNothing(PublishRaidManagerEvents, kRaidManager, {warning});
+  }
   const RaidLogMachine machine(host.services, "");
-  host.Run(PublishRaidManagerEvents, kRaidManager);
-  EXPECT_TRUE(host.nameSpace.Published(kRaidManager).empty());
-  EXPECT_EQ(host.log.entries, Entries{});
+  host.ExpectNothing(PublishRaidManagerEvents, kRaidManager, {});
 }
 
 }  // namespace

@@ -33,15 +33,6 @@ TEST(PublishRawData, AnOutputWithoutACarriageReturnIsPublishedWithItsCommandAndN
   }));
 }
 
-TEST(PublishRawData, WithoutAnyCommandTheReasonIsLogged) {
-  Publishing host;
-  host.Run(PublishRawData, kRawData);
-  EXPECT_TRUE(host.nameSpace.Published(kRawData).empty());
-  EXPECT_EQ(host.log.entries, (Entries{
-                                  {3, "ZenxRawDataVector is empty: inside ZxPlugin"}
-  }));
-}
-
 TEST(PublishRawData, PublishesTheRaidManagersLogAsOneRecord) {
   Publishing host;
   const RaidLogMachine machine(host.services, "one\r\ntwo\r\n");
@@ -51,24 +42,20 @@ TEST(PublishRawData, PublishesTheRaidManagersLogAsOneRecord) {
   EXPECT_EQ(host.log.entries, Entries{});
 }
 
-TEST(PublishRawData, AMissingRaidManagerLogIsLoggedAsNotThere) {
+TEST(PublishRawData, WithoutTextNothingIsPublishedAndTheReasonIsLogged) {
   Publishing host;
-  const RaidLogSetting none(std::nullopt);
-  host.Run(PublishManagerRawData, kManagerRawData);
-  EXPECT_TRUE(host.nameSpace.Published(kManagerRawData).empty());
-  EXPECT_EQ(host.log.entries, (Entries{
-                                  {3, "RaidMgrLog does not exist: inside ZxPlugin"}
-  }));
-}
-
-TEST(PublishRawData, ARaidManagerLogWithoutTextIsLoggedAsEmpty) {
-  Publishing host;
+  const auto because = [](const std::string& reason) {
+    return Entries{
+        LogEntry{3, reason + ": inside ZxPlugin"}
+    };
+  };
+  host.ExpectNothing(PublishRawData, kRawData, because("ZenxRawDataVector is empty"));
+  {
+    const RaidLogSetting none(std::nullopt);
+    host.ExpectNothing(PublishManagerRawData, kManagerRawData, because("RaidMgrLog does not exist"));
+  }
   const RaidLogMachine machine(host.services, "");
-  host.Run(PublishManagerRawData, kManagerRawData);
-  EXPECT_TRUE(host.nameSpace.Published(kManagerRawData).empty());
-  EXPECT_EQ(host.log.entries, (Entries{
-                                  {3, "RaidMgrLog is empty: inside ZxPlugin"}
-  }));
+  host.ExpectNothing(PublishManagerRawData, kManagerRawData, because("RaidMgrLog is empty"));
 }
 
 }  // namespace

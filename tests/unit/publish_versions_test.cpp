@@ -68,14 +68,10 @@ TEST(PublishVersions, ATextOfBlanksAndLineEndsIsNoVersion) {
     ZenxPhysicalDevice& drive = Add(controller.PhysicalDevices);
     drive.DeviceType = "Hard disk";
     drive.Firmware = text;
-    host.Run(PublishFirmwareVersions, kFirmware);
-    host.Run(PublishBootBlockVersions, kBootBlock);
-    host.Run(PublishBiosVersions, kBios);
-    host.Run(PublishDiskDriveVersions, kDriveVersion);
-    for (const char* const name : {kFirmware, kBootBlock, kBios, kDriveVersion}) {
-      EXPECT_TRUE(host.nameSpace.Published(name).empty()) << name;
-    }
-    EXPECT_EQ(host.log.entries, Entries{});
+    host.ExpectNothing(PublishFirmwareVersions, kFirmware, {});
+    host.ExpectNothing(PublishBootBlockVersions, kBootBlock, {});
+    host.ExpectNothing(PublishBiosVersions, kBios, {});
+    host.ExpectNothing(PublishDiskDriveVersions, kDriveVersion, {});
   }
 }
 
