@@ -1,13 +1,13 @@
 #include "collect/records.h"
 
+#include <fmt/core.h>
+
 namespace {
 
 std::string CommandText(std::string_view toolPath, std::string_view command, unsigned controllerNumber,
                         std::string_view option) {
   const std::string number = controllerNumber == 0 ? "" : std::to_string(controllerNumber);
-  std::string text;
-  for (const std::string_view word : {toolPath, command, std::string_view(number)}) text.append(word).append(" ");
-  return text.append(option);
+  return fmt::format("{} {} {} {}", toolPath, command, number, option);
 }
 
 // Tools end a line in carriage return and line feed; whatever stands behind the carriage return is dropped with it.

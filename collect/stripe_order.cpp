@@ -1,5 +1,7 @@
 #include "collect/stripe_order.h"
 
+#include <fmt/core.h>
+
 #include "collect/tool_text.h"
 
 bool ContinueList(CollectedData& text, std::string& list) {
@@ -13,7 +15,5 @@ bool ContinueList(CollectedData& text, std::string& list) {
 }
 
 std::string StripeOrderId(const ArrayStripeOrder& order, std::string_view logicalDriveNumber) {
-  std::string id = "ZentraxisCntrlr" + order.ControllerNum + "LogicalDrv";
-  id.append(logicalDriveNumber).append(order.StripeOrder);
-  return id;
+  return fmt::format("ZentraxisCntrlr{}LogicalDrv{}{}", order.ControllerNum, logicalDriveNumber, order.StripeOrder);
 }

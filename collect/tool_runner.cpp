@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include <fmt/core.h>
+
 #include "plugin/host_interface/services.h"
 
 namespace {
@@ -14,7 +16,7 @@ std::string RunTool(const Tool& tool, HostHandle host, const ToolCommand& comman
   const std::string number = std::to_string(controllerNumber);
   const bool hasOption = command.option != kNoOption;
   std::vector<std::string> arguments = {std::string(command.command), number};
-  std::string line = std::string(tool.logPrefix) + number + " opt1: " + std::string(command.command);
+  std::string line = fmt::format("{}{} opt1: {}", tool.logPrefix, number, command.command);
   if (hasOption) {
     arguments.emplace_back(command.option);
     line.append(" opt2: ").append(command.option);

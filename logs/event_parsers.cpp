@@ -1,11 +1,11 @@
 #include "logs/event_parsers.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <string>
+
+#include <fmt/core.h>
 
 #include "collect/ascii_text.h"
 #include "collect/collected_data.h"
@@ -24,21 +24,17 @@ constexpr std::string ZenxEventDddData::*kDddColumns[] = {
 };
 
 // The characters that the text has of the piece.
-std::string Piece(std::string_view text, std::size_t offset, std::size_t length) {
-  return std::string(text.substr(std::min(offset, text.size()), length));
+std::string_view Piece(std::string_view text, std::size_t offset, std::size_t length) {
+  return text.substr(std::min(offset, text.size()), length);
 }
 
 // "03/15/2005" and "14:02:33" to "20050315140233.000000+000".
 std::string TimestampText(std::string_view date, std::string_view time) {
-  const std::string day = Piece(date, 6, 4) + Piece(date, 0, 2) + Piece(date, 3, 2);
-  return day + Piece(time, 0, 2) + Piece(time, 3, 2) + Piece(time, 6, 2) + ".000000+000";
+  return fmt::format("{}{}{}{}{}{}.000000+000", Piece(date, 6, 4), Piece(date, 0, 2), Piece(date, 3, 2),
+                     Piece(time, 0, 2), Piece(time, 3, 2), Piece(time, 6, 2));
 }
 
-std::string FourHexDigits(std::uint32_t number) {
-  std::array<char, 16> text{};
-  std::snprintf(text.data(), text.size(), "%04x", static_cast<unsigned>(number));
-  return text.data();
-}
+std::string FourHexDigits(std::uint32_t number) { return fmt::format("{:04x}", number); }
 
 // A line without hexadecimal digits counts as 0, a number that has no room as the largest.
 std::uint32_t ReadCode(std::string_view line) {

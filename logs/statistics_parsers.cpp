@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include <fmt/core.h>
+
 #include "collect/collected_data.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_records.h"
@@ -100,6 +102,6 @@ void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::strin
     record.*field = CutValue(line, at + token.size(), end);
     from = at + 1;
   }
-  record.InstanceID = "Zentraxis:" + record.ControllerNum + "C" + record.Channel + "S" + record.ScsiId;
+  record.InstanceID = fmt::format("Zentraxis:{}C{}S{}", record.ControllerNum, record.Channel, record.ScsiId);
   record.StatisticTime = TOSSpecific::GetLocalTime();
 }

@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include <fmt/core.h>
+
 #include "collect/ascii_text.h"
 #include "plugin/host_interface/services.h"
 #include "publish/identifiers.h"
@@ -26,9 +28,8 @@ TCIMValue ControllerIdentifyingInfo(const ZenxController& controller) {
 }
 
 TCIMValue DriveIdentifyingInfo(const ZenxController&, const ZenxPhysicalDevice& drive) {
-  const std::string channel(Trimmed(drive.Channel));
-  const std::string scsiId(Trimmed(drive.ScsiId));
-  return StringArray({std::string(Trimmed(drive.DeviceType)), "Channel:" + channel + "|" + "SCSI ID:" + scsiId});
+  return StringArray({std::string(Trimmed(drive.DeviceType)),
+                      fmt::format("Channel:{}|SCSI ID:{}", Trimmed(drive.Channel), Trimmed(drive.ScsiId))});
 }
 
 // Controllers, logical disks and disk drives have always been published with "CreationClassname", with a small n; logs

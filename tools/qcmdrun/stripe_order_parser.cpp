@@ -1,5 +1,7 @@
 #include "tools/qcmdrun/stripe_order_parser.h"
 
+#include <fmt/core.h>
+
 #include "collect/collected_data.h"
 #include "collect/records.h"
 #include "collect/stripe_order.h"
@@ -15,7 +17,7 @@ void ParseStripeOrder(ArrayStripeOrder& order, CollectedData& text, std::string_
   const std::size_t label = line.find(kStripeOrderLabel);
   if (label == line.npos) return;
   order.Array = line.substr(label - 1, 1);
-  order.CollectionID = "Zentraxis" + order.ControllerNum + "Array" + order.Array;
+  order.CollectionID = fmt::format("Zentraxis{}Array{}", order.ControllerNum, order.Array);
   order.StripeOrder = text.ValueOfCurrentLine();
   ContinueList(text, order.StripeOrder);
 }

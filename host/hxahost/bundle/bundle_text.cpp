@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdio>
 #include <iterator>
 
+#include <fmt/core.h>
 #include <boost/crc.hpp>
 
 #include "host/hxahost/text/escaping.h"
@@ -31,9 +31,7 @@ constexpr ByteEscape kByteEscapes[] = {
 std::string EscapedByte(char byte) {
   const auto* const escape = std::ranges::find(kByteEscapes, byte, &ByteEscape::byte);
   if (escape != std::end(kByteEscapes)) return {'\\', escape->letter};
-  std::array<char, 8> text{};
-  std::snprintf(text.data(), text.size(), "\\x%02x", static_cast<unsigned>(static_cast<unsigned char>(byte)));
-  return text.data();
+  return fmt::format("\\x{:02x}", static_cast<unsigned char>(byte));
 }
 
 std::string EscapeAll(std::string_view bytes, bool isQuoted) {
@@ -105,11 +103,7 @@ std::uint32_t Crc32(std::string_view bytes) {
   return crc.checksum();
 }
 
-std::string HexText(std::uint32_t number) {
-  std::array<char, 16> text{};
-  std::snprintf(text.data(), text.size(), "%08x", static_cast<unsigned>(number));
-  return text.data();
-}
+std::string HexText(std::uint32_t number) { return fmt::format("{:08x}", number); }
 
 std::string DecimalText(double number) {
   std::array<char, 32> text{};

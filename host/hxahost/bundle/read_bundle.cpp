@@ -3,6 +3,8 @@
 #include <cmath>
 #include <iterator>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/bundle/bundle_text.h"
 
@@ -44,7 +46,7 @@ class BundleLines {
   explicit BundleLines(std::string_view text) : rest_(text), size_(text.size()) {}
 
   [[noreturn]] void Reject(const std::string& why) const {
-    throw BundleError("is damaged: line " + std::to_string(number_) + " " + why);
+    throw BundleError(fmt::format("is damaged: line {} {}", number_, why));
   }
 
   std::string_view Peek() const { return rest_.substr(0, rest_.find('\n')); }
@@ -71,7 +73,7 @@ class BundleLines {
   std::string_view Value(std::string_view label) {
     const std::string_view line = Take();
     if (!line.starts_with(label) || !line.substr(label.size()).starts_with(": ")) {
-      Reject("has no \"" + std::string(label) + "\"");
+      Reject(fmt::format("has no \"{}\"", label));
     }
     return line.substr(label.size() + 2);
   }
@@ -80,7 +82,7 @@ class BundleLines {
   template <class Read>
   auto Value(std::string_view label, const Read& read) {
     auto value = read(Value(label));
-    if (!value) Reject("has a \"" + std::string(label) + "\" that cannot be");
+    if (!value) Reject(fmt::format("has a \"{}\" that cannot be", label));
     return *std::move(value);
   }
 
@@ -184,8 +186,9 @@ void ReadStart(BundleLines& lines) {
   const auto version = ReadWhole<unsigned>(first.substr(kMagic.size()));
   if (!version) throw BundleError("is damaged: line 1 names no format");
   if (*version != kVersion) {
-    throw BundleError("has the format " + std::to_string(*version) + ", and this hxahost reads " +
-                      std::to_string(kVersion) + ": take the hxahost that wrote it, or a newer one");
+    throw BundleError(
+        fmt::format("has the format {}, and this hxahost reads {}: take the hxahost that wrote it, or a newer one",
+                    *version, kVersion));
   }
   lines.Take();
 }

@@ -1,5 +1,7 @@
 #include <iterator>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/bundle/bundle_text.h"
 
@@ -12,11 +14,11 @@ using namespace bundle_format;
 static_assert(std::size(kFailureWords) == static_cast<std::size_t>(FailureKind::kOther) + 1);
 
 void Add(std::string& text, std::string_view label, std::string_view value) {
-  text.append(label).append(": ").append(value).append("\n");
+  text += fmt::format("{}: {}\n", label, value);
 }
 
 void AddBytes(std::string& text, std::string_view label, std::string_view bytes) {
-  Add(text, label, std::to_string(bytes.size()) + std::string(kCrc) + HexText(Crc32(bytes)));
+  Add(text, label, fmt::format("{}{}{}", bytes.size(), kCrc, HexText(Crc32(bytes))));
   while (!bytes.empty()) {
     const std::size_t end = bytes.find('\n');
     text += end == bytes.npos ? kUnendedLine : kLine;
@@ -27,16 +29,16 @@ void AddBytes(std::string& text, std::string_view label, std::string_view bytes)
 
 void AddFailure(std::string& text, const RecordedFailure& failure) {
   const std::string_view word = kFailureWords[static_cast<std::size_t>(failure.kind)];
-  Add(text, "failure", std::string(word) + " " + Quote(failure.message));
+  Add(text, "failure", fmt::format("{} {}", word, Quote(failure.message)));
 }
 
 std::string VersionLine(const OsVersion& version) {
   if (!version.isWindowsNt) return std::string(kNone);
-  return std::to_string(version.major) + "." + std::to_string(version.minor);
+  return fmt::format("{}.{}", version.major, version.minor);
 }
 
 void AddHeader(std::string& text, const Bundle& bundle) {
-  text.append(kMagic).append(std::to_string(kVersion)).append("\n");
+  text += fmt::format("{}{}\n", kMagic, kVersion);
   Add(text, "program", Quote(bundle.program));
   Add(text, "masked", bundle.isMasked ? "yes" : "no");
   Add(text, "machine", Quote(bundle.machine));
@@ -45,7 +47,7 @@ void AddHeader(std::string& text, const Bundle& bundle) {
   Add(text, "os-version", VersionLine(bundle.osVersion));
   Add(text, "raid-log-dir", bundle.raidLogDir ? Quote(*bundle.raidLogDir) : std::string(kNone));
   for (const RecordedTime& recorded : bundle.localTimes) {
-    Add(text, "local-time", recorded.time.ToString() + " " + std::to_string(recorded.count));
+    Add(text, "local-time", fmt::format("{} {}", recorded.time.ToString(), recorded.count));
   }
   for (const double seconds : bundle.querySeconds) Add(text, "query-seconds", DecimalText(seconds));
   Add(text, "items", std::to_string(ItemCount(bundle)));
@@ -75,16 +77,16 @@ std::string WriteBundle(const Bundle& bundle) {
   AddHeader(text, bundle);
   std::size_t number = 0;
   for (const RecordedRun& run : bundle.runs) {
-    text += "\nrun " + std::to_string(++number) + "\n";
+    text += fmt::format("\nrun {}\n", ++number);
     AddRun(text, run);
   }
   if (bundle.raidLog) {
-    text += "\nraid-log " + std::to_string(++number) + "\n";
+    text += fmt::format("\nraid-log {}\n", ++number);
     AddLog(text, *bundle.raidLog);
   }
   text += "\n";
   const std::uint32_t crc = Crc32(text);
-  return text.append(kEnd).append(HexText(crc)).append("\n");
+  return text + fmt::format("{}{}\n", kEnd, HexText(crc));
 }
 
 }  // namespace hxahost

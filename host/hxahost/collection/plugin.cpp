@@ -3,6 +3,8 @@
 #include <exception>
 #include <string>
 
+#include <fmt/core.h>
+
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/plugin_library.h"
@@ -17,8 +19,9 @@ namespace hxahost {
 namespace {
 
 [[noreturn]] void Refuse(const std::filesystem::path& file, const std::string& reason) {
-  throw ProgramError(ExitStatus::kPluginNotLoaded, "The plug-in " + Printable(Utf8FromPath(file)) + " " + reason +
-                                                       ": give the path of zenx.pi with --plugin.");
+  throw ProgramError(
+      ExitStatus::kPluginNotLoaded,
+      fmt::format("The plug-in {} {}: give the path of zenx.pi with --plugin.", Printable(Utf8FromPath(file)), reason));
 }
 
 }  // namespace

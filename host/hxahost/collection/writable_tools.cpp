@@ -4,6 +4,8 @@
 #include <system_error>
 #include <vector>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/system/file_rights.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -34,9 +36,10 @@ std::string WritableToolsWarning(const fs::path& directory) {
   std::vector<fs::path> paths = WhatMustBeSafe(directory);
   std::erase_if(paths, [](const fs::path& path) { return !OthersMayWrite(path); });
   if (paths.empty()) return "";
-  const std::string more = paths.size() > 1 ? " and " + std::to_string(paths.size() - 1) + " more" : "";
-  return "others may write to " + Printable(Utf8FromPath(paths.front())) + more +
-         ", and what they put there runs with your rights: let only administrators write there.";
+  const std::string more = paths.size() > 1 ? fmt::format(" and {} more", paths.size() - 1) : "";
+  return fmt::format(
+      "others may write to {}{}, and what they put there runs with your rights: let only administrators write there.",
+      Printable(Utf8FromPath(paths.front())), more);
 }
 
 }  // namespace hxahost

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/json_output.h"
 #include "host/hxahost/text/utf8.h"
@@ -23,16 +25,16 @@ static_assert(std::size(kHeadings) == static_cast<std::size_t>(ChangeGroup::kTim
 
 std::string QuotedValue(const Json& value) {
   if (value.is_null()) return "(not there)";
-  return "\"" + EscapeControls(value.is_string() ? value.get<std::string>() : value.dump()) + "\"";
+  return fmt::format("\"{}\"", EscapeControls(value.is_string() ? value.get<std::string>() : value.dump()));
 }
 
 std::string ChangeText(const Change& change) {
   const std::string path = Printable(change.path);
   if (change.kind == ChangeKind::kDisappeared) return "- " + path;
   if (change.kind == ChangeKind::kAppeared) return "+ " + path;
-  const std::string moved = change.newPath.empty() ? "" : " (now " + Printable(change.newPath) + ")";
-  return "! " + path + moved + ": " + Printable(change.property) + " " + QuotedValue(change.before) + " -> " +
-         QuotedValue(change.after);
+  const std::string moved = change.newPath.empty() ? "" : fmt::format(" (now {})", Printable(change.newPath));
+  return fmt::format("! {}{}: {} {} -> {}", path, moved, Printable(change.property), QuotedValue(change.before),
+                     QuotedValue(change.after));
 }
 
 // The times of collection are always others: how many says enough.
@@ -50,8 +52,8 @@ void WriteChanges(std::ostream& out, const ResultDiff& diff) {
 std::string FindingChangeText(const FindingChange& change) {
   if (!change.before) return "+ " + FindingText(*change.after);
   if (!change.after) return "- " + FindingText(*change.before);
-  return "! " + std::string(SeverityWord(change.before->severity)) + " -> " + FindingText(*change.after) + " (was " +
-         QuotedText(*change.before) + ")";
+  return fmt::format("! {} -> {} (was {})", SeverityWord(change.before->severity), FindingText(*change.after),
+                     QuotedText(*change.before));
 }
 
 void WriteFindingChanges(std::ostream& out, const ResultDiff& diff) {
@@ -65,12 +67,14 @@ void WriteRawTexts(std::ostream& out, const ResultDiff& diff) {
   out << "\nRaw texts of commands: " << diff.rawTexts.size() << '\n';
   for (const RawTextChange& change : diff.rawTexts) {
     constexpr char kMarks[] = {'-', '+', '!'};
-    out << "  " << kMarks[static_cast<std::size_t>(change.kind)] << ' ' << Printable(change.command) << ": "
-        << "lines gone " << change.linesGone << ", new " << change.linesNew << "\n";
+    out << fmt::format("  {} {}: lines gone {}, new {}\n", kMarks[static_cast<std::size_t>(change.kind)],
+                       Printable(change.command), change.linesGone, change.linesNew);
   }
 }
 
-std::string NameText(const ComparedFile& file) { return Printable(file.name) + " (" + Printable(file.machine) + ")"; }
+std::string NameText(const ComparedFile& file) {
+  return fmt::format("{} ({})", Printable(file.name), Printable(file.machine));
+}
 
 void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
   out << "From " << NameText(before) << " to " << NameText(after) << (IsSame(diff) ? ": no difference.\n" : ":\n");

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <string_view>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/machine/state_words.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
@@ -14,18 +16,18 @@ namespace hxahost {
 
 namespace {
 
-std::string InParentheses(const std::string& text) { return text.empty() ? "" : " (" + text + ")"; }
+std::string InParentheses(const std::string& text) { return text.empty() ? "" : fmt::format(" ({})", text); }
 
 // "3 (arcconf)" and a model share one pair of parentheses: "3 (arcconf, Zentraxis C6-e)".
 std::string ControllerName(const TPublishedInstance& controller, const std::string& owner) {
   const std::string model = RawText(controller, "ControllerType");
-  if (!owner.ends_with(')') || model.empty()) return "controller " + owner + InParentheses(model);
-  return "controller " + owner.substr(0, owner.size() - 1) + ", " + model + ")";
+  if (!owner.ends_with(')') || model.empty()) return fmt::format("controller {}{}", owner, InParentheses(model));
+  return fmt::format("controller {}, {})", owner.substr(0, owner.size() - 1), model);
 }
 
 std::string LogicalDriveName(const TPublishedInstance& drive, const std::string& owner) {
-  return "logical drive " + RawText(drive, "LogicalDriveNum") + InParentheses(RawText(drive, "LogicalDriveName")) +
-         " of controller " + owner;
+  return fmt::format("logical drive {}{} of controller {}", RawText(drive, "LogicalDriveNum"),
+                     InParentheses(RawText(drive, "LogicalDriveName")), owner);
 }
 
 // "Device #4" of one utility is "4" of the other.
@@ -38,21 +40,21 @@ std::string DeviceNumber(const TPublishedInstance& device) {
 std::string Place(const TPublishedInstance& device) {
   const std::string id = RawText(device, "ScsiId");
   const std::string reported = RawText(device, "ReportedChannel");
-  if (!id.empty()) return "channel " + RawText(device, "Channel") + ", ID " + id;
+  if (!id.empty()) return fmt::format("channel {}, ID {}", RawText(device, "Channel"), id);
   return reported.empty() ? "number " + DeviceNumber(device) : "channel,ID " + reported;
 }
 
 std::string DeviceName(const TPublishedInstance& device, const std::string& owner) {
   const std::string type = RawText(device, "DeviceType");
-  return (type.empty() ? "device" : type) + " at " + Place(device) + " of controller " + owner;
+  return fmt::format("{} at {} of controller {}", type.empty() ? "device" : type, Place(device), owner);
 }
 
 std::string CountersName(const TPublishedInstance& counters, const std::string& owner) {
-  return "device at " + Place(counters) + " of controller " + owner;
+  return fmt::format("device at {} of controller {}", Place(counters), owner);
 }
 
 std::string BadStripesName(const TPublishedInstance& stripes, const std::string& owner) {
-  return "logical drive " + RawText(stripes, "LogicalDrive") + " of controller " + owner;
+  return fmt::format("logical drive {} of controller {}", RawText(stripes, "LogicalDrive"), owner);
 }
 
 struct Naming {
@@ -84,7 +86,7 @@ std::string IdentifierOf(const TPublishedInstance& instance) {
 std::string LocationOf(const TPublishedInstance& device, const std::string& channel, const std::string& id) {
   const std::string slot = RawText(device, "ReportedLocation");
   if (!slot.empty()) return NormalWord(slot);
-  if (!id.empty()) return "channel " + channel + ", ID " + id;
+  if (!id.empty()) return fmt::format("channel {}, ID {}", channel, id);
   const std::string number = DeviceNumber(device);
   return number.empty() ? "" : "device " + number;
 }

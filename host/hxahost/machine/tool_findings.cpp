@@ -8,6 +8,8 @@
 #include <string_view>
 #include <utility>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/result/tool_run.h"
 
@@ -65,13 +67,13 @@ std::vector<Trouble> Troubles(const ToolRunList& runs) {
 
 Finding AsFinding(const Trouble& trouble) {
   std::string name = trouble.tool + " " + trouble.firstCommand;
-  if (trouble.times > 1) name += " and " + std::to_string(trouble.times - 1) + " more";
+  if (trouble.times > 1) name += fmt::format(" and {} more", trouble.times - 1);
   return {SeverityOf(trouble.rule->level),
           std::string(kToolRun),
           trouble.tool,
           std::move(name),
           std::string(kOutcome.property),
-          std::string(trouble.rule->word) + ": " + trouble.reason,
+          fmt::format("{}: {}", trouble.rule->word, trouble.reason),
           std::string(trouble.rule->meaning)};
 }
 
@@ -125,8 +127,8 @@ Findings AnswerFindings(const QueryResult& result, std::size_t known) {
   const std::size_t answers = CountAnswers(result.runs);
   Findings findings;
   if (answers > known) {
-    findings.push_back(OfCollection(
-        "not published", std::to_string(answers) + " controllers answered, " + std::to_string(known) + " are known"));
+    findings.push_back(
+        OfCollection("not published", fmt::format("{} controllers answered, {} are known", answers, known)));
   }
   if (result.runs.empty() && result.number == 1) findings.push_back(OfCollection("no tool was run", "no run"));
   return findings;

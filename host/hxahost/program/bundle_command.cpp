@@ -1,9 +1,8 @@
 #include "host/hxahost/program/bundle_command.h"
 
-#include <algorithm>
-#include <array>
-#include <cstdio>
 #include <optional>
+
+#include <fmt/core.h>
 
 #include "host/hxahost/bundle/bundle_file.h"
 #include "host/hxahost/bundle/bundle_format.h"
@@ -38,10 +37,9 @@ Item RunItem(const RecordedRun& run) {
     // What came of it stands in the list of runs, as it did when it was run.
   }
   const ToolRun& read = runs.front();
-  std::array<char, 32> seconds{};
-  std::snprintf(seconds.data(), seconds.size(), "%.3f", run.result.seconds);
   const std::string reason = read.failure.empty() ? "" : ": " + read.failure;
-  return {CommandText(run), run.result.output, seconds.data(), std::string(OutcomeWord(read.outcome)) + reason};
+  return {CommandText(run), run.result.output, fmt::format("{:.3f}", run.result.seconds),
+          std::string(OutcomeWord(read.outcome)) + reason};
 }
 
 Item LogItem(const RecordedLog& log) {
@@ -50,10 +48,6 @@ Item LogItem(const RecordedLog& log) {
 
 Item ItemOf(const Bundle& bundle, std::size_t number) {
   return number <= bundle.runs.size() ? RunItem(bundle.runs[number - 1]) : LogItem(*bundle.raidLog);
-}
-
-std::string Right(const std::string& text, std::size_t width) {
-  return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
 // Everything that was printed so far, written as the reader of a terminal may have it.
@@ -80,9 +74,9 @@ void ShowHeader(const Bundle& bundle, std::ostream& out) {
 void CheckItems(const Bundle& bundle, const BundleOptions& options) {
   for (const std::size_t number : options.items) {
     if (number > ItemCount(bundle)) {
-      throw ProgramError(ExitStatus::kWrongArguments, "ITEM " + std::to_string(number) + ": this bundle has " +
-                                                          std::to_string(ItemCount(bundle)) +
-                                                          "; \"hxahost bundle list\" shows them.");
+      throw ProgramError(
+          ExitStatus::kWrongArguments,
+          fmt::format("ITEM {}: this bundle has {}; \"hxahost bundle list\" shows them.", number, ItemCount(bundle)));
     }
   }
 }
@@ -106,8 +100,8 @@ void ListBundle(const BundleOptions& options, std::ostream& out) {
   out << " ITEM     BYTES   SECONDS  COMMAND (OUTCOME)\n";
   for (std::size_t number = 1; number <= ItemCount(bundle); ++number) {
     const Item item = ItemOf(bundle, number);
-    out << Right(std::to_string(number), 5) << Right(std::to_string(item.bytes.size()), 10) << Right(item.seconds, 10)
-        << "  " << Printable(item.name) << " (" << Printable(item.outcome) << ")\n";
+    out << fmt::format("{:>5}{:>10}{:>10}  {} ({})\n", number, item.bytes.size(), item.seconds, Printable(item.name),
+                       Printable(item.outcome));
   }
 }
 

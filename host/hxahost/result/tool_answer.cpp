@@ -5,6 +5,7 @@
 #include <span>
 
 #include "host/hxahost/result/tool_names.h"
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
 
@@ -79,7 +80,7 @@ const AnswerSign* FindSign(std::span<const AnswerSign> signs, bool isProbe, std:
 }
 
 std::string LastLine(std::string_view output) {
-  const std::size_t end = output.find_last_not_of(" \t\r\n");
+  const std::size_t end = output.find_last_not_of(kWhiteSpace);
   return end == output.npos ? "" : LineAt(output, end);
 }
 
@@ -113,7 +114,7 @@ std::size_t MostRuns() {
 }
 
 ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output) {
-  if (output.find_first_not_of(" \t\r\n") == output.npos) return {Outcome::kEmpty, "it wrote nothing"};
+  if (Trim(output).empty()) return {Outcome::kEmpty, "it wrote nothing"};
   const auto* const known = std::ranges::find(kTools, tool, &Tool::name);
   if (known == std::end(kTools)) return {};
   const bool isProbe = !arguments.empty() && arguments.front() == kProbe;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
 
@@ -30,8 +32,7 @@ Progress::~Progress() {
 void Progress::Begin(const std::string& what) {
   const std::lock_guard lock(mutex_);
   ++begun_;
-  const std::string place =
-      atMost_ == 0 ? "" : " (" + std::to_string(begun_) + " of at most " + std::to_string(atMost_) + ")";
+  const std::string place = atMost_ == 0 ? "" : fmt::format(" ({} of at most {})", begun_, atMost_);
   what_ = CutToWidth(Printable(what), width_ - kRoomForSeconds - place.size()) + place;
   since_ = std::chrono::steady_clock::now();
   Draw(what_);
@@ -55,7 +56,7 @@ void Progress::Run() {
   while (!changed_.wait_for(lock, std::chrono::seconds(1), [this] { return isOver_; })) {
     if (what_.empty()) continue;
     const auto running = std::chrono::steady_clock::now() - since_;
-    Draw(what_ + " " + std::to_string(std::chrono::duration_cast<std::chrono::seconds>(running).count()) + " s");
+    Draw(fmt::format("{} {} s", what_, std::chrono::duration_cast<std::chrono::seconds>(running).count()));
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
 
@@ -17,16 +19,16 @@ constexpr std::size_t kWidestText = 160;
 std::string SubjectText(const Finding& finding) {
   const std::string name = Printable(finding.name);
   const bool isNamedTwice = finding.identifier.empty() || finding.identifier == finding.name;
-  return isNamedTwice ? name : name + " [" + Printable(finding.identifier) + "]";
+  return isNamedTwice ? name : fmt::format("{} [{}]", name, Printable(finding.identifier));
 }
 
 std::string QuotedText(const Finding& finding) {
-  return "\"" + CutToWidth(Printable(finding.text), kWidestText) + "\"";
+  return fmt::format("\"{}\"", CutToWidth(Printable(finding.text), kWidestText));
 }
 
 std::string FindingText(const Finding& finding) {
-  return std::string(SeverityWord(finding.severity)) + ": " + SubjectText(finding) + ": " +
-         Printable(finding.property) + " " + QuotedText(finding) + ": " + finding.meaning;
+  return fmt::format("{}: {}: {} {}: {}", SeverityWord(finding.severity), SubjectText(finding),
+                     Printable(finding.property), QuotedText(finding), finding.meaning);
 }
 
 }  // namespace hxahost

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/display_width.h"
@@ -59,8 +61,8 @@ void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult
 }  // namespace
 
 void BeginTables(std::ostream& out, const QueryHeader& header) {
-  const std::string line = "RAID controllers of " + Printable(header.machine) + " on " +
-                           ReadableTime(header.time.ToString()) + ", collected in " + Printable(header.directory);
+  const std::string line = fmt::format("RAID controllers of {} on {}, collected in {}", Printable(header.machine),
+                                       ReadableTime(header.time.ToString()), Printable(header.directory));
   out << CutToWidth(line, header.layout.width) << '\n';
 }
 

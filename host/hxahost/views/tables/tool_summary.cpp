@@ -83,7 +83,8 @@ std::string Counted(std::size_t count, std::string_view what) {
 std::string ControllersText(const ToolSummary& summary) {
   constexpr std::size_t kNoRanges = static_cast<std::size_t>(-1);
   if (!summary.controllers.empty()) {
-    return Counted(summary.controllers.size(), "controller") + " (" + NumbersText(summary.controllers, kNoRanges) + ")";
+    return fmt::format("{} ({})", Counted(summary.controllers.size(), "controller"),
+                       NumbersText(summary.controllers, kNoRanges));
   }
   // Only a utility that answered, and to every question, proves that there is none.
   return summary.troubles.empty() ? "no controller found" : "no controller answered";
@@ -92,7 +93,7 @@ std::string ControllersText(const ToolSummary& summary) {
 std::string RefusedText(const std::vector<int>& refused) {
   if (refused.empty()) return "";
   constexpr std::size_t kShortestRange = 2;
-  return (refused.size() == 1 ? ", number " : ", numbers ") + NumbersText(refused, kShortestRange) + " refused";
+  return fmt::format(", number{} {} refused", refused.size() == 1 ? "" : "s", NumbersText(refused, kShortestRange));
 }
 
 // What each kind of trouble came to, the worst first: "2 timed out, 1 cut off".
@@ -122,7 +123,7 @@ void WriteLine(std::ostream& out, const Layout& layout, std::size_t indent, cons
 std::string TroubleHead(const ToolTrouble& trouble) {
   const std::string which =
       trouble.times == 1 ? trouble.firstCommand : Counted(trouble.times, "run") + ", the first " + trouble.firstCommand;
-  return std::string(OutcomeWord(trouble.outcome)) + " (" + which + "):";
+  return fmt::format("{} ({}):", OutcomeWord(trouble.outcome), which);
 }
 
 // The reason matters most: where the line has no room for all of it, it gets one of its own.

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/result/unread_lines.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
@@ -18,10 +20,10 @@ std::size_t CountUnread(const std::vector<UnreadText>& texts) {
 }
 
 void WriteUnreadText(std::ostream& out, const Layout& layout, const UnreadText& text) {
-  out << CutToWidth("  " + Printable(text.command) + ": " + std::to_string(text.unread.size()), layout.width) << '\n';
+  out << CutToWidth(fmt::format("  {}: {}", Printable(text.command), text.unread.size()), layout.width) << '\n';
   for (std::size_t index = 0; index < text.unread.size(); ++index) {
-    const std::string line = std::to_string(text.unread[index] + 1) + "  " + Printable(text.unreadLines[index]);
-    out << CutToWidth("    " + line, layout.width) << '\n';
+    const std::string line = fmt::format("    {}  {}", text.unread[index] + 1, Printable(text.unreadLines[index]));
+    out << CutToWidth(line, layout.width) << '\n';
   }
 }
 
