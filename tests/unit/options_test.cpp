@@ -37,6 +37,11 @@ TEST(Options, HaveDefaultsForEverything) {
   EXPECT_TRUE(options.collection.showProgress);
 }
 
+TEST(Options, TakeTheNarrowestAndTheWidestTables) {
+  EXPECT_EQ(Query({"--width", "40"}).width, 40U);
+  EXPECT_EQ(Query({"--width", "1000"}).width, 1000U);
+}
+
 TEST(Options, TakeEveryOptionOfAQuery) {
   const QueryOptions options = Query({"--plugin",
                                       "p.pi",
