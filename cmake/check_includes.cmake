@@ -1,5 +1,6 @@
 # Fails where a file of the product includes what its folder must not know. Run from the top of the tree by every build:
 #   cmake -P cmake/check_includes.cmake
+cmake_minimum_required(VERSION 3.25)
 include(${CMAKE_CURRENT_LIST_DIR}/Rooms.cmake)
 
 function(report line)
@@ -11,9 +12,13 @@ endfunction()
 # about is left out.
 function(may_include folder)
   list(JOIN ARGN "|" others)
-  file(GLOB_RECURSE files RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${folder} ${folder}/*.h ${folder}/*.cpp)
+  if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    file(GLOB_RECURSE files RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${folder}/*.h ${folder}/*.cpp)
+  elseif(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    set(files ${folder})
+  endif()
   get_property(checked GLOBAL PROPERTY checked)
-  list(REMOVE_ITEM files "" ${checked})
+  list(REMOVE_ITEM files ${checked})
   foreach(file ${files})
     file(STRINGS ${file} includes REGEX "^#include [\"<]")
     foreach(include ${includes})

@@ -9,10 +9,10 @@
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
 #include "fuzz/support/text_checks.h"
-#include "host/hxahost/diff/diff_view.h"
-#include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/result/json_result.h"
 #include "host/hxahost/diff/result_diff.h"
+#include "host/hxahost/program/formats.h"
+#include "host/hxahost/result/json_result.h"
+#include "host/hxahost/system/exit_status.h"
 
 using namespace hxahost;
 
@@ -27,10 +27,10 @@ std::size_t CountOf(const ResultDiff& diff, ChangeKind kind) {
 }
 
 void CheckViews(const JsonResult& before, const JsonResult& after, const ResultDiff& diff) {
-  for (const DiffView& view : DiffViews()) {
+  for (const Format& format : FormatsOf("diff")) {
     std::ostringstream out;
-    view.Write(out, {"old.json", before.machine}, {"new.json", after.machine}, diff);
-    if (view.format == "json") {
+    std::get<DiffWriter>(format.writer)(out, {"old.json", before.machine}, {"new.json", after.machine}, diff);
+    if (format.name == "json") {
       Require(nlohmann::json::parse(out.str())["changes"].size() == diff.changes.size(), "every change is read back");
     } else {
       RequirePlainLines(out.str());

@@ -18,12 +18,11 @@
 #include "host/hxacore/value_reader.h"
 #include "host/hxahost/diff/result_diff.h"
 #include "host/hxahost/machine/health.h"
+#include "host/hxahost/program/formats.h"
 #include "host/hxahost/result/json_result.h"
 #include "host/hxahost/terminal/ascii_output.h"
 #include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/utf8.h"
-#include "host/hxahost/views/monitoring/health_report.h"
-#include "host/hxahost/views/views.h"
 
 using Json = nlohmann::ordered_json;
 using namespace hxahost;
@@ -35,7 +34,7 @@ std::string Shown(std::string_view format, const QueryHeader& header, const Quer
   QueryHeader laidOut = header;
   laidOut.layout.width = width;
   std::ostringstream out;
-  const View& view = *FindView(format);
+  const auto& view = WriterOf<QueryWriter>("query", format);
   view.Begin(out, laidOut);
   view.Query(out, laidOut, result);
   view.End(out, laidOut);
@@ -122,12 +121,13 @@ void CheckTables(const QueryHeader& header, const QueryResult& result) {
 
 void CheckHealth(const QueryHeader& header, const QueryResult& result) {
   const HealthReport report{header, result, BuildMachine(header, result), 1.5};
-  for (const HealthView& view : HealthViews()) {
+  for (const Format& format : FormatsOf("health")) {
     std::ostringstream out;
-    view.Write(out, report);
-    if (view.format == "json") {
-      Require(Json::parse(out.str())["findings"].size() == report.machine.findings.size(), "every finding is read back");
-    } else if (view.format == "prometheus") {
+    std::get<HealthWriter>(format.writer)(out, report);
+    if (format.name == "json") {
+      Require(Json::parse(out.str())["findings"].size() == report.machine.findings.size(),
+              "every finding is read back");
+    } else if (format.name == "prometheus") {
       RequireMetrics(out.str());
     } else {
       RequirePlainLines(out.str());

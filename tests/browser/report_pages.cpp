@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/hxahost/views/views.h"
+#include "host/hxahost/program/formats.h"
 #include "tests/support/filled_repository.h"
 
 // Writes pages, and the JSON beside them, of machines that the sample machine is not: one with thousands of disks, one
@@ -134,7 +134,7 @@ std::vector<LoggedEntry> HostileLog() {
 void Write(const std::filesystem::path& file, const char* format, const QueryHeader& header,
            const QueryResult& result) {
   std::ofstream out(file, std::ios::binary);
-  const View& view = *FindView(format);
+  const auto& view = WriterOf<QueryWriter>("query", format);
   view.Begin(out, header);
   view.Query(out, header, result);
   view.End(out, header);

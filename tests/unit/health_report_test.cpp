@@ -10,6 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxahost/machine/health.h"
+#include "host/hxahost/program/formats.h"
 #include "tests/support/healthy_machine.h"
 #include "tests/support/same_lines.h"
 
@@ -23,7 +24,7 @@ std::string Written(const HealthyMachine& machine, std::string_view format) {
   const QueryHeader header = machine.Header();
   const QueryResult result = machine.Result();
   std::ostringstream out;
-  FindHealthView(format)->Write(out, {header, result, BuildMachine(header, result), 1.25});
+  WriterOf<HealthWriter>("health", format)(out, {header, result, BuildMachine(header, result), 1.25});
   return out.str();
 }
 
@@ -44,12 +45,6 @@ HealthyMachine HostileMachine() {
   machine.SetOf("Zentraxis2LD1", "LogicalDriveName", "a\"b\\c\nd\x1b[2J\xe4");
   machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", "<b>\"Odd\"\\\n\xe4\x1b]0;x\x07");
   return machine;
-}
-
-TEST(HealthViews, AreFoundByTheirFormat) {
-  EXPECT_EQ(HealthViews().front().format, "text");
-  EXPECT_EQ(FindHealthView("prometheus")->format, "prometheus");
-  EXPECT_EQ(FindHealthView("html"), nullptr);
 }
 
 TEST(HealthText, SumsUpInItsFirstLineAndHasALineForEachFinding) {

@@ -19,17 +19,15 @@
 
 #include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/collection/query_log.h"
-#include "host/hxahost/diff/diff_view.h"
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/program/bundle_command.h"
+#include "host/hxahost/program/formats.h"
 #include "host/hxahost/result/json_result.h"
 #include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
-#include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/tables/tool_summary.h"
-#include "host/hxahost/views/views.h"
 #include "tests/support/file_text.h"
 #include "tests/support/healthy_machine.h"
 #include "tests/support/temporary_folder.h"
@@ -130,7 +128,7 @@ class Machine {
 
   std::string Query(const char* format) const {
     std::ostringstream out;
-    const View& view = *FindView(format);
+    const auto& view = WriterOf<QueryWriter>("query", format);
     view.Begin(out, header_);
     view.Query(out, header_, result_);
     view.End(out, header_);
@@ -139,7 +137,7 @@ class Machine {
 
   std::string Health(const char* format) const {
     std::ostringstream out;
-    FindHealthView(format)->Write(out, {header_, result_, BuildMachine(header_, result_), 1});
+    WriterOf<HealthWriter>("health", format)(out, {header_, result_, BuildMachine(header_, result_), 1});
     return out.str();
   }
 
@@ -148,7 +146,8 @@ class Machine {
     std::ostringstream out;
     const JsonResult before = ParseJsonResult(Machine("Optimal").Query("json"), "");
     const JsonResult after = ParseJsonResult(Query("json"), "");
-    FindDiffView(format)->Write(out, {"before", before.machine}, {text_, after.machine}, CompareResults(before, after));
+    WriterOf<DiffWriter>("diff", format)(out, {"before", before.machine}, {text_, after.machine},
+                                         CompareResults(before, after));
     return out.str();
   }
 

@@ -74,12 +74,6 @@ TEST(SchemaView, SaysWhereAPropertyComesFrom) {
             std::string::npos);
 }
 
-TEST(SchemaView, IsFoundByItsFormatTheDefaultFirst) {
-  EXPECT_EQ(SchemaViews().front().format, "mof");
-  for (const SchemaView& view : SchemaViews()) EXPECT_EQ(FindSchemaView(view.format), &view);
-  EXPECT_EQ(FindSchemaView("MOF"), nullptr);
-}
-
 TEST(SchemaView, ListsTheClassesWithTheirDescriptionsUnderEachOther) {
   std::ostringstream out;
   WriteClassList(out, kClasses);

@@ -76,12 +76,16 @@ std::string NameText(const ComparedFile& file) {
   return fmt::format("{} ({})", Printable(file.name), Printable(file.machine));
 }
 
+}  // namespace
+
 void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
   out << "From " << NameText(before) << " to " << NameText(after) << (IsSame(diff) ? ": no difference.\n" : ":\n");
   WriteFindingChanges(out, diff);
   WriteChanges(out, diff);
   WriteRawTexts(out, diff);
 }
+
+namespace {
 
 Json FileJson(const ComparedFile& file) {
   return {
@@ -134,6 +138,8 @@ Json ListJson(const std::vector<Each>& list, Json (*toJson)(const Each&)) {
   return json;
 }
 
+}  // namespace
+
 void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
   Json json = {
       {"format", 1               },
@@ -145,20 +151,6 @@ void WriteDiffJson(std::ostream& out, const ComparedFile& before, const Compared
   json["changes"] = ListJson(diff.changes, ChangeJson);
   json["rawTexts"] = ListJson(diff.rawTexts, RawTextJson);
   out << JsonText(json, 2) << '\n';
-}
-
-constexpr DiffView kDiffViews[] = {
-    {"text", WriteDiffText},
-    {"json", WriteDiffJson},
-};
-
-}  // namespace
-
-std::span<const DiffView> DiffViews() { return kDiffViews; }
-
-const DiffView* FindDiffView(std::string_view format) {
-  const auto* const view = std::ranges::find(kDiffViews, format, &DiffView::format);
-  return view == std::end(kDiffViews) ? nullptr : view;
 }
 
 }  // namespace hxahost

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <ostream>
-#include <span>
 #include <string>
-#include <string_view>
 
 #include "host/hxahost/diff/result_diff.h"
 
@@ -15,16 +13,10 @@ struct ComparedFile {
   std::string machine;
 };
 
-// One way to show differences.
-struct DiffView {
-  std::string_view format;
-  void (*Write)(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff);
-};
+// For people: what is worst first.
+void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff);
 
-// The default first.
-std::span<const DiffView> DiffViews();
-
-// Null where there is no such format.
-const DiffView* FindDiffView(std::string_view format);
+// For programs, format 1. Keys may be added, nothing else may change.
+void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff);
 
 }  // namespace hxahost

@@ -3,8 +3,8 @@
 #include <exception>
 
 #include "host/hxahost/diff/diff_source.h"
-#include "host/hxahost/diff/diff_view.h"
 #include "host/hxahost/diff/result_diff.h"
+#include "host/hxahost/program/formats.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -17,7 +17,8 @@ int Compare(const DiffOptions& options, std::ostream& out) {
   const JsonResult before = ReadResultOrBundle(PathFromUtf8(options.oldFile));
   const JsonResult after = ReadResultOrBundle(PathFromUtf8(options.newFile));
   const ResultDiff diff = CompareResults(before, after);
-  FindDiffView(options.format)->Write(out, {options.oldFile, before.machine}, {options.newFile, after.machine}, diff);
+  WriterOf<DiffWriter>("diff", options.format)(out, {options.oldFile, before.machine}, {options.newFile, after.machine},
+                                               diff);
   out.flush();
   if (!out) {
     throw ProgramError(ExitStatus::kWrongArguments,

@@ -1,13 +1,13 @@
 #include "host/hxahost/program/health_command.h"
 
 #include "host/hxahost/machine/health.h"
+#include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_command.h"
-#include "host/hxahost/views/monitoring/health_report.h"
 
 namespace hxahost {
 
 Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
-  const HealthView& view = *FindHealthView(options.format);
+  const auto write = WriterOf<HealthWriter>("health", options.format);
   QueryOptions query = options;
   query.classes.assign(HealthClasses().begin(), HealthClasses().end());
   Severity worst = Severity::kUnknown;
@@ -16,7 +16,7 @@ Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::o
   display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
     const HealthReport report{header, result, BuildMachine(header, result), result.seconds};
     worst = WorstOf(report.machine.findings);
-    view.Write(shown, report);
+    write(shown, report);
   };
   display.end = [](std::ostream&, const QueryHeader&) {};
   RunQueries(query, display, out, err);

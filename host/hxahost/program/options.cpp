@@ -1,19 +1,16 @@
 #include "host/hxahost/program/options.h"
 
 #include <algorithm>
-#include <span>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 
-#include "host/hxahost/diff/diff_view.h"
+#include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/option_examples.h"
 #include "host/hxahost/program/option_values.h"
-#include "host/hxahost/schema/schema_view.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
-#include "host/hxahost/views/monitoring/health_report.h"
-#include "host/hxahost/views/views.h"
 
 namespace hxahost {
 
@@ -32,18 +29,14 @@ struct TypedOptions {
   std::string width;
 };
 
-template <class AnyView>
-std::string FormatNames(std::span<const AnyView> views) {
+std::string FormatNames(std::string_view command) {
   std::string names;
-  for (const AnyView& view : views) names += (names.empty() ? "" : " or ") + std::string(view.format);
+  for (const Format& format : FormatsOf(command)) names += (names.empty() ? "" : " or ") + std::string(format.name);
   return names;
 }
 
-template <class AnyView>
-void CheckFormat(const std::string& format, std::span<const AnyView> views) {
-  if (std::ranges::find(views, format, &AnyView::format) == views.end()) {
-    Reject("--format", format, "give " + FormatNames(views) + ".");
-  }
+void CheckFormat(std::string_view command, const std::string& format) {
+  if (FindFormat(command, format) == nullptr) Reject("--format", format, "give " + FormatNames(command) + ".");
 }
 
 // Paths are UTF-8 on every system.
@@ -83,7 +76,7 @@ CLI::App* AddHealth(CLI::App& program, TypedOptions& typed) {
   CLI::App* const health = program.add_subcommand("health", "Say what is wrong with the controllers and their drives");
   health
       ->add_option("--format", typed.healthFormat,
-                   FormatNames(HealthViews()) + ": lines for people, JSON for programs, metrics")
+                   FormatNames("health") + ": lines for people, JSON for programs, metrics")
       ->type_name("FORMAT")
       ->capture_default_str();
   health->add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
@@ -103,7 +96,7 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
       ->capture_default_str();
   query
       ->add_option("--format", read.format,
-                   FormatNames(Views()) +
+                   FormatNames("query") +
                        ": tables for a terminal, JSON for programs, a page for browsers, "
                        "instances for CIM repositories")
       ->type_name("FORMAT")
@@ -121,18 +114,12 @@ CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
   return query;
 }
 
-std::string DiffFormatNames() {
-  std::string names;
-  for (const DiffView& view : DiffViews()) names += (names.empty() ? "" : " or ") + std::string(view.format);
-  return names;
-}
-
 CLI::App* AddDiff(CLI::App& program, DiffOptions& read) {
   CLI::App* const diff = program.add_subcommand("diff", "Show what is different between two JSON results");
   diff->add_option("OLD", read.oldFile, "What \"hxahost query --format json --output OLD\" wrote first, or a bundle")
       ->required();
   diff->add_option("NEW", read.newFile, "What it wrote later")->required();
-  diff->add_option("--format", read.format, DiffFormatNames())->type_name("FORMAT")->capture_default_str();
+  diff->add_option("--format", read.format, FormatNames("diff"))->type_name("FORMAT")->capture_default_str();
   diff->footer(kDiffExamples);
   return diff;
 }
@@ -197,7 +184,7 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
 
 DiffOptions ReadDiff(const CLI::App& diff, const DiffOptions& read) {
   RejectEmptyValues(diff);
-  if (FindDiffView(read.format) == nullptr) Reject("--format", read.format, "give " + DiffFormatNames() + ".");
+  CheckFormat("diff", read.format);
   return read;
 }
 
@@ -223,7 +210,7 @@ CommandLine ReadBundleCommand(const CLI::App& bundle, const TypedBundle& typed) 
 
 CommandLine ReadQuery(const CLI::App& query, const TypedOptions& typed) {
   CommandLine line{Command::kQuery, "", ReadCollecting(query, typed)};
-  CheckFormat(line.query.format, Views());
+  CheckFormat("query", line.query.format);
   if (line.query.showUnread && !line.query.classes.empty()) {
     throw ProgramError(
         ExitStatus::kWrongArguments,
@@ -235,7 +222,7 @@ CommandLine ReadQuery(const CLI::App& query, const TypedOptions& typed) {
 CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   CommandLine line{typed.healthRules ? Command::kHealthRules : Command::kHealth, "", ReadCollecting(health, typed)};
   line.query.format = typed.healthFormat;
-  CheckFormat(line.query.format, HealthViews());
+  CheckFormat("health", line.query.format);
   return line;
 }
 
@@ -262,7 +249,7 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   std::string schemaFormat = CommandLine().schemaFormat;
   CLI::App* const schema = program.add_subcommand("schema", "Show these classes with their properties");
   schema->footer(kSchemaExamples);
-  schema->add_option("--format", schemaFormat, FormatNames(SchemaViews()) + ": to be compiled, or to be read")
+  schema->add_option("--format", schemaFormat, FormatNames("schema") + ": to be compiled, or to be read")
       ->type_name("FORMAT")
       ->capture_default_str();
   DiffOptions typedDiff;
@@ -284,7 +271,7 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   if (diff->parsed()) return {Command::kDiff, "", {}, ReadDiff(*diff, typedDiff)};
   if (bundle->parsed()) return ReadBundleCommand(*bundle, typedBundle);
   if (classes->parsed()) return {Command::kClasses, "", {}};
-  CheckFormat(schemaFormat, SchemaViews());
+  CheckFormat("schema", schemaFormat);
   CommandLine line{Command::kSchema, "", {}};
   line.schemaFormat = schemaFormat;
   return line;

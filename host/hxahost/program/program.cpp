@@ -5,6 +5,7 @@
 #include "host/hxacore/schema.h"
 #include "host/hxahost/program/bundle_command.h"
 #include "host/hxahost/program/diff_command.h"
+#include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/health_command.h"
 #include "host/hxahost/program/options.h"
 #include "host/hxahost/program/query_command.h"
@@ -26,7 +27,9 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
     case Command::kHealth: status = static_cast<int>(RunHealthCommand(commandLine.query, out, err)); break;
     case Command::kHealthRules: WriteHealthRules(out); break;
     case Command::kClasses: WriteClassList(out, NKVRHXA20::PublishedClasses()); break;
-    case Command::kSchema: FindSchemaView(commandLine.schemaFormat)->Write(out, NKVRHXA20::PublishedClasses()); break;
+    case Command::kSchema:
+      WriterOf<SchemaWriter>("schema", commandLine.schemaFormat)(out, NKVRHXA20::PublishedClasses());
+      break;
     case Command::kBundleList: ListBundle(commandLine.bundle, out); break;
     case Command::kBundleShow: ShowBundle(commandLine.bundle, out); break;
     case Command::kBundleMask: MaskBundleFile(commandLine.bundle); break;

@@ -9,12 +9,12 @@
 #include "host/hxahost/collection/class_dependencies.h"
 #include "host/hxahost/collection/collection.h"
 #include "host/hxahost/collection/working_directory.h"
+#include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/terminal/terminal_layout.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
-#include "host/hxahost/views/views.h"
 
 using namespace NKVRHXA20;
 namespace fs = std::filesystem;
@@ -94,8 +94,8 @@ void RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ost
 }
 
 void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
-  const View& view = *FindView(options.format);
-  RunQueries(options, {view.Begin, view.Query, view.End}, out, err);
+  const auto& writer = WriterOf<QueryWriter>("query", options.format);
+  RunQueries(options, {writer.Begin, writer.Query, writer.End}, out, err);
 }
 
 }  // namespace hxahost

@@ -1,7 +1,5 @@
 #include "host/hxahost/program/query_output.h"
 
-#include "host/hxahost/views/views.h"
-
 namespace hxahost {
 
 namespace {
@@ -18,7 +16,7 @@ LayoutWishes WishesOf(const QueryOptions& options) {
 
 QueryOutput::QueryOutput(const QueryOptions& options, std::ostream& out)
     : shown_(Opened(file_, options.output, out)), asciiBuffer_(shown_), ascii_(&asciiBuffer_), stream_(&shown_) {
-  if (options.format != Views().front().format) return;
+  if (options.format != QueryOptions().format) return;
   if (IsAsciiOnly(WishesOf(options))) stream_ = &ascii_;
 }
 

@@ -1,7 +1,6 @@
 #include "host/hxahost/schema/schema_view.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,7 +9,6 @@
 
 #include "host/hxacore/value_type.h"
 #include "host/hxahost/schema/property_origins.h"
-#include "host/hxahost/schema/schema_markdown.h"
 #include "host/hxahost/text/mof_string.h"
 
 using namespace NKVRHXA20;
@@ -44,11 +42,6 @@ void WriteProperty(std::ostream& out, const ClassDeclaration& declaration, const
   out << fmt::format("]\n  {} {}{};\n", MofType(property), property.name, property.isArray ? "[]" : "");
 }
 
-constexpr SchemaView kSchemaViews[] = {
-    {"mof",      WriteSchemaMof     },
-    {"markdown", WriteSchemaMarkdown},
-};
-
 }  // namespace
 
 void WriteClassList(std::ostream& out, std::span<const ClassDeclaration> classes) {
@@ -67,13 +60,6 @@ void WriteSchemaMof(std::ostream& out, std::span<const ClassDeclaration> classes
     for (const PropertyDeclaration& property : declaration.properties) WriteProperty(out, declaration, property);
     out << "};\n";
   }
-}
-
-std::span<const SchemaView> SchemaViews() { return kSchemaViews; }
-
-const SchemaView* FindSchemaView(std::string_view format) {
-  const auto* const view = std::ranges::find(kSchemaViews, format, &SchemaView::format);
-  return view == std::end(kSchemaViews) ? nullptr : view;
 }
 
 }  // namespace hxahost

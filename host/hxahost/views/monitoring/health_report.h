@@ -1,8 +1,6 @@
 #pragma once
 
 #include <ostream>
-#include <span>
-#include <string_view>
 
 #include "host/hxahost/machine/machine.h"
 #include "host/hxahost/result/query_result.h"
@@ -16,17 +14,6 @@ struct HealthReport {
   Machine machine;
   double seconds = 0;  // that the collection took
 };
-
-struct HealthView {
-  std::string_view format;
-  void (*Write)(std::ostream& out, const HealthReport& report);
-};
-
-// The default first.
-std::span<const HealthView> HealthViews();
-
-// Null where there is no such format.
-const HealthView* FindHealthView(std::string_view format);
 
 // For people: a line that sums up, then one line for each finding.
 void WriteHealthText(std::ostream& out, const HealthReport& report);

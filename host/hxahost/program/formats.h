@@ -1,0 +1,48 @@
+#pragma once
+
+#include <ostream>
+#include <span>
+#include <string_view>
+#include <variant>
+
+#include "host/hxacore/schema.h"
+#include "host/hxahost/diff/diff_view.h"
+#include "host/hxahost/result/query_result.h"
+#include "host/hxahost/views/monitoring/health_report.h"
+
+namespace hxahost {
+
+// Shows queries. A query is written as soon as it is done, so that only one is held at a time.
+struct QueryWriter {
+  void (*Begin)(std::ostream& out, const QueryHeader& header);
+  void (*Query)(std::ostream& out, const QueryHeader& header, const QueryResult& result);
+  void (*End)(std::ostream& out, const QueryHeader& header);
+};
+
+using HealthWriter = void (*)(std::ostream& out, const HealthReport& report);
+
+using DiffWriter = void (*)(std::ostream& out, const ComparedFile& before, const ComparedFile& after,
+                            const ResultDiff& diff);
+
+using SchemaWriter = void (*)(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes);
+
+// A format of a command, and what writes it.
+struct Format {
+  std::string_view command;
+  std::string_view name;
+  std::variant<QueryWriter, HealthWriter, DiffWriter, SchemaWriter> writer;
+};
+
+// The formats of a command, its default first.
+std::span<const Format> FormatsOf(std::string_view command);
+
+// Null where the command has no such format.
+const Format* FindFormat(std::string_view command, std::string_view name);
+
+// What writes a format that the command has.
+template <class Writer>
+const Writer& WriterOf(std::string_view command, std::string_view name) {
+  return std::get<Writer>(FindFormat(command, name)->writer);
+}
+
+}  // namespace hxahost
