@@ -80,7 +80,8 @@ std::vector<Process> RunningProcesses(const ChildProcess& child) {
   return processes;
 }
 
-// The processes of the run: in its group, with its mark or its pipe, and whatever these have started.
+// The processes of the run: in its group, with its mark or its pipe, and whatever these have started. A child subreaper
+// would make the orphans among them children of the host, where they are mixed with those of other runs and its own.
 std::set<pid_t> Members(const ChildProcess& child) {
   const std::vector<Process> processes = RunningProcesses(child);
   std::set<pid_t> members;
