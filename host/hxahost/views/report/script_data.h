@@ -2,29 +2,27 @@
 
 #include <ostream>
 #include <streambuf>
-#include <string>
 
 namespace hxahost {
 
-// JSON on its way into a script element of a page: "<" and the line ends U+2028 and U+2029 become escapes, as they only
-// occur within JSON's strings. So no text can end the element or begin another one, whatever it contains.
+// JSON on its way into a script element of a page: "<" becomes an escape, as it only occurs within JSON's strings. So
+// no text can end the element or begin another one, whatever it contains.
 class ScriptData : public std::streambuf {
  public:
   explicit ScriptData(std::ostream& out) : out_(out) {}
-  // Writes what is still held back.
-  ~ScriptData() override;
-  ScriptData(const ScriptData&) = delete;
-  ScriptData& operator=(const ScriptData&) = delete;
 
  protected:
-  int_type overflow(int_type character) override;
-  std::streamsize xsputn(const char* text, std::streamsize length) override;
+  int_type overflow(int_type character) override {
+    if (character == '<') {
+      out_ << "\\u003c";
+    } else if (!traits_type::eq_int_type(character, traits_type::eof())) {
+      out_.put(traits_type::to_char_type(character));
+    }
+    return traits_type::not_eof(character);
+  }
 
  private:
-  void Add(char character);
-
   std::ostream& out_;
-  std::string held_;  // the beginning of what may become a line end
 };
 
 }  // namespace hxahost
