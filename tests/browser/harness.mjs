@@ -5,7 +5,8 @@ import { join } from "node:path";
 import { chromium } from "playwright-core";
 
 const kBrowser = process.env.CHROMIUM || "/usr/bin/chromium";
-const kArguments = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+const kArguments = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
+    "--disable-background-networking",
   "--disable-component-update", "--disable-sync"];
 
 const kMostSeconds = 180; // a test takes
@@ -63,23 +64,28 @@ async function runOne(browser, { name, run }) {
 }
 
 function writeResults(file, results) {
-  const escaped = (text) => text.replace(/[&<>"]/g, (character) => `&#${character.charCodeAt(0)};`).replace(/[\u0000-\u0008\u000b-\u001f]/g, "?");
+  const reference = (character) => `&#${character.charCodeAt(0)};`;
+  const escaped = (text) => text.replace(/[&<>"]/g, reference).replace(/[\u0000-\u0008\u000b-\u001f]/g, "?");
+  const failureElement = (failure) => (failure === null ? "" : `<failure message="${escaped(failure)}"/>`);
   const cases = results.map(({ name, failure }) =>
-    `    <testcase name="${escaped(name)}">${failure === null ? "" : `<failure message="${escaped(failure)}"/>`}</testcase>\n`);
+    `    <testcase name="${escaped(name)}">${failureElement(failure)}</testcase>\n`);
   const counts = `tests="${results.length}" failures="${results.filter(({ failure }) => failure !== null).length}"`;
-  writeFileSync(file, `<?xml version="1.0" encoding="UTF-8"?>\n<testsuites ${counts}>\n  <testsuite name="browser" ${counts}>\n${cases.join("")}  </testsuite>\n</testsuites>\n`);
+  const suite = `  <testsuite name="browser" ${counts}>\n${cases.join("")}  </testsuite>\n`;
+  writeFileSync(file, `<?xml version="1.0" encoding="UTF-8"?>\n<testsuites ${counts}>\n${suite}</testsuites>\n`);
 }
 
 // Gives the number of failures.
 export async function runTests(resultFile, only) {
   const profile = mkdtempSync(join(tmpdir(), "zenx-browser-"));
-  const launch = () => chromium.launch({ executablePath: kBrowser, args: kArguments, env: { ...process.env, HOME: profile } });
+  const launch = () => chromium.launch({ executablePath: kBrowser, args: kArguments,
+      env: { ...process.env, HOME: profile } });
   let browser = await launch();
   const results = [];
   for (const each of tests.filter(({ name }) => !only || name.includes(only))) {
     const began = Date.now();
     let failure = await runOne(browser, each);
-    // A browser that the system ended, for want of memory, says nothing about the page. A page that ends it does so again.
+    // A browser that the system ended, for want of memory, says nothing about the page. A page that ends it does so
+    // again.
     if (!browser.isConnected()) {
       console.log(`The browser ended during "${each.name}": once more`);
       browser = await launch();
@@ -88,7 +94,8 @@ export async function runTests(resultFile, only) {
     }
     results.push({ name: each.name, failure });
     const seconds = ((Date.now() - began) / 1000).toFixed(1);
-    console.log(`${failure === null ? "passed" : "FAILED"}  ${each.name} (${seconds} s)${failure === null ? "" : "\n" + failure}`);
+    console.log(`${failure === null ? "passed" : "FAILED"}  ${each.name} (${seconds} s)`);
+    if (failure !== null) console.log(failure);
   }
   await browser.close();
   rmSync(profile, { recursive: true, force: true });

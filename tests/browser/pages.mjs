@@ -10,16 +10,19 @@ const kFolder = join(kBuild, "report-pages");
 function run(program, given, expected = 0) {
   const environment = { ...process.env, ZENX_OS_VERSION: "6.1", ZENX_RAID_LOG_DIR: "raid-manager\\" };
   const result = spawnSync(join(kBuild, "bin", program), given, { encoding: "utf8", env: environment });
-  if (result.status !== expected) throw new Error(`${program} ended with ${result.status ?? result.error}: ${result.stderr}`);
+  if (result.status === expected) return;
+  throw new Error(`${program} ended with ${result.status ?? result.error}: ${result.stderr}`);
 }
 
 // A copy of its own: other tests collect from the sample machine at the same time.
 const kMachineFolder = join(kFolder, "machine");
-const kSampleMachine = ["--directory", kMachineFolder, "--local-time", "20260305123015.000000+060", "--machine-name", "DBSERVER"];
+const kSampleMachine = ["--directory", kMachineFolder, "--local-time", "20260305123015.000000+060", "--machine-name",
+    "DBSERVER"];
 
 function query(name, ...further) {
   for (const format of ["html", "json"]) {
-    run("hxahost", ["query", ...kSampleMachine, ...further, "--format", format, "--output", join(kFolder, `${name}.${format}`)]);
+    run("hxahost",
+        ["query", ...kSampleMachine, ...further, "--format", format, "--output", join(kFolder, `${name}.${format}`)]);
   }
 }
 
@@ -31,7 +34,8 @@ export function makePages() {
   cpSync(join(kBuild, "sample-machine"), kMachineFolder, { recursive: true });
   run("report_pages", [kFolder]);
   query("sample");
-  run("hxahost", ["query", ...kSampleMachine, "--unread", "--format", "json", "--output", join(kFolder, "unread.json")]);
+  run("hxahost",
+      ["query", ...kSampleMachine, "--unread", "--format", "json", "--output", join(kFolder, "unread.json")]);
   run("hxahost", ["health", ...kSampleMachine, "--format", "json", "--output", join(kFolder, "health.json")], 2);
   query("repeated", "--repeat", "3");
   query("disks", "--class", "KVRSG_zxDiskDrive");
@@ -69,7 +73,8 @@ export function reportData(name) {
 export function pageWith(name, newName, changed) {
   const { page, begin, end } = splitPage(name);
   const data = { ...reportData(name), ...changed };
-  writeFileSync(pageFile(newName), page.slice(0, begin) + JSON.stringify(data).replaceAll("<", "\\u003c") + page.slice(end));
+  writeFileSync(pageFile(newName),
+      page.slice(0, begin) + JSON.stringify(data).replaceAll("<", "\\u003c") + page.slice(end));
   return pageFile(newName);
 }
 
@@ -77,7 +82,8 @@ export const kEveryLevel = ["critical", "warning", "unknown", "busy", "idle", "u
 
 // The page of the sample machine with objects of every level.
 export function pageOfEveryLevel() {
-  const objects = reportData("sample").objects.map((object, index) => ({ ...object, level: kEveryLevel[index % kEveryLevel.length] }));
+  const withLevel = (object, index) => ({ ...object, level: kEveryLevel[index % kEveryLevel.length] });
+  const objects = reportData("sample").objects.map(withLevel);
   return pageWith("sample", "every-level", { objects });
 }
 
@@ -88,5 +94,6 @@ export function findings() {
 
 // The numbers of unread lines by command, as "hxahost query --unread" counts them.
 export function unreadLines() {
-  return new Map(lastQuery("unread").unread.map(({ command, lines }) => [command.trim(), lines.map(({ number }) => number)]));
+  const numbers = ({ command, lines }) => [command.trim(), lines.map(({ number }) => number)];
+  return new Map(lastQuery("unread").unread.map(numbers));
 }

@@ -1,7 +1,8 @@
 // What the page shows, held against the JSON of the same query.
 import assert from "node:assert/strict";
 import { test } from "./harness.mjs";
-import { countOf, findings, kEveryLevel, lastQuery, pageFile, pageOfEveryLevel, pageWith, reportData, unreadLines } from "./pages.mjs";
+import { countOf, findings, kEveryLevel, lastQuery, pageFile, pageOfEveryLevel, pageWith, reportData,
+    unreadLines } from "./pages.mjs";
 
 const kDevices = ["KVRSG_zxSCSIProtocolController", "KVRSG_zxLogicalDisk", "KVRSG_zxDiskGroup", "KVRSG_zxDiskDrive"];
 
@@ -25,7 +26,8 @@ test("Each table has a row for every instance of its classes", async (open) => {
     "Logical drives": [kDevices[1]],
     "Disk groups": [kDevices[2]],
     Disks: [kDevices[3]],
-    Versions: ["KVRSG_zxFirmwareVersion", "KVRSG_zxBootBlockVersion", "KVRSG_zxBiosVersion", "KVRSG_zxDiskDriveVersion"],
+    Versions: ["KVRSG_zxFirmwareVersion", "KVRSG_zxBootBlockVersion", "KVRSG_zxBiosVersion",
+        "KVRSG_zxDiskDriveVersion"],
     "Bad stripes": ["KVRSG_BadStripeData"],
     "Device statistics": ["KVRSG_zxSCSIDeviceData"],
     "SCSI sub-status": ["KVRSG_zxSCSISubStatData"],
@@ -51,7 +53,8 @@ test("The counts are those of the JSON", async (open) => {
 test("The drawing has a box for every device and says its state in words", async (open) => {
   const page = await open(pageFile("sample"));
   const boxes = await page.locator(".drawing a[data-object]").evaluateAll((links) =>
-    links.map((link) => ({ object: Number(link.dataset.object), label: link.getAttribute("aria-label"), text: link.textContent })));
+    links.map((link) => ({ object: Number(link.dataset.object), label: link.getAttribute("aria-label"),
+        text: link.textContent })));
   const instances = lastQuery("sample").instances;
   const devices = instances.flatMap((instance, index) => (kDevices.includes(instance.class) ? [index] : []));
   assert.deepEqual(boxes.map((box) => box.object).sort((one, other) => one - other), devices);
@@ -65,7 +68,8 @@ test("The drawing has a box for every device and says its state in words", async
 test("Colours never stand alone: each level has its symbol", async (open) => {
   const page = await open(pageOfEveryLevel());
   const symbols = await page.locator(".drawing a.box").evaluateAll((links) =>
-    links.map((link) => [[...link.classList].find((name) => name.startsWith("level-")), link.querySelector("text.symbol").textContent]));
+    links.map((link) => [[...link.classList].find((name) => name.startsWith("level-")),
+        link.querySelector("text.symbol").textContent]));
   const bySymbol = new Map(symbols.map(([level, symbol]) => [symbol, level]));
   assert.equal(bySymbol.size, new Set(symbols.map(([level]) => level)).size);
   assert.ok(kEveryLevel.every((level) => symbols.some(([each]) => each === "level-" + level)));
@@ -74,10 +78,12 @@ test("Colours never stand alone: each level has its symbol", async (open) => {
 test("Boxes and states have the levels that the program gives", async (open) => {
   const page = await open(pageFile("sample"));
   const objects = new Map(reportData("sample").objects.map((object) => [object.instance, object]));
-  const boxes = await page.locator(".drawing a.box").evaluateAll((links) => links.map((link) => [Number(link.dataset.object), link.classList[1]]));
+  const boxes = await page.locator(".drawing a.box").evaluateAll((links) =>
+      links.map((link) => [Number(link.dataset.object), link.classList[1]]));
   assert.ok(boxes.length > 50);
   for (const [index, level] of boxes) assert.equal(level, "level-" + objects.get(index).level);
-  const badges = await page.locator('section:has(> h2:text-is("Controllers")) tbody .badge').evaluateAll((each) => each.map((one) => one.textContent));
+  const badges = await page.locator('section:has(> h2:text-is("Controllers")) tbody .badge').evaluateAll((each) =>
+      each.map((one) => one.textContent));
   assert.deepEqual([...new Set(badges)].sort(), ["\u2013not said", "\u2713Okay", "\u2713Optimal"]);
   const controller = page.getByLabel(/^Controller 4, 2 findings, Optimal/);
   assert.match(await controller.textContent(), /\u2715.*2 findings, Optimal/);
@@ -102,7 +108,8 @@ test("The events of all logs stand in the order of time, those without a time be
   assert.deepEqual(times, [...times].sort());
   assert.deepEqual(new Set(rows.map((row) => row[1])), new Set(["Defunct drives", "RAID manager"]));
   const aside = page.locator("aside");
-  const codes = lastQuery("sample").instances.flatMap(({ properties }) => [...(properties.HexSoftEvent || []), ...(properties.HexHardEvent || [])]);
+  const codes = lastQuery("sample").instances.flatMap(({ properties }) => [...(properties.HexSoftEvent || []),
+      ...(properties.HexHardEvent || [])]);
   assert.ok(codes.length > 0);
   assert.equal(await aside.locator("li").count(), codes.length);
   assert.match(await aside.textContent(), new RegExp("0x" + codes[0].toString(16).padStart(8, "0")));
@@ -130,21 +137,25 @@ test("Bad stripes and the counts of states stand at the top", async (open) => {
   const text = await sectionText(page, "Health");
   for (const { class: name, properties } of lastQuery("sample").instances) {
     if (name === "KVRSG_zxDiskDrive") assert.ok(text.includes(properties.State), properties.State);
-    if (name === "KVRSG_zxLogicalDisk") assert.ok(text.includes(properties.LogicalDriveStatus), properties.LogicalDriveStatus);
+    if (name === "KVRSG_zxLogicalDisk") assert.ok(text.includes(properties.LogicalDriveStatus),
+        properties.LogicalDriveStatus);
   }
   assert.match(text, /Controller 1, logical drive 2: 3/);
   assert.match(text, /Disks: 44/);
 });
 
-test("The findings of the program's rules stand first on the page, worst first, and lead to what they are about", async (open) => {
+test("The findings of the rules come first on the page, worst first, and lead to what they are about", async (open) => {
   const page = await open(pageFile("sample"));
   const expected = findings();
   assert.ok(expected.length > 3);
   assert.equal(await page.locator("main > section:first-child #findings").count(), 1);
-  const rows = await page.locator("#findings tbody tr").evaluateAll((each) => each.map((row) => [...row.cells].map((cell) => cell.innerText)));
-  assert.deepEqual(rows.map(([severity]) => severity.replace(/^[^a-z]+/, "")), expected.map(({ severity }) => severity));
+  const rows = await page.locator("#findings tbody tr").evaluateAll((each) =>
+      each.map((row) => [...row.cells].map((cell) => cell.innerText)));
+  assert.deepEqual(rows.map(([severity]) => severity.replace(/^[^a-z]+/, "")),
+      expected.map(({ severity }) => severity));
   expected.forEach((finding, index) => {
-    for (const word of [finding.name, finding.identifier]) assert.ok(rows[index][1].includes(word), `${rows[index][1]}: ${word}`);
+    for (const word of [finding.name, finding.identifier]) assert.ok(rows[index][1].includes(word),
+        `${rows[index][1]}: ${word}`);
     assert.equal(rows[index][2], `${finding.property} "${finding.text}"`);
     assert.equal(rows[index][3], finding.meaning);
   });
@@ -158,7 +169,8 @@ test("The findings of the program's rules stand first on the page, worst first, 
   assert.ok(dialog.includes(expected[about].meaning), dialog);
   assert.ok(dialog.includes(expected[about].identifier), dialog);
   const index = instances.findIndex(({ properties }) => properties.DeviceID === expected[about].identifier);
-  assert.equal(await page.locator(`.drawing a.level-critical[data-object="${index}"]`).count(), 1, "the finding colours the disk");
+  assert.equal(await page.locator(`.drawing a.level-critical[data-object="${index}"]`).count(), 1,
+      "the finding colours the disk");
 });
 
 test("A finding is about one object alone, also where two share an identifier", async (open) => {
@@ -171,7 +183,9 @@ test("A finding is about one object alone, also where two share an identifier", 
 });
 
 test("Of very many findings the worst are shown until the rest is asked for", async (open) => {
-  const many = Array.from({ length: 300 }, (_, index) => ({ severity: "warning", class: "tool run", identifier: "t", name: "n" + index, property: "p", text: "", meaning: "m" }));
+  const many = Array.from({ length: 300 },
+      (_, index) => ({ severity: "warning", class: "tool run", identifier: "t", name: "n" + index, property: "p",
+          text: "", meaning: "m" }));
   const page = await open(pageWith("sample", "many-findings", { findings: many }));
   assert.equal(await page.locator("#findings tbody tr").count(), 50);
   await page.getByRole("button", { name: "Show the other 250 rows" }).click();
@@ -189,7 +203,8 @@ test("No findings are good news only where everything was looked at", async (ope
 
 test("Where several queries were made the page does not pretend to judge the runs of the tools", async (open) => {
   const page = await open(pageFile("repeated"));
-  assert.match(await page.locator("#findings").innerText(), /run by the first query alone; how their runs went is not judged here/);
+  assert.match(await page.locator("#findings").innerText(),
+      /run by the first query alone; how their runs went is not judged here/);
 });
 
 test("The lines of the raw texts that nothing else shows are marked and counted by command", async (open) => {
@@ -204,7 +219,8 @@ test("The lines of the raw texts that nothing else shows are marked and counted 
       return range.toString().split("\n").length;
     };
     const numbers = [...one.querySelectorAll(".unread")].map(before);
-    return { command: one.querySelector("summary code").textContent, numbers, isWhole: numbers.every((number, index) => text[number - 1] === lines[index]),
+    return { command: one.querySelector("summary code").textContent, numbers,
+        isWhole: numbers.every((number, index) => text[number - 1] === lines[index]),
       count: one.querySelector(".unread-count")?.textContent ?? "" };
   }));
   const expected = unreadLines();
@@ -213,7 +229,9 @@ test("The lines of the raw texts that nothing else shows are marked and counted 
     const wanted = expected.get(command) || [];
     assert.deepEqual(numbers, wanted, command);
     assert.ok(isWhole, command);
-    assert.equal(count, wanted.length === 0 ? "" : `${wanted.length} line${wanted.length === 1 ? "" : "s"} not shown elsewhere`, command);
+    assert.equal(count,
+        wanted.length === 0 ? "" : `${wanted.length} line${wanted.length === 1 ? "" : "s"} not shown elsewhere`,
+            command);
   }
   const total = [...expected.values()].reduce((sum, lines) => sum + lines.length, 0);
   assert.ok((await page.locator(".unread-legend").innerText()).includes(`${total} lines in ${expected.size} texts`));
@@ -268,12 +286,14 @@ test("Markup and scripts of tools change nothing and are shown literally", async
   await page.evaluate(() => document.querySelectorAll("details").forEach((each) => { each.open = true; }));
   for (const box of await page.locator(".drawing a.box").all()) await box.evaluate((each) => each.focus());
   assert.equal(await page.title(), "RAID report: </script><script>document.title='taken'; alert(1)</script>");
-  const strange = "img, iframe, object, embed, link, #injected, b, [onload], [onerror], script[src], a[href^='javascript']";
+  const strange = "img, iframe, object, embed, link, #injected, b, [onload], [onerror], script[src]," +
+    " a[href^='javascript']";
   assert.equal(await page.locator(strange).count(), 0);
   assert.equal(await page.locator("script").count(), 3);
   const texts = lastQuery("hostile").instances.find(({ properties }) => properties.RawResults).properties.RawResults;
   const pre = await page.locator("details.raw pre").first().textContent();
-  for (const text of texts.filter((each) => !/[\u001b\u0007\u200b\u2028\u202e]/.test(each))) assert.ok(pre.includes(text), text);
+  const plain = texts.filter((each) => !/[\u001b\u0007\u200b\u2028\u202e]/.test(each));
+  for (const text of plain) assert.ok(pre.includes(text), text);
   assert.match(pre, /turned \\u202e txet \\u202c\\u2028next\\u2029last/);
   assert.match(pre, /escape \\x1b\[31mred\\x1b\[0m bell \\x07 zero-width \\u200b\\U000e0041\./);
   assert.match(await sectionText(page, "Disks"), /<img src=x onerror="document\.title='taken'; alert\(2\)">/);
@@ -284,7 +304,8 @@ test("The details of every hostile object show it literally, too", async (open) 
   const objects = lastQuery("hostile").instances;
   for (let index = 0; index < objects.length; index += 1) {
     await page.evaluate((hash) => { window.location.hash = hash; }, "#object-" + index);
-    await page.waitForFunction(([name]) => document.querySelector("dialog[open] .quiet")?.textContent === name, [objects[index].class]);
+    await page.waitForFunction(([name]) => document.querySelector("dialog[open] .quiet")?.textContent === name,
+        [objects[index].class]);
     assert.equal(await page.locator("dialog :is(img, b, script, svg)").count(), 0);
   }
   assert.ok(objects.length > 50);
@@ -303,6 +324,7 @@ test("Nothing but the page's own script runs", async (open, troubles) => {
     return window.ran;
   });
   assert.equal(ran, undefined);
-  assert.ok(troubles.length === 2 && troubles.every((each) => each.includes("Content Security Policy")), troubles.join("\n"));
+  assert.ok(troubles.length === 2 && troubles.every((each) => each.includes("Content Security Policy")),
+      troubles.join("\n"));
   troubles.length = 0;
 });

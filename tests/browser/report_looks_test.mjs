@@ -20,14 +20,16 @@ function lowContrasts(page, selector) {
       return "rgb(255, 255, 255)";
     };
     return elements.filter((element) => element.textContent.trim() !== "").map((element) => {
-      const colour = element.namespaceURI.endsWith("svg") ? getComputedStyle(element).fill : getComputedStyle(element).color;
+      const colour = element.namespaceURI.endsWith("svg") ? getComputedStyle(element).fill
+          : getComputedStyle(element).color;
       const [dark, light] = [luminance(colour), luminance(behind(element))].sort((one, other) => one - other);
       return { text: element.textContent.slice(0, 40), contrast: (light + 0.05) / (dark + 0.05) };
     }).filter(({ contrast }) => contrast < 4.5);
   });
 }
 
-const kTexts = "h1, h2, h3, h4, p, a:not(.box, .frame), td, th button, .badge, .badge .symbol, .quiet, summary, .drawing text, label, .count, dt, dd, .unread, .unread-count";
+const kTexts = "h1, h2, h3, h4, p, a:not(.box, .frame), td, th button, .badge, .badge .symbol, .quiet, summary," +
+  " .drawing text, label, .count, dt, dd, .unread, .unread-count";
 
 function background(page) {
   return page.evaluate(() => getComputedStyle(document.body).backgroundColor);
@@ -47,9 +49,11 @@ test("Boxes differ in their colours from one level to the next, in both schemes"
   for (const colorScheme of ["light", "dark"]) {
     const page = await open(pageOfEveryLevel(), { colorScheme });
     const bars = await page.locator(".drawing a.box").evaluateAll((boxes) =>
-      boxes.map((box) => [[...box.classList].find((name) => name.startsWith("level-")), getComputedStyle(box.querySelector(".bar")).fill]));
+      boxes.map((box) => [[...box.classList].find((name) => name.startsWith("level-")),
+          getComputedStyle(box.querySelector(".bar")).fill]));
     const colours = new Map(bars);
-    const coloured = ["critical", "warning", "unknown", "busy", "idle", "ok"].map((level) => colours.get("level-" + level));
+    const names = ["critical", "warning", "unknown", "busy", "idle", "ok"];
+    const coloured = names.map((level) => colours.get("level-" + level));
     assert.ok(!coloured.includes(undefined), coloured.join());
     assert.equal(new Set(coloured).size, coloured.length, coloured.join());
   }
@@ -68,22 +72,28 @@ test("No text sticks out of its box", async (open) => {
   const page = await open(pageFile("sample"));
   const wide = await page.locator(".drawing a.box").evaluateAll((boxes) => boxes.flatMap((box) => {
     const right = box.querySelector(".body").getBoundingClientRect().right;
-    return [...box.querySelectorAll("text")].filter((text) => text.getBoundingClientRect().right > right).map((text) => text.textContent);
+    return [...box.querySelectorAll("text")].filter((text) => text.getBoundingClientRect().right > right).map((text) =>
+        text.textContent);
   }));
   assert.deepEqual(wide, []);
 });
 
 test("Paper shows light colours and no controls, and nothing is cut off at its edge", async (open) => {
-  const page = await open(pageFile("sample"), { colorScheme: "dark", media: "print", viewport: { width: 718, height: 1000 } });
+  const page = await open(pageFile("sample"),
+      { colorScheme: "dark", media: "print", viewport: { width: 718, height: 1000 } });
   assert.equal(await background(page), "rgb(255, 255, 255)");
-  for (const hidden of ["nav", ".tools", ".skip", "dialog"]) assert.equal(await page.locator(hidden).first().isVisible(), false, hidden);
+  for (const hidden of ["nav", ".tools", ".skip", "dialog"]) {
+    assert.equal(await page.locator(hidden).first().isVisible(), false, hidden);
+  }
   assert.equal(await page.evaluate(() => document.documentElement.scrollWidth), 718);
-  assert.equal(await page.locator(".drawing .band").evaluateAll((bands) => Math.max(...bands.map((band) => band.getBoundingClientRect().right)) <= 718), true);
+  assert.equal(await page.locator(".drawing .band").evaluateAll((bands) =>
+      Math.max(...bands.map((band) => band.getBoundingClientRect().right)) <= 718), true);
 });
 
 test("A printed page has every row and its drawing fits the paper", async (open) => {
   const page = await open(pageFile("sample"));
-  await page.evaluate(() => window.addEventListener("beforeprint", () => { window.printedColumns = report.drawing.columns; }));
+  await page.evaluate(() => window.addEventListener("beforeprint",
+      () => { window.printedColumns = report.drawing.columns; }));
   const paper = await page.pdf({ format: "A4" });
   assert.equal(await page.evaluate(() => window.printedColumns), 4);
   assert.equal(paper.subarray(0, 5).toString(), "%PDF-");
@@ -93,15 +103,20 @@ test("A printed page has every row and its drawing fits the paper", async (open)
 
 test("The page has its landmarks, headings in order, and names for all that can be used", async (open) => {
   const page = await open(pageFile("sample"));
-  for (const landmark of ["header", "nav", "main", "footer", "aside"]) assert.equal(await page.locator(landmark).count(), 1, landmark);
-  const levels = await page.locator("body > header h1, main :is(h1, h2, h3, h4)").evaluateAll((heads) => heads.map((head) => Number(head.tagName[1])));
+  for (const landmark of ["header", "nav", "main", "footer", "aside"]) {
+    assert.equal(await page.locator(landmark).count(), 1, landmark);
+  }
+  const levels = await page.locator("body > header h1, main :is(h1, h2, h3, h4)").evaluateAll((heads) =>
+      heads.map((head) => Number(head.tagName[1])));
   assert.equal(levels[0], 1);
   assert.equal(levels.filter((level) => level === 1).length, 1);
-  levels.forEach((level, index) => assert.ok(index === 0 || level <= levels[index - 1] + 1, `heading ${index} jumps to level ${level}`));
+  levels.forEach((level, index) => assert.ok(index === 0 || level <= levels[index - 1] + 1,
+      `heading ${index} jumps to level ${level}`));
   assert.equal(await page.locator("th:not([scope])").count(), 0);
   assert.equal(await page.locator("table:not(:has(caption))").count(), 0);
   const names = await page.locator("a, button, input").evaluateAll((elements) => elements
-    .filter((element) => !(element.getAttribute("aria-label") || element.textContent || (element.labels && element.labels[0]?.textContent) || "").trim())
+    .filter((element) => !(element.getAttribute("aria-label") || element.textContent
+        || (element.labels && element.labels[0]?.textContent) || "").trim())
     .map((element) => element.outerHTML));
   assert.deepEqual(names, []);
   const ids = await page.locator("[id]").evaluateAll((elements) => elements.map((element) => element.id));
@@ -110,7 +125,8 @@ test("The page has its landmarks, headings in order, and names for all that can 
 
 test("The links of the head lead to their sections", async (open) => {
   const page = await open(pageFile("sample"));
-  const targets = await page.locator("nav a").evaluateAll((links) => links.map((link) => [link.textContent, document.querySelector(link.getAttribute("href"))?.textContent]));
+  const targets = await page.locator("nav a").evaluateAll((links) => links.map((link) => [link.textContent,
+      document.querySelector(link.getAttribute("href"))?.textContent]));
   assert.ok(targets.length > 10);
   for (const [link, target] of targets) assert.equal(link, target);
   await page.keyboard.press("Tab");

@@ -96,15 +96,17 @@ struct HostileClass {
 };
 
 const std::vector<HostileClass> kHostileClasses = {
-    {"KVRSG_zxSCSIProtocolController", {"ControllerNum", "DeviceID", "ControllerType", "ControllerStatus"}                      },
-    {"KVRSG_zxLogicalDisk",            {"ControllerNum", "DeviceID", "LogicalDriveNum", "LogicalDriveStatus", "PartOfArray"}    },
-    {"KVRSG_zxDiskGroup",              {"ControllerNum", "CollectionID", "Array", "StripeOrder"}                                },
-    {"KVRSG_zxDiskDrive",              {"ControllerNum", "DeviceID", "Channel", "ScsiId", "State", "Model", "DeviceType", "PFA"}},
-    {"KVRSG_zxFirmwareVersion",        {"Name", "Version", "SoftwareElementID"}                                                 },
-    {"KVRSG_BadStripeData",            {"ControllerNum", "InstanceID", "LogicalDrive", "NumBadStripes"}                         },
-    {"KVRSG_LogRecord_SoftEvent",      {"ControllerNum", "RecordID", "NumEntries"}                                              },
-    {"KVRSG_LogRecord_RAIDMgrEvent",   {"Message", "RecordID", "Severity", "MachineName"}                                       },
-    {"KVRSG_zxRawData",                {"Command"}                                                                              },
+    {"KVRSG_zxSCSIProtocolController", {"ControllerNum", "DeviceID", "ControllerType", "ControllerStatus"}},
+    {"KVRSG_zxLogicalDisk",            {"ControllerNum", "DeviceID", "LogicalDriveNum"}                   },
+    {"KVRSG_zxLogicalDisk",            {"ControllerNum", "DeviceID", "LogicalDriveStatus", "PartOfArray"} },
+    {"KVRSG_zxDiskGroup",              {"ControllerNum", "CollectionID", "Array", "StripeOrder"}          },
+    {"KVRSG_zxDiskDrive",              {"ControllerNum", "DeviceID", "Channel", "ScsiId", "State"}        },
+    {"KVRSG_zxDiskDrive",              {"ControllerNum", "DeviceID", "Model", "DeviceType", "PFA"}        },
+    {"KVRSG_zxFirmwareVersion",        {"Name", "Version", "SoftwareElementID"}                           },
+    {"KVRSG_BadStripeData",            {"ControllerNum", "InstanceID", "LogicalDrive", "NumBadStripes"}   },
+    {"KVRSG_LogRecord_SoftEvent",      {"ControllerNum", "RecordID", "NumEntries"}                        },
+    {"KVRSG_LogRecord_RAIDMgrEvent",   {"Message", "RecordID", "Severity", "MachineName"}                 },
+    {"KVRSG_zxRawData",                {"Command"}                                                        },
 };
 
 InstanceList HostileMachine() {

@@ -46,7 +46,8 @@ test("A filter leaves the rows that have all its words", async (open) => {
   const disks = await sectionInSight(page, "Disks");
   const input = disks.getByRole("searchbox");
   await input.fill("hard disk ONLINE");
-  const online = lastQuery("sample").instances.filter(({ properties }) => properties.DeviceType === "Hard disk" && /^Online/.test(properties.State));
+  const online = lastQuery("sample").instances.filter(({ properties }) => properties.DeviceType === "Hard disk"
+      && /^Online/.test(properties.State));
   assert.equal(await disks.locator("tbody tr").count(), online.length);
   assert.match(await disks.textContent(), new RegExp(`${online.length} of 44 rows`));
   await input.fill("no disk has this");
@@ -57,7 +58,8 @@ test("A filter leaves the rows that have all its words", async (open) => {
 
 test("The search finds and marks words in all raw texts", async (open) => {
   const page = await open(pageFile("sample"));
-  const texts = lastQuery("sample").instances.filter((instance) => /RawData$/.test(instance.class)).map(({ properties }) => properties.RawResults.join("\n"));
+  const texts = lastQuery("sample").instances.filter((instance) =>
+      /RawData$/.test(instance.class)).map(({ properties }) => properties.RawResults.join("\n"));
   const expected = texts.map((text) => text.toLowerCase().split("defunct").length - 1);
   await page.locator("#raw-search").fill("DEFUNCT");
   assert.equal(await page.locator("pre mark").count(), expected.reduce((sum, each) => sum + each, 0));
@@ -72,7 +74,8 @@ test("The search finds and marks words in all raw texts", async (open) => {
 });
 
 function activeLabel(page) {
-  return page.evaluate(() => (document.activeElement.closest(".drawing") ? document.activeElement.getAttribute("aria-label") : ""));
+  return page.evaluate(() => (document.activeElement.closest(".drawing")
+      ? document.activeElement.getAttribute("aria-label") : ""));
 }
 
 async function tabTo(page, pattern) {
@@ -119,7 +122,8 @@ test("The arrow keys go from row to row and to both ends", async (open) => {
 
 test("A click on a box leads to details, and links there lead on; the way back works", async (open) => {
   const page = await open(pageFile("sample"));
-  await page.locator(".drawing").getByLabel(/^Array B, 2 disks/).locator("a.frame").first().click({ position: { x: 20, y: 10 } });
+  const frame = page.locator(".drawing").getByLabel(/^Array B, 2 disks/).locator("a.frame").first();
+  await frame.click({ position: { x: 20, y: 10 } });
   const title = page.locator("#details-title");
   assert.equal(await title.innerText(), "Controller 1, Array B");
   await page.locator("dialog").getByRole("link", { name: "Controller 1, channel 2, ID 4" }).click();
@@ -149,7 +153,8 @@ test("Pointing at an array or focusing it marks its disks and drives", async (op
 
 test("The keys N and P go from one unread line to the next and back, round the end", async (open) => {
   const page = await open(pageFile("sample"));
-  const place = () => page.evaluate(() => [...document.querySelectorAll("details.raw .unread")].indexOf(document.activeElement));
+  const place = () =>
+      page.evaluate(() => [...document.querySelectorAll("details.raw .unread")].indexOf(document.activeElement));
   const total = await page.locator("details.raw .unread").count();
   assert.ok(total > 3);
   await page.locator("details.raw summary").first().focus();
@@ -165,7 +170,8 @@ test("The keys N and P go from one unread line to the next and back, round the e
   assert.match(await section(page, "Raw texts of the tools").innerText(), new RegExp(`2 of ${total}`));
 });
 
-test("The keys for unread lines are letters while one searches, and pass over what the search left out", async (open) => {
+test("The keys for unread lines are letters while one searches, and pass over what the search left out",
+    async (open) => {
   const page = await open(pageFile("sample"));
   const input = page.getByLabel("Search all texts");
   await input.pressSequentially("npnp");
@@ -176,7 +182,8 @@ test("The keys for unread lines are letters while one searches, and pass over wh
 
 test("A search marks its words within unread lines, and the text stays the same", async (open) => {
   const page = await open(pageFile("sample"));
-  const word = await page.locator("details.raw .unread").first().evaluate((line) => /[A-Za-z]{4,}/.exec(line.textContent)[0]);
+  const unread = page.locator("details.raw .unread").first();
+  const word = await unread.evaluate((line) => /[A-Za-z]{4,}/.exec(line.textContent)[0]);
   const texts = () => page.locator("details.raw pre").evaluateAll((each) => each.map((one) => one.textContent));
   const before = await texts();
   await page.getByLabel("Search all texts").fill(word);
@@ -191,7 +198,8 @@ test("2,000 disks stay usable", async (open) => {
   assert.equal(await page.locator(".drawing a.box").count(), 2000 + 200 + 10);
   assert.equal(await section(page, "Disks").locator("tbody tr").count(), countOf("many", "KVRSG_zxDiskDrive"));
   const times = await page.evaluate(() => {
-    const table = [...document.querySelectorAll("main > section")].find((each) => each.querySelector("h2").textContent === "Disks");
+    const table = [...document.querySelectorAll("main > section")].find((each) =>
+        each.querySelector("h2").textContent === "Disks");
     const timed = (work) => {
       const start = performance.now();
       work();
@@ -200,7 +208,8 @@ test("2,000 disks stay usable", async (open) => {
     };
     const input = table.querySelector("input");
     const type = (text) => { input.value = text; input.dispatchEvent(new Event("input")); };
-    return { filter: timed(() => type("failed")), unfilter: timed(() => type("")), sort: timed(() => table.querySelectorAll("th button")[5].click()) };
+    return { filter: timed(() => type("failed")), unfilter: timed(() => type("")),
+        sort: timed(() => table.querySelectorAll("th button")[5].click()) };
   });
   for (const [what, time] of Object.entries(times)) assert.ok(time < 5000, `${what} took ${time} ms`);
 });
@@ -209,7 +218,8 @@ test("2,000 disks are laid out a few times, not once for each", async (open) => 
   const page = await open(pageFile("many"));
   const session = await page.context().newCDPSession(page);
   await session.send("Performance.enable");
-  const layouts = async () => (await session.send("Performance.getMetrics")).metrics.find(({ name }) => name === "LayoutCount").value;
+  const layouts = async () =>
+      (await session.send("Performance.getMetrics")).metrics.find(({ name }) => name === "LayoutCount").value;
   assert.ok((await layouts()) < 100, `${await layouts()} layouts to draw the page`);
   const before = await layouts();
   await page.setViewportSize({ width: 900, height: 900 });

@@ -28,7 +28,8 @@ function relatedList(model, object) {
   if (related.length === 0) return [];
   const items = related.slice(0, kMostRelated).map(relatedItem);
   if (related.length > items.length) {
-    items.push(make("li", { class: "quiet" }, `and ${counted(related.length - items.length, "more", "more")}: see the tables`));
+    items.push(make("li", { class: "quiet" },
+        `and ${counted(related.length - items.length, "more", "more")}: see the tables`));
   }
   return [make("h3", {}, "Belongs together"), make("ul", { class: "related" }, ...items)];
 }

@@ -13,14 +13,16 @@ const kPrintedWidth = 680;
 // A box: two lines and a symbol, cut to its size; the whole text stands in the hint and behind the link.
 function box(model, object, at, lines) {
   const level = object.level;
-  const words = [nameOf(object), ...lines.slice(1).filter((line) => line !== "")].join(", ") + ", " + kLevels[level].words;
+  const words = [nameOf(object), ...lines.slice(1).filter((line) => line !== ""), kLevels[level].words].join(", ");
   const content = draw("svg", { x: at.x, y: at.y, width: kBoxWidth, height: kBoxHeight },
     draw("rect", { class: "body", x: 1, y: 1, width: kBoxWidth - 2, height: kBoxHeight - 2, rx: 4 }),
     draw("rect", { class: "bar", x: 1, y: 1, width: 6, height: kBoxHeight - 2 }),
     draw("text", { class: "symbol", x: kBoxWidth - 9, y: 19, "text-anchor": "end" }, kLevels[level].symbol),
     ...lines.map((line, row) =>
-      draw("text", { class: row === 0 ? "first" : "line", x: 14, y: 19 + 16 * row }, cut(line, row === 0 ? kTitleLength : kLineLength))));
-  return draw("a", { class: `box level-${level}`, href: "#object-" + object.index, "data-object": object.index, "aria-label": words },
+      draw("text", { class: row === 0 ? "first" : "line", x: 14, y: 19 + 16 * row },
+        cut(line, row === 0 ? kTitleLength : kLineLength))));
+  const link = { href: "#object-" + object.index, "data-object": object.index, "aria-label": words };
+  return draw("a", { class: `box level-${level}`, ...link },
     draw("title", {}, words), content);
 }
 
@@ -55,11 +57,13 @@ function logicalDriveLines(model, drive) {
 }
 
 function controllerLines(model, controller) {
-  return ["Controller " + textOf(controller, "ControllerNum"), stateLine(model, controller), textOf(controller, "ControllerType")];
+  return ["Controller " + textOf(controller, "ControllerNum"), stateLine(model, controller),
+      textOf(controller, "ControllerType")];
 }
 
 function band(width, height, label, ...content) {
-  return draw("svg", { class: "band", width, height, viewBox: `0 0 ${width} ${height}`, role: "group", "aria-label": label }, ...content);
+  const viewBox = `0 0 ${width} ${height}`;
+  return draw("svg", { class: "band", width, height, viewBox, role: "group", "aria-label": label }, ...content);
 }
 
 function perRow(width) {
@@ -77,7 +81,8 @@ function bandsOfBoxes(model, label, objects, linesOf, width) {
   for (let first = 0; first < objects.length; first += columns * kRowsInBand) {
     const part = objects.slice(first, first + columns * kRowsInBand);
     const height = Math.ceil(part.length / columns) * (kBoxHeight + kGap);
-    bands.push(band(width, height, label, ...part.map((object, index) => box(model, object, placed(index, columns, 0), linesOf(model, object)))));
+    bands.push(band(width, height, label,
+        ...part.map((object, index) => box(model, object, placed(index, columns, 0), linesOf(model, object)))));
   }
   return bands;
 }
@@ -93,13 +98,16 @@ function arrayBand(model, array, width) {
   const inside = kGap;
   const columns = Math.max(1, Math.min(drives.length, perRow(width - 2 * inside)));
   const rows = Math.max(1, Math.ceil(drives.length / columns));
-  const size = { width: 2 * inside + columns * (kBoxWidth + kGap) - kGap, height: kHeadHeight + rows * (kBoxHeight + kGap) };
+  const size = { width: 2 * inside + columns * (kBoxWidth + kGap) - kGap,
+      height: kHeadHeight + rows * (kBoxHeight + kGap) };
   const disks = counted(model.disksOf(array).length, "disk", "disks");
   const label = `${arrayName(array)}, ${disks}, stripe order ${textOf(array, "StripeOrder")}`;
-  const head = draw("a", { class: "frame", href: "#object-" + array.index, "data-object": array.index, "aria-label": label },
+  const link = { href: "#object-" + array.index, "data-object": array.index, "aria-label": label };
+  const head = draw("a", { class: "frame", ...link },
     draw("title", {}, label),
     draw("rect", { class: "body", x: 1, y: 1, width: size.width - 2, height: size.height - 2, rx: 4 }),
-    draw("text", { class: "first", x: inside, y: 17 }, cut(`${frameName(array)}, ${disks}`, kTitleLength * columns + 3)));
+    draw("text", { class: "first", x: inside, y: 17 },
+      cut(`${frameName(array)}, ${disks}`, kTitleLength * columns + 3)));
   const boxes = drives.map((drive, index) => {
     const at = placed(index, columns, kHeadHeight);
     return box(model, drive, { x: at.x + inside, y: at.y }, logicalDriveLines(model, drive));
@@ -121,7 +129,8 @@ function logicalGroups(model, owner, width) {
   const arrays = model.ownedBy(owner, kArrays);
   const alone = model.ownedBy(owner, kLogicalDrives).filter((drive) => drive.groups.length === 0);
   const groups = [];
-  if (arrays.length > 0) groups.push(bandGroup("Arrays", arrays.map((array) => arrayBand(model, array, width)), "band-group"));
+  const bands = arrays.map((array) => arrayBand(model, array, width));
+  if (arrays.length > 0) groups.push(bandGroup("Arrays", bands, "band-group"));
   if (alone.length > 0) {
     const title = arrays.length > 0 ? "Logical drives without an array" : "Logical drives";
     groups.push(bandGroup(title, bandsOfBoxes(model, title, alone, logicalDriveLines, width), "band-group"));
@@ -140,7 +149,9 @@ function diskGroups(model, owner, width) {
 
 function controllerNote(model, owner) {
   const controllers = model.ownedBy(owner, kControllers);
-  if (controllers.length > 1) return `${controllers.length} controllers carry this number. What belongs to either stands here together.`;
+  if (controllers.length > 1) {
+    return `${controllers.length} controllers carry this number. What belongs to either stands here together.`;
+  }
   if (controllers.length === 1) return "";
   return report.data.classes.includes(kControllers)
     ? "This controller was not published: its status may say \"Failed\"."
@@ -222,7 +233,8 @@ function setUpMarks(figure, model) {
 class Drawing {
   constructor(model) {
     this.model = model;
-    this.figures = [...model.owners.keys()].map((owner) => ({ owner, element: make("figure", { class: "controller" }) }));
+    const figure = (owner) => ({ owner, element: make("figure", { class: "controller" }) });
+    this.figures = [...model.owners.keys()].map(figure);
     this.element = make("div", { class: "drawing" }, legend(), ...this.figures.map(({ element }) => element));
     this.figures.forEach(({ element }) => setUpMarks(element, model));
     this.columns = 0;
@@ -248,7 +260,8 @@ class Drawing {
 function legend() {
   const items = kWorstFirst.map((level) => make("li", {}, badge(level, kLevels[level].words)));
   return make("div", { class: "legend" }, make("ul", { "aria-label": "Legend" }, ...items),
-    make("p", { class: "quiet" }, "A box leads to its details. Tab goes from group to group, the arrow keys from box to box."));
+    make("p", { class: "quiet" },
+      "A box leads to its details. Tab goes from group to group, the arrow keys from box to box."));
 }
 
 function setUpDrawing(drawing) {

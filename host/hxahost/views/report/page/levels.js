@@ -1,5 +1,5 @@
-// How the levels look that the program gives its objects and findings, the worst first. The symbol and the words go with
-// the colour wherever it is used.
+// How the levels look that the program gives objects and findings, the worst first. Symbol and words go with the colour
+// wherever it is used.
 const kLevels = {
   critical: { symbol: "\u2715", words: "critical" },
   warning: { symbol: "!", words: "needs attention" },

@@ -30,7 +30,8 @@ function subjectCell(finding) {
   const identifier = finding.identifier === finding.name ? "" : printable(finding.identifier);
   return {
     text: `${name} ${identifier}`,
-    node: () => make("span", {}, object ? linkTo(object, name) : name, identifier === "" ? "" : make("span", { class: "quiet identifier" }, identifier)),
+    node: () => make("span", {}, object ? linkTo(object, name) : name,
+        identifier === "" ? "" : make("span", { class: "quiet identifier" }, identifier)),
   };
 }
 
@@ -53,7 +54,9 @@ function findingTable(findings) {
 function findingLimits(data) {
   const limits = [];
   if (data.unjudged.length > 0) limits.push(`Not asked for, so not judged: ${data.unjudged.join(", ")}.`);
-  if (data.queryCount > 1) limits.push("The tools were run by the first query alone; how their runs went is not judged here.");
+  if (data.queryCount > 1) {
+    limits.push("The tools were run by the first query alone; how their runs went is not judged here.");
+  }
   return limits.map((text) => make("p", { class: "quiet" }, text));
 }
 
@@ -84,14 +87,18 @@ function stateList(model, className) {
   if (total === 0) return [];
   const items = stateCounts(model, className).map(({ words, level, count }) =>
     make("li", {}, make("span", { class: "number" }, count.toLocaleString("en-US")), " ", badge(level, words)));
-  return [make("section", { class: "states" }, make("h3", {}, `${kKinds[className]}: ${total.toLocaleString("en-US")}`), make("ul", {}, ...items))];
+  return [make("section", { class: "states" },
+      make("h3", {}, `${kKinds[className]}: ${total.toLocaleString("en-US")}`), make("ul", {}, ...items))];
 }
 
 function badStripeList(model) {
   const bad = model.all(kBadStripes).filter((object) => textOf(object, "NumBadStripes") !== "0");
   if (bad.length === 0) return [];
-  const items = bad.map((object) => make("li", {}, linkTo(object,
-    `Controller ${textOf(object, "ControllerNum")}, logical drive ${textOf(object, "LogicalDrive")}: ${textOf(object, "NumBadStripes")}`)));
+  const words = (object) => {
+    const text = (name) => textOf(object, name);
+    return `Controller ${text("ControllerNum")}, logical drive ${text("LogicalDrive")}: ${text("NumBadStripes")}`;
+  };
+  const items = bad.map((object) => make("li", {}, linkTo(object, words(object))));
   return [make("section", { class: "states" }, make("h3", {}, "Bad stripes"), make("ul", {}, ...items))];
 }
 
@@ -109,7 +116,8 @@ function healthSection(model, query, data) {
   const found = model.objects.some((object) => object.class !== "KVRSG_zxRawData");
   const nothing = found ? [] : [make("p", { class: "trouble" },
     "Nothing was found: no controller, no drive and no log record of the classes asked for.")];
-  return make("div", {}, findingSection(model.findings, data), ...nothing, make("div", { class: "state-lists" }, ...parts));
+  return make("div", {}, findingSection(model.findings, data), ...nothing,
+      make("div", { class: "state-lists" }, ...parts));
 }
 
 function drawingSection(model) {
@@ -132,7 +140,9 @@ function otherClasses(model, tables) {
 
 function otherSection(model, classes) {
   const folded = classes.map((name) => {
-    const element = make("details", {}, make("summary", {}, make("code", {}, name), make("span", { class: "quiet" }, ` ${counted(model.all(name).length, "instance", "instances")}`)));
+    const element = make("details", {},
+        make("summary", {}, make("code", {}, name),
+          make("span", { class: "quiet" }, ` ${counted(model.all(name).length, "instance", "instances")}`)));
     element.addEventListener("toggle", () => element.append(generalTable(model, name)), { once: true });
     return element;
   });
@@ -150,7 +160,8 @@ function countSection(model, data) {
 function logSection(query) {
   if (query.log.length === 0) return null;
   const rows = query.log.map((entry) => ({ level: String(entry.level), text: printable(entry.text) }));
-  return make("details", {}, make("summary", {}, `What the plug-in logged: ${counted(rows.length, "entry", "entries")}`),
+  return make("details", {},
+      make("summary", {}, `What the plug-in logged: ${counted(rows.length, "entry", "entries")}`),
     newTable("Log of the plug-in", [
       { title: "Level", cell: (row) => ({ text: row.level }) },
       { title: "Text", cell: (row) => ({ text: row.text }) },
@@ -190,7 +201,8 @@ function addSection(section) {
   const content = contentOf(section);
   if (!content) return;
   const id = section.title.toLowerCase().replace(/[^a-z]+/g, "-");
-  byId("content").append(make("section", { "aria-labelledby": id }, make("h2", { id, tabindex: "-1" }, section.title), content));
+  const heading = make("h2", { id, tabindex: "-1" }, section.title);
+  byId("content").append(make("section", { "aria-labelledby": id }, heading, content));
   byId("sections").append(make("li", {}, make("a", { href: "#" + id }, section.title)));
 }
 
@@ -199,9 +211,11 @@ function writeHead(json, data) {
   document.title = title;
   byId("title").textContent = title;
   byId("subtitle").textContent = `Collected in ${printable(data.directory)} on ${readableTime(data.time)}`;
-  byId("footer").textContent = `Written by ${data.program}. Everything is in this file; nothing is loaded from elsewhere.`;
+  byId("footer").textContent =
+    `Written by ${data.program}. Everything is in this file; nothing is loaded from elsewhere.`;
   if (data.queryCount > 1) {
-    byId("note").textContent = `${data.queryCount} queries were made; this is the last one. Its log begins where the one before it ended.`;
+    byId("note").textContent =
+      `${data.queryCount} queries were made; this is the last one. Its log begins where the one before it ended.`;
   }
 }
 

@@ -12,9 +12,11 @@ function rawTexts(model, unread) {
   const places = unreadPlaces(unread);
   return kRawTexts.flatMap((className) => model.all(className)).map((object) => {
     const results = Array.isArray(object.properties.RawResults) ? object.properties.RawResults : [];
-    const lines = results.map((line) => visibleLines(String(line)).replace(/[\r\n]/g, (character) => kLineCharacters[character]));
+    const escaped = (line) => visibleLines(line).replace(/[\r\n]/g, (character) => kLineCharacters[character]);
+    const lines = results.map((line) => escaped(String(line)));
     const marked = (places && places.get(object.index)) || new Set();
-    return { command: textOf(object, "Command"), lineCount: lines.length, unreadCount: marked.size, text: lines.join("\n"), parts: partsOf(lines, marked) };
+    return { command: textOf(object, "Command"), lineCount: lines.length, unreadCount: marked.size,
+        text: lines.join("\n"), parts: partsOf(lines, marked) };
   });
 }
 
@@ -42,13 +44,15 @@ function rawElement(raw) {
   const lines = raw.lineCount === 0 ? "no lines" : counted(raw.lineCount, "line", "lines");
   const unread = raw.unreadCount === 0 ? [] : [make("span", { class: "unread-count" }, unreadWords(raw.unreadCount))];
   const element = make("details", { class: "raw" },
-    make("summary", {}, make("code", {}, raw.command), make("span", { class: "quiet" }, " " + lines), " ", ...unread), body);
+    make("summary", {}, make("code", {}, raw.command), make("span", { class: "quiet" }, " " + lines), " ", ...unread),
+      body);
   return { ...raw, element, body };
 }
 
 function matchesIn(text, words) {
   const escaped = words.replace(/[.*+?^${}()|[\]\\]/g, "\\$&");
-  return [...text.matchAll(new RegExp(escaped, "gi"))].map((match) => ({ begin: match.index, end: match.index + match[0].length }));
+  const matches = [...text.matchAll(new RegExp(escaped, "gi"))];
+  return matches.map((match) => ({ begin: match.index, end: match.index + match[0].length }));
 }
 
 // From begin to end, with what of the matches lies there marked.
@@ -96,7 +100,8 @@ function searchRaw(raws, words, result) {
     texts += isFound ? 1 : 0;
   }
   result.textContent = words === "" ? counted(raws.length, "text", "texts")
-    : `${counted(total, "match", "matches")} in ${counted(texts, "text", "texts")}` + (total > kMostMarks ? `, the first ${kMostMarks} marked` : "");
+    : `${counted(total, "match", "matches")} in ${counted(texts, "text", "texts")}`
+        + (total > kMostMarks ? `, the first ${kMostMarks} marked` : "");
 }
 
 function commandButton(words, command, attributes = {}) {
@@ -143,19 +148,26 @@ class UnreadWalk {
   }
 }
 
+function keyHint(key) {
+  return { "aria-keyshortcuts": key.toLowerCase(), title: `Key ${key} within these texts` };
+}
+
 function unreadTools(section, raws, unread) {
-  if (unread === null) return [make("p", { class: "quiet" }, "Which lines nothing else shows can be told only where every class was asked for.")];
+  const whyNot = "Which lines nothing else shows can be told only where every class was asked for.";
+  if (unread === null) return [make("p", { class: "quiet" }, whyNot)];
   const texts = raws.filter((raw) => raw.unreadCount > 0);
   const total = texts.reduce((sum, raw) => sum + raw.unreadCount, 0);
   if (total === 0) return [make("p", { class: "quiet" }, "The value of every line is shown by some property.")];
+  const lines = counted(total, "line", "lines");
   const walk = new UnreadWalk(section);
   section.addEventListener("keydown", (event) => walk.onKey(event));
   return [
     make("p", { class: "unread-legend" }, make("span", { class: "unread" }, "A line with this mark"),
-      ` has a value that no property shows: ${counted(total, "line", "lines")} in ${counted(texts.length, "text", "texts")}.`),
+      ` has a value that no property shows: ${lines} in ${counted(texts.length, "text", "texts")}.`),
     make("div", { class: "tools" },
-      commandButton("Next such line", () => walk.go(1), { "aria-keyshortcuts": "n", title: "Key N within these texts" }),
-      commandButton("Previous", () => walk.go(-1), { "aria-keyshortcuts": "p", title: "Key P within these texts" }), walk.place),
+      commandButton("Next such line", () => walk.go(1), keyHint("N")),
+      commandButton("Previous", () => walk.go(-1), keyHint("P")),
+      walk.place),
   ];
 }
 

@@ -36,8 +36,10 @@ class SortedTable {
       make("caption", {}, make("span", { class: "unseen" }, this.caption)),
       make("thead", { role: "rowgroup" }, make("tr", { role: "row" }, ...this.heads)), this.body);
     return make("div", { class: "sorted-table" },
-      make("div", { class: "tools" }, make("label", {}, "Filter ", make("span", { class: "unseen" }, this.caption + " "), this.input), this.count),
-      make("div", { class: "scroll", tabindex: "0", role: "region", "aria-label": this.caption + ", table" }, table), this.more);
+      make("div", { class: "tools" },
+        make("label", {}, "Filter ", make("span", { class: "unseen" }, this.caption + " "), this.input), this.count),
+      make("div", { class: "scroll", tabindex: "0", role: "region", "aria-label": this.caption + ", table" }, table),
+        this.more);
   }
 
   buildHead(column, index) {
@@ -65,7 +67,8 @@ class SortedTable {
     const found = this.order.filter((row) => words.every((word) => this.lowered[row].includes(word)));
     const shown = found.slice(0, this.most);
     const rows = document.createDocumentFragment();
-    for (const row of shown) rows.append(make("tr", { role: "row" }, ...this.rows[row].map((cell, index) => tableCell(cell, this.columns[index].title))));
+    for (const row of shown) rows.append(make("tr", { role: "row" },
+        ...this.rows[row].map((cell, index) => tableCell(cell, this.columns[index].title))));
     this.body.replaceChildren(rows);
     this.count.textContent = `${found.length.toLocaleString("en-US")} of ${counted(this.rows.length, "row", "rows")}`;
     this.more.hidden = shown.length === found.length;
@@ -81,15 +84,12 @@ class SortedTable {
 // Where rows are shown as blocks the title goes with the cell, and an empty cell takes no place. The roles say what it
 // is there too, where browsers would forget that it is a table.
 function tableCell(cell, title) {
-  return make("td", { role: "cell", "data-title": title, class: cell.text === "" ? "empty" : null }, cell.node ? cell.node() : cell.text);
+  return make("td", { role: "cell", "data-title": title, class: cell.text === "" ? "empty" : null },
+      cell.node ? cell.node() : cell.text);
 }
 
 function textCell(property) {
   return (object) => ({ text: textOf(object, property) });
-}
-
-function countCell(property) {
-  return (object) => ({ text: Array.isArray(object.properties[property]) ? String(object.properties[property].length) : "" });
 }
 
 function stateCell(property) {
@@ -102,7 +102,7 @@ function linkCell(object) {
 
 function columnFor(column, className) {
   const isState = kStateProperties[className] === column.property;
-  const cell = isState ? stateCell(column.property) : column.shows === "count" ? countCell(column.property) : textCell(column.property);
+  const cell = isState ? stateCell(column.property) : textCell(column.property);
   return { title: column.title.charAt(0).toUpperCase() + column.title.slice(1), cell };
 }
 
@@ -110,7 +110,8 @@ function columnFor(column, className) {
 function instanceTable(model, table) {
   const objects = table.classes.flatMap((className) => model.all(className));
   if (objects.length === 0) return null;
-  const columns = [{ title: "Details", cell: linkCell }, ...table.columns.map((column) => columnFor(column, table.classes[0]))];
+  const columns = [{ title: "Details", cell: linkCell },
+      ...table.columns.map((column) => columnFor(column, table.classes[0]))];
   return newTable(table.heading, columns, objects);
 }
 

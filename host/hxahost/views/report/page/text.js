@@ -1,8 +1,8 @@
 // Text of tools on the page. It becomes text nodes and nothing else; what would be invisible or would turn the
 // direction of the text around it is shown as an escape, as in the tables of the terminal.
 
-const kUnsafeCharacters =
-  /[\u0000-\u0008\u000b\u000c\u000e-\u001f\u007f-\u009f\u00ad\u061c\u180e\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb\u{e0000}-\u{e007f}]/gu;
+const kUnsafeCharacters = new RegExp("[\\u0000-\\u0008\\u000b\\u000c\\u000e-\\u001f\\u007f-\\u009f\\u00ad\\u061c" +
+  "\\u180e\\u200b-\\u200f\\u2028-\\u202e\\u2060-\\u206f\\ufeff\\ufff9-\\ufffb\\u{e0000}-\\u{e007f}]", "gu");
 
 const kLineCharacters = { "\t": "\\t", "\r": "\\r", "\n": "\\n" };
 

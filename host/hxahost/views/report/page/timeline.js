@@ -32,7 +32,8 @@ function timedEvents(model) {
   const events = [...model.all(kDddEvents).map(dddEvent), ...model.all(kManagerEvents).map(managerEvent)];
   for (const event of events) event.moment = eventMoment(event);
   const at = (event) => (event.moment ? event.moment.milliseconds : Infinity);
-  return events.sort((one, other) => (at(one) === at(other) ? 0 : at(one) - at(other)) || one.object.index - other.object.index);
+  return events.sort((one, other) => (at(one) === at(other) ? 0 : at(one) - at(other))
+      || one.object.index - other.object.index);
 }
 
 function timeText(event) {
@@ -41,12 +42,16 @@ function timeText(event) {
   return event.object.class === kDddEvents ? `${date} ${clock}` : `${date} ${clock} ${zone}`;
 }
 
+function severityOfEvent(event) {
+  return { text: event.severity, node: () => (event.severity === "" ? "" : badge(event.level, event.severity)) };
+}
+
 function eventTable(events) {
   const columns = [
     { title: "Time", cell: (event) => ({ text: timeText(event), node: () => linkTo(event.object, timeText(event)) }) },
     { title: "Log", cell: (event) => ({ text: event.log }) },
     { title: "Controller", cell: (event) => ({ text: event.number }) },
-    { title: "Severity", cell: (event) => ({ text: event.severity, node: () => (event.severity === "" ? "" : badge(event.level, event.severity)) }) },
+    { title: "Severity", cell: severityOfEvent },
     { title: "Event", cell: (event) => ({ text: event.text }) },
     { title: "Machine", cell: (event) => ({ text: event.machine || "" }) },
   ];
@@ -65,7 +70,8 @@ function laneBars(events, first, span) {
     const level = kWorstFirst.find((each) => list.some((event) => event.level === each));
     const height = 6 + 24 * Math.sqrt(list.length / most);
     const words = `${timeText(list[0])}: ${counted(list.length, "event", "events")}`;
-    return draw("rect", { class: `mark level-${level}`, x: bin * 8 + 1, y: 32 - height, width: 6, height }, draw("title", {}, words));
+    return draw("rect", { class: `mark level-${level}`, x: bin * 8 + 1, y: 32 - height, width: 6, height },
+        draw("title", {}, words));
   });
 }
 
@@ -77,19 +83,24 @@ function timeStrip(events) {
   const span = Math.max(1, last - first);
   const lanes = [...new Set(timed.map((event) => event.log))].map((log) => {
     const own = timed.filter((event) => event.log === log);
-    const label = `${log}: ${counted(own.length, "event", "events")} from ${timeText(own[0])} to ${timeText(own[own.length - 1])}`;
+    const times = `from ${timeText(own[0])} to ${timeText(own.at(-1))}`;
+    const label = `${log}: ${counted(own.length, "event", "events")} ${times}`;
     return make("div", { class: "lane" }, make("span", {}, log),
-      draw("svg", { viewBox: `0 0 ${kBins * 8} 32`, preserveAspectRatio: "none", role: "img", "aria-label": label }, ...laneBars(own, first, span)));
+      draw("svg", { viewBox: `0 0 ${kBins * 8} 32`, preserveAspectRatio: "none", role: "img", "aria-label": label },
+        ...laneBars(own, first, span)));
   });
-  const dates = [first, first + span / 2, last].map((moment) => make("span", {}, new Date(moment).toISOString().slice(0, 10)));
+  const date = (moment) => make("span", {}, new Date(moment).toISOString().slice(0, 10));
+  const dates = [first, first + span / 2, last].map(date);
   return [make("div", { class: "strip" }, ...lanes, make("div", { class: "ticks", "aria-hidden": "true" }, ...dates))];
 }
 
 function codeList(object, property, title) {
   const codes = Array.isArray(object.properties[property]) ? object.properties[property].map(codeText) : [];
   return make("section", { class: "codes" },
-    make("h4", {}, linkTo(object, `Controller ${textOf(object, "ControllerNum")}: ${counted(codes.length, title, title + "s")}`)),
-    codes.length === 0 ? make("p", { class: "quiet" }, "None.") : make("ol", {}, ...codes.map((code) => make("li", {}, code))));
+    make("h4", {},
+      linkTo(object, `Controller ${textOf(object, "ControllerNum")}: ${counted(codes.length, title, title + "s")}`)),
+    codes.length === 0 ? make("p", { class: "quiet" }, "None.")
+        : make("ol", {}, ...codes.map((code) => make("li", {}, code))));
 }
 
 function timelessLogs(model) {
@@ -107,7 +118,8 @@ function eventSection(model) {
   const aside = timelessLogs(model);
   if (events.length === 0 && aside.length === 0) return null;
   const list = events.length === 0 ? [] : [make("div", { class: "timed" },
-    make("p", { class: "quiet" }, "In the order of the clock that each log shows. The log of defunct drives names no time zone."),
+    make("p", { class: "quiet" },
+      "In the order of the clock that each log shows. The log of defunct drives names no time zone."),
     ...timeStrip(events), eventTable(events))];
   return make("div", { class: "events" }, ...list, ...aside);
 }
