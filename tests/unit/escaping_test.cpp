@@ -11,10 +11,7 @@ TEST(Escaping, EscapesWhatWouldActOnATerminal) {
   EXPECT_EQ(EscapeControls("a\tb\r\n"), "a\\tb\\r\\n");
   EXPECT_EQ(EscapeControls("\x1b[2J\x7f"), "\\x1b[2J\\x7f");
   EXPECT_EQ(EscapeControls("a\0b"s), "a\\x00b");
-  EXPECT_EQ(EscapeControls("\x9b"
-                           "2J"),
-            "\\x9b2J")
-      << "a single byte starts a command, too";
+  EXPECT_EQ(EscapeControls("\x9bJ"), "\\x9bJ") << "a single byte starts a command, too";
   EXPECT_EQ(EscapeControls("\xc2\x9b"), "\\x9b");
   EXPECT_EQ(EscapeControls("a\xe2\x80\xae."), "a\\u202e.") << "turns the direction of the text";
   EXPECT_EQ(EscapeControls("\xef\xbf\xbe\xef\xbf\xbf"), "\\ufffe\\uffff") << "no characters";

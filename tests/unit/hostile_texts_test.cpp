@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include <boost/locale/encoding_utf.hpp>
 #include <boost/property_tree/ptree.hpp>
 #include <boost/property_tree/xml_parser.hpp>
 
@@ -59,20 +60,10 @@ const HostileText kTexts[] = {
     {"link",                        "javascript:alert(1)"                               },
     {"attribute",                   "\" onload=\"alert(1)\" a='"                        },
     {"terminal commands",           "a\x1b[2J\x1b]0;title\x07\x1b[31m\x08\x7fz"         },
-    {"C1 command in UTF-8",
-     "a\xc2\x9b"
-     "2Jz"                                                                              },
-    {"C1 command, one byte",
-     "a\x9b"
-     "2Jz"                                                                              },
+    {"C1 command in UTF-8",         "a\u009b2Jz"                                        },
+    {"C1 command, one byte",        "a\x9bz"                                            },
     {"line feeds",                  "a\nb\r\nc\rd"                                      },
-    {"other line ends",
-     "a\xc2\x85"
-     "b\xe2\x80\xa8"
-     "c\xe2\x80\xa9"
-     "d\x0b"
-     "e\x0c"
-     "f"                                                                                },
+    {"other line ends",             "a\u0085b\u2028c\u2029d\ve\ff"                      },
     {"quotes",                      "\"a\" 'b' `c`"                                     },
     {"backslashes",                 "\\ \\\\ \\n \\x41 \\u202e \\\" \\"                 },
     {"end of a statement",          "\"; }; instance of KVRSG_zxRawData { Command = \"x"},
@@ -82,22 +73,11 @@ const HostileText kTexts[] = {
     {"high surrogate",              "a\xed\xa0\xbdz"                                    },
     {"low surrogate",               "a\xed\xb8\x80z"                                    },
     {"surrogates as bytes",         "a\xed\xa0\xbd\xed\xb8\x80z"                        },
-    {"turned text",
-     "a\xe2\x80\xae"
-     "txt.exe\xe2\x80\xac \xe2\x81\xa6"
-     "b\xe2\x81\xa9"                                                                    },
-    {"direction marks",
-     "a\xe2\x80\x8e\xe2\x80\x8f\xd8\x9c"
-     "b"                                                                                },
-    {"invisible",
-     "a\xe2\x80\x8b\xc2\xad\xef\xbb\xbf\xe2\x81\xa0"
-     "b"                                                                                },
-    {"invisible copies of letters",
-     "a\xe1\xa0\x8e\xf3\xa0\x81\x81\xf3\xa0\x81\xbf"
-     "b"                                                                                },
-    {"no characters",
-     "a\xef\xbf\xbe\xef\xbf\xbf"
-     "b"                                                                                },
+    {"turned text",                 "a\u202etxt.exe\u202c \u2066b\u2069"                },
+    {"direction marks",             "a\u200e\u200f\u061cb"                              },
+    {"invisible",                   "a\u200b\u00ad\ufeff\u2060b"                        },
+    {"invisible copies of letters", "a\u180e\U000e0041\U000e007fb"                      },
+    {"no characters",               "a\ufffe\uffffb"                                    },
     {"NUL",                         "a\0b"s                                             },
     {"no UTF-8",                    "a\xff\xfe\xc3\x28\xf8z"                            },
     {"every byte",                  "a" + EveryByte() + "z"                             },
@@ -389,33 +369,25 @@ struct Mof {
   std::vector<std::string> strings;
 };
 
-unsigned TakeFourDigits(std::string_view& rest) {
-  const auto number = static_cast<unsigned>(std::stoul(std::string(rest.substr(0, 4)), nullptr, 16));
-  rest.remove_prefix(4);
-  return number;
-}
-
-// A further byte of UTF-8, with the last six bits of a number.
-char Continued(unsigned number) { return static_cast<char>(0x80U | (number & 0x3fU)); }
-
+// The rest begins behind a backslash. A character by its number is one or two code units of UTF-16.
 std::string UnescapedMof(std::string_view& rest) {
   constexpr std::string_view kLetters = "btnfr\"\\";
   constexpr std::string_view kMeant = "\b\t\n\f\r\"\\";
   const char letter = rest.front();
-  rest.remove_prefix(1);
   const std::size_t known = kLetters.find(letter);
-  if (known != kLetters.npos) return {kMeant[known]};
-  EXPECT_EQ(letter, 'x');
-  const unsigned code = TakeFourDigits(rest);
-  if (code < 0x80) return {static_cast<char>(code)};
-  if (code < 0x800) return {static_cast<char>(0xc0U | (code >> 6U)), Continued(code)};
-  if (code < 0xd800 || code > 0xdbff) {
-    return {static_cast<char>(0xe0U | (code >> 12U)), Continued(code >> 6U), Continued(code)};
+  if (known != kLetters.npos) {
+    rest.remove_prefix(1);
+    return {kMeant[known]};
   }
-  EXPECT_TRUE(rest.starts_with("\\x")) << "the first of two code units";
-  rest.remove_prefix(2);
-  const unsigned whole = 0x10000U + ((code - 0xd800U) << 10U) + (TakeFourDigits(rest) - 0xdc00U);
-  return {static_cast<char>(0xf0U | (whole >> 18U)), Continued(whole >> 12U), Continued(whole >> 6U), Continued(whole)};
+  EXPECT_EQ(letter, 'x');
+  std::u16string units;
+  for (bool isMore = true; isMore;) {
+    units += static_cast<char16_t>(std::stoul(std::string(rest.substr(1, 4)), nullptr, 16));
+    rest.remove_prefix(5);
+    isMore = rest.starts_with("\\x");
+    if (isMore) rest.remove_prefix(1);
+  }
+  return boost::locale::conv::utf_to_utf<char>(units, boost::locale::conv::stop);
 }
 
 std::string TakeMofString(std::string_view& rest) {

@@ -20,9 +20,7 @@ TEST(JsonOutput, EscapesWhatMustNotReachATerminalAndIsTheSameJson) {
       {"quote and backslash", "\"\\",               "\"\\\"\\\\\""         },
       {"control",             "\x1b[2J\n",          "\"\\u001b[2J\\n\""    },
       {"delete",              "a\x7f",              "\"a\\u007f\""         },
-      {"C1 control",
-       "\xc2\x9b"
-       "2J",                                        "\"\\u009b2J\""        },
+      {"C1 control",          "\u009b2J",           "\"\\u009b2J\""        },
       {"turned text",         "a\u202e.\u202c",     "\"a\\u202e.\\u202c\"" },
       {"line end",            "\u2028\u0085",       "\"\\u2028\\u0085\""   },
       {"invisible letter",    "\U000e0041",         "\"\\udb40\\udc41\""   },

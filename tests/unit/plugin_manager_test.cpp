@@ -49,18 +49,12 @@ TEST_F(PluginManager, IsFoundThroughTheRootObject) {
   EXPECT_EQ(TRootObject::GetPluginManager(), nullptr);
 }
 
-TEST_F(PluginManager, KeepsPlugInsInTheOrderInWhichTheyRegistered) {
+TEST_F(PluginManager, KeepsPlugInsInTheirOrderReleasesEachOnceAndForgetsIt) {
   auto* const first = new TNamedPlugin("first", released);
   auto* const second = new TNamedPlugin("second", released);
   EXPECT_NE(manager->RegisterPlugin(first), nullptr);
   EXPECT_NE(manager->RegisterPlugin(second), nullptr);
   EXPECT_THAT(TPluginManagerAccess::Plugins(*manager), ElementsAre(first, second));
-  TPluginManagerAccess::ReleasePlugins(*manager);
-}
-
-TEST_F(PluginManager, ReleasesEachPlugInOnceAndForgetsIt) {
-  manager->RegisterPlugin(new TNamedPlugin("first", released));
-  manager->RegisterPlugin(new TNamedPlugin("second", released));
   TPluginManagerAccess::ReleasePlugins(*manager);
   EXPECT_THAT(released, ElementsAre("first", "second"));
   EXPECT_THAT(TPluginManagerAccess::Plugins(*manager), IsEmpty());
