@@ -36,7 +36,7 @@ constexpr InstanceIdentity kIdentities[] = {
 
 constexpr std::string_view kLinkProperties[] = {"Antecedent", "Dependent", "ManagedElement", "Stats"};
 
-// Parts of a key stand apart by a character that no path has.
+// The parts of a key are separated by a character that no path has.
 constexpr char kApart = '\x1f';
 
 std::string IdentityKey(const ResultInstance& instance) {

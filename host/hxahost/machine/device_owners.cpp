@@ -78,7 +78,7 @@ Told ToolOf(const TPublishedInstance& instance) {
   return {};
 }
 
-// The drives that an array without a letter may stand for.
+// The drives that an array without a letter may be for.
 using DrivesByName = std::multimap<std::string, const TPublishedInstance*>;
 
 DrivesByName LogicalDrives(const InstanceList& instances) {

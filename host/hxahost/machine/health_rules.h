@@ -55,7 +55,7 @@ struct HealthRule {
   Where where;
 };
 
-// Rules of one value stand together; what matters most comes first.
+// Rules of one value follow each other; what matters most comes first.
 std::span<const HealthRule> HealthRules();
 
 // What the RAID manager's log says of how bad an event is; a word that is not here is unknown.

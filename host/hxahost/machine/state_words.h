@@ -20,7 +20,7 @@ Words StateWords(std::string_view text);
 // "Yes (0,8)" is yes.
 Words FirstWord(std::string_view text);
 
-// What stands in parentheses: "46 C/ 114 F (Normal)" is normal. Figures alone say nothing.
+// What is in parentheses: "46 C/ 114 F (Normal)" is normal. Figures alone say nothing.
 Words BracketedWords(std::string_view text);
 
 // "0" is none, any other number is some. What is no number stays what it is.

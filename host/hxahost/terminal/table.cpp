@@ -53,7 +53,7 @@ void Narrow(std::vector<Shown>& columns, std::size_t width) {
   }
 }
 
-// What matters least stands at the right. The first column stays, whatever its width.
+// What matters least is at the right. The first column stays, whatever its width.
 void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t width) {
   const std::size_t room = width - DisplayWidth(kMoreColumns);
   while (columns.size() > 1 && TotalWidth(columns) > room) columns.pop_back();

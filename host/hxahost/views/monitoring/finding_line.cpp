@@ -11,7 +11,7 @@ namespace hxahost {
 
 namespace {
 
-// A log entry can be a page; what it says of health stands in its beginning.
+// A log entry can be a page; what it says of health is in its beginning.
 constexpr std::size_t kWidestText = 160;
 
 }  // namespace

@@ -51,7 +51,7 @@ Json ColumnsJson(std::span<const InstanceColumn> columns) {
   return json;
 }
 
-// What stands in the heading of a controller's block elsewhere is a row here.
+// What is in the heading of a controller's block elsewhere is a row here.
 Json ControllerColumns() {
   Json json = Json::array();
   for (const auto facts : {std::span<const Fact>(kControllerNames), IdentityFacts(), StateFacts()}) {

@@ -5,7 +5,7 @@
 namespace hxahost {
 
 // The page of the report with its style and script in it; made from report_template.html and report/ when the program
-// is built. "@QUERY_DATA@" and "@REPORT_DATA@" stand where the data goes.
+// is built. "@QUERY_DATA@" and "@REPORT_DATA@" are where the data goes.
 std::string_view ReportTemplate();
 
 }  // namespace hxahost

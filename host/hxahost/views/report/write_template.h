@@ -13,7 +13,7 @@ struct TemplateSlot {
   std::function<void(std::ostream& out)> write;
 };
 
-// Writes the template with its slots filled. What is put in is not searched for marks. The slots stand in the
+// Writes the template with its slots filled. What is put in is not searched for marks. The slots are in the
 // template's order; throws std::logic_error for one that is not there.
 void WriteTemplate(std::ostream& out, std::string_view text, std::span<const TemplateSlot> slots);
 

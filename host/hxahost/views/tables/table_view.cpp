@@ -24,7 +24,7 @@ namespace hxahost {
 
 namespace {
 
-// Commands that found nothing leave their raw texts behind all the same.
+// Commands that found nothing leave raw texts all the same.
 bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != kRawDataClass; }
 
 // Where nothing was found, the first thing to know is whether anything looked.

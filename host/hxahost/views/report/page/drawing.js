@@ -10,7 +10,7 @@ const kLineLength = 22;
 const kTitleLength = 15;
 const kPrintedWidth = 680;
 
-// A box: two lines and a symbol, cut to its size; the whole text stands in the hint and behind the link.
+// A box: two lines and a symbol, cut to its size; the whole text is in the hint and in the details.
 function box(model, object, at, lines) {
   const level = object.level;
   const words = [nameOf(object), ...lines.slice(1).filter((line) => line !== ""), kLevels[level].words].join(", ");
@@ -40,7 +40,7 @@ function diskLines(model, disk) {
     [...new Set(members)].filter((name) => name !== "").join(", ") || textOf(disk, "DeviceType")];
 }
 
-// An array with a letter stands for the drives on it.
+// An array with a letter represents the drives on it.
 function memberName(model, object) {
   if (object.class === kArrays) return textOf(object, "Array") === "" ? "" : arrayName(object);
   const hasLetter = object.groups.some((array) => textOf(array, "Array") !== "");
@@ -87,7 +87,7 @@ function bandsOfBoxes(model, label, objects, linesOf, width) {
   return bands;
 }
 
-// The one drive of an array without a letter stands in the frame.
+// The one drive of an array without a letter is in the frame.
 function frameName(array) {
   return textOf(array, "Array") === "" ? "Array" : arrayName(array);
 }

@@ -152,7 +152,7 @@ function stateText(object) {
   return property ? textOf(object, property) : "";
 }
 
-// An array has a letter, or stands for one logical drive, whose number ends the identifier's first word.
+// An array has a letter, or is for one logical drive, whose number ends the identifier's first word.
 function arrayName(array) {
   const letter = textOf(array, "Array");
   if (letter !== "") return "Array " + letter;

@@ -1,4 +1,4 @@
-// The page: its sections in their order. A section that cannot be drawn says so in its place, and the others stand.
+// The page: its sections in their order. A section that cannot be drawn says so in its place and affects no other.
 
 const report = { model: null, data: null, tables: [] };
 

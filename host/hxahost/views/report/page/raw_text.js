@@ -70,7 +70,7 @@ function markedPart(text, begin, end, matches) {
   return content;
 }
 
-// The text with its unread lines and the first of its matches marked. The matches stand in order, as the parts do.
+// The text with its unread lines and the first of its matches marked. The matches are in order, as the parts do.
 function markedText(raw, matches) {
   const content = document.createDocumentFragment();
   let next = 0;

@@ -58,7 +58,7 @@ function counted(count, one, many) {
   return `${count.toLocaleString("en-US")} ${count === 1 ? one : many}`;
 }
 
-// Numbers within texts count as numbers: "ID 9" stands before "ID 10".
+// Numbers within texts count as numbers: "ID 9" comes before "ID 10".
 const kCollator = new Intl.Collator("en", { numeric: true, sensitivity: "base" });
 
 function compareTexts(one, other) {

@@ -19,7 +19,7 @@ function managerEvent(object) {
     text: textOf(object, "Message"), machine: textOf(object, "MachineName") };
 }
 
-// The parts of a time that a calendar has; null for a time that the log did not say or that no day bears.
+// The parts of a time that a calendar has; null for a time that the log did not say or that is in no calendar.
 function eventMoment(event) {
   const parts = timeParts(String(event.object.properties.MessageTimestamp ?? ""));
   const milliseconds = parts ? Date.parse(`${parts.date}T${parts.clock}Z`) : NaN;
