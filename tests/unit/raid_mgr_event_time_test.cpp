@@ -10,37 +10,17 @@
 namespace {
 
 TEST(RaidMgrMonths, AreToldByTheLettersThatDiffer) {
-  struct Case {
-    std::string_view word;
-    unsigned month;
-  };
-  constexpr Case kCases[] = {
-      {"January",   1 },
-      {"February",  2 },
-      {"March",     3 },
-      {"April",     4 },
-      {"May",       5 },
-      {"June",      6 },
-      {"July",      7 },
-      {"August",    8 },
-      {"September", 9 },
-      {"October",   10},
-      {"November",  11},
-      {"December",  12},
-      {"Feb",       2 },
-      {"Mar",       3 },
-      {"Apr",       4 },
-      {"Aug",       8 },
-      {"Sep",       9 },
-      {"Oct",       10},
-      {"Nov",       11},
-      {"Dec",       12},
-      {"F",         2 },
-      {"D",         12},
-      {"Ap",        4 },
-      {"Janu",      1 },
-  };
-  for (const Case& one : kCases) EXPECT_EQ(MonthNumber(one.word), one.month) << one.word;
+  unsigned month = 0;
+  for (const std::string_view name : {"January", "February", "March", "April", "May", "June", "July", "August",
+                                      "September", "October", "November", "December"}) {
+    EXPECT_EQ(MonthNumber(name), ++month) << name;
+    EXPECT_EQ(MonthNumber(name.substr(0, 4)), month) << name;
+  }
+  month = 0;
+  for (const std::string_view name : {"", "F", "Mar", "Ap", "", "", "", "Aug", "Sep", "Oct", "Nov", "D"}) {
+    ++month;
+    EXPECT_EQ(MonthNumber(name), name.empty() ? 0 : month) << name;
+  }
 }
 
 TEST(RaidMgrMonths, CutShortOrInOtherCaseGiveNoMonth) {
@@ -53,7 +33,6 @@ TEST(RaidMgrMonths, CutShortOrInOtherCaseGiveNoMonth) {
 auto TimeOf(std::string_view line) { return ReadEventTime(line, SplitFields(line).front()); }
 
 struct Case {
-  const char* name;
   std::string_view line;
   const char* time;
 };
@@ -61,70 +40,69 @@ struct Case {
 void ExpectTimes(std::span<const Case> cases) {
   for (const Case& one : cases) {
     const auto time = TimeOf(one.line);
-    ASSERT_TRUE(time.has_value()) << one.name;
-    EXPECT_EQ(time->ToString(), one.time) << one.name << ": " << one.line;
+    ASSERT_TRUE(time.has_value()) << one.line;
+    EXPECT_EQ(time->ToString(), one.time) << one.line;
   }
 }
 
 TEST(RaidMgrEventTime, MonthFirst) {
   constexpr Case kCases[] = {
-      {"Mar 5, 2007 11:02:03 PM EST is 23:02:03 at -5 hours", "Mar 5, 2007 11:02:03 PM EST\tINF\t",
-       "20070305230203.000000-300"                                                                                             },
-      {"noon",                                                "March 5, 2007 12:00:00 PM CET",      "20070305120000.000000+060"},
-      {"midnight",                                            "March 5, 2007 12:00:00 AM CET",      "20070305000000.000000+060"},
-      {"morning",                                             "December 31, 1999 9:08:07 AM HAW",   "19991231090807.000000-600"},
-      {"an hour past 12 with PM stays",                       "May 1, 2008 13:00:00 PM EET",        "20080501130000.000000+120"},
-      {"small letters",                                       "mar 5, 2007 11:02:03 PM EST",        "20070005230203.000000-300"},
-      {"June by its fourth letter",                           "June 1, 2008 01:00:00 AM PST",       "20080601010000.000000-480"},
-      {"Jun has none",                                        "Jun 1, 2008 01:00:00 AM PST",        "20080001010000.000000-480"},
-      {"CDT is -5",                                           "May 1, 2008 01:00:00 AM CDT",        "20080501010000.000000-300"},
-      {"without AM or PM the zone loses its first letter",    "Mar 5, 2007 11:02:03 EST",           "20070305110203.000000+000"},
-      {"without AM or PM two blanks give the zone",           "Mar 5, 2007 11:02:03  EST",          "20070305110203.000000-300"},
-      {"a zone that begins with P counts as PM",              "Mar 5, 2007 11:02:03 PST",           "20070305230203.000000+000"},
-      {"a zone that begins with A counts as AM",              "Mar 5, 2007 12:02:03 AST",           "20070305000203.000000+000"},
+      {"Mar 5, 2007 11:02:03 PM EST\tINF\t", "20070305230203.000000-300"},
+      {"March 5, 2007 12:00:00 PM CET",      "20070305120000.000000+060"},
+      {"March 5, 2007 12:00:00 AM CET",      "20070305000000.000000+060"},
+      {"December 31, 1999 9:08:07 AM HAW",   "19991231090807.000000-600"},
+      {"May 1, 2008 13:00:00 PM EET",        "20080501130000.000000+120"},
+      {"mar 5, 2007 11:02:03 PM EST",        "20070005230203.000000-300"},
+      {"June 1, 2008 01:00:00 AM PST",       "20080601010000.000000-480"},
+      {"Jun 1, 2008 01:00:00 AM PST",        "20080001010000.000000-480"},
+      {"May 1, 2008 01:00:00 AM CDT",        "20080501010000.000000-300"},
+      {"Mar 5, 2007 11:02:03 EST",           "20070305110203.000000+000"},
+      {"Mar 5, 2007 11:02:03  EST",          "20070305110203.000000-300"},
+      {"Mar 5, 2007 11:02:03 PST",           "20070305230203.000000+000"},
+      {"Mar 5, 2007 12:02:03 AST",           "20070305000203.000000+000"},
   };
   ExpectTimes(kCases);
 }
 
 TEST(RaidMgrEventTime, DayFirst) {
   constexpr Case kCases[] = {
-      {"all parts",                                 "5 March 2007 23:02:03 EST\tINF",   "20070305230203.000000-300"},
-      {"two digits",                                "05 Apr 2007 03:02:01 NZST",        "20070405030201.000000+720"},
-      {"an ordinal",                                "5th March 2007 23:02:03 EST",      "20070305230203.000000-300"},
-      {"PM is not read as such and hides the zone", "5 March 2007 11:02:03 PM EST",     "20070305110203.000000+000"},
-      {"slashes elsewhere",                         "5/3/2007 March 2007 11:02:03 EST", "20070305110203.000000-300"},
+      {"5 March 2007 23:02:03 EST\tINF",   "20070305230203.000000-300"},
+      {"05 Apr 2007 03:02:01 NZST",        "20070405030201.000000+720"},
+      {"5th March 2007 23:02:03 EST",      "20070305230203.000000-300"},
+      {"5 March 2007 11:02:03 PM EST",     "20070305110203.000000+000"},
+      {"5/3/2007 March 2007 11:02:03 EST", "20070305110203.000000-300"},
   };
   ExpectTimes(kCases);
 }
 
 TEST(RaidMgrEventTime, YearFirst) {
   constexpr Case kCases[] = {
-      {"2007/03/05 11:02:03 PST is at -8 hours",    "2007/03/05 11:02:03 PST\tINF", "20070305110203.000000-480"},
-      {"one digit",                                 "2007/3/5 1:2:3 AEDT",          "20070305010203.000000+660"},
-      {"AM after a digit form is not read as such", "2007/03/05 12:02:03 AM",       "20070305120203.000000+000"},
-      {"PM after a digit form is not read as such", "2007/03/05 11:02:03 PM PST",   "20070305110203.000000+000"},
+      {"2007/03/05 11:02:03 PST\tINF", "20070305110203.000000-480"},
+      {"2007/3/5 1:2:3 AEDT",          "20070305010203.000000+660"},
+      {"2007/03/05 12:02:03 AM",       "20070305120203.000000+000"},
+      {"2007/03/05 11:02:03 PM PST",   "20070305110203.000000+000"},
   };
   ExpectTimes(kCases);
 }
 
 TEST(RaidMgrEventTime, WhatIsMissingCountsAsZero) {
   constexpr Case kCases[] = {
-      {"digits only",                               "20070305",                     "00000020070305000000.000000+000"  },
-      {"digits past a number",                      "99999999999999999999",         "0000002147483647000000.000000+000"},
-      {"one digit",                                 "5\n",                          "00000005000000.000000+000"        },
-      {"one letter",                                "M",                            "00000000000000.000000+000"        },
-      {"a month alone",                             "March",                        "00000300000000.000000+000"        },
-      {"no comma",                                  "Mar 5 2007 11:02:03 PM EST",   "00000305000000.000000+000"        },
-      {"nothing behind the comma",                  "Mar 5,",                       "00000305000000.000000+000"        },
-      {"no time",                                   "2007/03/05",                   "20070305000000.000000+000"        },
-      {"no colon",                                  "2007/03/05 11",                "20070305110000.000000+000"        },
-      {"no second colon",                           "2007/03/05 11:02",             "20070305110200.000000+000"        },
-      {"no zone",                                   "2007/03/05 11:02:03",          "20070305110203.000000+000"        },
-      {"no second slash",                           "2007/03",                      "20070300000000.000000+000"        },
-      {"only a year and a slash",                   "2007/",                        "20070000000000.000000+000"        },
-      {"a tab in the middle of the time ends it",   "2007/03/05 11:\t02:03 PST",    "20070305110000.000000+000"        },
-      {"the zone ends at the tab",                  "2007/03/05 11:02:03 PST\tPST", "20070305110203.000000-480"        },
-      {"no tab: the line feed belongs to the zone", "2007/03/05 11:02:03 PST\n",    "20070305110203.000000+000"        },
+      {"20070305",                     "00000020070305000000.000000+000"  },
+      {"99999999999999999999",         "0000002147483647000000.000000+000"},
+      {"5\n",                          "00000005000000.000000+000"        },
+      {"M",                            "00000000000000.000000+000"        },
+      {"March",                        "00000300000000.000000+000"        },
+      {"Mar 5 2007 11:02:03 PM EST",   "00000305000000.000000+000"        },
+      {"Mar 5,",                       "00000305000000.000000+000"        },
+      {"2007/03/05",                   "20070305000000.000000+000"        },
+      {"2007/03/05 11",                "20070305110000.000000+000"        },
+      {"2007/03/05 11:02",             "20070305110200.000000+000"        },
+      {"2007/03/05 11:02:03",          "20070305110203.000000+000"        },
+      {"2007/03",                      "20070300000000.000000+000"        },
+      {"2007/",                        "20070000000000.000000+000"        },
+      {"2007/03/05 11:\t02:03 PST",    "20070305110000.000000+000"        },
+      {"2007/03/05 11:02:03 PST\tPST", "20070305110203.000000-480"        },
+      {"2007/03/05 11:02:03 PST\n",    "20070305110203.000000+000"        },
   };
   ExpectTimes(kCases);
 }

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <vector>
 
@@ -104,38 +103,6 @@ TEST_F(DeviceEventParser, TakesLongColumnsWhole) {
   const std::vector<std::string> expected = {fifteen, sixteen, hundred, "4", "5", "6", "7"};
   EXPECT_EQ(Columns(line), expected);
   EXPECT_EQ(Columns(line + "| what stands behind |\r\n"), expected);
-}
-
-// What stands between the bars, as the simplest code has it.
-std::vector<std::string> SearchedColumns(const std::string& line) {
-  constexpr std::string_view kBlanks = " \t\n";
-  std::vector<std::string> columns;
-  std::size_t bar = line.find('|');
-  for (const bool isTrimmed : {true, true, false, true, false, true, false}) {
-    const std::size_t next = bar == line.npos ? bar : line.find('|', bar + 1);
-    const bool isEmpty = next == line.npos || next == bar + 1;
-    std::string column = isEmpty ? "" : line.substr(bar + 1, next - bar - 2);
-    while (column.size() > 1 && kBlanks.find(column.front()) != kBlanks.npos) column.erase(0, 1);
-    while (isTrimmed && !column.empty() && kBlanks.find(column.back()) != kBlanks.npos) column.pop_back();
-    columns.push_back(column);
-    bar = next;
-  }
-  return columns;
-}
-
-// A row reads the same whether it is the last line or others stand behind it.
-TEST_F(DeviceEventParser, ReadsInEveryRowWhatStandsBetweenItsBars) {
-  const std::vector<std::string> pieces = {"        ", "   ", " ",    "|",  " | ",  "| ",
-                                           "|",        "0",   "1512", "\t", "\xff", std::string(1, '\0')};
-  std::mt19937 random(7);
-  for (int round = 0; round < 20'000; ++round) {
-    std::string line;
-    for (std::size_t left = random() % 50; left > 0; --left) line += pieces[random() % pieces.size()];
-    line += random() % 2 == 0 ? "\n" : "\r\n";
-    const std::vector<std::string> expected = SearchedColumns(line);
-    ASSERT_EQ(Columns(line), expected) << line;
-    ASSERT_EQ(Columns(line + "| 1 | 2 | 3 |\r\n"), expected) << line;
-  }
 }
 
 class SubStatParser : public testing::Test {
@@ -248,45 +215,6 @@ TEST_F(SubStatParser, TakesLongValuesWhole) {
 TEST_F(SubStatParser, TakesZeroBytesIntoAValue) {
   EXPECT_EQ(Line(std::string("A:\0 C:2\0x I:5\n", 14)).ControllerNum, std::string(1, '\0'));
   EXPECT_EQ(Line(std::string("A:\0 C:2\0x I:5\n", 14)).Channel, std::string("2\0x", 3));
-}
-
-// What the tokens give when each is searched from the character behind the start of the one before it.
-std::vector<std::string> SearchedValues(const std::string& line) {
-  std::vector<std::string> values;
-  std::size_t from = 0;
-  for (const std::string token : {"A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:"}) {
-    const std::size_t found = line.find(token, from);
-    values.emplace_back();
-    if (found == line.npos) continue;
-    const std::size_t begin = found + token.size();
-    values.back() = line.substr(begin, line.find_first_of(" \r\n", begin) - begin);
-    from = found + 1;
-  }
-  const std::string last = "CUR-TXER-P:";
-  const std::size_t found = line.find(last, from);
-  values.emplace_back();
-  if (found == line.npos) return values;
-  const std::size_t begin = found + last.size();
-  const std::size_t lineFeed = line.find('\n', begin);
-  if (lineFeed > begin) values.back() = line.substr(begin, lineFeed - 1 - begin);
-  return values;
-}
-
-// Lines put together of whole tokens, parts of them, values and blanks in any order. A line reads the same whether it
-// is the last one or others stand behind it.
-TEST_F(SubStatParser, FindsInEveryLineWhatASearchForEachTokenFinds) {
-  const std::vector<std::string> pieces = {
-      "A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:", "CUR-TXER-P:", "1",        "12", " ",
-      " ",  " ",  ":",  "P:",      "A",        "\t",          "R",           "MAX-TXER", "\r"};
-  std::mt19937 random(9);
-  for (int round = 0; round < 20'000; ++round) {
-    std::string line;
-    for (std::size_t left = random() % 24; left > 0; --left) line += pieces[random() % pieces.size()];
-    line += "\n";
-    const std::vector<std::string> expected = SearchedValues(line);
-    ASSERT_EQ(Values(line), expected) << line;
-    ASSERT_EQ(Values(line + "A:9 C:9 CUR-TXER-P:9\r\n"), expected) << line;
-  }
 }
 
 }  // namespace

@@ -21,55 +21,42 @@ const std::vector<std::string> kProbe = {"getconfig", "1", "al"};
 const std::vector<std::string> kLog = {"getlogs", "1", "event"};
 const std::string kWhole = "Controller information\nCommand completed successfully.\n";
 
-TEST(ToolAnswer, TellsWhatAnAnswerAmountsTo) {
-  struct Case {
-    const char* name;
-    const char* tool;
-    std::vector<std::string> arguments;
-    std::string output;
-    Outcome outcome;
-    const char* reason;
-  };
-  const Case cases[] = {
-      {"a controller",                "arcconf",   kProbe, kWhole,                                                   Outcome::kOk,      ""                          },
-      {"a log",                       "arcconf",   kLog,   "x\nCommand completed successfully.\n",                   Outcome::kOk,      ""                          },
-      {"no arcconf controller",       "arcconf",   kProbe, "Controllers found: 0\n",                                 Outcome::kRefused, "Controllers found: 0"      },
-      {"no such arcconf controller",  "arcconf",   kProbe, "Controllers found: 2\nInvalid controller number.\n",
-       Outcome::kRefused,                                                                                                               "Invalid controller number."},
-      {"no hrconf controller",        "hrconf_64", kProbe, "Controllers found: 0\n",                                 Outcome::kRefused,
-       "Controllers found: 0"                                                                                                                                       },
-      {"no such hrconf controller",   "hrconf_64", kProbe, "Invalid controller number.\n",                           Outcome::kRefused,
-       "Invalid controller number."                                                                                                                                 },
-      {"no qcmdrun controller",       "qcmdrun",   kProbe, "Found 0 KVR Zentraxis controller(s)\n",                  Outcome::kRefused,
-       "Found 0 KVR Zentraxis controller(s)"                                                                                                                        },
-      {"no such qcmdrun controller",  "qcmdrun",   kProbe, "Not in use.\n  Command aborted.\n",                      Outcome::kRefused,
-       "Command aborted."                                                                                                                                           },
-      {"another tool's refusal",      "qcmdrun",   kProbe, "Controllers found: 0\n" + kWhole,                        Outcome::kOk,      ""                          },
-      {"refusal in a complete probe", "arcconf",   kProbe, "Controllers found: 0\n" + kWhole,                        Outcome::kRefused,
-       "Controllers found: 0"                                                                                                                                       },
-      {"refusal quoted by a log",     "qcmdrun",   kLog,   "| Command aborted |\nCommand completed successfully.\n",
-       Outcome::kOk,                                                                                                                    ""                          },
-      {"refusal instead of a log",    "qcmdrun",   kLog,   "Command aborted.\n",                                     Outcome::kRefused, "Command aborted."          },
-      {"a driver that is too old",    "arcconf",   kProbe, "Controllers found: 1\nDriver Update Required\n",
-       Outcome::kFailed,                                                                                                                "Driver Update Required"    },
-      {"something else altogether",   "arcconf",   kProbe, "Command completed successfully.\n",                      Outcome::kFailed,
-       "its answer has no \"Controller information\""                                                                                                               },
-      {"nothing",                     "arcconf",   kProbe, "",                                                       Outcome::kEmpty,   "it wrote nothing"          },
-      {"blank lines alone",           "arcconf",   kLog,   " \n\t\n",                                                Outcome::kEmpty,   "it wrote nothing"          },
-      {"cut in a line",               "arcconf",   kProbe, "Controller information\n   Mod",                         Outcome::kCutOff,
-       "its last line is \"Mod\""                                                                                                                                   },
-      {"cut in the closing line",     "arcconf",   kLog,   "x\nCommand completed succ",                              Outcome::kCutOff,
-       "its last line is \"Command completed succ\""                                                                                                                },
-      {"a program nobody knows",      "other",     kProbe, "whatever",                                               Outcome::kOk,      ""                          },
-      {"no arguments",                "arcconf",   {},     "x\n",                                                    Outcome::kCutOff,  "its last line is \"x\""    },
-  };
-  for (const Case& each : cases) {
-    for (const std::string& output : {each.output, CrLf(each.output)}) {
-      const ReadAnswer answer = ReadToolAnswer(each.tool, each.arguments, output);
-      EXPECT_EQ(OutcomeWord(answer.outcome), OutcomeWord(each.outcome)) << each.name;
-      EXPECT_EQ(answer.reason, each.reason) << each.name;
-    }
+// The same with carriage returns and without.
+void ExpectAnswer(std::string_view tool, const std::vector<std::string>& arguments, const std::string& output,
+                  Outcome outcome, std::string_view reason) {
+  for (const std::string& text : {output, CrLf(output)}) {
+    const ReadAnswer answer = ReadToolAnswer(tool, arguments, text);
+    EXPECT_EQ(OutcomeWord(answer.outcome), OutcomeWord(outcome)) << tool << ": " << output;
+    EXPECT_EQ(answer.reason, reason) << tool << ": " << output;
   }
+}
+
+TEST(ToolAnswer, TellsWhatAnAnswerAmountsTo) {
+  ExpectAnswer("arcconf", kProbe, kWhole, Outcome::kOk, "");
+  ExpectAnswer("arcconf", kLog, "x\nCommand completed successfully.\n", Outcome::kOk, "");
+  ExpectAnswer("arcconf", kProbe, "Controllers found: 0\n", Outcome::kRefused, "Controllers found: 0");
+  ExpectAnswer("arcconf", kProbe, "Controllers found: 2\nInvalid controller number.\n", Outcome::kRefused,
+               "Invalid controller number.");
+  ExpectAnswer("hrconf_64", kProbe, "Controllers found: 0\n", Outcome::kRefused, "Controllers found: 0");
+  ExpectAnswer("hrconf_64", kProbe, "Invalid controller number.\n", Outcome::kRefused, "Invalid controller number.");
+  ExpectAnswer("qcmdrun", kProbe, "Found 0 KVR Zentraxis controller(s)\n", Outcome::kRefused,
+               "Found 0 KVR Zentraxis controller(s)");
+  ExpectAnswer("qcmdrun", kProbe, "Not in use.\n  Command aborted.\n", Outcome::kRefused, "Command aborted.");
+  ExpectAnswer("qcmdrun", kProbe, "Controllers found: 0\n" + kWhole, Outcome::kOk, "");
+  ExpectAnswer("arcconf", kProbe, "Controllers found: 0\n" + kWhole, Outcome::kRefused, "Controllers found: 0");
+  ExpectAnswer("qcmdrun", kLog, "| Command aborted |\nCommand completed successfully.\n", Outcome::kOk, "");
+  ExpectAnswer("qcmdrun", kLog, "Command aborted.\n", Outcome::kRefused, "Command aborted.");
+  ExpectAnswer("arcconf", kProbe, "Controllers found: 1\nDriver Update Required\n", Outcome::kFailed,
+               "Driver Update Required");
+  ExpectAnswer("arcconf", kProbe, "Command completed successfully.\n", Outcome::kFailed,
+               "its answer has no \"Controller information\"");
+  ExpectAnswer("arcconf", kProbe, "", Outcome::kEmpty, "it wrote nothing");
+  ExpectAnswer("arcconf", kLog, " \n\t\n", Outcome::kEmpty, "it wrote nothing");
+  ExpectAnswer("arcconf", kProbe, "Controller information\n   Mod", Outcome::kCutOff, "its last line is \"Mod\"");
+  ExpectAnswer("arcconf", kLog, "x\nCommand completed succ", Outcome::kCutOff,
+               "its last line is \"Command completed succ\"");
+  ExpectAnswer("other", kProbe, "whatever", Outcome::kOk, "");
+  ExpectAnswer("arcconf", {}, "x\n", Outcome::kCutOff, "its last line is \"x\"");
 }
 
 TEST(ToolAnswer, NamesEachOutcomeInTheWordsThatProgramsRelyOn) {
