@@ -12,9 +12,10 @@
 #include "fuzz/support/sections.h"
 #include "fuzz/support/text_checks.h"
 #include "host/hxahost/bundle/bundle.h"
-#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_mask.h"
-#include "host/hxahost/bundle/bundle_text.h"
+#include "host/hxahost/bundle/read_bundle.h"
+#include "host/hxahost/bundle/write_bundle.h"
 
 using namespace hxahost;
 

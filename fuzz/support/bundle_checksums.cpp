@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "fuzz/support/sections.h"
+#include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_format.h"
-#include "host/hxahost/bundle/bundle_text.h"
 
 using namespace hxahost;
 

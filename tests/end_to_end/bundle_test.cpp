@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "host/hxahost/bundle/bundle_file.h"
-#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 #include "tests/support/same_lines.h"

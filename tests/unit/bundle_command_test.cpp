@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "host/hxahost/bundle/bundle_file.h"
-#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/system/exit_status.h"
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"

@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/sample_bundle.h"
 
 namespace {

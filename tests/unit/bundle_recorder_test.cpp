@@ -4,8 +4,8 @@
 
 #include <new>
 
-#include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/bundle/bundle_replay.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/raid_log_setting.h"
 #include "tests/support/sample_bundle.h"
 #include "tests/support/temporary_folder.h"

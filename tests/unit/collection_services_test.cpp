@@ -13,59 +13,54 @@ namespace {
 using namespace hxahost;
 using namespace NKVRHXA20;
 
-TEST(CollectionServices, GiveWhatTheOptionsReplace) {
+class CollectionServicesTest : public testing::Test {
+ protected:
+  CollectionServices Make(const CollectionOptions& options = {}, Progress* progress = nullptr) {
+    return {RealServices(), options, log_, runs_, progress, nullptr};
+  }
+
+  QueryLog log_{{}};
+  ToolRunList runs_;
+};
+
+TEST_F(CollectionServicesTest, GiveWhatTheOptionsReplace) {
   CollectionOptions options;
   options.machineName = "OTHER";
   options.localTime = TCIMDateTime("20260305123015.250000+060");
-  QueryLog log({});
-  ToolRunList runs;
-  const CollectionServices services(RealServices(), options, log, runs, nullptr, nullptr);
+  const CollectionServices services = Make(options);
   EXPECT_EQ(TOSSpecific::GetMachineName(), "OTHER");
   EXPECT_EQ(TOSSpecific::GetLocalTime().ToString(), "20260305123015.250000+060");
 }
 
-TEST(CollectionServices, KeepTheLogWhileTheyLive) {
-  QueryLog log({});
+TEST_F(CollectionServicesTest, KeepTheLogWhileTheyLive) {
   {
-    ToolRunList runs;
-    const CollectionServices services(RealServices(), {}, log, runs, nullptr, nullptr);
+    const CollectionServices services = Make();
     TRootObject::GetCoreLogger()->Log(100, "text");
   }
   TRootObject::GetCoreLogger()->Log(3, "afterwards");
-  const auto entries = log.Take();
+  const auto entries = log_.Take();
   ASSERT_EQ(entries.size(), 1U);
   EXPECT_EQ(entries[0].level, 100);
   EXPECT_EQ(entries[0].text, "text");
 }
 
-TEST(CollectionServices, LeaveNameAndClockOfTheSystemWhereNothingReplacesThem) {
-  QueryLog log({});
-  ToolRunList runs;
-  const CollectionServices services(RealServices(), {}, log, runs, nullptr, nullptr);
+TEST_F(CollectionServicesTest, LeaveNameAndClockOfTheSystemWhereNothingReplacesThem) {
+  const CollectionServices services = Make();
   EXPECT_EQ(TOSSpecific::GetMachineName(), RealServices().machineName());
   EXPECT_EQ(TOSSpecific::GetLocalTime().ToString().substr(0, 8), RealServices().localTime().ToString().substr(0, 8));
 }
 
-TEST(CollectionServices, ShowTheCommandThatRunsAlsoWhenItFails) {
+TEST_F(CollectionServicesTest, KeepARunThatFailsAndShowItsCommandMeanwhile) {
   std::ostringstream terminal;
-  QueryLog log({});
   {
     Progress progress(terminal);
-    ToolRunList runs;
-    const CollectionServices services(RealServices(), {}, log, runs, &progress, nullptr);
+    const CollectionServices services = Make({}, &progress);
     EXPECT_THROW(TOSSpecific::SpawnProcess("no//such.exe", {"getconfig", "1", "al"}, 300), THXAException);
   }
   EXPECT_THAT(terminal.str(), testing::StartsWith("\rno//such.exe getconfig 1 al\r"));
-}
-
-TEST(CollectionServices, KeepTheRunsOfTools) {
-  QueryLog log({});
-  ToolRunList runs;
-  const CollectionServices services(RealServices(), {}, log, runs, nullptr, nullptr);
-  EXPECT_THROW(CurrentServices().spawn("no//such.exe", {"getconfig", "1"}, 300), THXAException);
-  ASSERT_EQ(runs.size(), 1U);
-  EXPECT_EQ(runs[0].path, "no//such.exe");
-  EXPECT_EQ(OutcomeWord(runs[0].outcome), "not started");
+  ASSERT_EQ(runs_.size(), 1U);
+  EXPECT_EQ(runs_[0].path, "no//such.exe");
+  EXPECT_EQ(OutcomeWord(runs_[0].outcome), "not started");
 }
 
 }  // namespace

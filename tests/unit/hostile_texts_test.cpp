@@ -18,7 +18,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/read_bundle.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/collection/query_log.h"
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/program/bundle_command.h"

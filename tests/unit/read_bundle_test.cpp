@@ -3,8 +3,9 @@
 
 #include <string>
 
-#include "host/hxahost/bundle/bundle_format.h"
-#include "host/hxahost/bundle/bundle_text.h"
+#include "host/hxahost/bundle/bundle_encoding.h"
+#include "host/hxahost/bundle/read_bundle.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/sample_bundle.h"
 
 namespace {

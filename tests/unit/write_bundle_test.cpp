@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/file_text.h"
 #include "tests/support/sample_bundle.h"
 #include "tests/support/source_folder.h"

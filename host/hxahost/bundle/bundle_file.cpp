@@ -5,6 +5,7 @@
 
 #include "host/hxacore/whole_file.h"
 #include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/bundle/read_bundle.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"

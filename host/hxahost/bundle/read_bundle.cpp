@@ -1,3 +1,5 @@
+#include "host/hxahost/bundle/read_bundle.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -5,8 +7,8 @@
 
 #include <fmt/core.h>
 
+#include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_format.h"
-#include "host/hxahost/bundle/bundle_text.h"
 
 using namespace NKVRHXA20;
 

@@ -1,9 +1,11 @@
+#include "host/hxahost/bundle/write_bundle.h"
+
 #include <iterator>
 
 #include <fmt/core.h>
 
+#include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_format.h"
-#include "host/hxahost/bundle/bundle_text.h"
 
 namespace hxahost {
 

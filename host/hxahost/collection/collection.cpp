@@ -6,8 +6,8 @@
 
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/bundle/bundle_file.h"
-#include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/bundle/bundle_mask.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/collection/writable_tools.h"
 #include "host/hxahost/result/tool_answer.h"
 #include "host/hxahost/system/terminal.h"

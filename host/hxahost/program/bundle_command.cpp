@@ -4,10 +4,10 @@
 
 #include <fmt/core.h>
 
+#include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_file.h"
-#include "host/hxahost/bundle/bundle_format.h"
 #include "host/hxahost/bundle/bundle_mask.h"
-#include "host/hxahost/bundle/bundle_text.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/result/tool_run.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/output_file.h"

@@ -1,4 +1,4 @@
-#include "host/hxahost/bundle/bundle_text.h"
+#include "host/hxahost/bundle/bundle_encoding.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 
 using namespace hxahost;
 
-TEST(BundleText, BringsEveryByteBackAlsoBesideEveryOther) {
+TEST(BundleEncoding, BringsEveryByteBackAlsoBesideEveryOther) {
   for (int first = 0; first < 256; ++first) {
     for (int second = 0; second < 256; ++second) {
       const std::string bytes = {static_cast<char>(first), static_cast<char>(second)};
@@ -22,7 +22,7 @@ TEST(BundleText, BringsEveryByteBackAlsoBesideEveryOther) {
   }
 }
 
-TEST(BundleText, IsReadable) {
+TEST(BundleEncoding, IsReadable) {
   EXPECT_EQ(EscapeBytes("a \"b\"\r"), "a \"b\"\\r");
   EXPECT_EQ(EscapeBytes("\t\\n\x01\x7f"), "\\t\\\\n\\x01\\x7f");
   EXPECT_EQ(EscapeBytes("K\xc3\xa4se \xe4"), "K\xc3\xa4se \\xe4");
@@ -30,7 +30,7 @@ TEST(BundleText, IsReadable) {
   EXPECT_EQ(Quote("a\"b"), "\"a\\\"b\"");
 }
 
-TEST(BundleText, RefusesWhatItDoesNotWrite) {
+TEST(BundleEncoding, RefusesWhatItDoesNotWrite) {
   for (const char* const text : {"\\", "\\x", "\\x1", "\\xg1", "\\u0041", "\r", "\xff", "\x1b", "a\\"}) {
     EXPECT_EQ(UnescapeBytes(text), std::nullopt) << text;
   }
@@ -38,7 +38,7 @@ TEST(BundleText, RefusesWhatItDoesNotWrite) {
 }
 
 // Another way to write the same bytes would be a bundle that is not written again as it was.
-TEST(BundleText, RefusesBytesThatAreWrittenInAnotherWay) {
+TEST(BundleEncoding, RefusesBytesThatAreWrittenInAnotherWay) {
   for (const char* const text : {"\\x41", "\\x0d", "\\x0D", "\\x1B", "\\\"", "\\x22", "K\\xc3\\xa4se", "a\\x5c"}) {
     EXPECT_EQ(UnescapeBytes(text), std::nullopt) << text;
   }
@@ -47,7 +47,7 @@ TEST(BundleText, RefusesBytesThatAreWrittenInAnotherWay) {
   }
 }
 
-TEST(BundleText, WritesNumbersThatAreReadBackAsTheSame) {
+TEST(BundleEncoding, WritesNumbersThatAreReadBackAsTheSame) {
   EXPECT_EQ(DecimalText(0.125), "0.125");
   EXPECT_EQ(std::stod(DecimalText(0.1 + 0.2)), 0.1 + 0.2);
   EXPECT_EQ(HexText(0xab), "000000ab");

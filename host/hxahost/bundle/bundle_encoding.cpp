@@ -1,4 +1,4 @@
-#include "host/hxahost/bundle/bundle_text.h"
+#include "host/hxahost/bundle/bundle_encoding.h"
 
 #include <algorithm>
 #include <array>
