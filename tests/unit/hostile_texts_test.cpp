@@ -323,21 +323,16 @@ void Walk(const Tree& tree, std::string& shape, std::vector<std::string>& texts)
 
 // What XML has no place for stands there as something else.
 std::string XmlText(const std::string& bytes) {
-  const std::string utf8 = AsUtf8(bytes);
   std::string text;
-  for (std::string_view rest = utf8; !rest.empty();) {
-    const Character character = NextCharacter(rest);
-    const bool isControl =
-        character.code < 0x20 && character.code != '\t' && character.code != '\n' && character.code != '\r';
-    if (isControl) {
-      text += "\xe2\x90" + std::string(1, static_cast<char>(0x80 + character.code));
-    } else if (character.code == 0xfffe || character.code == 0xffff) {
+  ForEachCharacter(AsUtf8(bytes), [&text](char32_t code, std::string_view character) {
+    if (code < 0x20 && code != '\t' && code != '\n' && code != '\r') {
+      text += "\xe2\x90" + std::string(1, static_cast<char>(0x80 + code));
+    } else if (code == 0xfffe || code == 0xffff) {
       text += "\xef\xbf\xbd";
     } else {
-      text += rest.substr(0, character.length);
+      text += character;
     }
-    rest.remove_prefix(character.length);
-  }
+  });
   return text;
 }
 

@@ -44,11 +44,7 @@ std::size_t Columns(char32_t code) {
 
 std::size_t DisplayWidth(std::string_view utf8) {
   std::size_t width = 0;
-  while (!utf8.empty()) {
-    const Character character = NextCharacter(utf8);
-    width += Columns(character.code);
-    utf8.remove_prefix(character.length);
-  }
+  ForEachCharacter(utf8, [&width](char32_t code, std::string_view) { width += Columns(code); });
   return width;
 }
 

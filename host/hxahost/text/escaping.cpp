@@ -41,18 +41,10 @@ std::string Escaped(char32_t code) {
 bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe); }
 
 std::string EscapeControls(std::string_view bytes) {
-  const std::string utf8 = AsUtf8(bytes);
   std::string printable;
-  std::string_view rest = utf8;
-  while (!rest.empty()) {
-    const Character character = NextCharacter(rest);
-    if (IsUnsafe(character.code)) {
-      printable += Escaped(character.code);
-    } else {
-      printable += rest.substr(0, character.length);
-    }
-    rest.remove_prefix(character.length);
-  }
+  ForEachCharacter(AsUtf8(bytes), [&printable](char32_t code, std::string_view character) {
+    IsUnsafe(code) ? printable += Escaped(code) : printable += character;
+  });
   return printable;
 }
 

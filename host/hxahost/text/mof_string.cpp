@@ -50,19 +50,16 @@ std::string EscapedForMof(char32_t code, std::string_view character) {
 }  // namespace
 
 std::string MofText(std::string_view bytes, std::string_view indent) {
-  const std::string utf8 = AsUtf8(bytes);
   std::string text = "\"";
   std::size_t begin = 0;  // of the string that is being written
-  for (std::string_view rest = utf8; !rest.empty();) {
+  ForEachCharacter(AsUtf8(bytes), [&](char32_t code, std::string_view character) {
     if (text.size() - begin > kLongestString) {
       text.append("\"\n").append(indent);
       begin = text.size();
       text += '"';
     }
-    const auto [code, length] = NextCharacter(rest);
-    text += EscapedForMof(code, rest.substr(0, length));
-    rest.remove_prefix(length);
-  }
+    text += EscapedForMof(code, character);
+  });
   return text += '"';
 }
 

@@ -21,6 +21,16 @@ struct Character {
 // that every loop over characters goes on.
 Character NextCharacter(std::string_view utf8);
 
+// Calls back with the code and the bytes of each character.
+template <class Call>
+void ForEachCharacter(std::string_view utf8, const Call& call) {
+  while (!utf8.empty()) {
+    const auto [code, length] = NextCharacter(utf8);
+    call(code, utf8.substr(0, length));
+    utf8.remove_prefix(length);
+  }
+}
+
 // Paths are UTF-8 everywhere in the program.
 std::filesystem::path PathFromUtf8(std::string_view text);
 std::string Utf8FromPath(const std::filesystem::path& path);

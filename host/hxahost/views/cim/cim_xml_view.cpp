@@ -1,10 +1,10 @@
 #include "host/hxahost/views/cim/cim_xml_view.h"
 
-#include <algorithm>
 #include <sstream>
 #include <string>
 #include <string_view>
 
+#include <fmt/core.h>
 #include <boost/property_tree/ptree.hpp>
 #include <boost/property_tree/xml_parser.hpp>
 
@@ -38,45 +38,30 @@ std::string ControlPicture(char32_t code) { return {'\xe2', '\x90', static_cast<
 
 bool IsLegal(char32_t code) { return code >= 0x20 || code == '\t' || code == '\n' || code == '\r'; }
 
-// Takes what is printable ASCII off the beginning: nearly all of what tools print, and right as it is.
-std::string_view TakePrintable(std::string_view& text) {
-  const auto isPlain = [](char character) { return character >= ' ' && character <= '~'; };
-  const auto length = std::ranges::find_if_not(text, isPlain) - text.begin();
-  const std::string_view plain = text.substr(0, static_cast<std::size_t>(length));
-  text.remove_prefix(plain.size());
-  return plain;
-}
-
 std::string LegalText(std::string_view bytes) {
-  const std::string utf8 = AsUtf8(bytes);
   std::string legal;
-  std::string_view rest = utf8;
-  for (legal += TakePrintable(rest); !rest.empty(); legal += TakePrintable(rest)) {
-    const auto [code, length] = NextCharacter(rest);
+  ForEachCharacter(AsUtf8(bytes), [&legal](char32_t code, std::string_view character) {
     if (!IsLegal(code)) {
       legal += ControlPicture(code);
     } else if (code == 0xfffe || code == 0xffff) {
       legal += "\xef\xbf\xbd";
     } else {
-      legal += rest.substr(0, length);
+      legal += character;
     }
-    rest.remove_prefix(length);
-  }
+  });
   return legal;
 }
 
 // Parsers make a line feed of a carriage return that they meet as it is. That and whatever must not reach a terminal is
 // written by its number, which the library does not do.
 void WriteByNumber(std::ostream& out, std::string_view xml) {
-  for (out << TakePrintable(xml); !xml.empty(); out << TakePrintable(xml)) {
-    const auto [code, length] = NextCharacter(xml);
+  ForEachCharacter(xml, [&out](char32_t code, std::string_view character) {
     if (IsUnsafe(code) && code != '\n' && code != '\t') {
-      out << "&#" << static_cast<unsigned>(code) << ';';
+      out << fmt::format("&#{};", static_cast<unsigned>(code));
     } else {
-      out << xml.substr(0, length);
+      out << character;
     }
-    xml.remove_prefix(length);
-  }
+  });
 }
 
 ECIMType TypeOf(const TCIMValue& value) {
