@@ -111,15 +111,6 @@ TEST(Health, RaisesNoFalseAlarm) {
   }
 }
 
-TEST(Health, WarnsOfARebuildWhereTheLogicalDriveIsNotGuarded) {
-  HealthyMachine machine;
-  machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", "Degraded");
-  machine.SetOf("C2 CH0 I01:Controller: Device #1", "State", "Rebuilding");
-  machine.SetOf("C1 CH1 I01:B", "State", "Rebuild (RBL)");
-  EXPECT_THAT(FindingsOf(machine), ElementsAre("critical: Zentraxis2LD1, LogicalDriveStatus \"Degraded\"",
-                                               "warning: C2 CH0 I01:Controller: Device #1, State \"Rebuilding\""));
-}
-
 TEST(Health, FindsAControllerThatItsDrivesNameButThatIsNotThere) {
   HealthyMachine machine;
   std::erase_if(machine.devices, [](const HealthyMachine::Device& device) {

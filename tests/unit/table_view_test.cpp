@@ -28,10 +28,8 @@ TEST(TableView, SaysWhatWhereAndWhenThenTheBlocksThenTheSectionsThenTheCounts) {
   repository.Publish("KVRSG_zxFirmwareVersion", "Name", "Zentraxis1 Firmware");
   repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "1", "ControllerStatus", "Okay");
   const QueryHeader header = Header({"KVRSG_zxFirmwareVersion", "KVRSG_zxSCSIProtocolController", "KVRSG_zxDiskDrive"});
-  EXPECT_EQ(Tables(header,
-                   {
-                       QueryResult{1, repository.Instances(), {}}
-  }),
+  const QueryResult result{1, repository.Instances(), {}};
+  EXPECT_EQ(Tables(header, {result}),
             R"(RAID controllers of MACHINE on 2026-03-05 12:30:15 +01:00, collected in C:\tools
 
 Controller 1 - Okay

@@ -1,11 +1,11 @@
 #include "host/hxahost/views/tables/controller_blocks.h"
-#include "host/hxahost/result/property_values.h"
 
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"

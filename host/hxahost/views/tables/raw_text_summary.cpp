@@ -1,11 +1,11 @@
 #include "host/hxahost/views/tables/raw_text_summary.h"
-#include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/views/tables/instance_table.h"

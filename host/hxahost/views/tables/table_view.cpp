@@ -1,5 +1,4 @@
 #include "host/hxahost/views/tables/table_view.h"
-#include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
 #include <map>
@@ -9,6 +8,7 @@
 
 #include <fmt/core.h>
 
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/display_width.h"
