@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,25 +25,24 @@ class FilledRepository {
   }
 
   // The same with names and values in turn.
-  template <class... More>
+  template <class... NamesAndValues>
   NKVRHXA20::TCIMReference Publish(const std::string& className, const std::string& name,
-                                   const NKVRHXA20::TCIMValue& value, const More&... more) {
-    Properties properties;
-    Append(properties, name, value, more...);
-    return Publish(className, properties);
+                                   const NamesAndValues&... namesAndValues) {
+    return Publish(className, InTurn(name, namesAndValues...));
+  }
+
+  template <class... More>
+  static Properties InTurn(const std::string& name, const NKVRHXA20::TCIMValue& value, const More&... more) {
+    Properties properties = {
+        {name, value}
+    };
+    if constexpr (sizeof...(more) > 0) std::ranges::move(InTurn(more...), std::back_inserter(properties));
+    return properties;
   }
 
   hxahost::InstanceList Instances() const { return repository_->Published(); }
 
  private:
-  static void Append(Properties&) {}
-  template <class... More>
-  static void Append(Properties& properties, const std::string& name, const NKVRHXA20::TCIMValue& value,
-                     const More&... more) {
-    properties.emplace_back(name, value);
-    Append(properties, more...);
-  }
-
   boost::shared_ptr<NKVRHXA20::TRepository> repository_;
 };
 

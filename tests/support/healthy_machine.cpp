@@ -14,86 +14,56 @@ constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
 constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
+// A device with these names and values in turn.
+template <class... NamesAndValues>
+HealthyMachine::Device Made(const std::string& className, const NamesAndValues&... namesAndValues) {
+  return {className, FilledRepository::InTurn(namesAndValues...)};
+}
+
 HealthyMachine::Device Disk(const std::string& id, const std::string& controller, const std::string& channel,
                             const std::string& number, const std::string& type, const std::string& state) {
-  return {
-      kDiskDrive,
-      {{"DeviceID", id},
-        {"ControllerNum", controller},
-        {"Channel", channel},
-        {"ScsiId", number},
-        {"DeviceType", type},
-        {"PFA", type.starts_with("Hard") ? "No" : ""},
-        {"State", state}}
-  };
+  const char* const predicted = type.starts_with("Hard") ? "No" : "";
+  return Made(kDiskDrive, "DeviceID", id, "ControllerNum", controller, "Channel", channel, "ScsiId", number,
+              "DeviceType", type, "PFA", predicted, "State", state);
 }
 
 std::vector<HealthyMachine::Device> LegacyController() {
   return {
-      {kController,
-       {{"DeviceID", "Zentraxis1"},
-        {"ControllerNum", "1"},
-        {"ControllerType", "Zentraxis C6-e"},
-        {"ControllerStatus", ""},
-        {"DefunctDiskDriveCnt", "0"},
-        {"LogicalDriveStatusCnt", "1/0/0"}}                                                                        },
-      {kLogicalDisk,
-       {{"DeviceID", "Zentraxis1LD1"},
-        {"AccessBlocked", "No"},
-        {"ControllerNum", "1"},
-        {"LogicalDriveNum", "1"},
-        {"LogicalDriveStatus", "Okay (OKY)"},
-        {"PartOfArray", "A"},
-        {"RaidLevel", "1"}}                                                                                        },
-      {kDiskGroup,
-       {{"CollectionID", "Zentraxis1ArrayA"}, {"Array", "A"}, {"ControllerNum", "1"}, {"StripeOrder", "1,0 1,1"}}  },
+      Made(kController, "DeviceID", "Zentraxis1", "ControllerNum", "1", "ControllerType", "Zentraxis C6-e",
+           "ControllerStatus", "", "DefunctDiskDriveCnt", "0", "LogicalDriveStatusCnt", "1/0/0"),
+      Made(kLogicalDisk, "DeviceID", "Zentraxis1LD1", "AccessBlocked", "No", "ControllerNum", "1", "LogicalDriveNum",
+           "1", "LogicalDriveStatus", "Okay (OKY)", "PartOfArray", "A", "RaidLevel", "1"),
+      Made(kDiskGroup, "CollectionID", "Zentraxis1ArrayA", "Array", "A", "ControllerNum", "1", "StripeOrder",
+           "1,0 1,1"),
       Disk("C1 CH1 I00:A", "1", "1", "0", "Hard disk", "Online (ONL)"),
       Disk("C1 CH1 I01:B", "1", "1", "1", "Hard disk", "Online (ONL)"),
       Disk("C1 CH1 I02:C", "1", "1", "2", "Hard disk", "Hot spare (HSP)"),
       Disk("C1 CH1 I05:D", "1", "1", "5", "Tape", "Standby (SBY)"),
-      {"KVRSG_BadStripeData",
-       {{"InstanceID", "Zentraxis:1LD1"}, {"ControllerNum", "1"}, {"LogicalDrive", "1"}, {"NumBadStripes", "0"}}   },
-      {"KVRSG_zxSCSIDeviceData",
-       {{"InstanceID", "Zentraxis:1C1S0"}, {"ControllerNum", "1"}, {"Channel", "1"}, {"PFA", "0"}, {"ScsiId", "0"}}},
+      Made("KVRSG_BadStripeData", "InstanceID", "Zentraxis:1LD1", "ControllerNum", "1", "LogicalDrive", "1",
+           "NumBadStripes", "0"),
+      Made("KVRSG_zxSCSIDeviceData", "InstanceID", "Zentraxis:1C1S0", "ControllerNum", "1", "Channel", "1", "PFA", "0",
+           "ScsiId", "0"),
   };
 }
 
 std::vector<HealthyMachine::Device> NewerController() {
   return {
-      {kController,
-       {{"DeviceID", "Zentraxis2"},
-        {"ControllerNum", "2"},
-        {"ControllerType", "Zentraxis C5"},
-        {"ControllerStatus", "Optimal"},
-        {"ChannelDescription", "SAS/SATA"},
-        {"DefunctDiskDriveCnt", "0"},
-        {"LogicalDriveStatusCnt", "1/0/0"},
-        {"ControllerTemp", "46 C/ 114 F (Normal)"},
-        {"ControllerBatteryStatus", "Optimal"},
-        {"ControllerBatteryOverTemp", "No"}}                                                                    },
-      {kLogicalDisk,
-       {{"DeviceID", "Zentraxis2LD1"},
-        {"AccessBlocked", ""},
-        {"ControllerNum", "2"},
-        {"LogicalDriveNum", "1"},
-        {"LogicalDriveStatus", "Optimal"},
-        {"PartOfArray", ""},
-        {"RaidLevel", "5"},
-        {"LogicalDriveName", "Data"},
-        {"DriveList", "0,0 0,1"},
-        {"DefunctSegments", "No"}}                                                                              },
-      {kDiskGroup,
-       {{"CollectionID", "ZentraxisCntrlr2LogicalDrv1 0,0 0,1"},
-        {"Array", ""},
-        {"ControllerNum", "2"},
-        {"StripeOrder", "0,0 0,1"}}                                                                             },
+      Made(kController, "DeviceID", "Zentraxis2", "ControllerNum", "2", "ControllerType", "Zentraxis C5",
+           "ControllerStatus", "Optimal", "ChannelDescription", "SAS/SATA", "DefunctDiskDriveCnt", "0",
+           "LogicalDriveStatusCnt", "1/0/0", "ControllerTemp", "46 C/ 114 F (Normal)", "ControllerBatteryStatus",
+           "Optimal", "ControllerBatteryOverTemp", "No"),
+      Made(kLogicalDisk, "DeviceID", "Zentraxis2LD1", "AccessBlocked", "", "ControllerNum", "2", "LogicalDriveNum", "1",
+           "LogicalDriveStatus", "Optimal", "PartOfArray", "", "RaidLevel", "5", "LogicalDriveName", "Data",
+           "DriveList", "0,0 0,1", "DefunctSegments", "No"),
+      Made(kDiskGroup, "CollectionID", "ZentraxisCntrlr2LogicalDrv1 0,0 0,1", "Array", "", "ControllerNum", "2",
+           "StripeOrder", "0,0 0,1"),
       Disk("C2 CH0 I00:Controller: Device #0", "2", "0", "0", "Hard drive", "Online"),
       Disk("C2 CH0 I01:Controller: Device #1", "2", "0", "1", "Hard drive", "Online"),
       Disk("C2 CH0 I02:Controller: Device #2", "2", "0", "2", "Hard drive", "Hot Spare for Logical drive 1"),
       Disk("C2 CH2 I00:Controller: Device #3", "2", "2", "0", "Enclosure services device", "Online"),
       Disk("C2 CH0 I00:Controller: Device #4", "2", "", "", "Tape drive", ""),
-      {"KVRSG_BadStripeData",
-       {{"InstanceID", "Zentraxis:2LD1"}, {"ControllerNum", "2"}, {"LogicalDrive", "1"}, {"NumBadStripes", "0"}}},
+      Made("KVRSG_BadStripeData", "InstanceID", "Zentraxis:2LD1", "ControllerNum", "2", "LogicalDrive", "1",
+           "NumBadStripes", "0"),
   };
 }
 
