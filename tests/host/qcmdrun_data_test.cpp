@@ -238,19 +238,6 @@ TEST_F(QcmdrunDataTest, LeavesBadStripesAndGoesOnWhenOneIsRejected) {
   EXPECT_EQ(Logged("Bad Stripe data is junk: Quit BST data collection"), 1);
 }
 
-TEST_F(QcmdrunDataTest, KeepsTwoDefunctDriveRowsAndGoesOnWhenTheThirdHasABadTimeStamp) {
-  Answer("getevent", "ddd",
-         "+---+\n" + DddRow("01", "4") + DddRow("02", "5") + DddRow("13", "6") + "Command completed successfully.\n");
-  Collect();
-  const auto controller = OnlyController();
-  ASSERT_TRUE(controller);
-  ASSERT_EQ(controller->DddEvents.size(), 2u);
-  EXPECT_EQ(controller->DddEvents[0]->RecordID, "0001");
-  EXPECT_EQ(controller->DddEvents[1]->RecordID, "0002");
-  EXPECT_EQ(Logged("Time Stamp is junk: Quit DDD data collection"), 1);
-  EXPECT_TRUE(controller->SoftEvents);
-}
-
 TEST_F(QcmdrunDataTest, LetsTheFailureOfACutOffAnswerPass) {
   Answer("getsubstat", "device", "A:1 C:1 I:0 PARAMS:0 \n");
   EXPECT_THROW(Collect(), std::out_of_range);

@@ -78,23 +78,6 @@ TEST(PublishDevices, AFailedControllerIsLeftOutWithoutAMessageAndItsDevicesAreNo
   EXPECT_EQ(host.nameSpace.Published(kDiskDrive).size(), 4U);
 }
 
-TEST(PublishDevices, ARecordWithoutAnyValueIsPublishedWithEveryPropertyEmpty) {
-  Publishing host;
-  AddBareController(host, "", "");
-  host.Run(PublishControllers, kController);
-  host.Run(PublishLogicalDisks, kLogicalDisk);
-  host.Run(PublishDiskGroups, kDiskGroup);
-  host.Run(PublishDiskDrives, kDiskDrive);
-  EXPECT_EQ(host.nameSpace.Published(kController).at(0).size(), 47U);
-  EXPECT_EQ(host.nameSpace.Published(kController).at(0).back(), "BatteryTimeRemaining = \"\"");
-  EXPECT_EQ(host.nameSpace.Published(kLogicalDisk).at(0).size(), 23U);
-  EXPECT_EQ(host.nameSpace.Published(kDiskDrive).at(0).size(), 29U);
-  EXPECT_EQ(host.nameSpace.Published(kDiskGroup),
-            (Instances{
-                {"CollectionID = \"\"", "Array = \"\"", "ControllerNum = \"\"", "StripeOrder = \"\""}
-  }));
-}
-
 TEST(PublishDevices, WithoutControllersOrTheirPartsNothingIsPublishedOrLogged) {
   Publishing host;
   host.ExpectNothing(PublishControllers, kController, {});

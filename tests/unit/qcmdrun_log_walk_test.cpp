@@ -13,7 +13,6 @@
 #include "logs/statistics_records.h"
 #include "plugin/host_interface/exception.h"
 #include "tests/support/recording_log.h"
-#include "tests/support/sample_text.h"
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
@@ -206,35 +205,6 @@ TEST_F(QcmdrunLogWalk, FailsWhereATableIsCutOff) {
   CollectedData soft(&log_, CrLf("Controller Soft Event Log\n0001\n"));
   EXPECT_THROW(qcmdrun::SetSoftEvents(controller_, soft), std::out_of_range);
   EXPECT_FALSE(controller_.SoftEvents);
-}
-
-TEST_F(QcmdrunLogWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay) {
-  struct Case {
-    std::string answer;
-    void (*attach)(ZenxController& controller, CollectedData& text);
-  };
-  const std::vector<Case> cases = {
-      {"getbst-device", [](ZenxController& c, CollectedData& t) { qcmdrun::AttachBadStripes(c, t, ParseBadStripe); }},
-      {"getevent-device",               qcmdrun::AttachDeviceEvents                  },
-      {"getevent-ddd",               qcmdrun::AttachDddEvents   },
-      {"getevent-soft",               qcmdrun::SetSoftEvents                 },
-      {"getevent-hard",               qcmdrun::SetHardEvents   },
-      {"getsubstat-device",               qcmdrun::AttachSubStats             },
-  };
-  for (const Case& logCase : cases) {
-    const std::string text = SampleAnswer("qcmdrun/1/" + logCase.answer);
-    std::size_t read = 0;
-    for (std::size_t length = 0; length <= text.size(); ++length) {
-      CollectedData scanner(&log_, text.substr(0, length));
-      try {
-        logCase.attach(controller_, scanner);
-        ++read;
-      } catch (const std::out_of_range&) {
-        EXPECT_LT(length, text.size()) << logCase.answer;
-      }
-    }
-    EXPECT_LT(read, text.size()) << logCase.answer << " is cut nowhere inside its table";
-  }
 }
 
 }  // namespace
