@@ -92,7 +92,7 @@ function stateList(model, className) {
 }
 
 function badStripeList(model) {
-  const bad = model.all(kBadStripes).filter((object) => textOf(object, "NumBadStripes") !== "0");
+  const bad = model.all(kBadStripes).filter((object) => model.findingsOf(object).length > 0);
   if (bad.length === 0) return [];
   const words = (object) => {
     const text = (name) => textOf(object, name);
