@@ -6,10 +6,10 @@ list(JOIN report_scripts "," report_script_names)
 set(report_source ${CMAKE_BINARY_DIR}/generated/report_template.cpp)
 add_custom_command(
   OUTPUT ${report_source}
-  COMMAND ${CMAKE_COMMAND} -DTEMPLATE=${CMAKE_SOURCE_DIR}/host/hxahost/views/report/page/report_template.html
+  COMMAND ${CMAKE_COMMAND} -DTEMPLATE=${report_folder}/report_template.html
           -DSTYLE=${report_folder}/style.css -DSCRIPTS=${report_script_names} -DOUTPUT=${report_source}
           -P ${CMAKE_SOURCE_DIR}/cmake/report_template.cmake
-  DEPENDS ${CMAKE_SOURCE_DIR}/host/hxahost/views/report/page/report_template.html ${report_folder}/style.css ${report_scripts}
+  DEPENDS ${report_folder}/report_template.html ${report_folder}/style.css ${report_scripts}
           ${CMAKE_SOURCE_DIR}/cmake/report_template.cmake
   VERBATIM)
 target_sources(hxahost_objects PRIVATE ${report_source})

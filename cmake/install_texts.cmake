@@ -35,8 +35,9 @@ file(COPY_FILE ${says}/libcli11-dev/copyright "${root}/${licences}/cli11.txt")
 file(COPY_FILE ${says}/libfmt-dev/copyright "${root}/${licences}/fmt.txt")
 file(COPY_FILE ${says}/nlohmann-json3-dev/copyright "${root}/${licences}/nlohmann-json.txt")
 file(GLOB boost ${says}/libboost1.*-dev/copyright)
-execute_process(COMMAND awk "/^License: BSL-1.0/ { n = 1; text = \"\" } n { text = text $0 \"\\n\" } /^$/ { if (text ~ /Permission is hereby granted/) { printf \"%s\", text; exit } n = 0 }"
-                        ${boost}
+set(whole_licence "/^License: BSL-1.0/ { n = 1; text = \"\" } n { text = text $0 \"\\n\" }
+                   /^$/ { if (text ~ /Permission is hereby granted/) { printf \"%s\", text; exit } n = 0 }")
+execute_process(COMMAND awk "${whole_licence}" ${boost}
                 OUTPUT_FILE "${root}/${licences}/boost.txt" COMMAND_ERROR_IS_FATAL ANY)
 file(SIZE "${root}/${licences}/boost.txt" size)
 if(size EQUAL 0)

@@ -1,7 +1,7 @@
 #include "host/hxahost/program/formats.h"
 
 #include <algorithm>
-#include <functional>
+#include <iterator>
 
 #include "host/hxahost/schema/schema_markdown.h"
 #include "host/hxahost/schema/schema_view.h"
@@ -29,13 +29,14 @@ constexpr Format kFormats[] = {
     {"schema", "mof",        WriteSchemaMof                                       },
     {"schema", "markdown",   WriteSchemaMarkdown                                  },
 };
-static_assert(std::ranges::is_sorted(kFormats, {}, &Format::command));
 
 }  // namespace
 
+// The rows of a command follow each other.
 std::span<const Format> FormatsOf(std::string_view command) {
-  const auto formats = std::ranges::equal_range(kFormats, command, {}, &Format::command);
-  return {formats.begin(), formats.end()};
+  const auto isOfCommand = [command](const Format& format) { return format.command == command; };
+  const auto* const begin = std::ranges::find_if(kFormats, isOfCommand);
+  return {begin, std::find_if_not(begin, std::end(kFormats), isOfCommand)};
 }
 
 const Format* FindFormat(std::string_view command, std::string_view name) {

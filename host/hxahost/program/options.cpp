@@ -40,26 +40,24 @@ void CheckFormat(std::string_view command, const std::string& format) {
 }
 
 // Paths are UTF-8 on every system.
-CLI::Option* AddPath(CLI::App& command, const std::string& name, std::filesystem::path& path,
+CLI::Option* AddPath(CLI::App& command, const std::string& name, const std::string& type, std::filesystem::path& path,
                      const std::string& description) {
-  return command.add_option_function<std::string>(
-      name, [&path](const std::string& text) { path = PathFromUtf8(text); }, description);
+  const auto read = [&path](const std::string& text) { path = PathFromUtf8(text); };
+  return command.add_option_function<std::string>(name, read, description)->type_name(type);
 }
 
 // What every command that collects is told.
 void AddCollecting(CLI::App& command, TypedOptions& typed) {
   CollectionOptions& read = typed.read.collection;
-  AddPath(command, "--plugin", read.plugin, "The plug-in to load (default: zenx.pi beside this program)")
-      ->type_name("FILE");
-  AddPath(command, "--directory", read.directory, "Where the folder zenx with the tools is (default: here)")
-      ->type_name("DIR");
-  AddPath(command, "--output", typed.read.output, "Where to write (default: standard output); complete or not at all")
-      ->type_name("FILE");
-  AddPath(command, "--log", read.log, "Write the log there: one line for an entry, its level first")->type_name("FILE");
-  AddPath(command, "--record", read.record, "Keep all that the collection was told in a bundle, to be replayed")
-      ->type_name("BUNDLE");
+  AddPath(command, "--plugin", "FILE", read.plugin, "The plug-in to load (default: zenx.pi beside this program)");
+  AddPath(command, "--directory", "DIR", read.directory, "Where the folder zenx with the tools is (default: here)");
+  AddPath(command, "--output", "FILE", typed.read.output,
+          "Where to write (default: standard output); complete or not at all");
+  AddPath(command, "--log", "FILE", read.log, "Write the log there: one line for an entry, its level first");
+  AddPath(command, "--record", "BUNDLE", read.record,
+          "Keep all that the collection was told in a bundle, to be replayed");
   command.add_flag("--mask", read.isMasked, "Hide machine name, serial numbers and given names in that bundle");
-  AddPath(command, "--replay", read.replay, "Run no tool: take everything from a bundle")->type_name("BUNDLE");
+  AddPath(command, "--replay", "BUNDLE", read.replay, "Run no tool: take everything from a bundle");
   command
       .add_option("--os-type", typed.osType,
                   "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
@@ -135,15 +133,15 @@ CLI::App* AddBundle(CLI::App& program, TypedBundle& typed) {
   bundle->footer(kBundleExamples);
   BundleOptions& read = typed.read;
   CLI::App* const list = bundle->add_subcommand("list", "One line for each command, and for the log");
-  AddPath(*list, "FILE", read.file, "The bundle")->required();
+  AddPath(*list, "FILE", "TEXT", read.file, "The bundle")->required();
   CLI::App* const show = bundle->add_subcommand("show", "What a command printed, or what holds for all of them");
-  AddPath(*show, "FILE", read.file, "The bundle")->required();
+  AddPath(*show, "FILE", "TEXT", read.file, "The bundle")->required();
   show->add_option("ITEM", typed.items, "Numbers of the list (default: what stands before the items)");
   show->add_flag("--raw", read.isRaw, "The bytes themselves, for a file or another program");
-  AddPath(*show, "--output", read.output, "Where to write (default: standard output)")->type_name("FILE");
+  AddPath(*show, "--output", "FILE", read.output, "Where to write (default: standard output)");
   CLI::App* const mask = bundle->add_subcommand("mask", "Hide machine name, serial numbers and given names");
-  AddPath(*mask, "IN", read.file, "The bundle")->required();
-  AddPath(*mask, "OUT", read.output, "The masked one")->required();
+  AddPath(*mask, "IN", "TEXT", read.file, "The bundle")->required();
+  AddPath(*mask, "OUT", "TEXT", read.output, "The masked one")->required();
   return bundle;
 }
 
@@ -226,11 +224,10 @@ CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   return line;
 }
 
-std::string HelpOf(const CLI::App& query, const CLI::App& health, const CLI::App& diff, const CLI::App& bundle) {
-  if (bundle.parsed()) return "hxahost bundle --help";
-  if (query.parsed()) return "hxahost query --help";
-  if (health.parsed()) return "hxahost health --help";
-  return diff.parsed() ? "hxahost diff --help" : "hxahost --help";
+// The help that says what the command takes: a command's own, where one was given.
+std::string HelpOf(const CLI::App& program) {
+  const auto given = program.get_subcommands();
+  return "hxahost " + (given.empty() ? "" : given.front()->get_name() + " ") + "--help";
 }
 
 }  // namespace
@@ -263,8 +260,7 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   } catch (const CLI::CallForVersion& version) {
     return {Command::kShowText, std::string(version.what()) + "\n", {}};
   } catch (const CLI::ParseError& error) {
-    throw ProgramError(ExitStatus::kWrongArguments,
-                       Printable(error.what()) + ": see " + HelpOf(*query, *health, *diff, *bundle) + ".");
+    throw ProgramError(ExitStatus::kWrongArguments, Printable(error.what()) + ": see " + HelpOf(program) + ".");
   }
   if (query->parsed()) return ReadQuery(*query, typed);
   if (health->parsed()) return ReadHealth(*health, typed);
