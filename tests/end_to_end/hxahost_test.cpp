@@ -51,14 +51,6 @@ void ExpectOneLine(const std::string& err) {
   EXPECT_THAT(err, StartsWith("hxahost: "));
 }
 
-TEST_F(Hxahost, ShowsItsHelpWithExamplesAndExitStatuses) {
-  const ProgramResult result = RunHxahost({"query", "--help"});
-  EXPECT_EQ(result.exitStatus, 0);
-  EXPECT_THAT(result.out, HasSubstr("hxahost query --format json --output machine.json"));
-  EXPECT_THAT(result.out, HasSubstr("3 the plug-in could not be loaded"));
-  EXPECT_EQ(result.err, "");
-}
-
 TEST_F(Hxahost, EndsWithStatus3WhenThePluginCannotBeLoaded) {
   WriteFileText(InFolder("text.pi"), "no library");
   const fs::path bin = hxahost::ProgramFolder();

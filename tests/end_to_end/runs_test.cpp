@@ -53,11 +53,6 @@ TEST(Runs, AreAllInTheJsonWithTheirExactCommands) {
   EXPECT_EQ(runs.back()["failure"], "Invalid controller number.");
 }
 
-TEST(Runs, AreNotInTheJsonWhereNobodyAsksForThem) {
-  const ProgramResult result = RunHxahost({"query", "--format", "json", "--replay", RecordedSampleMachine()});
-  EXPECT_FALSE(Json::parse(result.out)["queries"][0].contains("runs"));
-}
-
 TEST(Runs, AreSummedUpByToolAtTheEndOfTheTables) {
   const ProgramResult result = RunHxahost({"query", "--replay", RecordedSampleMachine()});
   const std::string seconds = kSeconds;

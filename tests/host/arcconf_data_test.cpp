@@ -45,19 +45,11 @@ class ArcconfDataTest : public AdapterTest {
     CollectBy(ArcconfData(TRootObject::GetCoreLogger()), firstControllerNumber);
   }
 
-  std::string CollectOne(const std::string& config) {
+  std::string CollectOne(const std::string& config) override {
     services_.answers[GetConfig(1)] = config;
     for (const std::string& run : RecordedRuns(1)) services_.answers.emplace(run, "");
     Collect();
     return Summary(controllers_);
-  }
-
-  // LD stands for the begin of a drive's heading.
-  void ExpectDrives(const char* name, const std::string& section, const std::string& found) {
-    EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n----\n" +
-                              Replaced(section, "LD", "Logical drive"))),
-              "1 \n" + found)
-        << name;
   }
 
   // D stands for "Device", and what is found for the numbers of the devices.

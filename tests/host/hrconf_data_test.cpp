@@ -64,19 +64,11 @@ class HrconfDataTest : public AdapterTest {
     CollectBy(HrconfData(TRootObject::GetCoreLogger(), version), firstControllerNumber);
   }
 
-  std::string CollectOne(const std::string& config) {
+  std::string CollectOne(const std::string& config) override {
     AddController(1);
     services_.answers[GetConfig(1)] = config;
     Collect();
     return Summary(controllers_);
-  }
-
-  // LD stands for the begin of a drive's heading.
-  void ExpectDrives(const char* name, const std::string& section, const std::string& found) {
-    EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n----\n" +
-                              Replaced(section, "LD", "Logical drive"))),
-              "1 \n" + found)
-        << name;
   }
 
   void ExpectPlaces(const char* name, const std::string& section, const std::string& found) {

@@ -25,6 +25,17 @@ class AdapterTest : public testing::Test {
     rawData_ = adapter.GetRawData();
   }
 
+  // What is found in a configuration of controller 1.
+  virtual std::string CollectOne(const std::string& config) = 0;
+
+  // LD stands for the begin of a drive's heading.
+  void ExpectDrives(const char* name, const std::string& section, const std::string& found) {
+    EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n----\n" +
+                              Replaced(section, "LD", "Logical drive"))),
+              "1 \n" + found)
+        << name;
+  }
+
   ScriptedServices services_;
   ControllerList controllers_;
   RawDataList rawData_;

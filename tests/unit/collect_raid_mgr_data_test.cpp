@@ -242,15 +242,6 @@ TEST(CollectRaidMgrData, NumbersGoOnFromCollectorToCollector) {
   EXPECT_EQ(std::stoul(second.CurrentRecord().RecordID), std::stoul(first.CurrentRecord().RecordID) + 1);
 }
 
-TEST(CollectRaidMgrData, ReadsEveryLineOfALongLog) {
-  std::string text;
-  for (int line = 0; line < 50000; ++line) text += kLine;
-  Collected found(text);
-  std::size_t records = 0;
-  while (found.collector.ReadNextRecord() == RaidMgrRead::kRecord) ++records;
-  EXPECT_EQ(records, 50000U);
-}
-
 TEST(CollectRaidMgrData, VersionSixOfWindowsNtAndLaterKeepTheLogInASubFolder) {
   RecordingLog log;
   EXPECT_TRUE(IsVersionSixOrLater(&log, [] { return OsVersion{true, 6, 0}; }));

@@ -108,11 +108,7 @@ TEST(PublishAssociations, AnEndWithoutInstancesGivesNoAssociationAndNoMessage) {
 }
 
 TEST(PublishAssociations, TheFirmwareOfADriveHangsOnItsIdentifierAndItsType) {
-  struct Case {
-    const char* type;
-    bool linked;
-  };
-  constexpr Case kCases[] = {
+  constexpr std::pair<const char*, bool> kCases[] = {
       {"Hard disk",          true },
       {"a Hard drive",       true },
       {"Processor device",   true },
@@ -123,24 +119,20 @@ TEST(PublishAssociations, TheFirmwareOfADriveHangsOnItsIdentifierAndItsType) {
       {"hard disk",          false},
       {"",                   false},
   };
-  for (const Case& one : kCases) {
+  for (const auto& [type, isLinked] : kCases) {
     Publishing host;
-    host.nameSpace.Add(kDiskDrive, {"ControllerNum", "1", "DeviceID", "C1 other", "DeviceType", one.type});
-    host.nameSpace.Add(kDiskDrive, {"ControllerNum", "1", "DeviceID", "C1 CH0 I03:SN1", "DeviceType", one.type});
+    host.nameSpace.Add(kDiskDrive, {"ControllerNum", "1", "DeviceID", "C1 other", "DeviceType", type});
+    host.nameSpace.Add(kDiskDrive, {"ControllerNum", "1", "DeviceID", "C1 CH0 I03:SN1", "DeviceType", type});
     host.nameSpace.Add(kDriveVersion, {"SoftwareElementID", "2-C1 CH0 I03:SN1"});
     host.nameSpace.Add(kDriveVersion, {"SoftwareElementID", "1-C1 CH0 I03:SN1"});
     EXPECT_EQ(Associations(host, PublishDiskDriveToFirmware),
-              one.linked ? Instances{Depends(kDriveVersion, 1, kDiskDrive, 1)} : Instances{})
-        << one.type;
+              isLinked ? Instances{Depends(kDriveVersion, 1, kDiskDrive, 1)} : Instances{})
+        << type;
   }
 }
 
 TEST(PublishAssociations, TheStatisticsOfADriveHangOnControllerChannelAndTargetAndItsType) {
-  struct Case {
-    const char* type;
-    bool linked;
-  };
-  constexpr Case kCases[] = {
+  constexpr std::pair<const char*, bool> kCases[] = {
       {"Hard disk",        true },
       {"a Hard drive",     true },
       {"Processor device", true },
@@ -149,15 +141,15 @@ TEST(PublishAssociations, TheStatisticsOfADriveHangOnControllerChannelAndTargetA
       {"Unknown",          false},
       {"",                 false},
   };
-  for (const Case& one : kCases) {
+  for (const auto& [type, isLinked] : kCases) {
     Publishing host;
-    host.nameSpace.Add(kDiskDrive, {"ControllerNum", "1", "Channel", "0", "ScsiId", "3", "DeviceType", one.type});
+    host.nameSpace.Add(kDiskDrive, {"ControllerNum", "1", "Channel", "0", "ScsiId", "3", "DeviceType", type});
     for (const char* const key : {"Zentraxis:1C0S4", "Zentraxis:1C0S3", "Zentraxis:2C0S3"}) {
       host.nameSpace.Add(kDeviceData, {"InstanceID", key});
     }
     EXPECT_EQ(Associations(host, PublishDiskDriveToDeviceData),
-              one.linked ? Instances{Describes(kDeviceData, 1, kDiskDrive, 0)} : Instances{})
-        << one.type;
+              isLinked ? Instances{Describes(kDeviceData, 1, kDiskDrive, 0)} : Instances{})
+        << type;
   }
 }
 
