@@ -9,9 +9,9 @@
 #include "bench/machine_text.h"
 #include "host/hxacore/host_services.h"
 #include "plugin/host_interface/services.h"
-#include "tools/arcconf/arcconf_data.h"
-#include "tools/hrconf/hrconf_data.h"
-#include "tools/qcmdrun/qcmdrun_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
+#include "tools/hrconf/hrconf_adapter.h"
+#include "tools/qcmdrun/qcmdrun_adapter.h"
 
 using namespace NKVRHXA20;
 

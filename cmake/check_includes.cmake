@@ -38,7 +38,7 @@ endfunction()
 set(host plugin/host_interface)
 may_include(plugin/host_interface)
 may_include(platform collect/host_handle.h)
-may_include(collect/zenx_collect_data.cpp collect tools ${host})  # the driver
+may_include(collect/collection_driver.cpp collect tools ${host})  # the driver
 may_include(collect ${host})
 may_include(logs collect platform ${host})
 may_include(tools/arcconf collect ${host})

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 
 // What a label that is not on its line costs.
 enum class Miss {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 
 // Lists of devices that the tools print after a colon and, where they are long, on the lines below.

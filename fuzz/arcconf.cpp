@@ -3,7 +3,7 @@
 
 #include "fuzz/support/adapter_trial.h"
 #include "fuzz/support/fuzzer.h"
-#include "tools/arcconf/arcconf_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   // The names of models, and what stands between a spare disk and what it is assigned to.

@@ -3,7 +3,7 @@
 
 #include "fuzz/support/adapter_trial.h"
 #include "fuzz/support/fuzzer.h"
-#include "tools/hrconf/hrconf_data.h"
+#include "tools/hrconf/hrconf_adapter.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   // The one channel of releases that know of no channels.

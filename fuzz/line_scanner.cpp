@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
 #include "collect/labelled_fields.h"
+#include "collect/line_scanner.h"
 #include "collect/tool_text.h"
 #include "fuzz/support/fuzzer.h"
 #include "fuzz/support/require.h"

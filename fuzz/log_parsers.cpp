@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "fuzz/support/fuzzed_machine.h"
 #include "fuzz/support/fuzzer.h"
@@ -17,7 +17,7 @@
 #include "logs/statistics_parsers.h"
 #include "logs/statistics_records.h"
 #include "plugin/host_interface/services.h"
-#include "tools/qcmdrun/log_walk.h"
+#include "tools/qcmdrun/read_logs.h"
 #include "tools/qcmdrun/status_parser.h"
 
 namespace {

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "collect/ascii_text.h"
+#include "collect/collection_driver.h"
 #include "collect/tool_text.h"
-#include "collect/zenx_collect_data.h"
 #include "fuzz/support/fuzzed_machine.h"
 #include "fuzz/support/fuzzer.h"
 #include "fuzz/support/instance_texts.h"

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "logs/raid_mgr_event_time.h"
 #include "logs/raid_mgr_fields.h"
 #include "platform/ask_os_version.h"

@@ -8,7 +8,7 @@
 #include <fmt/core.h>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/tool_answers.h"
 #include "logs/event_records.h"
 #include "logs/table_columns.h"

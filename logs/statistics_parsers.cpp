@@ -5,7 +5,7 @@
 
 #include <fmt/core.h>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_records.h"
 #include "logs/table_columns.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 
 // A row of the tables that qcmdrun prints between bars, "| 1 | 0 | 12 |", read column by column. What stands before the
 // first bar belongs to none. The row's text must outlive it.

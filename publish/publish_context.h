@@ -2,8 +2,8 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include "collect/collection_driver.h"
 #include "collect/host_handle.h"
-#include "collect/zenx_collect_data.h"
 #include "logs/collect_raid_mgr_data.h"
 #include "plugin/host_interface/cim.h"
 

@@ -7,8 +7,8 @@
 #include "plugin/host_interface/services.h"
 #include "tests/support/filled_fields.h"
 #include "tests/support/sample_text.h"
-#include "tools/arcconf/arcconf_data.h"
-#include "tools/hrconf/hrconf_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
+#include "tools/hrconf/hrconf_adapter.h"
 
 // Reports of the sample machine, cut off anywhere: what stands before the cut is in the records, and nothing else is.
 namespace {

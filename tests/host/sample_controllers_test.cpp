@@ -6,8 +6,8 @@
 #include "tests/support/controller_summary.h"
 #include "tests/support/sample_text.h"
 #include "tests/support/scripted_services.h"
-#include "tools/arcconf/arcconf_data.h"
-#include "tools/hrconf/hrconf_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
+#include "tools/hrconf/hrconf_adapter.h"
 
 namespace {
 

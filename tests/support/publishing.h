@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "collect/zenx_collect_data.h"
+#include "collect/collection_driver.h"
 #include "host/hxacore/ignore_case.h"
 #include "host/hxacore/schema.h"
 #include "logs/collect_raid_mgr_data.h"

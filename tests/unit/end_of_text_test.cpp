@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "logs/event_records.h"
 #include "plugin/host_interface/exception.h"
 #include "tests/support/tool_text.h"

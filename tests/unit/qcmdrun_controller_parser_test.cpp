@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "tests/support/sample_text.h"
 #include "tests/support/table_cases.h"

@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "tests/support/recording_log.h"
 #include "tests/support/table_cases.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "tests/support/table_cases.h"
 

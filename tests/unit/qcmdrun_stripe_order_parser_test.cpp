@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 
 namespace {

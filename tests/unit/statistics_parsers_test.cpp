@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "logs/statistics_records.h"
 #include "tests/support/scripted_services.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 
 namespace hrconf {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 
 namespace hrconf {

@@ -2,7 +2,7 @@
 
 #include <fmt/core.h>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "collect/stripe_order.h"
 

@@ -1,4 +1,4 @@
-#include "tools/arcconf/arcconf_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
 
 #include <gtest/gtest.h>
 

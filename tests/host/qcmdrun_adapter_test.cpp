@@ -1,4 +1,4 @@
-#include "tools/qcmdrun/qcmdrun_data.h"
+#include "tools/qcmdrun/qcmdrun_adapter.h"
 
 #include <gtest/gtest.h>
 

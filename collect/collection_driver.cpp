@@ -1,10 +1,10 @@
-#include "collect/zenx_collect_data.h"
+#include "collect/collection_driver.h"
 
 #include <utility>
 
-#include "tools/arcconf/arcconf_data.h"
-#include "tools/hrconf/hrconf_data.h"
-#include "tools/qcmdrun/qcmdrun_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
+#include "tools/hrconf/hrconf_adapter.h"
+#include "tools/qcmdrun/qcmdrun_adapter.h"
 
 namespace {
 

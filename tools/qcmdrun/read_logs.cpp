@@ -1,7 +1,7 @@
-#include "tools/qcmdrun/log_walk.h"
+#include "tools/qcmdrun/read_logs.h"
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "collect/tool_answers.h"
 #include "logs/event_parsers.h"

@@ -1,4 +1,4 @@
-#include "collect/zenx_collect_data.h"
+#include "collect/collection_driver.h"
 
 #include <gtest/gtest.h>
 
@@ -8,9 +8,9 @@
 #include "plugin/host_interface/services.h"
 #include "tests/support/sample_text.h"
 #include "tests/support/scripted_services.h"
-#include "tools/arcconf/arcconf_data.h"
-#include "tools/hrconf/hrconf_data.h"
-#include "tools/qcmdrun/qcmdrun_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
+#include "tools/hrconf/hrconf_adapter.h"
+#include "tools/qcmdrun/qcmdrun_adapter.h"
 
 namespace {
 

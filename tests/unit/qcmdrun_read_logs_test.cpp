@@ -1,4 +1,4 @@
-#include "tools/qcmdrun/log_walk.h"
+#include "tools/qcmdrun/read_logs.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "logs/event_records.h"
 #include "logs/statistics_parsers.h"

@@ -1,9 +1,9 @@
-#include "tools/qcmdrun/configuration_walk.h"
+#include "tools/qcmdrun/read_configuration.h"
 
 #include <string>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"

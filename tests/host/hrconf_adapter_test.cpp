@@ -1,4 +1,4 @@
-#include "tools/hrconf/hrconf_data.h"
+#include "tools/hrconf/hrconf_adapter.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

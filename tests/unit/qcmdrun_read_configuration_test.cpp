@@ -1,4 +1,4 @@
-#include "tools/qcmdrun/configuration_walk.h"
+#include "tools/qcmdrun/read_configuration.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "tests/support/recording_log.h"
 #include "tests/support/sample_text.h"

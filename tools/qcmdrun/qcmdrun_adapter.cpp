@@ -1,19 +1,19 @@
-#include "tools/qcmdrun/qcmdrun_data.h"
+#include "tools/qcmdrun/qcmdrun_adapter.h"
 
 #include <string>
 #include <utility>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_runner.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_parsers.h"
 #include "platform/device_setup.h"
 #include "plugin/host_interface/exception.h"
-#include "tools/qcmdrun/configuration_walk.h"
 #include "tools/qcmdrun/controller_parser.h"
-#include "tools/qcmdrun/log_walk.h"
+#include "tools/qcmdrun/read_configuration.h"
+#include "tools/qcmdrun/read_logs.h"
 #include "tools/qcmdrun/status_parser.h"
 
 namespace {

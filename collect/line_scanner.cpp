@@ -1,4 +1,4 @@
-#include "collect/collected_data.h"
+#include "collect/line_scanner.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,10 +1,10 @@
-#include "tools/arcconf/arcconf_data.h"
+#include "tools/arcconf/arcconf_adapter.h"
 
 #include <utility>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
 #include "collect/end_of_text.h"
+#include "collect/line_scanner.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
 #include "tools/arcconf/controller_parser.h"

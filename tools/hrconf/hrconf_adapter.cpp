@@ -1,11 +1,11 @@
-#include "tools/hrconf/hrconf_data.h"
+#include "tools/hrconf/hrconf_adapter.h"
 
 #include <span>
 #include <utility>
 
 #include "collect/ascii_text.h"
-#include "collect/collected_data.h"
 #include "collect/end_of_text.h"
+#include "collect/line_scanner.h"
 #include "collect/tool_answers.h"
 #include "collect/tool_text.h"
 #include "tools/hrconf/controller_parser.h"
