@@ -51,7 +51,8 @@ add_library(platform_answers STATIC platform/recorded_system.cpp platform/${syst
                                     platform/${system}/registry.cpp)
 target_link_libraries(platform_answers PUBLIC compile_options)
 
-sources_of(zenx_sources collect tools/qcmdrun tools/arcconf tools/hrconf logs publish platform)
+file(GLOB tool_folders RELATIVE ${CMAKE_SOURCE_DIR} CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tools/*)
+sources_of(zenx_sources collect ${tool_folders} logs publish platform)
 get_target_property(answers platform_answers SOURCES)
 list(TRANSFORM answers PREPEND ${CMAKE_SOURCE_DIR}/)
 list(REMOVE_ITEM zenx_sources ${answers})

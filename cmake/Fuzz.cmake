@@ -28,9 +28,9 @@ sources_of(fuzz_material_sources fuzz/material)
 add_executable(fuzz_material ${fuzz_material_sources})
 target_link_libraries(fuzz_material PRIVATE fuzz_support)
 file(GLOB_RECURSE fuzz_material_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/machine/*
-     ${CMAKE_SOURCE_DIR}/docs/bundle-format.md ${CMAKE_SOURCE_DIR}/tests/golden/* ${CMAKE_SOURCE_DIR}/tools/*.cpp
-     ${CMAKE_SOURCE_DIR}/collect/*.cpp
-     ${CMAKE_SOURCE_DIR}/logs/*.cpp ${CMAKE_SOURCE_DIR}/publish/*.cpp ${CMAKE_SOURCE_DIR}/host/hxahost/*/*.cpp)
+     ${CMAKE_SOURCE_DIR}/docs/bundle-format.md ${CMAKE_SOURCE_DIR}/tests/golden/* ${CMAKE_SOURCE_DIR}/tools/*
+     ${CMAKE_SOURCE_DIR}/collect/*
+     ${CMAKE_SOURCE_DIR}/logs/* ${CMAKE_SOURCE_DIR}/publish/*.cpp ${CMAKE_SOURCE_DIR}/host/hxahost/*/*.cpp)
 add_custom_command(
   OUTPUT ${CMAKE_BINARY_DIR}/material/stamp
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_BINARY_DIR}/material

@@ -10,7 +10,9 @@ set_target_properties(sample_tool PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BI
 
 file(GLOB_RECURSE sample_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/machine/*)
 set(tools)
-foreach(tool qcmdrun arcconf hrconf_64)
+file(GLOB tool_names RELATIVE ${CMAKE_SOURCE_DIR}/samples/machine/zenx/answers CONFIGURE_DEPENDS
+     ${CMAKE_SOURCE_DIR}/samples/machine/zenx/answers/*)
+foreach(tool ${tool_names})
   list(APPEND tools COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_FILE:sample_tool>
        ${sample_machine}/zenx/${tool}.exe)
 endforeach()

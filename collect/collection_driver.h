@@ -10,7 +10,7 @@ class ArcconfData;
 
 // Runs the adapters one after the other and merges what they found. Each adapter adds its utility's own number to the
 // count of the controllers before it. Where a utility's numbers have a gap (1 and 3), the next adapter therefore starts
-// at a number that is given already, and two controllers bear it; hosts know them under these numbers.
+// at a number that is given already, and two controllers have it; hosts know them under these numbers.
 class ZenxCollectData {
  public:
   // Starts with the lists that it is given: records that are published without any tool being run.

@@ -8,6 +8,6 @@ void UntilEndOfText(const Read& read) {
   try {
     read();
   } catch (const std::out_of_range&) {
-    // The scanner has no line left; so has everything that would be read behind this part.
+    // The scanner has no line left; so has everything that would be read after this part.
   }
 }

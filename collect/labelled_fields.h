@@ -1,28 +1,9 @@
 #pragma once
 
-#include <span>
-#include <string>
 #include <string_view>
-#include <type_traits>
 
+#include "collect/label_table.h"
 #include "collect/line_scanner.h"
-
-// What a label that is not on its line costs.
-enum class Miss {
-  kCostsNothing,  // the next label is tried on the same line
-  kTakesLine,     // the line is used up
-};
-
-// A label as the tool prints it, and the field that its value goes to.
-template <class Record>
-struct LabelledField {
-  std::string_view label;
-  std::string Record::*field;
-  Miss miss = Miss::kCostsNothing;
-};
-
-template <class Record>
-using LabelTable = std::span<const LabelledField<std::type_identity_t<Record>>>;
 
 // Reads the lines that follow, one label a line, in the table's order. A label out of order is not found.
 template <class Record>
@@ -34,7 +15,7 @@ void ReadInOrder(CollectedData& text, Record& record, LabelTable<Record> table) 
   }
 }
 
-// Reads each label's first line in the whole text, wherever it stands.
+// Reads each label's first line in the whole text, wherever it is.
 template <class Record>
 void ReadAnywhere(CollectedData& text, Record& record, LabelTable<Record> table) {
   for (const auto& row : table) record.*row.field = text.FindValue(row.label);
@@ -43,10 +24,10 @@ void ReadAnywhere(CollectedData& text, Record& record, LabelTable<Record> table)
 // Where in a text a label counts. Empty: anywhere.
 struct Section {
   std::string_view start = {};  // the search for the label begins here
-  std::string_view end = {};    // must occur behind the label's first character
+  std::string_view end = {};    // must occur after the label's first character
 };
 
 // The value of a label's first occurrence: from the second character after the next colon, so without the blank, to
-// the last but one before the next line feed, so without the carriage return. The colon may stand on a later line.
+// the last but one before the next line feed, so without the carriage return. The colon may be on a later line.
 // Label, colon, line feed or a section's mark missing, or nothing between the two cuts: "".
 std::string_view GetSectionValue(std::string_view label, std::string_view text, const Section& section = {});

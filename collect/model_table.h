@@ -4,7 +4,7 @@
 #include <string_view>
 
 // What a controller model is called. The first row whose search text is in the model text counts, so a text that
-// contains another must stand before it.
+// contains another must come before it.
 struct ModelName {
   std::string_view search;
   std::string_view name;

@@ -10,7 +10,7 @@ std::string CommandText(std::string_view toolPath, std::string_view command, uns
   return fmt::format("{} {} {} {}", toolPath, command, number, option);
 }
 
-// Tools end a line in carriage return and line feed; whatever stands behind the carriage return is dropped with it.
+// Tools end a line in carriage return and line feed; whatever follows the carriage return is dropped with it.
 std::vector<std::string> CutAtCarriageReturns(std::string_view output) {
   std::vector<std::string> lines;
   std::size_t begin = 0;

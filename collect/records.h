@@ -82,7 +82,7 @@ struct ZenxPhysicalDevice {
   std::string DeviceIdSuffix;  // ends the identifier that the drive is published under
 };
 
-// The devices behind one logical drive or array, in the order in which stripes are laid out.
+// The devices under one logical drive or array, in the order in which stripes are laid out.
 struct ArrayStripeOrder {
   explicit ArrayStripeOrder(HostHandle host) : Host(host) {}
   virtual ~ArrayStripeOrder() = default;
@@ -97,8 +97,8 @@ struct ArrayStripeOrder {
 
 // The raw text of one command.
 struct ZenxRawData {
-  // The number is left out of Command when it is 0, so that two blanks stand there. The output is cut at each
-  // carriage return, the line feed behind it is dropped, and so is what follows the last carriage return.
+  // The number is left out of Command when it is 0, so that two blanks are there. The output is cut at each
+  // carriage return, the line feed after it is dropped, and so is what follows the last carriage return.
   ZenxRawData(std::string_view toolPath, std::string_view command, unsigned controllerNumber, std::string_view option,
               std::string_view output);
   virtual ~ZenxRawData() = default;
@@ -192,6 +192,12 @@ struct ZenxController {
   std::shared_ptr<ZenxEventSoftData> SoftEvents;  // null: the controller printed no such log
   std::shared_ptr<ZenxEventHardData> HardEvents;  // null: the controller printed no such log
 };
+
+// Appends a new record, which is attached before it is filled: a text that ends too early leaves what it has.
+template <class Record>
+Record& AppendRecord(std::vector<std::shared_ptr<Record>>& records, HostHandle host) {
+  return *records.emplace_back(std::make_shared<Record>(host));
+}
 
 using ControllerList = std::vector<std::shared_ptr<ZenxController>>;
 using RawDataList = std::vector<std::shared_ptr<ZenxRawData>>;

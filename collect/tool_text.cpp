@@ -26,12 +26,11 @@ std::string_view CutLogicalDriveNumber(std::string_view line, std::string_view l
 }
 
 std::string_view CutDeviceType(std::string_view line) {
-  constexpr std::string_view kLabel = "Device is a";
-  const std::size_t label = line.find(kLabel);
+  const std::size_t label = line.find(kDeviceTypeLabel);
   if (label == line.npos) return {};
   // "a Hard drive", but "an Enclosure services device".
   const std::size_t articleRest = Contains(line, "Enclosure") ? 2 : 1;
-  return UpToLineEnd(line, label + kLabel.size() + articleRest);
+  return UpToLineEnd(line, label + kDeviceTypeLabel.size() + articleRest);
 }
 
 std::string_view CutDeviceName(std::string_view line) {

@@ -4,11 +4,9 @@
 #include <string_view>
 
 #include "collect/ascii_text.h"
+#include "collect/shared_labels.h"
 
 // Cuts that the texts of several tools have in common.
-
-// Begins a line that begins a device.
-constexpr std::string_view kDeviceNumberLabel = "Device #";
 
 // "Logical drive number 1": the text from 21 characters after the start of the label to the carriage return, or to
 // the line feed where there is none. A line too short for it gives "". The label must be in the line.

@@ -42,7 +42,7 @@ void TryLogLine(const std::string& line) {
   const auto again = ReadEventTime(line, fields.front());
   Require(time.has_value() == again.has_value(), "the same line gives the same time");
   if (time) Require(time->ToString() == again->ToString(), "the same line gives the same time", line);
-  Require(fields.front() == FirstField(line), "the first field ends where a tab or a NUL stands first");
+  Require(fields.front() == FirstField(line), "the first field ends at the first tab or NUL");
   std::size_t length = fields.size() - 1;
   for (const std::string_view field : fields) {
     Require(field.find('\t') == field.npos && field.find('\0') == field.npos, "a tab ends a field", field);

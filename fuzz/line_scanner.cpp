@@ -100,7 +100,7 @@ std::string WithoutLeadingBlanks(std::string text) {
 
 // Every cut gives a part of what it cuts.
 void TryCuts(const std::string& text, const std::string& label, const Section& section) {
-  const auto isPart = [&](std::string_view cut) { Require(IsPart(text, cut), "what is cut out stands there", cut); };
+  const auto isPart = [&](std::string_view cut) { Require(IsPart(text, cut), "what is cut out is there", cut); };
   isPart(GetSectionValue(label, text, section));
   isPart(CollectedData::TrimLeft(text));
   Require(CollectedData::TrimLeft(text) == WithoutLeadingBlanks(text), "leading blanks are dropped", text);

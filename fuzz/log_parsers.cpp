@@ -24,14 +24,14 @@ namespace {
 
 using NKVRHXA20::TRootObject;
 
-void AttachBadStripes(ZenxController& controller, CollectedData& text) {
-  qcmdrun::AttachBadStripes(controller, text, ParseBadStripe);
+void ReadBadStripes(ZenxController& controller, CollectedData& text) {
+  qcmdrun::ReadBadStripes(controller, text, ParseBadStripe);
 }
 
 using Attach = void (*)(ZenxController& controller, CollectedData& text);
 constexpr Attach kWalks[] = {
-    AttachBadStripes,       qcmdrun::AttachDeviceEvents, qcmdrun::AttachDddEvents, qcmdrun::SetSoftEvents,
-    qcmdrun::SetHardEvents, qcmdrun::AttachSubStats,     qcmdrun::ParseStatus,
+    ReadBadStripes,          qcmdrun::ReadDeviceEvents, qcmdrun::ReadDddEvents, qcmdrun::ReadSoftEvents,
+    qcmdrun::ReadHardEvents, qcmdrun::ReadSubStats,     qcmdrun::ParseStatus,
 };
 
 // What all walks make of the text.
@@ -55,7 +55,7 @@ void RequireTime(const NKVRHXA20::TCIMDateTime& time) {
 }
 
 void RequirePart(std::string_view text, std::string_view part) {
-  Require(text.find(part) != text.npos, "a field stands in the answer", part);
+  Require(text.find(part) != text.npos, "a field is in the answer", part);
 }
 
 // The rest of the line from its first part of that text on; "" where it has none.
@@ -64,7 +64,7 @@ std::string From(const std::string& line, const std::string& part) {
   return found == line.npos ? std::string() : line.substr(found);
 }
 
-// What the first six tokens of a sub-status line give, each searched behind the start of the one before it.
+// What the first six tokens of a sub-status line give, each searched after the start of the one before it.
 void RequireTokens(const ZenxSubStatData& record, const std::string& line) {
   const std::string* const fields[] = {&record.ControllerNum, &record.Channel, &record.ScsiId,
                                        &record.Params,        &record.Req_Off, &record.Max_Txer_P};
@@ -95,14 +95,14 @@ void RequireColumns(const ZenxEventData& record, const std::string& line) {
   const bool areTrimmed[] = {true, true, false, true, false, true, false};
   std::string rest = From(line, "|");
   for (std::size_t index = 0; index < std::size(fields); ++index) {
-    const std::string behind = rest.empty() ? rest : rest.substr(1);
-    rest = From(behind, "|");
-    const std::size_t width = rest.empty() ? 0 : behind.size() - rest.size();
-    std::string column = behind.substr(0, width == 0 ? 0 : width - 1);
+    const std::string after = rest.empty() ? rest : rest.substr(1);
+    rest = From(after, "|");
+    const std::size_t width = rest.empty() ? 0 : after.size() - rest.size();
+    std::string column = after.substr(0, width == 0 ? 0 : width - 1);
     const auto isBlank = [](char character) { return character == ' ' || character == '\t' || character == '\n'; };
     while (column.size() > 1 && isBlank(column.front())) column.erase(0, 1);
     while (areTrimmed[index] && !column.empty() && isBlank(column.back())) column.pop_back();
-    Require(*fields[index] == column, "a column stands between its bars", line);
+    Require(*fields[index] == column, "a column is between its bars", line);
   }
 }
 

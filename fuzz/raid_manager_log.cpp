@@ -25,7 +25,7 @@ std::string WithLineFeeds(std::string_view bytes) {
 }
 
 void RequirePart(std::string_view text, std::string_view part) {
-  Require(text.find(part) != text.npos, "a field stands in the log", part);
+  Require(text.find(part) != text.npos, "a field is in the log", part);
 }
 
 // Every record, and as many reads as the text has bytes at most.

@@ -75,7 +75,7 @@ bool CollectRaidMgrData::OpenRaidMgrLog() {
   const RecordedSystem* const recorded = AnswersInPlace();
   file_ = recorded != nullptr ? TextFile(recorded->raidLog) : TextFile(nativePath);
   if (!file_.IsOpen()) {
-    // The path ends in the file's name already: it stands twice in this line.
+    // The path ends in the file's name already: it is twice in this line.
     Log(host_, kLogRoutine, path_ + kFileName + " not found.");
     return false;
   }

@@ -20,7 +20,7 @@ struct RaidMgrEvent {
 enum class RaidMgrRead : int {
   kEnd = 0,
   kRecord = 1,
-  kOtherLine = 2,  // a line that is no event; the next read goes on behind it
+  kOtherLine = 2,  // a line that is no event; the next read goes on after it
 };
 
 // Numbers the records of the process, from 0, whoever reads them. Never reset.

@@ -9,7 +9,7 @@
 
 #include "collect/ascii_text.h"
 #include "collect/line_scanner.h"
-#include "collect/tool_answers.h"
+#include "collect/tool.h"
 #include "logs/event_records.h"
 #include "logs/table_columns.h"
 

@@ -13,7 +13,7 @@ struct ZenxEventHardData;
 void ParseDddRow(ZenxEventDddData& record, const CollectedData& text, std::string_view controllerNumber,
                  std::uint32_t entryNumber);
 
-// Fill the record from the current line, the log's title, and the lines behind it up to "Command completed
+// Fill the record from the current line, the log's title, and the lines after it up to "Command completed
 // successfully", which is current afterwards. Throw std::out_of_range where that line is missing.
 void ParseSoftLog(ZenxEventSoftData& record, CollectedData& text, std::string_view controllerNumber);
 void ParseHardLog(ZenxEventHardData& record, CollectedData& text, std::string_view controllerNumber);

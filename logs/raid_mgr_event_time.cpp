@@ -91,7 +91,7 @@ void TakeClock(EventTime& time, std::string_view& rest) {
   time.second = TakeNumber(rest, ' ');
 }
 
-// "PM " of a line that begins with the month. Where neither A nor P stands one character is passed over all the same,
+// "PM " of a line that begins with the month. Where neither A nor P is one character is passed over all the same,
 // so that a zone that follows the seconds directly loses its first letter and counts as unknown.
 void TakeHalfOfDay(EventTime& time, std::string_view& rest) {
   const char half = FirstOf(rest);

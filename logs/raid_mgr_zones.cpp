@@ -10,7 +10,7 @@ struct Zone {
   int hours;
 };
 
-// Searched from the top. ADT, CDT and BST stand twice: their lower rows never match, so that a time keeps the offset
+// Searched from the top. ADT, CDT and BST come twice: their lower rows never match, so that a time keeps the offset
 // under which it has always been published.
 constexpr Zone kZones[] = {
     {"ADT",  -3 },

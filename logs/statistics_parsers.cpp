@@ -7,6 +7,7 @@
 
 #include "collect/line_scanner.h"
 #include "collect/tool_text.h"
+#include "logs/labels.h"
 #include "logs/statistics_records.h"
 #include "logs/table_columns.h"
 #include "plugin/host_interface/services.h"
@@ -16,7 +17,7 @@ using NKVRHXA20::TOSSpecific;
 namespace {
 
 // The text from there to one character before the line feed that ends the line, which is where the carriage return
-// stands.
+// is.
 std::string_view UpToCarriageReturn(std::string_view line, std::size_t begin) {
   constexpr std::size_t kLineEnd = 2;
   return line.substr(begin, std::max(line.size(), begin + kLineEnd) - kLineEnd - begin);
@@ -43,35 +44,16 @@ constexpr Column kColumns[] = {
     {&ZenxEventData::Misc,            TrailingBlanks::kKept   },
 };
 
-enum class ValueEnd { kBlank, kLineEnd };
-
-struct Token {
-  std::string_view text;
-  std::string ZenxSubStatData::*field;
-  ValueEnd end;
-};
-
-// In the order of the line. The last value has no blank behind it.
-constexpr Token kTokens[] = {
-    {"A:",          &ZenxSubStatData::ControllerNum, ValueEnd::kBlank  },
-    {"C:",          &ZenxSubStatData::Channel,       ValueEnd::kBlank  },
-    {"I:",          &ZenxSubStatData::ScsiId,        ValueEnd::kBlank  },
-    {"PARAMS:",     &ZenxSubStatData::Params,        ValueEnd::kBlank  },
-    {"REQ-OFF:",    &ZenxSubStatData::Req_Off,       ValueEnd::kBlank  },
-    {"MAX-TXER-P:", &ZenxSubStatData::Max_Txer_P,    ValueEnd::kBlank  },
-    {"CUR-TXER-P:", &ZenxSubStatData::Cur_Txer_p,    ValueEnd::kLineEnd},
-};
-
-// The value that begins there.
-std::string_view CutValue(std::string_view line, std::size_t begin, ValueEnd end) {
-  if (end == ValueEnd::kLineEnd) return UpToCarriageReturn(line, begin);
+// The value of a token, up to the next blank. The last one on a line has none after it and runs to the line's end.
+std::string_view CutValue(std::string_view line, std::size_t begin, bool isLast) {
+  if (isLast) return UpToCarriageReturn(line, begin);
   return line.substr(begin, line.find_first_of(" \r\n", begin) - begin);
 }
 
 }  // namespace
 
 void ParseBadStripe(ZenxBstData& record, const CollectedData& text, std::string_view controllerNumber) {
-  constexpr std::string_view kDrive = "Logical drive ";
+  constexpr std::string_view kDrive = kBadStripeLabels[0].label;
   record.ControllerNum = controllerNumber;
   const std::string_view line = CollectedData::TrimLeft(text.CurrentLine());
   if (const std::size_t drive = line.find(kDrive); drive != line.npos) {
@@ -96,10 +78,10 @@ void ParseDeviceEvent(ZenxEventData& record, const CollectedData& text, std::str
 void ParseSubStat(ZenxSubStatData& record, const CollectedData& text, std::string_view) {
   const std::string_view line = text.CurrentLine();
   std::size_t from = 0;
-  for (const auto& [token, field, end] : kTokens) {
-    const std::size_t at = line.find(token, from);
+  for (const auto& token : kSubStatLabels) {
+    const std::size_t at = line.find(token.label, from);
     if (at == line.npos) continue;
-    record.*field = CutValue(line, at + token.size(), end);
+    record.*token.field = CutValue(line, at + token.label.size(), token.field == &ZenxSubStatData::Cur_Txer_p);
     from = at + 1;
   }
   record.InstanceID = fmt::format("Zentraxis:{}C{}S{}", record.ControllerNum, record.Channel, record.ScsiId);

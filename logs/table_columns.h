@@ -5,7 +5,7 @@
 
 #include "collect/line_scanner.h"
 
-// A row of the tables that qcmdrun prints between bars, "| 1 | 0 | 12 |", read column by column. What stands before the
+// A row of the tables that qcmdrun prints between bars, "| 1 | 0 | 12 |", read column by column. What comes before the
 // first bar belongs to none. The row's text must outlive it.
 class TableRow {
  public:

@@ -31,7 +31,7 @@ using PropertyRows = std::span<const Property<Records...>>;
 // How the text of a field becomes the text of a property.
 using TextForm = std::string_view (*)(std::string_view);
 
-// Gives the value behind a source.
+// Gives the value of a source.
 template <class... Records>
 struct PropertyReader {
   TextForm form;

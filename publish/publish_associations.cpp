@@ -25,7 +25,7 @@ struct Ends {
 constexpr Ends kOnWhatItDepends = {"Dependent", "Antecedent"};
 constexpr Ends kWhatItDescribes = {"Stats", "ManagedElement"};
 
-// Links every instance of the list to the one that stands second.
+// Links every instance of the list to the second one.
 void Link(ICIMClass& publishedClass, const Ends& ends, const InstanceList& firsts, ICIMInstance& second) {
   if (firsts.empty()) return;
   const TCIMReference secondReference = second.GetReference({});
@@ -44,13 +44,13 @@ struct Belonging {
   std::string (*valueFor)(std::string_view controllerNumber);
 };
 
-std::string TheNumber(std::string_view controllerNumber) { return std::string(controllerNumber); }
+std::string ControllerNumberAlone(std::string_view controllerNumber) { return std::string(controllerNumber); }
 
-constexpr Belonging kLogicalDisks = {kLogicalDisk, "ControllerNum", TheNumber};
-constexpr Belonging kDiskDrives = {kDiskDrive, "ControllerNum", TheNumber};
-constexpr Belonging kDiskGroups = {"KVRSG_zxDiskGroup", "ControllerNum", TheNumber};
-constexpr Belonging kFirmware = {"KVRSG_zxFirmwareVersion", "SoftwareElementID", TheNumber};
-constexpr Belonging kBootBlock = {"KVRSG_zxBootBlockVersion", "SoftwareElementID", TheNumber};
+constexpr Belonging kLogicalDisks = {kLogicalDisk, "ControllerNum", ControllerNumberAlone};
+constexpr Belonging kDiskDrives = {kDiskDrive, "ControllerNum", ControllerNumberAlone};
+constexpr Belonging kDiskGroups = {"KVRSG_zxDiskGroup", "ControllerNum", ControllerNumberAlone};
+constexpr Belonging kFirmware = {"KVRSG_zxFirmwareVersion", "SoftwareElementID", ControllerNumberAlone};
+constexpr Belonging kBootBlock = {"KVRSG_zxBootBlockVersion", "SoftwareElementID", ControllerNumberAlone};
 constexpr Belonging kBios = {"KVRSG_zxBiosVersion", "Name", BiosName};
 
 InstanceKey PropertyKey(const char* property) {

@@ -19,7 +19,7 @@ constexpr const char* kComputerSystem = "KVRSG_ComputerSystem";
 std::string MachineName() { return TOSSpecific::GetMachineName(); }
 
 std::string ControllerLabel(const ZenxController& controller) {
-  // The blank in front has always been there; programs compare with it.
+  // The leading blank has always been there; programs compare with it.
   return " Controller:" + std::string(Trimmed(controller.ControllerNum));
 }
 

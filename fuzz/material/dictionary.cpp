@@ -20,7 +20,7 @@ char Unescaped(char character) {
   return character == '0' ? '\0' : character;
 }
 
-// The literal whose opening quote stands at the place, which moves behind its closing one.
+// The literal whose opening quote is at the place, which moves past its closing one.
 std::string TakeLiteral(std::string_view line, std::size_t& at) {
   std::string literal;
   for (++at; at < line.size() && line[at] != '"'; ++at) {
@@ -53,7 +53,7 @@ std::set<std::string> LiteralsOf(const std::vector<fs::path>& sources) {
       AddLiterals(words, FileText(source));
       continue;
     }
-    for (const auto& file : fs::directory_iterator(source)) {
+    for (const auto& file : fs::recursive_directory_iterator(source)) {
       if (file.path().extension() == ".cpp" || file.path().extension() == ".h") AddLiterals(words, FileText(file));
     }
   }

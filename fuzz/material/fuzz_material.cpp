@@ -22,24 +22,24 @@ struct Fuzzer {
 };
 
 const std::vector<Fuzzer> kFuzzers = {
-    {"line_scanner",     &SeedMaker::LineScanner,    {"tools/qcmdrun", "tools/arcconf", "collect"}                                     },
-    {"qcmdrun",          &SeedMaker::Qcmdrun,        {"tools/qcmdrun", "collect", "logs"}                                              },
-    {"hrconf",           &SeedMaker::Hrconf,         {"tools/hrconf", "collect"}                                                       },
-    {"arcconf",          &SeedMaker::Arcconf,        {"tools/arcconf", "collect"}                                                      },
-    {"raid_manager_log", &SeedMaker::RaidManagerLog, {"logs/raid_mgr_zones.cpp", "logs/raid_mgr_event_time.cpp"}                       },
-    {"log_parsers",      &SeedMaker::LogParsers,     {"logs", "tools/qcmdrun/read_logs.cpp", "tools/qcmdrun/status_parser.cpp"}        },
-    {"date_times",       &SeedMaker::DateTimes,      {"logs/raid_mgr_zones.cpp"}                                                       },
-    {"plugin",           &SeedMaker::Plugin,         {"tools/qcmdrun", "tools/arcconf", "tools/hrconf", "collect", "logs", "publish"}  },
-    {"views",            &SeedMaker::Views,          {"host/hxahost/machine/health_rules.cpp", "host/hxahost/result/tool_answer.cpp"}  },
+    {"line_scanner",     &SeedMaker::LineScanner,    {"tools", "collect"}                                       },
+    {"qcmdrun",          &SeedMaker::Qcmdrun,        {"tools/qcmdrun", "collect", "logs"}                       },
+    {"hrconf",           &SeedMaker::Hrconf,         {"tools/hrconf", "collect"}                                },
+    {"arcconf",          &SeedMaker::Arcconf,        {"tools/arcconf", "collect"}                               },
+    {"raid_manager_log", &SeedMaker::RaidManagerLog, {"logs/raid_mgr_zones.cpp", "logs/raid_mgr_event_time.cpp"}},
+    {"log_parsers",      &SeedMaker::LogParsers,     {"logs", "tools/qcmdrun"}                                  },
+    {"date_times",       &SeedMaker::DateTimes,      {"logs/raid_mgr_zones.cpp"}                                },
+    {"plugin",           &SeedMaker::Plugin,         {"tools", "collect", "logs", "publish"}                    },
+    {"views",            &SeedMaker::Views,          {"host/hxahost/machine/health_rules.cpp", "tools"}         },
     {"bundles",
      &SeedMaker::Bundles,
      {"host/hxahost/bundle/read_bundle.cpp", "host/hxahost/bundle/write_bundle.cpp",
-      "host/hxahost/bundle/bundle_mask.cpp"}                                                                                           },
-    {"texts",            &SeedMaker::Texts,          {"host/hxahost/result/raw_text_values.cpp", "host/hxahost/result/tool_answer.cpp"}},
+      "host/hxahost/bundle/bundle_mask.cpp"}                                                                    },
+    {"texts",            &SeedMaker::Texts,          {"host/hxahost/result/raw_text_values.cpp", "tools"}       },
     {"results",
      &SeedMaker::Results,
      {"host/hxahost/result/json_result.cpp", "host/hxahost/diff/result_diff.cpp",
-      "host/hxahost/diff/result_matching.cpp"}                                                                                         },
+      "host/hxahost/diff/result_matching.cpp"}                                                                  },
 };
 
 void Write(const Fuzzer& fuzzer, const fs::path& sources, const fs::path& folder) {

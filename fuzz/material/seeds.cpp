@@ -22,7 +22,7 @@ constexpr const char* kAnswers = "samples/machine/zenx/answers";
 
 std::string Answer(const fs::path& file) { return CrLf(FileText(file)); }
 
-// Behind a separator each, the answers of the utility, of controllers that are kept; the others are not there.
+// After a separator each, the answers of the utility, of controllers that are kept; the others are not there.
 std::string AnswersOf(const fs::path& answers, const Utility& utility, const std::vector<std::size_t>& kept) {
   const std::string none = Answer(answers / utility.name / "other.txt");
   std::string text;

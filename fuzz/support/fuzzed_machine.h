@@ -9,7 +9,7 @@
 #include "fuzz/support/utilities.h"
 
 // While it lives, utilities answer with the texts of an input, from the given one on, in the order of the utilities;
-// the clock stands still. A utility whose text is missing, or begins with kCannotRun, cannot be run. Others are not
+// the clock does not move. A utility whose text is missing, or begins with kCannotRun, cannot be run. Others are not
 // there.
 class FuzzedMachine {
  public:

@@ -10,7 +10,7 @@ class Printed {
  public:
   explicit Printed(std::string text) : text_(std::move(text)) {}
 
-  // Ends the program unless each word of the value, up to a blank, stands in what was printed, or is one of the words
+  // Ends the program unless each word of the value, up to a blank, is in what was printed, or is one of the words
   // that the plug-in itself writes.
   void RequireWords(std::string_view name, std::string_view value, std::span<const std::string_view> ownWords);
 

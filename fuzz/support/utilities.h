@@ -25,6 +25,6 @@ constexpr std::size_t kAnsweredControllers = 4;
 // How many texts of an input answer for the utility.
 std::size_t AnswerCount(const Utility& utility);
 
-// Where among them the answer to a command stands: by controllers, then in the order of the commands. Ends the program
+// Where among them the answer to a command is: by controllers, then in the order of the commands. Ends the program
 // for a command that the utility is not to be run with.
 std::size_t AnswerPlace(const Utility& utility, const std::vector<std::string>& arguments);

@@ -15,23 +15,23 @@
 
 namespace {
 
-class QcmdrunConfigurationWalk : public testing::Test {
+class QcmdrunReadConfiguration : public testing::Test {
  protected:
-  QcmdrunConfigurationWalk() { controller_.ControllerNum = "3"; }
+  QcmdrunReadConfiguration() { controller_.ControllerNum = "3"; }
 
-  void AttachLogicalDrives(const std::string& text) {
+  void ReadLogicalDrives(const std::string& text) {
     CollectedData scanner(&log_, CrLf(text));
-    qcmdrun::AttachLogicalDrives(controller_, scanner);
+    qcmdrun::ReadLogicalDrives(controller_, scanner);
   }
 
-  void AttachStripeOrders(const std::string& text) {
+  void ReadStripeOrders(const std::string& text) {
     CollectedData scanner(&log_, CrLf(text));
-    qcmdrun::AttachStripeOrders(controller_, scanner);
+    qcmdrun::ReadStripeOrders(controller_, scanner);
   }
 
-  bool AttachPhysicalDevices(const std::string& text) {
+  bool ReadPhysicalDevices(const std::string& text) {
     CollectedData scanner(&log_, CrLf(text));
-    return qcmdrun::AttachPhysicalDevices(controller_, scanner);
+    return qcmdrun::ReadPhysicalDevices(controller_, scanner);
   }
 
   std::vector<std::string> DriveNumbers() const {
@@ -67,10 +67,9 @@ Access blocked : No
 Part of array : A
 )";
 
-TEST_F(QcmdrunConfigurationWalk, AttachesDrivesForAsLongAsLinesWithANumberFollow) {
-  AttachLogicalDrives("Logical drive information\n-----\n  Logical drive number 1\n" + kDrive +
-                      "  Logical drive number 12\n" + kDrive + "-----\n  Logical drive number 3\n" + kDrive +
-                      "-----\n");
+TEST_F(QcmdrunReadConfiguration, AttachesDrivesForAsLongAsLinesWithANumberFollow) {
+  ReadLogicalDrives("Logical drive information\n-----\n  Logical drive number 1\n" + kDrive +
+                    "  Logical drive number 12\n" + kDrive + "-----\n  Logical drive number 3\n" + kDrive + "-----\n");
   EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{"1", "12"}));
   EXPECT_EQ(controller_.LogicalDevices[1]->ControllerNum, "3");
   EXPECT_EQ(log_.entries, (Entries{
@@ -79,34 +78,34 @@ TEST_F(QcmdrunConfigurationWalk, AttachesDrivesForAsLongAsLinesWithANumberFollow
   }));
 }
 
-TEST_F(QcmdrunConfigurationWalk, UsesTheNumberBeforeForALineWithoutABlankBehindTheLabel) {
-  AttachLogicalDrives("Logical drive information\n-----\nLogical drive number: 9\n" + kDrive +
-                      "Logical drive number 4\n" + kDrive + "Logical drive number: 5\n" + kDrive + "-----\n");
+TEST_F(QcmdrunReadConfiguration, UsesTheNumberBeforeForALineWithoutABlankBehindTheLabel) {
+  ReadLogicalDrives("Logical drive information\n-----\nLogical drive number: 9\n" + kDrive +
+                    "Logical drive number 4\n" + kDrive + "Logical drive number: 5\n" + kDrive + "-----\n");
   EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{"", "4", "4"}));
 }
 
-TEST_F(QcmdrunConfigurationWalk, StartsTheNumberBeforeAnewForEachController) {
-  AttachLogicalDrives("Logical drive information\n-----\nLogical drive number 4\n" + kDrive + "-----\n");
+TEST_F(QcmdrunReadConfiguration, StartsTheNumberBeforeAnewForEachController) {
+  ReadLogicalDrives("Logical drive information\n-----\nLogical drive number 4\n" + kDrive + "-----\n");
   controller_.LogicalDevices.clear();
-  AttachLogicalDrives("Logical drive information\n-----\nLogical drive number: 9\n" + kDrive + "-----\n");
+  ReadLogicalDrives("Logical drive information\n-----\nLogical drive number: 9\n" + kDrive + "-----\n");
   EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{""}));
 }
 
-TEST_F(QcmdrunConfigurationWalk, AttachesNoDriveWithoutTheSection) {
-  AttachLogicalDrives("Controller information\n-----\nLogical drive number 1\n" + kDrive + "-----\n");
+TEST_F(QcmdrunReadConfiguration, AttachesNoDriveWithoutTheSection) {
+  ReadLogicalDrives("Controller information\n-----\nLogical drive number 1\n" + kDrive + "-----\n");
   EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{}));
   EXPECT_EQ(log_.entries, (Entries{
                               {3, "Parsing for QCMRUN logical drive information\n"}
   }));
 }
 
-TEST_F(QcmdrunConfigurationWalk, AttachesNoDriveWhereTheNumberIsNotOnTheSecondLine) {
-  AttachLogicalDrives("Logical drive information\n-----\n\nLogical drive number 1\n" + kDrive + "-----\n");
+TEST_F(QcmdrunReadConfiguration, AttachesNoDriveWhereTheNumberIsNotOnTheSecondLine) {
+  ReadLogicalDrives("Logical drive information\n-----\n\nLogical drive number 1\n" + kDrive + "-----\n");
   EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{}));
 }
 
-TEST_F(QcmdrunConfigurationWalk, AttachesStripeOrdersThatFollowOneAnother) {
-  AttachStripeOrders(R"(Array information
+TEST_F(QcmdrunReadConfiguration, AttachesStripeOrdersThatFollowOneAnother) {
+  ReadStripeOrders(R"(Array information
   Array A stripe order (Channel/SCSI ID) : 1,0 1,1
                                            1,2
   Array B stripe order (Channel/SCSI ID) : 2,0
@@ -126,8 +125,8 @@ TEST_F(QcmdrunConfigurationWalk, AttachesStripeOrdersThatFollowOneAnother) {
   }));
 }
 
-TEST_F(QcmdrunConfigurationWalk, AttachesNoStripeOrderWithoutItsLabel) {
-  AttachStripeOrders("Array A stripe order : 1,0\nend\n");
+TEST_F(QcmdrunReadConfiguration, AttachesNoStripeOrderWithoutItsLabel) {
+  ReadStripeOrders("Array A stripe order : 1,0\nend\n");
   EXPECT_TRUE(controller_.StripeOrders.empty());
   EXPECT_EQ(log_.entries, (Entries{
                               {3, "Parse For  QCMDRUN Stripe Order\n"}
@@ -142,9 +141,9 @@ std::string Device(const std::string& id) {
 const std::string kSection = "Physical device information\n-----\n";
 const std::string kEnd = "Command completed successfully.\n";
 
-TEST_F(QcmdrunConfigurationWalk, ReadsTheDevicesOfEveryChannelWithItsNumber) {
-  EXPECT_TRUE(AttachPhysicalDevices(kSection + "  Channel #1:\n  Initiator\n" + Device("0") + Device("5") +
-                                    "  Channel #2:\n  Initiator\n" + Device("3") + kEnd));
+TEST_F(QcmdrunReadConfiguration, ReadsTheDevicesOfEveryChannelWithItsNumber) {
+  EXPECT_TRUE(ReadPhysicalDevices(kSection + "  Channel #1:\n  Initiator\n" + Device("0") + Device("5") +
+                                  "  Channel #2:\n  Initiator\n" + Device("3") + kEnd));
   EXPECT_EQ(Devices(), (std::vector<std::string>{"1/0", "1/5", "2/3"}));
   EXPECT_EQ(controller_.PhysicalDevices[0]->ControllerNum, "3");
   EXPECT_EQ(log_.entries, (Entries{
@@ -152,7 +151,7 @@ TEST_F(QcmdrunConfigurationWalk, ReadsTheDevicesOfEveryChannelWithItsNumber) {
   }));
 }
 
-TEST_F(QcmdrunConfigurationWalk, WalksOverStrayLinesOneByOne) {
+TEST_F(QcmdrunReadConfiguration, WalksOverStrayLinesOneByOne) {
   struct Case {
     std::string name;
     std::string text;
@@ -175,33 +174,33 @@ TEST_F(QcmdrunConfigurationWalk, WalksOverStrayLinesOneByOne) {
   for (const Case& walkCase : cases) {
     SCOPED_TRACE(walkCase.name);
     controller_.PhysicalDevices.clear();
-    EXPECT_TRUE(AttachPhysicalDevices(kSection + walkCase.text));
+    EXPECT_TRUE(ReadPhysicalDevices(kSection + walkCase.text));
     EXPECT_EQ(Devices(), walkCase.devices);
   }
 }
 
-TEST_F(QcmdrunConfigurationWalk, SaysWhenThereIsNoDeviceSection) {
-  EXPECT_FALSE(AttachPhysicalDevices("Channel #1:\nInitiator\n" + Device("0") + kEnd));
+TEST_F(QcmdrunReadConfiguration, SaysWhenThereIsNoDeviceSection) {
+  EXPECT_FALSE(ReadPhysicalDevices("Channel #1:\nInitiator\n" + Device("0") + kEnd));
   EXPECT_TRUE(controller_.PhysicalDevices.empty());
 }
 
-TEST_F(QcmdrunConfigurationWalk, FailsWhereASectionIsCutOff) {
-  EXPECT_THROW(AttachLogicalDrives("Logical drive information\n"), std::out_of_range);
-  EXPECT_THROW(AttachLogicalDrives("Logical drive information\n-----\nLogical drive number 1\n"), std::out_of_range);
-  EXPECT_THROW(AttachStripeOrders("A stripe order (Channel/SCSI ID) : 1,0\n"), std::out_of_range);
-  EXPECT_THROW(AttachPhysicalDevices(kSection + "Channel #1:\nInitiator\n" + Device("0")), std::out_of_range);
+TEST_F(QcmdrunReadConfiguration, FailsWhereASectionIsCutOff) {
+  EXPECT_THROW(ReadLogicalDrives("Logical drive information\n"), std::out_of_range);
+  EXPECT_THROW(ReadLogicalDrives("Logical drive information\n-----\nLogical drive number 1\n"), std::out_of_range);
+  EXPECT_THROW(ReadStripeOrders("A stripe order (Channel/SCSI ID) : 1,0\n"), std::out_of_range);
+  EXPECT_THROW(ReadPhysicalDevices(kSection + "Channel #1:\nInitiator\n" + Device("0")), std::out_of_range);
 }
 
-TEST_F(QcmdrunConfigurationWalk, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay) {
+TEST_F(QcmdrunReadConfiguration, ReadsAnAnswerCutAtAnyByteOrFailsInTheStatedWay) {
   const std::string text = SampleAnswer("qcmdrun/1/getconfig-al");
   std::size_t most = 0;
   for (std::size_t length = 0; length <= text.size(); ++length) {
     controller_ = ZenxController(&log_);
     CollectedData scanner(&log_, text.substr(0, length));
     try {
-      qcmdrun::AttachLogicalDrives(controller_, scanner);
-      qcmdrun::AttachStripeOrders(controller_, scanner);
-      qcmdrun::AttachPhysicalDevices(controller_, scanner);
+      qcmdrun::ReadLogicalDrives(controller_, scanner);
+      qcmdrun::ReadStripeOrders(controller_, scanner);
+      qcmdrun::ReadPhysicalDevices(controller_, scanner);
     } catch (const std::out_of_range&) {
       EXPECT_LT(length, text.size());
     }

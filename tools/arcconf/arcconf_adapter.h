@@ -1,7 +1,8 @@
 #pragma once
 
+#include <string>
+
 #include "collect/records.h"
-#include "collect/tool_runner.h"
 
 // Collects the controllers that arcconf answers for.
 class ArcconfData {
@@ -16,9 +17,6 @@ class ArcconfData {
   RawDataList GetRawData() const { return rawData_; }
 
  private:
-  void RecordOutputs();
-  void RecordOutput(const ToolCommand& command, unsigned controllerNumber);
-  void ParseControllers(unsigned firstControllerNumber);
   void ParseConfig(std::string config, unsigned controllerNumber);
 
   ControllerList controllers_;

@@ -3,6 +3,8 @@
 #include "collect/ascii_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/model_table.h"
+#include "collect/tool.h"
+#include "tools/arcconf/labels.h"
 
 namespace arcconf {
 namespace {
@@ -20,48 +22,22 @@ constexpr ModelName kModels[] = {
     {"A2",                "Zentraxis-A2"  },
 };
 
-// A label that counts anywhere is taken from the first line of the report that contains it.
-constexpr Section kAnywhere = {};
-// Temperature and status are printed of other things too: drives, enclosures, batteries.
-constexpr Section kController = {"Controller information", "Controller Version Information"};
-constexpr Section kBattery = {"Controller Battery Information", "Controller Vital Product Data"};
-
-struct SectionField {
-  std::string_view label;
-  std::string ZenxController::*field;
+struct SectionLabels {
   Section section;
+  LabelTable<ZenxController> labels;
 };
 
-constexpr SectionField kFields[] = {
-    {"Controller Status",               &ZenxController::ControllerStatus,          kAnywhere  },
-    {"Channel description",             &ZenxController::ChannelDescription,        kAnywhere  },
-    {"Controller Serial Number",        &ZenxController::SerialNum,                 kAnywhere  },
-    {"Physical Slot",                   &ZenxController::ControllerSlotInfo,        kAnywhere  },
-    {"Temperature",                     &ZenxController::ControllerTemp,            kController},
-    {"Installed memory",                &ZenxController::InstalledMemory,           kAnywhere  },
-    {"Copyback",                        &ZenxController::CopyBackEnabled,           kAnywhere  },
-    {"Data scrubbing",                  &ZenxController::DataScrubbing,             kAnywhere  },
-    {"Defunct disk drive count",        &ZenxController::DefunctDiskDriveCnt,       kAnywhere  },
-    {"Logical drives/Offline/Critical", &ZenxController::LogicalDriveStatusCnt,     kAnywhere  },
-    {"BIOS",                            &ZenxController::BiosVersion,               kAnywhere  },
-    {"Firmware",                        &ZenxController::FirmwareVersion,           kAnywhere  },
-    {"Driver",                          &ZenxController::DeviceDriverVersion,       kAnywhere  },
-    {"Boot",                            &ZenxController::BootBlockVersion,          kAnywhere  },
-    {"Status",                          &ZenxController::ControllerBatteryStatus,   kBattery   },
-    {"Over temperature",                &ZenxController::ControllerBatteryOverTemp, kAnywhere  },
-    {"Capacity",                        &ZenxController::ControllerBatteryCapacity, kAnywhere  },
-    {"Time remaining",                  &ZenxController::BatteryTimeRemaining,      kAnywhere  },
-    {"VPD Assigned#",                   &ZenxController::VPD,                       kAnywhere  },
-    {"EC Version#",                     &ZenxController::ECVersion,                 kAnywhere  },
-    {"Controller FRU#",                 &ZenxController::ControllerFRU,             kAnywhere  },
-    {"Battery FRU#",                    &ZenxController::ControllerBatteryFRU,      kAnywhere  },
+constexpr SectionLabels kSections[] = {
+    {{},                                                                  kController       },
+    {{kControllerHeading, "Controller Version Information"},              kControllerSection},
+    {{"Controller Battery Information", "Controller Vital Product Data"}, kBatterySection   },
 };
 
-// A model wins over a type; onboard controllers have been seen that name neither.
+// Onboard controllers have been seen that name neither.
 std::string_view ControllerType(std::string_view config) {
-  const std::string_view model = NameOfModel(GetSectionValue("Controller Model", config), kModels);
+  const std::string_view model = NameOfModel(GetSectionValue(kModel.label, config), kModels);
   if (!model.empty()) return model;
-  const std::string_view type = GetSectionValue("Controller type", config);
+  const std::string_view type = GetSectionValue(kType.label, config);
   return type.empty() ? "Unnamed HostRAID" : type;
 }
 
@@ -69,9 +45,11 @@ std::string_view ControllerType(std::string_view config) {
 
 void ParseController(ZenxController& controller, std::string_view config, unsigned controllerNumber) {
   controller.ControllerNum = std::to_string(controllerNumber);
-  if (!Contains(config, "Controller information")) return;
+  if (!Contains(config, kControllerHeading)) return;
   controller.ControllerType = ControllerType(config);
-  for (const auto& [label, field, section] : kFields) controller.*field = GetSectionValue(label, config, section);
+  for (const auto& [section, labels] : kSections) {
+    for (const auto& row : labels) controller.*row.field = GetSectionValue(row.label, config, section);
+  }
   controller.Parsed = true;
 }
 

@@ -4,56 +4,10 @@
 #include "collect/end_of_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/tool_text.h"
+#include "tools/arcconf/labels.h"
 
 namespace arcconf {
 namespace {
-
-using Device = ZenxPhysicalDevice;
-
-constexpr LabelledField<Device> kUnknown[] = {
-    {"State",            &Device::State          },
-    {"Reported Channel", &Device::ReportedChannel},
-    {"Vendor",           &Device::Vendor         },
-    {"Model",            &Device::Model          },
-    {"Firmware",         &Device::Firmware       },
-};
-
-constexpr LabelledField<Device> kEnclosure[] = {
-    {"State",            &Device::State          },
-    {"Transfer Speed",   &Device::TransferSpeed  },
-    {"Reported Channel", &Device::ReportedChannel},
-    {"Enclosure ID",     &Device::EnclosureId    },
-    {"Type",             &Device::Type           },
-    {"Vendor",           &Device::Vendor         },
-    {"Model",            &Device::Model          },
-    {"Firmware",         &Device::Firmware       },
-};
-
-constexpr LabelledField<Device> kEnclosureStatus[] = {
-    {"Temperature", &Device::Temperature},
-};
-
-constexpr LabelledField<Device> kHardDriveState[] = {
-    {"State", &Device::State},
-};
-
-constexpr LabelledField<Device> kHardDrive[] = {
-    {"Supported",          &Device::Supported       },
-    {"Transfer Speed",     &Device::TransferSpeed   },
-    {"Reported Channel",   &Device::ReportedChannel },
-    {"Reported Enclosure", &Device::Enclosure       },
-    {"Reported Location",  &Device::ReportedLocation},
-    {"Reported ESD",       &Device::ReportedESD     },
-    {"Vendor",             &Device::Vendor          },
-    {"Model",              &Device::Model           },
-    {"Firmware",           &Device::Firmware        },
-    {"Serial",             &Device::DeviceSerialNum },
-    {"World-wide name",    &Device::WorldWideName   },
-    {"Size",               &Device::Size            },
-    {"Write Cache",        &Device::WriteCache      },
-    {"FRU",                &Device::FRU             },
-    {"PFA",                &Device::PFA             },
-};
 
 void ReadUnknown(Device& device, CollectedData& text) { ReadInOrder(text, device, kUnknown); }
 
@@ -64,9 +18,8 @@ void ReadEnclosure(Device& device, CollectedData& text) {
   ReadInOrder(text, device, kEnclosureStatus);
 }
 
-// "State : Hot Spare" and below it "Assigned Spare for : Logical drive 1" are one state.
 void ReadAssignedSpare(Device& device, CollectedData& text) {
-  const std::string_view spareFor = text.NextLineValueIf("Assigned Spare for");
+  const std::string_view spareFor = text.NextLineValueIf(kAssignedSpare[0].label);
   if (spareFor.empty()) return text.StepBack();
   Join(device.State, " for ", spareFor);
 }

@@ -7,7 +7,7 @@
 
 namespace arcconf {
 
-// Fills the device from the lines below "Device #N", on which the scanner stands, and leaves the scanner on the last of
+// Fills the device from the lines below "Device #N", on which the scanner is, and leaves the scanner on the last of
 // them. A text that ends before the device does leaves the fields that it has.
 void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::string_view controllerNumber,
                          std::string_view channel, std::string_view deviceName);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <string>
+
 #include "collect/records.h"
-#include "collect/tool_runner.h"
 #include "platform/os_version.h"
 
 // Collects the controllers that hrconf answers for.
@@ -19,9 +20,6 @@ class HrconfData {
   RawDataList GetRawData() const { return rawData_; }
 
  private:
-  void RecordOutputs();
-  void RecordOutput(const ToolCommand& command, unsigned controllerNumber);
-  void ParseControllers(unsigned firstControllerNumber);
   void ParseConfig(std::string config, unsigned toolNumber, unsigned controllerNumber);
   std::shared_ptr<ZenxHrConfBios> ReadVersions(unsigned toolNumber) const;
 

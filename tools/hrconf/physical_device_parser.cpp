@@ -4,45 +4,10 @@
 #include "collect/end_of_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/tool_text.h"
+#include "tools/hrconf/labels.h"
 
 namespace hrconf {
 namespace {
-
-using Device = ZenxPhysicalDevice;
-
-constexpr LabelledField<Device> kUnknown[] = {
-    {"State",            &Device::State          },
-    {"Reported Channel", &Device::ReportedChannel},
-    {"Vendor",           &Device::Vendor         },
-    {"Model",            &Device::Model          },
-    {"Firmware",         &Device::Firmware       },
-};
-
-constexpr LabelledField<Device> kEnclosure[] = {
-    {"State",            &Device::State          },
-    {"Transfer Speed",   &Device::TransferSpeed  },
-    {"Reported Channel", &Device::ReportedChannel},
-    {"Vendor",           &Device::Vendor         },
-    {"Model",            &Device::Model          },
-    {"Firmware",         &Device::Firmware       },
-};
-
-constexpr LabelledField<Device> kHardDrive[] = {
-    {"State",              &Device::State          },
-    {"Supported",          &Device::Supported      },
-    {"Transfer Speed",     &Device::TransferSpeed  },
-    {"Reported Channel",   &Device::ReportedChannel},
-    {"Reported Enclosure", &Device::Enclosure      },
-    {"Vendor",             &Device::Vendor         },
-    {"Model",              &Device::Model          },
-    {"Firmware",           &Device::Firmware       },
-    {"Serial number",      &Device::DeviceSerialNum},
-    {"World-wide name",    &Device::WorldWideName  },
-    {"Size",               &Device::Size           },
-    {"Write Cache",        &Device::WriteCache     },
-    {"FRU",                &Device::FRU            },
-    {"PFA",                &Device::PFA            },
-};
 
 struct Branch {
   std::string_view type;
@@ -71,7 +36,7 @@ void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::s
   device.Channel = channel;
   device.DeviceNumber = deviceName;
   UntilEndOfText([&] { ReadDevice(device, text); });
-  // Channel and device name stand together without a separator: "Controller: 0Device #1".
+  // Channel and device name are joined without a separator: "Controller: 0Device #1".
   device.DeviceIdSuffix.append("Controller: ").append(channel).append(deviceName);
 }
 

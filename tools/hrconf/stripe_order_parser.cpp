@@ -3,13 +3,14 @@
 #include "collect/ascii_text.h"
 #include "collect/end_of_text.h"
 #include "collect/stripe_order.h"
+#include "collect/tool_text.h"
 
 namespace hrconf {
 
 void ParseStripeOrder(ArrayStripeOrder& order, CollectedData& text, std::string_view controllerNumber,
                       std::string_view driveNumber) {
   order.ControllerNum = controllerNumber;
-  if (Contains(text.CurrentLine(), "Stripe order (Channel,Device)")) order.StripeOrder = text.ValueOfCurrentLine();
+  if (Contains(text.CurrentLine(), kStripeOrderLabel)) order.StripeOrder = text.ValueOfCurrentLine();
   UntilEndOfText([&] {
     while (ContinueList(text, order.StripeOrder)) {
     }

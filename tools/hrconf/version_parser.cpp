@@ -4,20 +4,15 @@
 
 #include "collect/ascii_text.h"
 #include "collect/labelled_fields.h"
-#include "collect/tool_answers.h"
 #include "plugin/host_interface/exception.h"
+#include "tools/hrconf/commands.h"
+#include "tools/hrconf/labels.h"
 
 namespace hrconf {
 namespace {
 
-// On the fifth and the sixth line of the answer, and nowhere else.
-constexpr LabelledField<ZenxHrConfBios> kVersions[] = {
-    {"BIOS",   &ZenxHrConfBios::BIOS,   Miss::kTakesLine},
-    {"Driver", &ZenxHrConfBios::Driver, Miss::kTakesLine},
-};
-
 void ReadVersions(ZenxHrConfBios& versions, CollectedData& text) {
-  if (Contains(text.CurrentLine(), kNoControllers)) return;
+  if (Contains(text.CurrentLine(), kTool.noneFound)) return;
   constexpr int kLinesOfHead = 3;
   for (int line = 0; line < kLinesOfHead; ++line) text.NextLine();
   ReadInOrder(text, versions, kVersions);

@@ -6,57 +6,45 @@
 #include "collect/ascii_text.h"
 #include "collect/labelled_fields.h"
 #include "collect/records.h"
+#include "tools/qcmdrun/labels.h"
 
 namespace qcmdrun {
 
 namespace {
 
-// Tapes and processors print only some of these lines.
-constexpr LabelledField<ZenxPhysicalDevice> kDevice[] = {
-    {"SCSI ID",                   &ZenxPhysicalDevice::ScsiId        },
-    {"PFA (Yes/No)",              &ZenxPhysicalDevice::PFA           },
-    {"State",                     &ZenxPhysicalDevice::State         },
-    {"Size (in MB)/(in sectors)", &ZenxPhysicalDevice::Size          },
-    {"Device ID",                 &ZenxPhysicalDevice::DeviceIdSuffix},
-};
-
-constexpr LabelledField<ZenxPhysicalDevice> kReplacementPart[] = {
-    {"FRU part number", &ZenxPhysicalDevice::FRU},
-};
-
-// Where a piece stands in the identifier of a hard disk. Offset 0 is the blank behind the colon.
+// Where a piece is in the identifier of a hard disk. Offset 0 is the blank after the colon.
 struct Piece {
   std::size_t offset;
   std::size_t length;
-  std::string ZenxPhysicalDevice::*field;
+  std::string Device::*field;
 };
 
-constexpr Piece kModel = {0, 16, &ZenxPhysicalDevice::Model};
+constexpr Piece kModel = {0, 16, &Device::Model};
 
 // " TALVERA T36LW10 S96H8B01234": firmware and serial number share a character.
 constexpr Piece kHardDiskPieces[] = {
-    {9,  8, &ZenxPhysicalDevice::DeviceCode     },
-    {17, 4, &ZenxPhysicalDevice::Firmware       },
-    {20, 8, &ZenxPhysicalDevice::DeviceSerialNum},
+    {9,  8, &Device::DeviceCode     },
+    {17, 4, &Device::Firmware       },
+    {20, 8, &Device::DeviceSerialNum},
 };
 
 // An identifier shorter than this, blank and line end counted, ends before the serial number does.
 constexpr std::size_t kFullIdentifier = 28;
 
 // Takes the piece out of the identifier; where that ends in it, what there is of it.
-void Cut(ZenxPhysicalDevice& device, const Piece& piece) {
+void Cut(Device& device, const Piece& piece) {
   const std::string_view identifier = device.DeviceIdSuffix;
   device.*piece.field = identifier.substr(piece.offset, piece.length);
 }
 
-void CutHardDisk(ZenxPhysicalDevice& device) {
+void CutHardDisk(Device& device) {
   Cut(device, kModel);
   if (device.DeviceIdSuffix.size() < kFullIdentifier) return;
   for (const Piece& piece : kHardDiskPieces) Cut(device, piece);
 }
 
 // The last four characters of a tape's identifier, before the line end, are its firmware version.
-void CutTape(ZenxPhysicalDevice& device) {
+void CutTape(Device& device) {
   constexpr std::size_t kLineEnd = 2;
   constexpr std::size_t kFirmware = 4;
   const std::string_view identifier = device.DeviceIdSuffix;
@@ -69,14 +57,13 @@ void CutTape(ZenxPhysicalDevice& device) {
 
 // "     Device is a Hard disk": what follows the label, line end included.
 std::string_view CutType(std::string_view line) {
-  constexpr std::string_view kLabel = "Device is a";
-  const std::size_t label = line.find(kLabel);
-  return label == line.npos ? std::string_view() : line.substr(label + kLabel.size());
+  const std::size_t label = line.find(kDeviceTypeLabel);
+  return label == line.npos ? std::string_view() : line.substr(label + kDeviceTypeLabel.size());
 }
 
 }  // namespace
 
-void ParsePhysicalDevice(ZenxPhysicalDevice& device, CollectedData& text, std::string_view controllerNumber,
+void ParsePhysicalDevice(Device& device, CollectedData& text, std::string_view controllerNumber,
                          std::string_view channel) {
   device.ControllerNum = controllerNumber;
   device.Channel = channel;

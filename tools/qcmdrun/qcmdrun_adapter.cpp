@@ -1,63 +1,23 @@
 #include "tools/qcmdrun/qcmdrun_adapter.h"
 
-#include <string>
 #include <utility>
 
-#include "collect/ascii_text.h"
 #include "collect/line_scanner.h"
-#include "collect/tool_answers.h"
+#include "collect/recording_pass.h"
 #include "collect/tool_runner.h"
 #include "collect/tool_text.h"
 #include "logs/statistics_parsers.h"
 #include "platform/device_setup.h"
 #include "plugin/host_interface/exception.h"
+#include "tools/qcmdrun/commands.h"
 #include "tools/qcmdrun/controller_parser.h"
 #include "tools/qcmdrun/read_configuration.h"
 #include "tools/qcmdrun/read_logs.h"
 #include "tools/qcmdrun/status_parser.h"
 
+using qcmdrun::kTool;
+
 namespace {
-
-// A failed run yields text, so that it is neither taken for the end of the controllers nor passed over in the record.
-constexpr Tool kTool = {
-    .path = "zenx//qcmdrun.exe",
-    .logPrefix = " QCMDRUN is using Spawnprocess. Controller# :",
-    .abortText = "Qcmdrun aborted: ",
-    .failedOutput = "not valid data - ",
-};
-
-constexpr ToolCommand kGetConfig = {"getconfig", "al"};
-constexpr ToolCommand kGetStatus = {"getstatus", "device"};
-constexpr ToolCommand kGetBadStripes = {"getbst", "device"};
-constexpr ToolCommand kGetDeviceEvents = {"getevent", "device"};
-constexpr ToolCommand kGetDddEvents = {"getevent", "ddd"};
-constexpr ToolCommand kGetSoftEvents = {"getevent", "soft"};
-constexpr ToolCommand kGetHardEvents = {"getevent", "hard"};
-constexpr ToolCommand kGetSubStats = {"getsubstat", "device"};
-
-constexpr ToolCommand kRecorded[] = {
-    kGetConfig,    kGetStatus,     kGetBadStripes, kGetDeviceEvents,
-    kGetDddEvents, kGetSoftEvents, kGetHardEvents, kGetSubStats,
-};
-
-struct LogCommand {
-  ToolCommand command;
-  void (*attach)(ZenxController& controller, CollectedData& text);
-};
-
-constexpr LogCommand kLogs[] = {
-    {kGetDeviceEvents, qcmdrun::AttachDeviceEvents},
-    {kGetDddEvents,    qcmdrun::AttachDddEvents   },
-    {kGetSoftEvents,   qcmdrun::SetSoftEvents     },
-    {kGetHardEvents,   qcmdrun::SetHardEvents     },
-    {kGetSubStats,     qcmdrun::AttachSubStats    },
-};
-
-// No controller has this number or a higher one.
-constexpr std::string_view kNoneFound = "Found 0 KVR Zentraxis controller(s)";
-
-// No controller has this number; a higher one may be in use.
-constexpr std::string_view kAborted = "Command aborted";
 
 // Text without a number counts as slot 0.
 unsigned SlotNumber(const ZenxController& controller) {
@@ -68,57 +28,42 @@ unsigned SlotNumber(const ZenxController& controller) {
 
 QcmdrunParsers::QcmdrunParsers() : status(qcmdrun::ParseStatus), badStripe(ParseBadStripe) {}
 
-// Two passes over the utility: what is recorded is what it says at one time, whatever the parsing makes of it.
 void QcmdrunData::Collect(unsigned firstControllerNumber) {
-  RecordAnswers();
+  rawData_ = RecordOutputs(kTool, host_, [] { return kTool.recorded; });
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
-    if (CollectController(number, firstControllerNumber) == Next::kStop) return;
-  }
-}
-
-// The record names the utility's own number, which is the one to ask it with.
-void QcmdrunData::RecordAnswers() {
-  for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
-    const std::string configuration = RunTool(kTool, host_, kGetConfig, number);
-    if (Contains(configuration, kNoneFound)) return;
-    if (Contains(configuration, kAborted)) continue;
-    for (const ToolCommand& command : kRecorded) {
-      const std::string output = RunTool(kTool, host_, command, number);
-      if (output.empty()) continue;
-      rawData_.push_back(std::make_shared<ZenxRawData>(kTool.path, command.command, number, command.option, output));
-    }
+    Log(host_, kLogRoutine, "Looking for QCMRUN controller");
+    std::string config = RunTool(kTool, host_, kGetConfig, number);
+    const ControllerNumber read = ReadControllerNumber(kTool, config);
+    if (read == ControllerNumber::kNoneFromHereOn) return;
+    if (read == ControllerNumber::kNotInUse || config.empty()) continue;
+    if (ParseConfig(std::move(config), number, firstControllerNumber + number) == Next::kStop) return;
   }
 }
 
 // A controller without a list of devices gets its logs read but is not kept.
-QcmdrunData::Next QcmdrunData::CollectController(unsigned utilityNumber, unsigned firstControllerNumber) {
-  Log(host_, kLogRoutine, "Looking for QCMRUN controller");
-  std::string configuration = RunTool(kTool, host_, kGetConfig, utilityNumber);
-  if (Contains(configuration, kNoneFound)) return Next::kStop;
-  if (Contains(configuration, kAborted) || configuration.empty()) return Next::kGoOn;
-
+QcmdrunData::Next QcmdrunData::ParseConfig(std::string config, unsigned toolNumber, unsigned controllerNumber) {
   Log(host_, kLogRoutine, "configData is not empty!\n");
-  CollectedData text(host_, std::move(configuration));
-  if (text.FindLine("Controller information").empty()) return Next::kGoOn;
+  CollectedData text(host_, std::move(config));
+  if (text.FindLine(kControllerHeading).empty()) return Next::kGoOn;
   Log(host_, kLogRoutine, "Found QCMRUN Controller information");
   const auto controller = std::make_shared<ZenxController>(host_);
-  qcmdrun::ParseController(*controller, text.WholeText(), firstControllerNumber + utilityNumber);
+  qcmdrun::ParseController(*controller, text.WholeText(), controllerNumber);
   if (!controller->Parsed) return Next::kGoOn;
   controller->SlotDeviceId = LookupSlotDevice(host_, SlotNumber(*controller));
 
-  qcmdrun::AttachLogicalDrives(*controller, text);
-  qcmdrun::AttachStripeOrders(*controller, text);
-  if (qcmdrun::AttachPhysicalDevices(*controller, text)) {
-    if (!ReadStatus(*controller, utilityNumber)) return Next::kStop;
+  qcmdrun::ReadLogicalDrives(*controller, text);
+  qcmdrun::ReadStripeOrders(*controller, text);
+  if (qcmdrun::ReadPhysicalDevices(*controller, text)) {
+    if (!ReadStatus(*controller, toolNumber)) return Next::kStop;
     controllers_.push_back(controller);
   }
-  AttachLogs(*controller, utilityNumber);
+  ReadLogs(*controller, toolNumber);
   return Next::kGoOn;
 }
 
 // False: the status was rejected.
-bool QcmdrunData::ReadStatus(ZenxController& controller, unsigned utilityNumber) const {
-  std::string output = RunTool(kTool, host_, kGetStatus, utilityNumber);
+bool QcmdrunData::ReadStatus(ZenxController& controller, unsigned toolNumber) const {
+  std::string output = RunTool(kTool, host_, qcmdrun::kGetStatus, toolNumber);
   if (output.empty()) return true;
   CollectedData text(host_, std::move(output));
   try {
@@ -131,11 +76,11 @@ bool QcmdrunData::ReadStatus(ZenxController& controller, unsigned utilityNumber)
 }
 
 // An empty answer has no table in it.
-void QcmdrunData::AttachLogs(ZenxController& controller, unsigned utilityNumber) const {
-  CollectedData badStripes(host_, RunTool(kTool, host_, kGetBadStripes, utilityNumber));
-  qcmdrun::AttachBadStripes(controller, badStripes, parsers_.badStripe);
-  for (const LogCommand& log : kLogs) {
-    CollectedData text(host_, RunTool(kTool, host_, log.command, utilityNumber));
-    log.attach(controller, text);
+void QcmdrunData::ReadLogs(ZenxController& controller, unsigned toolNumber) const {
+  CollectedData badStripes(host_, RunTool(kTool, host_, qcmdrun::kGetBadStripes, toolNumber));
+  qcmdrun::ReadBadStripes(controller, badStripes, parsers_.badStripe);
+  for (const auto& [command, read] : qcmdrun::kLogs) {
+    CollectedData text(host_, RunTool(kTool, host_, command, toolNumber));
+    read(controller, text);
   }
 }

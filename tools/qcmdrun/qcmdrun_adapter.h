@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "collect/records.h"
@@ -30,10 +31,9 @@ class QcmdrunData {
  private:
   enum class Next { kGoOn, kStop };
 
-  void RecordAnswers();
-  Next CollectController(unsigned utilityNumber, unsigned firstControllerNumber);
-  bool ReadStatus(ZenxController& controller, unsigned utilityNumber) const;
-  void AttachLogs(ZenxController& controller, unsigned utilityNumber) const;
+  Next ParseConfig(std::string config, unsigned toolNumber, unsigned controllerNumber);
+  bool ReadStatus(ZenxController& controller, unsigned toolNumber) const;
+  void ReadLogs(ZenxController& controller, unsigned toolNumber) const;
 
   ControllerList controllers_;
   RawDataList rawData_;

@@ -3,10 +3,11 @@
 #include <string>
 
 #include "collect/ascii_text.h"
-#include "collect/line_scanner.h"
 #include "collect/records.h"
-#include "collect/tool_answers.h"
+#include "collect/report_sections.h"
+#include "collect/tool.h"
 #include "collect/tool_text.h"
+#include "tools/qcmdrun/labels.h"
 #include "tools/qcmdrun/logical_drive_parser.h"
 #include "tools/qcmdrun/physical_device_parser.h"
 #include "tools/qcmdrun/stripe_order_parser.h"
@@ -15,12 +16,6 @@ namespace qcmdrun {
 
 namespace {
 
-// Behind a heading stands a rule; what it heads begins on the second line.
-void StepOverRule(CollectedData& text) {
-  text.NextLine();
-  text.NextLine();
-}
-
 // "   Channel #1:": the text between the two marks; "" without a colon.
 std::string CutChannel(std::string_view line) {
   const std::size_t begin = line.find('#') + 1;
@@ -28,7 +23,7 @@ std::string CutChannel(std::string_view line) {
   return std::string(colon == line.npos ? std::string_view() : line.substr(begin, colon - begin));
 }
 
-void AttachDevicesOfTargetLines(ZenxController& controller, CollectedData& text, const std::string& channel) {
+void ReadDevicesOfTargetLines(ZenxController& controller, CollectedData& text, const std::string& channel) {
   for (; Contains(text.CurrentLine(), "Target"); text.NextLine()) {
     auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
     ParsePhysicalDevice(*device, text, controller.ControllerNum, channel);
@@ -38,27 +33,27 @@ void AttachDevicesOfTargetLines(ZenxController& controller, CollectedData& text,
 
 }  // namespace
 
-void AttachLogicalDrives(ZenxController& controller, CollectedData& text) {
+void ReadLogicalDrives(ZenxController& controller, CollectedData& text) {
   constexpr std::string_view kLabelAndBlank = "Logical drive number ";
   Log(controller.Host, kLogRoutine, "Parsing for QCMRUN logical drive information\n");
-  if (text.FindLine("Logical drive information").empty()) return;
+  if (text.FindLine(kLogicalDriveSection).empty()) return;
   Log(controller.Host, kLogRoutine, "Found QCMDRUN Logical Drive Information\n");
   StepOverRule(text);
-  // A line without the blank behind the label gives no number of its own.
+  // A line without the blank after the label gives no number of its own.
   std::string number;
-  for (; Contains(text.CurrentLine(), "Logical drive number"); text.NextLine()) {
+  for (; Contains(text.CurrentLine(), kLogicalDriveHead); text.NextLine()) {
     const std::string_view line = text.CurrentLine();
     if (Contains(line, kLabelAndBlank)) number = CutLogicalDriveNumber(line, kLabelAndBlank);
     auto drive = std::make_shared<ZenxLogicalDevice>(controller.Host);
-    ParseLogicalDrive(*drive, text, number, controller.ControllerNum);
+    ParseLogicalDrive(*drive, text, controller.ControllerNum, number);
     controller.LogicalDevices.push_back(std::move(drive));
   }
 }
 
-void AttachStripeOrders(ZenxController& controller, CollectedData& text) {
+void ReadStripeOrders(ZenxController& controller, CollectedData& text) {
   Log(controller.Host, kLogRoutine, "Parse For  QCMDRUN Stripe Order\n");
-  if (text.FindLine(kStripeOrderLabel).empty()) return;
-  for (; Contains(text.CurrentLine(), kStripeOrderLabel); text.NextLine()) {
+  if (text.FindLine(kArrayLabel).empty()) return;
+  for (; Contains(text.CurrentLine(), kArrayLabel); text.NextLine()) {
     Log(controller.Host, kLogRoutine, "Found QCMDRUN Stripe Order Data\n");
     auto order = std::make_shared<ArrayStripeOrder>(controller.Host);
     ParseStripeOrder(*order, text, controller.ControllerNum);
@@ -68,7 +63,7 @@ void AttachStripeOrders(ZenxController& controller, CollectedData& text) {
 
 // A line that is neither a channel's heading, nor a device's, nor the end costs itself alone, so that no stray line
 // makes the walk step over the end.
-bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text) {
+bool ReadPhysicalDevices(ZenxController& controller, CollectedData& text) {
   Log(controller.Host, kLogRoutine, "Parse For QCMDRUN Physical Devices\n");
   if (text.FindLine("Physical device information").empty()) return false;
   StepOverRule(text);
@@ -81,7 +76,7 @@ bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text) {
     } else if (!Contains(line, "Target")) {
       text.NextLine();
     }
-    AttachDevicesOfTargetLines(controller, text, channel);
+    ReadDevicesOfTargetLines(controller, text, channel);
   }
   return true;
 }

@@ -8,11 +8,11 @@ namespace qcmdrun {
 // Each finds its section in the answer to "getconfig" and attaches what it lists to the controller. A section that is
 // not there attaches nothing. Each throws std::out_of_range where the text ends before the section does.
 
-void AttachLogicalDrives(ZenxController& controller, CollectedData& text);
+void ReadLogicalDrives(ZenxController& controller, CollectedData& text);
 
-void AttachStripeOrders(ZenxController& controller, CollectedData& text);
+void ReadStripeOrders(ZenxController& controller, CollectedData& text);
 
 // Whether the answer has the section at all.
-bool AttachPhysicalDevices(ZenxController& controller, CollectedData& text);
+bool ReadPhysicalDevices(ZenxController& controller, CollectedData& text);
 
 }  // namespace qcmdrun

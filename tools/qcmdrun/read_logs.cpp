@@ -3,9 +3,10 @@
 #include "collect/ascii_text.h"
 #include "collect/line_scanner.h"
 #include "collect/records.h"
-#include "collect/tool_answers.h"
+#include "collect/tool.h"
 #include "logs/event_parsers.h"
 #include "logs/event_records.h"
+#include "logs/labels.h"
 #include "logs/statistics_parsers.h"
 #include "logs/statistics_records.h"
 #include "plugin/host_interface/exception.h"
@@ -14,15 +15,15 @@ namespace qcmdrun {
 
 namespace {
 
-// A line with it is none of a table's rows.
-constexpr std::string_view kRule = "-";
+// Part of the lines between the rows of a table, and of each line that counts bad stripes.
+constexpr std::string_view kDash = "-";
 
 }  // namespace
 
-void AttachBadStripes(ZenxController& controller, CollectedData& text, BadStripeParser parse) {
+void ReadBadStripes(ZenxController& controller, CollectedData& text, BadStripeParser parse) {
   if (text.FindLine("Get bad stripe information").empty()) return;
   try {
-    while (Contains(text.NextLine(), "-")) {
+    while (Contains(text.NextLine(), kDash)) {
       auto record = std::make_shared<ZenxBstData>(controller.Host);
       parse(*record, text, controller.ControllerNum);
       controller.BadStripes.push_back(std::move(record));
@@ -32,8 +33,8 @@ void AttachBadStripes(ZenxController& controller, CollectedData& text, BadStripe
   }
 }
 
-// Behind the title stand a rule, the heads of the columns and a rule.
-void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
+// After the title come a rule, the heads of the columns and a rule.
+void ReadDeviceEvents(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("Device event table:").empty()) return;
   constexpr int kLinesToFirstRow = 3;
   for (int line = 0; line < kLinesToFirstRow; ++line) text.NextLine();
@@ -41,19 +42,19 @@ void AttachDeviceEvents(ZenxController& controller, CollectedData& text) {
     const std::string_view line = text.CurrentLine();
     // The utility may print several tables.
     if (Contains(line, kCommandCompleted) || Contains(line, "Controller ")) return;
-    if (Contains(line, kRule)) continue;
+    if (Contains(line, kDash)) continue;
     auto record = std::make_shared<ZenxEventData>(controller.Host);
     ParseDeviceEvent(*record, text, controller.ControllerNum);
     controller.DeviceEvents.push_back(std::move(record));
   }
 }
 
-void AttachDddEvents(ZenxController& controller, CollectedData& text) {
+void ReadDddEvents(ZenxController& controller, CollectedData& text) {
   if (text.FindLine("+---").empty()) return;
   std::uint32_t entryNumber = 1;
   try {
     for (text.NextLine(); !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
-      if (Contains(text.CurrentLine(), kRule)) continue;
+      if (Contains(text.CurrentLine(), kDash)) continue;
       auto record = std::make_shared<ZenxEventDddData>(controller.Host);
       ParseDddRow(*record, text, controller.ControllerNum, entryNumber);
       controller.DddEvents.push_back(std::move(record));
@@ -64,22 +65,22 @@ void AttachDddEvents(ZenxController& controller, CollectedData& text) {
   }
 }
 
-void SetSoftEvents(ZenxController& controller, CollectedData& text) {
-  if (text.FindLine("Controller Soft Event Log").empty()) return;
+void ReadSoftEvents(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine(kSoftLogLabels[0].label).empty()) return;
   auto record = std::make_shared<ZenxEventSoftData>(controller.Host);
   ParseSoftLog(*record, text, controller.ControllerNum);
   controller.SoftEvents = std::move(record);
 }
 
-void SetHardEvents(ZenxController& controller, CollectedData& text) {
-  if (text.FindLine("Controller Hard Event Log").empty()) return;
+void ReadHardEvents(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine(kHardLogLabels[0].label).empty()) return;
   auto record = std::make_shared<ZenxEventHardData>(controller.Host);
   ParseHardLog(*record, text, controller.ControllerNum);
   controller.HardEvents = std::move(record);
 }
 
-void AttachSubStats(ZenxController& controller, CollectedData& text) {
-  if (text.FindLine("A:").empty()) return;
+void ReadSubStats(ZenxController& controller, CollectedData& text) {
+  if (text.FindLine(kSubStatLabels[0].label).empty()) return;
   for (; !Contains(text.CurrentLine(), kCommandCompleted); text.NextLine()) {
     auto record = std::make_shared<ZenxSubStatData>(controller.Host);
     ParseSubStat(*record, text, controller.ControllerNum);

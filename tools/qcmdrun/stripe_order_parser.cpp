@@ -5,6 +5,7 @@
 #include "collect/line_scanner.h"
 #include "collect/records.h"
 #include "collect/stripe_order.h"
+#include "tools/qcmdrun/labels.h"
 
 namespace qcmdrun {
 
@@ -14,7 +15,7 @@ namespace qcmdrun {
 void ParseStripeOrder(ArrayStripeOrder& order, CollectedData& text, std::string_view controllerNumber) {
   order.ControllerNum = controllerNumber;
   const std::string_view line = text.CurrentLine();
-  const std::size_t label = line.find(kStripeOrderLabel);
+  const std::size_t label = line.find(kArrayLabel);
   if (label == line.npos) return;
   order.Array = line.substr(label - 1, 1);
   order.CollectionID = fmt::format("Zentraxis{}Array{}", order.ControllerNum, order.Array);

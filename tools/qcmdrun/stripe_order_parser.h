@@ -7,10 +7,7 @@ struct ArrayStripeOrder;
 
 namespace qcmdrun {
 
-// What a line with the stripe order of an array contains, behind the array's letter.
-constexpr std::string_view kStripeOrderLabel = " stripe order (Channel/SCSI ID)";
-
-// Fills the stripe order from the current line and, where the list goes on there, the line behind it; the last line
+// Fills the stripe order from the current line and, where the list goes on there, the line after it; the last line
 // read is current afterwards. Throws std::out_of_range for a line that begins with the label, so names no array, and
 // where the text ends with the line.
 void ParseStripeOrder(ArrayStripeOrder& order, CollectedData& text, std::string_view controllerNumber);

@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
-#include <span>
 
-#include "host/hxahost/result/tool_names.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
+#include "tools/known_tools.h"
 
 namespace hxahost {
 
@@ -17,45 +16,16 @@ constexpr std::string_view kOutcomeWords[] = {"ok",      "refused",   "empty",  
                                               "cut off", "timed out", "not started"};
 static_assert(std::size(kOutcomeWords) == static_cast<std::size_t>(Outcome::kNotStarted) + 1);
 
-// The command that asks for a controller as a whole: its answer decides whether the plug-in takes the controller.
-constexpr std::string_view kProbe = "getconfig";
-constexpr std::string_view kControllerHeading = "Controller information";
-
-// Every answer of every utility ends in this line.
-constexpr std::string_view kClosing = "Command completed successfully";
-
 struct AnswerSign {
-  std::string_view text;
+  std::string_view Tool::*text;
   Outcome outcome;
 };
 
-constexpr AnswerSign kQcmdrunSigns[] = {
-    {"Found 0 KVR Zentraxis controller(s)", Outcome::kRefused},
-    {"Command aborted",                     Outcome::kRefused},
-};
-
-constexpr AnswerSign kHrconfSigns[] = {
-    {"Controllers found: 0",      Outcome::kRefused},
-    {"Invalid controller number", Outcome::kRefused},
-};
-
 // A driver that is too old for the utility keeps a controller from being read: it is there all the same.
-constexpr AnswerSign kArcconfSigns[] = {
-    {"Driver Update Required",    Outcome::kFailed },
-    {"Controllers found: 0",      Outcome::kRefused},
-    {"Invalid controller number", Outcome::kRefused},
-};
-
-struct Tool {
-  std::string_view name;
-  std::span<const AnswerSign> signs;
-  std::size_t mostRuns;  // with eight controllers
-};
-
-constexpr Tool kTools[] = {
-    {kQcmdrun, kQcmdrunSigns, 8 + 8 * 8 + 8 + 8 * 7},
-    {kHrconf,  kHrconfSigns,  8 + 8 * 3 + 8 + 8    },
-    {kArcconf, kArcconfSigns, 8 + 8 * 5 + 8        },
+constexpr AnswerSign kSigns[] = {
+    {&Tool::unreadable, Outcome::kFailed },
+    {&Tool::noneFound,  Outcome::kRefused},
+    {&Tool::notInUse,   Outcome::kRefused},
 };
 
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
@@ -72,11 +42,13 @@ std::string LineAt(std::string_view text, std::size_t place) {
 }
 
 // A log may quote any text; a complete answer to another command is no refusal for having it.
-const AnswerSign* FindSign(std::span<const AnswerSign> signs, bool isProbe, std::string_view output) {
-  if (!isProbe && Contains(output, kClosing)) return nullptr;
-  const auto sign =
-      std::ranges::find_if(signs, [output](const AnswerSign& each) { return Contains(output, each.text); });
-  return sign == signs.end() ? nullptr : &*sign;
+const AnswerSign* FindSign(const Tool& tool, bool isProbe, std::string_view output) {
+  if (!isProbe && Contains(output, kCommandCompleted)) return nullptr;
+  for (const AnswerSign& sign : kSigns) {
+    const std::string_view text = tool.*sign.text;
+    if (!text.empty() && Contains(output, text)) return &sign;
+  }
+  return nullptr;
 }
 
 std::string LastLine(std::string_view output) {
@@ -103,25 +75,25 @@ std::string ToolName(std::string_view path) {
 
 std::vector<std::string_view> KnownTools() {
   std::vector<std::string_view> names;
-  for (const Tool& tool : kTools) names.push_back(tool.name);
+  for (const auto& [tool, labels] : kKnownTools) names.push_back(tool.name);
   return names;
 }
 
 std::size_t MostRuns() {
   std::size_t runs = 0;
-  for (const Tool& tool : kTools) runs += tool.mostRuns;
+  for (const auto& [tool, labels] : kKnownTools) runs += ::MostRuns(tool);
   return runs;
 }
 
 ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output) {
   if (Trim(output).empty()) return {Outcome::kEmpty, "it wrote nothing"};
-  const auto* const known = std::ranges::find(kTools, tool, &Tool::name);
-  if (known == std::end(kTools)) return {};
-  const bool isProbe = !arguments.empty() && arguments.front() == kProbe;
-  if (const AnswerSign* const sign = FindSign(known->signs, isProbe, output)) {
-    return {sign->outcome, LineAt(output, output.find(sign->text))};
+  const auto* const known = std::ranges::find(kKnownTools, tool, [](const KnownTool& each) { return each.tool.name; });
+  if (known == std::end(kKnownTools)) return {};
+  const bool isProbe = !arguments.empty() && arguments.front() == kGetConfig.command;
+  if (const AnswerSign* const sign = FindSign(known->tool, isProbe, output)) {
+    return {sign->outcome, LineAt(output, output.find(known->tool.*sign->text))};
   }
-  if (!Contains(output, kClosing)) return {Outcome::kCutOff, "its last line is \"" + LastLine(output) + "\""};
+  if (!Contains(output, kCommandCompleted)) return {Outcome::kCutOff, "its last line is \"" + LastLine(output) + "\""};
   if (isProbe && !Contains(output, kControllerHeading)) {
     return {Outcome::kFailed, "its answer has no \"" + std::string(kControllerHeading) + "\""};
   }

@@ -41,7 +41,7 @@ std::string TypeCell(const PropertyDeclaration& property) {
 
 std::string OriginCell(const ClassDeclaration& declaration, const PropertyDeclaration& property) {
   std::string cell;
-  for (const std::string& line : OriginLines(declaration.name, property.name)) {
+  for (const std::string& line : OriginLines(declaration.name, property)) {
     cell += (cell.empty() ? "" : "<br>") + CellText(line);
   }
   return cell;

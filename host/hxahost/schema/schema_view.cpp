@@ -38,7 +38,7 @@ void WriteOrigins(std::ostream& out, const std::vector<std::string>& lines) {
 
 void WriteProperty(std::ostream& out, const ClassDeclaration& declaration, const PropertyDeclaration& property) {
   out << fmt::format("  [{}Description({})", property.isKey ? "Key, " : "", MofText(property.description));
-  WriteOrigins(out, OriginLines(declaration.name, property.name));
+  WriteOrigins(out, OriginLines(declaration.name, property));
   out << fmt::format("]\n  {} {}{};\n", MofType(property), property.name, property.isArray ? "[]" : "");
 }
 
