@@ -2,47 +2,28 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/filled_fields.h"
-#include "tests/support/label_checks.h"
+#include "tests/support/label_lines.h"
 #include "tests/support/tool_text.h"
+#include "tools/arcconf/labels.h"
 
 namespace {
 
-const Labels kLogicalDrive = {
-    {"Logical drive name",      "LogicalDriveName"  },
-    {"RAID level",              "RaidLevel"         },
-    {"Status of logical drive", "LogicalDriveStatus"},
-    {"Status of RAID 5EE",      "Raid5EEStatus"     },
-    {"Size",                    "Size"              },
-    {"Read-cache mode",         "ReadCacheStatus"   },
-    {"Write-cache mode",        "WriteCacheStatus"  },
-    {"Write-cache setting",     "WriteCacheSetting" },
-    {"Partitioned",             "Partitioned"       },
-    {"Number of segments",      "NumOfSegments"     },
-    {"Stripe-unit size",        "StripeUnitSize"    },
-    {"Drive(s)",                "DriveList"         },
-    {"Stripe order",            "StripeOrder"       },
-    {"Defunct segments",        "DefunctSegments"   },
-    {"Defunct stripes",         "DefunctStripes"    },
-};
+using arcconf::kLogicalDrive;
 
-std::set<std::string> Parsed(const std::string& lines) {
+ZenxLogicalDevice Parsed(const std::string& lines) {
   CollectedData text(nullptr, "Logical drive number 2\r\n" + lines);
   ZenxLogicalDevice drive(nullptr);
   arcconf::ParseLogicalDrive(drive, text, "5", "2");
-  std::set<std::string> fields = FilledFields(drive);
-  EXPECT_EQ(fields.erase("ControllerNum=5"), 1u);
-  EXPECT_EQ(fields.erase("LogicalDriveNum=2"), 1u);
-  return fields;
-}
-
-TEST(ArcconfLogicalDriveParser, ReadsItsLabelsInOrder) {
-  ExpectReadInOrder(kLogicalDrive, [](const std::string& lines) { return Parsed(lines + "end\r\n"); });
+  EXPECT_EQ(drive.ControllerNum, "5");
+  EXPECT_EQ(drive.LogicalDriveNum, "2");
+  return drive;
 }
 
 TEST(ArcconfLogicalDriveParser, FillsTheSizeAndTheLaterLabelsWithoutAStatusOfRaid5ee) {
-  EXPECT_EQ(Parsed(CrLf("   Status of logical drive : Optimal\n   Size : 100 MB\n   Partitioned : No\n\n")),
-            (std::set<std::string>{"LogicalDriveStatus= Optimal\r\n", "Size= 100 MB\r\n", "Partitioned= No\r\n"}));
+  const ZenxLogicalDevice drive = Parsed(CrLf("   Status of logical drive : Optimal\n   Size : 1 MB\n\n"));
+  EXPECT_EQ(drive.LogicalDriveStatus, " Optimal\r\n");
+  EXPECT_EQ(drive.Raid5EEStatus, "");
+  EXPECT_EQ(drive.Size, " 1 MB\r\n");
 }
 
 TEST(ArcconfLogicalDriveParser, StaysOnTheLastLineThatItRead) {
@@ -52,7 +33,7 @@ TEST(ArcconfLogicalDriveParser, StaysOnTheLastLineThatItRead) {
   EXPECT_EQ(text.CurrentLine(), "   Size : 100 MB\r\n");
 }
 
-TEST(ArcconfLogicalDriveParser, LeavesAStripeOrderBehindTheDefunctSegmentsToOthers) {
+TEST(ArcconfLogicalDriveParser, LeavesAStripeOrderAfterTheDefunctSegmentsToOthers) {
   CollectedData text(nullptr, CrLf("Logical drive number 2\n   Defunct segments : No\n   Stripe order : 0,1\n\n"));
   ZenxLogicalDevice drive(nullptr);
   arcconf::ParseLogicalDrive(drive, text, "5", "2");
@@ -60,18 +41,12 @@ TEST(ArcconfLogicalDriveParser, LeavesAStripeOrderBehindTheDefunctSegmentsToOthe
   EXPECT_EQ(text.NextLine(), "   Stripe order : 0,1\r\n");
 }
 
-TEST(ArcconfLogicalDriveParser, KeepsWhatStandsBeforeTheEndOfTheText) {
-  for (std::size_t end = 0; end <= kLogicalDrive.size(); ++end) {
-    std::string lines;
-    for (std::size_t row = 0; row < end; ++row) lines += LabelLine(kLogicalDrive, row);
-    const auto isBefore = [&](std::size_t row) { return row < end; };
-    EXPECT_EQ(Parsed(lines), FilledBy(kLogicalDrive, isBefore)) << end << " lines";
-    EXPECT_EQ(Parsed(lines + "   Siz"), FilledBy(kLogicalDrive, isBefore)) << end << " lines and a piece";
+TEST(ArcconfLogicalDriveParser, KeepsWhatIsBeforeTheEndOfTheText) {
+  for (std::size_t count = 0; count <= std::size(kLogicalDrive); ++count) {
+    SCOPED_TRACE(count);
+    ExpectFilled(Parsed(LabelLines(kLogicalDrive, count)), kLogicalDrive, count);
+    ExpectFilled(Parsed(LabelLines(kLogicalDrive, count) + "   Siz"), kLogicalDrive, count);
   }
-}
-
-TEST(ArcconfLogicalDriveParser, TakesALineWithoutAColonForAMiss) {
-  EXPECT_EQ(Parsed(CrLf("   Size\n   Partitioned : No\n")), std::set<std::string>());
 }
 
 }  // namespace

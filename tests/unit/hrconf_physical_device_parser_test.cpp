@@ -2,101 +2,60 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/filled_fields.h"
-#include "tests/support/label_checks.h"
+#include "tests/support/label_lines.h"
 #include "tests/support/tool_text.h"
+#include "tools/hrconf/labels.h"
 
 namespace {
 
-const Labels kUnknown = {
-    {"State",            "State"          },
-    {"Reported Channel", "ReportedChannel"},
-    {"Vendor",           "Vendor"         },
-    {"Model",            "Model"          },
-    {"Firmware",         "Firmware"       },
-};
+using hrconf::kHardDrive;
 
-const Labels kEnclosure = {
-    {"State",            "State"          },
-    {"Transfer Speed",   "TransferSpeed"  },
-    {"Reported Channel", "ReportedChannel"},
-    {"Vendor",           "Vendor"         },
-    {"Model",            "Model"          },
-    {"Firmware",         "Firmware"       },
-};
-
-const Labels kHardDrive = {
-    {"State",              "State"          },
-    {"Supported",          "Supported"      },
-    {"Transfer Speed",     "TransferSpeed"  },
-    {"Reported Channel",   "ReportedChannel"},
-    {"Reported Enclosure", "Enclosure"      },
-    {"Vendor",             "Vendor"         },
-    {"Model",              "Model"          },
-    {"Firmware",           "Firmware"       },
-    {"Serial number",      "DeviceSerialNum"},
-    {"World-wide name",    "WorldWideName"  },
-    {"Size",               "Size"           },
-    {"Write Cache",        "WriteCache"     },
-    {"FRU",                "FRU"            },
-    {"PFA",                "PFA"            },
-};
-
-std::set<std::string> Parsed(const std::string& lines) {
+ZenxPhysicalDevice Parsed(const std::string& lines) {
   CollectedData text(nullptr, "      Device #3\r\n" + lines);
   ZenxPhysicalDevice device(nullptr);
   hrconf::ParsePhysicalDevice(device, text, "5", "1", "Device #3\r\n");
-  std::set<std::string> fields = FilledFields(device);
-  EXPECT_EQ(fields.erase("ControllerNum=5"), 1u);
-  EXPECT_EQ(fields.erase("Channel=1"), 1u);
-  EXPECT_EQ(fields.erase("DeviceNumber=Device #3\r\n"), 1u);
-  EXPECT_EQ(fields.erase("DeviceIdSuffix=Controller: 1Device #3\r\n"), 1u);
-  return fields;
+  EXPECT_EQ(device.ControllerNum, "5");
+  EXPECT_EQ(device.Channel, "1");
+  EXPECT_EQ(device.DeviceNumber, "Device #3\r\n");
+  EXPECT_EQ(device.DeviceIdSuffix, "Controller: 1Device #3\r\n");
+  return device;
 }
 
-// The type line stands before the lines; the type itself is taken out of what they filled.
-ParseLines WithType(const std::string& article, const std::string& type) {
-  return [article, type](const std::string& lines) {
-    std::set<std::string> fields = Parsed("   Device is " + article + " " + type + "\r\n" + lines + "end\r\n");
-    EXPECT_EQ(fields.erase("DeviceType=" + type), 1u);
-    return fields;
+ZenxPhysicalDevice OfType(const std::string& type, const std::string& lines) {
+  return Parsed("   Device is " + type + "\r\n" + lines + "end\r\n");
+}
+
+TEST(HrconfPhysicalDeviceParser, ReadsTheLabelsOfItsType) {
+  const auto expectRead = [](const std::string& type, const auto& table) {
+    ExpectFilled(OfType(type, LabelLines(table)), table, std::size(table));
   };
-}
-
-TEST(HrconfPhysicalDeviceParser, ReadsTheLabelsOfAnUnknownDeviceInOrder) {
-  ExpectReadInOrder(kUnknown, WithType("a", "Unknown device"));
-}
-
-TEST(HrconfPhysicalDeviceParser, ReadsTheLabelsOfAnEnclosureInOrder) {
-  ExpectReadInOrder(kEnclosure, WithType("an", "Enclosure services device"));
-}
-
-TEST(HrconfPhysicalDeviceParser, ReadsTheLabelsOfAHardDriveInOrder) {
-  ExpectReadInOrder(kHardDrive, WithType("a", "Hard drive"));
+  expectRead("a Unknown device", hrconf::kUnknown);
+  expectRead("an Enclosure services device", hrconf::kEnclosure);
+  expectRead("a Hard drive", kHardDrive);
 }
 
 TEST(HrconfPhysicalDeviceParser, KeepsTheTypeAloneOfOtherDevices) {
-  EXPECT_EQ(WithType("a", "Tape drive")(CrLf("   State : Ready\n   Vendor : V\n")), std::set<std::string>());
+  const ZenxPhysicalDevice tape = OfType("a Tape drive", LabelLines(kHardDrive));
+  EXPECT_EQ(tape.DeviceType, "Tape drive");
+  ExpectFilled(tape, kHardDrive, 0);
 }
 
 TEST(HrconfPhysicalDeviceParser, DoesNotSplitTheReportedChannel) {
-  EXPECT_EQ(WithType("a", "Hard drive")(CrLf("   Reported Channel,Device : 0,3\n")),
-            (std::set<std::string>{"ReportedChannel= 0,3\r\n"}));
+  const ZenxPhysicalDevice drive = OfType("a Hard drive", CrLf("   Reported Channel,Device : 0,3\n"));
+  EXPECT_EQ(drive.ReportedChannel, " 0,3\r\n");
+  EXPECT_EQ(drive.ScsiId, "");
 }
 
 TEST(HrconfPhysicalDeviceParser, LooksForTheTypeOnTheNextLineAlone) {
-  EXPECT_EQ(Parsed(CrLf("\n   Device is a Hard drive\n   State : Online\nend\n")), std::set<std::string>());
+  ExpectFilled(Parsed(CrLf("\n   Device is a Hard drive\n   State : Online\nend\n")), kHardDrive, 0);
 }
 
-TEST(HrconfPhysicalDeviceParser, KeepsWhatStandsBeforeTheEndOfTheText) {
-  for (std::size_t end = 0; end <= kHardDrive.size(); ++end) {
-    std::string lines = "   Device is a Hard drive\r\n";
-    for (std::size_t row = 0; row < end; ++row) lines += LabelLine(kHardDrive, row);
-    std::set<std::string> expected = FilledBy(kHardDrive, [&](std::size_t row) { return row < end; });
-    expected.insert("DeviceType=Hard drive");
-    EXPECT_EQ(Parsed(lines + "   PF"), expected) << end;
+TEST(HrconfPhysicalDeviceParser, KeepsWhatIsBeforeTheEndOfTheText) {
+  for (std::size_t count = 0; count <= std::size(kHardDrive); ++count) {
+    SCOPED_TRACE(count);
+    ExpectFilled(Parsed("   Device is a Hard drive\r\n" + LabelLines(kHardDrive, count) + "   PF"), kHardDrive, count);
   }
-  EXPECT_EQ(Parsed(""), std::set<std::string>());
+  EXPECT_EQ(Parsed("").DeviceType, "");
 }
 
 TEST(HrconfPhysicalDeviceParser, PutsNothingBetweenChannelAndNameInTheIdentifier) {

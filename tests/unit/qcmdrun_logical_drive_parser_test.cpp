@@ -6,89 +6,69 @@
 
 #include "collect/line_scanner.h"
 #include "collect/records.h"
-#include "tests/support/table_cases.h"
+#include "tests/support/label_lines.h"
 #include "tests/support/tool_text.h"
+#include "tools/qcmdrun/labels.h"
 
 namespace {
 
-const FieldCases<ZenxLogicalDevice> kLabels = {
-    {"Status of logical drive", &ZenxLogicalDevice::LogicalDriveStatus   },
-    {"Additional information",  &ZenxLogicalDevice::AdditionalInformation},
-    {"RAID level",              &ZenxLogicalDevice::RaidLevel            },
-    {"Size (in MB)",            &ZenxLogicalDevice::Size                 },
-    {"Write cache status",      &ZenxLogicalDevice::WriteCacheStatus     },
-    {"Number of chunks",        &ZenxLogicalDevice::NumOfChunks          },
-    {"Stripe-unit size",        &ZenxLogicalDevice::StripeUnitSize       },
-    {"Access blocked",          &ZenxLogicalDevice::AccessBlocked        },
-    {"Part of array",           &ZenxLogicalDevice::PartOfArray          },
-    {"Part of merge group",     &ZenxLogicalDevice::PartOfMergeGroup     },
-};
-constexpr std::size_t kLast = 9;
+using qcmdrun::kLogicalDrive;
 
 struct Block {
-  std::vector<std::string> values;
+  ZenxLogicalDevice drive;
   std::string currentLine;  // after the block
 };
 
-Block Read(const std::vector<std::string>& lines) {
-  CollectedData text(nullptr, "Logical drive number 7\r\n" + Concatenated(lines) + "next\r\nlast\r\n");
+Block Read(const std::string& lines) {
+  CollectedData text(nullptr, CrLf("Logical drive number 7\n") + lines + CrLf("next\nlast\n"));
   ZenxLogicalDevice drive(nullptr);
-  qcmdrun::ParseLogicalDrive(drive, text, "7", "3");
-  EXPECT_EQ(drive.LogicalDriveNum, "7");
+  qcmdrun::ParseLogicalDrive(drive, text, "3", "7");
   EXPECT_EQ(drive.ControllerNum, "3");
-  return {FieldValues(drive, kLabels), std::string(text.CurrentLine())};
+  EXPECT_EQ(drive.LogicalDriveNum, "7");
+  return {drive, std::string(text.CurrentLine())};
 }
 
-std::vector<std::string> AllValues() { return NumberedValues(kLabels.size(), " ", "\r\n"); }
-
-TEST(QcmdrunLogicalDriveParser, ReadsEveryLabelIntoItsFieldAndStopsOnTheLastLine) {
-  const Block block = Read(LabelledLines(kLabels));
-  EXPECT_EQ(block.values, AllValues());
+TEST(QcmdrunLogicalDriveParser, ReadsEveryLabelAndStopsOnTheLastLine) {
+  const Block block = Read(LabelLines(kLogicalDrive));
+  ExpectFilled(block.drive, kLogicalDrive, std::size(kLogicalDrive));
   EXPECT_EQ(block.currentLine, "   Part of merge group : v9\r\n");
 }
 
-TEST(QcmdrunLogicalDriveParser, FillsTheRaidLevelFromTheLineBehindTheStatusWithoutAdditionalInformation) {
-  EXPECT_EQ(Read(Without(LabelledLines(kLabels), 1)).values, WithEmpty(AllValues(), 1, 1));
+TEST(QcmdrunLogicalDriveParser, FillsTheRaidLevelFromTheLineAfterTheStatusWithoutAdditionalInformation) {
+  const ZenxLogicalDevice drive = Read(CrLf("Status of logical drive : a\nRAID level : 5\nSize (in MB) : 1\n")).drive;
+  EXPECT_EQ(drive.LogicalDriveStatus, " a\r\n");
+  EXPECT_EQ(drive.RaidLevel, " 5\r\n");
+  EXPECT_EQ(drive.Size, " 1\r\n");
 }
 
 TEST(QcmdrunLogicalDriveParser, StaysOnTheArrayLineWithoutAMergeGroup) {
-  const Block block = Read(Without(LabelledLines(kLabels), kLast));
-  EXPECT_EQ(block.values, WithEmpty(AllValues(), kLast, kLast));
+  const Block block = Read(LabelLines(kLogicalDrive, 9));
+  ExpectFilled(block.drive, kLogicalDrive, 9);
   EXPECT_EQ(block.currentLine, "   Part of array : v8\r\n");
 }
 
 TEST(QcmdrunLogicalDriveParser, LosesTheAdditionalInformationToAMissingStatus) {
-  EXPECT_EQ(Read(Without(LabelledLines(kLabels), 0)).values, WithEmpty(AllValues(), 0, 1));
+  const ZenxLogicalDevice drive = Read(CrLf("Additional information : a\nRAID level : 5\n") + "x\nx\nx\nx\nx\n").drive;
+  EXPECT_EQ(drive.AdditionalInformation, "");
+  EXPECT_EQ(drive.RaidLevel, " 5\r\n");
 }
 
-// Each label behind the missing one takes the line of the one after it.
-TEST(QcmdrunLogicalDriveParser, LosesEveryLineBehindAMissingOneThatIsNotOptional) {
-  for (std::size_t missing = 2; missing < kLast; ++missing) {
-    SCOPED_TRACE(kLabels[missing].first);
-    EXPECT_EQ(Read(Without(LabelledLines(kLabels), missing)).values, WithEmpty(AllValues(), missing, kLast));
+// Each label after the missing one takes the line of the one after it.
+TEST(QcmdrunLogicalDriveParser, LosesEveryLineAfterAMissingOneThatIsNotOptional) {
+  for (std::size_t missing = 2; missing < std::size(kLogicalDrive) - 1; ++missing) {
+    SCOPED_TRACE(kLogicalDrive[missing].label);
+    std::string lines = LabelLines(kLogicalDrive);
+    const std::size_t begin = lines.find(kLogicalDrive[missing].label) - 3;
+    lines.erase(begin, lines.find('\n', begin) + 1 - begin);
+    ExpectFilled(Read(lines).drive, kLogicalDrive, missing);
   }
-}
-
-TEST(QcmdrunLogicalDriveParser, LosesBothOfTwoSwappedLinesThatAreNotOptional) {
-  for (std::size_t index = 2; index + 1 < kLast; ++index) {
-    SCOPED_TRACE(kLabels[index].first);
-    EXPECT_EQ(Read(WithSwapped(LabelledLines(kLabels), index, index + 1)).values,
-              WithEmpty(AllValues(), index, index + 1));
-  }
-}
-
-TEST(QcmdrunLogicalDriveParser, FindsNothingWhenStatusAndAdditionalInformationAreSwapped) {
-  EXPECT_EQ(Read(WithSwapped(LabelledLines(kLabels), 0, 1)).values, WithEmpty(AllValues(), 0, kLast));
 }
 
 TEST(QcmdrunLogicalDriveParser, FailsWhereTheTextEndsInsideTheBlock) {
-  const std::vector<std::string> lines = LabelledLines(kLabels);
-  for (std::size_t count = 0; count < kLast; ++count) {
-    SCOPED_TRACE(count);
-    const std::vector<std::string> cut(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(count));
-    CollectedData text(nullptr, "Logical drive number 7\r\n" + Concatenated(cut));
+  for (std::size_t count = 0; count < std::size(kLogicalDrive) - 1; ++count) {
+    CollectedData text(nullptr, "Logical drive number 7\r\n" + LabelLines(kLogicalDrive, count));
     ZenxLogicalDevice drive(nullptr);
-    EXPECT_THROW(qcmdrun::ParseLogicalDrive(drive, text, "7", "3"), std::out_of_range);
+    EXPECT_THROW(qcmdrun::ParseLogicalDrive(drive, text, "3", "7"), std::out_of_range) << count;
   }
 }
 

@@ -6,20 +6,12 @@
 
 #include "collect/line_scanner.h"
 #include "collect/records.h"
+#include "tests/support/label_lines.h"
 #include "tests/support/recording_log.h"
-#include "tests/support/table_cases.h"
 #include "tests/support/tool_text.h"
+#include "tools/qcmdrun/labels.h"
 
 namespace {
-
-const FieldCases<ZenxPhysicalDevice> kLabels = {
-    {"SCSI ID",                   &ZenxPhysicalDevice::ScsiId        },
-    {"PFA (Yes/No)",              &ZenxPhysicalDevice::PFA           },
-    {"State",                     &ZenxPhysicalDevice::State         },
-    {"Size (in MB)/(in sectors)", &ZenxPhysicalDevice::Size          },
-    {"Device ID",                 &ZenxPhysicalDevice::DeviceIdSuffix},
-    {"FRU part number",           &ZenxPhysicalDevice::FRU           },
-};
 
 struct Block {
   ZenxPhysicalDevice device;
@@ -33,41 +25,17 @@ Block Read(const std::string& lines, HostHandle log = nullptr) {
   return {device, std::string(text.CurrentLine())};
 }
 
-std::vector<std::string> ValuesOf(const std::vector<std::string>& lines) {
-  return FieldValues(Read("   Device is a Changer\r\n" + Concatenated(lines)).device, kLabels);
-}
-
-std::vector<std::string> AllValues() { return NumberedValues(kLabels.size(), " ", "\r\n"); }
-
 ZenxPhysicalDevice WithIdentifier(const std::string& type, const std::string& identifier, HostHandle log = nullptr) {
   return Read("   Device is a " + type + "\r\n   Device ID :" + identifier + "\n", log).device;
 }
 
-TEST(QcmdrunPhysicalDeviceParser, StoresControllerAndChannel) {
-  const ZenxPhysicalDevice device = Read("   Device is a Changer\r\n").device;
+TEST(QcmdrunPhysicalDeviceParser, ReadsControllerChannelAndEveryLabel) {
+  const ZenxPhysicalDevice device =
+      Read("   Device is a Changer\r\n" + LabelLines(qcmdrun::kDevice) + "   FRU part number : 7\r\n").device;
   EXPECT_EQ(device.ControllerNum, "5");
   EXPECT_EQ(device.Channel, "2");
-}
-
-TEST(QcmdrunPhysicalDeviceParser, ReadsEveryLabelIntoItsField) {
-  EXPECT_EQ(ValuesOf(LabelledLines(kLabels)), AllValues());
-}
-
-TEST(QcmdrunPhysicalDeviceParser, LosesOnlyTheFieldOfAMissingLine) {
-  for (std::size_t missing = 0; missing < kLabels.size(); ++missing) {
-    SCOPED_TRACE(kLabels[missing].first);
-    EXPECT_EQ(ValuesOf(Without(LabelledLines(kLabels), missing)), WithEmpty(AllValues(), missing, missing));
-  }
-}
-
-// The later label is found, the earlier one then stands in the way of all others.
-TEST(QcmdrunPhysicalDeviceParser, KeepsOnlyTheLaterOfTwoSwappedLinesAndNothingBehindThem) {
-  for (std::size_t index = 0; index + 1 < kLabels.size(); ++index) {
-    SCOPED_TRACE(kLabels[index].first);
-    std::vector<std::string> expected = WithEmpty(AllValues(), index, kLabels.size() - 1);
-    expected[index + 1] = AllValues()[index + 1];
-    EXPECT_EQ(ValuesOf(WithSwapped(LabelledLines(kLabels), index, index + 1)), expected);
-  }
+  ExpectFilled(device, qcmdrun::kDevice, std::size(qcmdrun::kDevice));
+  EXPECT_EQ(device.FRU, " 7\r\n");
 }
 
 TEST(QcmdrunPhysicalDeviceParser, EndsOnTheLastLineThatBelongsToTheDevice) {
@@ -75,12 +43,12 @@ TEST(QcmdrunPhysicalDeviceParser, EndsOnTheLastLineThatBelongsToTheDevice) {
   EXPECT_EQ(Read("   Device is a Hard disk\r\n   FRU part number : 7\r\n").currentLine, "   FRU part number : 7\r\n");
 }
 
-TEST(QcmdrunPhysicalDeviceParser, KeepsTheTypeAsItStandsBehindTheLabel) {
+TEST(QcmdrunPhysicalDeviceParser, KeepsTheTypeAsItFollowsTheLabel) {
   EXPECT_EQ(Read("   Device is a Hard disk\r\n").device.DeviceType, " Hard disk\r\n");
   EXPECT_EQ(Read("   Device is an Optical drive\r\n").device.DeviceType, "n Optical drive\r\n");
 }
 
-TEST(QcmdrunPhysicalDeviceParser, UsesUpTheLineBehindTheTargetAlsoWithoutADeviceType) {
+TEST(QcmdrunPhysicalDeviceParser, UsesUpTheLineAfterTheTargetAlsoWithoutADeviceType) {
   const ZenxPhysicalDevice device = Read("   SCSI ID : 3\r\n   State : Online\r\n").device;
   EXPECT_EQ(device.DeviceType, "");
   EXPECT_EQ(device.ScsiId, "");
@@ -157,13 +125,10 @@ TEST(QcmdrunPhysicalDeviceParser, CutsNothingOutOfTheIdentifierOfOtherDevices) {
 }
 
 TEST(QcmdrunPhysicalDeviceParser, FailsWhereTheTextEndsInsideTheBlock) {
-  const std::vector<std::string> lines = LabelledLines(kLabels);
-  for (std::size_t count = 0; count < lines.size(); ++count) {
-    SCOPED_TRACE(count);
-    const std::vector<std::string> cut(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(count));
-    CollectedData text(nullptr, "Target\r\nDevice is a Changer\r\n" + Concatenated(cut));
+  for (std::size_t count = 0; count <= std::size(qcmdrun::kDevice); ++count) {
+    CollectedData text(nullptr, "Target\r\nDevice is a Changer\r\n" + LabelLines(qcmdrun::kDevice, count));
     ZenxPhysicalDevice device(nullptr);
-    EXPECT_THROW(qcmdrun::ParsePhysicalDevice(device, text, "1", "1"), std::out_of_range);
+    EXPECT_THROW(qcmdrun::ParsePhysicalDevice(device, text, "1", "1"), std::out_of_range) << count;
   }
 }
 
