@@ -16,7 +16,7 @@ struct PropertyDeclaration {
   bool isKey;
   std::string_view referencedClass;  // of a reference; "" otherwise
   std::string_view description;
-  std::string_view origin;  // where the value comes from, in words; "" where the labels of the tools say it all
+  std::string_view origin = {};  // where the value comes from, in words; "" where the labels of the tools say it all
 };
 
 // One class of the repository.

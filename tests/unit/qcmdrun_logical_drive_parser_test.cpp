@@ -35,10 +35,10 @@ TEST(QcmdrunLogicalDriveParser, ReadsEveryLabelAndStopsOnTheLastLine) {
 }
 
 TEST(QcmdrunLogicalDriveParser, FillsTheRaidLevelFromTheLineAfterTheStatusWithoutAdditionalInformation) {
-  const ZenxLogicalDevice drive = Read(CrLf("Status of logical drive : a\nRAID level : 5\nSize (in MB) : 1\n")).drive;
+  const ZenxLogicalDevice drive = Read(CrLf("Status of logical drive : a\nRAID level : 5\nx\nx\nx\nx\nx\n")).drive;
   EXPECT_EQ(drive.LogicalDriveStatus, " a\r\n");
+  EXPECT_EQ(drive.AdditionalInformation, "");
   EXPECT_EQ(drive.RaidLevel, " 5\r\n");
-  EXPECT_EQ(drive.Size, " 1\r\n");
 }
 
 TEST(QcmdrunLogicalDriveParser, StaysOnTheArrayLineWithoutAMergeGroup) {
