@@ -30,6 +30,18 @@ TEST(ArcconfPhysicalDeviceParser, ReadsTheLabelsOfItsType) {
   expectRead("a Hard drive", arcconf::kHardDrive);
 }
 
+// One label a line: after a row that is out of order nothing is found.
+TEST(ArcconfPhysicalDeviceParser, ReadsTheLabelsOfAHardDriveAsTheToolOrdersThem) {
+  const ZenxPhysicalDevice device = OfType(
+      "a Hard drive", CrLf("   State : Online\n   Supported : Yes\n   Transfer Speed : SAS 3.0 Gb/s\n"
+                           "   Reported Channel : 0,8\n   Vendor : NORDVIK\n   Model : NV73-15SAS\n"
+                           "   Firmware : N4K2\n   Serial number : NV3LE77Q2H\n   Size : 70007 MB\n   PFA : No\n"));
+  EXPECT_EQ(Trimmed(device.Vendor), "NORDVIK");
+  EXPECT_EQ(Trimmed(device.Model), "NV73-15SAS");
+  EXPECT_EQ(Trimmed(device.DeviceSerialNum), "NV3LE77Q2H");
+  EXPECT_EQ(Trimmed(device.PFA), "No");
+}
+
 TEST(ArcconfPhysicalDeviceParser, CutsTheTypeFromItsLine) {
   EXPECT_EQ(TypeOf("   Device is a Hard drive"), "Hard drive");
   EXPECT_EQ(TypeOf("   Device is an Enclosure services device"), "Enclosure services device");
