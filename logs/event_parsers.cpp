@@ -36,10 +36,12 @@ std::string TimestampText(std::string_view date, std::string_view time) {
 
 std::string FourHexDigits(std::uint32_t number) { return fmt::format("{:04x}", number); }
 
-// A line without hexadecimal digits counts as 0, a number that has no room as the largest.
+// A line without hexadecimal digits counts as 0, a number that needs more than 32 bits as the largest. A minus sign
+// gives the two's complement, as %x of the C library does.
 std::uint32_t ReadCode(std::string_view line) {
-  constexpr unsigned long long kLargest = std::numeric_limits<std::uint32_t>::max();
-  return static_cast<std::uint32_t>(std::min(std::strtoull(std::string(line).c_str(), nullptr, 16), kLargest));
+  constexpr long long kLargest = std::numeric_limits<std::uint32_t>::max();
+  const long long number = std::strtoll(std::string(line).c_str(), nullptr, 16);
+  return static_cast<std::uint32_t>(number < -kLargest ? kLargest : std::min(number, kLargest));
 }
 
 // These logs carry no time; every one of them gets the same, so that nobody takes it for a real one.

@@ -47,7 +47,8 @@ constexpr Column kColumns[] = {
 // The value of a token, up to the next blank. The last one on a line has none after it and runs to the line's end.
 std::string_view CutValue(std::string_view line, std::size_t begin, bool isLast) {
   if (isLast) return UpToCarriageReturn(line, begin);
-  return line.substr(begin, line.find_first_of(" \r\n", begin) - begin);
+  const std::size_t blank = line.find(' ', begin);
+  return line.substr(begin, (blank == line.npos ? line.find_first_of("\r\n", begin) : blank) - begin);
 }
 
 }  // namespace

@@ -86,6 +86,15 @@ TEST(QcmdrunPhysicalDeviceParser, TakesAsMuchOfTheModelAsAShortIdentifierHas) {
   EXPECT_EQ(Read("   Device is a Hard disk\r\n").device.Model, "");
 }
 
+// Its type names both: what the tape's step has cut is not that of a disk whose identifier is too short.
+TEST(QcmdrunPhysicalDeviceParser, ClearsTheFirmwareOfATapeThatIsAHardDiskWithAShortIdentifier) {
+  RecordingLog log;
+  const ZenxPhysicalDevice device = WithIdentifier("Tape and Hard disk", " ORBITEK DAT72LP  A119\r", &log);
+  EXPECT_EQ(device.Model, " ORBITEK DAT72LP");
+  EXPECT_EQ(device.Firmware, "");
+  EXPECT_EQ(device.DeviceSerialNum, "");
+}
+
 TEST(QcmdrunPhysicalDeviceParser, TakesFourCharactersBeforeTheLineEndForATapesFirmwareAndLogsThem) {
   RecordingLog log;
   const ZenxPhysicalDevice device = WithIdentifier("Tape", " ORBITEK DAT72LP  A119\r", &log);

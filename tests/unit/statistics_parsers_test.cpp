@@ -148,6 +148,11 @@ TEST_F(SubStatParser, TakesAValueWithoutABlankBehindItToTheLineEnd) {
   EXPECT_EQ(Values("A:1 C:2 I:5\n"), (std::vector<std::string>{"1", "2", "5", "", "", "", ""}));
 }
 
+TEST_F(SubStatParser, EndsAValueAtTheNextBlankAndAtNothingElse) {
+  EXPECT_EQ(Line("A:1\rx C:2 I:5\r\n").ControllerNum, "1\rx");
+  EXPECT_EQ(Line("A:1\r C:2 I:5\r\n").ControllerNum, "1\r");
+}
+
 TEST_F(SubStatParser, TakesTheLastValueWithItsBlanksUpToTheCarriageReturn) {
   EXPECT_EQ(Line("A:1 CUR-TXER-P: 20 ns\r\n").Cur_Txer_p, " 20 ns");
   EXPECT_EQ(Line("A:1 CUR-TXER-P:\r\n").Cur_Txer_p, "");
@@ -172,7 +177,7 @@ TEST_F(SubStatParser, TakesTheFirstOccurrenceOfATokenWhereverItStands) {
       {"inside another word",       "A:1 XC:9 C:2 I:5\r\n",          "1|9|5|||||"           },
       {"behind two blanks",         "A:1  C:2   I:5\r\n",            "1|2|5|||||"           },
       {"behind a tab",              "A:1\tC:2 I:5\r\n",              "1\tC:2|2|5|||||"      },
-      {"behind a carriage return",  "A:1\rC:2 I:5\r\n",              "1|2|5|||||"           },
+      {"behind a carriage return",  "A:1\rC:2 I:5\r\n",              "1\rC:2|2|5|||||"      },
       {"not at the line's start",   "  A:1 C:2 I:5\r\n",             "1|2|5|||||"           },
       {"twice",                     "A:1 C:2 C:3 I:5 I:6\r\n",       "1|2|5|||||"           },
       {"a value with a colon",      "A:1:2 C:2 I:5\r\n",             "1:2|2|5|||||"         },

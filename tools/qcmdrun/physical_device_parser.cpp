@@ -39,7 +39,11 @@ void Cut(Device& device, const Piece& piece) {
 
 void CutHardDisk(Device& device) {
   Cut(device, kModel);
-  if (device.DeviceIdSuffix.size() < kFullIdentifier) return;
+  if (device.DeviceIdSuffix.size() < kFullIdentifier) {
+    device.Firmware.clear();  // a tape's step may have set it
+    device.DeviceSerialNum.clear();
+    return;
+  }
   for (const Piece& piece : kHardDiskPieces) Cut(device, piece);
 }
 
