@@ -227,6 +227,7 @@ constexpr EventSeverity kEventSeverities[] = {
     {"CRI", kCritical},
     {"WRN", kWarning },
     {"INF", kIdle    },
+    {"DDD", kCritical}, // every record of the log of defunct drives, which names no severity
 };
 
 }  // namespace

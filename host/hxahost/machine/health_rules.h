@@ -58,7 +58,7 @@ struct HealthRule {
 // Rules of one value follow each other; what matters most comes first.
 std::span<const HealthRule> HealthRules();
 
-// What the RAID manager's log says of how bad an event is; a word that is not here is unknown.
+// What the logs say of how bad an event is; a word that is not here is unknown.
 struct EventSeverity {
   std::string_view word;
   Level level;

@@ -4,8 +4,8 @@ const kBins = 120;
 
 function dddEvent(object) {
   const place = `Channel ${textOf(object, "Channel")}, ID ${textOf(object, "ID")}`;
-  return { object, log: "Defunct drives", number: textOf(object, "Controller"), severity: "", level: "critical",
-    text: `${place}, reason ${textOf(object, "Reason")}: ${textOf(object, "Descrip")}` };
+  return { object, log: "Defunct drives", number: textOf(object, "Controller"), severity: "",
+    level: levelOfEvent("DDD"), text: `${place}, reason ${textOf(object, "Reason")}: ${textOf(object, "Descrip")}` };
 }
 
 // What a log says, "__proto__" for one, must find nothing but the levels that there are.
