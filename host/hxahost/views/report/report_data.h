@@ -6,11 +6,14 @@
 
 namespace hxahost {
 
-// What the report needs beside the query's JSON, as JSON: when, where and for which classes the tools were run, how many
-// queries there were, the tables with their columns, the objects of the machine with their controllers, members and
-// levels, what the severities of log records mean ("eventLevels"), the findings ("instance" is the place of the one that
-// a finding is about), the classes that health is read from but that were not asked for ("unjudged"), and the lines of
-// the raw texts that no property shows. "unread" is null where not all classes were asked for: nobody can tell then.
+// What the report needs beside the query's JSON, as JSON:
+// - when, where and for which classes the tools were run, and how many queries there were;
+// - the tables with their columns;
+// - the objects of the machine with their controllers, members and levels;
+// - what the severities of log records mean ("eventLevels");
+// - the findings: "instance" is the place of the instance that a finding is about;
+// - the classes that health is read from but that were not asked for ("unjudged");
+// - the lines of the raw texts that no property shows ("unread"), null where not all classes were asked for.
 void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result);
 
 }  // namespace hxahost
