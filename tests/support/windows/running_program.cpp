@@ -1,6 +1,7 @@
 #include "tests/support/running_program.h"
 
 #include <stdexcept>
+#include <string>
 
 #include <windows.h>
 
@@ -32,11 +33,18 @@ std::intptr_t StartProcess(const std::filesystem::path& program, const std::vect
   startup.hStdError = OpenForChild(err);
   PROCESS_INFORMATION process{};
   std::wstring line = CommandLine(program, arguments);
-  const BOOL isStarted =
-      CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process);
+  const auto start = [&] {
+    return CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+                          &process);
+  };
+  // On a loaded machine Wine fails to start one program in some thousands.
+  const bool isStarted = start() || start();
+  const DWORD error = GetLastError();
   CloseHandle(startup.hStdOutput);
   CloseHandle(startup.hStdError);
-  if (!isStarted) throw std::runtime_error("cannot start " + program.string());
+  if (!isStarted) {
+    throw std::runtime_error("cannot start " + program.string() + ": error " + std::to_string(error));
+  }
   CloseHandle(process.hThread);
   return reinterpret_cast<std::intptr_t>(process.hProcess);
 }
