@@ -40,7 +40,8 @@ CollectionServices::CollectionServices(HostServices services, const CollectionOp
     const RunningCommand running(progress, path, arguments);
     return SpawnAndRecord(spawn, path, arguments, limitSeconds, runs);
   };
-  SetServices(recorder != nullptr ? recorder->Wrap(std::move(services)) : std::move(services));
+  if (recorder != nullptr) services = recorder->Wrap(std::move(services));
+  SetServices(std::move(services));
 }
 
 CollectionServices::~CollectionServices() { SetServices(RealServices()); }
