@@ -74,7 +74,8 @@ void RequireTokens(const ZenxSubStatData& record, const std::string& line) {
     const std::string token = tokens[index];
     const std::string found = From(rest, token);
     std::string value = found.empty() ? found : found.substr(token.size());
-    value = value.substr(0, value.find_first_of(" \r\n"));
+    const std::size_t blank = value.find(' ');
+    value = value.substr(0, blank == value.npos ? value.find_first_of("\r\n") : blank);
     Require(*fields[index] == value, "a token's first value counts", line);
     if (!found.empty()) rest = found.substr(1);
   }
