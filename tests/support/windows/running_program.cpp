@@ -33,12 +33,8 @@ std::intptr_t StartProcess(const std::filesystem::path& program, const std::vect
   startup.hStdError = OpenForChild(err);
   PROCESS_INFORMATION process{};
   std::wstring line = CommandLine(program, arguments);
-  const auto start = [&] {
-    return CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
-                          &process);
-  };
-  // On a loaded machine Wine fails to start one program in some thousands.
-  const bool isStarted = start() || start();
+  const BOOL isStarted =
+      CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process);
   const DWORD error = GetLastError();
   CloseHandle(startup.hStdOutput);
   CloseHandle(startup.hStdError);
