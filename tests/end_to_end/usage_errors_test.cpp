@@ -100,6 +100,7 @@ const std::vector<Case> kHealthCases = {
 const std::vector<Case> kOtherCases = {
     {"",         {},                                         2, "hxahost --help"           },
     {"",         {"collect"},                                2, "hxahost --help"           },
+    {"",         {"qurey"},                                  2, "did you mean query?"      },
     {"",         {"classes", "schema"},                      2, "--help"                   },
     {"",         {"classes", "--format", "json"},            2, "--help"                   },
     {"",         {"schema", "KVRSG_zxDiskDrive"},            2, "--help"                   },
@@ -118,16 +119,16 @@ const std::vector<Case> kSchemaCases = {
 const std::vector<Case> kBundleCases = {
     {"",         {"bundle"},                                             2, "hxahost bundle --help"      },
     {"",         {"bundle", "open", kBundle},                            2, "hxahost bundle --help"      },
-    {"",         {"bundle", "list"},                                     2, "hxahost bundle --help"      },
+    {"",         {"bundle", "list"},                                     2, "hxahost bundle list --help" },
     {"",         {"bundle", "list", kMissing},                           2, "name a bundle that is there"},
     {"",         {"bundle", "list", kFolder},                            2, "name a bundle that is there"},
     {"",         {"bundle", "list", kFile},                              2, "is no bundle of"            },
     {"",         {"bundle", "show", kBundle, "999"},                     2, "999"                        },
     {"",         {"bundle", "show", kBundle, "all"},                     2, "all"                        },
-    {"--raw",    {"bundle", "show", kBundle, "1", "--raw=some"},         2, "hxahost bundle --help"      },
+    {"--raw",    {"bundle", "show", kBundle, "1", "--raw=some"},         2, "hxahost bundle show --help" },
     {"--output", {"bundle", "show", kBundle, "1", "--output", kNowhere}, 2, "name a file in a folder"    },
     {"--output", {"bundle", "show", kBundle, "1", "--output", kFolder},  2, "name a file in a folder"    },
-    {"",         {"bundle", "mask", kBundle},                            2, "hxahost bundle --help"      },
+    {"",         {"bundle", "mask", kBundle},                            2, "hxahost bundle mask --help" },
     {"",         {"bundle", "mask", kBundle, kFolder},                   2, "name a file in a folder"    },
     {"",         {"bundle", "mask", kFile, kMissing},                    2, "is no bundle of"            },
 };
@@ -179,14 +180,14 @@ class UsageErrors : public testing::Test {
   TemporaryFolder folder_;
 };
 
-// "  --plugin FILE   The plug-in ..."; the help itself cannot be given wrongly.
+// "  -o,--output FILE   Where ..."; the help itself cannot be given wrongly.
 std::set<std::string> OptionsOf(Texts command) {
   command.emplace_back("--help");
   std::istringstream help(RunHxahost(command).out);
   std::set<std::string> options;
   for (std::string line; std::getline(help, line);) {
-    const std::size_t begin = line.find_first_not_of(' ');
-    if (begin == line.npos || begin == 0 || line.compare(begin, 2, "--") != 0) continue;
+    if (!line.starts_with("  -")) continue;
+    const std::size_t begin = line.find("--");
     options.insert(line.substr(begin, line.find_first_of(" =,\r", begin) - begin));
   }
   options.erase("--help");

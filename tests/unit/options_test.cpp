@@ -164,6 +164,20 @@ TEST(Options, ShowTheVersionOfTheBuild) {
   EXPECT_TRUE(version.text.ends_with("\n"));
 }
 
+TEST(Options, TakeShortFormsOfTheCommonOnes) {
+  const QueryOptions options = Query("-f json -o o.json");
+  EXPECT_EQ(options.format, "json");
+  EXPECT_EQ(options.output, "o.json");
+  EXPECT_EQ(Parse("bundle show f 1 -o o").bundle.output, "o");
+  EXPECT_EQ(Parse("-V").text, Parse("--version").text);
+}
+
+TEST(Options, ShowTheSameHelpByTheCommandForIt) {
+  EXPECT_EQ(Parse("help").text, Parse("--help").text);
+  EXPECT_EQ(Parse("help query").text, Parse("query --help").text);
+  EXPECT_EQ(Parse("help bundle show").text, Parse("bundle show --help").text);
+}
+
 TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
   struct Case {
     const char* name;
@@ -171,51 +185,59 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
     const char* says;
   };
   const Case cases[] = {
-      {"nothing",                   {},                                                     "--help"             },
-      {"unknown command",           {"collect"},                                            "--help"             },
-      {"two commands",              {"query", "classes"},                                   "classes"            },
-      {"unknown option",            {"query", "--bogus"},                                   "--bogus"            },
-      {"stray word",                {"query", "word"},                                      "word"               },
-      {"option without its value",  {"query", "--output"},                                  "--output"           },
-      {"second value",              {"query", "--class", "A", "B"},                         "B"                  },
-      {"option given twice",        {"query", "--repeat", "1", "--repeat", "2"},            "--repeat"           },
-      {"value of a flag",           {"query", "--no-progress=maybe"},                       "--no-progress"      },
-      {"option of another command", {"classes", "--repeat", "2"},                           "--repeat"           },
-      {"short form",                {"query", "--rep", "2"},                                "--rep"              },
-      {"Windows form",              {"query", "/repeat", "2"},                              "/repeat"            },
-      {"repeat zero",               {"query", "--repeat", "0"},                             "from 1 on"          },
-      {"repeat less",               {"query", "--repeat=-1"},                               "from 1 on"          },
-      {"repeat word",               {"query", "--repeat", "twice"},                         "from 1 on"          },
-      {"repeat half",               {"query", "--repeat", "1.5"},                           "from 1 on"          },
-      {"repeat blank",              {"query", "--repeat", " 1"},                            "from 1 on"          },
-      {"repeat too often",          {"query", "--repeat", "4294967296"},                    "from 1 on"          },
-      {"format unknown",            {"query", "--format", "xml"},                           "table or json"      },
-      {"format in capitals",        {"query", "--format", "JSON"},                          "table or json"      },
-      {"OS type too high",          {"query", "--os-type", "65536"},                        "0 to 65535, or none"},
-      {"OS type less",              {"query", "--os-type=-1"},                              "0 to 65535, or none"},
-      {"OS type word",              {"query", "--os-type", "windows"},                      "0 to 65535, or none"},
-      {"time of no form",           {"query", "--local-time", "12:30"},                     "yyyymmddhhmmss"     },
-      {"time of no calendar",       {"query", "--local-time", "20260230123015.250000+060"}, "yyyymmddhhmmss"     },
-      {"empty plug-in",             {"query", "--plugin", ""},                              "--plugin"           },
-      {"empty directory",           {"query", "--directory", ""},                           "--directory"        },
-      {"empty output",              {"query", "--output", ""},                              "--output"           },
-      {"empty log",                 {"query", "--log", ""},                                 "--log"              },
-      {"empty class",               {"query", "--class", ""},                               "--class"            },
-      {"empty format",              {"query", "--format", ""},                              "--format"           },
-      {"empty machine name",        {"query", "--machine-name", ""},                        "--machine-name"     },
-      {"empty time",                {"query", "--local-time", ""},                          "--local-time"       },
-      {"mask without a bundle",     {"query", "--mask"},                                    "--record"           },
-      {"replay and directory",      {"query", "--replay", "f", "--directory", "d"},         "leave one of them"  },
-      {"empty bundle",              {"query", "--record", ""},                              "--record"           },
-      {"bundle alone",              {"bundle"},                                             "hxahost bundle"     },
-      {"bundle without a file",     {"bundle", "list"},                                     "hxahost bundle"     },
-      {"bundle with an empty name", {"bundle", "list", ""},                                 "FILE"               },
-      {"item zero",                 {"bundle", "show", "f", "0"},                           "bundle list"        },
-      {"item word",                 {"bundle", "show", "f", "first"},                       "bundle list"        },
-      {"raw without an item",       {"bundle", "show", "f", "--raw"},                       "needs an ITEM"      },
-      {"mask without a place",      {"bundle", "mask", "f"},                                "hxahost bundle"     },
-      {"terminal command",          {"query", "--\x1b[2J"},                                 "\\x1b[2J"           },
-      {"two lines",                 {"query", "--format", "a\nb"},                          "a\\nb"              },
+      {"nothing",                   {},                                                     "--help"                },
+      {"unknown command",           {"collect"},                                            "see hxahost --help"    },
+      {"two commands",              {"query", "classes"},                                   "classes"               },
+      {"unknown option",            {"query", "--bogus"},                                   "--bogus"               },
+      {"mistyped command",          {"qurey", "--format", "json"},                          "did you mean query?"   },
+      {"mistyped inner command",    {"bundle", "shwo", "f"},                                "did you mean show?"    },
+      {"mistyped option",
+       {"query", "--fromat", "json"},
+       "--fromat is no option of hxahost query: did you mean --format?"                                             },
+      {"its value behind a sign",   {"health", "--fromat=json"},                            "did you mean --format?"},
+      {"help of no command",        {"help", "qurey"},                                      "did you mean query?"   },
+      {"short option",              {"query", "-x"},                                        "-x is no option"       },
+      {"stray word",                {"query", "word"},                                      "word"                  },
+      {"option without its value",  {"query", "--output"},                                  "--output"              },
+      {"second value",              {"query", "--class", "A", "B"},                         "B"                     },
+      {"option given twice",        {"query", "--repeat", "1", "--repeat", "2"},            "--repeat"              },
+      {"value of a flag",           {"query", "--no-progress=maybe"},                       "--no-progress"         },
+      {"option of another command", {"classes", "--repeat", "2"},                           "--repeat"              },
+      {"short form",                {"query", "--rep", "2"},                                "--rep"                 },
+      {"Windows form",              {"query", "/repeat", "2"},                              "/repeat"               },
+      {"repeat zero",               {"query", "--repeat", "0"},                             "from 1 on"             },
+      {"repeat less",               {"query", "--repeat=-1"},                               "from 1 on"             },
+      {"repeat word",               {"query", "--repeat", "twice"},                         "from 1 on"             },
+      {"repeat half",               {"query", "--repeat", "1.5"},                           "from 1 on"             },
+      {"repeat blank",              {"query", "--repeat", " 1"},                            "from 1 on"             },
+      {"repeat too often",          {"query", "--repeat", "4294967296"},                    "from 1 on"             },
+      {"format unknown",            {"query", "--format", "xml"},                           "table or json"         },
+      {"format in capitals",        {"query", "--format", "JSON"},                          "table or json"         },
+      {"OS type too high",          {"query", "--os-type", "65536"},                        "0 to 65535, or none"   },
+      {"OS type less",              {"query", "--os-type=-1"},                              "0 to 65535, or none"   },
+      {"OS type word",              {"query", "--os-type", "windows"},                      "0 to 65535, or none"   },
+      {"time of no form",           {"query", "--local-time", "12:30"},                     "yyyymmddhhmmss"        },
+      {"time of no calendar",       {"query", "--local-time", "20260230123015.250000+060"}, "yyyymmddhhmmss"        },
+      {"empty plug-in",             {"query", "--plugin", ""},                              "--plugin"              },
+      {"empty directory",           {"query", "--directory", ""},                           "--directory"           },
+      {"empty output",              {"query", "--output", ""},                              "--output"              },
+      {"empty log",                 {"query", "--log", ""},                                 "--log"                 },
+      {"empty class",               {"query", "--class", ""},                               "--class"               },
+      {"empty format",              {"query", "--format", ""},                              "--format"              },
+      {"empty machine name",        {"query", "--machine-name", ""},                        "--machine-name"        },
+      {"empty time",                {"query", "--local-time", ""},                          "--local-time"          },
+      {"mask without a bundle",     {"query", "--mask"},                                    "--record"              },
+      {"replay and directory",      {"query", "--replay", "f", "--directory", "d"},         "leave one of them"     },
+      {"empty bundle",              {"query", "--record", ""},                              "--record"              },
+      {"bundle alone",              {"bundle"},                                             "hxahost bundle"        },
+      {"bundle without a file",     {"bundle", "list"},                                     "hxahost bundle list"   },
+      {"bundle with an empty name", {"bundle", "list", ""},                                 "FILE"                  },
+      {"item zero",                 {"bundle", "show", "f", "0"},                           "bundle list"           },
+      {"item word",                 {"bundle", "show", "f", "first"},                       "bundle list"           },
+      {"raw without an item",       {"bundle", "show", "f", "--raw"},                       "needs an ITEM"         },
+      {"mask without a place",      {"bundle", "mask", "f"},                                "hxahost bundle"        },
+      {"terminal command",          {"query", "--\x1b[2J"},                                 "\\x1b[2J"              },
+      {"two lines",                 {"query", "--format", "a\nb"},                          "a\\nb"                 },
   };
   for (const Case& each : cases) {
     SCOPED_TRACE(each.name);

@@ -41,6 +41,12 @@ inline constexpr const char* kSchemaExamples =
     "  hxahost schema > classes.mof      for a CIM server\n"
     "  hxahost schema --format markdown  to read";
 
+inline constexpr const char* kHelpExamples =
+    "Examples:\n"
+    "  hxahost help               all commands\n"
+    "  hxahost help query         the options of a command\n"
+    "  hxahost help bundle show   those of a command of a command";
+
 inline constexpr const char* kBundleExamples =
     "Examples:\n"
     "  hxahost query --record machine.bundle              collect, and keep all that was seen\n"

@@ -8,6 +8,7 @@
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/option_examples.h"
 #include "host/hxahost/program/option_values.h"
+#include "host/hxahost/program/unexpected_arguments.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -16,7 +17,7 @@ namespace hxahost {
 
 namespace {
 
-// Options as they were typed; their meaning is read when all of them are there.
+// What was typed for every command; its meaning is read when all of it is there.
 struct TypedOptions {
   QueryOptions read;
   std::string repeat = "1";
@@ -27,12 +28,24 @@ struct TypedOptions {
   std::string healthFormat = "text";
   bool healthRules = false;
   std::string width;
+  DiffOptions diff;
+  BundleOptions bundle;
+  std::vector<std::string> bundleItems;
+  std::string schemaFormat = CommandLine().schemaFormat;
+  std::vector<std::string> helpOf;
 };
 
 std::string FormatNames(std::string_view command) {
   std::string names;
   for (const Format& format : FormatsOf(command)) names += (names.empty() ? "" : " or ") + std::string(format.name);
   return names;
+}
+
+// "-f,--format", with the formats that the command has.
+void AddFormat(CLI::App& command, std::string& format, const std::string& purposes = "") {
+  command.add_option("-f,--format", format, FormatNames(command.get_name()) + purposes)
+      ->type_name("FORMAT")
+      ->capture_default_str();
 }
 
 void CheckFormat(std::string_view command, const std::string& format) {
@@ -51,7 +64,7 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
   CollectionOptions& read = typed.read.collection;
   AddPath(command, "--plugin", "FILE", read.plugin, "The plug-in to load (default: zenx.pi beside this program)");
   AddPath(command, "--directory", "DIR", read.directory, "Where the folder zenx with the tools is (default: here)");
-  AddPath(command, "--output", "FILE", typed.read.output,
+  AddPath(command, "-o,--output", "FILE", typed.read.output,
           "Where to write (default: standard output); complete or not at all");
   AddPath(command, "--log", "FILE", read.log, "Write the log there: one line for an entry, its level first");
   AddPath(command, "--record", "BUNDLE", read.record,
@@ -70,79 +83,64 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
   command.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
 }
 
-CLI::App* AddHealth(CLI::App& program, TypedOptions& typed) {
-  CLI::App* const health = program.add_subcommand("health", "Say what is wrong with the controllers and their drives");
-  health
-      ->add_option("--format", typed.healthFormat,
-                   FormatNames("health") + ": lines for people, JSON for programs, metrics")
-      ->type_name("FORMAT")
-      ->capture_default_str();
-  health->add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
-  AddCollecting(*health, typed);
-  health->footer(kHealthExamples);
-  return health;
+void AddHealth(CLI::App& health, TypedOptions& typed) {
+  AddFormat(health, typed.healthFormat, ": lines for people, JSON for programs, metrics");
+  health.add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
+  AddCollecting(health, typed);
 }
 
-CLI::App* AddQuery(CLI::App& program, TypedOptions& typed) {
-  CLI::App* const query = program.add_subcommand("query", "Run the controller utilities and show what they say");
+void AddQuery(CLI::App& query, TypedOptions& typed) {
   QueryOptions& read = typed.read;
-  query->add_option("--class", read.classes, "A class to ask for; may be given again, the order counts (default: all)")
+  query.add_option("--class", read.classes, "A class to ask for; may be given again, the order counts (default: all)")
       ->type_name("NAME")
       ->allow_extra_args(false);
-  query->add_option("--repeat", typed.repeat, "How often to query; the tools are run by the first query alone")
+  query.add_option("--repeat", typed.repeat, "How often to query; the tools are run by the first query alone")
       ->type_name("N")
       ->capture_default_str();
-  query
-      ->add_option("--format", read.format,
-                   FormatNames("query") +
-                       ": tables for a terminal, JSON for programs, a page for browsers, "
-                       "instances for CIM repositories")
-      ->type_name("FORMAT")
-      ->capture_default_str();
-  query->add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
-  query->add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
-  query->add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")
+  AddFormat(query, read.format,
+            ": tables for a terminal, JSON for programs, a page for browsers, instances for CIM repositories");
+  query.add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
+  query.add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
+  query.add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")
       ->type_name("N");
-  query->add_flag("--ascii", read.isAscii, "Tables in ASCII alone (default where the terminal shows nothing else)");
-  query->add_option("--color", read.color, "State words in colour; never where NO_COLOR is set")
+  query.add_flag("--ascii", read.isAscii, "Tables in ASCII alone (default where the terminal shows nothing else)");
+  query.add_option("--color", read.color, "State words in colour; never where NO_COLOR is set")
       ->type_name("auto|always|never")
       ->capture_default_str();
-  AddCollecting(*query, typed);
-  query->footer(kExamples);
-  return query;
+  AddCollecting(query, typed);
 }
 
-CLI::App* AddDiff(CLI::App& program, DiffOptions& read) {
-  CLI::App* const diff = program.add_subcommand("diff", "Show what is different between two JSON results");
-  diff->add_option("OLD", read.oldFile, "What \"hxahost query --format json --output OLD\" wrote first, or a bundle")
+void AddDiff(CLI::App& diff, TypedOptions& typed) {
+  DiffOptions& read = typed.diff;
+  diff.add_option("OLD", read.oldFile, "What \"hxahost query --format json --output OLD\" wrote first, or a bundle")
       ->required();
-  diff->add_option("NEW", read.newFile, "What it wrote later")->required();
-  diff->add_option("--format", read.format, FormatNames("diff"))->type_name("FORMAT")->capture_default_str();
-  diff->footer(kDiffExamples);
-  return diff;
+  diff.add_option("NEW", read.newFile, "What it wrote later")->required();
+  AddFormat(diff, read.format);
 }
 
-struct TypedBundle {
-  BundleOptions read;
-  std::vector<std::string> items;
-};
-
-CLI::App* AddBundle(CLI::App& program, TypedBundle& typed) {
-  CLI::App* const bundle = program.add_subcommand("bundle", "Look into what \"hxahost query --record\" wrote");
-  bundle->require_subcommand(1);
-  bundle->footer(kBundleExamples);
-  BundleOptions& read = typed.read;
-  CLI::App* const list = bundle->add_subcommand("list", "One line for each command, and for the log");
+void AddBundle(CLI::App& bundle, TypedOptions& typed) {
+  bundle.require_subcommand(1);
+  BundleOptions& read = typed.bundle;
+  CLI::App* const list = bundle.add_subcommand("list", "One line for each command, and for the log");
   AddPath(*list, "FILE", "TEXT", read.file, "The bundle")->required();
-  CLI::App* const show = bundle->add_subcommand("show", "What a command printed, or what holds for all of them");
+  CLI::App* const show = bundle.add_subcommand("show", "What a command printed, or what holds for all of them");
   AddPath(*show, "FILE", "TEXT", read.file, "The bundle")->required();
-  show->add_option("ITEM", typed.items, "Numbers of the list (default: what stands before the items)");
+  show->add_option("ITEM", typed.bundleItems, "Numbers of the list (default: what stands before the items)");
   show->add_flag("--raw", read.isRaw, "The bytes themselves, for a file or another program");
-  AddPath(*show, "--output", "FILE", read.output, "Where to write (default: standard output)");
-  CLI::App* const mask = bundle->add_subcommand("mask", "Hide machine name, serial numbers and given names");
+  AddPath(*show, "-o,--output", "FILE", read.output, "Where to write (default: standard output)");
+  CLI::App* const mask = bundle.add_subcommand("mask", "Hide machine name, serial numbers and given names");
   AddPath(*mask, "IN", "TEXT", read.file, "The bundle")->required();
   AddPath(*mask, "OUT", "TEXT", read.output, "The masked one")->required();
-  return bundle;
+}
+
+void AddNothing(CLI::App&, TypedOptions&) {}
+
+void AddSchema(CLI::App& schema, TypedOptions& typed) {
+  AddFormat(schema, typed.schemaFormat, ": to be compiled, or to be read");
+}
+
+void AddHelp(CLI::App& help, TypedOptions& typed) {
+  help.add_option("COMMAND", typed.helpOf, "The command, as it is typed (default: the program)");
 }
 
 void RejectEmptyValues(const CLI::App& query) {
@@ -180,19 +178,19 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   return options;
 }
 
-DiffOptions ReadDiff(const CLI::App& diff, const DiffOptions& read) {
+CommandLine ReadDiff(const CLI::App& diff, const TypedOptions& typed) {
   RejectEmptyValues(diff);
-  CheckFormat("diff", read.format);
-  return read;
+  CheckFormat("diff", typed.diff.format);
+  return {Command::kDiff, "", {}, typed.diff};
 }
 
 // "hxahost bundle ...": the subcommand that was given decides.
-CommandLine ReadBundleCommand(const CLI::App& bundle, const TypedBundle& typed) {
+CommandLine ReadBundle(const CLI::App& bundle, const TypedOptions& typed) {
   const CLI::App& given = *bundle.get_subcommands().front();
   RejectEmptyValues(given);
   CommandLine line;
-  line.bundle = typed.read;
-  for (const std::string& item : typed.items) {
+  line.bundle = typed.bundle;
+  for (const std::string& item : typed.bundleItems) {
     const auto number = WholeNumber(item);
     if (!number || *number == 0) Reject("ITEM", item, "give a number that \"hxahost bundle list\" shows.");
     line.bundle.items.push_back(*number);
@@ -224,53 +222,73 @@ CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   return line;
 }
 
-// The help that says what the command takes: a command's own, where one was given.
-std::string HelpOf(const CLI::App& program) {
-  const auto given = program.get_subcommands();
-  return "hxahost " + (given.empty() ? "" : given.front()->get_name() + " ") + "--help";
+CommandLine ReadClasses(const CLI::App&, const TypedOptions&) { return {Command::kClasses, "", {}}; }
+
+CommandLine ReadSchema(const CLI::App&, const TypedOptions& typed) {
+  CheckFormat("schema", typed.schemaFormat);
+  CommandLine line{Command::kSchema, "", {}};
+  line.schemaFormat = typed.schemaFormat;
+  return line;
+}
+
+// "hxahost help query" is "hxahost query --help".
+CommandLine ReadHelp(const CLI::App&, const TypedOptions& typed) {
+  std::vector<std::string> arguments = typed.helpOf;
+  arguments.emplace_back("--help");
+  return ParseCommandLine(arguments);
+}
+
+struct CommandRow {
+  const char* name;
+  const char* description;
+  const char* examples;
+  void (*add)(CLI::App& command, TypedOptions& typed);  // its options
+  CommandLine (*read)(const CLI::App& command, const TypedOptions& typed);
+};
+
+// Help, advice on mistyped words and completion follow from it.
+constexpr CommandRow kCommands[] = {
+    {"query",   "Run the controller utilities and show what they say",     kExamples,        AddQuery,   ReadQuery  },
+    {"health",  "Say what is wrong with the controllers and their drives", kHealthExamples,  AddHealth,  ReadHealth },
+    {"diff",    "Show what is different between two JSON results",         kDiffExamples,    AddDiff,    ReadDiff   },
+    {"bundle",  "Look into what \"hxahost query --record\" wrote",         kBundleExamples,  AddBundle,  ReadBundle },
+    {"classes", "List the classes that the plug-in publishes",             kClassesExamples, AddNothing, ReadClasses},
+    {"schema",  "Show these classes with their properties",                kSchemaExamples,  AddSchema,  ReadSchema },
+    {"help",    "Show what the program, or one of its commands, takes",    kHelpExamples,    AddHelp,    ReadHelp   },
+};
+
+void AddCommands(CLI::App& program, TypedOptions& typed) {
+  program.allow_windows_style_options(false);  // the same command line on every system
+  program.set_version_flag("-V,--version", "hxahost " ZENX_VERSION, "Show the version");
+  program.require_subcommand(1);
+  program.footer(kExamples);
+  for (const CommandRow& row : kCommands) {
+    CLI::App* const command = program.add_subcommand(row.name, row.description);
+    command->footer(row.examples);  // its own commands have the same
+    row.add(*command, typed);
+  }
 }
 
 }  // namespace
 
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
   CLI::App program("hxahost - loads the collector plug-in, queries it and shows what it publishes", "hxahost");
-  program.allow_windows_style_options(false);  // the same command line on every system
-  program.set_version_flag("--version", "hxahost " ZENX_VERSION, "Show the version");
-  program.require_subcommand(1);
-  program.footer(kExamples);
   TypedOptions typed;
-  const CLI::App* const query = AddQuery(program, typed);
-  const CLI::App* const health = AddHealth(program, typed);
-  CLI::App* const classes = program.add_subcommand("classes", "List the classes that the plug-in publishes");
-  classes->footer(kClassesExamples);
-  std::string schemaFormat = CommandLine().schemaFormat;
-  CLI::App* const schema = program.add_subcommand("schema", "Show these classes with their properties");
-  schema->footer(kSchemaExamples);
-  schema->add_option("--format", schemaFormat, FormatNames("schema") + ": to be compiled, or to be read")
-      ->type_name("FORMAT")
-      ->capture_default_str();
-  DiffOptions typedDiff;
-  const CLI::App* const diff = AddDiff(program, typedDiff);
-  TypedBundle typedBundle;
-  const CLI::App* const bundle = AddBundle(program, typedBundle);
+  AddCommands(program, typed);
   try {
     program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-  } catch (const CLI::CallForHelp&) {
-    return {Command::kShowText, program.help(), {}};
   } catch (const CLI::CallForVersion& version) {
     return {Command::kShowText, std::string(version.what()) + "\n", {}};
+  } catch (const CLI::CallForHelp&) {
+    RejectUnexpected(program, arguments);
+    return {Command::kShowText, program.help(), {}};
   } catch (const CLI::ParseError& error) {
-    throw ProgramError(ExitStatus::kWrongArguments, Printable(error.what()) + ": see " + HelpOf(program) + ".");
+    RejectUnexpected(program, arguments);
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       Printable(error.what()) + ": see " + GivenCommand(program) + " --help.");
   }
-  if (query->parsed()) return ReadQuery(*query, typed);
-  if (health->parsed()) return ReadHealth(*health, typed);
-  if (diff->parsed()) return {Command::kDiff, "", {}, ReadDiff(*diff, typedDiff)};
-  if (bundle->parsed()) return ReadBundleCommand(*bundle, typedBundle);
-  if (classes->parsed()) return {Command::kClasses, "", {}};
-  CheckFormat("schema", schemaFormat);
-  CommandLine line{Command::kSchema, "", {}};
-  line.schemaFormat = schemaFormat;
-  return line;
+  const CLI::App& command = *program.get_subcommands().front();
+  return std::ranges::find(kCommands, command.get_name(), &CommandRow::name)->read(command, typed);
 }
 
 }  // namespace hxahost
