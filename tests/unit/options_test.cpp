@@ -164,6 +164,10 @@ TEST(Options, ShowTheVersionOfTheBuild) {
   EXPECT_TRUE(version.text.ends_with("\n"));
 }
 
+TEST(Options, TakeSeveralClassesWithCommas) {
+  EXPECT_THAT(Query("--class B,A --class C").classes, ElementsAre("B", "A", "C"));
+}
+
 TEST(Options, TakeShortFormsOfTheCommonOnes) {
   const QueryOptions options = Query("-f json -o o.json");
   EXPECT_EQ(options.format, "json");

@@ -91,8 +91,12 @@ void AddHealth(CLI::App& health, TypedOptions& typed) {
 
 void AddQuery(CLI::App& query, TypedOptions& typed) {
   QueryOptions& read = typed.read;
-  query.add_option("--class", read.classes, "A class to ask for; may be given again, the order counts (default: all)")
+  query
+      .add_option("--class", read.classes,
+                  "Classes to ask for: names, with or without KVRSG_ and zx, or controllers, drives, groups, disks, "
+                  "events, versions; several with commas, the order counts (default: all)")
       ->type_name("NAME")
+      ->delimiter(',')
       ->allow_extra_args(false);
   query.add_option("--repeat", typed.repeat, "How often to query; the tools are run by the first query alone")
       ->type_name("N")

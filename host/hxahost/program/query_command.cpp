@@ -1,7 +1,9 @@
 #include "host/hxahost/program/query_command.h"
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -11,6 +13,7 @@
 #include "host/hxahost/collection/working_directory.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
+#include "host/hxahost/schema/class_words.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/terminal/terminal_layout.h"
 #include "host/hxahost/text/escaping.h"
@@ -26,14 +29,7 @@ namespace {
 // The declared names, in the order asked for; all that the plug-in publishes where none was asked for.
 std::vector<std::string> DeclaredNames(const std::vector<std::string>& asked) {
   std::vector<std::string> names;
-  for (const std::string& name : asked) {
-    const ClassDeclaration* const declaration = FindClass(name);
-    if (declaration == nullptr) {
-      throw ProgramError(ExitStatus::kWrongArguments,
-                         "--class " + Printable(name) + " is not known: \"hxahost classes\" lists what there is.");
-    }
-    names.emplace_back(declaration->name);
-  }
+  for (const std::string& word : asked) std::ranges::copy(ClassesCalled(word), std::back_inserter(names));
   if (!asked.empty()) return names;
   for (const ClassDeclaration& declaration : PublishedClasses()) names.emplace_back(declaration.name);
   return names;
