@@ -174,4 +174,24 @@ TEST(JsonView, ShowsAnEmptyArrayAndAnEmptyValue) {
   EXPECT_EQ(Properties(repository).dump(), R"({"RawResults":[]})");
 }
 
+TEST(JsonLines, AreOneInstanceEachWithMachineAndTime) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxRawData", "Command", "one", "RawResults", Texts({"a\nb"}));
+  repository.Publish("KVRSG_zxRawData", "Command", "two");
+  QueryHeader header;
+  header.machine = "MACHINE";
+  header.time = TCIMDateTime("20260305123015.250000-060");
+  std::ostringstream out;
+  BeginJsonLines(out, header);
+  WriteQueryJsonLines(out, header, {1, repository.Instances(), {}});
+  EndJsonLines(out, header);
+  const std::string begin = R"({"machine":"MACHINE","time":"20260305123015.250000-060","class":"KVRSG_zxRawData",)";
+  EXPECT_EQ(out.str(), begin +
+                           R"("path":"KVRSG_zxRawData.Command=\"one\"",)"
+                           R"("properties":{"Command":"one","RawResults":["a\nb"]}})"
+                           "\n" +
+                           begin + R"("path":"KVRSG_zxRawData.Command=\"two\"","properties":{"Command":"two"}})" +
+                           "\n");
+}
+
 }  // namespace

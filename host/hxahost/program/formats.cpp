@@ -7,6 +7,7 @@
 #include "host/hxahost/schema/schema_view.h"
 #include "host/hxahost/views/cim/cim_xml_view.h"
 #include "host/hxahost/views/cim/mof_view.h"
+#include "host/hxahost/views/csv/csv_view.h"
 #include "host/hxahost/views/json/json_view.h"
 #include "host/hxahost/views/report/html_view.h"
 #include "host/hxahost/views/tables/table_view.h"
@@ -16,18 +17,20 @@ namespace hxahost {
 namespace {
 
 constexpr Format kFormats[] = {
-    {"diff",   "text",       WriteDiffText                                        },
-    {"diff",   "json",       WriteDiffJson                                        },
-    {"health", "text",       WriteHealthText                                      },
-    {"health", "json",       WriteHealthJson                                      },
-    {"health", "prometheus", WriteHealthMetrics                                   },
-    {"query",  "table",      QueryWriter{BeginTables, WriteQueryTables, EndTables}},
-    {"query",  "json",       QueryWriter{BeginJson, WriteQueryJson, EndJson}      },
-    {"query",  "html",       QueryWriter{BeginHtml, WriteQueryHtml, EndHtml}      },
-    {"query",  "cim-xml",    QueryWriter{BeginCimXml, WriteQueryCimXml, EndCimXml}},
-    {"query",  "mof",        QueryWriter{BeginMof, WriteQueryMof, EndMof}         },
-    {"schema", "mof",        WriteSchemaMof                                       },
-    {"schema", "markdown",   WriteSchemaMarkdown                                  },
+    {"diff",   "text",       WriteDiffText                                                 },
+    {"diff",   "json",       WriteDiffJson                                                 },
+    {"health", "text",       WriteHealthText                                               },
+    {"health", "json",       WriteHealthJson                                               },
+    {"health", "prometheus", WriteHealthMetrics                                            },
+    {"query",  "table",      QueryWriter{BeginTables, WriteQueryTables, EndTables}         },
+    {"query",  "json",       QueryWriter{BeginJson, WriteQueryJson, EndJson}               },
+    {"query",  "jsonl",      QueryWriter{BeginJsonLines, WriteQueryJsonLines, EndJsonLines}},
+    {"query",  "csv",        QueryWriter{BeginCsv, WriteQueryCsv, EndCsv}                  },
+    {"query",  "html",       QueryWriter{BeginHtml, WriteQueryHtml, EndHtml}               },
+    {"query",  "cim-xml",    QueryWriter{BeginCimXml, WriteQueryCimXml, EndCimXml}         },
+    {"query",  "mof",        QueryWriter{BeginMof, WriteQueryMof, EndMof}                  },
+    {"schema", "mof",        WriteSchemaMof                                                },
+    {"schema", "markdown",   WriteSchemaMarkdown                                           },
 };
 
 }  // namespace

@@ -10,6 +10,7 @@ inline constexpr const char* kExamples =
     "  hxahost query --directory C:\\tools                  run the tools in C:\\tools\\zenx\n"
     "  hxahost query --class drives,disks                  the logical drives and the disks alone\n"
     "  hxahost query --format json --output machine.json   everything, for a program to read\n"
+    "  hxahost query --format csv --class disks            the disks, for a spreadsheet\n"
     "  hxahost query --format html --output report.html    everything, for a browser and for paper\n"
     "  hxahost query --log log.txt                         with a log of every command that was run\n"
     "\n"

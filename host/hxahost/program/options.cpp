@@ -102,7 +102,8 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
       ->type_name("N")
       ->capture_default_str();
   AddFormat(query, read.format,
-            ": tables for a terminal, JSON for programs, a page for browsers, instances for CIM repositories");
+            ": tables for a terminal, JSON for programs (jsonl: an instance a line), CSV for spreadsheets, "
+            "a page for browsers, instances for CIM repositories");
   query.add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query.add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
   query.add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")

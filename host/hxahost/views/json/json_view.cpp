@@ -130,4 +130,19 @@ void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryRes
 
 void EndJson(std::ostream& out, const QueryHeader&) { out << "\n  ]\n}\n"; }
 
+void BeginJsonLines(std::ostream&, const QueryHeader&) {}
+
+void WriteQueryJsonLines(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  for (const auto& instance : result.instances) {
+    Json line = {
+        {"machine", AsUtf8(header.machine)},
+        {"time",    header.time.ToString()}
+    };
+    line.update(InstanceJson(*instance));
+    out << JsonText(line) << '\n';
+  }
+}
+
+void EndJsonLines(std::ostream&, const QueryHeader&) {}
+
 }  // namespace hxahost
