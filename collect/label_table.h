@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "collect/records.h"
+#include "collect/tool.h"
 
 // Tables of the labels that tools print: constants alone, which the parsers read with and the host looks labels up in.
 
@@ -32,3 +33,25 @@ using AnyLabelTable =
     std::variant<LabelTable<ZenxController>, LabelTable<ZenxLogicalDevice>, LabelTable<ZenxPhysicalDevice>,
                  LabelTable<ArrayStripeOrder>, LabelTable<ZenxHrConfBios>, LabelTable<ZenxBstData>,
                  LabelTable<ZenxSubStatData>, LabelTable<ZenxEventSoftData>, LabelTable<ZenxEventHardData>>;
+
+// Where in a text a label counts. Empty: anywhere.
+struct Section {
+  std::string_view start = {};  // the search for the label begins here
+  std::string_view end = {};    // must occur after the label's first character
+};
+
+// How much of what a line says goes to the field.
+enum class Extent {
+  kWhole,
+  kWords,    // some words: what follows "Device is a", one side of a comma
+  kCut,      // characters at fixed places
+  kHeading,  // the line heads several records: it is above theirs
+};
+
+// A table with the answers that it is read in.
+struct AnswerLabels {
+  AnyLabelTable labels;
+  ToolCommand command = kGetConfig;
+  Extent extent = Extent::kWhole;
+  Section section = {};
+};

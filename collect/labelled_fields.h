@@ -21,12 +21,6 @@ void ReadAnywhere(CollectedData& text, Record& record, LabelTable<Record> table)
   for (const auto& row : table) record.*row.field = text.FindValue(row.label);
 }
 
-// Where in a text a label counts. Empty: anywhere.
-struct Section {
-  std::string_view start = {};  // the search for the label begins here
-  std::string_view end = {};    // must occur after the label's first character
-};
-
 // The value of a label's first occurrence: from the second character after the next colon, so without the blank, to
 // the last but one before the next line feed, so without the carriage return. The colon may be on a later line.
 // Label, colon, line feed or a section's mark missing, or nothing between the two cuts: "".

@@ -7,15 +7,17 @@
 #include "tools/qcmdrun/commands.h"
 #include "tools/qcmdrun/labels.h"
 
-// A tool, and all labels that are read in its answers.
+// A tool, and all that is read in its answers.
 struct KnownTool {
   Tool tool;
-  std::span<const AnyLabelTable> labels;
+  std::span<const AnswerLabels> labels;
+  std::string_view deviceHead;  // begins a device
+  std::span<const ModelName> models;
 };
 
 // In the order in which they are run.
 constexpr KnownTool kKnownTools[] = {
-    {qcmdrun::kTool, qcmdrun::kLabels},
-    {hrconf::kTool,  hrconf::kLabels },
-    {arcconf::kTool, arcconf::kLabels},
+    {qcmdrun::kTool, qcmdrun::kLabels, qcmdrun::kTargetLabel, qcmdrun::kModels},
+    {hrconf::kTool,  hrconf::kLabels,  kDeviceNumberLabel,    {}              },
+    {arcconf::kTool, arcconf::kLabels, kDeviceNumberLabel,    arcconf::kModels},
 };

@@ -50,15 +50,15 @@ TEST(PropertyOrigins, NameEveryLabelButThoseThatFeedNoProperty) {
     }
   }
   std::set<std::string_view> unnamed;
-  for (const auto& [tool, tables] : kKnownTools) {
-    for (const AnyLabelTable& any : tables) {
+  for (const KnownTool& known : kKnownTools) {
+    for (const AnswerLabels& any : known.labels) {
       std::visit(
           [&](const auto& table) {
             for (const auto& row : table) {
               if (lines.find("\"" + std::string(row.label) + "\"") == lines.npos) unnamed.insert(row.label);
             }
           },
-          any);
+          any.labels);
     }
   }
   EXPECT_THAT(unnamed, ElementsAre("Additional information", "Defunct stripes", "Status of RAID 5EE"));

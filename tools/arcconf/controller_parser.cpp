@@ -9,28 +9,15 @@
 namespace arcconf {
 namespace {
 
-// The tool prints the maker's names of older models; the C models are written with a blank, the others with a hyphen.
-constexpr ModelName kModels[] = {
-    {"C4",                "Zentraxis C4"  },
-    {"C6-e",              "Zentraxis C6-e"}, // before "C6", which it contains
-    {"C6",                "Zentraxis C6"  },
-    {"KVR Tolvar NEBULA", "Zentraxis C6"  },
-    {"C5",                "Zentraxis C5"  },
-    {"Tolvar 4800X",      "Zentraxis C5"  },
-    {"B3",                "Zentraxis-B3"  },
-    {"Tolvar 2400T",      "Zentraxis-B3"  },
-    {"A2",                "Zentraxis-A2"  },
-};
-
 struct SectionLabels {
   Section section;
   LabelTable<ZenxController> labels;
 };
 
 constexpr SectionLabels kSections[] = {
-    {{},                                                                  kController       },
-    {{kControllerHeading, "Controller Version Information"},              kControllerSection},
-    {{"Controller Battery Information", "Controller Vital Product Data"}, kBatterySection   },
+    {{},               kController       },
+    {kControllerPlace, kControllerSection},
+    {kBatteryPlace,    kBatterySection   },
 };
 
 // Onboard controllers have been seen that name neither.

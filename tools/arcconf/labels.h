@@ -1,10 +1,24 @@
 #pragma once
 
 #include "collect/label_table.h"
+#include "collect/model_table.h"
 #include "collect/shared_labels.h"
 
 // What arcconf prints, and the fields that it feeds.
 namespace arcconf {
+
+// The tool prints the maker's names of older models; the C models are written with a blank, the others with a hyphen.
+constexpr ModelName kModels[] = {
+    {"C4",                "Zentraxis C4"  },
+    {"C6-e",              "Zentraxis C6-e"}, // before "C6", which it contains
+    {"C6",                "Zentraxis C6"  },
+    {"KVR Tolvar NEBULA", "Zentraxis C6"  },
+    {"C5",                "Zentraxis C5"  },
+    {"Tolvar 4800X",      "Zentraxis C5"  },
+    {"B3",                "Zentraxis-B3"  },
+    {"Tolvar 2400T",      "Zentraxis-B3"  },
+    {"A2",                "Zentraxis-A2"  },
+};
 
 // A model wins over a type.
 constexpr LabelledField<ZenxController> kModel = {"Controller Model", &ZenxController::ControllerType};
@@ -37,9 +51,11 @@ constexpr LabelledField<ZenxController> kController[] = {
 
 // Temperature and status are printed of other things too (drives, enclosures, batteries), so they are taken from their
 // sections.
+constexpr Section kControllerPlace = {kControllerHeading, "Controller Version Information"};
 constexpr LabelledField<ZenxController> kControllerSection[] = {
     {"Temperature", &ZenxController::ControllerTemp},
 };
+constexpr Section kBatteryPlace = {"Controller Battery Information", "Controller Vital Product Data"};
 constexpr LabelledField<ZenxController> kBatterySection[] = {
     {"Status", &ZenxController::ControllerBatteryStatus},
 };
@@ -137,22 +153,22 @@ constexpr LabelledField<Device> kSplitReportedChannel[] = {
     {"Reported Channel", &Device::ScsiId },
 };
 
-constexpr AnyLabelTable kLabels[] = {
-    kControllerType,
-    kController,
-    kControllerSection,
-    kBatterySection,
-    kLogicalDriveNumber,
-    kLogicalDrive,
-    kStripeOrder,
-    kDevice,
-    kUnknown,
-    kEnclosure,
-    kEnclosureStatus,
-    kHardDriveState,
-    kAssignedSpare,
-    kHardDrive,
-    kSplitReportedChannel,
+constexpr AnswerLabels kLabels[] = {
+    {kControllerType,       kGetConfig, Extent::kWhole, {}              },
+    {kController,           kGetConfig, Extent::kWhole, {}              },
+    {kControllerSection,    kGetConfig, Extent::kWhole, kControllerPlace},
+    {kBatterySection,       kGetConfig, Extent::kWhole, kBatteryPlace   },
+    {kLogicalDriveNumber,   kGetConfig, Extent::kWords, {}              },
+    {kLogicalDrive,         kGetConfig, Extent::kWhole, {}              },
+    {kStripeOrder,          kGetConfig, Extent::kWhole, {}              },
+    {kDevice,               kGetConfig, Extent::kWords, {}              },
+    {kUnknown,              kGetConfig, Extent::kWhole, {}              },
+    {kEnclosure,            kGetConfig, Extent::kWhole, {}              },
+    {kEnclosureStatus,      kGetConfig, Extent::kWhole, {}              },
+    {kHardDriveState,       kGetConfig, Extent::kWhole, {}              },
+    {kAssignedSpare,        kGetConfig, Extent::kWhole, {}              },
+    {kHardDrive,            kGetConfig, Extent::kWhole, {}              },
+    {kSplitReportedChannel, kGetConfig, Extent::kWords, {}              },
 };
 
 }  // namespace arcconf

@@ -2,6 +2,7 @@
 
 #include "collect/label_table.h"
 #include "collect/shared_labels.h"
+#include "tools/hrconf/commands.h"
 
 // What hrconf prints, and the fields that it feeds.
 namespace hrconf {
@@ -46,9 +47,12 @@ using Device = ZenxPhysicalDevice;
 
 constexpr std::string_view kChannelLabel = "Channel";
 
-// The heading of a channel, and the first lines of every device.
+constexpr LabelledField<Device> kChannelHeading[] = {
+    {kChannelLabel, &Device::Channel},
+};
+
+// The first lines of every device.
 constexpr LabelledField<Device> kDevice[] = {
-    {kChannelLabel,      &Device::Channel       },
     {kDeviceNumberLabel, &Device::DeviceNumber  },
     {kDeviceNumberLabel, &Device::DeviceIdSuffix},
     {kDeviceTypeLabel,   &Device::DeviceType    },
@@ -88,8 +92,17 @@ constexpr LabelledField<Device> kHardDrive[] = {
     {"PFA",                &Device::PFA            },
 };
 
-constexpr AnyLabelTable kLabels[] = {
-    kController, kVersions, kLogicalDriveNumber, kLogicalDrive, kStripeOrder, kDevice, kUnknown, kEnclosure, kHardDrive,
+constexpr AnswerLabels kLabels[] = {
+    {kController,         kGetConfig,  Extent::kWhole,   {}},
+    {kVersions,           kGetVersion, Extent::kWhole,   {}},
+    {kLogicalDriveNumber, kGetConfig,  Extent::kWords,   {}},
+    {kLogicalDrive,       kGetConfig,  Extent::kWhole,   {}},
+    {kStripeOrder,        kGetConfig,  Extent::kWhole,   {}},
+    {kChannelHeading,     kGetConfig,  Extent::kHeading, {}},
+    {kDevice,             kGetConfig,  Extent::kWords,   {}},
+    {kUnknown,            kGetConfig,  Extent::kWhole,   {}},
+    {kEnclosure,          kGetConfig,  Extent::kWhole,   {}},
+    {kHardDrive,          kGetConfig,  Extent::kWhole,   {}},
 };
 
 }  // namespace hrconf

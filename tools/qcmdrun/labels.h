@@ -1,11 +1,23 @@
 #pragma once
 
 #include "collect/label_table.h"
+#include "collect/model_table.h"
 #include "collect/shared_labels.h"
 #include "logs/labels.h"
+#include "tools/qcmdrun/commands.h"
 
 // What qcmdrun prints, and the fields that it feeds.
 namespace qcmdrun {
+
+// The first hit wins: "C6-e" comes before "C6", which it contains. The two oldest models are written with a hyphen.
+constexpr ModelName kModels[] = {
+    {"C4",   "Zentraxis C4"  },
+    {"C6-e", "Zentraxis C6-e"},
+    {"C6",   "Zentraxis C6"  },
+    {"C5",   "Zentraxis C5"  },
+    {"B3",   "Zentraxis-B3"  },
+    {"A2",   "Zentraxis-A2"  },
+};
 
 // A label's first occurrence anywhere in the answer counts, also one in a later section: a utility that leaves a line
 // out of the controller's section so has the value taken from there.
@@ -71,12 +83,21 @@ constexpr LabelledField<ZenxLogicalDevice> kLogicalDrive[] = {
 
 // After the array's letter.
 constexpr std::string_view kArrayLabel = " stripe order (Channel/SCSI ID)";
+constexpr LabelledField<ArrayStripeOrder> kArray[] = {
+    {kArrayLabel, &ArrayStripeOrder::Array},
+};
 constexpr LabelledField<ArrayStripeOrder> kStripeOrder[] = {
-    {kArrayLabel, &ArrayStripeOrder::Array      },
     {kArrayLabel, &ArrayStripeOrder::StripeOrder},
 };
 
 using Device = ZenxPhysicalDevice;
+
+// Begins the line that begins a device.
+constexpr std::string_view kTargetLabel = "Target";
+
+constexpr LabelledField<Device> kChannelHeading[] = {
+    {"Channel", &Device::Channel},
+};
 
 constexpr LabelledField<Device> kDeviceType[] = {
     {kDeviceTypeLabel, &Device::DeviceType},
@@ -104,9 +125,22 @@ constexpr LabelledField<Device> kIdentifierPieces[] = {
     {kIdentifierLabel, &Device::DeviceSerialNum},
 };
 
-constexpr AnyLabelTable kLabels[] = {
-    kController,      kStatus,           kLogicalDriveNumber, kLogicalDrive,  kStripeOrder,   kDeviceType,    kDevice,
-    kReplacementPart, kIdentifierPieces, kBadStripeLabels,    kSubStatLabels, kSoftLogLabels, kHardLogLabels,
+constexpr AnswerLabels kLabels[] = {
+    {kController,         kGetConfig,     Extent::kWhole,   {}},
+    {kStatus,             kGetStatus,     Extent::kWhole,   {}},
+    {kLogicalDriveNumber, kGetConfig,     Extent::kWords,   {}},
+    {kLogicalDrive,       kGetConfig,     Extent::kWhole,   {}},
+    {kArray,              kGetConfig,     Extent::kWords,   {}},
+    {kStripeOrder,        kGetConfig,     Extent::kWhole,   {}},
+    {kChannelHeading,     kGetConfig,     Extent::kHeading, {}},
+    {kDeviceType,         kGetConfig,     Extent::kWords,   {}},
+    {kDevice,             kGetConfig,     Extent::kWhole,   {}},
+    {kReplacementPart,    kGetConfig,     Extent::kWhole,   {}},
+    {kIdentifierPieces,   kGetConfig,     Extent::kCut,     {}},
+    {kBadStripeLabels,    kGetBadStripes, Extent::kWords,   {}},
+    {kSubStatLabels,      kGetSubStats,   Extent::kWords,   {}},
+    {kSoftLogLabels,      kGetSoftEvents, Extent::kWhole,   {}},
+    {kHardLogLabels,      kGetHardEvents, Extent::kWhole,   {}},
 };
 
 }  // namespace qcmdrun

@@ -24,7 +24,7 @@ std::string CutChannel(std::string_view line) {
 }
 
 void ReadDevicesOfTargetLines(ZenxController& controller, CollectedData& text, const std::string& channel) {
-  for (; Contains(text.CurrentLine(), "Target"); text.NextLine()) {
+  for (; Contains(text.CurrentLine(), kTargetLabel); text.NextLine()) {
     auto device = std::make_shared<ZenxPhysicalDevice>(controller.Host);
     ParsePhysicalDevice(*device, text, controller.ControllerNum, channel);
     controller.PhysicalDevices.push_back(std::move(device));
@@ -73,7 +73,7 @@ bool ReadPhysicalDevices(ZenxController& controller, CollectedData& text) {
     if (Contains(line, "#")) {
       channel = CutChannel(line);
       StepOverRule(text);
-    } else if (!Contains(line, "Target")) {
+    } else if (!Contains(line, kTargetLabel)) {
       text.NextLine();
     }
     ReadDevicesOfTargetLines(controller, text, channel);

@@ -75,13 +75,13 @@ std::string ToolName(std::string_view path) {
 
 std::vector<std::string_view> KnownTools() {
   std::vector<std::string_view> names;
-  for (const auto& [tool, labels] : kKnownTools) names.push_back(tool.name);
+  for (const KnownTool& known : kKnownTools) names.push_back(known.tool.name);
   return names;
 }
 
 std::size_t MostRuns() {
   std::size_t runs = 0;
-  for (const auto& [tool, labels] : kKnownTools) runs += ::MostRuns(tool);
+  for (const KnownTool& known : kKnownTools) runs += ::MostRuns(known.tool);
   return runs;
 }
 

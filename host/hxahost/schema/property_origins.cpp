@@ -6,8 +6,6 @@
 #include <type_traits>
 #include <variant>
 
-#include "tools/known_tools.h"
-
 namespace hxahost {
 
 namespace {
@@ -181,24 +179,25 @@ constexpr FedClass kClasses[] = {
     {"KVRSG_zxBiosVersion",            kBios        },
 };
 
-using Labels = std::vector<std::string_view>;
-
-// Adds the labels of the tables that feed the field, each once.
+// Adds the labels of the tables that feed the field.
 template <class Record>
-void AddLabels(Labels& labels, std::span<const AnyLabelTable> tables, std::string Record::*field) {
-  for (const AnyLabelTable& any : tables) {
-    const auto* const table = std::get_if<LabelTable<Record>>(&any);
+void AddLabels(std::vector<LabelSource>& sources, std::span<const AnswerLabels> answers, std::string Record::*field) {
+  for (const AnswerLabels& each : answers) {
+    const auto* const table = std::get_if<LabelTable<Record>>(&each.labels);
     if (table == nullptr) continue;
     for (const auto& row : *table) {
-      if (row.field == field && std::ranges::find(labels, row.label) == labels.end()) labels.push_back(row.label);
+      if (row.field == field) sources.push_back({row.label, &each});
     }
   }
 }
 
-std::string InQuotes(const Labels& labels) {
+// Each label once.
+std::string InQuotes(const std::vector<LabelSource>& sources) {
   std::string quoted;
-  for (const std::string_view label : labels) {
-    quoted.append(quoted.empty() ? "\"" : ", \"").append(label).append("\"");
+  for (auto each = sources.begin(); each != sources.end(); ++each) {
+    if (std::find_if(sources.begin(), each, [&](const auto& one) { return one.label == each->label; }) != each)
+      continue;
+    quoted.append(quoted.empty() ? "\"" : ", \"").append(each->label).append("\"");
   }
   return quoted;
 }
@@ -210,15 +209,20 @@ std::span<const FedProperty> FedPropertiesOf(std::string_view className) {
 
 }  // namespace
 
+std::vector<LabelSource> LabelsOf(const KnownTool& tool, std::string_view className, std::string_view property) {
+  std::vector<LabelSource> sources;
+  for (const FedProperty& fed : FedPropertiesOf(className)) {
+    if (fed.property != property) continue;
+    std::visit([&](const auto field) { AddLabels(sources, tool.labels, field); }, fed.field);
+  }
+  return sources;
+}
+
 std::vector<std::string> OriginLines(std::string_view className, const NKVRHXA20::PropertyDeclaration& declaration) {
   std::vector<std::string> lines;
-  for (const auto& [tool, tables] : kKnownTools) {
-    Labels labels;
-    for (const auto& [property, anyField] : FedPropertiesOf(className)) {
-      if (property != declaration.name) continue;
-      std::visit([&, &tables = tables](const auto field) { AddLabels(labels, tables, field); }, anyField);
-    }
-    if (!labels.empty()) lines.push_back(std::string(tool.name) + ": " + InQuotes(labels));
+  for (const KnownTool& known : kKnownTools) {
+    const std::vector<LabelSource> sources = LabelsOf(known, className, declaration.name);
+    if (!sources.empty()) lines.push_back(std::string(known.tool.name) + ": " + InQuotes(sources));
   }
   if (!declaration.origin.empty()) lines.emplace_back(declaration.origin);
   return lines;

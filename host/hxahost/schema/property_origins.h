@@ -5,8 +5,18 @@
 #include <vector>
 
 #include "host/hxacore/schema.h"
+#include "tools/known_tools.h"
 
 namespace hxahost {
+
+// A label that a property is printed under, and the table that has it.
+struct LabelSource {
+  std::string_view label;
+  const AnswerLabels* answers = nullptr;
+};
+
+// The labels that the tool prints a property of a class under, in the order in which they are read.
+std::vector<LabelSource> LabelsOf(const KnownTool& tool, std::string_view className, std::string_view property);
 
 // Where a property of a class comes from: one line for each tool that prints it, with the labels that it is printed
 // under, and one in words where labels do not say it all.
