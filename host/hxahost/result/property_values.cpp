@@ -45,6 +45,14 @@ std::string RawText(const TPublishedInstance& instance, std::string_view propert
   return std::string(Trim(TCIMValueReader::Text(*value)));
 }
 
+std::vector<std::string> RawElements(const TPublishedInstance& instance, std::string_view property) {
+  std::vector<std::string> texts;
+  const TCIMValue* const value = FindValue(instance, property);
+  if (value == nullptr || TCIMValueReader::Kind(*value) != ValueKind::kArray) return texts;
+  for (const TCIMValue& element : TCIMValueReader::Elements(*value)) texts.emplace_back(std::string(element));
+  return texts;
+}
+
 std::string ShownText(const TPublishedInstance& instance, std::string_view property) {
   const TCIMValue* const value = FindValue(instance, property);
   return value == nullptr ? "" : ValueText(*value);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/hxahost/result/query_result.h"
 
@@ -16,6 +17,9 @@ std::string RawText(const NKVRHXA20::TPublishedInstance& instance, std::string_v
 // A property for people, printable: the elements of an array with ", " between them, event codes in hexadecimal. ""
 // for a property that was not set.
 std::string ShownText(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
+
+// The elements of an array as texts, their bytes untouched; none where it was not set or is no array.
+std::vector<std::string> RawElements(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);
 
 // How many elements an array has; 0 for what is none.
 std::size_t ElementCount(const NKVRHXA20::TPublishedInstance& instance, std::string_view property);

@@ -1,11 +1,11 @@
 #include "host/hxahost/result/unread_lines.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include <fmt/core.h>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/result/raw_text_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/ascii.h"
@@ -18,22 +18,6 @@ namespace {
 
 bool IsOfRawText(const TPublishedInstance& instance) {
   return instance.Class().name == kRawDataClass || instance.Class().name == kManagerRawDataClass;
-}
-
-bool IsSpace(char character) { return std::isspace(static_cast<unsigned char>(character)) != 0; }
-
-// One blank between words, none at the ends.
-std::string WithSingleBlanks(std::string_view text) {
-  std::string words;
-  for (std::size_t index = 0; index < text.size(); ++index) {
-    if (!IsSpace(text[index])) {
-      words += text[index];
-    } else if (!words.empty() && words.back() != ' ') {
-      words += ' ';
-    }
-  }
-  if (!words.empty() && words.back() == ' ') words.pop_back();
-  return words;
 }
 
 template <class Add>
@@ -51,16 +35,6 @@ void ForEachText(const TCIMValue& value, const Add& add) {
     case ValueKind::kArray:
       for (const TCIMValue& element : TCIMValueReader::Elements(value)) ForEachText(element, add);
   }
-}
-
-bool IsWordEdge(const std::string& text, std::size_t place) {
-  return place == 0 || place >= text.size() || std::ispunct(static_cast<unsigned char>(text[place])) != 0 ||
-         std::ispunct(static_cast<unsigned char>(text[place - 1])) != 0 || text[place] == ' ' || text[place - 1] == ' ';
-}
-
-bool ContainsWords(const std::string& text, const std::string& words) {
-  const std::size_t place = text.find(words);
-  return place != text.npos && IsWordEdge(text, place) && IsWordEdge(text, place + words.size());
 }
 
 // The words between blanks and punctuation.
@@ -112,7 +86,7 @@ bool ShownValues::ShowsWords(const std::string& value) const {
     if (texts == textsWith_.end()) return false;
     if (fewest == nullptr || texts->second.size() < fewest->size()) fewest = &texts->second;
   }
-  const auto isShownBy = [&value](const std::string& text) { return ContainsWords(text, value); };
+  const auto isShownBy = [&value](const std::string& text) { return FindWords(text, value) != text.npos; };
   if (fewest == nullptr) return std::ranges::any_of(longTexts_, isShownBy);
   return std::ranges::any_of(*fewest, [&](std::size_t place) { return isShownBy(longTexts_[place]); });
 }
@@ -134,12 +108,10 @@ std::vector<UnreadText> FindUnreadLines(const InstanceList& instances) {
     if (!IsOfRawText(instance)) continue;
     UnreadText text;
     text.instance = place;
-    std::vector<std::string> lines;
     for (const PublishedProperty& property : instance.Properties()) {
       if (property.name == "Command") text.command = TCIMValueReader::Text(property.value);
-      if (property.name != "RawResults") continue;
-      for (const TCIMValue& line : TCIMValueReader::Elements(property.value)) lines.emplace_back(std::string(line));
     }
+    const std::vector<std::string> lines = RawElements(instance, "RawResults");
     text.unread = UnreadLines(lines, shown);
     for (const std::size_t line : text.unread) text.unreadLines.push_back(lines[line]);
     if (!text.unread.empty()) texts.push_back(std::move(text));

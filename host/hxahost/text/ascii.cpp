@@ -1,6 +1,7 @@
 #include "host/hxahost/text/ascii.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "host/hxacore/ignore_case.h"
 
@@ -39,5 +40,31 @@ std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view
 }
 
 bool IsDigits(std::string_view text) { return !text.empty() && text.find_first_not_of("0123456789") == text.npos; }
+
+std::string WithSingleBlanks(std::string_view text) {
+  std::string words;
+  for (const char character : text) {
+    if (std::isspace(static_cast<unsigned char>(character)) == 0) {
+      words += character;
+    } else if (!words.empty() && words.back() != ' ') {
+      words += ' ';
+    }
+  }
+  if (!words.empty() && words.back() == ' ') words.pop_back();
+  return words;
+}
+
+std::size_t FindWords(std::string_view text, std::string_view words, std::size_t from) {
+  const auto isBoundary = [text](std::size_t place) {
+    return std::isspace(static_cast<unsigned char>(text[place])) != 0 ||
+           std::ispunct(static_cast<unsigned char>(text[place])) != 0;
+  };
+  const auto isEdge = [&](std::size_t place) {
+    return place == 0 || place >= text.size() || isBoundary(place) || isBoundary(place - 1);
+  };
+  std::size_t place = text.find(words, from);
+  while (place != text.npos && !(isEdge(place) && isEdge(place + words.size()))) place = text.find(words, place + 1);
+  return place;
+}
 
 }  // namespace hxahost

@@ -22,6 +22,13 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
 // The same where each of the characters is a separator.
 std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view separators);
 
+// The text with one blank for all white space between words, and none at the ends.
+std::string WithSingleBlanks(std::string_view text);
+
+// Where the words begin in the text, from the given place on, with no letter or digit directly around them; npos where
+// they do not.
+std::size_t FindWords(std::string_view text, std::string_view words, std::size_t from = 0);
+
 // Whether the text is a decimal number without a sign.
 bool IsDigits(std::string_view text);
 
