@@ -8,4 +8,8 @@ namespace hxahost {
 // folder. False where the system does not say.
 bool OthersMayWrite(const std::filesystem::path& path);
 
+// Gives a file the rights of the one that it replaces, and its owner where the system lets this user do so. Where there
+// is none it stays as it is.
+void CopyRights(const std::filesystem::path& from, const std::filesystem::path& to);
+
 }  // namespace hxahost

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/file_rights.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -44,6 +45,7 @@ OutputFile::OutputFile(const fs::path& path, std::string option)
                                                         " cannot be written: name a file in a folder that is there "
                                                         "and that you may write to.");
   }
+  if (written_ != path_) CopyRights(path_, written_);
 }
 
 OutputFile::~OutputFile() {

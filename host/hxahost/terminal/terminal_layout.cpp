@@ -32,11 +32,10 @@ std::size_t WidthOf(TerminalStream stream) {
   return std::clamp(width, kNarrowestLayout, kWidestLayout);
 }
 
-// NO_COLOR, set to anything, is the wish of a person for every program.
+// NO_COLOR, set to anything, is the wish of a person for every program; an option is one for this run.
 bool HasColours(const LayoutWishes& wishes) {
-  if (!Environment("NO_COLOR").empty() || wishes.color == "never") return false;
-  if (wishes.color == "always") return true;
-  return GoesToTerminal(wishes) && TerminalTakesColours();
+  if (wishes.color != "auto") return wishes.color == "always";
+  return Environment("NO_COLOR").empty() && GoesToTerminal(wishes) && TerminalTakesColours();
 }
 
 }  // namespace

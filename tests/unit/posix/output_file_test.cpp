@@ -4,6 +4,9 @@
 
 #include <filesystem>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "host/hxahost/system/exit_status.h"
 #include "tests/support/file_text.h"
 #include "tests/support/temporary_folder.h"
@@ -22,6 +25,23 @@ TEST(OutputFilePosix, WritesThroughALinkToTheFileBehindIt) {
   file.Finish();
   EXPECT_TRUE(fs::is_symlink(folder.Path() / "link"));
   EXPECT_EQ(FileText(folder.Path() / "file"), "after");
+}
+
+TEST(OutputFilePosix, KeepsModeAndOwnerOfWhatItReplaces) {
+  const TemporaryFolder folder;
+  const fs::path path = folder.Write("file", "before");
+  // Only root can give a file away.
+  const uid_t owner = geteuid() == 0 ? 1234 : geteuid();
+  ASSERT_EQ(chown(path.c_str(), owner, getegid()), 0);
+  ASSERT_EQ(chmod(path.c_str(), 0460), 0);
+  OutputFile file(path);
+  file.Stream() << "after";
+  file.Finish();
+  struct stat replaced {};
+  ASSERT_EQ(stat(path.c_str(), &replaced), 0);
+  EXPECT_EQ(replaced.st_size, 5);
+  EXPECT_EQ(replaced.st_mode & 07777U, 0460U);
+  EXPECT_EQ(replaced.st_uid, owner);
 }
 
 TEST(OutputFilePosix, WritesIntoADeviceAndDoesNotReplaceIt) {
