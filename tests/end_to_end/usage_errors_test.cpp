@@ -128,9 +128,13 @@ const std::vector<Case> kBundleCases = {
     {"--raw",    {"bundle", "show", kBundle, "1", "--raw=some"},         2, "hxahost bundle show --help" },
     {"--output", {"bundle", "show", kBundle, "1", "--output", kNowhere}, 2, "name a file in a folder"    },
     {"--output", {"bundle", "show", kBundle, "1", "--output", kFolder},  2, "name a file in a folder"    },
-    {"",         {"bundle", "mask", kBundle},                            2, "hxahost bundle mask --help" },
-    {"",         {"bundle", "mask", kBundle, kFolder},                   2, "name a file in a folder"    },
-    {"",         {"bundle", "mask", kFile, kMissing},                    2, "is no bundle of"            },
+};
+
+const std::vector<Case> kMaskCases = {
+    {"",      {"bundle", "mask", kBundle},                            2, "hxahost bundle mask --help"},
+    {"--all", {"bundle", "mask", kBundle, kMissing, "--all=serials"}, 2, "hxahost bundle mask --help"},
+    {"",      {"bundle", "mask", kBundle, kFolder},                   2, "name a file in a folder"   },
+    {"",      {"bundle", "mask", kFile, kMissing},                    2, "is no bundle of"           },
 };
 
 // One file with something good in it and one empty folder.
@@ -197,7 +201,10 @@ std::set<std::string> OptionsOf(Texts command) {
 TEST_F(UsageErrors, OfAQueryAreOneLineEachAndTouchNoFile) { Check(kQueryCases); }
 TEST_F(UsageErrors, OfHealthAreOneLineEachWithTheStatusForUnknown) { Check(kHealthCases); }
 TEST_F(UsageErrors, OfTheSchemaAreOneLineEach) { Check(kSchemaCases); }
-TEST_F(UsageErrors, OfBundlesAreOneLineEach) { Check(kBundleCases); }
+TEST_F(UsageErrors, OfBundlesAreOneLineEach) {
+  Check(kBundleCases);
+  Check(kMaskCases);
+}
 TEST_F(UsageErrors, OfTheOtherCommandsAreOneLineEach) { Check(kOtherCases); }
 
 TEST_F(UsageErrors, AreTestedForEveryOptionThatTheHelpNames) {
@@ -206,6 +213,7 @@ TEST_F(UsageErrors, AreTestedForEveryOptionThatTheHelpNames) {
       {{"health"},         kHealthCases},
       {{"schema"},         kSchemaCases},
       {{"bundle", "show"}, kBundleCases},
+      {{"bundle", "mask"}, kMaskCases  },
       {{"diff"},           kOtherCases },
   };
   for (const auto& [command, cases] : commands) {
@@ -217,8 +225,7 @@ TEST_F(UsageErrors, AreTestedForEveryOptionThatTheHelpNames) {
   }
   for (const Texts& command : {
            Texts{"classes"},
-           Texts{ "bundle",   "list"},
-           Texts{ "bundle",   "mask"}
+           Texts{ "bundle",   "list"}
   }) {
     EXPECT_EQ(OptionsOf(command), std::set<std::string>()) << command.back();
   }

@@ -18,7 +18,9 @@ std::vector<std::string> Texts(const std::string& text, const std::vector<Span>&
   return texts;
 }
 
-std::vector<std::string> Secrets(const std::string& text) { return Texts(text, FindInToolText(text).secrets); }
+std::vector<std::string> Secrets(const std::string& text) {
+  return Texts(text, FindInToolText(text, MaskScope::kNames).secrets);
+}
 
 TEST(MaskPlaces, AreTheValuesOfTheLabelsThatAreSecret) {
   struct Case {
@@ -48,6 +50,14 @@ TEST(MaskPlaces, AreTheValuesOfTheLabelsThatAreSecret) {
   for (const Case& each : cases) EXPECT_EQ(Secrets(each.text), each.secrets) << each.name;
 }
 
+TEST(MaskPlaces, AreThePartNumbersOfFrusWhereAllIsAskedFor) {
+  for (const std::string label : {"FRU and part number", "Controller FRU#", "Battery FRU#"}) {
+    const std::string line = "   " + label + " : 61K4431\r\n";
+    EXPECT_THAT(Secrets(line), IsEmpty());
+    EXPECT_THAT(Texts(line, FindInToolText(line, MaskScope::kAll).secrets), ElementsAre("61K4431"));
+  }
+}
+
 TEST(MaskPlaces, InALogAreItsThirdColumnAndItsMessagesAreProse) {
   const std::string text = "day\tINF\tDBSERVER\tDisk lost\ton DBSERVER\r\n--- restarted ---\nday\tERR\t\tx";
   const SecretPlaces places = FindInRaidLog(text);
@@ -58,7 +68,7 @@ TEST(MaskPlaces, InALogAreItsThirdColumnAndItsMessagesAreProse) {
 
 TEST(MaskPlaces, InTheToolsLogsAreQuotedTextsProse) {
   const std::string text = "<event id=\"0x1\" text=\"Archive degraded\" />";
-  EXPECT_THAT(Texts(text, FindInToolText(text).prose), ElementsAre("0x1", "Archive degraded"));
+  EXPECT_THAT(Texts(text, FindInToolText(text, MaskScope::kNames).prose), ElementsAre("0x1", "Archive degraded"));
 }
 
 }  // namespace

@@ -72,7 +72,9 @@ TEST(Options, TakeEveryOptionOfAQuery) {
 TEST(Options, TakeBundlesToRecordAndToReplay) {
   const QueryOptions both = Query("--record new --mask --replay old");
   EXPECT_EQ(both.collection.record, "new");
-  EXPECT_TRUE(both.collection.isMasked);
+  EXPECT_EQ(both.collection.mask, MaskScope::kNames);
+  EXPECT_EQ(Query("--record new --mask=all").collection.mask, MaskScope::kAll);
+  EXPECT_EQ(Query("--record new").collection.mask, std::nullopt);
   EXPECT_EQ(both.collection.replay, "old");
   EXPECT_FALSE(both.collection.hasOsType);
   EXPECT_TRUE(Query("--os-type none").collection.hasOsType);
@@ -93,6 +95,8 @@ TEST(Options, SelectWhatIsDoneWithABundle) {
   EXPECT_EQ(mask.command, Command::kBundleMask);
   EXPECT_EQ(mask.bundle.file, "f");
   EXPECT_EQ(mask.bundle.output, "g");
+  EXPECT_EQ(mask.bundle.mask, MaskScope::kNames);
+  EXPECT_EQ(Parse("bundle mask f g --all").bundle.mask, MaskScope::kAll);
 }
 
 TEST(Options, TakeZeroAndNoneAsTypesOfTheOperatingSystem) {
@@ -168,6 +172,12 @@ TEST(Options, TakeSeveralClassesWithCommas) {
   EXPECT_THAT(Query("--class B,A --class C").classes, ElementsAre("B", "A", "C"));
 }
 
+TEST(Options, TakeADashForStandardOutput) {
+  EXPECT_EQ(Query("--output -").output, "");
+  EXPECT_EQ(Query("-o -").output, "");
+  EXPECT_EQ(Parse("bundle show f 1 -o -").bundle.output, "");
+}
+
 TEST(Options, TakeShortFormsOfTheCommonOnes) {
   const QueryOptions options = Query("-f json -o o.json");
   EXPECT_EQ(options.format, "json");
@@ -231,6 +241,7 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
       {"empty machine name",        {"query", "--machine-name", ""},                        "--machine-name"        },
       {"empty time",                {"query", "--local-time", ""},                          "--local-time"          },
       {"mask without a bundle",     {"query", "--mask"},                                    "--record"              },
+      {"mask of some",              {"query", "--record", "f", "--mask=some"},              "--mask=all"            },
       {"replay and directory",      {"query", "--replay", "f", "--directory", "d"},         "leave one of them"     },
       {"empty bundle",              {"query", "--record", ""},                              "--record"              },
       {"bundle alone",              {"bundle"},                                             "hxahost bundle"        },

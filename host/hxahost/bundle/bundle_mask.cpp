@@ -8,8 +8,6 @@
 #include <string_view>
 #include <utility>
 
-#include "host/hxahost/bundle/mask_places.h"
-
 namespace hxahost {
 
 namespace {
@@ -73,12 +71,13 @@ class Secrets {
 
 class Masking {
  public:
-  explicit Masking(RandomSource random) : mask_(std::move(random)) {}
+  Masking(RandomSource random, MaskScope scope) : mask_(std::move(random)), scope_(scope) {}
 
   void Learn(std::string_view secret) { secrets_.Add(secret); }
   void Learn(std::string_view text, const SecretPlaces& places) {
     for (const Span& span : places.secrets) secrets_.Add(text.substr(span.begin, span.length));
   }
+  void LearnToolText(std::string_view text) { Learn(text, FindInToolText(text, scope_)); }
 
   void MaskWhole(std::string& secret) { secret = mask_.Mask(secret); }
 
@@ -99,12 +98,15 @@ class Masking {
     }
   }
 
+  void MaskToolText(std::string& text) { MaskText(text, FindInToolText(text, scope_)); }
+
   // A sentence of the system or the host.
   void MaskProse(std::string& text) { MaskText(text, {{}, {{0, text.size()}}}); }
 
  private:
   Secrets secrets_;
   TextMask mask_;
+  MaskScope scope_;
 };
 
 // The folder that the path begins with is masked as it is on its own, whichever slashes separate its parts.
@@ -117,20 +119,20 @@ void MaskFolder(std::string& path, std::string_view folder, std::string_view mas
 void LearnAll(const Bundle& bundle, Masking& masking) {
   masking.Learn(bundle.machine);
   masking.Learn(bundle.directory);
-  for (const RecordedRun& run : bundle.runs) masking.Learn(run.result.output, FindInToolText(run.result.output));
+  for (const RecordedRun& run : bundle.runs) masking.LearnToolText(run.result.output);
   if (bundle.raidLog) masking.Learn(bundle.raidLog->bytes, FindInRaidLog(bundle.raidLog->bytes));
 }
 
 void MaskRun(RecordedRun& run, Masking& masking) {
-  masking.MaskText(run.result.output, FindInToolText(run.result.output));
+  masking.MaskToolText(run.result.output);
   if (run.failure) masking.MaskProse(run.failure->message);
 }
 
 }  // namespace
 
-Bundle MaskBundle(const Bundle& bundle, RandomSource random) {
+Bundle MaskBundle(const Bundle& bundle, RandomSource random, MaskScope scope) {
   Bundle masked = bundle;
-  Masking masking(std::move(random));
+  Masking masking(std::move(random), scope);
   LearnAll(bundle, masking);
   masked.isMasked = true;
   masking.MaskWhole(masked.machine);

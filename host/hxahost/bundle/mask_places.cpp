@@ -11,6 +11,7 @@ struct MaskedLabel {
   std::size_t from = 0;       // characters behind the colon that are left
   std::size_t shortest = 1;   // shorter values are left
   std::string_view ofDevice;  // only of devices whose type contains this
+  MaskScope scope = MaskScope::kNames;
 };
 
 // What names a thing for good, or was chosen by people. Left as they are: vendors, models, sizes, states, versions
@@ -18,18 +19,18 @@ struct MaskedLabel {
 // tool's own. In the identifier of a hard disk the serial number stands behind model and firmware; its first character
 // is the last of the firmware's, and left. Other devices have no serial number there.
 constexpr MaskedLabel kLabels[] = {
-    {"Controller Serial Number", 0,  1, ""         },
-    {"Serial",                   0,  1, ""         }, // number
-    {"World-wide name",          0,  1, ""         },
-    {"FRU",                      0,  1, ""         }, // and part number
-    {"Controller FRU",           0,  1, ""         },
-    {"Battery FRU",              0,  1, ""         },
-    {"VPD Assigned",             0,  1, ""         },
-    {"Controller name",          0,  1, ""         },
-    {"Logical drive name",       0,  1, ""         },
-    {"Array name",               0,  1, ""         },
-    {"Enclosure ID",             0,  5, ""         }, // "0" is a place, "5000F0A0001B4000" a name for good
-    {"Device ID",                21, 1, "Hard disk"}, // " TALVERA T36LW10 S96H8B01234"
+    {"Controller Serial Number", 0, 1,               ""            },
+    {"Serial",                   0, 1,               ""            }, // number
+    {"World-wide name",          0, 1,               ""            },
+    {"FRU",                      0, 1,               "",             MaskScope::kAll}, // and part number
+    {"Controller FRU",                          0,            1, "",   MaskScope::kAll},
+    {"Battery FRU",           0,            1,               "",                MaskScope::kAll},
+    {"VPD Assigned",                        0,          1,           ""},
+    {"Controller name",                         0,               1,                    ""                     },
+    {"Logical drive name",                         0,          1,      ""},
+    {"Array name",                         0,               1,                         ""                                                },
+    {"Enclosure ID",                         0,          5, ""}, // "0" is a place, "5000F0A0001B4000" a name for good
+    {"Device ID",                         21,               1,                              "Hard disk"                                                                                }, // " TALVERA T36LW10 S96H8B01234"
 };
 
 // What tools print where there is nothing to hide.
@@ -57,13 +58,14 @@ Span TrimmedSpan(std::string_view text, std::size_t begin, std::size_t end) {
 }
 
 // The value on a line of the tools, by its label; of no length where it is none to be masked.
-Span ValueToMask(std::string_view line, std::string_view deviceType) {
+Span ValueToMask(std::string_view line, std::string_view deviceType, MaskScope scope) {
   const std::size_t first = line.find_first_not_of(kSpaceInLine);
   const std::size_t colon = line.find(':');
   if (first == line.npos || colon == line.npos) return {};
   const std::string_view label = line.substr(first, std::max(colon, first) - first);
   for (const MaskedLabel& row : kLabels) {
-    if (!label.starts_with(row.label) || deviceType.find(row.ofDevice) == deviceType.npos) continue;
+    if (row.scope > scope || !label.starts_with(row.label) || deviceType.find(row.ofDevice) == deviceType.npos)
+      continue;
     const Span value = TrimmedSpan(line, std::min(colon + 1 + row.from, line.size()), line.size());
     const bool isNone = std::ranges::count(kNoValues, line.substr(value.begin, value.length)) > 0;
     return value.length < row.shortest || isNone ? Span{} : value;
@@ -86,14 +88,14 @@ void AddAttributes(std::string_view line, std::size_t begin, SecretPlaces& place
 
 }  // namespace
 
-SecretPlaces FindInToolText(std::string_view text) {
+SecretPlaces FindInToolText(std::string_view text, MaskScope scope) {
   SecretPlaces places;
   std::string_view deviceType;
   ForEachLine(text, [&](std::string_view line, std::size_t begin) {
     if (const std::size_t type = line.find(kDeviceType); type != line.npos) deviceType = line.substr(type);
     const std::size_t first = line.find_first_not_of(kSpaceInLine);
     if (first != line.npos && line[first] == '<') return AddAttributes(line, begin, places);
-    const Span value = ValueToMask(line, deviceType);
+    const Span value = ValueToMask(line, deviceType, scope);
     if (value.length > 0) places.secrets.push_back({begin + value.begin, value.length});
   });
   return places;

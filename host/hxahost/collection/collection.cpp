@@ -35,7 +35,7 @@ std::optional<OutputFile> OpenRecord(const fs::path& bundle) {
 }  // namespace
 
 Collection::Collection(const CollectionOptions& options, std::ostream& err)
-    : isMasked_(options.isMasked),
+    : mask_(options.mask),
       replay_(OpenReplay(options.replay)),
       osType_(replay_ && !options.hasOsType ? replay_->Recorded().osType : options.osType),
       recordFile_(OpenRecord(options.record)),
@@ -104,7 +104,7 @@ void Collection::SaveRecording() {
     if (bundle.raidLog) bundle.raidLog = played.raidLog;
     bundle.isMasked = played.isMasked;
   }
-  if (isMasked_) bundle = MaskBundle(bundle, SystemRandom());
+  if (mask_) bundle = MaskBundle(bundle, SystemRandom(), *mask_);
   recordFile_->Stream() << WriteBundle(bundle);
   recordFile_->Finish();
 }

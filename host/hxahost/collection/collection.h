@@ -45,7 +45,7 @@ class Collection {
  private:
   std::string ToolDirectory() const;
 
-  bool isMasked_;
+  std::optional<MaskScope> mask_;
   std::optional<BundleReplay> replay_;
   std::optional<std::uint16_t> osType_;
   std::optional<OutputFile> recordFile_;

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "host/hxahost/bundle/mask_places.h"
 #include "plugin/host_interface/date_time.h"
 
 namespace hxahost {
@@ -14,9 +15,9 @@ struct CollectionOptions {
   std::filesystem::path plugin;     // none: zenx.pi beside the program
   std::filesystem::path directory;  // the working directory of the tools
   std::filesystem::path log;
-  std::filesystem::path record;  // the bundle to write
-  bool isMasked = false;         // names and serial numbers in it are hidden
-  std::filesystem::path replay;  // the bundle to take everything from
+  std::filesystem::path record;   // the bundle to write
+  std::optional<MaskScope> mask;  // what is hidden in it
+  std::filesystem::path replay;   // the bundle to take everything from
   std::optional<std::uint16_t> osType;
   bool hasOsType = false;  // it was asked for; none is an answer, too
   std::optional<std::string> machineName;

@@ -123,7 +123,7 @@ void ShowBundle(const BundleOptions& options, std::ostream& out) {
 void MaskBundleFile(const BundleOptions& options) {
   const Bundle bundle = ReadBundleFile(options.file);
   OutputFile file(options.output, "OUT");
-  file.Stream() << WriteBundle(MaskBundle(bundle, SystemRandom()));
+  file.Stream() << WriteBundle(MaskBundle(bundle, SystemRandom(), options.mask));
   file.Finish();
 }
 

@@ -56,6 +56,13 @@ unsigned ReadWidth(const std::string& text) {
   return *number;
 }
 
+std::optional<MaskScope> ReadMask(const std::string& text) {
+  if (text.empty()) return std::nullopt;
+  if (text == "true") return MaskScope::kNames;
+  if (text != "all") Reject("--mask", text, "give --mask or --mask=all.");
+  return MaskScope::kAll;
+}
+
 void CheckColor(const std::string& text) {
   constexpr std::string_view kWords[] = {"auto", "always", "never"};
   if (std::ranges::count(kWords, text) == 0) Reject("--color", text, "give auto, always or never.");

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "host/hxahost/bundle/mask_places.h"
 #include "plugin/host_interface/date_time.h"
 
 // Values of options as they are typed. Each throws ProgramError, which names the option, shows what was typed and says
@@ -27,6 +28,9 @@ NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text);
 
 // --width: columns of the tables.
 unsigned ReadWidth(const std::string& text);
+
+// --mask: nothing, "true" where it was given alone, or all.
+std::optional<MaskScope> ReadMask(const std::string& text);
 
 // --color: one of its words.
 void CheckColor(const std::string& text);

@@ -31,6 +31,8 @@ struct TypedOptions {
   DiffOptions diff;
   BundleOptions bundle;
   std::vector<std::string> bundleItems;
+  std::string mask;  // "true" where it was given alone
+  bool masksAll = false;
   std::string schemaFormat = CommandLine().schemaFormat;
   std::vector<std::string> helpOf;
 };
@@ -59,17 +61,27 @@ CLI::Option* AddPath(CLI::App& command, const std::string& name, const std::stri
   return command.add_option_function<std::string>(name, read, description)->type_name(type);
 }
 
+// "-" is standard output, as without the option.
+void AddOutput(CLI::App& command, std::filesystem::path& path, const std::string& purpose = "") {
+  const auto read = [&path](const std::string& text) { path = text == "-" ? "" : PathFromUtf8(text); };
+  command
+      .add_option_function<std::string>("-o,--output", read,
+                                        "Where to write (default, and -: standard output)" + purpose)
+      ->type_name("FILE");
+}
+
 // What every command that collects is told.
 void AddCollecting(CLI::App& command, TypedOptions& typed) {
   CollectionOptions& read = typed.read.collection;
   AddPath(command, "--plugin", "FILE", read.plugin, "The plug-in to load (default: zenx.pi beside this program)");
   AddPath(command, "--directory", "DIR", read.directory, "Where the folder zenx with the tools is (default: here)");
-  AddPath(command, "-o,--output", "FILE", typed.read.output,
-          "Where to write (default: standard output); complete or not at all");
+  AddOutput(command, typed.read.output, "; complete or not at all");
   AddPath(command, "--log", "FILE", read.log, "Write the log there: one line for an entry, its level first");
   AddPath(command, "--record", "BUNDLE", read.record,
           "Keep all that the collection was told in a bundle, to be replayed");
-  command.add_flag("--mask", read.isMasked, "Hide machine name, serial numbers and given names in that bundle");
+  command.add_flag(
+      "--mask", typed.mask,
+      "Hide machine name, serial numbers and given names in that bundle; FRU part numbers, too: --mask=all");
   AddPath(command, "--replay", "BUNDLE", read.replay, "Run no tool: take everything from a bundle");
   command
       .add_option("--os-type", typed.osType,
@@ -109,7 +121,7 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
   query.add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")
       ->type_name("N");
   query.add_flag("--ascii", read.isAscii, "Tables in ASCII alone (default where the terminal shows nothing else)");
-  query.add_option("--color", read.color, "State words in colour; never where NO_COLOR is set")
+  query.add_option("--color", read.color, "State words in colour (auto: on a terminal, where NO_COLOR is not set)")
       ->type_name("auto|always|never")
       ->capture_default_str();
   AddCollecting(query, typed);
@@ -132,10 +144,11 @@ void AddBundle(CLI::App& bundle, TypedOptions& typed) {
   AddPath(*show, "FILE", "TEXT", read.file, "The bundle")->required();
   show->add_option("ITEM", typed.bundleItems, "Numbers of the list (default: what stands before the items)");
   show->add_flag("--raw", read.isRaw, "The bytes themselves, for a file or another program");
-  AddPath(*show, "-o,--output", "FILE", read.output, "Where to write (default: standard output)");
+  AddOutput(*show, read.output);
   CLI::App* const mask = bundle.add_subcommand("mask", "Hide machine name, serial numbers and given names");
   AddPath(*mask, "IN", "TEXT", read.file, "The bundle")->required();
   AddPath(*mask, "OUT", "TEXT", read.output, "The masked one")->required();
+  mask->add_flag("--all", typed.masksAll, "Hide FRU part numbers, too");
 }
 
 void AddNothing(CLI::App&, TypedOptions&) {}
@@ -157,7 +170,7 @@ void RejectEmptyValues(const CLI::App& query) {
 }
 
 void CheckBundles(const CollectionOptions& options) {
-  if (options.isMasked && options.record.empty()) {
+  if (options.mask && options.record.empty()) {
     throw ProgramError(ExitStatus::kWrongArguments,
                        "--mask hides what is in a bundle: name one with --record, or leave it out.");
   }
@@ -177,6 +190,7 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   if (!typed.machineName.empty()) collection.machineName = typed.machineName;
   if (!typed.localTime.empty()) collection.localTime = ReadLocalTime(typed.localTime);
   collection.showProgress = !typed.noProgress;
+  collection.mask = ReadMask(typed.mask);
   if (!typed.width.empty()) options.width = ReadWidth(typed.width);
   CheckColor(options.color);
   CheckBundles(collection);
@@ -195,6 +209,7 @@ CommandLine ReadBundle(const CLI::App& bundle, const TypedOptions& typed) {
   RejectEmptyValues(given);
   CommandLine line;
   line.bundle = typed.bundle;
+  line.bundle.mask = typed.masksAll ? MaskScope::kAll : MaskScope::kNames;
   for (const std::string& item : typed.bundleItems) {
     const auto number = WholeNumber(item);
     if (!number || *number == 0) Reject("ITEM", item, "give a number that \"hxahost bundle list\" shows.");

@@ -30,6 +30,7 @@ struct BundleOptions {
   std::vector<std::size_t> items;  // to be shown, counted from 1; none: what stands before them
   bool isRaw = false;
   std::filesystem::path output;  // where the items, or the masked bundle, go
+  MaskScope mask = MaskScope::kNames;
 };
 
 // What "hxahost diff" is asked for: two results that were written before.
