@@ -18,7 +18,14 @@ namespace {
 
 constexpr std::string_view kChannelHead = "Channel #";
 
-bool Contains(std::string_view line, std::string_view part) { return line.find(part) != line.npos; }
+// A tool may print none of the parts that are looked for.
+bool Contains(std::string_view line, std::string_view part) { return !part.empty() && line.find(part) != line.npos; }
+
+// What begins the line of a stripe order.
+std::string_view OrderLabel(const KnownTool& tool) {
+  const std::vector<LabelSource> sources = LabelsOf(tool, kDiskGroupClass, "StripeOrder");
+  return sources.empty() ? std::string_view() : sources.front().label;
+}
 
 // What ends the lines of an object, beside the next one.
 bool EndsObject(std::string_view line) {
@@ -39,8 +46,7 @@ std::string DeviceKey(std::string_view line, std::string_view head) {
 // Walks through the lines of a report once.
 class BlockFinder {
  public:
-  explicit BlockFinder(ToolText& text)
-      : text_(text), orderLabel_(LabelsOf(*text.tool, kDiskGroupClass, "StripeOrder").front().label) {}
+  explicit BlockFinder(ToolText& text) : text_(text), orderLabel_(OrderLabel(*text.tool)) {}
 
   void Find() {
     for (std::size_t index = 0; index < text_.lines.size(); ++index) Take(index, text_.lines[index]);
