@@ -26,6 +26,15 @@ inline constexpr const char* kHealthExamples =
     "Exit status, as monitoring programs want it: 0 nothing is wrong, 1 warning, 2 critical, 3 unknown. The worst\n"
     "finding decides: critical over warning over unknown. What keeps the command from its answer is 3, too.";
 
+inline constexpr const char* kExplainExamples =
+    "Examples:\n"
+    "  hxahost explain C4 slot 8          the disk in slot 8 of controller 4\n"
+    "  hxahost explain Database           the logical drive of that name\n"
+    "  hxahost explain NV3LE77Q2H         the disk with that serial number\n"
+    "\n"
+    "Exit status: 0 done, 1 the query failed, 2 wrong arguments, or not one object alone is called so, 3 the plug-in\n"
+    "could not be loaded.";
+
 inline constexpr const char* kDiffExamples =
     "Examples:\n"
     "  hxahost diff monday.json friday.json                 what is worst first\n"

@@ -35,6 +35,7 @@ struct TypedOptions {
   bool masksAll = false;
   std::string schemaFormat = CommandLine().schemaFormat;
   std::vector<std::string> helpOf;
+  std::vector<std::string> object;
 };
 
 std::string FormatNames(std::string_view command) {
@@ -101,6 +102,24 @@ void AddHealth(CLI::App& health, TypedOptions& typed) {
   AddCollecting(health, typed);
 }
 
+// How tables look.
+void AddLayout(CLI::App& command, TypedOptions& typed) {
+  command.add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")
+      ->type_name("N");
+  command.add_flag("--ascii", typed.read.isAscii,
+                   "Tables in ASCII alone (default where the terminal shows nothing else)");
+}
+
+void AddExplain(CLI::App& explain, TypedOptions& typed) {
+  explain
+      .add_option("WHAT", typed.object,
+                  "A controller (C4), a logical drive (C4 LD3), an array (C4 array A), a disk (C4 slot 8), or the "
+                  "name, serial number or DeviceID of one")
+      ->required();
+  AddLayout(explain, typed);
+  AddCollecting(explain, typed);
+}
+
 void AddQuery(CLI::App& query, TypedOptions& typed) {
   QueryOptions& read = typed.read;
   query
@@ -118,9 +137,7 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
             "a page for browsers, instances for CIM repositories");
   query.add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query.add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
-  query.add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")
-      ->type_name("N");
-  query.add_flag("--ascii", read.isAscii, "Tables in ASCII alone (default where the terminal shows nothing else)");
+  AddLayout(query, typed);
   query.add_option("--color", read.color, "State words in colour (auto: on a terminal, where NO_COLOR is not set)")
       ->type_name("auto|always|never")
       ->capture_default_str();
@@ -242,6 +259,13 @@ CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   return line;
 }
 
+// What is asked for may be several words.
+CommandLine ReadExplain(const CLI::App& explain, const TypedOptions& typed) {
+  CommandLine line{Command::kExplain, "", ReadCollecting(explain, typed)};
+  for (const std::string& word : typed.object) line.object += (line.object.empty() ? "" : " ") + word;
+  return line;
+}
+
 CommandLine ReadClasses(const CLI::App&, const TypedOptions&) { return {Command::kClasses, "", {}}; }
 
 CommandLine ReadSchema(const CLI::App&, const TypedOptions& typed) {
@@ -270,6 +294,7 @@ struct CommandRow {
 constexpr CommandRow kCommands[] = {
     {"query",   "Run the controller utilities and show what they say",     kExamples,        AddQuery,   ReadQuery  },
     {"health",  "Say what is wrong with the controllers and their drives", kHealthExamples,  AddHealth,  ReadHealth },
+    {"explain", "Show which line each value of an object comes from",      kExplainExamples, AddExplain, ReadExplain},
     {"diff",    "Show what is different between two JSON results",         kDiffExamples,    AddDiff,    ReadDiff   },
     {"bundle",  "Look into what \"hxahost query --record\" wrote",         kBundleExamples,  AddBundle,  ReadBundle },
     {"classes", "List the classes that the plug-in publishes",             kClassesExamples, AddNothing, ReadClasses},

@@ -45,6 +45,7 @@ enum class Command {
   kQuery,
   kHealth,
   kHealthRules,
+  kExplain,
   kDiff,
   kClasses,
   kSchema,
@@ -60,6 +61,7 @@ struct CommandLine {
   DiffOptions diff = {};
   BundleOptions bundle = {};
   std::string schemaFormat = "mof";
+  std::string object = {};  // that "hxahost explain" is asked for
 };
 
 // Reads the arguments that follow the program's name. Throws ProgramError for wrong ones.

@@ -5,6 +5,7 @@
 #include "host/hxacore/schema.h"
 #include "host/hxahost/program/bundle_command.h"
 #include "host/hxahost/program/diff_command.h"
+#include "host/hxahost/program/explain_command.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/health_command.h"
 #include "host/hxahost/program/options.h"
@@ -25,6 +26,7 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
     case Command::kShowText: out << commandLine.text; break;
     case Command::kQuery: RunQueryCommand(commandLine.query, out, err); break;
     case Command::kHealth: status = static_cast<int>(RunHealthCommand(commandLine.query, out, err)); break;
+    case Command::kExplain: RunExplainCommand(commandLine.query, commandLine.object, out, err); break;
     case Command::kHealthRules: WriteHealthRules(out); break;
     case Command::kClasses: WriteClassList(out, NKVRHXA20::PublishedClasses()); break;
     case Command::kSchema:
