@@ -126,7 +126,7 @@ TEST_F(Bundles, RecordsTheBundleThatIsKept) {
   const RaidLogSetting setting(kRaidLogFolder);
   const MachineCopy machine;
   machine.LeaveOnly("qcmdrun");
-  machine.RemoveController("qcmdrun", "3");
+  machine.RemoveController("qcmdrun", "2");
   Run({"query", "--format", "json", "--directory", machine.Directory(), "--record", Name("m.bundle"), "--output",
        Name("out"), "--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060"});
   hxahost::Bundle now = hxahost::ReadBundleFile(folder_.Path() / "m.bundle");

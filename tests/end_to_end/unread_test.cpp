@@ -44,7 +44,7 @@ TEST(Unread, ListsOfTheSampleMachineWhatIsReallyNotPublished) {
   EXPECT_EQ(lines, 31U);
   EXPECT_EQ(commands,
             (std::vector<std::string>{"zenx//qcmdrun.exe getconfig 1 al", "zenx//qcmdrun.exe getstatus 1 device",
-                                      "zenx//qcmdrun.exe getconfig 3 al", "zenx//hrconf_64.exe getstatus 1 nuthin",
+                                      "zenx//qcmdrun.exe getconfig 2 al", "zenx//hrconf_64.exe getstatus 1 nuthin",
                                       "zenx//arcconf.exe getconfig 1 al", "zenx//arcconf.exe getlogs 1 device",
                                       "zenx//arcconf.exe getlogs 1 dead", "zenx//arcconf.exe getlogs 1 event",
                                       "zenx//arcconf.exe getlogs 1 uart", "zenx//arcconf.exe getconfig 2 al",

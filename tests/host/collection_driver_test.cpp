@@ -68,17 +68,16 @@ std::map<std::string, std::string> AnswersOf(const Machine& machine) {
 }
 
 // A missing qcmdrun is recorded as 64 failures, a missing hrconf as 24, a missing arcconf not at all. With their
-// controllers they record 16, 3 and 10. Numbers go on from the count of controllers before: the legacy utility has none
-// under its number 2, so the number 3 comes twice.
+// controllers they record 16, 3 and 10.
 const Machine kMachines[] = {
     {"none",                {},                                  {},                        64 + 24     },
-    {"qcmdrun",             {"qcmdrun"},                         {"1", "3"},                16 + 24     },
+    {"qcmdrun",             {"qcmdrun"},                         {"1", "2"},                16 + 24     },
     {"hrconf",              {"hrconf_64"},                       {"1"},                     64 + 3      },
     {"arcconf",             {"arcconf"},                         {"1", "2"},                64 + 24 + 10},
-    {"qcmdrun and hrconf",  {"qcmdrun", "hrconf_64"},            {"1", "3", "3"},           16 + 3      },
-    {"qcmdrun and arcconf", {"qcmdrun", "arcconf"},              {"1", "3", "3", "4"},      16 + 24 + 10},
+    {"qcmdrun and hrconf",  {"qcmdrun", "hrconf_64"},            {"1", "2", "3"},           16 + 3      },
+    {"qcmdrun and arcconf", {"qcmdrun", "arcconf"},              {"1", "2", "3", "4"},      16 + 24 + 10},
     {"hrconf and arcconf",  {"hrconf_64", "arcconf"},            {"1", "2", "3"},           64 + 3 + 10 },
-    {"all",                 {"qcmdrun", "hrconf_64", "arcconf"}, {"1", "3", "3", "4", "5"}, 16 + 3 + 10 },
+    {"all",                 {"qcmdrun", "hrconf_64", "arcconf"}, {"1", "2", "3", "4", "5"}, 16 + 3 + 10 },
 };
 
 TEST(ZenxCollectData, NumberControllersOnFromToolToTool) {
@@ -87,6 +86,18 @@ TEST(ZenxCollectData, NumberControllersOnFromToolToTool) {
     EXPECT_EQ(outcome.controllers, machine.controllers) << machine.name;
     EXPECT_EQ(outcome.commands.size(), machine.recorded) << machine.name;
   }
+}
+
+// Numbers go on from the count of controllers before, not from the highest number.
+TEST(ZenxCollectData, GiveANumberTwiceWhereALegacyControllerIsMissingBeforeAnother) {
+  std::map<std::string, std::string> answers;
+  for (auto& [command, answer] : AnswersOf(std::end(kMachines)[-1])) {
+    std::string swapped = command;
+    const std::size_t number = command.starts_with("qcmdrun ") ? command.find_first_of("23") : command.npos;
+    if (number != command.npos) swapped[number] = command[number] == '2' ? '3' : '2';
+    answers[swapped] = answer;
+  }
+  EXPECT_EQ(Collect<ZenxCollectData>(answers, false).controllers, (Lines{"1", "3", "3", "4", "5"}));
 }
 
 TEST(ZenxCollectData, RunRecordAndLogWhatTheThreeToolsDoOneAfterTheOther) {
@@ -105,7 +116,7 @@ TEST(ZenxCollectData, RunRecordAndLogWhatTheThreeToolsDoOneAfterTheOther) {
 TEST(ZenxCollectData, RunNoHrconfCommandWhereItIsSkippedAndStartArcconfAtTheLegacyCount) {
   const Machine& all = std::end(kMachines)[-1];
   const Outcome outcome = Collect<ZenxCollectData>(AnswersOf(all), true);
-  EXPECT_EQ(outcome.controllers, (Lines{"1", "3", "3", "4"}));
+  EXPECT_EQ(outcome.controllers, (Lines{"1", "2", "3", "4"}));
   EXPECT_EQ(outcome.commands.size(), 16u + 10u);
   for (const std::string& run : outcome.runs) EXPECT_FALSE(run.starts_with("hrconf_64")) << run;
 }

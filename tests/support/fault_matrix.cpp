@@ -20,10 +20,10 @@ namespace {
 constexpr const char* kControllerClass = "KVRSG_zxSCSIProtocolController";
 
 // The sample machine's answers, under numbers from which no two controllers get the same one: the legacy utility has 1
-// and 3, hrconf has 2, which becomes 4, and arcconf has 3 and 4, which become 6 and 7.
+// and 2, hrconf has 2, which becomes 4, and arcconf has 3 and 4, which become 6 and 7.
 constexpr Moved kControllers[] = {
     {"qcmdrun",   1, 1, "1"},
-    {"qcmdrun",   3, 3, "3"},
+    {"qcmdrun",   2, 2, "2"},
     {"hrconf_64", 1, 2, "4"},
     {"arcconf",   1, 3, "6"},
     {"arcconf",   2, 4, "7"},

@@ -1,0 +1,10 @@
+# Gives the second legacy controller of the sample machine in "folder" the number 3, as if number 2 had been taken out.
+set(answers ${folder}/zenx/answers/qcmdrun)
+file(RENAME ${answers}/2 ${answers}/3)
+file(GLOB texts ${answers}/3/*.txt)
+foreach(text ${texts})
+  file(READ ${text} content)
+  string(REPLACE " for controller 2" " for controller 3" content "${content}")
+  string(REPLACE "A:2 C:" "A:3 C:" content "${content}")
+  file(WRITE ${text} "${content}")
+endforeach()
