@@ -2,13 +2,20 @@
 // against tests/golden/sample-machine.json, and the second against the first. To renew that file, run this test
 // natively with ZENX_RENEW_GOLDEN=1 in the environment, and read the difference line by line before it is committed.
 
+#include <algorithm>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/same_lines.h"
 
 namespace {
 
+namespace fs = std::filesystem;
+using hxahost::Utf8FromPath;
+using testing::HasSubstr;
 using Json = nlohmann::ordered_json;
 
 TEST(SampleMachine, PublishesWhatItHasAlwaysPublishedOnBothSystems) {
@@ -30,6 +37,23 @@ TEST(SampleMachine, PublishesTheSameOnTheSecondQueryWithoutRunningAToolOrReading
     { "level": 100, "text": "There exist bad stripes in Logical Drive of Zentraxis." },
     { "level": 3, "text": "Unexpected end of file reached." }
   ])"));
+}
+
+// A gap in the legacy numbers: the next utility gives its controller a number that is in use.
+TEST(SampleMachineWithAGap, KeepsApartTheControllersThatShareANumber) {
+  const fs::path machine = SampleMachine().parent_path() / "sample-machine-with-gap";
+  const ProgramResult status = RunHxahost({"status", "--directory", Utf8FromPath(machine), "--width", "80"});
+  EXPECT_EQ(status.exitStatus, 0) << status.err;
+  EXPECT_THAT(status.out, HasSubstr("C3 (qcmdrun) logical drive 2 (RAID 0) is offline"));
+  for (const char* const label : {"  C1 ", "  C3 (qcmdrun) ", "  C3 (hrconf_64) ", "  C4 ", "  C5 "}) {
+    EXPECT_THAT(status.out, HasSubstr(label));
+  }
+}
+
+TEST(Status, FitsOneScreenWithWhatToDoForEveryCause) {
+  const ProgramResult status = RunHxahost({"--replay", RecordedSampleMachine(), "--width", "80"});
+  EXPECT_TRUE(IsGolden("sample-machine-status.txt", status.out));
+  EXPECT_LE(std::ranges::count(status.out, '\n'), 24);
 }
 
 }  // namespace

@@ -49,6 +49,7 @@ const std::vector<Case> kQueryCases = {
     {"--directory",    {"query", "--directory", kFile},                        2, "name the folder"            },
     {"--class",        {"query", "--class", "KVRSG_Nothing"},                  2, "\"hxahost classes\" lists"  },
     {"--class",        {"query", "--class", ""},                               2, "give a value"               },
+    {"--warn",         {"query", "--warn", "heat=1"},                          2, "NAME is one of"             },
     {"--repeat",       {"query", "--repeat", "0"},                             2, "a whole number from 1 on"   },
     {"--format",       {"query", "--format", "yaml"},                          2, "give table or json"         },
     {"--output",       {"query", "--output", kNowhere},                        2, "name a file in a folder"    },
@@ -88,6 +89,7 @@ const std::vector<Case> kHealthCases = {
     {"--os-type",      {"health", "--os-type", "-1"},              3, "a number from 0 to 65535"       },
     {"--machine-name", {"health", "--machine-name", ""},           3, "give a value"                   },
     {"--local-time",   {"health", "--local-time", "noon"},         3, "yyyymmddhhmmss.mmmmmmsutc"      },
+    {"--warn",         {"health", "--warn", "soft-errors"},        3, "NAME is one of"                 },
     {"--rules",        {"health", "--rules=some"},                 3, "hxahost health --help"          },
     {"--record",       {"health", "--record", kFolder},            3, "--record "                      },
     {"--mask",         {"health", "--mask"},                       3, "name one with --record"         },
@@ -98,7 +100,7 @@ const std::vector<Case> kHealthCases = {
 };
 
 const std::vector<Case> kOtherCases = {
-    {"",         {},                                         2, "hxahost --help"           },
+    {"",         {"status", "--format", "table"},            2, "give text or json"        },
     {"",         {"collect"},                                2, "hxahost --help"           },
     {"",         {"qurey"},                                  2, "did you mean query?"      },
     {"",         {"classes", "schema"},                      2, "--help"                   },
@@ -223,6 +225,8 @@ TEST_F(UsageErrors, AreTestedForEveryOptionThatTheHelpNames) {
     }
     EXPECT_EQ(OptionsOf(command), tested) << command.back();
   }
+  const std::set<std::string> ofQuery = OptionsOf({"query"});
+  EXPECT_TRUE(std::ranges::includes(ofQuery, OptionsOf({"status"}))) << "tested with the query";
   for (const Texts& command : {
            Texts{"classes"},
            Texts{ "bundle",   "list"}

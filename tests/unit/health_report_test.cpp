@@ -61,8 +61,8 @@ TEST(HealthText, SumsUpInItsFirstLineAndHasALineForEachFinding) {
       "warning: Hard disk at channel 1, ID 1 of controller 1 [C1 CH1 I01:B]: PFA \"Yes\": the disk predicts that it "
       "will "
       "fail; replace it soon\n"
-      "warning: hrconf_64 getconfig 2 al [hrconf_64]: outcome \"timed out: no answer for 300 s\": it hung, as it does "
-      "when a controller does not answer; its controllers are not seen\n"
+      "warning: hrconf_64 getconfig 2 al [hrconf_64]: outcome \"timed out: no answer for 300 s\": its controllers are "
+      "not shown; check whether the controller still responds\n"
       "unknown: controller 2 (Zentraxis C5) [Zentraxis2]: ControllerStatus \"Puzzled\": no rule knows what this says; "
       "see "
       "the manual of the utility\n");

@@ -181,7 +181,7 @@ TEST(HealthRules, NameWordsInTheFormInWhichTheyAreCompared) {
 
 TEST(HealthRules, SayWhatItMeansWhereItIsNotFineAndWhoPrintsIt) {
   for (const HealthRule& rule : HealthRules()) {
-    EXPECT_EQ(rule.meaning.empty(), SeverityOf(rule.level) == Severity::kFine)
+    EXPECT_EQ(rule.meaning.what.empty(), SeverityOf(rule.level) == Severity::kFine)
         << rule.value->property << " " << rule.word;
     EXPECT_FALSE(rule.tools.empty()) << rule.value->property << " " << rule.word;
   }

@@ -103,10 +103,13 @@ TEST(Machine, KnowsWhatAControllerIsDoing) {
   repository.Publish("KVRSG_zxSCSIProtocolController", "Current_MostRecentOperation", "Rebuild", "Logical_Drive", "3",
                      "LastCmdStatus", "In progress", "LogicalDriveSizeInStripes", "4442880", "NumberOfRemainingStripes",
                      "1466150");
-  const Operation operation = BuildMachine({}, {2, repository.Instances(), {}}).controllers.at(0).units.at(0).operation;
-  EXPECT_THAT((std::vector{operation.name, operation.logicalDrive, operation.status, operation.stripes,
-                           operation.stripesRemaining}),
-              ElementsAre("Rebuild", "3", "In progress", "4442880", "1466150"));
+  const Machine machine = BuildMachine({}, {2, repository.Instances(), {}});
+  ASSERT_EQ(machine.controllers.at(0).units.at(0).operations.size(), 1U);
+  const Operation& operation = machine.controllers[0].units[0].operations[0];
+  EXPECT_THAT((std::vector{operation.name, operation.logicalDrive, operation.status}),
+              ElementsAre("Rebuild", "3", "In progress"));
+  EXPECT_TRUE(operation.isActive);
+  EXPECT_NEAR(operation.percent.value_or(0), 67.0, 0.01);
 }
 
 TEST(Machine, ReadsSizes) {

@@ -150,7 +150,7 @@ TEST(Options, ShowHelpWithDefaultsAndExamples) {
 }
 
 TEST(Options, ShowExamplesOfEachCommandInItsOwnHelp) {
-  for (const std::string command : {"query", "health", "diff", "classes", "schema"}) {
+  for (const std::string command : {"status", "query", "health", "diff", "classes", "schema"}) {
     const std::string help = ParseCommandLine({command, "--help"}).text;
     const std::size_t examples = help.find("\nExamples:\n  hxahost " + command);
     EXPECT_NE(examples, std::string::npos) << help;
@@ -199,7 +199,6 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
     const char* says;
   };
   const Case cases[] = {
-      {"nothing",                   {},                                                     "--help"                },
       {"unknown command",           {"collect"},                                            "see hxahost --help"    },
       {"two commands",              {"query", "classes"},                                   "classes"               },
       {"unknown option",            {"query", "--bogus"},                                   "--bogus"               },

@@ -8,9 +8,6 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kBadStripeClass = "KVRSG_BadStripeData";
-constexpr std::string_view kStatisticsClass = "KVRSG_zxSCSIDeviceData";
-constexpr std::string_view kFirmwareClass = "KVRSG_zxFirmwareVersion";
 constexpr std::string_view kBootBlockClass = "KVRSG_zxBootBlockVersion";
 constexpr std::string_view kBiosClass = "KVRSG_zxBiosVersion";
 constexpr std::string_view kDriveFirmwareClass = "KVRSG_zxDiskDriveVersion";
@@ -19,7 +16,7 @@ constexpr std::string_view kDriveFirmwareClass = "KVRSG_zxDiskDriveVersion";
 
 std::span<const ClassDependency> ClassDependencies() {
   static const ClassDependency kDependencies[] = {
-      {kBadStripeClass,                             {kLogicalDiskClass}                   },
+      {kBadStripesClass,                            {kLogicalDiskClass}                   },
       {"KVRSG_zxProtocolControllerForUnit",         {kControllerClass, kLogicalDiskClass} },
       {"KVRSG_zxProtocolControllerForPhysicalDisk", {kControllerClass, kDiskDriveClass}   },
       {"KVRSG_zxStripeOrderForController",          {kControllerClass, kDiskGroupClass}   },
@@ -27,8 +24,8 @@ std::span<const ClassDependency> ClassDependencies() {
       {"KVRSG_zxBootBlockOnController",             {kControllerClass, kBootBlockClass}   },
       {"KVRSG_zxFirmwareOnDiskDrive",               {kDiskDriveClass, kDriveFirmwareClass}},
       {"KVRSG_zxBiosOnController",                  {kControllerClass, kBiosClass}        },
-      {"KVRSG_ElementZxScsiDeviceData",             {kDiskDriveClass, kStatisticsClass}   },
-      {"KVRSG_ElementBadStripeData",                {kLogicalDiskClass, kBadStripeClass}  },
+      {"KVRSG_ElementZxScsiDeviceData",             {kDiskDriveClass, kDeviceErrorsClass} },
+      {"KVRSG_ElementBadStripeData",                {kLogicalDiskClass, kBadStripesClass} },
   };
   return kDependencies;
 }

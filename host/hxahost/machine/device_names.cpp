@@ -64,11 +64,12 @@ struct Naming {
 };
 
 constexpr Naming kNamings[] = {
-    {kControllerClass,         "DeviceID",   ControllerName  },
-    {kLogicalDiskClass,        "DeviceID",   LogicalDriveName},
-    {kDiskDriveClass,          "DeviceID",   DeviceName      },
-    {"KVRSG_BadStripeData",    "InstanceID", BadStripesName  },
-    {"KVRSG_zxSCSIDeviceData", "InstanceID", CountersName    },
+    {kControllerClass,   "DeviceID",   ControllerName  },
+    {kLogicalDiskClass,  "DeviceID",   LogicalDriveName},
+    {kDiskDriveClass,    "DeviceID",   DeviceName      },
+    {kBadStripesClass,   "InstanceID", BadStripesName  },
+    {kDeviceErrorsClass, "InstanceID", CountersName    },
+    {kTransferClass,     "InstanceID", CountersName    },
 };
 
 const Naming* FindNaming(const TPublishedInstance& instance) {

@@ -33,6 +33,24 @@ std::string_view SeverityWord(Severity severity);
 // Critical over warning over unknown over fine.
 bool IsWorse(Severity left, Severity right);
 
+// What a finding does to its object: this is what decides which findings have one cause.
+enum class Effect {
+  kOther,
+  kUnreachable,  // the data of a logical drive
+  kDegraded,     // a logical drive tolerates fewer disk failures than configured
+  kRebuilding,   // a logical drive or disk
+  kBadStripes,   // of a logical drive
+  kSegment,      // of a logical drive, on a disk that it names
+  kDiskFailed,
+  kDiskMissing,
+  kPredicted,  // the failure of a disk
+  kErrors,     // counted on a disk
+  kCounted,    // by a controller: a failure that another object reports itself
+  kController,
+  kHeat,
+  kBattery,
+};
+
 // One thing that is wrong, or that cannot be told to be right.
 struct Finding {
   Severity severity = Severity::kUnknown;
@@ -43,6 +61,7 @@ struct Finding {
   std::string text;                          // as the tool printed it, bytes, without the white space at both ends
   std::string meaning;                       // what it means and what to do
   std::optional<std::size_t> instance = {};  // the place of the instance among those of the query
+  Effect effect = Effect::kOther;
 };
 
 using Findings = std::vector<Finding>;

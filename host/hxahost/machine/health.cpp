@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/hxahost/machine/device_names.h"
+#include "host/hxahost/machine/error_findings.h"
 #include "host/hxahost/machine/silent_controllers.h"
 #include "host/hxahost/machine/tool_findings.h"
 #include "host/hxahost/result/property_values.h"
@@ -20,11 +21,13 @@ namespace hxahost {
 namespace {
 
 constexpr std::string_view kClasses[] = {
-    kControllerClass,      kLogicalDiskClass,        kDiskGroupClass, kDiskDriveClass,
-    "KVRSG_BadStripeData", "KVRSG_zxSCSIDeviceData", kRawDataClass,
+    kControllerClass, kLogicalDiskClass,  kDiskGroupClass, kDiskDriveClass, kFirmwareClass,
+    kBadStripesClass, kDeviceErrorsClass, kTransferClass,  kEventClass,     kRawDataClass,
 };
 
-constexpr Judgement kNotKnown = {Level::kUnknown, "no rule knows what this says; see the manual of the utility"};
+constexpr Judgement kNotKnown = {
+    Level::kUnknown, {"no rule knows what this says", "see the manual of the utility"}
+};
 
 // Whether a rule that holds in one place holds for what is judged.
 using Holds = std::function<bool(Where where)>;
@@ -123,7 +126,7 @@ class Examination {
       if (severity == Severity::kFine) continue;
       findings.push_back({severity, std::string(value.className), IdentifierOf(instance),
                           object == nullptr ? NameOf(instance, "") : object->name, std::string(value.property), text,
-                          std::string(judgement.meaning), place});
+                          TextOf(judgement.meaning), place, judgement.meaning.effect});
     }
   }
 
@@ -175,6 +178,7 @@ void Judge(Machine& machine, const QueryHeader& header, const QueryResult& resul
   if (IsAskedFor(header, kControllerClass)) findings = ControllerFindings(machine, result);
   Examination examination(machine, result.instances);
   for (const WatchedValue* const value : WatchedValues()) examination.Examine(*value, findings);
+  std::ranges::move(ErrorFindings(header, result.instances), std::back_inserter(findings));
   std::ranges::move(ToolFindings(result), std::back_inserter(findings));
   std::ranges::stable_sort(
       findings, [](const Finding& left, const Finding& right) { return IsWorse(left.severity, right.severity); });

@@ -12,7 +12,7 @@ namespace hxahost {
 // What a rule, or the lack of one, says of a value.
 struct Judgement {
   Level level = Level::kUnsaid;
-  std::string_view meaning;  // lives as long as the program
+  Meaning meaning;
 };
 
 // The classes that health is read from, in the order in which they are to be asked for.

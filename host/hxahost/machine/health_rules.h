@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "host/hxahost/machine/finding.h"
@@ -21,9 +22,10 @@ inline constexpr std::string_view kLog = "log";
 inline constexpr std::string_view kLeftOut = "left out";
 
 inline constexpr WatchedValue kDriveState = {"KVRSG_zxLogicalDisk", "LogicalDriveStatus", StateWords};
-inline constexpr WatchedValue kStatus = {"KVRSG_zxSCSIProtocolController", "ControllerStatus", StateWords};
+inline constexpr WatchedValue kControllerStatus = {"KVRSG_zxSCSIProtocolController", "ControllerStatus", StateWords};
 inline constexpr WatchedValue kBattery = {"KVRSG_zxSCSIProtocolController", "ControllerBatteryStatus", StateWords};
 inline constexpr WatchedValue kDiskState = {"KVRSG_zxDiskDrive", "State", StateWords};
+inline constexpr WatchedValue kHeat = {"KVRSG_zxSCSIProtocolController", "ControllerTemp", BracketedWords};
 // What is said of a controller that was not published.
 inline constexpr WatchedValue kPresence = {kLeftOut, "ControllerNum", WholeText};
 // How the run of a utility ended.
@@ -43,6 +45,16 @@ enum class Where {
   kOnState,           // on answers that states are read from, not on those that are only kept
 };
 
+// What a value means and what to do.
+struct Meaning {
+  std::string_view what;
+  std::string_view action = "";
+  Effect effect = Effect::kOther;
+};
+
+// "the disk has failed; replace it".
+std::string TextOf(const Meaning& meaning);
+
 // One word and what it means. The first rule that names the word, or its code, and holds there, counts; a word that no
 // rule names is unknown.
 struct HealthRule {
@@ -51,7 +63,7 @@ struct HealthRule {
   std::string_view code;   // the short form that the legacy utility adds; "" where there is none
   std::string_view tools;  // which print it
   Level level;
-  std::string_view meaning;  // "" where it is fine
+  Meaning meaning;  // empty where it is fine
   Where where;
 };
 

@@ -10,7 +10,9 @@
 #include "host/hxahost/machine/device_names.h"
 #include "host/hxahost/machine/device_owners.h"
 #include "host/hxahost/machine/health.h"
+#include "host/hxahost/machine/incidents.h"
 #include "host/hxahost/machine/members.h"
+#include "host/hxahost/machine/operations.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 
@@ -39,25 +41,42 @@ void Describe(ControllerUnit& unit, const TPublishedInstance& instance) {
       RawText(instance, "ControllerBatteryCapacity"),
       RawText(instance, "BatteryTimeRemaining"),
   };
-  unit.operation = {
-      RawText(instance, "Current_MostRecentOperation"),
-      RawText(instance, "Logical_Drive"),
-      RawText(instance, "LastCmdStatus"),
-      RawText(instance, "LogicalDriveSizeInStripes"),
-      RawText(instance, "NumberOfRemainingStripes"),
-  };
+  unit.serialNumber = RawText(instance, "SerialNum");
+  unit.temperature = {kHeat.property, RawText(instance, kHeat.property)};
+  unit.temperature.level = JudgeText(kHeat, unit.temperature.text).level;
 }
 
 void Describe(LogicalDrive& drive, const TPublishedInstance& instance) {
   drive.number = RawText(instance, "LogicalDriveNum");
+  drive.title = RawText(instance, "LogicalDriveName");
+  drive.raidLevel = RawText(instance, "RaidLevel");
+  drive.size = RawText(instance, "Size");
+  drive.bytes = ReadBytes(drive.size);
 }
 
 void Describe(DiskGroup&, const TPublishedInstance&) {}
+
+// "Hard disk" of one utility is "Hard drive" of the others.
+HardwareKind KindOf(std::string_view type) {
+  struct Naming {
+    std::string_view part;
+    HardwareKind kind;
+  };
+  constexpr Naming kNamings[] = {
+      {"Hard d",    HardwareKind::kDisk     },
+      {"Tape",      HardwareKind::kTape     },
+      {"Enclosure", HardwareKind::kEnclosure},
+  };
+  const auto* const naming =
+      std::ranges::find_if(kNamings, [&](const Naming& each) { return type.find(each.part) != type.npos; });
+  return naming == std::end(kNamings) ? HardwareKind::kOther : naming->kind;
+}
 
 void Describe(Device& device, const TPublishedInstance& instance) {
   SetPlace(device, instance);
   device.location = LocationOf(instance, device.channel, device.id);
   device.type = RawText(instance, "DeviceType");
+  device.kind = KindOf(device.type);
   device.vendor = RawText(instance, "Vendor");
   device.model = RawText(instance, "Model");
   device.serialNumber = RawText(instance, "DeviceSerialNum");
@@ -101,9 +120,28 @@ class Sorter {
   std::unordered_map<std::string, std::size_t> places_;
 };
 
+// The versions name their controller by its number alone: where two share it, each must have one to tell whose is
+// whose.
+void FindFirmware(std::vector<Controller>& controllers, const InstanceList& instances) {
+  std::unordered_map<std::string, std::vector<std::string>> versions;
+  for (const auto& instance : instances) {
+    if (instance->Class().name != kFirmwareClass) continue;
+    versions[RawText(*instance, "SoftwareElementID")].push_back(RawText(*instance, "Version"));
+  }
+  std::unordered_map<std::string, std::vector<ControllerUnit*>> units;
+  for (Controller& controller : controllers) {
+    for (ControllerUnit& unit : controller.units) units[controller.number].push_back(&unit);
+  }
+  for (const auto& [number, sharing] : units) {
+    const std::vector<std::string>& known = versions[number];
+    if (known.size() != sharing.size()) continue;
+    for (std::size_t index = 0; index < known.size(); ++index) sharing[index]->firmware = known[index];
+  }
+}
+
 std::vector<Controller> Controllers(const InstanceList& instances) {
   Sorter sorter(instances);
-  sorter.Add(kControllerClass, &Controller::units, kStatus.property);
+  sorter.Add(kControllerClass, &Controller::units, kControllerStatus.property);
   sorter.Add(kLogicalDiskClass, &Controller::logicalDrives, kDriveState.property);
   sorter.Add(kDiskGroupClass, &Controller::groups, {});
   sorter.Add(kDiskDriveClass, &Controller::devices, kDiskState.property);
@@ -123,7 +161,10 @@ Machine BuildMachine(const QueryHeader& header, const QueryResult& result) {
   Machine machine;
   machine.controllers = Controllers(result.instances);
   for (Controller& controller : machine.controllers) FindMembers(controller, result.instances);
+  FindFirmware(machine.controllers, result.instances);
+  FindOperations(machine.controllers, result.instances);
   Judge(machine, header, result);
+  FindIncidents(machine, result.instances);
   return machine;
 }
 

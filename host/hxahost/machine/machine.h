@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/hxahost/machine/finding.h"
+#include "host/hxahost/machine/incident.h"
 #include "host/hxahost/result/query_result.h"
 
 // A machine as its utilities describe it: the one value that people and monitoring see, each in a form of its own.
@@ -38,34 +39,45 @@ struct Battery {
   std::string timeRemaining;
 };
 
-// What the controller does beside its work, or did last: "Rebuild" of logical drive "3".
+// A background operation: "Rebuild" of logical drive "3".
 struct Operation {
   std::string name;
   std::string logicalDrive;
   std::string status;
-  std::string stripes;
-  std::string stripesRemaining;
+  std::optional<double> percent;  // that is done; 0 to 100
+  bool isActive = false;          // it runs now; otherwise it was the last one
 };
 
 struct ControllerUnit : Object {
   std::string model;
+  std::string serialNumber;
+  std::string firmware;
+  State temperature;
   Battery battery;
-  Operation operation;
+  std::vector<Operation> operations;
 };
 
 // Members are places in the controller's lists.
 struct LogicalDrive : Object {
   std::string number;
-  std::vector<std::size_t> groups;   // that it is built on
-  std::vector<std::size_t> devices;  // that its own lists name
+  std::string title;      // "Archive"; "" where it has no name
+  std::string raidLevel;  // "5"
+  std::string size;
+  std::optional<std::uint64_t> bytes;  // that the size says, where it can be read
+  std::vector<std::size_t> groups;     // that it is built on
+  std::vector<std::size_t> devices;    // that its own lists name
+  std::vector<std::size_t> members;    // all of its devices, in their order
 };
 
 struct DiskGroup : Object {
   std::vector<std::size_t> devices;
 };
 
+enum class HardwareKind { kDisk, kTape, kEnclosure, kOther };
+
 // A disk, a tape, an enclosure, ...
 struct Device : Object {
+  HardwareKind kind = HardwareKind::kOther;
   std::string channel;
   std::string id;
   std::string location;  // "enclosure 0, slot 8"; else "channel 2, ID 4"; else "device 4"; "" where nothing tells
@@ -76,7 +88,8 @@ struct Device : Object {
   std::string fru;
   std::string firmware;
   std::string size;
-  std::optional<std::uint64_t> bytes;  // that the size says, where it can be read
+  std::optional<std::uint64_t> bytes;      // that the size says, where it can be read
+  std::vector<std::size_t> logicalDrives;  // that it is a member of
 };
 
 // Everything that belongs to one controller. The utilities count their controllers each by itself, so controllers of
@@ -94,6 +107,7 @@ struct Controller {
 struct Machine {
   std::vector<Controller> controllers;  // in the order in which they, or what belongs to them, were published
   Findings findings;                    // what is wrong: the worst first, then in the order of the rules
+  Incidents incidents;                  // their causes: the worst first, then in the order of the controllers
 };
 
 // Of classes that were not asked for nothing is missed.

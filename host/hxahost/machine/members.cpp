@@ -32,6 +32,15 @@ PlacesByKey DevicesByPlace(const std::vector<Device>& devices) {
   return places;
 }
 
+// A drive's own list and its groups may name a device both.
+std::vector<std::size_t> AllMembers(const Controller& controller, const LogicalDrive& drive) {
+  std::set<std::size_t> members(drive.devices.begin(), drive.devices.end());
+  for (const std::size_t group : drive.groups) {
+    members.insert(controller.groups[group].devices.begin(), controller.groups[group].devices.end());
+  }
+  return {members.begin(), members.end()};
+}
+
 }  // namespace
 
 void FindMembers(Controller& controller, const InstanceList& instances) {
@@ -44,12 +53,15 @@ void FindMembers(Controller& controller, const InstanceList& instances) {
     groups.emplace(letter.empty() ? DriveKeyOf(instance) : letter, index);
     group.devices = Found(devices, PlacesIn(RawText(instance, "StripeOrder")));
   }
-  for (LogicalDrive& drive : controller.logicalDrives) {
+  for (std::size_t index = 0; index < controller.logicalDrives.size(); ++index) {
+    LogicalDrive& drive = controller.logicalDrives[index];
     const TPublishedInstance& instance = *instances[drive.instance];
     std::vector<std::string> keys = {DriveKey(controller.number, drive.number)};
     if (const std::string letter = RawText(instance, "PartOfArray"); !letter.empty()) keys.push_back(letter);
     drive.groups = Found(groups, keys);
     drive.devices = Found(devices, PlacesIn(RawText(instance, "StripeOrder") + " " + RawText(instance, "DriveList")));
+    drive.members = AllMembers(controller, drive);
+    for (const std::size_t member : drive.members) controller.devices[member].logicalDrives.push_back(index);
   }
 }
 

@@ -78,9 +78,15 @@ std::vector<FailedStatus> FailedStatuses(const InstanceList& instances) {
 
 Finding UnpublishedFinding(const std::string& number, const std::string& status) {
   const HealthRule& rule = RuleFor(kPresence, "not published");
-  return {SeverityOf(rule.level),   std::string(kControllerClass),     "Zentraxis" + number,
-          "controller " + number,   std::string(rule.value->property), status,
-          std::string(rule.meaning)};
+  return {SeverityOf(rule.level),
+          std::string(kControllerClass),
+          "Zentraxis" + number,
+          "controller " + number,
+          std::string(rule.value->property),
+          status,
+          TextOf(rule.meaning),
+          {},
+          rule.meaning.effect};
 }
 
 Finding FailedFinding(const FailedStatus& failed) {
@@ -89,9 +95,11 @@ Finding FailedFinding(const FailedStatus& failed) {
           std::string(kRawDataClass),
           failed.command,
           "the controller of the command " + failed.command,
-          std::string(kStatus.property),
+          std::string(kControllerStatus.property),
           failed.text,
-          std::string(rule.meaning)};
+          TextOf(rule.meaning),
+          {},
+          rule.meaning.effect};
 }
 
 }  // namespace

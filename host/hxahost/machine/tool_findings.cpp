@@ -74,7 +74,7 @@ Finding AsFinding(const Trouble& trouble) {
           std::move(name),
           std::string(kOutcome.property),
           fmt::format("{}: {}", trouble.rule->word, trouble.reason),
-          std::string(trouble.rule->meaning)};
+          TextOf(trouble.rule->meaning)};
 }
 
 // The controllers that a utility described, by tool and number.
@@ -89,9 +89,8 @@ std::size_t CountAnswers(const ToolRunList& runs) {
 
 Finding OfCollection(std::string_view word, std::string text) {
   const HealthRule& rule = RuleFor(kAnswers, word);
-  return {SeverityOf(rule.level),   std::string(kToolRun),          "collection",
-          "the collection",         std::string(kAnswers.property), std::move(text),
-          std::string(rule.meaning)};
+  return {SeverityOf(rule.level),         std::string(kToolRun), "collection",        "the collection",
+          std::string(kAnswers.property), std::move(text),       TextOf(rule.meaning)};
 }
 
 std::optional<Finding> LogFinding(const std::string& text) {
@@ -100,8 +99,8 @@ std::optional<Finding> LogFinding(const std::string& text) {
     return each.value == &kLogText && !head.empty() && each.word == head.front();
   });
   if (rule == HealthRules().end()) return std::nullopt;
-  return Finding{SeverityOf(rule->level),   std::string(kLog), "log", "the log", std::string(kLogText.property), text,
-                 std::string(rule->meaning)};
+  return Finding{SeverityOf(rule->level), std::string(kLog), "log", "the log", std::string(kLogText.property), text,
+                 TextOf(rule->meaning)};
 }
 
 // The log may say one thing twice, in a line and in a longer form.

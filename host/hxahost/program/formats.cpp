@@ -10,6 +10,7 @@
 #include "host/hxahost/views/csv/csv_view.h"
 #include "host/hxahost/views/json/json_view.h"
 #include "host/hxahost/views/report/html_view.h"
+#include "host/hxahost/views/status/status_view.h"
 #include "host/hxahost/views/tables/table_view.h"
 
 namespace hxahost {
@@ -31,6 +32,8 @@ constexpr Format kFormats[] = {
     {"query",  "mof",        QueryWriter{BeginMof, WriteQueryMof, EndMof}                  },
     {"schema", "mof",        WriteSchemaMof                                                },
     {"schema", "markdown",   WriteSchemaMarkdown                                           },
+    {"status", "text",       WriteStatusText                                               },
+    {"status", "json",       WriteHealthJson                                               },
 };
 
 }  // namespace

@@ -6,21 +6,38 @@
 
 namespace hxahost {
 
-Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
-  const auto write = WriterOf<HealthWriter>("health", options.format);
+namespace {
+
+struct Verdict {
+  Severity severity = Severity::kUnknown;
+  bool isAnyFound = false;
+};
+
+Verdict Examine(std::string_view command, const QueryOptions& options, std::ostream& out, std::ostream& err) {
+  const auto write = WriterOf<HealthWriter>(command, options.format);
   QueryOptions query = options;
   query.classes.assign(HealthClasses().begin(), HealthClasses().end());
-  Severity worst = Severity::kUnknown;
+  Verdict verdict;
   QueryDisplay display;
   display.begin = [](std::ostream&, const QueryHeader&) {};
   display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
     const HealthReport report{header, result, BuildMachine(header, result), result.seconds};
-    worst = WorstOf(report.machine.findings);
+    verdict = {WorstOf(report.machine.findings), !report.machine.controllers.empty()};
     write(shown, report);
   };
   display.end = [](std::ostream&, const QueryHeader&) {};
   RunQueries(query, display, out, err);
-  return worst;
+  return verdict;
+}
+
+}  // namespace
+
+Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
+  return Examine("health", options, out, err).severity;
+}
+
+ExitStatus RunStatusCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
+  return Examine("status", options, out, err).isAnyFound ? ExitStatus::kDone : ExitStatus::kNothingFound;
 }
 
 }  // namespace hxahost

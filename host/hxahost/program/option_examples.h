@@ -6,6 +6,17 @@ namespace hxahost {
 
 inline constexpr const char* kExamples =
     "Examples:\n"
+    "  hxahost                                             what is wrong and what to do, on one screen\n"
+    "  hxahost query                                       everything that the tools in ./zenx say\n"
+    "  hxahost query --format html --output report.html    the same for a browser and for paper\n"
+    "  hxahost health                                      for monitoring, with an exit status\n"
+    "  hxahost help query                                  what a command takes\n"
+    "\n"
+    "Exit status: 0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded,\n"
+    "4 nothing was found.";
+
+inline constexpr const char* kQueryExamples =
+    "Examples:\n"
     "  hxahost query                                       run the tools in ./zenx, show what they say\n"
     "  hxahost query --directory C:\\tools                  run the tools in C:\\tools\\zenx\n"
     "  hxahost query --class drives,disks                  the logical drives and the disks alone\n"
@@ -15,6 +26,16 @@ inline constexpr const char* kExamples =
     "  hxahost query --log log.txt                         with a log of every command that was run\n"
     "\n"
     "Exit status: 0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded.";
+
+inline constexpr const char* kStatusExamples =
+    "Examples:\n"
+    "  hxahost status                          the same as hxahost alone\n"
+    "  hxahost status --directory C:\\tools     with the tools in C:\\tools\\zenx\n"
+    "  hxahost status --replay machine.bundle  of a machine that was recorded\n"
+    "  hxahost status --warn soft-errors=100   warn of more errors only\n"
+    "\n"
+    "Exit status: 0 shown, whatever is wrong (hxahost health tells by its exit status), 1 the collection failed,\n"
+    "2 wrong arguments, 3 the plug-in could not be loaded, 4 no controller was found.";
 
 inline constexpr const char* kHealthExamples =
     "Examples:\n"

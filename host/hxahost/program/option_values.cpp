@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <limits>
 #include <string_view>
 
@@ -61,6 +62,27 @@ std::optional<MaskScope> ReadMask(const std::string& text) {
   if (text == "true") return MaskScope::kNames;
   if (text != "all") Reject("--mask", text, "give --mask or --mask=all.");
   return MaskScope::kAll;
+}
+
+Limits ReadLimits(const std::vector<std::string>& texts) {
+  Limits limits;
+  for (const std::string& text : texts) {
+    const std::size_t equals = std::min(text.find('='), text.size());
+    const auto* const named = std::ranges::find(kLimitNames, text.substr(0, equals), &LimitName::name);
+    const std::string value = text.substr(std::min(equals + 1, text.size()));
+    const auto number = WholeNumber(value);
+    if (named == std::end(kLimitNames) || !(number || value == "off")) {
+      Reject("--warn", text, "give NAME=N or NAME=off; NAME is one of " + LimitNames() + ".");
+    }
+    limits.*named->limit = number;
+  }
+  return limits;
+}
+
+std::string LimitNames() {
+  std::string names;
+  for (const LimitName& each : kLimitNames) names += (names.empty() ? "" : ", ") + std::string(each.name);
+  return names;
 }
 
 void CheckColor(const std::string& text) {

@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/hxahost/bundle/mask_places.h"
+#include "host/hxahost/result/limits.h"
 #include "plugin/host_interface/date_time.h"
 
 // Values of options as they are typed. Each throws ProgramError, which names the option, shows what was typed and says
@@ -31,6 +33,11 @@ unsigned ReadWidth(const std::string& text);
 
 // --mask: nothing, "true" where it was given alone, or all.
 std::optional<MaskScope> ReadMask(const std::string& text);
+// --warn: "NAME=N" or "NAME=off", each.
+Limits ReadLimits(const std::vector<std::string>& texts);
+
+// The names that --warn takes.
+std::string LimitNames();
 
 // --color: one of its words.
 void CheckColor(const std::string& text);

@@ -26,6 +26,8 @@ struct TypedOptions {
   std::string localTime;
   bool noProgress = false;
   std::string healthFormat = "text";
+  std::string statusFormat = "text";
+  std::vector<std::string> limits;
   bool healthRules = false;
   std::string width;
   DiffOptions diff;
@@ -96,18 +98,42 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
   command.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
 }
 
+// How text for a terminal is laid out.
+void AddLayout(CLI::App& command, TypedOptions& typed) {
+  command.add_option("--width", typed.width, "Columns of the output, 40 to 1000 (default: the terminal's; else 100)")
+      ->type_name("N");
+  command.add_flag("--ascii", typed.read.isAscii,
+                   "Output in ASCII alone (default where the terminal shows nothing else)");
+}
+
+void AddColour(CLI::App& command, TypedOptions& typed) {
+  command
+      .add_option("--color", typed.read.color, "State words in colour (auto: on a terminal, where NO_COLOR is not set)")
+      ->type_name("auto|always|never")
+      ->capture_default_str();
+}
+
+void AddLimits(CLI::App& command, TypedOptions& typed) {
+  command
+      .add_option("--warn", typed.limits,
+                  "Warn from this value on; may be given again. NAME: " + LimitNames() + "; N: a number or \"off\"")
+      ->type_name("NAME=N")
+      ->allow_extra_args(false);
+}
+
+void AddStatus(CLI::App& status, TypedOptions& typed) {
+  AddFormat(status, typed.statusFormat, ": one screen for people, JSON for programs");
+  AddLimits(status, typed);
+  AddLayout(status, typed);
+  AddColour(status, typed);
+  AddCollecting(status, typed);
+}
+
 void AddHealth(CLI::App& health, TypedOptions& typed) {
   AddFormat(health, typed.healthFormat, ": lines for people, JSON for programs, metrics");
   health.add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
+  AddLimits(health, typed);
   AddCollecting(health, typed);
-}
-
-// How tables look.
-void AddLayout(CLI::App& command, TypedOptions& typed) {
-  command.add_option("--width", typed.width, "Columns of the tables, 40 to 1000 (default: the terminal's; else 100)")
-      ->type_name("N");
-  command.add_flag("--ascii", typed.read.isAscii,
-                   "Tables in ASCII alone (default where the terminal shows nothing else)");
 }
 
 void AddExplain(CLI::App& explain, TypedOptions& typed) {
@@ -137,10 +163,9 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
             "a page for browsers, instances for CIM repositories");
   query.add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query.add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
+  AddLimits(query, typed);
   AddLayout(query, typed);
-  query.add_option("--color", read.color, "State words in colour (auto: on a terminal, where NO_COLOR is not set)")
-      ->type_name("auto|always|never")
-      ->capture_default_str();
+  AddColour(query, typed);
   AddCollecting(query, typed);
 }
 
@@ -208,6 +233,7 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   if (!typed.localTime.empty()) collection.localTime = ReadLocalTime(typed.localTime);
   collection.showProgress = !typed.noProgress;
   collection.mask = ReadMask(typed.mask);
+  options.limits = ReadLimits(typed.limits);
   if (!typed.width.empty()) options.width = ReadWidth(typed.width);
   CheckColor(options.color);
   CheckBundles(collection);
@@ -252,6 +278,13 @@ CommandLine ReadQuery(const CLI::App& query, const TypedOptions& typed) {
   return line;
 }
 
+CommandLine ReadStatus(const CLI::App& status, const TypedOptions& typed) {
+  CommandLine line{Command::kStatus, "", ReadCollecting(status, typed)};
+  line.query.format = typed.statusFormat;
+  CheckFormat("status", line.query.format);
+  return line;
+}
+
 CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   CommandLine line{typed.healthRules ? Command::kHealthRules : Command::kHealth, "", ReadCollecting(health, typed)};
   line.query.format = typed.healthFormat;
@@ -292,7 +325,8 @@ struct CommandRow {
 
 // Help, advice on mistyped words and completion follow from it.
 constexpr CommandRow kCommands[] = {
-    {"query",   "Run the controller utilities and show what they say",     kExamples,        AddQuery,   ReadQuery  },
+    {"status",  "Show on one screen what is wrong and what to do",         kStatusExamples,  AddStatus,  ReadStatus },
+    {"query",   "Run the controller utilities and show what they say",     kQueryExamples,   AddQuery,   ReadQuery  },
     {"health",  "Say what is wrong with the controllers and their drives", kHealthExamples,  AddHealth,  ReadHealth },
     {"explain", "Show which line each value of an object comes from",      kExplainExamples, AddExplain, ReadExplain},
     {"diff",    "Show what is different between two JSON results",         kDiffExamples,    AddDiff,    ReadDiff   },
@@ -314,12 +348,22 @@ void AddCommands(CLI::App& program, TypedOptions& typed) {
   }
 }
 
+// Without a command, "status" is meant; what comes first is then one of its options.
+std::vector<std::string> WithCommand(std::vector<std::string> arguments) {
+  constexpr std::string_view kOfProgram[] = {"--help", "-h", "--version", "-V"};
+  const bool hasNone = arguments.empty() ||
+                       (arguments.front().starts_with('-') && std::ranges::count(kOfProgram, arguments.front()) == 0);
+  if (hasNone) arguments.insert(arguments.begin(), "status");
+  return arguments;
+}
+
 }  // namespace
 
-CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
+CommandLine ParseCommandLine(const std::vector<std::string>& typed) {
+  const std::vector<std::string> arguments = WithCommand(typed);
   CLI::App program("hxahost - loads the collector plug-in, queries it and shows what it publishes", "hxahost");
-  TypedOptions typed;
-  AddCommands(program, typed);
+  TypedOptions options;
+  AddCommands(program, options);
   try {
     program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::CallForVersion& version) {
@@ -333,7 +377,7 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments) {
                        Printable(error.what()) + ": see " + GivenCommand(program) + " --help.");
   }
   const CLI::App& command = *program.get_subcommands().front();
-  return std::ranges::find(kCommands, command.get_name(), &CommandRow::name)->read(command, typed);
+  return std::ranges::find(kCommands, command.get_name(), &CommandRow::name)->read(command, options);
 }
 
 }  // namespace hxahost

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/hxahost/collection/collection_options.h"
+#include "host/hxahost/result/limits.h"
 
 namespace hxahost {
 
@@ -22,6 +23,7 @@ struct QueryOptions {
   std::optional<unsigned> width;  // of the tables
   bool isAscii = false;
   std::string color = "auto";
+  Limits limits;
 };
 
 // What "hxahost bundle" is asked for.
@@ -42,6 +44,7 @@ struct DiffOptions {
 
 enum class Command {
   kShowText,
+  kStatus,
   kQuery,
   kHealth,
   kHealthRules,

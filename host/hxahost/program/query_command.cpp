@@ -69,6 +69,7 @@ void RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ost
     header.queryCount = options.repeat;
     header.withRuns = options.showRuns;
     header.withUnread = options.showUnread;
+    header.limits = options.limits;
     header.layout = LayoutFor(WishesOf(options));
     display.begin(output.Stream(), header);
     for (unsigned number = 1; number <= header.queryCount; ++number) {

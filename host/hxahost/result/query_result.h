@@ -8,6 +8,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "host/hxacore/repository.h"
+#include "host/hxahost/result/limits.h"
 #include "host/hxahost/result/tool_run.h"
 #include "host/hxahost/terminal/layout.h"
 #include "plugin/host_interface/date_time.h"
@@ -24,6 +25,7 @@ struct QueryHeader {
   bool withRuns = false;    // what programs read has the runs of the tools
   bool withUnread = false;  // lines of the raw texts that no property shows are listed
   Layout layout = {};       // of the tables
+  Limits limits = {};       // of what is counted
 };
 
 inline bool IsAskedFor(const QueryHeader& header, std::string_view className) {

@@ -7,7 +7,14 @@ namespace hxahost {
 
 // What the program ends with. Scripts depend on the numbers. "hxahost health" ends with those of Severity, and with
 // kHealthUnknown for every failure.
-enum class ExitStatus { kDone = 0, kQueryFailed = 1, kWrongArguments = 2, kPluginNotLoaded = 3, kHealthUnknown = 3 };
+enum class ExitStatus {
+  kDone = 0,
+  kQueryFailed = 1,
+  kWrongArguments = 2,
+  kPluginNotLoaded = 3,
+  kHealthUnknown = 3,
+  kNothingFound = 4,
+};
 
 // Ends the program with a status. The message is the one line that a person gets: what is wrong and what to do.
 class ProgramError : public std::runtime_error {

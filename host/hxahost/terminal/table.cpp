@@ -59,11 +59,6 @@ void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t width) {
   while (columns.size() > 1 && TotalWidth(columns) > room) columns.pop_back();
 }
 
-std::string InColour(const std::string& text, Colour colour) {
-  constexpr std::string_view kColours[] = {"\x1b[31m", "\x1b[32m", "\x1b[33m", "\x1b[35m"};
-  return std::string(kColours[static_cast<std::size_t>(colour)]) + text + "\x1b[0m";
-}
-
 // Gives the text of a cell its colour.
 using Painter = std::function<std::string(const std::string& text, std::size_t column)>;
 

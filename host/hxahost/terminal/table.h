@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/hxahost/terminal/colour.h"
 #include "host/hxahost/terminal/layout.h"
 
 namespace hxahost {
@@ -16,8 +17,6 @@ struct TableColumn {
   std::size_t widest = 30;  // a longer text is cut
   std::size_t least = 8;    // what the column is narrowed to at most, to make room for others
 };
-
-enum class Colour { kRed, kGreen, kYellow, kMagenta };
 
 // A table of texts that are printable already. A row may be shorter than the columns.
 struct Table {

@@ -19,6 +19,14 @@ std::string Lower(std::string_view text) {
   return lower;
 }
 
+std::string Upper(std::string_view text) {
+  std::string upper(text);
+  for (char& letter : upper) {
+    if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
+  }
+  return upper;
+}
+
 std::vector<std::string_view> Split(std::string_view text, std::string_view separator) {
   std::vector<std::string_view> pieces;
   for (std::size_t end = text.find(separator); end != text.npos; end = text.find(separator)) {

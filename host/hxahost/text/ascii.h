@@ -16,6 +16,9 @@ std::string_view Trim(std::string_view text);
 // The text with its capital letters as small ones.
 std::string Lower(std::string_view text);
 
+// The text with its small letters as capital ones.
+std::string Upper(std::string_view text);
+
 // What is between the separators, empty pieces included: one more than there are separators.
 std::vector<std::string_view> Split(std::string_view text, std::string_view separator);
 

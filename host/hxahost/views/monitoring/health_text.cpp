@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cctype>
 #include <set>
 #include <string>
 
@@ -7,6 +6,7 @@
 
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/views/monitoring/finding_line.h"
 #include "host/hxahost/views/monitoring/health_report.h"
@@ -14,13 +14,6 @@
 namespace hxahost {
 
 namespace {
-
-std::string InCapitals(std::string_view word) {
-  std::string capitals(word);
-  std::ranges::transform(capitals, capitals.begin(),
-                         [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
-  return capitals;
-}
 
 std::string Counted(const Machine& machine, std::string_view className, std::string_view what) {
   const std::size_t count = CountOf(machine, className);
@@ -84,7 +77,7 @@ std::string_view WhereOf(Where where) {
 
 // The first line is what monitoring programs show.
 void WriteHealthText(std::ostream& out, const HealthReport& report) {
-  out << InCapitals(SeverityWord(WorstOf(report.machine.findings))) << ": " << Summary(report) << '\n';
+  out << Upper(SeverityWord(WorstOf(report.machine.findings))) << ": " << Summary(report) << '\n';
   for (const Finding& finding : report.machine.findings) out << FindingText(finding) << '\n';
 }
 
@@ -95,7 +88,7 @@ void WriteHealthRules(std::ostream& out) {
       out << (value == nullptr ? "" : "\n") << rule.value->className << ", " << rule.value->property << '\n';
     value = rule.value;
     out << fmt::format("  {:<9}{}{}, printed by {}{}{}\n", SeverityWord(SeverityOf(rule.level)), WordOf(rule),
-                       WhereOf(rule.where), rule.tools, rule.meaning.empty() ? "" : ": ", rule.meaning);
+                       WhereOf(rule.where), rule.tools, rule.meaning.what.empty() ? "" : ": ", TextOf(rule.meaning));
   }
 }
 

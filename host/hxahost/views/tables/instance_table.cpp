@@ -3,22 +3,9 @@
 #include <optional>
 
 #include "host/hxahost/result/property_values.h"
+#include "host/hxahost/views/level_colour.h"
 
 namespace hxahost {
-
-namespace {
-
-std::optional<Colour> ColourOf(Level level) {
-  switch (level) {
-    case Level::kUnsaid: return std::nullopt;
-    case Level::kUnknown: return Colour::kMagenta;
-    case Level::kWarning: return Colour::kYellow;
-    case Level::kCritical: return Colour::kRed;
-    default: return Colour::kGreen;
-  }
-}
-
-}  // namespace
 
 void WriteInstances(std::ostream& out, const Layout& layout, std::string_view heading,
                     std::span<const InstanceColumn> columns, const InstanceList& instances, const CellLevel& level) {

@@ -1,0 +1,125 @@
+#include "host/hxahost/machine/error_findings.h"
+
+#include <charconv>
+#include <chrono>
+#include <optional>
+#include <system_error>
+
+#include <fmt/core.h>
+
+#include "host/hxahost/machine/device_names.h"
+#include "host/hxahost/machine/health_rules.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/text/ascii.h"
+
+using NKVRHXA20::TPublishedInstance;
+
+namespace hxahost {
+
+namespace {
+
+constexpr Meaning kHardErrors = {"the disk cannot read or write some sectors", "plan to replace it", Effect::kErrors};
+constexpr Meaning kSoftErrors = {"the disk corrects many errors", "watch it, and plan to replace it", Effect::kErrors};
+constexpr Meaning kParityErrors = {"transfers to the disk fail", "check the cable, the terminator and the backplane",
+                                   Effect::kErrors};
+constexpr Meaning kSlow = {"the disk transfers slower than it can", "check the cable and the backplane",
+                           Effect::kErrors};
+constexpr Meaning kBatteryMessage = {"the log reports the battery of the cache", "check the battery", Effect::kBattery};
+
+std::optional<long> ReadCount(std::string_view text) {
+  long number = 0;
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  return error == std::errc() && stop == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+bool Reaches(std::optional<long> count, std::optional<unsigned> limit) {
+  return count && limit && *count >= static_cast<long>(*limit) && *count > 0;
+}
+
+Finding OfInstance(const InstanceList& instances, std::size_t place, std::string_view property, std::string text,
+                   const Meaning& meaning) {
+  const TPublishedInstance& instance = *instances[place];
+  return {Severity::kWarning,     std::string(instance.Class().name),
+          IdentifierOf(instance), NameOf(instance, ""),
+          std::string(property),  std::move(text),
+          TextOf(meaning),        place,
+          meaning.effect};
+}
+
+struct Counter {
+  std::string_view property;
+  std::optional<unsigned> Limits::*limit;
+  const Meaning& meaning;
+};
+
+constexpr Counter kCounters[] = {
+    {"NumHardErrors",   &Limits::hardErrors,   kHardErrors  },
+    {"NumSoftErrors",   &Limits::softErrors,   kSoftErrors  },
+    {"NumParityErrors", &Limits::parityErrors, kParityErrors},
+};
+
+void AddCounters(const InstanceList& instances, std::size_t place, const Limits& limits, Findings& findings) {
+  for (const Counter& counter : kCounters) {
+    const std::string text = RawText(*instances[place], counter.property);
+    if (!Reaches(ReadCount(text), limits.*counter.limit)) continue;
+    findings.push_back(OfInstance(instances, place, counter.property, text, counter.meaning));
+  }
+}
+
+// Periods: a longer one is slower.
+void AddTransfer(const InstanceList& instances, std::size_t place, const Limits& limits, Findings& findings) {
+  const std::string current = RawText(*instances[place], "Cur_Txer_p");
+  const auto shortest = ReadCount(RawText(*instances[place], "Max_Txer_P"));
+  const auto period = ReadCount(current);
+  if (!shortest || !period || !Reaches(*period - *shortest, limits.slowTransfer)) return;
+  findings.push_back(OfInstance(instances, place, "Cur_Txer_p", current, kSlow));
+}
+
+// "2026-03-05 12:30:15 +01:00".
+std::optional<std::chrono::sys_days> DayOf(const std::string& time) {
+  constexpr std::size_t kYear = 4;
+  constexpr std::size_t kDay = 10;
+  if (time.size() < kDay || time[kYear] != '-') return std::nullopt;
+  using namespace std::chrono;
+  const auto number = [&](std::size_t first, std::size_t length) {
+    return static_cast<int>(ReadCount(std::string_view(time).substr(first, length)).value_or(0));
+  };
+  const year_month_day date{year(number(0, kYear)), month(static_cast<unsigned>(number(5, 2))),
+                            day(static_cast<unsigned>(number(8, 2)))};
+  return date.ok() ? std::optional(sys_days(date)) : std::nullopt;
+}
+
+bool IsRecent(const std::string& event, const std::string& now, std::optional<unsigned> days) {
+  const auto then = DayOf(event);
+  const auto today = DayOf(now);
+  return days && then && today && (*today - *then).count() <= static_cast<long>(*days);
+}
+
+void AddBatteryMessage(const InstanceList& instances, std::size_t place, const QueryHeader& header,
+                       Findings& findings) {
+  const TPublishedInstance& event = *instances[place];
+  const std::string message = RawText(event, "Message");
+  if (RawText(event, "Severity") == "INF" || Lower(message).find("battery") == message.npos) return;
+  const std::string now = ReadableTime(header.time.ToString());
+  if (!IsRecent(ShownText(event, "MessageTimestamp"), now, header.limits.batteryDays)) return;
+  Finding finding = OfInstance(instances, place, "Message", message, kBatteryMessage);
+  finding.identifier = RawText(event, "RecordID");
+  finding.name = "the RAID manager's log";
+  findings.push_back(std::move(finding));
+}
+
+}  // namespace
+
+Findings ErrorFindings(const QueryHeader& header, const InstanceList& instances) {
+  Findings findings;
+  for (std::size_t place = 0; place < instances.size(); ++place) {
+    const std::string_view className = instances[place]->Class().name;
+    if (className == kDeviceErrorsClass) AddCounters(instances, place, header.limits, findings);
+    if (className == kTransferClass) AddTransfer(instances, place, header.limits, findings);
+    if (className == kEventClass) AddBatteryMessage(instances, place, header, findings);
+  }
+  return findings;
+}
+
+}  // namespace hxahost

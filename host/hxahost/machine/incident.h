@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/hxahost/machine/finding.h"
+
+namespace hxahost {
+
+// A device by its places in the lists of the machine and of its controller.
+struct DeviceRef {
+  std::size_t controller = 0;
+  std::size_t device = 0;
+};
+
+// What an incident calls for, the most urgent first.
+enum class Urgency { kRestore, kReplace, kWait, kOther };
+
+// One cause of trouble with everything that is reported because of it. Texts are printable.
+struct Incident {
+  Severity severity = Severity::kFine;  // the worst of its findings; fine: for information
+  Urgency urgency = Urgency::kOther;
+  std::string headline;               // "C4 \"Archive\" (RAID 5) is degraded"
+  std::string location;               // of the first disk to act on: "enclosure 0, slot 8"; "" without one
+  std::string action;                 // what to do, an instruction
+  std::vector<DeviceRef> disks;       // to act on
+  std::vector<std::size_t> findings;  // places in Machine::findings; each finding is in one incident
+  std::size_t controller = 0;         // place in Machine::controllers; their number where it is about none
+};
+
+using Incidents = std::vector<Incident>;
+
+// "critical", "warning", "unknown", "info".
+std::string_view IncidentWord(const Incident& incident);
+
+}  // namespace hxahost

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/hxahost/machine/machine.h"
+
+// Objects as people in front of the machine call them. Texts are printable.
+namespace hxahost {
+
+// "C4"; "C3 (arcconf)" where two share the number.
+std::string ShortName(const Controller& controller);
+
+// "\"Archive\" (RAID 5)", or "logical drive 3 (RAID 5)" where it has no name.
+std::string ShortName(const LogicalDrive& drive);
+
+// "NORDVIK NV73-15SAS 73.4 GB, S/N NV3LE77Q2H, FRU ZX20912": what the utility printed of it.
+std::string IdentityOf(const Device& device);
+
+// "in \"Archive\" (RAID 5, degraded)", "hot spare", "in no logical drive".
+std::string RoleOf(const Controller& controller, std::size_t device);
+
+// The three: location, identity and role.
+std::string DescribeDisk(const Controller& controller, std::size_t device);
+
+// "degraded" of "Degraded, Rebuilding ( Rebuild : 38 % )", "critical" of "Critical (CRT)".
+std::string StateWord(const State& state);
+
+// "73.4 GB": thousands, as makers of disks count. "1.50 TB" from there on.
+std::string FormatBytes(std::uint64_t bytes);
+
+}  // namespace hxahost

@@ -1,0 +1,288 @@
+#include "host/hxahost/machine/storage_incident.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include <fmt/core.h>
+#include <fmt/format.h>
+
+#include "host/hxahost/machine/incident_words.h"
+#include "host/hxahost/machine/state_words.h"
+#include "host/hxahost/text/escaping.h"
+
+namespace hxahost {
+
+namespace {
+
+using Places = std::vector<std::size_t>;
+
+// The part of a cause that its texts are made of.
+struct Situation {
+  const Machine& machine;
+  const Cause& cause;
+  const Controller& controller;
+  Places failed;      // devices
+  Places rebuilding;  // devices
+  bool isRebuilding = false;
+  std::optional<double> percent;  // of the rebuild
+};
+
+// How many disks a RAID level can lose. Levels of several spans depend on which disks fail: they go by their state.
+std::optional<std::size_t> ToleranceOf(const std::string& raidLevel) {
+  struct Level {
+    std::string_view name;
+    std::size_t tolerance;
+  };
+  constexpr Level kLevels[] = {
+      {"0",   0},
+      {"1",   1},
+      {"1E",  1},
+      {"5",   1},
+      {"5E",  1},
+      {"5EE", 1},
+      {"6",   2},
+  };
+  const auto* const level = std::ranges::find(kLevels, raidLevel, &Level::name);
+  return level == std::end(kLevels) ? std::nullopt : std::optional(level->tolerance);
+}
+
+// "38" of "Degraded, Rebuilding ( Rebuild : 38 % )".
+std::optional<double> PercentIn(const std::string& text) {
+  const std::size_t sign = text.find('%');
+  const std::size_t last = sign == text.npos || sign == 0 ? text.npos : text.find_last_not_of(' ', sign - 1);
+  if (last == text.npos) return std::nullopt;
+  const std::size_t before = text.find_last_not_of("0123456789.", last);
+  const std::string_view digits = std::string_view(text).substr(before == text.npos ? 0 : before + 1, last - before);
+  double number = 0;
+  const auto [stop, error] =
+      std::from_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
+  return error == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+std::optional<double> PercentOf(const Situation& situation) {
+  const auto& controller = situation.controller;
+  const auto isOfCause = [&](const Operation& operation) {
+    return std::ranges::any_of(situation.cause.drives, [&](std::size_t drive) {
+      return controller.logicalDrives[drive].number == operation.logicalDrive;
+    });
+  };
+  for (const ControllerUnit& unit : controller.units) {
+    for (const Operation& operation : unit.operations) {
+      const bool isRebuild = NormalWord(operation.name).find("rebuil") != std::string::npos;
+      if (operation.isActive && isRebuild && isOfCause(operation) && operation.percent) return operation.percent;
+    }
+  }
+  for (const std::size_t drive : situation.cause.drives) {
+    if (const auto percent = PercentIn(controller.logicalDrives[drive].state.text)) return percent;
+  }
+  for (const std::size_t device : situation.rebuilding) {
+    if (const auto percent = PercentIn(controller.devices[device].state.text)) return percent;
+  }
+  return std::nullopt;
+}
+
+bool HasEffect(const Situation& situation, Effect effect) {
+  return std::ranges::any_of(situation.cause.findings,
+                             [&](std::size_t place) { return situation.machine.findings[place].effect == effect; });
+}
+
+Situation Look(const Machine& machine, const Cause& cause) {
+  Situation situation{machine, cause, machine.controllers[cause.controller], {}, {}, false, std::nullopt};
+  for (const std::size_t device : cause.devices) {
+    const Device& each = situation.controller.devices[device];
+    if (IsFailed(machine, each)) situation.failed.push_back(device);
+    if (IsRebuilding(each)) situation.rebuilding.push_back(device);
+  }
+  situation.isRebuilding = !situation.rebuilding.empty() || HasEffect(situation, Effect::kRebuilding);
+  situation.percent = PercentOf(situation);
+  return situation;
+}
+
+// More of its disks have failed than the drive tolerates.
+bool IsBeyondRepair(const Situation& situation, std::size_t drive) {
+  const LogicalDrive& each = situation.controller.logicalDrives[drive];
+  const auto tolerance = ToleranceOf(Printable(each.raidLevel));
+  const auto failed = std::ranges::count_if(
+      each.members, [&](std::size_t device) { return std::ranges::binary_search(situation.failed, device); });
+  return HasEffect(situation.machine, each, Effect::kUnreachable) ||
+         (tolerance && static_cast<std::size_t>(failed) > *tolerance);
+}
+
+Places LostDrives(const Situation& situation) {
+  Places lost;
+  std::ranges::copy_if(situation.cause.drives, std::back_inserter(lost),
+                       [&](std::size_t drive) { return IsBeyondRepair(situation, drive); });
+  return lost;
+}
+
+std::string NamesOf(const Situation& situation, const Places& drives) {
+  std::vector<std::string> names;
+  for (const std::size_t drive : drives) names.push_back(ShortName(situation.controller.logicalDrives[drive]));
+  return fmt::format("{}", fmt::join(names, ", "));
+}
+
+std::string Described(const Situation& situation, const Places& devices) {
+  std::vector<std::string> texts;
+  for (const std::size_t device : devices) texts.push_back(DescribeDisk(situation.controller, device));
+  return fmt::format("{}", fmt::join(texts, "; "));
+}
+
+std::string LocationOf(const Device& device) {
+  return Printable(device.location.empty() ? device.name : device.location);
+}
+
+std::string PercentText(const Situation& situation) {
+  return situation.percent ? fmt::format("{:.0f} % done", *situation.percent) : "";
+}
+
+std::string StateOf(const Situation& situation) {
+  const LogicalDrive& drive = situation.controller.logicalDrives[situation.cause.drives.front()];
+  const bool isBad = HasEffect(situation.machine, drive, Effect::kDegraded) ||
+                     HasEffect(situation.machine, drive, Effect::kUnreachable) ||
+                     HasEffect(situation.machine, drive, Effect::kRebuilding);
+  if (!isBad && HasEffect(situation, Effect::kBadStripes)) return "has bad stripes: data was lost";
+  const std::string word = StateWord(drive.state);
+  if (!isBad && drive.level < Level::kUnknown) return "has a failed segment";
+  if (HasEffect(situation.machine, drive, Effect::kUnreachable) && drive.state.level < Level::kWarning) {
+    return "is blocked";
+  }
+  return word.empty() ? "has no state" : "is " + word;
+}
+
+std::string DriveHeadline(const Situation& situation) {
+  std::string text = fmt::format("{} {}", NamesOf(situation, situation.cause.drives), StateOf(situation));
+  if (situation.isRebuilding && LostDrives(situation).empty()) {
+    const std::string percent = PercentText(situation);
+    text += percent.empty() ? ", rebuilding" : fmt::format(", rebuilding: {}", percent);
+  }
+  return text;
+}
+
+struct DiskHeadline {
+  Effect effect;
+  std::string_view text;
+};
+
+// The first one that the disk has.
+constexpr DiskHeadline kDiskHeadlines[] = {
+    {Effect::kDiskFailed,  "has failed"          },
+    {Effect::kDiskMissing, "is missing"          },
+    {Effect::kPredicted,   "predicts its failure"},
+    {Effect::kErrors,      "reports errors"      },
+    {Effect::kRebuilding,  "is being rebuilt"    },
+    {Effect::kOther,       "has an unknown state"},
+};
+
+std::string DiskHeadlineText(const Situation& situation) {
+  const Device& device = situation.controller.devices[situation.cause.devices.front()];
+  const auto* const headline =
+      std::ranges::find_if(kDiskHeadlines, [&](const DiskHeadline& each) { return HasEffect(situation, each.effect); });
+  const std::string_view text = headline == std::end(kDiskHeadlines) ? "is not well" : headline->text;
+  const Words words = StateWords(device.state.text);
+  const bool isSpare = std::ranges::any_of(words, [](const std::string& word) { return word.ends_with("spare"); });
+  return fmt::format("{} at {} {}", isSpare ? "hot spare" : "disk", LocationOf(device), text);
+}
+
+// "Hot Spare for Logical drive 1" takes over for that drive only.
+bool IsReadySpare(const Situation& situation, const Device& device) {
+  const Words words = StateWords(device.state.text);
+  const bool isSpare = std::ranges::any_of(words, [](const std::string& word) { return word.ends_with("hot spare"); });
+  if (!isSpare || device.level > Level::kIdle) return false;
+  const std::string text = NormalWord(device.state.text);
+  const std::size_t purpose = text.find(" for ");
+  return purpose == text.npos || std::ranges::any_of(situation.cause.drives, [&](std::size_t drive) {
+           return text.ends_with("logical drive " + situation.controller.logicalDrives[drive].number);
+         });
+}
+
+std::string RestoreAction(const Situation& situation, const Places& lost) {
+  const std::string disks = Described(situation, situation.failed);
+  return fmt::format("RESTORE {} from backup; first check cables and enclosure power.{}{}", NamesOf(situation, lost),
+                     disks.empty() ? "" : " Failed: ", disks);
+}
+
+std::string RebuildAction(const Situation& situation) {
+  const std::string onto = Described(situation, situation.rebuilding);
+  std::string text = fmt::format("WAIT for the rebuild{}{}", onto.empty() ? "" : " onto ", onto);
+  Places others;
+  std::ranges::set_difference(situation.failed, situation.rebuilding, std::back_inserter(others));
+  return text + (others.empty() ? "; then check again." : "; then PULL " + Described(situation, others));
+}
+
+std::string PullAction(const Situation& situation) {
+  const bool isMissing = std::ranges::all_of(situation.failed, [&](std::size_t device) {
+    return HasEffect(situation.machine, situation.controller.devices[device], Effect::kDiskMissing);
+  });
+  std::string text =
+      fmt::format("{} {}", isMissing ? "INSERT a disk at" : "PULL", Described(situation, situation.failed));
+  const bool hasSpare = std::ranges::any_of(situation.controller.devices,
+                                            [&](const Device& device) { return IsReadySpare(situation, device); });
+  if (HasEffect(situation, Effect::kDegraded) && hasSpare) text += ". A hot spare is ready but has not taken over";
+  return text;
+}
+
+// A disk that still works in an array that no longer has redundancy must stay until the array is whole.
+std::string WeakDiskAction(const Situation& situation) {
+  const std::size_t place = situation.cause.devices.front();
+  const Device& device = situation.controller.devices[place];
+  const std::string disk = DescribeDisk(situation.controller, place);
+  const bool isNeeded = std::ranges::any_of(device.logicalDrives, [&](std::size_t drive) {
+    const LogicalDrive& each = situation.controller.logicalDrives[drive];
+    return HasEffect(situation.machine, each, Effect::kDegraded) ||
+           HasEffect(situation.machine, each, Effect::kRebuilding);
+  });
+  if (HasEffect(situation, Effect::kPredicted)) {
+    return isNeeded ? "BACK UP now; replace this disk only after the array is rebuilt: " + disk
+                    : "REPLACE soon " + disk;
+  }
+  if (HasEffect(situation, Effect::kErrors)) return "CHECK cable and backplane, and watch " + disk;
+  return "CHECK " + disk;
+}
+
+struct Action {
+  Urgency urgency;
+  std::string text;
+};
+
+Action ActionOf(const Situation& situation) {
+  if (const Places lost = LostDrives(situation); !lost.empty()) {
+    return {Urgency::kRestore, RestoreAction(situation, lost)};
+  }
+  if (situation.isRebuilding) return {Urgency::kWait, RebuildAction(situation)};
+  if (!situation.failed.empty()) return {Urgency::kReplace, PullAction(situation)};
+  if (situation.cause.drives.empty()) return {Urgency::kOther, WeakDiskAction(situation)};
+  const std::string drives = NamesOf(situation, situation.cause.drives);
+  if (HasEffect(situation, Effect::kDegraded) || HasEffect(situation, Effect::kSegment)) {
+    return {Urgency::kReplace, fmt::format("FIND the failed disk of {}: no disk of it reports a failure.", drives)};
+  }
+  if (HasEffect(situation, Effect::kBadStripes)) {
+    return {Urgency::kRestore, fmt::format("RESTORE {} from backup.", drives)};
+  }
+  return {Urgency::kOther, fmt::format("CHECK {} with the utility itself.", drives)};
+}
+
+// The disks to act on: those that failed, else those that are weak or being rebuilt.
+const Places& DisksOf(const Situation& situation) {
+  return situation.failed.empty() ? situation.cause.devices : situation.failed;
+}
+
+}  // namespace
+
+void DescribeStorage(const Machine& machine, const Cause& cause, Incident& incident) {
+  const Situation situation = Look(machine, cause);
+  incident.headline = fmt::format("{} {}", ShortName(situation.controller),
+                                  cause.drives.empty() ? DiskHeadlineText(situation) : DriveHeadline(situation));
+  const Action action = ActionOf(situation);
+  incident.urgency = action.urgency;
+  incident.action = action.text;
+  for (const std::size_t device : DisksOf(situation)) incident.disks.push_back({cause.controller, device});
+  if (!incident.disks.empty())
+    incident.location = LocationOf(situation.controller.devices[incident.disks.front().device]);
+}
+
+}  // namespace hxahost

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace hxahost {
+
+// The words of UTF-8 text on lines of at most that many columns. A word that is longer has a line of its own.
+std::vector<std::string> WrapWords(std::string_view utf8, std::size_t columns);
+
+}  // namespace hxahost

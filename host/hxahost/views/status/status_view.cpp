@@ -1,0 +1,207 @@
+#include "host/hxahost/views/status/status_view.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <fmt/core.h>
+#include <fmt/format.h>
+
+#include "host/hxahost/machine/incident_words.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/terminal/table.h"
+#include "host/hxahost/terminal/wrap.h"
+#include "host/hxahost/text/ascii.h"
+#include "host/hxahost/text/display_width.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/views/level_colour.h"
+
+namespace hxahost {
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr std::size_t kScreen = 24;
+constexpr std::size_t kIndent = 9;  // "critical "
+constexpr std::size_t kFewest = 2;  // lines of an incident: its headline and what to do
+
+std::string Painted(const std::string& text, Level level, const Layout& layout) {
+  const auto colour = ColourOf(level);
+  return layout.hasColours && colour ? InColour(text, *colour) : text;
+}
+
+std::string Plural(std::size_t count, std::string_view what) {
+  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
+}
+
+// "CRITICAL  SAMPLE at 2026-11-21 09:30:00 +01:00: 4 critical, 1 warning"
+std::string Verdict(const HealthReport& report) {
+  const Machine& machine = report.machine;
+  const Severity worst = WorstOf(machine.findings);
+  Lines tally;
+  for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
+    const auto count = std::ranges::count(machine.incidents, severity, &Incident::severity);
+    if (count > 0) tally.push_back(fmt::format("{} {}", count, SeverityWord(severity)));
+  }
+  std::string text = tally.empty() ? "no fault found" : fmt::format("{}", fmt::join(tally, ", "));
+  if (worst == Severity::kFine && machine.controllers.empty()) text = "no controller found";
+  const std::string word = Upper(SeverityWord(worst));
+  return fmt::format("{}{}{} at {}: {}", Painted(word, LevelOf(worst), report.header.layout),
+                     std::string(kIndent - word.size(), ' '), Printable(report.header.machine),
+                     ReadableTime(report.header.time.ToString()), text);
+}
+
+// The first line has the severity before it; further lines are indented.
+Lines IncidentLines(const Incident& incident, const Layout& layout) {
+  const std::size_t width = layout.width - kIndent;
+  const std::string word(IncidentWord(incident));
+  Lines lines = {Painted(word, LevelOf(incident.severity), layout) + std::string(kIndent - word.size(), ' ') +
+                 CutToWidth(incident.headline, width)};
+  for (const std::string& line : WrapWords(incident.action, width)) lines.push_back(std::string(kIndent, ' ') + line);
+  return lines;
+}
+
+// How many lines of each incident are shown: all where there is room; else its headline and the beginning of what to
+// do, and what room is left goes line by line to the worst. Incidents past the end are not shown.
+std::vector<std::size_t> Shares(const std::vector<Lines>& blocks, std::size_t room) {
+  const std::size_t shown = blocks.size() * kFewest <= room ? blocks.size() : (room - 1) / kFewest;
+  std::vector<std::size_t> shares(shown, kFewest);
+  std::size_t spare = room - shown * kFewest - (shown < blocks.size() ? 1 : 0);
+  for (bool isGiven = true; isGiven && spare > 0;) {
+    isGiven = false;
+    for (std::size_t place = 0; place < shown && spare > 0; ++place) {
+      if (shares[place] >= blocks[place].size()) continue;
+      ++shares[place];
+      --spare;
+      isGiven = true;
+    }
+  }
+  return shares;
+}
+
+Lines AllIncidents(const HealthReport& report, std::size_t room) {
+  const Layout& layout = report.header.layout;
+  std::vector<Lines> blocks;
+  std::size_t wanted = 0;
+  for (const Incident& incident : report.machine.incidents) {
+    Lines block = IncidentLines(incident, layout);
+    wanted += block.size();
+    if (incident.severity == Severity::kFine && wanted > room) break;  // information comes last, and only where it fits
+    blocks.push_back(std::move(block));
+  }
+  const std::vector<std::size_t> shares = Shares(blocks, room);
+  Lines lines;
+  for (std::size_t place = 0; place < shares.size(); ++place) {
+    Lines& block = blocks[place];
+    if (shares[place] < block.size()) {
+      block.resize(shares[place]);
+      block.back() = CutToWidth(block.back() + " ...", layout.width);
+    }
+    std::ranges::move(block, std::back_inserter(lines));
+  }
+  const std::size_t left = blocks.size() - shares.size();
+  if (left > 0) lines.push_back(std::string(kIndent, ' ') + fmt::format("and {} more: see hxahost health", left));
+  return lines;
+}
+
+Level LevelOf(const Machine& machine, std::size_t controller) {
+  Level worst = Level::kFine;
+  for (const Incident& incident : machine.incidents) {
+    if (incident.controller == controller) worst = std::max(worst, LevelOf(incident.severity));
+  }
+  return worst;
+}
+
+std::size_t DisksOf(const Controller& controller) {
+  return static_cast<std::size_t>(std::ranges::count(controller.devices, HardwareKind::kDisk, &Device::kind));
+}
+
+// "46 C" of "46 C/ 114 F (Normal)".
+std::string TemperatureOf(const ControllerUnit& unit) {
+  const std::string text = Printable(unit.temperature.text);
+  return std::string(Trim(text.substr(0, text.find('/'))));
+}
+
+Table ControllerTable(const Machine& machine) {
+  Table table;
+  table.columns = {
+      {"Ctrl",   20, 16},
+      {"State"       },
+      {"Model",  24   },
+      {"Drives", 6, 6},
+      {"Disks",        5,  5},
+      {"Battery",       12,    7},
+      {"Temp",8,        4},
+      {"Firmware",   18}
+  };
+  for (std::size_t place = 0; place < machine.controllers.size(); ++place) {
+    const Controller& controller = machine.controllers[place];
+    const ControllerUnit unit = controller.units.empty() ? ControllerUnit() : controller.units.front();
+    const Level level = LevelOf(machine, place);
+    table.colours.emplace(std::pair(table.rows.size(), 1U), ColourOf(level).value_or(Colour::kGreen));
+    table.rows.push_back({ShortName(controller), std::string(LevelWord(level)), Printable(unit.model),
+                          std::to_string(controller.logicalDrives.size()), std::to_string(DisksOf(controller)),
+                          Printable(unit.battery.state.text), TemperatureOf(unit), Printable(unit.firmware)});
+  }
+  return table;
+}
+
+// "qcmdrun 2 controllers, hrconf_64 none, arcconf not started"
+std::string ToolsText(const HealthReport& report) {
+  Lines tools;
+  for (const std::string_view tool : KnownTools()) {
+    std::set<std::string> answered;
+    Outcome worst = Outcome::kOk;
+    bool isAsked = false;
+    for (const ToolRun& run : report.result.runs) {
+      if (ToolName(run.path) != tool) continue;
+      isAsked = true;
+      worst = std::max(worst, run.outcome == Outcome::kRefused ? Outcome::kOk : run.outcome);
+      if (run.outcome == Outcome::kOk && run.arguments.size() > 1) answered.insert(run.arguments[1]);
+    }
+    if (!isAsked) continue;
+    const bool isSilent = answered.empty() && worst != Outcome::kOk;
+    tools.push_back(
+        fmt::format("{} {}", tool, isSilent ? std::string(OutcomeWord(worst)) : Plural(answered.size(), "controller")));
+  }
+  return tools.empty() ? "" : fmt::format("Tools: {}", fmt::join(tools, ", "));
+}
+
+// Where to look next.
+std::string Hint(const Machine& machine) {
+  const auto located = std::ranges::find_if(machine.incidents, [](const Incident& each) {
+    return !each.location.empty() && each.urgency == Urgency::kReplace;
+  });
+  const std::string hint = "More: hxahost health -v";
+  if (located == machine.incidents.end()) return hint;
+  return fmt::format("{}, hxahost explain \"{} {}\"", hint, ShortName(machine.controllers[located->controller]),
+                     located->location);
+}
+
+void Write(std::ostream& out, const Lines& lines) {
+  for (const std::string& line : lines) out << line << '\n';
+}
+
+}  // namespace
+
+void WriteStatusText(std::ostream& out, const HealthReport& report) {
+  const Machine& machine = report.machine;
+  const Layout& layout = report.header.layout;
+  const Table controllers = ControllerTable(machine);
+  Lines end = WrapWords(ToolsText(report), layout.width);
+  const bool isFine = machine.incidents.empty();
+  if (!isFine) end.push_back(Hint(machine));
+  const std::size_t blank = isFine ? 0 : 2;
+  const std::size_t fixed = 1 + blank + (controllers.rows.empty() ? 0 : controllers.rows.size() + 1) + end.size();
+  out << Verdict(report) << '\n';
+  if (!isFine) out << '\n';
+  Write(out, AllIncidents(report, kScreen - std::min(fixed, kScreen - kFewest)));
+  if (!isFine) out << '\n';
+  WriteTable(out, layout, controllers);
+  Write(out, end);
+}
+
+}  // namespace hxahost

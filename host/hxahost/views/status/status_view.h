@@ -1,0 +1,12 @@
+#pragma once
+
+#include <ostream>
+
+#include "host/hxahost/views/monitoring/health_report.h"
+
+namespace hxahost {
+
+// The verdict on one screen: the incidents with what to do, then one line for each controller.
+void WriteStatusText(std::ostream& out, const HealthReport& report);
+
+}  // namespace hxahost
