@@ -289,7 +289,7 @@ test("Markup and scripts of tools change nothing and are shown literally", async
   const strange = "img, iframe, object, embed, link, #injected, b, [onload], [onerror], script[src]," +
     " a[href^='javascript']";
   assert.equal(await page.locator(strange).count(), 0);
-  assert.equal(await page.locator("script").count(), 3);
+  assert.equal(await page.locator("script").count(), 4);
   const texts = lastQuery("hostile").instances.find(({ properties }) => properties.RawResults).properties.RawResults;
   const pre = await page.locator("details.raw pre").first().textContent();
   const plain = texts.filter((each) => !/[\u001b\u0007\u200b\u2028\u202e]/.test(each));

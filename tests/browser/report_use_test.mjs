@@ -25,6 +25,12 @@ function inOrder(texts) {
   return [...texts].sort(collator.compare);
 }
 
+// The place of the object of the class of which a property says this.
+function placeOf(className, value) {
+  const isIt = (each) => each.class === className && Object.values(each.properties).includes(value);
+  return lastQuery("sample").instances.findIndex(isIt);
+}
+
 test("A heading sorts its table by number and text, and back", async (open) => {
   const page = await open(pageFile("sample"));
   const disks = await sectionInSight(page, "Disks");
@@ -140,6 +146,51 @@ test("An address with an object in it opens its details", async (open) => {
   assert.equal(await page.locator("#details-title").innerText(), "Controller 4, logical drive 3");
   const none = await open(pageFile("sample"), { hash: "#object-999999" });
   assert.equal(await none.locator("dialog[open]").count(), 0);
+});
+
+const diskInSlot8 = () => placeOf("KVRSG_zxDiskDrive", "NV3LE77Q2H");
+
+test("A value in the details leads to the line that it was read from, and the way back works", async (open) => {
+  const page = await open(pageFile("sample"), { hash: "#object-" + diskInSlot8() });
+  const value = (name) => page.locator(`dialog dt:text-is("${name}") + dd`);
+  for (const [name, line] of [["State", /^ *State +: Failed$/], ["DeviceSerialNum", /^ *Serial number +: NV3LE77Q2H$/]]) {
+    await value(name).getByRole("link").click();
+    await page.locator(".followed").waitFor();
+    assert.equal(await page.locator(".followed").count(), 1);
+    assert.match(await page.locator(".followed").textContent(), line);
+    assert.ok(await page.locator("details.raw[open] .followed").isVisible());
+    assert.equal(await page.locator("dialog[open]").count(), 0);
+    assert.ok(await page.locator(".followed").evaluate((each) => each === document.activeElement));
+    const text = await page.locator("details.raw", { has: page.locator(".followed") }).locator("code").textContent();
+    assert.equal(text, "zenx//arcconf.exe getconfig 1 al");
+    await page.goBack();
+    await page.locator("dialog[open]").waitFor();
+  }
+  assert.equal(await value("OtherIdentifyingInfo").getByRole("link").count(), 0);
+  assert.match(await value("OtherIdentifyingInfo").innerText(), /DeviceType; fixed text, Channel and ScsiId$/);
+});
+
+test("A list over two lines leads to both, and a search leaves them marked", async (open) => {
+  const group = placeOf("KVRSG_zxDiskGroup", "0,2 0,3 0,4 0,5 0,6");
+  const page = await open(pageFile("sample"), { hash: "#object-" + group });
+  await page.locator("dialog").getByRole("link", { name: "0,2 0,3 0,4 0,5 0,6", exact: true }).click();
+  assert.equal(await page.locator(".followed").count(), 2);
+  await page.locator("#raw-search").fill("Stripe order");
+  assert.equal(await page.locator(".followed").count(), 2);
+  assert.equal(await page.locator(".followed mark").count(), 1);
+});
+
+test("A value of which the raw text says something else is marked", async (open) => {
+  const page = await open(pageFile("sample"));
+  await page.evaluate((index) => {
+    Object.assign(proofOf(report.model.objects[index]), { differs: ["State"], noLine: ["FRU"] });
+    window.location.hash = "#object-" + index;
+  }, diskInSlot8());
+  const marked = page.locator("dialog .differs");
+  await marked.first().waitFor();
+  const [state, fru] = await marked.allInnerTexts();
+  assert.match(state, /the raw text says something else: zenx\/\/arcconf\.exe getconfig 1 al, line \d+$/);
+  assert.match(fru, /in no line of the raw texts/);
 });
 
 test("Pointing at an array or focusing it marks its disks and drives", async (open) => {

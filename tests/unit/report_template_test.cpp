@@ -24,7 +24,9 @@ TEST(ReportTemplate, IsAWholePageWithOnePlaceForEachKindOfData) {
   EXPECT_TRUE(page.ends_with("</html>\n"));
   EXPECT_EQ(Count(page, "@QUERY_DATA@"), 1U);
   EXPECT_EQ(Count(page, "@REPORT_DATA@"), 1U);
+  EXPECT_EQ(Count(page, "@PROOF_DATA@"), 1U);
   EXPECT_LT(page.find("@QUERY_DATA@"), page.find("@REPORT_DATA@"));
+  EXPECT_LT(page.find("@REPORT_DATA@"), page.find("@PROOF_DATA@"));
 }
 
 TEST(ReportTemplate, HoldsItsStyleAndItsScript) {

@@ -1,6 +1,7 @@
 #include "host/hxahost/views/report/html_view.h"
 
 #include "host/hxahost/views/json/json_view.h"
+#include "host/hxahost/views/report/proof_data.h"
 #include "host/hxahost/views/report/report_data.h"
 #include "host/hxahost/views/report/report_template.h"
 #include "host/hxahost/views/report/script_data.h"
@@ -38,6 +39,10 @@ void WriteQueryHtml(std::ostream& out, const QueryHeader& header, const QueryRes
       {"@REPORT_DATA@",
        [&](std::ostream& page) {
          writeEscaped(page, [&](std::ostream& data) { WriteReportData(data, header, result); });
+       }},
+      {"@PROOF_DATA@",
+       [&](std::ostream& page) {
+         writeEscaped(page, [&](std::ostream& data) { WriteProofData(data, header, result); });
        }},
   };
   WriteTemplate(out, ReportTemplate(), slots);

@@ -16,6 +16,7 @@
 #include "host/hxahost/views/tables/record_sections.h"
 
 using NKVRHXA20::ClassDeclaration;
+using NKVRHXA20::PropertyDeclaration;
 using NKVRHXA20::PublishedClasses;
 
 namespace hxahost {
@@ -130,6 +131,19 @@ Json ObjectsJson(const Machine& machine) {
   return json;
 }
 
+// In words, where they are more than labels.
+Json OriginsJson(const QueryHeader& header) {
+  Json json = Json::object();
+  for (const ClassDeclaration& declaration : PublishedClasses()) {
+    if (!IsAskedFor(header, declaration.name)) continue;
+    for (const PropertyDeclaration& property : declaration.properties) {
+      if (property.origin.empty()) continue;
+      json[std::string(declaration.name)][std::string(property.name)] = property.origin;
+    }
+  }
+  return json;
+}
+
 Json EventLevelsJson() {
   Json json = Json::object();
   for (const EventSeverity& each : EventSeverities()) json[std::string(each.word)] = LevelWord(each.level);
@@ -162,6 +176,7 @@ void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryRe
   json["queryCount"] = header.queryCount;
   json["tables"] = TablesJson();
   json["objects"] = ObjectsJson(machine);
+  json["origins"] = OriginsJson(header);
   json["eventLevels"] = EventLevelsJson();
   json["findings"] = FindingsJson(machine.findings);
   json["unjudged"] = UnjudgedJson(header);

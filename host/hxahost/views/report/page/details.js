@@ -1,17 +1,50 @@
 // The details of one object, in a dialog. "#object-17" in the address opens them, so that links, the keyboard and the
-// browser's way back all work by themselves.
+// browser's way back all work by themselves. "#line-3-249" is line 249 of the text that instance 3 holds, from 0.
 
 const kMostRelated = 60;
 
-function definition(name, text) {
-  return [make("dt", {}, name), make("dd", {}, text)];
+// What the program says of where the values of an object come from, by the object's place; read when it is first wanted.
+function proofOf(object) {
+  if (!report.proofs) report.proofs = new Map((readData("proof-data") || []).map((proof) => [proof.instance, proof]));
+  return report.proofs.get(object.index) || { lines: {} };
 }
 
-function propertyList(object) {
+// Properties are compared without regard to case: one is published with a letter that is declared in another.
+function originOf(object, property) {
+  const origins = Object.entries(report.data.origins[object.class] || {});
+  const found = origins.find(([name]) => name.toLowerCase() === property.toLowerCase());
+  return found ? found[1] : "";
+}
+
+function lineWords(model, [text, ...lines]) {
+  const numbers = lines.map((line) => (line + 1).toLocaleString("en-US")).join(", ");
+  return `${textOf(model.objects[text], "Command")}, ${lines.length === 1 ? "line" : "lines"} ${numbers}`;
+}
+
+// A value leads to its line; one that no line says tells what it is made of.
+function valueParts(model, object, name, text) {
+  const proof = proofOf(object);
+  const quiet = (words) => make("span", { class: "quiet" }, " " + words);
+  const place = proof.lines[name];
+  if ((proof.noLine || []).includes(name)) {
+    return [text, make("span", { class: "differs" }, " in no line of the raw texts"), quiet(originOf(object, name))];
+  }
+  if (!place) return [text, quiet(originOf(object, name))];
+  const words = lineWords(model, place);
+  const link = make("a", { href: "#line-" + place.join("-"), title: words, class: "to-line" }, text);
+  return (proof.differs || []).includes(name)
+    ? [link, make("span", { class: "differs" }, ` the raw text says something else: ${words}`)] : [link];
+}
+
+function definition(model, object, name, text) {
+  return [make("dt", {}, name), make("dd", {}, ...valueParts(model, object, name, text))];
+}
+
+function propertyList(model, object) {
   const entries = Object.keys(object.properties).map((name) => [name, textOf(object, name)]);
   const said = entries.filter(([, text]) => text !== "");
   const unsaid = entries.filter(([, text]) => text === "").map(([name]) => name);
-  const parts = [make("dl", {}, ...said.flatMap(([name, text]) => definition(name, text)))];
+  const parts = [make("dl", {}, ...said.flatMap(([name, text]) => definition(model, object, name, text)))];
   if (unsaid.length > 0) parts.push(make("p", { class: "quiet" }, "Not said by the tool: " + unsaid.join(", ") + "."));
   return parts;
 }
@@ -51,7 +84,7 @@ function detailParts(model, object) {
     make("p", { class: "quiet" }, object.class),
   ];
   if (kStateProperties[object.class]) parts.push(make("p", {}, stateBadge(object)));
-  return [...parts, ...findingList(model, object), ...propertyList(object), ...relatedList(model, object)];
+  return [...parts, ...findingList(model, object), ...propertyList(model, object), ...relatedList(model, object)];
 }
 
 function showDetails(model, object) {
@@ -67,6 +100,7 @@ function showFromAddress(model) {
   const object = found ? model.objects[Number(found[1])] : undefined;
   if (object) showDetails(model, object);
   else if (byId("details").open) byId("details").close();
+  showLinesFromAddress();
 }
 
 function setUpDetails(model) {

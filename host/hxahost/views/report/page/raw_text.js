@@ -15,20 +15,23 @@ function rawTexts(model, unread) {
     const escaped = (line) => visibleLines(line).replace(/[\r\n]/g, (character) => kLineCharacters[character]);
     const lines = results.map((line) => escaped(String(line)));
     const marked = (places && places.get(object.index)) || new Set();
-    return { command: textOf(object, "Command"), lineCount: lines.length, unreadCount: marked.size,
-        text: lines.join("\n"), parts: partsOf(lines, marked) };
+    return { index: object.index, command: textOf(object, "Command"), lineCount: lines.length,
+        unreadCount: marked.size, text: lines.join("\n"), lines, marked, parts: partsOf(lines, marked), matches: [] };
   });
 }
 
-// The text cut where unread lines begin and end; each unread line is a part of its own, without its line end.
-function partsOf(lines, marked) {
-  const parts = [{ begin: 0, end: 0, isUnread: false }];
+// The text cut where marked lines begin and end; each unread line, and each that a value was followed to, is a part of its
+// own, without its line end.
+function partsOf(lines, marked, followed = new Set()) {
+  const parts = [{ begin: 0, end: 0 }];
   let begin = 0;
   lines.forEach((line, index) => {
     const end = begin + line.length;
     const last = parts[parts.length - 1];
     last.end = begin;
-    if (marked.has(index)) parts.push({ begin, end, isUnread: true }, { begin: end, end, isUnread: false });
+    const isUnread = marked.has(index);
+    const isFollowed = followed.has(index);
+    if (isUnread || isFollowed) parts.push({ begin, end, isUnread, isFollowed }, { begin: end, end });
     else last.end = end;
     begin = end + 1;
   });
@@ -70,8 +73,9 @@ function markedPart(text, begin, end, matches) {
   return content;
 }
 
-// The text with its unread lines and the first of its matches marked. The matches are in order, as the parts do.
-function markedText(raw, matches) {
+// The text with its marked lines and the first of its matches marked. The matches are in order, as the parts are.
+function markedText(raw) {
+  const { matches } = raw;
   const content = document.createDocumentFragment();
   let next = 0;
   for (const part of raw.parts) {
@@ -79,7 +83,8 @@ function markedText(raw, matches) {
     let after = next;
     while (after < matches.length && matches[after].begin < part.end) after += 1;
     const marked = markedPart(raw.text, part.begin, part.end, matches.slice(next, after));
-    content.append(part.isUnread ? make("span", { class: "unread", tabindex: "-1" }, marked) : marked);
+    const classes = [...(part.isUnread ? ["unread"] : []), ...(part.isFollowed ? ["followed"] : [])].join(" ");
+    content.append(classes === "" ? marked : make("span", { class: classes, tabindex: "-1" }, marked));
   }
   return content;
 }
@@ -93,15 +98,37 @@ function searchRaw(raws, words, result) {
     const isFound = matches.length > 0 || (words !== "" && matchesIn(raw.command, words).length > 0);
     raw.element.hidden = words !== "" && !isFound;
     raw.element.open = matches.length > 0;
-    const marked = matches.slice(0, marksLeft);
-    marksLeft -= marked.length;
-    raw.body.replaceChildren(markedText(raw, marked));
+    raw.matches = matches.slice(0, marksLeft);
+    marksLeft -= raw.matches.length;
+    raw.body.replaceChildren(markedText(raw));
     total += matches.length;
     texts += isFound ? 1 : 0;
   }
   result.textContent = words === "" ? counted(raws.length, "text", "texts")
     : `${counted(total, "match", "matches")} in ${counted(texts, "text", "texts")}`
         + (total > kMostMarks ? `, the first ${kMostMarks} marked` : "");
+}
+
+function markFollowed(raw, lines) {
+  raw.parts = partsOf(raw.lines, raw.marked, new Set(lines));
+  raw.body.replaceChildren(markedText(raw));
+}
+
+// Goes to the lines that the address names: those of the text that an instance holds.
+function showLinesFromAddress() {
+  const found = /^#line-(\d+)((?:-\d+)+)$/.exec(window.location.hash);
+  const raw = found ? (report.rawTexts || []).find((each) => each.index === Number(found[1])) : undefined;
+  if (!raw) return;
+  if (report.followed) markFollowed(report.followed, []);
+  report.followed = raw;
+  markFollowed(raw, found[2].slice(1).split("-").map(Number));
+  raw.element.hidden = false;
+  raw.element.open = true;
+  const line = raw.body.querySelector(".followed");
+  if (!line) return;
+  line.focus({ preventScroll: true });
+  line.scrollIntoView({ block: "center", inline: "nearest" });
+  raw.body.scrollLeft = 0;
 }
 
 function commandButton(words, command, attributes = {}) {
@@ -174,6 +201,7 @@ function unreadTools(section, raws, unread) {
 function rawSection(model, unread) {
   const raws = rawTexts(model, unread).map(rawElement);
   if (raws.length === 0) return null;
+  report.rawTexts = raws;
   const input = make("input", { type: "search", id: "raw-search", autocomplete: "off", spellcheck: "false" });
   const result = make("output", { class: "count" });
   input.addEventListener("input", () => searchRaw(raws, input.value, result));
