@@ -26,9 +26,9 @@ using namespace NKVRHXA20;
 // What a query publishes of the sample machine.
 class SampleMachine {
  public:
-  SampleMachine() {
+  explicit SampleMachine(const std::map<std::string, std::string>& answers = AllAnswers()) {
     ScriptedServices services;
-    services.answers = AllAnswers();
+    services.answers = answers;
     QueryHost host;
     std::vector<std::string> classes;
     for (const ClassDeclaration& each : PublishedClasses()) classes.emplace_back(each.name);
@@ -124,8 +124,19 @@ void ExpectLabelAndValue(const InstanceList& instances, const TPublishedInstance
   EXPECT_NE(labels, "") << said;
 }
 
-TEST(Proof, FindsTheObjectsOwnLineWithLabelAndValueForEachValueOfTheSampleMachine) {
-  const SampleMachine machine;
+// The second controller of a tool has the number 3, which is also what the next tool's first controller gets.
+std::map<std::string, std::string> AnswersWithGap() {
+  std::map<std::string, std::string> answers;
+  for (auto& [command, answer] : AllAnswers()) {
+    std::string key = command;
+    const std::size_t number = command.starts_with("qcmdrun") ? command.find_first_of("23") : key.npos;
+    if (number != key.npos) key[number] = key[number] == '2' ? '3' : '2';
+    answers[key] = answer;
+  }
+  return answers;
+}
+
+void ExpectProofs(const SampleMachine& machine) {
   const Machine built = machine.Build();
   Proofs proofs(built, machine.Instances());
   std::map<Evidence, int> counts;
@@ -192,6 +203,15 @@ TEST(Proof, GivesTheLinesOfAValue) {
     for (const std::string& line : LinesOf(machine.Instances(), proof)) lines.push_back(WithSingleBlanks(line));
     EXPECT_EQ(lines, each.lines) << each.value << " " << each.property;
   }
+}
+
+TEST(Proof, FindsTheObjectsOwnLineWithLabelAndValueForEachValueOfTheSampleMachine) { ExpectProofs(SampleMachine()); }
+
+TEST(Proof, TellsControllersOfOneNumberApart) {
+  const SampleMachine machine(AnswersWithGap());
+  const Machine built = machine.Build();
+  EXPECT_EQ(std::ranges::count(built.controllers, "3", &Controller::number), 2);
+  ExpectProofs(machine);
 }
 
 // The tool is asked twice: what it says the second time is published.

@@ -6,6 +6,7 @@
 
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/terminal/table.h"
+#include "host/hxahost/terminal/wrap.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
@@ -57,17 +58,8 @@ void WriteText(std::ostream& out, const Layout& layout, const InstanceList& inst
   WriteTable(out, layout, table);
 }
 
-// Lines of whole words; a word that is wider than the layout is cut.
 void WriteWrapped(std::ostream& out, const Layout& layout, const std::string& indent, std::string_view text) {
-  std::string line;
-  for (const std::string_view word : Split(text, " ")) {
-    if (!line.empty() && DisplayWidth(indent + line) + 1 + DisplayWidth(word) > layout.width) {
-      WriteLine(out, layout, indent + line);
-      line.clear();
-    }
-    line.append(line.empty() ? "" : " ").append(word);
-  }
-  WriteLine(out, layout, indent + line);
+  for (const std::string& line : WrapWords(text, layout.width - indent.size())) WriteLine(out, layout, indent + line);
 }
 
 void WriteWithoutLine(std::ostream& out, const Layout& layout, const TPublishedInstance& instance,
