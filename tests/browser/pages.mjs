@@ -16,24 +16,33 @@ function run(program, given, expected = 0) {
 
 // A copy of its own: other tests collect from the sample machine at the same time.
 const kMachineFolder = join(kFolder, "machine");
-const kSampleMachine = ["--directory", kMachineFolder, "--local-time", "20260305123015.000000+060", "--machine-name",
+const kGapFolder = join(kFolder, "machine-with-gap");
+const machineIn = (folder) => ["--directory", folder, "--local-time", "20260305123015.000000+060", "--machine-name",
     "DBSERVER"];
+const kSampleMachine = machineIn(kMachineFolder);
 
-function query(name, ...further) {
+function queryOf(machine, name, ...further) {
   for (const format of ["html", "json"]) {
     run("hxahost",
-        ["query", ...kSampleMachine, ...further, "--format", format, "--output", join(kFolder, `${name}.${format}`)]);
+        ["query", ...machine, ...further, "--format", format, "--output", join(kFolder, `${name}.${format}`)]);
   }
+}
+
+function query(name, ...further) {
+  queryOf(kSampleMachine, name, ...further);
 }
 
 export const kResults = join(kBuild, "results-browser.xml");
 
 export function makePages() {
   mkdirSync(kFolder, { recursive: true });
-  rmSync(kMachineFolder, { recursive: true, force: true });
-  cpSync(join(kBuild, "sample-machine"), kMachineFolder, { recursive: true });
+  for (const [folder, copy] of [["sample-machine", kMachineFolder], ["sample-machine-with-gap", kGapFolder]]) {
+    rmSync(copy, { recursive: true, force: true });
+    cpSync(join(kBuild, folder), copy, { recursive: true });
+  }
   run("report_pages", [kFolder]);
   query("sample");
+  queryOf(machineIn(kGapFolder), "gap");
   run("hxahost",
       ["query", ...kSampleMachine, "--unread", "--format", "json", "--output", join(kFolder, "unread.json")]);
   run("hxahost", ["health", ...kSampleMachine, "--format", "json", "--output", join(kFolder, "health.json")], 2);

@@ -90,7 +90,7 @@ test("Boxes and states have the levels that the program gives", async (open) => 
 });
 
 test("Disks are under their arrays and logical drives, also where two controllers share a number", async (open) => {
-  const page = await open(pageFile("sample"));
+  const page = await open(pageFile("gap"));
   const figure = (owner) => page.locator(`figure:has(h3:text-is("${owner}"))`);
   assert.match(await figure("Controller 1").getByLabel("Array A, 8 disks").first().textContent(), /Drive 1.*Drive 2/s);
   assert.match(await figure("Controller 3 (qcmdrun)").getByLabel("Array A, 3 disks").first().textContent(), /Drive 1/);
@@ -174,10 +174,10 @@ test("The findings of the rules come first on the page, worst first, and lead to
 });
 
 test("A finding is about one object alone, also where two share an identifier", async (open) => {
-  const instances = lastQuery("sample").instances;
+  const instances = lastQuery("gap").instances;
   const twins = instances.flatMap(({ properties }, index) => (properties.DeviceID === "Zentraxis3" ? [index] : []));
   assert.equal(twins.length, 2);
-  const page = await open(pageFile("sample"));
+  const page = await open(pageFile("gap"));
   assert.equal(await page.locator(`.drawing a.level-critical[data-object="${twins[0]}"]`).count(), 1);
   assert.equal(await page.locator(`.drawing a.level-critical[data-object="${twins[1]}"]`).count(), 0);
 });
