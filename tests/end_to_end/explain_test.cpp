@@ -6,10 +6,15 @@
 #include <string>
 #include <vector>
 
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/write_bundle.h"
+#include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
+using namespace hxahost;
 using testing::AllOf;
 using testing::HasSubstr;
 
@@ -60,6 +65,28 @@ TEST(Explain, TakesAnObjectByAnyOfItsNames) {
     EXPECT_EQ(result.exitStatus, isFound ? 0 : 2);
     EXPECT_THAT((isFound ? result.out : result.err).substr(0, 200), HasSubstr(each.answer));
   }
+}
+
+// A tool that is asked for its configuration once more says another state than the first times.
+std::string BundleOfAChange(const TemporaryFolder& folder) {
+  Bundle bundle = ReadBundleFile(RunOfSampleMachine().bundle);
+  const std::vector<std::string> arguments = {"getconfig", "1", "al"};
+  RecordedRun* last = nullptr;
+  for (RecordedRun& run : bundle.runs) {
+    if (run.path == "zenx//arcconf.exe" && run.arguments == arguments) last = &run;
+  }
+  const std::string state = "State                              : Failed";
+  last->result.output.replace(last->result.output.find(state), state.size(), "State : Missing");
+  return Utf8FromPath(folder.Write("changed.bundle", WriteBundle(bundle)));
+}
+
+TEST(Explain, SaysWhereTheToolAnsweredDifferently) {
+  const TemporaryFolder folder;
+  const ProgramResult result =
+      RunHxahost({"explain", "--replay", BundleOfAChange(folder), "NV3LE77Q2H", "--width", "80"});
+  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  EXPECT_THAT(result.out, AllOf(HasSubstr("  Line  but it says\n"), HasSubstr("  236   State : Failed\n"),
+                                HasSubstr("\n  State             Missing ")));
 }
 
 }  // namespace
