@@ -214,6 +214,17 @@ TEST(Proof, TellsControllersOfOneNumberApart) {
   ExpectProofs(machine);
 }
 
+TEST(Proof, FindsDevicesWhoseNumbersAreCut) {
+  std::map<std::string, std::string> answers = AllAnswers();
+  std::string& config = answers["arcconf getconfig 1 al"];
+  for (const auto& [number, longer] : {std::pair("#7\r", "#10007\r"), std::pair("#8\r", "#10008\r")}) {
+    config.replace(config.find(number), 3, longer);
+  }
+  const SampleMachine machine(answers);
+  const Proof proof = ProofOf(machine, machine.PlaceOf(kDiskDriveClass, "DeviceSerialNum", "NV3LE77Q2H"), "State");
+  EXPECT_EQ(LinesOf(machine.Instances(), proof).at(0), "         State                              : Failed");
+}
+
 // The tool is asked twice: what it says the second time is published.
 TEST(Proof, SaysWhereTheRawTextSaysSomethingElse) {
   struct Case {

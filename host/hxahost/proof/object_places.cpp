@@ -191,7 +191,7 @@ class PlaceFinder {
       const auto isOnChannel = [&](const TextBlock& block) {
         return !block.heading || ChannelIn(text.lines[*block.heading]) == device.channel;
       };
-      AddBlock(device.instance, text, devices.Take(NumberOf(*instances_[device.instance]), isOnChannel));
+      AddBlock(device.instance, text, devices.Take(DeviceKey(NumberOf(*instances_[device.instance])), isOnChannel));
     }
   }
 

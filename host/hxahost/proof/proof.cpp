@@ -155,10 +155,6 @@ std::vector<Proof> Proofs::Of(std::size_t instance) {
 void Proofs::Find(Proof& proof, std::size_t instance, std::string_view className, const std::string& value,
                   bool isKey) {
   const Sought sought{value, isKey};
-  const bool hasLabels = std::ranges::any_of(
-      kKnownTools, [&](const KnownTool& known) { return !LabelsFor(known, className, proof.property).empty(); });
-  if (!hasLabels) return;
-  proof.evidence = Evidence::kNoLine;
   for (const Place& place : places_[instance]) {
     const auto readings = ReadAll(place, LabelsFor(*place.text->tool, className, proof.property), sought);
     if (readings.empty()) continue;
@@ -169,6 +165,9 @@ void Proofs::Find(Proof& proof, std::size_t instance, std::string_view className
     proof.lines = std::move(best.lines);
     if (best.isEqual) return;
   }
+  const bool hasLabels = std::ranges::any_of(
+      kKnownTools, [&](const KnownTool& known) { return !LabelsFor(known, className, proof.property).empty(); });
+  if (hasLabels && proof.evidence == Evidence::kMade) proof.evidence = Evidence::kNoLine;
 }
 
 const std::vector<LabelSource>& Proofs::LabelsFor(const KnownTool& tool, std::string_view className,

@@ -38,7 +38,7 @@ std::string WordsAfter(std::string_view line, std::string_view label) {
 }
 
 // "Target on SCSI ID 0", "Device #0".
-std::string DeviceKey(std::string_view line, std::string_view head) {
+std::string NumberOfDevice(std::string_view line, std::string_view head) {
   const std::string words = WordsAfter(line, head);
   return words.substr(words.rfind(' ') + 1);
 }
@@ -58,7 +58,7 @@ class BlockFinder {
     if (Contains(line, kLogicalDriveHead)) {
       Open(text_.drives, {index, index, {}, WordsAfter(line, kLogicalDriveHead)});
     } else if (Contains(line, text_.tool->deviceHead)) {
-      Open(text_.devices, {index, index, heading_, DeviceKey(line, text_.tool->deviceHead)});
+      Open(text_.devices, {index, index, heading_, DeviceKey(NumberOfDevice(line, text_.tool->deviceHead))});
     } else if (EndsObject(line)) {
       Close(index);
       if (Contains(line, kChannelHead)) heading_ = index;
@@ -155,6 +155,11 @@ std::vector<ToolText> ReadToolTexts(const InstanceList& instances) {
 
 bool Answers(const ToolText& text, const ToolCommand& command) {
   return text.command == command.command && text.option == command.option;
+}
+
+std::string DeviceKey(std::string_view number) {
+  constexpr std::size_t kDigits = 4;
+  return std::string(number.substr(0, kDigits));
 }
 
 std::string ChannelIn(std::string_view heading) {

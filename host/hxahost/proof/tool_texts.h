@@ -19,6 +19,10 @@ struct TextBlock {
   std::string key = {};  // number of a logical drive or device; of a group its letter, or its drive's number
 };
 
+// The key of a device from its number, as a tool prints it or as it is published: the first digits alone, as one tool's
+// numbers are cut after them. Devices that share a key are in the order of the text.
+std::string DeviceKey(std::string_view number);
+
 // What a tool answered to one command.
 struct ToolText {
   std::size_t instance = 0;         // its place among those of the query
