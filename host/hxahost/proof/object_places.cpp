@@ -1,6 +1,7 @@
 #include "host/hxahost/proof/object_places.h"
 
 #include <algorithm>
+#include <deque>
 #include <iterator>
 #include <set>
 #include <string>
@@ -80,6 +81,9 @@ class RowIndex {
 // Hands out the blocks of a text, each once: two devices under one number are in the order of the text.
 class BlockList {
  public:
+  // More channels than a controller has: texts in which nothing fits cost no more than others.
+  static constexpr std::size_t kMostTried = 64;
+
   explicit BlockList(const std::vector<TextBlock>& blocks) {
     for (const TextBlock& block : blocks) byKey_[block.key].push_back(&block);
   }
@@ -88,16 +92,17 @@ class BlockList {
   const TextBlock* Take(const std::string& key, const Fits& fits) {
     const auto found = byKey_.find(key);
     if (found == byKey_.end() || found->second.empty()) return nullptr;
-    std::vector<const TextBlock*>& blocks = found->second;
-    auto taken = std::ranges::find_if(blocks, [&](const TextBlock* block) { return fits(*block); });
-    if (taken == blocks.end()) taken = blocks.begin();
+    std::deque<const TextBlock*>& blocks = found->second;
+    const auto end = blocks.begin() + static_cast<std::ptrdiff_t>(std::min(blocks.size(), kMostTried));
+    auto taken = std::find_if(blocks.begin(), end, [&](const TextBlock* block) { return fits(*block); });
+    if (taken == end) taken = blocks.begin();
     const TextBlock* const block = *taken;
     blocks.erase(taken);
     return block;
   }
 
  private:
-  std::unordered_map<std::string, std::vector<const TextBlock*>> byKey_;
+  std::unordered_map<std::string, std::deque<const TextBlock*>> byKey_;
 };
 
 bool IsAbout(const ToolText& text, const Controller& controller) {
