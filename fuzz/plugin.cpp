@@ -19,7 +19,6 @@
 #include "fuzz/support/provenance.h"
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
-#include "host/hxahost/result/tool_answer.h"
 #include "logs/collect_raid_mgr_data.h"
 #include "plugin/host_interface/services.h"
 #include "plugin/query.h"
@@ -130,7 +129,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   PluginRun run(system);
   const hxahost::InstanceList first = run.Query();
   const std::size_t runs = machine.Runs();
-  Require(runs <= hxahost::MostRuns(), "the utilities are run as often as they may be at most");
+  Require(runs <= machine.MostRuns(), "the utilities are run as often as they may be at most");
   RequireUniqueIdentifiers(first, run.Controllers());
   RequireProvenance(first, std::string(AsText(data, size)));
 

@@ -57,7 +57,7 @@ TEST_F(CollectionServicesTest, KeepARunThatFailsAndShowItsCommandMeanwhile) {
     const CollectionServices services = Make({}, &progress);
     EXPECT_THROW(TOSSpecific::SpawnProcess("no//such.exe", {"getconfig", "1", "al"}, 300), THXAException);
   }
-  EXPECT_THAT(terminal.str(), testing::StartsWith("\rno//such.exe getconfig 1 al\r"));
+  EXPECT_THAT(terminal.str(), testing::StartsWith("\rno//such.exe getconfig 1 al (1 of about 48)\r"));
   ASSERT_EQ(runs_.size(), 1U);
   EXPECT_EQ(runs_[0].path, "no//such.exe");
   EXPECT_EQ(OutcomeWord(runs_[0].outcome), "not started");

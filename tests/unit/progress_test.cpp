@@ -36,23 +36,24 @@ TEST(Progress, CountsTheSecondsOfALongCommand) {
   EXPECT_TRUE(terminal.str().ends_with("\r        \r")) << "erased";
 }
 
-TEST(Progress, SaysWhichOfHowManyCommandsAtMostRuns) {
+TEST(Progress, SaysWhichOfHowManyCommandsRuns) {
   std::ostringstream terminal;
   {
-    Progress progress(terminal, 80, 240);
-    progress.Begin("first");
-    progress.Begin("second");
+    Progress progress(terminal, 80);
+    progress.Begin("first", 48);
+    progress.Begin("second", 63);
+    progress.Begin("third", 2);
   }
-  EXPECT_THAT(terminal.str(), HasSubstr("\rfirst (1 of at most 240)\rsecond (2 of at most 240)"));
+  EXPECT_THAT(terminal.str(), HasSubstr("\rfirst (1 of about 48)\rsecond (2 of about 63)\rthird (3 of about 3) "));
 }
 
 TEST(Progress, LeavesRoomInANarrowTerminal) {
   std::ostringstream terminal;
   {
-    Progress progress(terminal, 40, 240);
-    progress.Begin(std::string(200, 'x'));
+    Progress progress(terminal, 40);
+    progress.Begin(std::string(200, 'x'), 240);
   }
-  EXPECT_THAT(terminal.str(), testing::StartsWith("\r" + std::string(10, 'x') + "\u2026 (1 of at most 240)\r"));
+  EXPECT_THAT(terminal.str(), testing::StartsWith("\r" + std::string(12, 'x') + "\u2026 (1 of about 240)\r"));
 }
 
 TEST(Progress, KeepsToOneLineWithoutControlCharacters) {

@@ -59,11 +59,6 @@ TEST(ToolAnswer, TellsWhatAnAnswerAmountsTo) {
   ExpectAnswer("arcconf", {}, "x\n", Outcome::kCutOff, "its last line is \"x\"");
 }
 
-// Eight numbers: both passes ask for each, and then with the commands of that pass.
-TEST(ToolAnswer, CountsTheRunsOfAllTools) {
-  EXPECT_EQ(hxahost::MostRuns(), 8u * ((1 + 8 + 1 + 7) + (1 + 3 + 1 + 1) + (1 + 5 + 1 + 0)));
-}
-
 TEST(ToolAnswer, NamesEachOutcomeInTheWordsThatProgramsRelyOn) {
   EXPECT_EQ(OutcomeWord(Outcome::kOk), "ok");
   EXPECT_EQ(OutcomeWord(Outcome::kRefused), "refused");

@@ -9,7 +9,6 @@
 #include "host/hxahost/bundle/bundle_mask.h"
 #include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/collection/writable_tools.h"
-#include "host/hxahost/result/tool_answer.h"
 #include "host/hxahost/system/terminal.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/terminal/terminal_layout.h"
@@ -41,9 +40,8 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
       recordFile_(OpenRecord(options.record)),
       recorder_(recordFile_ ? std::make_unique<BundleRecorder>(osType_, ToolDirectory()) : nullptr),
       log_(options.log),
-      progress_(options.showProgress && StandardErrorIsTerminal()
-                    ? std::make_unique<Progress>(err, ProgressWidth(), MostRuns())
-                    : nullptr),
+      progress_(options.showProgress && StandardErrorIsTerminal() ? std::make_unique<Progress>(err, ProgressWidth())
+                                                                  : nullptr),
       services_(replay_ ? replay_->Services() : RealServices(), options, log_, runs_, progress_.get(), recorder_.get()),
       plugin_(options.plugin.empty() ? ProgramFolder() / "zenx.pi" : options.plugin),
       repository_(TRepository::Make(osType_)) {
@@ -68,6 +66,8 @@ QueryHeader Collection::Header(std::vector<std::string> classes) const {
   header.directory = ToolDirectory();
   header.time = services.localTime();
   header.classes = std::move(classes);
+  header.isReplayed = replay_.has_value();
+  header.isMasked = replay_ && replay_->Recorded().isMasked;
   return header;
 }
 

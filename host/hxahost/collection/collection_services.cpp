@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "host/hxahost/result/expected_runs.h"
+
 using namespace NKVRHXA20;
 
 namespace hxahost {
@@ -11,12 +13,13 @@ namespace {
 // Ends what runs however the command ends.
 class RunningCommand {
  public:
-  RunningCommand(Progress* progress, const std::string& path, const std::vector<std::string>& arguments)
+  RunningCommand(Progress* progress, const std::string& path, const std::vector<std::string>& arguments,
+                 const ToolRunList& before)
       : progress_(progress) {
     if (progress_ == nullptr) return;
     std::string command = path;
     for (const std::string& argument : arguments) command += " " + argument;
-    progress_->Begin(command);
+    progress_->Begin(command, ExpectedRuns(before));
   }
   ~RunningCommand() {
     if (progress_ != nullptr) progress_->End();
@@ -37,7 +40,7 @@ CollectionServices::CollectionServices(HostServices services, const CollectionOp
   if (options.localTime) services.localTime = [time = *options.localTime] { return time; };
   services.spawn = [spawn = services.spawn, &runs, progress](
                        const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
-    const RunningCommand running(progress, path, arguments);
+    const RunningCommand running(progress, path, arguments, runs);
     return SpawnAndRecord(spawn, path, arguments, limitSeconds, runs);
   };
   if (recorder != nullptr) services = recorder->Wrap(std::move(services));

@@ -24,9 +24,17 @@ struct QueryHeader {
   unsigned queryCount = 1;
   bool withRuns = false;    // what programs read has the runs of the tools
   bool withUnread = false;  // lines of the raw texts that no property shows are listed
+  bool isReplayed = false;  // everything comes from a bundle
+  bool isMasked = false;    // and names and serial numbers in that are hidden
   Layout layout = {};       // of the tables
   Limits limits = {};       // of what is counted
 };
+
+// A sentence for people where the result is not of the machine as it is now; "" where it is.
+inline std::string_view SourceNote(const QueryHeader& header) {
+  if (header.isMasked) return "Replayed from a bundle in which names and serial numbers are masked.";
+  return header.isReplayed ? "Replayed from a bundle." : "";
+}
 
 inline bool IsAskedFor(const QueryHeader& header, std::string_view className) {
   return std::ranges::find(header.classes, className) != header.classes.end();

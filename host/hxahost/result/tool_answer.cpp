@@ -79,12 +79,6 @@ std::vector<std::string_view> KnownTools() {
   return names;
 }
 
-std::size_t MostRuns() {
-  std::size_t runs = 0;
-  for (const KnownTool& known : kKnownTools) runs += ::MostRuns(known.tool);
-  return runs;
-}
-
 ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output) {
   if (Trim(output).empty()) return {Outcome::kEmpty, "it wrote nothing"};
   const auto* const known = std::ranges::find(kKnownTools, tool, [](const KnownTool& each) { return each.tool.name; });

@@ -37,9 +37,6 @@ std::string ToolName(std::string_view path);
 // The utilities in the order in which they are run.
 std::vector<std::string_view> KnownTools();
 
-// How often the plug-in runs them all at most.
-std::size_t MostRuns();
-
 // Reads what a tool wrote. Of programs that are no known utility, only an empty answer tells anything.
 ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output);
 

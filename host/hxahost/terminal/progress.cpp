@@ -16,8 +16,8 @@ constexpr std::size_t kRoomForSeconds = 9;
 }  // namespace
 
 // A line that fills a terminal's last column may wrap.
-Progress::Progress(std::ostream& terminal, std::size_t width, std::size_t atMost)
-    : terminal_(terminal), width_(width - 1), atMost_(atMost), clock_([this] { Run(); }) {}
+Progress::Progress(std::ostream& terminal, std::size_t width)
+    : terminal_(terminal), width_(width - 1), clock_([this] { Run(); }) {}
 
 Progress::~Progress() {
   {
@@ -29,10 +29,10 @@ Progress::~Progress() {
   Clear();
 }
 
-void Progress::Begin(const std::string& what) {
+void Progress::Begin(const std::string& what, std::size_t expected) {
   const std::lock_guard lock(mutex_);
   ++begun_;
-  const std::string place = atMost_ == 0 ? "" : fmt::format(" ({} of at most {})", begun_, atMost_);
+  const std::string place = expected == 0 ? "" : fmt::format(" ({} of about {})", begun_, std::max(begun_, expected));
   what_ = CutToWidth(Printable(what), width_ - kRoomForSeconds - place.size()) + place;
   since_ = std::chrono::steady_clock::now();
   Draw(what_);

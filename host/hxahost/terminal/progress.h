@@ -12,14 +12,14 @@ namespace hxahost {
 // One line on a terminal that says what is running and for how many seconds. It is gone when the object is.
 class Progress {
  public:
-  // The terminal's width in columns. How many commands there may be at most; 0: nobody knows.
-  explicit Progress(std::ostream& terminal, std::size_t width = 80, std::size_t atMost = 0);
+  // The terminal's width in columns.
+  explicit Progress(std::ostream& terminal, std::size_t width = 80);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  // From here on this runs.
-  void Begin(const std::string& what);
+  // From here on this runs. So many commands are expected in all, as far as is known by now; 0: nobody knows.
+  void Begin(const std::string& what, std::size_t expected = 0);
   // Nothing runs. The line stays until the next begins, so that it does not flicker.
   void End();
   // Nothing runs, and the line is gone: others write to the terminal now.
@@ -31,7 +31,6 @@ class Progress {
 
   std::ostream& terminal_;
   const std::size_t width_;
-  const std::size_t atMost_;
   std::mutex mutex_;  // guards all that follows
   std::condition_variable changed_;
   std::string what_;  // empty: nothing runs

@@ -129,8 +129,9 @@ TEST(Terminal, ShowsAsciiWhereItsLocaleHasNothingElse) {
 TEST(Terminal, ShowsWhichOfHowManyCommandsRuns) {
   const std::string shown = ShownOnTerminal(
       100, {"query", "--directory", hxahost::Utf8FromPath(SampleMachine()), "--class", "KVRSG_zxDiskDrive"}, {});
-  EXPECT_THAT(shown, HasSubstr("\rzenx//qcmdrun.exe getconfig 1 al (1 of at most 240)"));
-  EXPECT_THAT(shown, HasSubstr("\rzenx//arcconf.exe getconfig 8 al (80 of at most 240)"));
+  EXPECT_THAT(shown, HasSubstr("\rzenx//qcmdrun.exe getconfig 1 al (1 of about 48)"));
+  EXPECT_THAT(shown, HasSubstr("\rzenx//qcmdrun.exe getconfig 1 al (2 of about 63)"));
+  EXPECT_THAT(shown, HasSubstr("\rzenx//arcconf.exe getconfig 8 al (80 of about 80)"));
 }
 
 // What stands on the screen when all is written: each carriage return goes back to the begin of the line.
@@ -168,9 +169,9 @@ TEST(Terminal, HasNothingOfTheProgressLeftBesideTheTables) {
   std::vector<std::string> quiet = fixed;
   quiet.emplace_back("--no-progress");
   const std::string without = ShownOnTerminal(100, quiet, noColour);
-  EXPECT_THAT(with, HasSubstr("(1 of at most 240)"));
+  EXPECT_THAT(with, HasSubstr("(1 of about 48)"));
   EXPECT_THAT(with, Not(HasSubstr("\x1b")));
-  EXPECT_THAT(without, Not(HasSubstr("at most")));
+  EXPECT_THAT(without, Not(HasSubstr("of about")));
   // The last lines tell how many seconds the tools took.
   const auto tables = [](const std::string& shown) {
     std::vector<std::string> lines = Screen(shown);

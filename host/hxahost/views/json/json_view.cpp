@@ -109,7 +109,10 @@ void WriteJsonArray(std::ostream& out, std::string_view name, const Items& items
 }  // namespace
 
 void BeginJson(std::ostream& out, const QueryHeader& header) {
-  out << "{\n  \"format\": 1,\n  \"machine\": " << JsonText(AsUtf8(header.machine)) << ",\n  \"queries\": [";
+  out << "{\n  \"format\": 1,\n  \"machine\": " << JsonText(AsUtf8(header.machine)) << ",\n";
+  if (header.isReplayed) out << "  \"replayed\": true,\n";
+  if (header.isMasked) out << "  \"masked\": true,\n";
+  out << "  \"queries\": [";
 }
 
 void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
@@ -138,6 +141,8 @@ void WriteQueryJsonLines(std::ostream& out, const QueryHeader& header, const Que
         {"machine", AsUtf8(header.machine)},
         {"time",    header.time.ToString()}
     };
+    if (header.isReplayed) line["replayed"] = true;
+    if (header.isMasked) line["masked"] = true;
     line.update(InstanceJson(*instance));
     out << JsonText(line) << '\n';
   }

@@ -15,6 +15,8 @@ void WriteHealthJson(std::ostream& out, const HealthReport& report) {
       {"status",   SeverityWord(WorstOf(report.machine.findings))},
       {"findings", nlohmann::ordered_json::array()               },
   };
+  if (report.header.isReplayed) json["replayed"] = true;
+  if (report.header.isMasked) json["masked"] = true;
   for (const Finding& finding : report.machine.findings) json["findings"].push_back(FindingJson(finding));
   out << JsonText(json, 2) << '\n';
 }

@@ -79,6 +79,7 @@ std::string_view WhereOf(Where where) {
 void WriteHealthText(std::ostream& out, const HealthReport& report) {
   out << Upper(SeverityWord(WorstOf(report.machine.findings))) << ": " << Summary(report) << '\n';
   for (const Finding& finding : report.machine.findings) out << FindingText(finding) << '\n';
+  if (report.header.isReplayed) out << SourceNote(report.header) << '\n';
 }
 
 void WriteHealthRules(std::ostream& out) {

@@ -172,6 +172,7 @@ void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryRe
   json["program"] = "hxahost " ZENX_VERSION;
   json["directory"] = AsUtf8(header.directory);
   json["time"] = header.time.ToString();
+  if (header.isReplayed) json["source"] = SourceNote(header);
   json["classes"] = header.classes;
   json["queryCount"] = header.queryCount;
   json["tables"] = TablesJson();

@@ -64,6 +64,7 @@ void BeginTables(std::ostream& out, const QueryHeader& header) {
   const std::string line = fmt::format("RAID controllers of {} on {}, collected in {}", Printable(header.machine),
                                        ReadableTime(header.time.ToString()), Printable(header.directory));
   out << CutToWidth(line, header.layout.width) << '\n';
+  if (header.isReplayed) out << CutToWidth(SourceNote(header), header.layout.width) << '\n';
 }
 
 void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {

@@ -210,7 +210,8 @@ function writeHead(json, data) {
   const title = "RAID report: " + printable(json.machine);
   document.title = title;
   byId("title").textContent = title;
-  byId("subtitle").textContent = `Collected in ${printable(data.directory)} on ${readableTime(data.time)}`;
+  byId("subtitle").textContent = `Collected in ${printable(data.directory)} on ${readableTime(data.time)}`
+    + (data.source ? `. ${data.source}` : "");
   byId("footer").textContent =
     `Written by ${data.program}. Everything is in this file; nothing is loaded from elsewhere.`;
   if (data.queryCount > 1) {
