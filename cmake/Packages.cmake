@@ -17,7 +17,8 @@ if(WIN32)
   set(texts ${CMAKE_SOURCE_DIR}/README.md=README.txt ${CMAKE_SOURCE_DIR}/CHANGELOG.md=CHANGELOG.txt
             ${CMAKE_SOURCE_DIR}/packaging/utilities.txt=zenx/put-the-utilities-here.txt
             ${CMAKE_SOURCE_DIR}/packaging/licences.md=licences/README.txt
-            ${CMAKE_SOURCE_DIR}/share/prometheus/zenx.rules.yml=prometheus/zenx.rules.yml)
+            ${CMAKE_SOURCE_DIR}/share/prometheus/zenx.rules.yml=prometheus/zenx.rules.yml
+            ${CMAKE_SOURCE_DIR}/share/completion/hxahost.ps1=completion/hxahost.ps1)
   foreach(document ${documents})
     cmake_path(GET document FILENAME name)
     list(APPEND texts ${document}=docs/${name})
@@ -30,7 +31,8 @@ else()
   file(CREATE_LINK ../lib/zenx/hxahost ${CMAKE_BINARY_DIR}/packaging/hxahost SYMBOLIC)
   install(FILES ${CMAKE_BINARY_DIR}/packaging/hxahost DESTINATION bin)
   install(FILES share/prometheus/zenx.rules.yml DESTINATION share/zenx/prometheus)
-  install(FILES packaging/hxahost.bash DESTINATION share/bash-completion/completions RENAME hxahost)
+  install(FILES share/completion/hxahost.bash DESTINATION share/bash-completion/completions RENAME hxahost)
+  install(FILES share/completion/hxahost.zsh DESTINATION share/zsh/vendor-completions RENAME _hxahost)
   install(FILES README.md packaging/licences.md DESTINATION share/doc/zenx)
   install(FILES ${documents} DESTINATION share/doc/zenx/docs)
   install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME zenx)

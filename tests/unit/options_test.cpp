@@ -192,6 +192,35 @@ TEST(Options, ShowTheSameHelpByTheCommandForIt) {
   EXPECT_EQ(Parse("help bundle show").text, Parse("bundle show --help").text);
 }
 
+TEST(Options, AreCompletedAsTheCommandsHaveThem) {
+  struct Case {
+    const char* words;
+    const char* lines;  // among them
+  };
+  const Case cases[] = {
+      {"",                           "query\nhealth\n"            },
+      {"",                           "\n--version\n"              },
+      {"query",                      "\n--format\n"               },
+      {"query --output query --log", ""                           },
+      {"query --output f",           "\n--color\n"                },
+      {"query --color",              "auto\nalways\nnever\n"      },
+      {"health --format =",          "text\njson\nprometheus\n"   },
+      {"schema -f",                  "mof\nmarkdown\n"            },
+      {"query --os-type",            "none\n"                     },
+      {"query --class",              "\nversions\nKVRSG_zxManager"},
+      {"bundle",                     "list\nshow\nmask\n"         },
+      {"help bundle",                "list\nshow\nmask\n"         },
+      {"bundle mask in",             "--all\n"                    },
+  };
+  for (const Case& each : cases) {
+    const std::string text = Parse("complete " + std::string(each.words)).text;
+    EXPECT_THAT(text, HasSubstr(each.lines)) << each.words;
+    if (*each.lines == '\0') {
+      EXPECT_EQ(text, "") << each.words;
+    }
+  }
+}
+
 TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
   struct Case {
     const char* name;

@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "host/hxahost/program/completion.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/option_examples.h"
 #include "host/hxahost/program/option_values.h"
@@ -323,6 +324,9 @@ struct CommandRow {
   CommandLine (*read)(const CLI::App& command, const TypedOptions& typed);
 };
 
+// Asked for by the completion of shells, with the words so far, and by nobody else.
+constexpr std::string_view kCompleteCommand = "complete";
+
 // Help, advice on mistyped words and completion follow from it.
 constexpr CommandRow kCommands[] = {
     {"status",  "Show on one screen what is wrong and what to do",         kStatusExamples,  AddStatus,  ReadStatus },
@@ -364,6 +368,9 @@ CommandLine ParseCommandLine(const std::vector<std::string>& typed) {
   CLI::App program("hxahost - loads the collector plug-in, queries it and shows what it publishes", "hxahost");
   TypedOptions options;
   AddCommands(program, options);
+  if (arguments.front() == kCompleteCommand) {
+    return {Command::kShowText, Completions(program, {arguments.begin() + 1, arguments.end()}), {}};
+  }
   try {
     program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::CallForVersion& version) {
