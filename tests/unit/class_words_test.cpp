@@ -10,7 +10,7 @@ namespace {
 
 using namespace hxahost;
 
-TEST(ClassWords, StandForClasses) {
+TEST(ClassWords, MeanClasses) {
   struct Case {
     const char* word;
     std::vector<std::string> expected;
