@@ -51,8 +51,8 @@ std::string Place(const ClassDeclaration& declaration, const PropertyDeclaration
 
 TPublishedInstance::~TPublishedInstance() = default;
 
-TInstance::TInstance(const ClassDeclaration& declaration, TKeep keep)
-    : declaration_(declaration), keep_(std::move(keep)) {
+TInstance::TInstance(const ClassDeclaration& declaration, TSystemKeys systemKeys, TKeep keep)
+    : declaration_(declaration), systemKeys_(std::move(systemKeys)), keep_(std::move(keep)) {
   properties_.reserve(declaration.properties.size());
 }
 
@@ -94,6 +94,10 @@ TCIMReference TInstance::Reference() const {
     const PublishedProperty* const property = declared.isKey ? Find(declared.name) : nullptr;
     if (!property || TCIMValueReader::Kind(property->value) == ValueKind::kNone) continue;
     keys.emplace(declared.name, property->value);
+  }
+  for (const PropertyDeclaration& declared : declaration_.systemKeys) {
+    const std::string name(declared.name);
+    keys.emplace(name, systemKeys_->at(name));
   }
   TCIMReference reference = TCIMReferenceFactory::Make(nullptr, std::string(declaration_.name), keys);
   if (!keep_) reference_ = std::make_unique<const TCIMReference>(reference);

@@ -21,8 +21,11 @@ class TInstance final : public ICIMInstance,
   // What keeps the instance when it is committed.
   using TKeep = std::function<void(const boost::shared_ptr<TInstance>&)>;
 
+  // The values of the keys that the host adds. All instances of a repository share them.
+  using TSystemKeys = std::shared_ptr<const TPropertyMap>;
+
   // The declaration must outlive the instance.
-  TInstance(const ClassDeclaration& declaration, TKeep keep);
+  TInstance(const ClassDeclaration& declaration, TSystemKeys systemKeys, TKeep keep);
 
   void Commit(TPropertyMap context) override;
   TCIMReference GetReference(const TPropertyMap& context) override;
@@ -37,6 +40,7 @@ class TInstance final : public ICIMInstance,
   const PublishedProperty* Find(std::string_view name) const;
 
   const ClassDeclaration& declaration_;
+  TSystemKeys systemKeys_;
   TKeep keep_;  // empty once committed, which also lets go of the host's lists
   std::vector<PublishedProperty> properties_;
   mutable std::unique_ptr<const TCIMReference> reference_;  // made when first asked for after the commit

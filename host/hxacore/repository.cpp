@@ -1,6 +1,7 @@
 #include "host/hxacore/repository.h"
 
 #include <map>
+#include <memory>
 #include <utility>
 
 #include <fmt/core.h>
@@ -13,13 +14,19 @@ namespace NKVRHXA20 {
 
 namespace {
 
+constexpr const char* kComputerSystem = "KVRSG_ComputerSystem";
 constexpr const char* kOperatingSystem = "KVRSG_OperatingSystem";
 
 // What the repository holds. Classes and instances that are not committed yet share it.
 struct Contents {
   std::map<const ClassDeclaration*, std::vector<boost::shared_ptr<TInstance>>> instances;
   std::vector<boost::shared_ptr<const TPublishedInstance>> published;  // by the query, over all classes
+  TInstance::TSystemKeys systemKeys;
 };
+
+bool IsOfHost(const ClassDeclaration& declaration) {
+  return declaration.name == kComputerSystem || declaration.name == kOperatingSystem;
+}
 
 const ClassDeclaration& Known(const std::string& name) {
   const ClassDeclaration* const declaration = FindClass(name);
@@ -35,10 +42,10 @@ class TClass final : public ICIMClass {
   std::string GetName(const TPropertyMap&) override { return std::string(declaration_.name); }
 
   boost::shared_ptr<ICIMInstance> CreateInstance(const TPropertyMap&) override {
-    if (declaration_.name == kOperatingSystem) {
-      throw THXAException(fmt::format("Only the host makes instances of \"{}\".", kOperatingSystem));
+    if (IsOfHost(declaration_)) {
+      throw THXAException(fmt::format("Only the host makes instances of \"{}\".", declaration_.name));
     }
-    return boost::make_shared<TInstance>(declaration_,
+    return boost::make_shared<TInstance>(declaration_, contents_->systemKeys,
                                          [contents = contents_](const boost::shared_ptr<TInstance>& committed) {
                                            contents->instances[&committed->Class()].push_back(committed);
                                            contents->published.push_back(committed);
@@ -58,13 +65,20 @@ class TClass final : public ICIMClass {
 
 class TRepositoryOfInstances final : public TRepository {
  public:
-  explicit TRepositoryOfInstances(std::optional<std::uint16_t> osType) {
-    if (!osType) return;
-    const auto keep = [this](const boost::shared_ptr<TInstance>& own) { contents_->instances[&own->Class()] = {own}; };
-    const auto own = boost::make_shared<TInstance>(Known(kOperatingSystem), keep);
-    own->SetProperty("Name", "Operating system", {});
-    own->SetProperty("OSType", *osType, {});
-    own->Commit({});
+  TRepositoryOfInstances(std::optional<std::uint16_t> osType, const std::string& machineName) {
+    contents_->systemKeys = std::make_shared<const TPropertyMap>(TPropertyMap{
+        {"SystemCreationClassName", kComputerSystem},
+        {"SystemName",              machineName    }
+    });
+    Keep(kComputerSystem, {
+                              {"CreationClassName", kComputerSystem},
+                              {"Name",              machineName    }
+    });
+    if (osType)
+      Keep(kOperatingSystem, {
+                                 {"Name",   "Operating system"},
+                                 {"OSType", *osType           }
+      });
   }
 
   boost::shared_ptr<ICIMClass> GetClass(const std::string& name, const TPropertyMap&) override {
@@ -75,20 +89,32 @@ class TRepositoryOfInstances final : public TRepository {
     contents_->published.clear();
     for (const auto& named : classes) {
       const ClassDeclaration& declaration = Known(named->GetName({}));
-      if (declaration.name != kOperatingSystem) contents_->instances.erase(&declaration);
+      if (!IsOfHost(declaration)) contents_->instances.erase(&declaration);
     }
   }
 
   std::vector<boost::shared_ptr<const TPublishedInstance>> Published() const override { return contents_->published; }
 
+  boost::shared_ptr<const TPublishedInstance> System() const override {
+    return contents_->instances.at(&Known(kComputerSystem)).front();
+  }
+
  private:
+  // Makes the one instance of a class of the host.
+  void Keep(const char* className, const TPropertyMap& properties) {
+    const auto keep = [this](const boost::shared_ptr<TInstance>& own) { contents_->instances[&own->Class()] = {own}; };
+    const auto own = boost::make_shared<TInstance>(Known(className), contents_->systemKeys, keep);
+    for (const auto& [name, value] : properties) own->SetProperty(name, value, {});
+    own->Commit({});
+  }
+
   boost::shared_ptr<Contents> contents_ = boost::make_shared<Contents>();
 };
 
 }  // namespace
 
-boost::shared_ptr<TRepository> TRepository::Make(std::optional<std::uint16_t> osType) {
-  return boost::make_shared<TRepositoryOfInstances>(osType);
+boost::shared_ptr<TRepository> TRepository::Make(std::optional<std::uint16_t> osType, const std::string& machineName) {
+  return boost::make_shared<TRepositoryOfInstances>(osType, machineName);
 }
 
 TRepository::~TRepository() = default;

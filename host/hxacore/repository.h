@@ -36,7 +36,8 @@ class HXACORE_API TPublishedInstance {
 class HXACORE_API TRepository : public ICIMNamespace, public boost::enable_shared_from_this<TRepository> {
  public:
   // osType: what the one "KVRSG_OperatingSystem" instance has as "OSType"; nothing: there is no such instance.
-  static boost::shared_ptr<TRepository> Make(std::optional<std::uint16_t> osType);
+  // machineName: the name of the one "KVRSG_ComputerSystem" instance, and a part of the paths of what belongs to it.
+  static boost::shared_ptr<TRepository> Make(std::optional<std::uint16_t> osType, const std::string& machineName = "");
   ~TRepository() override;
 
   // A query that names these classes begins: what was published of them before is gone, of all of them at once.
@@ -44,6 +45,9 @@ class HXACORE_API TRepository : public ICIMNamespace, public boost::enable_share
 
   // What was committed since, in order, equal keys or not; not the host's own instances.
   virtual std::vector<boost::shared_ptr<const TPublishedInstance>> Published() const = 0;
+
+  // The host's own "KVRSG_ComputerSystem" instance.
+  virtual boost::shared_ptr<const TPublishedInstance> System() const = 0;
 };
 
 }  // namespace NKVRHXA20

@@ -1,6 +1,7 @@
 #include "host/hxacore/schema.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "host/hxacore/ignore_case.h"
 
@@ -48,11 +49,19 @@ constexpr PropertyDeclaration End(std::string_view name, std::string_view refere
 
 // What several classes have in common, said once.
 constexpr auto kSystemClass =
-    Text("SystemCreationClassName", "Class of the computer system that the device is in.", "fixed text");
+    Key(Text("SystemCreationClassName", "Class of the computer system that the device is in.", "fixed text"));
 constexpr auto kOwnClass =
     Key(Text("CreationClassName", "Class of the instance, a part of its name.", "fixed text: the name of the class"));
 constexpr auto kSystemName =
-    Text("SystemName", "Name of the machine that the device is in.", "host: name of the machine");
+    Key(Text("SystemName", "Name of the machine that the device is in.", "host: name of the machine"));
+
+// What tells the objects of two machines apart where the plug-in publishes nothing that does.
+constexpr PropertyDeclaration kMachine[] = {
+    Key(Text("SystemCreationClassName", "Class of the computer system that the object belongs to.",
+             "fixed text, added by the host")),
+    Key(Text("SystemName", "Name of the machine that the object belongs to.", "host: name of the machine")),
+};
+
 constexpr auto kController = Text("ControllerNum", "Number of the controller that it belongs to.",
                                   "number by which the tool was asked, counted on from tool to tool");
 constexpr auto kStatisticId = Key(Text("InstanceID", "Names the counters: controller and what they were counted on."));
@@ -61,7 +70,7 @@ constexpr auto kStatisticTime = Time("StatisticTime", "When the counters were re
 constexpr auto kLogClass = Key(Text("LogCreationClassName", "Class of the log that holds the record.", "fixed text"));
 constexpr auto kLogName = Key(Text("LogName", "Name of the log that holds the record.", "fixed text"));
 constexpr auto kMessageTime =
-    Key(Time("MessageTimestamp", "When the event happened; when the log was read, where it does not say."));
+    Time("MessageTimestamp", "When the event happened; when the log was read, where it does not say.");
 constexpr auto kRecordId = Key(Text("RecordID", "Tells the records of one log apart."));
 
 constexpr auto kCommand = Key(Text("Command", "The command line that was run, or the file that was read."));
@@ -246,7 +255,7 @@ constexpr PropertyDeclaration kSoftEvents[] = {
     From("fixed text", kOwnClass),
     kLogClass,
     kLogName,
-    From("fixed: 2000-01-01 01:01:01, the log gives no time", kMessageTime),
+    Key(From("fixed: 2000-01-01 01:01:01, the log gives no time", kMessageTime)),
     From("ControllerNum: a controller has one such log", kRecordId),
     kController,
     Text("NumEntries", "How many codes there are.", "how many codes there are"),
@@ -259,7 +268,7 @@ constexpr PropertyDeclaration kHardEvents[] = {
     kLogClass,
     kLogName,
     kController,
-    From("fixed: 2000-01-01 01:01:01, the log gives no time", kMessageTime),
+    Key(From("fixed: 2000-01-01 01:01:01, the log gives no time", kMessageTime)),
     From("ControllerNum: a controller has one such log", kRecordId),
     Text("NumEntries", "How many codes there are.", "how many codes there are"),
     Codes("HexHardEvent", "Codes of the hard events, in the order of the log.",
@@ -270,9 +279,9 @@ constexpr PropertyDeclaration kDefunctDrives[] = {
     kOwnClass,
     kLogClass,
     kLogName,
-    Text("Controller", "Number of the controller whose log it is.",
-         "number by which the tool was asked, counted on from tool to tool"),
-    From("Date and Time, taken for UTC", kMessageTime),
+    Key(Text("Controller", "Number of the controller whose log it is.",
+             "number by which the tool was asked, counted on from tool to tool")),
+    Key(From("Date and Time, taken for UTC", kMessageTime)),
     From("number of the row, four hexadecimal digits", kRecordId),
     Text("Date", "Date as the log gives it.", "qcmdrun getevent ddd: column 1"),
     Text("Time", "Time of day as the log gives it.", "qcmdrun getevent ddd: column 2"),
@@ -286,6 +295,7 @@ constexpr PropertyDeclaration kRaidManagerEvents[] = {
     kOwnClass,
     From("fixed text, with RAIMgr in it, as it has always been", kLogClass),
     kLogName,
+    // No key: the log can give a time that there is none of, and a key needs a value.
     From("RAID manager's log: first field, with the offset of its zone", kMessageTime),
     From("number of the record, counted on for the life of the process", kRecordId),
     Text("Severity", "How serious the event is, as the RAID manager says.", "RAID manager's log: second field"),
@@ -394,14 +404,26 @@ constexpr PropertyDeclaration kElementBadStripes[] = {
     End("ManagedElement", "KVRSG_zxLogicalDisk", "The logical drive whose stripes were counted.", "the logical disk"),
 };
 
+constexpr PropertyDeclaration kComputerSystems[] = {
+    kOwnClass,
+    Key(Text("Name", "Name of the machine.", "host: name of the machine")),
+};
+
 constexpr PropertyDeclaration kOperatingSystems[] = {
     Key(Text("Name", "Names the operating system.")),
     Number("OSType", "Kind of operating system, by the numbers of CIM_OperatingSystem."),
 };
 
+// A class whose instances need no further key.
 constexpr ClassDeclaration Things(std::string_view name, std::string_view description,
                                   std::span<const PropertyDeclaration> properties) {
   return {name, description, false, properties};
+}
+
+// A class whose instances the host's keys tell from those of another machine.
+constexpr ClassDeclaration OfMachine(std::string_view name, std::string_view description,
+                                     std::span<const PropertyDeclaration> properties) {
+  return {name, description, false, properties, kMachine};
 }
 
 constexpr ClassDeclaration Links(std::string_view name, std::string_view description,
@@ -409,26 +431,28 @@ constexpr ClassDeclaration Links(std::string_view name, std::string_view descrip
   return {name, description, true, properties};
 }
 
-constexpr ClassDeclaration kPublishedClasses[] = {
-    Things("KVRSG_zxManagerRawData", "The RAID manager's event log file, word for word.", kManagerRawData),
-    Things("KVRSG_zxRawData", "What a controller utility answered to one command, word for word.", kRawData),
+// The plug-in's classes in the order of its catalogue, then those of the host.
+constexpr ClassDeclaration kClasses[] = {
+    OfMachine("KVRSG_zxManagerRawData", "The RAID manager's event log file, word for word.", kManagerRawData),
+    OfMachine("KVRSG_zxRawData", "What a controller utility answered to one command, word for word.", kRawData),
     Things("KVRSG_zxSCSIProtocolController", "A RAID controller.", kControllers),
     Things("KVRSG_zxLogicalDisk", "A logical drive, as the operating system sees it.", kLogicalDisks),
-    Things("KVRSG_zxDiskGroup", "The drives that stripes run over, in their order.", kDiskGroups),
+    OfMachine("KVRSG_zxDiskGroup", "The drives that stripes run over, in their order.", kDiskGroups),
     Things("KVRSG_zxDiskDrive", "A device on a channel of a controller: a drive, enclosure, tape or processor.",
            kDiskDrives),
     Things("KVRSG_DiskGroup", "A group of drives; none is ever published, see KVRSG_zxDiskGroup.", kPlainDiskGroups),
-    Things("KVRSG_BadStripeData", "How many stripes of a logical drive are bad.", kBadStripes),
-    Things("KVRSG_zxSCSIDeviceData", "Errors that a controller counted on one of its devices.", kDeviceStatistics),
-    Things("KVRSG_zxSCSISubStatData", "Transfer parameters that a controller and one of its devices use.", kSubStatus),
-    Things("KVRSG_LogRecord_SoftEvent", "The soft event log of a controller.", kSoftEvents),
-    Things("KVRSG_LogRecord_zxDDD", "A drive that a controller has set defunct.", kDefunctDrives),
-    Things("KVRSG_LogRecord_HardEvent", "The hard event log of a controller.", kHardEvents),
-    Things("KVRSG_LogRecord_RAIDMgrEvent", "An event that the RAID manager has logged.", kRaidManagerEvents),
-    Things("KVRSG_zxFirmwareVersion", "The firmware of a controller.", kFirmwareVersions),
-    Things("KVRSG_zxBootBlockVersion", "The boot block of a controller.", kBootBlockVersions),
-    Things("KVRSG_zxDiskDriveVersion", "The firmware of a drive or enclosure.", kDriveVersions),
-    Things("KVRSG_zxBiosVersion", "The BIOS of a controller.", kBiosVersions),
+    OfMachine("KVRSG_BadStripeData", "How many stripes of a logical drive are bad.", kBadStripes),
+    OfMachine("KVRSG_zxSCSIDeviceData", "Errors that a controller counted on one of its devices.", kDeviceStatistics),
+    OfMachine("KVRSG_zxSCSISubStatData", "Transfer parameters that a controller and one of its devices use.",
+              kSubStatus),
+    OfMachine("KVRSG_LogRecord_SoftEvent", "The soft event log of a controller.", kSoftEvents),
+    OfMachine("KVRSG_LogRecord_zxDDD", "A drive that a controller has set defunct.", kDefunctDrives),
+    OfMachine("KVRSG_LogRecord_HardEvent", "The hard event log of a controller.", kHardEvents),
+    OfMachine("KVRSG_LogRecord_RAIDMgrEvent", "An event that the RAID manager has logged.", kRaidManagerEvents),
+    OfMachine("KVRSG_zxFirmwareVersion", "The firmware of a controller.", kFirmwareVersions),
+    OfMachine("KVRSG_zxBootBlockVersion", "The boot block of a controller.", kBootBlockVersions),
+    OfMachine("KVRSG_zxDiskDriveVersion", "The firmware of a drive or enclosure.", kDriveVersions),
+    OfMachine("KVRSG_zxBiosVersion", "The BIOS of a controller.", kBiosVersions),
     Links("KVRSG_zxProtocolControllerForUnit", "Which logical drive belongs to which controller.", kControllerForUnit),
     Links("KVRSG_zxProtocolControllerForPhysicalDisk", "Which device is on which controller.", kControllerForDisk),
     Links("KVRSG_zxDriveInDiskGroup", "Which drive is in which group; none is ever published.", kDriveInGroup),
@@ -442,20 +466,22 @@ constexpr ClassDeclaration kPublishedClasses[] = {
     Links("KVRSG_zxBiosOnController", "Which BIOS is on which controller.", kBiosOnController),
     Links("KVRSG_ElementZxScsiDeviceData", "Which errors were counted on which drive.", kElementDeviceStatistics),
     Links("KVRSG_ElementBadStripeData", "Which bad stripes were counted on which logical drive.", kElementBadStripes),
+    Things("KVRSG_ComputerSystem", "The machine; the host itself says what it is.", kComputerSystems),
+    Things("KVRSG_OperatingSystem", "The machine's operating system; the host itself says what it is.",
+           kOperatingSystems),
 };
-
-constexpr ClassDeclaration kHostClass = Things(
-    "KVRSG_OperatingSystem", "The machine's operating system; the host itself says what it is.", kOperatingSystems);
+constexpr std::span kAllClasses = kClasses;
 
 }  // namespace
 
-std::span<const ClassDeclaration> PublishedClasses() { return kPublishedClasses; }
+std::span<const ClassDeclaration> PublishedClasses() { return kAllClasses.first(kAllClasses.size() - 2); }
+
+std::span<const ClassDeclaration> ExportedClasses() { return kAllClasses.first(kAllClasses.size() - 1); }
 
 const ClassDeclaration* FindClass(std::string_view name) {
   const auto sought = [&](const ClassDeclaration& declaration) { return EqualIgnoringCase(declaration.name, name); };
-  const auto* const found = std::ranges::find_if(kPublishedClasses, sought);
-  if (found != std::end(kPublishedClasses)) return found;
-  return sought(kHostClass) ? &kHostClass : nullptr;
+  const auto* const found = std::ranges::find_if(kClasses, sought);
+  return found == std::end(kClasses) ? nullptr : found;
 }
 
 const PropertyDeclaration* FindProperty(const ClassDeclaration& declaration, std::string_view name) {

@@ -24,16 +24,20 @@ struct ClassDeclaration {
   std::string_view name;
   std::string_view description;
   bool isAssociation;
-  std::span<const PropertyDeclaration> properties;
+  std::span<const PropertyDeclaration> properties;      // that the plug-in publishes
+  std::span<const PropertyDeclaration> systemKeys = {};  // that the host adds: the machine, where no property is it
 };
 
 // The classes that the plug-in publishes, in the order of its catalogue.
 HXACORE_API std::span<const ClassDeclaration> PublishedClasses();
 
-// Any class that the repository knows, the host's own too, found without regard to case; null where there is none.
+// Those classes and the machine's own, which exports have one instance of.
+HXACORE_API std::span<const ClassDeclaration> ExportedClasses();
+
+// Any class that the repository knows, found without regard to case; null where there is none.
 HXACORE_API const ClassDeclaration* FindClass(std::string_view name);
 
-// A property of a class, found without regard to case; null where there is none.
+// A property of a class, none of its system keys, found without regard to case; null where there is none.
 HXACORE_API const PropertyDeclaration* FindProperty(const ClassDeclaration& declaration, std::string_view name);
 
 }  // namespace NKVRHXA20

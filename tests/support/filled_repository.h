@@ -9,10 +9,10 @@
 #include "host/hxacore/repository.h"
 #include "host/hxahost/result/query_result.h"
 
-// A repository that a test fills as a plug-in does.
+// A repository of the machine "M" that a test fills as a plug-in does.
 class FilledRepository {
  public:
-  FilledRepository() : repository_(NKVRHXA20::TRepository::Make(std::nullopt)) {}
+  FilledRepository() : repository_(NKVRHXA20::TRepository::Make(std::nullopt, "M")) {}
 
   using Properties = std::vector<std::pair<std::string, NKVRHXA20::TCIMValue>>;
 
@@ -41,6 +41,8 @@ class FilledRepository {
   }
 
   hxahost::InstanceList Instances() const { return repository_->Published(); }
+
+  boost::shared_ptr<const NKVRHXA20::TPublishedInstance> System() const { return repository_->System(); }
 
  private:
   boost::shared_ptr<NKVRHXA20::TRepository> repository_;

@@ -12,7 +12,7 @@
 class QueryHost {
  public:
   explicit QueryHost(std::optional<std::uint16_t> osType = std::nullopt)
-      : repository(NKVRHXA20::TRepository::Make(osType)) {}
+      : repository(NKVRHXA20::TRepository::Make(osType, "MACHINE")) {}
 
   // The next query publishes these records, and no tool is run.
   void Hold(const ControllerList& controllers, const RawDataList& rawData = {});

@@ -50,7 +50,21 @@ TEST_F(Instance, NamesItselfByTheDeclaredKeysHoweverTheyWereSpelledWhenSet) {
   disk->SetProperty("deviceid", "Zentraxis1LD1", {});
   disk->SetProperty("CreationClassname", "KVRSG_zxLogicalDisk", {});
   disk->SetProperty("RaidLevel", "5", {});
-  EXPECT_EQ(Path(*disk), "KVRSG_zxLogicalDisk.CreationClassName=\"KVRSG_zxLogicalDisk\",DeviceID=\"Zentraxis1LD1\"");
+  disk->SetProperty("SystemName", "SERVER", {});
+  EXPECT_EQ(Path(*disk),
+            "KVRSG_zxLogicalDisk.CreationClassName=\"KVRSG_zxLogicalDisk\",DeviceID=\"Zentraxis1LD1\","
+            "SystemName=\"SERVER\"");
+}
+
+TEST_F(Instance, BelongsToTheMachineOfItsRepositoryWhereNoPropertyNamesOne) {
+  repository = TRepository::Make({}, "SERVER");
+  const auto group = New("KVRSG_zxDiskGroup");
+  group->SetProperty("CollectionID", "A", {});
+  EXPECT_EQ(Path(*group),
+            "KVRSG_zxDiskGroup.CollectionID=\"A\",SystemCreationClassName=\"KVRSG_ComputerSystem\","
+            "SystemName=\"SERVER\"");
+  EXPECT_THAT(Committed(*group), ElementsAre(std::pair("CollectionID", "A")));
+  EXPECT_THROW(New("KVRSG_zxDiskGroup")->SetProperty("SystemName", "OTHER", {}), THXAException);
 }
 
 TEST_F(Instance, ReplacesAValueThatIsSetAgainInItsPlace) {

@@ -51,7 +51,8 @@ TEST(JsonView, WritesEveryKindOfValueInTheOrderInWhichItWasSet) {
       "instances": [
         {
           "class": "KVRSG_LogRecord_SoftEvent",
-          "path": "KVRSG_LogRecord_SoftEvent.MessageTimestamp=\"20260305123015.250000-060\",RecordID=\"1\"",
+          "path": "KVRSG_LogRecord_SoftEvent.MessageTimestamp=\"20260305123015.250000-060\",RecordID=\"1\",)"
+                                    R"(SystemCreationClassName=\"KVRSG_ComputerSystem\",SystemName=\"M\"",
           "properties": {
             "RecordID": "1",
             "ControllerNum": "1",
@@ -64,7 +65,8 @@ TEST(JsonView, WritesEveryKindOfValueInTheOrderInWhichItWasSet) {
         },
         {
           "class": "KVRSG_zxFirmwareVersion",
-          "path": "KVRSG_zxFirmwareVersion.Name=\"Zentraxis1 Firmware\",SoftwareElementState=3,Version=\"\"",
+          "path": "KVRSG_zxFirmwareVersion.Name=\"Zentraxis1 Firmware\",SoftwareElementState=3,)"
+                                    R"(SystemCreationClassName=\"KVRSG_ComputerSystem\",SystemName=\"M\",Version=\"\"",
           "properties": {
             "Name": "Zentraxis1 Firmware",
             "SoftwareElementState": 3,
@@ -73,7 +75,8 @@ TEST(JsonView, WritesEveryKindOfValueInTheOrderInWhichItWasSet) {
         },
         {
           "class": "KVRSG_zxRawData",
-          "path": "KVRSG_zxRawData.Command=\"zenx//qcmdrun.exe getconfig 1 al\"",
+          "path": "KVRSG_zxRawData.Command=\"zenx//qcmdrun.exe getconfig 1 al\",)"
+                                    R"(SystemCreationClassName=\"KVRSG_ComputerSystem\",SystemName=\"M\"",
           "properties": {
             "RawResults": [
               "a \"quoted\" line",
@@ -134,7 +137,8 @@ TEST(JsonView, ShowsAReferenceAsTheObjectPathOfWhatItRefersTo) {
   FilledRepository repository;
   const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
   repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
-  EXPECT_EQ(Properties(repository)["Dependent"], R"(KVRSG_zxDiskGroup.CollectionID="a\"b\\c")");
+  EXPECT_EQ(Properties(repository)["Dependent"], R"(KVRSG_zxDiskGroup.CollectionID="a\"b\\c",)"
+                                                 R"(SystemCreationClassName="KVRSG_ComputerSystem",SystemName="M")");
 }
 
 TEST(JsonView, ReadsEachKeyOfAPathByItselfAsTheProperty) {
@@ -145,7 +149,8 @@ TEST(JsonView, ReadsEachKeyOfAPathByItselfAsTheProperty) {
   },
       {QueryResult{1, repository.Instances(), {}}}));
   EXPECT_EQ(json["queries"][0]["instances"][0]["path"],
-            "KVRSG_zxFirmwareVersion.Name=\"K\xc3\xa4se\",Version=\"K\xc3\xa4se\"");
+            "KVRSG_zxFirmwareVersion.Name=\"K\xc3\xa4se\",SystemCreationClassName=\"KVRSG_ComputerSystem\","
+            "SystemName=\"M\",Version=\"K\xc3\xa4se\"");
 }
 
 TEST(JsonView, KeepsEveryByte) {
@@ -186,12 +191,10 @@ TEST(JsonLines, AreOneInstanceEachWithMachineAndTime) {
   WriteQueryJsonLines(out, header, {1, repository.Instances(), {}});
   EndJsonLines(out, header);
   const std::string begin = R"({"machine":"MACHINE","time":"20260305123015.250000-060","class":"KVRSG_zxRawData",)";
-  EXPECT_EQ(out.str(), begin +
-                           R"("path":"KVRSG_zxRawData.Command=\"one\"",)"
-                           R"("properties":{"Command":"one","RawResults":["a\nb"]}})"
-                           "\n" +
-                           begin + R"("path":"KVRSG_zxRawData.Command=\"two\"","properties":{"Command":"two"}})" +
-                           "\n");
+  const std::string end = R"(,SystemCreationClassName=\"KVRSG_ComputerSystem\",SystemName=\"M\"","properties":)";
+  EXPECT_EQ(out.str(), begin + R"("path":"KVRSG_zxRawData.Command=\"one\")" + end +
+                           R"({"Command":"one","RawResults":["a\nb"]}})" + "\n" + begin +
+                           R"("path":"KVRSG_zxRawData.Command=\"two\")" + end + R"({"Command":"two"}})" + "\n");
 }
 
 }  // namespace

@@ -19,6 +19,7 @@ using testing::ThrowsMessage;
 
 constexpr const char* kDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kGroup = "KVRSG_zxDiskGroup";
+const std::string kOfMachine = ",SystemCreationClassName=\"KVRSG_ComputerSystem\",SystemName=\"M\"";
 
 using Instances = std::vector<boost::shared_ptr<ICIMInstance>>;
 
@@ -54,7 +55,7 @@ std::vector<std::string> Paths(const TRepository& repository) {
 
 class Repository : public testing::Test {
  protected:
-  boost::shared_ptr<TRepository> repository = TRepository::Make(18);
+  boost::shared_ptr<TRepository> repository = TRepository::Make(18, "M");
 };
 
 TEST_F(Repository, KeepsInstancesInTheOrderInWhichTheyWereCommitted) {
@@ -65,7 +66,7 @@ TEST_F(Repository, KeepsInstancesInTheOrderInWhichTheyWereCommitted) {
   Publish(*repository, kDisk, "DeviceID", "a");
   later->Commit({});
   EXPECT_THAT(Paths(*repository),
-              ElementsAre("KVRSG_zxLogicalDisk.DeviceID=\"b\"", "KVRSG_zxDiskGroup.CollectionID=\"g\"",
+              ElementsAre("KVRSG_zxLogicalDisk.DeviceID=\"b\"", "KVRSG_zxDiskGroup.CollectionID=\"g\"" + kOfMachine,
                           "KVRSG_zxLogicalDisk.DeviceID=\"a\"", "KVRSG_zxLogicalDisk.DeviceID=\"made first\""));
   const Instances disks = Enumerate(*repository, kDisk);
   ASSERT_EQ(disks.size(), 3U);
@@ -101,7 +102,7 @@ TEST_F(Repository, ShowsAsPublishedOnlyWhatTheQueryCommitted) {
   Publish(*repository, kDisk, "DeviceID", "earlier");
   repository->BeginQuery({repository->GetClass(kGroup, {})});
   Publish(*repository, kGroup, "CollectionID", "now");
-  EXPECT_THAT(Paths(*repository), ElementsAre("KVRSG_zxDiskGroup.CollectionID=\"now\""));
+  EXPECT_THAT(Paths(*repository), ElementsAre("KVRSG_zxDiskGroup.CollectionID=\"now\"" + kOfMachine));
   EXPECT_EQ(Enumerate(*repository, kDisk).size(), 1U);
 }
 
@@ -144,9 +145,20 @@ TEST_F(Repository, HasItsOwnOperatingSystemInstanceThatIsNotPublishedAndStaysFor
   EXPECT_THAT(repository->Published(), IsEmpty());
 }
 
-TEST_F(Repository, LetsNobodyElseMakeAnOperatingSystemInstance) {
-  EXPECT_THAT([&] { NewInstance(*repository, "KVRSG_OperatingSystem"); },
-              ThrowsMessage<THXAException>(HasSubstr("KVRSG_OperatingSystem")));
+TEST_F(Repository, LetsNobodyElseMakeInstancesOfTheHost) {
+  for (const char* const own : {"KVRSG_OperatingSystem", "KVRSG_ComputerSystem"}) {
+    EXPECT_THAT([&] { NewInstance(*repository, own); }, ThrowsMessage<THXAException>(HasSubstr(own)));
+  }
+}
+
+TEST_F(Repository, HasOneInstanceOfTheMachineThatIsNotPublishedAndStaysForEveryQuery) {
+  repository->BeginQuery({repository->GetClass("KVRSG_ComputerSystem", {})});
+  const Instances own = Enumerate(*repository, "KVRSG_ComputerSystem");
+  ASSERT_EQ(own.size(), 1U);
+  EXPECT_EQ(Get(*own.front(), "Name"), "M");
+  EXPECT_EQ(TCIMReferenceFactory::ObjectPath(repository->System()->Reference()),
+            "KVRSG_ComputerSystem.CreationClassName=\"KVRSG_ComputerSystem\",Name=\"M\"");
+  EXPECT_THAT(repository->Published(), IsEmpty());
 }
 
 TEST_F(Repository, WithoutAnOperatingSystemTypeTheClassIsKnownAndEmpty) {

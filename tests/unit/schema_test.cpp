@@ -10,18 +10,23 @@
 namespace {
 
 using namespace NKVRHXA20;
+using testing::Contains;
 using testing::ElementsAre;
+using testing::IsSupersetOf;
+using testing::Not;
 
 std::vector<ClassDeclaration> AllClasses() {
-  std::vector<ClassDeclaration> all(PublishedClasses().begin(), PublishedClasses().end());
+  std::vector<ClassDeclaration> all(ExportedClasses().begin(), ExportedClasses().end());
   all.push_back(*FindClass("KVRSG_OperatingSystem"));
   return all;
 }
 
 std::vector<std::string_view> KeysOf(const char* className) {
   std::vector<std::string_view> keys;
-  for (const PropertyDeclaration& property : FindClass(className)->properties) {
-    if (property.isKey) keys.push_back(property.name);
+  for (const auto properties : {FindClass(className)->systemKeys, FindClass(className)->properties}) {
+    for (const PropertyDeclaration& property : properties) {
+      if (property.isKey) keys.push_back(property.name);
+    }
   }
   std::ranges::sort(keys);
   return keys;
@@ -42,6 +47,24 @@ TEST(Schema, ClassesThatAreNeverPublishedHaveKeysToo) {
   EXPECT_THAT(KeysOf("KVRSG_zxDriveInDiskGroup"), ElementsAre("Antecedent", "Dependent"));
   EXPECT_THAT(KeysOf("KVRSG_zxExtenInDiskGroup"), ElementsAre("Antecedent", "Dependent"));
   EXPECT_THAT(KeysOf("KVRSG_OperatingSystem"), ElementsAre("Name"));
+  EXPECT_THAT(KeysOf("KVRSG_ComputerSystem"), ElementsAre("CreationClassName", "Name"));
+}
+
+TEST(Schema, TheObjectsOfTwoMachinesHaveNoPathInCommon) {
+  for (const ClassDeclaration& declaration : PublishedClasses()) {
+    if (declaration.isAssociation || declaration.name == "KVRSG_DiskGroup") continue;
+    EXPECT_THAT(KeysOf(std::string(declaration.name).c_str()), IsSupersetOf({"SystemCreationClassName", "SystemName"}))
+        << declaration.name;
+  }
+}
+
+TEST(Schema, DevicesHaveTheKeysOfALogicalDeviceAndDefunctDrivesAreOfAController) {
+  for (const char* const device : {"KVRSG_zxSCSIProtocolController", "KVRSG_zxLogicalDisk", "KVRSG_zxDiskDrive"}) {
+    EXPECT_THAT(KeysOf(device), ElementsAre("CreationClassName", "DeviceID", "SystemCreationClassName", "SystemName"));
+  }
+  EXPECT_THAT(KeysOf("KVRSG_LogRecord_zxDDD"), Contains("Controller"));
+  // A time of that log can be none, and a key needs a value.
+  EXPECT_THAT(KeysOf("KVRSG_LogRecord_RAIDMgrEvent"), Not(Contains("MessageTimestamp")));
 }
 
 TEST(Schema, NoTwoNamesDifferOnlyInCase) {
@@ -103,6 +126,8 @@ TEST(Schema, TheOperatingSystemIsKnownAndNotPublished) {
   EXPECT_EQ(FindProperty(*system, "OSType")->type, kCIMUInt16);
   EXPECT_EQ(std::ranges::count(PublishedClasses(), system->name, &ClassDeclaration::name), 0);
   EXPECT_EQ(PublishedClasses().size(), 29U);
+  EXPECT_EQ(ExportedClasses().size(), 30U);
+  EXPECT_EQ(ExportedClasses().back().name, "KVRSG_ComputerSystem");
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
                                                                   : nullptr),
       services_(replay_ ? replay_->Services() : RealServices(), options, log_, runs_, progress_.get(), recorder_.get()),
       plugin_(options.plugin.empty() ? ProgramFolder() / "zenx.pi" : options.plugin),
-      repository_(TRepository::Make(osType_)) {
+      repository_(TRepository::Make(osType_, CurrentServices().machineName())) {
   if (replay_) {
     plugin_.AnswerAs(SystemOf(replay_->Recorded()));
     return;
@@ -63,6 +63,7 @@ QueryHeader Collection::Header(std::vector<std::string> classes) const {
   const HostServices& services = CurrentServices();
   QueryHeader header;
   header.machine = services.machineName();
+  header.system = repository_->System();
   header.directory = ToolDirectory();
   header.time = services.localTime();
   header.classes = std::move(classes);

@@ -22,12 +22,14 @@ struct QueryHeader {
   NKVRHXA20::TCIMDateTime time;
   std::vector<std::string> classes;  // asked for, in their order, under their declared names
   unsigned queryCount = 1;
-  bool withRuns = false;    // what programs read has the runs of the tools
-  bool withUnread = false;  // lines of the raw texts that no property shows are listed
-  bool isReplayed = false;  // everything comes from a bundle
-  bool isMasked = false;    // and names and serial numbers in that are hidden
-  Layout layout = {};       // of the tables
-  Limits limits = {};       // of what is counted
+  bool withRuns = false;          // what programs read has the runs of the tools
+  bool withUnread = false;        // lines of the raw texts that no property shows are listed
+  bool isReplayed = false;        // everything comes from a bundle
+  bool isMasked = false;          // and names and serial numbers in that are hidden
+  bool withSuperclasses = false;  // MOF declares the classes, under those of the DMTF
+  Layout layout = {};             // of the tables
+  Limits limits = {};             // of what is counted
+  boost::shared_ptr<const NKVRHXA20::TPublishedInstance> system = {};  // the machine, as exports name it
 };
 
 // A sentence for people where the result is not of the machine as it is now; "" where it is.
@@ -55,6 +57,7 @@ struct QueryResult {
   std::vector<LoggedEntry> log;  // since the previous query ended
   ToolRunList runs = {};         // since the previous query ended
   double seconds = 0;            // that it took
+  InstanceList leftOut = {};     // by a format that has each path once: others have their paths
 };
 
 }  // namespace hxahost
