@@ -129,6 +129,16 @@ TEST(ResultDiff, LetsLinksFollowWhatTheyLink) {
             (Texts{"link disappeared ax", "link appeared bx"}));
 }
 
+TEST(ResultDiff, KnowsObjectsByTheirKeysWhereAnotherVersionMadeThePathsOfOthers) {
+  const auto disk = [](const char* path, const char* id, const char* state) {
+    return Instance("KVRSG_zxDiskDrive", path, "CreationClassname", "c", "DeviceID", id, "SystemName", "M", "State",
+                    state);
+  };
+  EXPECT_EQ(Changes(Result({disk("old 1", "1", "Online"), disk("old 2", "2", "Online"), Link("x", "old 1")}),
+                    Result({disk("new 2", "2", "Failed"), disk("new 1", "1", "Online"), Link("x", "new 1")})),
+            Texts{"state changed old 2=new 2 State \"Online\" \"Failed\""});
+}
+
 TEST(ResultDiff, SeesALinkThatIsNoneBothWays) {
   const ResultInstance link = Link("a", "b");
   const ResultInstance none = Instance(link.className, link.path, "Dependent", "a", "Strange", "b");

@@ -9,7 +9,10 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "host/hxacore/schema.h"
 #include "host/hxahost/schema/class_names.h"
+
+using namespace NKVRHXA20;
 
 namespace hxahost {
 
@@ -77,6 +80,25 @@ void Match(MatchedInstances& matched, const Key& oldKey, const Key& newKey, bool
   std::erase_if(matched.onlyNew, isTaken);
 }
 
+// A key that tells an object from the others of its machine. The machine counts for nothing, as it may be renamed.
+bool IsOwnKey(const PropertyDeclaration& declared) { return declared.isKey && !declared.name.starts_with("System"); }
+
+// Names an object by its class and its own keys, as they were published: earlier versions made paths of other keys.
+// Gives the path of a link, and where a key was not published.
+std::string ObjectKey(const ResultInstance& instance) {
+  const ClassDeclaration* const declaration = FindClass(instance.className);
+  if (declaration == nullptr || declaration->isAssociation) return instance.path;
+  std::map<std::string_view, std::string> values;
+  for (const auto& property : instance.properties.items()) {
+    const PropertyDeclaration* const declared = FindProperty(*declaration, property.key());
+    if (declared != nullptr && IsOwnKey(*declared)) values.emplace(declared->name, property.value().dump());
+  }
+  if (std::ssize(values) != std::ranges::count_if(declaration->properties, IsOwnKey)) return instance.path;
+  std::string key = instance.className;
+  for (const auto& [name, value] : values) key += kApart + value;
+  return key;
+}
+
 std::string LinkKey(const ResultInstance& link, const std::map<std::string, std::string>& newPaths) {
   if (!IsLink(link)) return "";
   std::string key = link.className;
@@ -110,8 +132,7 @@ bool IsLink(const ResultInstance& instance) {
 
 MatchedInstances MatchInstances(const JsonResult& before, const JsonResult& after) {
   MatchedInstances matched{{}, Compared(before), Compared(after)};
-  const Key path = [](const ResultInstance& instance) { return instance.path; };
-  Match(matched, path, path, false);
+  Match(matched, ObjectKey, ObjectKey, false);
   Match(matched, IdentityKey, IdentityKey, true);
   std::map<std::string, std::string> newPaths;
   for (const auto& [old, now] : matched.pairs) newPaths[old->path] = now->path;

@@ -20,10 +20,10 @@ bool IsRawText(const ResultInstance& instance);
 // A link between two instances: it has no other properties than the two.
 bool IsLink(const ResultInstance& instance);
 
-// By path first, the several of one path in their order. What is left is the same object where class and identity
-// (serial numbers, names) agree and are the only ones on both sides: paths hold controller numbers and versions, which
-// change when a controller is added or updated. Links follow what they link. The results must outlive this; raw texts
-// are left out.
+// By class and keys first, the several of the same keys in their order. What is left is the same object where class and
+// identity (serial numbers, names) agree and are the only ones on both sides: keys hold controller numbers and
+// versions, which change when a controller is added or updated. Links follow what they link. The results must outlive
+// this; raw texts are left out.
 MatchedInstances MatchInstances(const JsonResult& before, const JsonResult& after);
 
 }  // namespace hxahost
