@@ -64,6 +64,7 @@ const std::vector<Case> kQueryCases = {
     {"--width",        {"query", "--width", "39"},                             2, "from 40 to 1000"            },
     {"--color",        {"query", "--color", "red"},                            2, "auto, always or never"      },
     {"--unread",       {"query", "--unread", "--class", "KVRSG_zxDiskDrive"},  2, "leave --class out"          },
+    {"--superclasses", {"query", "--superclasses"},                            2, "give --format mof"          },
     {"--runs",         {"query", "--runs=some"},                               2, "hxahost query --help"       },
     {"--ascii",        {"query", "--ascii=some"},                              2, "hxahost query --help"       },
     {"--record",       {"query", "--record", kNowhere},                        2, "--record "                  },
@@ -115,7 +116,8 @@ const std::vector<Case> kOtherCases = {
 };
 
 const std::vector<Case> kSchemaCases = {
-    {"--format", {"schema", "--format", "yaml"}, 2, "give mof or "},
+    {"--format",       {"schema", "--format", "yaml"},                       2, "give mof or "     },
+    {"--superclasses", {"schema", "--format", "markdown", "--superclasses"}, 2, "give --format mof"},
 };
 
 const std::vector<Case> kBundleCases = {

@@ -132,6 +132,14 @@ TEST(Options, TakeTheFormatOfTheSchema) {
   EXPECT_THROW(ParseCommandLine({"schema", "--format", ""}), ProgramError);
 }
 
+TEST(Options, TakeSuperclassesWithMofAlone) {
+  EXPECT_FALSE(Parse("schema").withSuperclasses);
+  EXPECT_TRUE(Parse("schema --superclasses").withSuperclasses);
+  EXPECT_TRUE(Parse("query --format mof --superclasses").query.withSuperclasses);
+  EXPECT_THROW(Parse("schema --format markdown --superclasses"), ProgramError);
+  EXPECT_THROW(Parse("query --format cim-xml --superclasses"), ProgramError);
+}
+
 TEST(Options, ShowHelpWithDefaultsAndExamples) {
   for (const std::vector<std::string>& arguments : {
            std::vector<std::string>{"--help" },

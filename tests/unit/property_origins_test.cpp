@@ -42,6 +42,18 @@ TEST(PropertyOrigins, AreALineForEachToolAndOneInWords) {
   EXPECT_THAT(LinesOf("KVRSG_DiskGroup", "InstanceID"), IsEmpty());
 }
 
+// Format, body that defines it, and the mapping: no other bar or point may come before the mapping.
+TEST(PropertyOrigins, AreMappingStringsInTheGeneralForm) {
+  const auto mappings = [](const char* className, const char* property) {
+    return hxahost::MappingStrings(className, *FindProperty(*FindClass(className), property));
+  };
+  EXPECT_THAT(mappings("KVRSG_zxDiskDrive", "State"),
+              ElementsAre("Label.KVRSG|qcmdrun|State", "Label.KVRSG|hrconf_64|State", "Label.KVRSG|arcconf|State",
+                          "Label.KVRSG|arcconf|Assigned Spare for"));
+  EXPECT_THAT(mappings("KVRSG_zxDiskDrive", "SystemName"), ElementsAre("Words.KVRSG|host: name of the machine"));
+  EXPECT_THAT(mappings("KVRSG_DiskGroup", "InstanceID"), IsEmpty());
+}
+
 TEST(PropertyOrigins, NameEveryLabelButThoseThatFeedNoProperty) {
   std::string lines;
   for (const ClassDeclaration& declaration : PublishedClasses()) {

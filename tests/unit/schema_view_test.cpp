@@ -29,7 +29,7 @@ constexpr ClassDeclaration kClasses[] = {
 
 TEST(SchemaView, WritesMofWithKeysTypesArraysReferencesAndEscapes) {
   std::ostringstream out;
-  WriteSchemaMof(out, kClasses);
+  WriteSchemaMof(out, kClasses, false);
   const std::string mof = out.str();
   EXPECT_EQ(mof.substr(mof.find("\n[")), R"(
 [Description("A plain class.")]
@@ -56,7 +56,7 @@ class X_Link {
 
 TEST(SchemaView, DeclaresEachQualifierBeforeTheClassesHaveIt) {
   std::ostringstream out;
-  WriteSchemaMof(out, PublishedClasses());
+  WriteSchemaMof(out, ExportedClasses(), false);
   const std::string mof = out.str();
   for (const char* const name : {"Association", "Description", "Key", "MappingStrings"}) {
     EXPECT_LT(mof.find("\nQualifier " + std::string(name) + " : "), mof.find("\nclass ")) << name;
@@ -65,13 +65,33 @@ TEST(SchemaView, DeclaresEachQualifierBeforeTheClassesHaveIt) {
 
 TEST(SchemaView, SaysWhereAPropertyComesFrom) {
   std::ostringstream out;
-  WriteSchemaMof(out, PublishedClasses());
+  WriteSchemaMof(out, ExportedClasses(), false);
   EXPECT_NE(out.str().find(R"(
   [Description("Number under which a replacement of the controller is ordered."),
-   MappingStrings {"qcmdrun: \"Controller FRU\"", "arcconf: \"Controller FRU#\""}]
+   MappingStrings {"Label.KVRSG|qcmdrun|Controller FRU",
+                   "Label.KVRSG|arcconf|Controller FRU#"}]
   string ControllerFRU;
 )"),
             std::string::npos);
+}
+
+TEST(SchemaView, NamesTheNamespaceFirst) {
+  for (const bool withSuperclasses : {false, true}) {
+    std::ostringstream out;
+    WriteSchemaMof(out, kClasses, withSuperclasses);
+    EXPECT_EQ(out.str().find("#pragma namespace(\"root/cimv2\")\n"), 0U);
+  }
+}
+
+TEST(SchemaView, DerivesTheClassesOnRequestAndLeavesOutTheQualifiersThatTheSuperclassesBring) {
+  std::ostringstream out;
+  WriteSchemaMof(out, ExportedClasses(), true);
+  const std::string mof = out.str();
+  EXPECT_EQ(mof.find("\nQualifier "), mof.npos);
+  EXPECT_NE(mof.find("\nclass KVRSG_zxDiskGroup : CIM_CollectionOfMSEs {\n"), mof.npos);
+  EXPECT_NE(mof.find("\nclass KVRSG_ElementBadStripeData {\n"), mof.npos);  // none fits
+  EXPECT_NE(mof.find("  [Key, Override(\"CollectionID\"), Description("), mof.npos);
+  EXPECT_EQ(mof.find("Override(\"StripeOrder\")"), mof.npos);
 }
 
 TEST(SchemaView, ListsTheClassesWithTheirDescriptionsUnderEachOther) {
@@ -84,9 +104,9 @@ TEST(SchemaView, ListsTheClassesWithTheirDescriptionsUnderEachOther) {
 
 TEST(SchemaView, DeclaresAClassBeforeAnotherRefersToIt) {
   std::ostringstream out;
-  WriteSchemaMof(out, PublishedClasses());
+  WriteSchemaMof(out, ExportedClasses(), false);
   const std::string mof = out.str();
-  for (const ClassDeclaration& declaration : PublishedClasses()) {
+  for (const ClassDeclaration& declaration : ExportedClasses()) {
     const std::size_t declared = mof.find("class " + std::string(declaration.name) + " {");
     const std::size_t referred = mof.find("  " + std::string(declaration.name) + " REF ");
     EXPECT_NE(declared, mof.npos) << declaration.name;

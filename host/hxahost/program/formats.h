@@ -17,6 +17,7 @@ struct QueryWriter {
   void (*Begin)(std::ostream& out, const QueryHeader& header);
   void (*Query)(std::ostream& out, const QueryHeader& header, const QueryResult& result);
   void (*End)(std::ostream& out, const QueryHeader& header);
+  bool hasUniquePaths = false;  // each path is shown once
 };
 
 using HealthWriter = void (*)(std::ostream& out, const HealthReport& report);
@@ -24,7 +25,8 @@ using HealthWriter = void (*)(std::ostream& out, const HealthReport& report);
 using DiffWriter = void (*)(std::ostream& out, const ComparedFile& before, const ComparedFile& after,
                             const ResultDiff& diff);
 
-using SchemaWriter = void (*)(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes);
+using SchemaWriter = void (*)(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes,
+                              bool withSuperclasses);
 
 // A format of a command, and what writes it.
 struct Format {

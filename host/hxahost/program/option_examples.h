@@ -69,8 +69,9 @@ inline constexpr const char* kClassesExamples =
 
 inline constexpr const char* kSchemaExamples =
     "Examples:\n"
-    "  hxahost schema > classes.mof      for a CIM server\n"
-    "  hxahost schema --format markdown  to read";
+    "  hxahost schema > classes.mof                   for a CIM server\n"
+    "  hxahost schema --superclasses > classes.mof    for one that has the schema of the DMTF\n"
+    "  hxahost schema --format markdown               to read";
 
 inline constexpr const char* kHelpExamples =
     "Examples:\n"

@@ -37,6 +37,7 @@ struct TypedOptions {
   std::string mask;  // "true" where it was given alone
   bool masksAll = false;
   std::string schemaFormat = CommandLine().schemaFormat;
+  bool withSuperclasses = false;  // of the schema
   std::vector<std::string> helpOf;
   std::vector<std::string> object;
 };
@@ -52,6 +53,11 @@ void AddFormat(CLI::App& command, std::string& format, const std::string& purpos
   command.add_option("-f,--format", format, FormatNames(command.get_name()) + purposes)
       ->type_name("FORMAT")
       ->capture_default_str();
+}
+
+void CheckSuperclasses(bool isGiven, const std::string& format) {
+  if (!isGiven || format == "mof") return;
+  throw ProgramError(ExitStatus::kWrongArguments, "--superclasses is about MOF: give --format mof, or leave it out.");
 }
 
 void CheckFormat(std::string_view command, const std::string& format) {
@@ -165,6 +171,8 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
   query.add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query.add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
   AddLimits(query, typed);
+  query.add_flag("--superclasses", read.withSuperclasses,
+                 "Declare the classes in the MOF, derived from the DMTF's, for repositories that have its schema");
   AddLayout(query, typed);
   AddColour(query, typed);
   AddCollecting(query, typed);
@@ -198,6 +206,8 @@ void AddNothing(CLI::App&, TypedOptions&) {}
 
 void AddSchema(CLI::App& schema, TypedOptions& typed) {
   AddFormat(schema, typed.schemaFormat, ": to be compiled, or to be read");
+  schema.add_flag("--superclasses", typed.withSuperclasses,
+                  "Derive the classes from the DMTF's, for repositories that have its schema");
 }
 
 void AddHelp(CLI::App& help, TypedOptions& typed) {
@@ -271,6 +281,7 @@ CommandLine ReadBundle(const CLI::App& bundle, const TypedOptions& typed) {
 CommandLine ReadQuery(const CLI::App& query, const TypedOptions& typed) {
   CommandLine line{Command::kQuery, "", ReadCollecting(query, typed)};
   CheckFormat("query", line.query.format);
+  CheckSuperclasses(line.query.withSuperclasses, line.query.format);
   if (line.query.showUnread && !line.query.classes.empty()) {
     throw ProgramError(
         ExitStatus::kWrongArguments,
@@ -304,8 +315,10 @@ CommandLine ReadClasses(const CLI::App&, const TypedOptions&) { return {Command:
 
 CommandLine ReadSchema(const CLI::App&, const TypedOptions& typed) {
   CheckFormat("schema", typed.schemaFormat);
+  CheckSuperclasses(typed.withSuperclasses, typed.schemaFormat);
   CommandLine line{Command::kSchema, "", {}};
   line.schemaFormat = typed.schemaFormat;
+  line.withSuperclasses = typed.withSuperclasses;
   return line;
 }
 

@@ -20,6 +20,7 @@ struct QueryOptions {
   std::filesystem::path output;
   bool showRuns = false;
   bool showUnread = false;
+  bool withSuperclasses = false;
   std::optional<unsigned> width;  // of the tables
   bool isAscii = false;
   std::string color = "auto";
@@ -65,6 +66,7 @@ struct CommandLine {
   BundleOptions bundle = {};
   std::string schemaFormat = "mof";
   std::string object = {};  // that "hxahost explain" is asked for
+  bool withSuperclasses = false;  // of the schema
 };
 
 // Reads the arguments that follow the program's name. Throws ProgramError for wrong ones.

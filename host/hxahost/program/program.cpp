@@ -31,7 +31,8 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
     case Command::kHealthRules: WriteHealthRules(out); break;
     case Command::kClasses: WriteClassList(out, NKVRHXA20::PublishedClasses()); break;
     case Command::kSchema:
-      WriterOf<SchemaWriter>("schema", commandLine.schemaFormat)(out, NKVRHXA20::PublishedClasses());
+      WriterOf<SchemaWriter>("schema", commandLine.schemaFormat)(out, NKVRHXA20::ExportedClasses(),
+                                                                 commandLine.withSuperclasses);
       break;
     case Command::kBundleList: ListBundle(commandLine.bundle, out); break;
     case Command::kBundleShow: ShowBundle(commandLine.bundle, out); break;

@@ -6,6 +6,8 @@
 #include <type_traits>
 #include <variant>
 
+#include <fmt/core.h>
+
 namespace hxahost {
 
 namespace {
@@ -226,6 +228,18 @@ std::vector<std::string> OriginLines(std::string_view className, const NKVRHXA20
   }
   if (!declaration.origin.empty()) lines.emplace_back(declaration.origin);
   return lines;
+}
+
+std::vector<std::string> MappingStrings(std::string_view className, const NKVRHXA20::PropertyDeclaration& declaration) {
+  std::vector<std::string> strings;
+  for (const KnownTool& known : kKnownTools) {
+    for (const LabelSource& source : LabelsOf(known, className, declaration.name)) {
+      const std::string mapping = fmt::format("Label.KVRSG|{}|{}", known.tool.name, source.label);
+      if (std::ranges::count(strings, mapping) == 0) strings.push_back(mapping);  // several answers have one label
+    }
+  }
+  if (!declaration.origin.empty()) strings.push_back(fmt::format("Words.KVRSG|{}", declaration.origin));
+  return strings;
 }
 
 }  // namespace hxahost

@@ -24,4 +24,10 @@ std::vector<LabelSource> LabelsOf(const KnownTool& tool, std::string_view classN
 // None for a class of which nothing is ever published.
 std::vector<std::string> OriginLines(std::string_view className, const NKVRHXA20::PropertyDeclaration& declaration);
 
+// The same as MOF has it, in the general form of such strings: a format, the body that defined it, and the place in
+// what it maps, which for a label is the tool and the label.
+//   Label.KVRSG|arcconf|State
+//   Words.KVRSG|asked with getstatus
+std::vector<std::string> MappingStrings(std::string_view className, const NKVRHXA20::PropertyDeclaration& declaration);
+
 }  // namespace hxahost

@@ -4,10 +4,11 @@
 #include <string_view>
 #include <vector>
 
-#include <fmt/core.h>
+#include <fmt/format.h>
 
 #include "host/hxacore/value_type.h"
 #include "host/hxahost/schema/property_origins.h"
+#include "host/hxahost/schema/superclasses.h"
 
 using namespace NKVRHXA20;
 
@@ -18,11 +19,30 @@ namespace {
 constexpr std::string_view kHead =
     "# Classes\n"
     "\n"
-    "What the plug-in publishes, in the order of its catalogue. `hxahost schema --format markdown` writes this page.\n"
+    "What the plug-in publishes, in the order of its catalogue, and the machine itself, which exports have an "
+    "instance\n"
+    "of. `hxahost schema --format markdown` writes this page.\n"
+    "\n"
+    "**Keys** that the host adds are part of the path of an instance and of exports, and no published property.\n"
     "\n"
     "**From** names the tool and, in quotes, the label that the value stands behind, as the tool prints it. A tool "
     "that\n"
     "is not named does not print the value. Tools are asked with `getconfig` where nothing else is said.\n";
+
+constexpr std::string_view kSuperclassesHead =
+    "\n## Superclasses\n"
+    "\n"
+    "`--superclasses` of `hxahost schema` and of `hxahost query --format mof` derives the classes from those of the\n"
+    "DMTF's schema, version 2, for repositories that contain it. The third column says what such a repository or its\n"
+    "clients can ask for and the tools do not provide: these properties have no value.\n"
+    "\n"
+    "A class adds no key to those that it inherits. CIM_StatisticalData, CIM_LogRecord and CIM_SoftwareElement have "
+    "keys\n"
+    "that do not name the machine; what could be derived from them is derived from a class without keys. For the same\n"
+    "reason `KVRSG_ElementZxScsiDeviceData` and `KVRSG_ElementBadStripeData` have no superclass.\n"
+    "\n"
+    "| Superclass | Of | Not provided |\n"
+    "|---|---|---|\n";
 
 // A bar ends a cell and a < begins markup; nothing else of Markdown is in these texts.
 std::string CellText(std::string_view text) {
@@ -50,9 +70,26 @@ std::string OriginCell(const ClassDeclaration& declaration, const PropertyDeclar
 void WriteClass(std::ostream& out, const ClassDeclaration& declaration) {
   out << fmt::format("\n## {}\n\n{}\n\n", declaration.name, declaration.description);
   out << "| Property | Type | Meaning | From |\n|---|---|---|---|\n";
-  for (const PropertyDeclaration& property : declaration.properties) {
-    out << fmt::format("| `{}`{} | {} | {} | {} |\n", property.name, property.isKey ? " (key)" : "", TypeCell(property),
-                       CellText(property.description), OriginCell(declaration, property));
+  for (const auto properties : {declaration.systemKeys, declaration.properties}) {
+    for (const PropertyDeclaration& property : properties) {
+      out << fmt::format("| `{}`{} | {} | {} | {} |\n", property.name, property.isKey ? " (key)" : "",
+                         TypeCell(property), CellText(property.description), OriginCell(declaration, property));
+    }
+  }
+}
+
+std::string DerivedCell(std::span<const ClassDeclaration> classes, const Superclass& superclass) {
+  std::vector<std::string> names;
+  for (const ClassDeclaration& declaration : classes) {
+    if (SuperclassOf(declaration.name) == &superclass) names.push_back(fmt::format("`{}`", declaration.name));
+  }
+  return fmt::format("{}", fmt::join(names, "<br>"));
+}
+
+void WriteSuperclasses(std::ostream& out, std::span<const ClassDeclaration> classes) {
+  out << kSuperclassesHead;
+  for (const Superclass& superclass : Superclasses()) {
+    out << fmt::format("| `{}` | {} | {} |\n", superclass.name, DerivedCell(classes, superclass), superclass.missing);
   }
 }
 
@@ -71,9 +108,10 @@ void WriteDrawing(std::ostream& out, std::span<const ClassDeclaration> classes) 
 
 }  // namespace
 
-void WriteSchemaMarkdown(std::ostream& out, std::span<const ClassDeclaration> classes) {
+void WriteSchemaMarkdown(std::ostream& out, std::span<const ClassDeclaration> classes, bool) {
   out << kHead;
   WriteDrawing(out, classes);
+  WriteSuperclasses(out, classes);
   for (const ClassDeclaration& declaration : classes) WriteClass(out, declaration);
 }
 

@@ -2,6 +2,7 @@
 
 #include <ostream>
 #include <span>
+#include <string_view>
 
 #include "host/hxacore/schema.h"
 
@@ -10,8 +11,12 @@ namespace hxahost {
 // The classes by name, each with its one-line description.
 void WriteClassList(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes);
 
-// The classes as MOF that compiles by itself, in their order: with the qualifiers that they have, and with the origin
-// of each property as its MappingStrings.
-void WriteSchemaMof(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes);
+// The line of MOF that says in which namespace what follows it is.
+inline constexpr std::string_view kMofNamespace = "#pragma namespace(\"root/cimv2\")\n";
+
+// The classes as MOF, in their order, with the origin of each property as its MappingStrings. It compiles by itself,
+// with the qualifiers that the classes have. With superclasses, which every class but few has, it compiles where the
+// schema of the DMTF is, with its qualifiers.
+void WriteSchemaMof(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes, bool withSuperclasses);
 
 }  // namespace hxahost
