@@ -19,7 +19,8 @@ import mof_reader
 import published
 
 HXAHOST, MACHINE, RESULTS = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
-SAME = ["--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060"]
+GAP = MACHINE.with_name("sample-machine-with-gap")
+SAME = ["--local-time", "20261121093000.000000+060"]
 ENVIRONMENT = {**os.environ, "ZENX_OS_VERSION": "6.1", "ZENX_RAID_LOG_DIR": "raid-manager\\"}
 
 # What somebody who wanted to harm a reader would write into a value. None has a line end: a tool's value is one line.
@@ -37,23 +38,26 @@ HOSTILE = {
     "every byte": bytes(byte for byte in range(256) if byte not in (0x0A, 0x0D)),
     "every character of one byte": bytes(byte for byte in range(128) if byte not in (0x0A, 0x0D)),
 }
+LEFT_OUT = "Left out, as another instance has its path: "
 MEBIBYTE = b"<&\"\\" * (1 << 18)
 
 
-def run(*arguments, machine=None):
-    where = [] if machine is None else ["--directory", str(machine), *SAME]
-    return subprocess.run([HXAHOST, *arguments, *where], env=ENVIRONMENT, check=True, capture_output=True).stdout
+def run(*arguments, machine=None, name="SAMPLE"):
+    """What it wrote to standard output and to standard error."""
+    where = [] if machine is None else ["--directory", str(machine), "--machine-name", name, *SAME]
+    done = subprocess.run([HXAHOST, *arguments, *where], env=ENVIRONMENT, check=True, capture_output=True)
+    return done.stdout, done.stderr.decode()
 
 
-def query(folder, machine, form, *arguments):
+def query(folder, machine, form, *arguments, name="SAMPLE"):
+    """The file, and what was said meanwhile."""
     path = pathlib.Path(folder) / f"published.{form}"
-    run("query", "--format", form, "--output", str(path), *arguments, machine=machine)
-    return path
+    return path, run("query", "--format", form, "--output", str(path), *arguments, machine=machine, name=name)[1]
 
 
 def compiled_schema():
     compiler = mof_reader.Compiler()
-    compiler.compile(run("schema").decode())
+    compiler.compile(run("schema")[0].decode())
     return compiler
 
 
@@ -66,20 +70,31 @@ class Exchange(unittest.TestCase):
         self.folder = pathlib.Path(folder.name)
 
     def compare(self, machine, *arguments):
-        """Every instance, property, type, value and reference of both forms with those of the JSON; their number."""
+        """Every instance, property, type, value and reference of both forms with those of the JSON; their number, and
+        how many are left out."""
         compiler = compiled_schema()
-        json = query(self.folder, machine, "json", *arguments).read_text("utf-8")
-        expected = published.from_json(json, compiler.classes, published.replaced)
-        document = query(self.folder, machine, "cim-xml", *arguments)
+        json = query(self.folder, machine, "json", *arguments)[0].read_text("utf-8")
+        expected, left_out = published.from_json(json, compiler.classes, published.replaced)
+        document, said = query(self.folder, machine, "cim-xml", *arguments)
         self.check_document(document)
         self.hold_together(expected, cim_xml_reader.read(document))
-        mof = query(self.folder, machine, "mof", *arguments).read_bytes().decode()
+        self.check_left_out(left_out, document.read_text("utf-8"), said)
+        mof_file, said = query(self.folder, machine, "mof", *arguments)
+        mof = mof_file.read_bytes().decode()
         compiler.compile(mof)
-        expected = published.from_json(json, compiler.classes, published.without_nul)
+        self.assertEqual(compiler.namespace, "root/cimv2")
+        expected, _ = published.from_json(json, compiler.classes, published.without_nul)
         self.hold_together([[instance for one in expected for instance in one]], [compiler.instances])
+        self.check_left_out(left_out, mof, said)
         for heading in range(1, len(expected) + 1):
             self.assertEqual(mof.count(f"\n// Query {heading} of {len(expected)}.\n"), 1)
-        return [len(one) for one in expected]
+        return [len(one) for one in expected], len(left_out)
+
+    def check_left_out(self, left_out, text, said):
+        """One line and one comment for each."""
+        lines = [line for line in said.splitlines() if LEFT_OUT in line]
+        self.assertEqual([line.split(LEFT_OUT)[1] for line in lines], left_out)
+        self.assertEqual(text.count(LEFT_OUT), len(left_out))
 
     def hold_together(self, expected, actual):
         self.assertEqual([len(one) for one in expected], [len(one) for one in actual])
@@ -122,18 +137,18 @@ class Exchange(unittest.TestCase):
         answer.write_bytes(b"".join(lines))
 
     def test_the_sample_machine_queried_twice(self):
-        counts = self.compare(MACHINE, "--repeat", "2")
+        counts, _ = self.compare(MACHINE, "--repeat", "2")
         self.assertEqual(len(counts), 2)
         self.assertGreater(counts[0], 200)
 
     def test_a_machine_without_utilities(self):
         empty = self.folder / "empty"
         empty.mkdir()
-        self.assertEqual(self.compare(empty, "--class", "KVRSG_zxDiskDrive"), [0])
+        self.assertEqual(self.compare(empty, "--class", "KVRSG_zxDiskDrive"), ([1], 0))
 
     def test_hostile_values(self):
         machine = self.hostile_machine()
-        self.assertGreater(self.compare(machine)[0], 200)
+        self.assertGreater(self.compare(machine)[0][0], 200)
         # They would prove nothing if the plug-in did not publish them.
         queries = cim_xml_reader.read(self.folder / "published.cim-xml")
         identifiers = [i.properties["DeviceID"][2] for i in queries[0] if i.class_name == "KVRSG_zxDiskDrive"]
@@ -143,9 +158,59 @@ class Exchange(unittest.TestCase):
         names = [i.properties["LogicalDriveName"][2] for i in queries[0] if i.class_name == "KVRSG_zxLogicalDisk"]
         self.assertIn(MEBIBYTE.decode(), names)
 
+    def test_a_machine_with_two_controllers_of_one_number(self):
+        _, left_out = self.compare(GAP)
+        self.assertGreater(left_out, 0)
+
+    def test_times_that_there_are_none_of(self):
+        machine = self.folder / "machine"
+        shutil.copytree(MACHINE, machine)
+        log = next((machine / "raid-manager").rglob("RaidEvtA.log"))
+        lines = [b"2007/00/05 11:02:03 UTC", b"123456/01/05 11:02:03 UTC", b"Feb 30, 2007 11:02:03 AM UTC"]
+        log.write_bytes(b"".join(line + b"\tINF\tSERVER\tText.\r\n" for line in lines))
+        self.compare(machine)
+        mof = (self.folder / "published.mof").read_text()
+        self.assertEqual(mof.count("  MessageTimestamp = NULL;  // published: "), len(lines))
+        self.assertEqual((self.folder / "published.cim-xml").read_text().count("<!-- published: "), len(lines))
+
+    def test_two_machines_in_one_namespace(self):
+        compiler = compiled_schema()
+        for name in ("SERVER1", "SERVER2"):
+            mof, _ = query(self.folder, MACHINE, "mof", name=name)
+            compiler.compile(mof.read_text())  # refuses a path that is there already
+        systems = [each for each in compiler.instances if each.class_name == published.SYSTEM]
+        self.assertEqual([each.properties["Name"][2] for each in systems], ["SERVER1", "SERVER2"])
+
+    def test_names_of_systems_refer_to_the_machine(self):
+        compiler = compiled_schema()
+        compiler.compile(query(self.folder, MACHINE, "mof")[0].read_text())
+        systems = {
+            (each.properties["CreationClassName"][2], each.properties["Name"][2])
+            for each in compiler.instances
+            if each.class_name == published.SYSTEM
+        }
+        for each in compiler.instances:
+            if "SystemName" in each.properties:
+                named = each.properties["SystemCreationClassName"][2], each.properties["SystemName"][2]
+                self.assertIn(named, systems, each.path)
+
+    def test_superclasses(self):
+        """The same instances, of classes that compile where the schema of the DMTF is."""
+        plain = compiled_schema()
+        plain.compile(query(self.folder, MACHINE, "mof")[0].read_text())
+        derived = mof_reader.Compiler()
+        derived.compile((pathlib.Path(__file__).parent / "dmtf.mof").read_text())
+        derived.compile(query(self.folder, MACHINE, "mof", "--superclasses")[0].read_text())
+        self.hold_together([plain.instances], [derived.instances])
+        without = [each.name for each in derived.classes.values() if each.name[:4] != "CIM_" and not each.superclass]
+        self.assertEqual(without, ["KVRSG_ElementZxScsiDeviceData", "KVRSG_ElementBadStripeData"])
+        schema = run("schema", "--superclasses")[0].decode()
+        self.assertTrue((self.folder / "published.mof").read_text().partition("\n")[2].startswith(schema))
+
     def test_the_schema_has_every_class_with_keys_and_origins(self):
         compiler = compiled_schema()
-        listed = [line.split()[0] for line in run("classes").decode().splitlines()]
+        listed = [line.split()[0] for line in run("classes")[0].decode().splitlines()]
+        listed.append(published.SYSTEM)
         self.assertEqual(list(compiler.classes), listed)
         described = [each for each in compiler.classes.values() if "description" in each.qualifiers]
         self.assertEqual(len(described), len(listed))
@@ -158,29 +223,44 @@ class Exchange(unittest.TestCase):
 
     def test_the_readers_refuse_what_is_wrong(self):
         """A reader that takes everything would prove nothing."""
-        schema = run("schema").decode()
-        instance = 'instance of KVRSG_zxDiskGroup { CollectionID = "x"; };\n'
-        link = 'instance of KVRSG_zxFirmwareOnController { Dependent = "KVRSG_zxFirmwareVersion.Name=\\"a\\""; };\n'
+        schema = run("schema")[0].decode()
+        system = 'SystemCreationClassName = "a"; SystemName = "b"; '
+        group = f'instance of KVRSG_zxDiskGroup as $g {{ {system}CollectionID = "x"; }};\n'
+        drive = f'instance of KVRSG_zxDiskDrive as $d {{ {system}CreationClassName = "c"; DeviceID = "d"; }};\n'
+        path = 'KVRSG_zxDiskGroup.CollectionID=\\"x\\",SystemCreationClassName=\\"a\\",SystemName=\\"b\\"'
+        link = f'instance of KVRSG_zxDriveInDiskGroup {{ Dependent = "{path}"; Antecedent = $d; }};\n'
         wrong = {
-            "unknown class": (instance, "KVRSG_zxDiskGroup", "KVRSG_Nothing"),
-            "unknown property": (instance, "CollectionID", "Nothing"),
-            "number for a text": (instance, '"x"', "7"),
-            "array for a text": (instance, '"x"', '{"x"}'),
-            "open string": (instance, '"x"', '"x'),
-            "unknown escape": (instance, '"x"', '"\\q"'),
-            "line end in a string": (instance, '"x"', '"\n"'),
-            "no semicolon": (instance, "};", "}"),
-            "reference to another class": (link, "KVRSG_zxFirmwareVersion", "KVRSG_zxBiosVersion"),
-            "reference by what is no key": (link, "Name", "BuildNumber"),
-            "reference that is no path": (link, '=\\"a\\"', "=a"),
+            "unknown class": ("of KVRSG_zxDiskGroup", "of KVRSG_Nothing"),
+            "unknown property": ("CollectionID =", "Nothing ="),
+            "number for a text": ('= "x"', "= 7"),
+            "array for a text": ('= "x"', '= {"x"}'),
+            "open string": ('= "x"', '= "x'),
+            "unknown escape": ('= "x"', '= "\\q"'),
+            "line end in a string": ('= "x"', '= "\n"'),
+            "no semicolon": ("};", "}"),
+            "key without a value": ('SystemName = "b"; Coll', "Coll"),
+            "key that is NULL": ('CollectionID = "x"', "CollectionID = NULL"),
+            "path that is there twice": (group, group + group.replace(" as $g", "")),
+            "alias that is there twice": (" as $d", " as $g"),
+            "alias of nothing": ("= $d", "= $e"),
+            "alias of another class": ("= $d", "= $g"),
+            "reference to another class": ('"KVRSG_zxDiskGroup.', '"KVRSG_zxDiskDrive.'),
+            "reference by what is no key": ('"KVRSG_zxDiskGroup.CollectionID', '"KVRSG_zxDiskGroup.Array'),
+            "reference to what is not there": ('\\"x\\"', '\\"y\\"'),
+            "reference that is no path": ('=\\"x\\"', "=x"),
         }
-        for text in (instance, link):
-            compiler = mof_reader.Compiler()
-            compiler.compile(schema + text)
-            self.assertEqual(len(compiler.instances), 1)
-        for name, (text, before, after) in wrong.items():
+        right = schema + group + drive + link
+        compiler = mof_reader.Compiler()
+        compiler.compile(right)
+        self.assertEqual(len(compiler.instances), 3)
+        declarations = {
+            "mapping string without a body": ("Label.KVRSG|", "Label|"),
+            "override of nothing": ("[Description(", '[Override("x"), Description('),
+        }
+        for name, (before, after) in (wrong | declarations).items():
+            self.assertIn(before, right, name)
             with self.subTest(name), self.assertRaises((mof_reader.MofError, KeyError)):
-                mof_reader.Compiler().compile(schema + text.replace(before, after))
+                mof_reader.Compiler().compile(right.replace(before, after, 1))
 
 
 def main():

@@ -1,21 +1,23 @@
 """A small MOF compiler: the grammar of DSP0004, annex A, as far as classes and instances of plain properties go. One
 thing is taken from later editions: an array may be empty. Anything else that is not in that grammar, is not declared, or
-does not fit its type is an error."""
+does not fit its type is an error; so is an instance without one of its keys, a path that is there twice, a reference to
+what is not there, and a class that changes what it inherits."""
 
 import re
 from dataclasses import dataclass, field
 
-from published import Instance, Reference, object_path
+from published import Instance, Reference, is_time, object_path
 
 TOKEN = re.compile(
     r'(?P<space>\s+|//[^\n]*|/\*.*?\*/)|(?P<string>"(?:[^"\\\n\r]|\\.)*")|(?P<number>[+-]?\d+)'
-    r"|(?P<word>[A-Za-z_]\w*)|(?P<sign>[][{}(),;:=])",
+    r"|(?P<word>[A-Za-z_]\w*)|(?P<alias>\$[A-Za-z_]\w*)|(?P<pragma>#pragma\b)|(?P<sign>[][{}(),;:=])",
     re.DOTALL,
 )
 ESCAPE = re.compile(r"\\(?:[xX]([0-9a-fA-F]{1,4})|(.))", re.DOTALL)
 ESCAPED = {"b": "\b", "t": "\t", "n": "\n", "f": "\f", "r": "\r", '"': '"', "'": "'", "\\": "\\"}
 HIGHEST = {"uint16": 0xFFFF, "uint32": 0xFFFFFFFF}
-DATETIME = re.compile(r"\d{14}\.\d{6}[+-]\d{3}")
+# Format, the body that defines it, and what is mapped.
+MAPPING = re.compile(r"[A-Za-z]\w*\.[A-Za-z]\w*\|.+", re.DOTALL)
 KEY = re.compile(r'([A-Za-z_]\w*)=(?:(\d+)|"((?:[^"\\]|\\["\\])*)")(,|$)', re.DOTALL)
 FLAVORS = ("enableoverride", "disableoverride", "restricted", "tosubclass", "translatable")
 
@@ -35,7 +37,8 @@ class Class:
     name: str
     is_association: bool
     qualifiers: dict
-    properties: dict = field(default_factory=dict)  # by name in lower case
+    superclass: str = ""
+    properties: dict = field(default_factory=dict)  # by name in lower case, inherited ones too
 
 
 @dataclass
@@ -56,16 +59,39 @@ class Compiler:
         self.qualifiers = {}
         self.classes = {}  # by their names as declared
         self.instances = []
+        self.namespace = ""
+        self.aliases = {}
 
     def compile(self, text):
         self.tokens = list(tokens_of(text))
+        self.aliases = {}
+        paths = {instance.path for instance in self.instances}
+        before = len(self.instances)
         while self.kind() != "end":
-            if self.accept("qualifier"):
+            if self.kind() == "pragma":
+                self.pragma()
+            elif self.accept("qualifier"):
                 self.qualifier_declaration()
             elif self.accept("instance"):
                 self.instance()
             else:
                 self.class_declaration()
+        for instance in self.instances[before:]:
+            if instance.path in paths:
+                raise MofError(f"{instance.path} is there twice")
+            paths.add(instance.path)
+        for instance in self.instances[before:]:
+            for _, _, value in instance.properties.values():
+                if isinstance(value, Reference) and value.path not in paths:
+                    raise MofError(f"{instance.path} refers to what is not there: {value.path}")
+
+    # #pragma namespace("root/cimv2")
+    def pragma(self):
+        self.take("pragma")
+        self.expect("namespace")
+        self.expect("(")
+        self.namespace = self.strings()
+        self.expect(")")
 
     def kind(self):
         return self.tokens[-1][0]
@@ -165,14 +191,24 @@ class Compiler:
         declared = Class(self.take("word"), is_association, qualifiers)
         if declared.name.lower() in (name.lower() for name in self.classes):
             raise MofError(f"class {declared.name} is declared twice")
+        if self.accept(":"):
+            declared.superclass = self.take("word")
+            declared.properties.update(self.classes[declared.superclass].properties)
+            if is_association != self.classes[declared.superclass].is_association:
+                raise MofError(f"class {declared.name} cannot be derived from {declared.superclass}")
         self.expect("{")
         while not self.accept("}"):
             self.property_declaration(declared)
         self.expect(";")
         keys = [each for each in declared.properties.values() if each.is_key]
         references = [each for each in declared.properties.values() if each.referenced]
-        if not keys or is_association != (len(references) >= 2):
+        is_abstract = qualifiers.get("abstract", False)
+        if not (keys or is_abstract) or is_association != (len(references) >= 2):
             raise MofError(f"class {declared.name}: keys or references")
+        inherited = self.classes[declared.superclass].properties.values() if declared.superclass else []
+        inherited_keys = [each.name.lower() for each in inherited if each.is_key]
+        if inherited_keys and inherited_keys != [each.name.lower() for each in keys]:
+            raise MofError(f"class {declared.name} adds a key to those that it inherits")
         self.classes[declared.name] = declared
 
     def property_declaration(self, declared):
@@ -189,15 +225,42 @@ class Compiler:
         name = self.take("word")
         is_array = self.brackets()
         is_key = qualifiers.get("key", False)
-        if name.lower() in declared.properties or (is_array and (is_key or referenced)):
+        if is_array and (is_key or referenced):
             raise MofError(f"property {declared.name}.{name}")
-        declared.properties[name.lower()] = Property(name, type_name, is_array, is_key, referenced, qualifiers)
+        if not all(MAPPING.fullmatch(each) for each in qualifiers.get("mappingstrings", [])):
+            raise MofError(f"mapping strings of {declared.name}.{name}")
+        here = Property(name, type_name, is_array, is_key, referenced, qualifiers)
+        self.check_override(declared, here)
+        declared.properties[name.lower()] = here
         self.expect(";")
 
-    # instance of CLASS { name = value; };
+    def check_override(self, declared, here):
+        """What the superclass has is declared again with Override alone, as the same type, to a class of the same kind,
+        and as a key if it was one."""
+        place = f"{declared.name}.{here.name}"
+        there = declared.properties.get(here.name.lower())
+        if (there is None) != ("override" not in here.qualifiers):
+            raise MofError(f"{place} is declared twice, or overrides nothing")
+        if there is None:
+            return
+        inherited = self.classes[declared.superclass].properties if declared.superclass else {}
+        if inherited.get(here.name.lower()) is not there or here.qualifiers["override"] != there.name:
+            raise MofError(f"{place} is declared twice")
+        if (here.type_name, here.is_array) != (there.type_name, there.is_array) or there.is_key and not here.is_key:
+            raise MofError(f"{place} changes what it overrides")
+        if there.referenced and not self.is_a(here.referenced, there.referenced):
+            raise MofError(f"{place} refers to what is no {there.referenced}")
+
+    def is_a(self, name, superclass):
+        while name and name != superclass:
+            name = self.classes[name].superclass
+        return bool(name)
+
+    # instance of CLASS as $ALIAS { name = value; };
     def instance(self):
         self.expect("of")
         declared = self.classes[self.take("word")]
+        alias = self.take("alias") if self.accept("as") else ""
         properties = {}
         self.expect("{")
         while not self.accept("}"):
@@ -210,10 +273,19 @@ class Compiler:
             self.expect(";")
         self.expect(";")
         self.instances.append(Instance(declared.name, path_of(declared, properties), properties))
+        if alias in self.aliases or declared.qualifiers.get("abstract"):
+            raise MofError(f"instance of {declared.name} as {alias}")
+        if alias:
+            self.aliases[alias] = self.instances[-1]
 
     def initializer(self, kind):
         if kind.is_array and self.tokens[-1] == ("sign", "{"):
             return [self.fitting(value, kind) for value in self.array()]
+        if self.kind() == "alias":
+            referred = self.aliases[self.take("alias")]
+            if kind.type_name != "ref" or not self.is_a(referred.class_name, kind.referenced):
+                raise MofError(f"{referred.path} does not fit {kind.name}")
+            return Reference(referred.path)
         value = self.constant()
         if kind.is_array and value is not None:
             raise MofError(f"{value!r} is no array")
@@ -225,7 +297,7 @@ class Compiler:
         if kind.type_name in HIGHEST:
             fits = isinstance(value, int) and not isinstance(value, bool) and 0 <= value <= HIGHEST[kind.type_name]
         else:
-            fits = isinstance(value, str) and (kind.type_name != "datetime" or DATETIME.fullmatch(value))
+            fits = isinstance(value, str) and (kind.type_name != "datetime" or is_time(value))
         if not fits:
             raise MofError(f"{value!r} is no {kind.type_name}")
         if kind.type_name != "ref":
@@ -300,4 +372,6 @@ def unescaped(text):
 def path_of(declared, properties):
     values = {name.lower(): value for name, (_, _, value) in properties.items()}
     keys = [(each.name, values.get(name)) for name, each in declared.properties.items() if each.is_key]
-    return object_path(declared.name, sorted((key for key in keys if key[1] is not None), key=lambda key: key[0]))
+    if any(value is None for _, value in keys):
+        raise MofError(f"instance of {declared.name} without one of its keys: {keys}")
+    return object_path(declared.name, sorted(keys, key=lambda key: key[0]))

@@ -1,7 +1,12 @@
 """What a query published, in one form whatever it was read from: a list of instances for each query."""
 
+import datetime
 import json
+import re
 from dataclasses import dataclass
+
+SYSTEM = "KVRSG_ComputerSystem"
+TIME = re.compile(r"\d{14}\.\d{6}[+-]\d{3}")
 
 
 @dataclass(frozen=True)
@@ -48,24 +53,61 @@ def quoted(value):
     return '"' + text.replace("\\", "\\\\").replace('"', '\\"') + '"'
 
 
+def machine_instance(name):
+    """The machine as JSON would have it."""
+    path = object_path(SYSTEM, [("CreationClassName", SYSTEM), ("Name", name)])
+    return {"class": SYSTEM, "path": path, "properties": {"CreationClassName": SYSTEM, "Name": name}}
+
+
+def unique(result):
+    """The instances of each query, the machine first, with each path once; and the paths of what is left out."""
+    first, queries, left_out = {}, [], []
+    for query in result["queries"]:
+        queries.append([])
+        for instance in [machine_instance(result["machine"]), *query["instances"]]:
+            kept = first.setdefault(replaced(instance["path"]), instance)
+            if kept is instance:
+                queries[-1].append(instance)
+            elif kept["properties"] != instance["properties"]:
+                left_out.append(instance["path"])
+    return queries, left_out
+
+
 def from_json(text, classes, substitute):
-    """Queries from JSON, with the types that the classes declare; substitute is applied to every text."""
-    return [
-        [_instance(instance, classes, substitute) for instance in query["instances"]]
-        for query in json.loads(text)["queries"]
-    ]
+    """Queries from JSON, with the types that the classes declare; substitute is applied to every text. And the paths of
+    what is left out."""
+    result = json.loads(text)
+    queries, left_out = unique(result)
+    make = lambda instance: _instance(instance, result["machine"], classes, substitute)
+    return [[make(instance) for instance in query] for query in queries], left_out
 
 
-def _instance(instance, classes, substitute):
+def _instance(instance, machine, classes, substitute):
     declared = classes[instance["class"]].properties
+    values = dict(instance["properties"])
+    own = {name.lower() for name in values}
+    if not classes[instance["class"]].is_association and not any(name.startswith("system") for name in own):
+        keys = {"SystemCreationClassName": SYSTEM, "SystemName": machine}
+        values = {name: value for name, value in keys.items() if name.lower() in declared} | values
     properties = {}
-    for name, value in instance["properties"].items():
+    for name, value in values.items():
         kind = declared[name.lower()]
         properties[name] = (kind.type_name, kind.is_array, _value(value, kind, substitute))
     return Instance(instance["class"], substitute(instance["path"]), properties)
 
 
+def is_time(text):
+    """Whether CIM knows such a date and time."""
+    try:
+        datetime.datetime.strptime(text[:21], "%Y%m%d%H%M%S.%f")
+    except ValueError:
+        return False
+    return bool(TIME.fullmatch(text))
+
+
 def _value(value, kind, substitute):
+    if kind.type_name == "datetime" and not is_time(value):
+        return None
     if isinstance(value, list):
         return [_value(element, kind, substitute) for element in value]
     if not isinstance(value, str):

@@ -75,9 +75,21 @@ TEST(CimXmlView, IsADeclarationWithAPathForEachInstance) {
    <KEYBINDING NAME="RecordID">
     <KEYVALUE VALUETYPE="string" TYPE="string">1</KEYVALUE>
    </KEYBINDING>
+   <KEYBINDING NAME="SystemCreationClassName">
+    <KEYVALUE VALUETYPE="string" TYPE="string">KVRSG_ComputerSystem</KEYVALUE>
+   </KEYBINDING>
+   <KEYBINDING NAME="SystemName">
+    <KEYVALUE VALUETYPE="string" TYPE="string">M</KEYVALUE>
+   </KEYBINDING>
   </INSTANCENAME>
  </LOCALINSTANCEPATH>
  <INSTANCE CLASSNAME="KVRSG_LogRecord_SoftEvent">
+  <PROPERTY NAME="SystemCreationClassName" TYPE="string">
+   <VALUE>KVRSG_ComputerSystem</VALUE>
+  </PROPERTY>
+  <PROPERTY NAME="SystemName" TYPE="string">
+   <VALUE>M</VALUE>
+  </PROPERTY>
   <PROPERTY NAME="RecordID" TYPE="string">
    <VALUE>1</VALUE>
   </PROPERTY>
@@ -105,9 +117,21 @@ TEST(CimXmlView, IsADeclarationWithAPathForEachInstance) {
    <KEYBINDING NAME="SoftwareElementState">
     <KEYVALUE VALUETYPE="numeric" TYPE="uint16">3</KEYVALUE>
    </KEYBINDING>
+   <KEYBINDING NAME="SystemCreationClassName">
+    <KEYVALUE VALUETYPE="string" TYPE="string">KVRSG_ComputerSystem</KEYVALUE>
+   </KEYBINDING>
+   <KEYBINDING NAME="SystemName">
+    <KEYVALUE VALUETYPE="string" TYPE="string">M</KEYVALUE>
+   </KEYBINDING>
   </INSTANCENAME>
  </LOCALINSTANCEPATH>
  <INSTANCE CLASSNAME="KVRSG_zxFirmwareVersion">
+  <PROPERTY NAME="SystemCreationClassName" TYPE="string">
+   <VALUE>KVRSG_ComputerSystem</VALUE>
+  </PROPERTY>
+  <PROPERTY NAME="SystemName" TYPE="string">
+   <VALUE>M</VALUE>
+  </PROPERTY>
   <PROPERTY NAME="Name" TYPE="string">
    <VALUE>Zentraxis1 Firmware</VALUE>
   </PROPERTY>
@@ -169,6 +193,31 @@ TEST(CimXmlView, TellsNoValueFromAnEmptyOne) {
   EXPECT_THAT(document, HasSubstr("<VALUE.NULL/>\n    <VALUE/>\n    <VALUE>&#32;</VALUE>\n"));
   EXPECT_THAT(document, HasSubstr("<PROPERTY.ARRAY NAME=\"RawResults\" TYPE=\"string\"/>\n"));
   EXPECT_THAT(document, HasSubstr("<PROPERTY.REFERENCE NAME=\"Dependent\" REFERENCECLASS=\"KVRSG_zxDiskGroup\"/>\n"));
+}
+
+TEST(CimXmlView, HasNoValueForATimeThatThereIsNoneOf) {
+  FilledRepository repository;
+  const TCIMDateTime times[] = {
+      {2007,  0, 5,  11, 2, 3, 0, 0   },
+      {2007,  2, 30, 11, 2, 3, 0, -300},
+      {12345, 3, 5,  1,  2, 3, 0, 0   }
+  };
+  for (const TCIMDateTime& time : times) {
+    repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", "RecordID", time.ToString(), "MessageTimestamp", time);
+    EXPECT_THAT(Document(repository), HasSubstr("<PROPERTY NAME=\"MessageTimestamp\" TYPE=\"datetime\">\n   "
+                                                "<!-- published: " +
+                                                time.ToString() + " -->\n  </PROPERTY>\n"));
+  }
+}
+
+TEST(CimXmlView, NamesWhatIsLeftOutInCommentsThatNoPathEnds) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a--->b");
+  QueryResult result;
+  result.leftOut = repository.Instances();
+  const std::string document = Document({result});
+  EXPECT_THAT(document, HasSubstr("<DECLGROUP.WITHPATH>\n<!-- Left out, as another instance has its path: "
+                                  "KVRSG_zxDiskGroup.CollectionID=\"a- - ->b\","));
 }
 
 TEST(CimXmlView, KeepsNamesAsTheyWereSet) {

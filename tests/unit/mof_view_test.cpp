@@ -49,10 +49,13 @@ TEST(MofView, ShowsInstancesWithAllKindsOfValues) {
   repository.Publish("KVRSG_zxRawData", "RawResults", Texts({"a\\", ""}));
   EXPECT_EQ(Mof(repository),
             R"(// What was published on MACHINE at 20260305123015.250000+060. "hxahost schema" has the classes.
+#pragma namespace("root/cimv2")
 
 // Query 1 of 1.
 
 instance of KVRSG_LogRecord_SoftEvent {
+  SystemCreationClassName = "KVRSG_ComputerSystem";
+  SystemName = "M";
   RecordID = "1";
   MessageTimestamp = "20260305123015.250000-060";
   HexSoftEvent = {
@@ -62,12 +65,16 @@ instance of KVRSG_LogRecord_SoftEvent {
 };
 
 instance of KVRSG_zxFirmwareVersion {
+  SystemCreationClassName = "KVRSG_ComputerSystem";
+  SystemName = "M";
   Name = "Zentraxis1 \"Firmware\"";
   SoftwareElementState = 3;
   Version = NULL;
 };
 
 instance of KVRSG_zxRawData {
+  SystemCreationClassName = "KVRSG_ComputerSystem";
+  SystemName = "M";
   RawResults = {
     "a\\",
     ""
@@ -76,13 +83,61 @@ instance of KVRSG_zxRawData {
 )");
 }
 
-TEST(MofView, ShowsAReferenceAsTheObjectPathOfWhatItRefersTo) {
+TEST(MofView, GivesWhatAReferenceNamesAnAliasBeforeTheReferenceHasIt) {
   FilledRepository repository;
-  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
+  repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "no link names it");
+  const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a");
   repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
   EXPECT_THAT(Mof(repository), HasSubstr(R"(
-  Dependent = "KVRSG_zxDiskGroup.CollectionID=\"a\\\"b\\\\c\"";
+instance of KVRSG_zxDiskGroup {
+  SystemCreationClassName = "KVRSG_ComputerSystem";
+  SystemName = "M";
+  CollectionID = "no link names it";
+};
+
+instance of KVRSG_zxDiskGroup as $Query1Instance1 {
+  SystemCreationClassName = "KVRSG_ComputerSystem";
+  SystemName = "M";
+  CollectionID = "a";
+};
+
+instance of KVRSG_zxStripeOrderForController {
+  Dependent = $Query1Instance1;
+};
 )"));
+}
+
+TEST(MofView, ShowsAReferenceToWhatTheQueryHasNotAsItsObjectPath) {
+  FilledRepository repository;
+  const TCIMReference group = FilledRepository().Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
+  repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
+  EXPECT_THAT(Mof(repository), HasSubstr(R"(
+  Dependent = "KVRSG_zxDiskGroup.CollectionID=\"a\\\"b\\\\c\",SystemCreationClassName=\"KVRSG_ComputerSystem\",)"
+                                         R"(SystemName=\"M\"";
+)"));
+}
+
+TEST(MofView, HasNoValueForATimeThatThereIsNoneOf) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", "MessageTimestamp", TCIMDateTime(12345, 0, 5, 1, 2, 3, 0, -60));
+  EXPECT_THAT(Mof(repository), HasSubstr("\n  MessageTimestamp = NULL;  // published: 123450005010203.000000-060\n"));
+}
+
+TEST(MofView, NamesWhatIsLeftOutInComments) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\n};");
+  QueryResult result;
+  result.leftOut = repository.Instances();
+  EXPECT_THAT(Mof({result}), HasSubstr("\n// Left out, as another instance has its path: "
+                                       "KVRSG_zxDiskGroup.CollectionID=\"a\\n};\","));
+}
+
+TEST(MofView, DeclaresTheClassesBeforeTheInstancesWhereSuperclassesAreAskedFor) {
+  QueryHeader header;
+  header.withSuperclasses = true;
+  std::ostringstream out;
+  BeginMof(out, header);
+  EXPECT_THAT(out.str(), HasSubstr("\nclass KVRSG_zxDiskDrive : CIM_DiskDrive {\n"));
 }
 
 TEST(MofView, KeepsAnEmptyArrayAndElementsWithoutAValue) {

@@ -13,6 +13,7 @@
 #include "host/hxahost/collection/working_directory.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
+#include "host/hxahost/result/unique_paths.h"
 #include "host/hxahost/schema/class_words.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/terminal/terminal_layout.h"
@@ -70,6 +71,7 @@ void RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ost
     header.withRuns = options.showRuns;
     header.withUnread = options.showUnread;
     header.limits = options.limits;
+    header.withSuperclasses = options.withSuperclasses;
     header.layout = LayoutFor(WishesOf(options));
     display.begin(output.Stream(), header);
     for (unsigned number = 1; number <= header.queryCount; ++number) {
@@ -92,7 +94,14 @@ void RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ost
 
 void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
   const auto& writer = WriterOf<QueryWriter>("query", options.format);
-  RunQueries(options, {writer.Begin, writer.Query, writer.End}, out, err);
+  UniquePaths paths;
+  const auto query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
+    if (!writer.hasUniquePaths) return writer.Query(shown, header, result);
+    const QueryResult unique = paths.Of(header, result);
+    for (const auto& instance : unique.leftOut) err << "hxahost: " << LeftOutText(*instance) << std::endl;
+    writer.Query(shown, header, unique);
+  };
+  RunQueries(options, {writer.Begin, query, writer.End}, out, err);
 }
 
 }  // namespace hxahost

@@ -10,8 +10,11 @@
 
 #include "host/hxacore/value_reader.h"
 #include "host/hxacore/value_type.h"
+#include "host/hxahost/result/unique_paths.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
+#include "host/hxahost/text/xml_text.h"
+#include "host/hxahost/views/cim/exported_values.h"
 
 using namespace NKVRHXA20;
 
@@ -24,32 +27,11 @@ namespace {
 // so it is given one instance at a time; what stands around the instances is fixed text.
 using Tree = boost::property_tree::ptree;
 
-constexpr std::string_view kNamespaceParts[] = {"root", "cimv2"};
-
 // Names of elements have dots in them, which are no paths here.
 Tree& Append(Tree& parent, const char* element) { return parent.push_back({element, Tree()})->second; }
 
 void SetAttribute(Tree& element, const char* name, std::string_view value) {
   element.put(std::string("<xmlattr>.") + name, std::string(value));
-}
-
-// A control character that XML knows in no form, as the picture of itself.
-std::string ControlPicture(char32_t code) { return {'\xe2', '\x90', static_cast<char>(0x80U + code)}; }
-
-bool IsLegal(char32_t code) { return code >= 0x20 || code == '\t' || code == '\n' || code == '\r'; }
-
-std::string LegalText(std::string_view bytes) {
-  std::string legal;
-  ForEachCharacter(AsUtf8(bytes), [&legal](char32_t code, std::string_view character) {
-    if (!IsLegal(code)) {
-      legal += ControlPicture(code);
-    } else if (code == 0xfffe || code == 0xffff) {
-      legal += "\xef\xbf\xbd";
-    } else {
-      legal += character;
-    }
-  });
-  return legal;
 }
 
 // Parsers make a line feed of a carriage return that they meet as it is. That and whatever must not reach a terminal is
@@ -85,6 +67,16 @@ void AppendReference(Tree& parent, const TCIMValue& value, std::string_view decl
   AppendPath(Append(parent, "VALUE.REFERENCE"), TCIMValueReader::Reference(value), declaredClass);
 }
 
+// The two hyphens that end a comment are set apart.
+void AppendComment(Tree& parent, std::string_view text) {
+  std::string comment = " ";
+  for (const char character : text) {
+    if (character == '-' && comment.back() == '-') comment += ' ';
+    comment += character;
+  }
+  Append(parent, "<xmlcomment>").data() = comment + ' ';
+}
+
 std::string_view DeclaredClassOf(const ClassDeclaration* declaration, const std::string& property) {
   const PropertyDeclaration* const declared = declaration == nullptr ? nullptr : FindProperty(*declaration, property);
   return declared == nullptr ? std::string_view() : declared->referencedClass;
@@ -96,7 +88,7 @@ void AppendKey(Tree& parent, const TCIMValue& value, std::string_view declaredCl
   Tree& key = Append(parent, "KEYVALUE");
   SetAttribute(key, "VALUETYPE", IsNumberType(type) ? "numeric" : "string");
   SetAttribute(key, "TYPE", TypeName(type));
-  key.data() = LegalText(std::string(value));
+  key.data() = LegalXmlText(std::string(value));
 }
 
 // A reference that names no class refers to the declared one.
@@ -123,7 +115,7 @@ void AppendPath(Tree& parent, const TCIMReference& reference, std::string_view d
 // An empty value is one that says so: the element without a value in it.
 void AppendValue(Tree& parent, const TCIMValue& value, const char* empty) {
   if (TCIMValueReader::Kind(value) != ValueKind::kNone) {
-    Append(parent, "VALUE").data() = LegalText(std::string(value));
+    Append(parent, "VALUE").data() = LegalXmlText(std::string(value));
   } else if (empty != nullptr) {
     Append(parent, empty);
   }
@@ -147,6 +139,9 @@ void AppendProperty(Tree& instance, const PublishedProperty& property, const Pro
     return;
   }
   SetAttribute(element, "TYPE", TypeName(declared.type));
+  if (const std::string time = ImpossibleTime(property.value); !time.empty()) {
+    return AppendComment(element, "published: " + time);
+  }
   declared.isArray ? AppendArray(element, property.value) : AppendValue(element, property.value, nullptr);
 }
 
@@ -156,9 +151,9 @@ Tree ObjectWithPath(const TPublishedInstance& instance) {
   AppendPath(object, instance.Reference(), instance.Class().name);
   Tree& element = Append(object, "INSTANCE");
   SetAttribute(element, "CLASSNAME", instance.Class().name);
-  for (const PublishedProperty& property : instance.Properties()) {
-    AppendProperty(element, property, *FindProperty(instance.Class(), property.name));
-  }
+  ForEachExported(instance, [&element](const PublishedProperty& property, const PropertyDeclaration& declared) {
+    AppendProperty(element, property, declared);
+  });
   return document;
 }
 
@@ -179,6 +174,11 @@ void BeginCimXml(std::ostream& out, const QueryHeader&) {
 void WriteQueryCimXml(std::ostream& out, const QueryHeader&, const QueryResult& result) {
   out << "<DECLGROUP.WITHPATH>\n";
   for (const auto& instance : result.instances) WriteTree(out, ObjectWithPath(*instance));
+  for (const auto& instance : result.leftOut) {
+    Tree document;
+    AppendComment(document, LeftOutText(*instance));
+    WriteTree(out, document);
+  }
   out << "</DECLGROUP.WITHPATH>\n";
 }
 
