@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """CIM-XML and MOF as the program writes them, read back by readers that know nothing of it and held against its JSON.
 
-Usage: exchange_test.py HXAHOST SAMPLE-MACHINE RESULTS.xml
+Usage: exchange_test.py HXAHOST SAMPLE-MACHINE RESULTS.xml; the machine with a gap in its numbers is beside the other.
 
 Where ZENX_CIM_DTDS names a folder with document types of CIM-XML (*.dtd), the documents are held against them too.
 """
