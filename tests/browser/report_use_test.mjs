@@ -153,7 +153,8 @@ const diskInSlot8 = () => placeOf("KVRSG_zxDiskDrive", "NV3LE77Q2H");
 test("A value in the details leads to the line that it was read from, and the way back works", async (open) => {
   const page = await open(pageFile("sample"), { hash: "#object-" + diskInSlot8() });
   const value = (name) => page.locator(`dialog dt:text-is("${name}") + dd`);
-  for (const [name, line] of [["State", /^ *State +: Failed$/], ["DeviceSerialNum", /^ *Serial number +: NV3LE77Q2H$/]]) {
+  const lines = { State: /^ *State +: Failed$/, DeviceSerialNum: /^ *Serial number +: NV3LE77Q2H$/ };
+  for (const [name, line] of Object.entries(lines)) {
     await value(name).getByRole("link").click();
     await page.locator(".followed").waitFor();
     assert.equal(await page.locator(".followed").count(), 1);

@@ -23,6 +23,9 @@ namespace {
 using namespace hxahost;
 using namespace NKVRHXA20;
 
+constexpr auto kDisk = kDiskDriveClass;
+constexpr auto kDrive = kLogicalDiskClass;
+
 // What a query publishes of the sample machine.
 class SampleMachine {
  public:
@@ -166,43 +169,43 @@ Proof ProofOf(const SampleMachine& machine, std::size_t place, std::string_view 
   return {};
 }
 
-TEST(Proof, GivesTheLinesOfAValue) {
+std::vector<std::string> WordsOf(const SampleMachine& machine, std::size_t place, std::string_view property) {
+  const Proof proof = ProofOf(machine, place, property);
+  EXPECT_EQ(proof.evidence, Evidence::kLine) << property;
+  std::vector<std::string> lines;
+  for (const std::string& line : LinesOf(machine.Instances(), proof)) lines.push_back(WithSingleBlanks(line));
+  return lines;
+}
+
+TEST(Proof, GivesTheLineOfAValue) {
   struct Case {
     std::string_view className;
     const char* key;
     const char* value;
     const char* property;
-    std::vector<std::string> lines;
+    const char* line;
   };
   const Case cases[] = {
-      {kDiskDriveClass,         "DeviceSerialNum",  "NV3LE77Q2H",          "State",                   {"State : Failed"}                                                             },
-      {kDiskDriveClass,         "DeviceSerialNum",  "NV3LE77Q2H",          "ScsiId",                  {"Reported Channel,Device : 0,8"}                                              },
-      {kDiskDriveClass,         "DeviceSerialNum",  "H8B01187",            "ScsiId",                  {"SCSI ID : 2"}                                                                },
-      {kDiskDriveClass,         "DeviceSerialNum",  "H8B01187",            "Channel",                 {"Channel #1:"}                                                                },
-      {kDiskDriveClass,         "DeviceSerialNum",  "HS812T4C9",           "Channel",                 {"Channel #1:"}                                                                },
-      {kDiskDriveClass,         "DeviceSerialNum",  "HS812T4C9",           "DeviceNumber",            {"Device #5"}                                                                  },
-      {kLogicalDiskClass,       "LogicalDriveName", "Archive",             "LogicalDriveNum",         {"Logical drive number 3"}                                                     },
-      {kDiskGroupClass,
-       "StripeOrder",                               "0,2 0,3 0,4 0,5 0,6",
-       "StripeOrder",                                                                                 {"Stripe order (Channel,Device) : 0,2 0,3 0,4 0,5", "0,6"}                     },
-      {kDiskGroupClass,
-       "Array",                                     "A",
-       "StripeOrder",                                                                                 {"Array A stripe order (Channel/SCSI ID) : 1,0 1,1 1,2 1,3 1,4", "1,5 2,0 2,1"}},
-      {kControllerClass,        "SerialNum",        "3E41A077",            "ControllerBatteryStatus", {"Status : Optimal"}                                                           },
-      {kControllerClass,        "SerialNum",        "K6E0412277",          "LastCmdStatus",           {"Status : In progress"}                                                       },
-      {"KVRSG_LogRecord_zxDDD",
-       "Reason",                                    "0x0b",
-       "Time",                                                                                        {"| 11/02/2005 | 03:17:49 | 2 | 3 | 0x0b | Replaced by hot spare at 2,4"}      },
-      {"KVRSG_BadStripeData",   "NumBadStripes",    "3",                   "LogicalDrive",            {"Logical drive 2 - 3"}                                                        },
+      {kDisk,            "DeviceSerialNum",  "NV3LE77Q2H", "State",                   "State : Failed"               },
+      {kDisk,            "DeviceSerialNum",  "NV3LE77Q2H", "ScsiId",                  "Reported Channel,Device : 0,8"},
+      {kDisk,            "DeviceSerialNum",  "H8B01187",   "ScsiId",                  "SCSI ID : 2"                  },
+      {kDisk,            "DeviceSerialNum",  "H8B01187",   "Channel",                 "Channel #1:"                  },
+      {kDisk,            "DeviceSerialNum",  "HS812T4C9",  "Channel",                 "Channel #1:"                  },
+      {kDisk,            "DeviceSerialNum",  "HS812T4C9",  "DeviceNumber",            "Device #5"                    },
+      {kDrive,           "LogicalDriveName", "Archive",    "LogicalDriveNum",         "Logical drive number 3"       },
+      {kControllerClass, "SerialNum",        "3E41A077",   "ControllerBatteryStatus", "Status : Optimal"             },
+      {kControllerClass, "SerialNum",        "K6E0412277", "LastCmdStatus",           "Status : In progress"         },
   };
   const SampleMachine machine;
+  using Lines = std::vector<std::string>;
   for (const Case& each : cases) {
-    const Proof proof = ProofOf(machine, machine.PlaceOf(each.className, each.key, each.value), each.property);
-    EXPECT_EQ(proof.evidence, Evidence::kLine);
-    std::vector<std::string> lines;
-    for (const std::string& line : LinesOf(machine.Instances(), proof)) lines.push_back(WithSingleBlanks(line));
-    EXPECT_EQ(lines, each.lines) << each.value << " " << each.property;
+    const std::size_t place = machine.PlaceOf(each.className, each.key, each.value);
+    EXPECT_EQ(WordsOf(machine, place, each.property), Lines{each.line}) << each.value;
   }
+  EXPECT_EQ(WordsOf(machine, machine.PlaceOf("KVRSG_BadStripeData", "NumBadStripes", "3"), "LogicalDrive"),
+            Lines{"Logical drive 2 - 3"});
+  EXPECT_EQ(WordsOf(machine, machine.PlaceOf(kDiskGroupClass, "Array", "A"), "StripeOrder"),
+            (Lines{"Array A stripe order (Channel/SCSI ID) : 1,0 1,1 1,2 1,3 1,4", "1,5 2,0 2,1"}));
 }
 
 TEST(Proof, FindsTheObjectsOwnLineWithLabelAndValueForEachValueOfTheSampleMachine) { ExpectProofs(SampleMachine()); }
@@ -227,6 +230,8 @@ TEST(Proof, FindsDevicesWhoseNumbersAreCut) {
 
 // The tool is asked twice: what it says the second time is published.
 TEST(Proof, SaysWhereTheRawTextSaysSomethingElse) {
+  using enum Evidence;
+  constexpr std::string_view kStripes = "KVRSG_BadStripeData";
   struct Case {
     std::string_view className;
     const char* key;
@@ -236,16 +241,16 @@ TEST(Proof, SaysWhereTheRawTextSaysSomethingElse) {
     Evidence evidence;
   };
   const Case cases[] = {
-      {kDiskDriveClass,       "DeviceSerialNum",  "NV3LE77Q2H",  "State",                   "Online",   Evidence::kDiffers},
-      {kDiskDriveClass,       "DeviceSerialNum",  "NV3LE77Q2H",  "PFA",                     "N",        Evidence::kDiffers},
-      {kDiskDriveClass,       "DeviceSerialNum",  "H8B01187",    "DeviceSerialNum",         "H8B01188", Evidence::kDiffers},
-      {kDiskDriveClass,       "DeviceSerialNum",  "H8B01187",    "Channel",                 "11",       Evidence::kDiffers},
-      {kDiskDriveClass,       "DeviceSerialNum",  "H8B01187",    "Vendor",                  "TALVERA",  Evidence::kNoLine },
-      {kDiskDriveClass,       "DeviceSerialNum",  "H8B01187",    "ControllerNum",           "1",        Evidence::kMade   },
-      {kDiskGroupClass,       "StripeOrder",      "0,7 0,8 0,9", "StripeOrder",             "0,7 0,8",  Evidence::kDiffers},
-      {kLogicalDiskClass,     "LogicalDriveName", "Archive",     "LogicalDriveNum",         "9",        Evidence::kNoLine },
-      {kControllerClass,      "SerialNum",        "3E41A077",    "ControllerBatteryStatus", "Failed",   Evidence::kDiffers},
-      {"KVRSG_BadStripeData", "NumBadStripes",    "3",           "NumBadStripes",           "0",        Evidence::kNoLine },
+      {kDisk,            "DeviceSerialNum",  "NV3LE77Q2H",  "State",                   "Online",   kDiffers},
+      {kDisk,            "DeviceSerialNum",  "NV3LE77Q2H",  "PFA",                     "N",        kDiffers},
+      {kDisk,            "DeviceSerialNum",  "H8B01187",    "DeviceSerialNum",         "H8B01188", kDiffers},
+      {kDisk,            "DeviceSerialNum",  "H8B01187",    "Channel",                 "11",       kDiffers},
+      {kDisk,            "DeviceSerialNum",  "H8B01187",    "Vendor",                  "TALVERA",  kNoLine },
+      {kDisk,            "DeviceSerialNum",  "H8B01187",    "ControllerNum",           "1",        kMade   },
+      {kDiskGroupClass,  "StripeOrder",      "0,7 0,8 0,9", "StripeOrder",             "0,7 0,8",  kDiffers},
+      {kDrive,           "LogicalDriveName", "Archive",     "LogicalDriveNum",         "9",        kNoLine },
+      {kControllerClass, "SerialNum",        "3E41A077",    "ControllerBatteryStatus", "Failed",   kDiffers},
+      {kStripes,         "NumBadStripes",    "3",           "NumBadStripes",           "0",        kNoLine },
   };
   for (const Case& each : cases) {
     SampleMachine machine;

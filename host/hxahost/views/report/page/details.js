@@ -3,7 +3,7 @@
 
 const kMostRelated = 60;
 
-// What the program says of where the values of an object come from, by the object's place; read when it is first wanted.
+// What the program says of where the values of an object come from, by the object's place; read when first wanted.
 function proofOf(object) {
   if (!report.proofs) report.proofs = new Map((readData("proof-data") || []).map((proof) => [proof.instance, proof]));
   return report.proofs.get(object.index) || { lines: {} };

@@ -20,8 +20,8 @@ function rawTexts(model, unread) {
   });
 }
 
-// The text cut where marked lines begin and end; each unread line, and each that a value was followed to, is a part of its
-// own, without its line end.
+// The text cut where marked lines begin and end; each unread line, and each that a value was followed to, is a part of
+// its own, without its line end.
 function partsOf(lines, marked, followed = new Set()) {
   const parts = [{ begin: 0, end: 0 }];
   let begin = 0;
