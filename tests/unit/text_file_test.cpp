@@ -80,10 +80,12 @@ TEST(TextFile, AFileThatIsNotThereIsNotOpenAndHasNoLines) {
   EXPECT_EQ(none.ReadLine(), "");
 }
 
-TEST(TextFile, AFolderHasNoLines) {
+// Where a folder can be opened, the read fails; elsewhere the open does.
+TEST(TextFile, AReadThatFailsIsNoEnd) {
   const TemporaryFolder folder;
   TextFile file(folder.Path().string());
   EXPECT_EQ(file.ReadLine(), "");
+  EXPECT_FALSE(file.HasMetEnd());
 }
 
 }  // namespace
