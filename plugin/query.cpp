@@ -74,8 +74,8 @@ bool HasToSkipHrconf(ICIMNamespace& nameSpace, const TPropertyMap& context) {
 }
 
 void CollectOnce(QueryState& state, HostHandle host, bool skipHrconf) {
-  state.collectPending = false;
   state.collector = std::make_unique<ZenxCollectData>(host);
+  state.collectPending = false;
   try {
     state.collector->Collect(skipHrconf);
   } catch (const std::exception& failure) {

@@ -133,8 +133,9 @@ void PublishDiskDriveToFirmware(const PublishContext& context, ICIMClass& publis
 }
 
 void PublishDiskDriveToDeviceData(const PublishContext& context, ICIMClass& publishedClass) {
+  const auto drives = InstancesOf(context.nameSpace, kDiskDrive, context.lookupContext);
   const InstanceIndex statistics(context, "KVRSG_zxSCSIDeviceData", PropertyKey("InstanceID"));
-  for (const auto& drive : InstancesOf(context.nameSpace, kDiskDrive, context.lookupContext)) {
+  for (const auto& drive : drives) {
     if (HasDeviceData(*drive)) {
       Link(publishedClass, kWhatItDescribes, statistics.Find(DeviceDataOfDrive(*drive)), *drive);
     }
@@ -142,8 +143,9 @@ void PublishDiskDriveToDeviceData(const PublishContext& context, ICIMClass& publ
 }
 
 void PublishLogicalDiskToBadStripes(const PublishContext& context, ICIMClass& publishedClass) {
+  const auto disks = InstancesOf(context.nameSpace, kLogicalDisk, context.lookupContext);
   const InstanceIndex badStripes(context, "KVRSG_BadStripeData", BadStripeNumbers);
-  for (const auto& disk : InstancesOf(context.nameSpace, kLogicalDisk, context.lookupContext)) {
+  for (const auto& disk : disks) {
     Link(publishedClass, kWhatItDescribes, badStripes.Find(DiskNumbers(*disk)), *disk);
   }
 }
