@@ -10,6 +10,9 @@
 
 namespace NKVRHXA20 {
 
+// How a program ended that somebody else has reaped.
+inline constexpr const char* kUnknownEnding = "unknown";
+
 // What is left of a program that was run to its end.
 struct SpawnResult {
   SpawnResult() = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,7 +39,11 @@ OutputEnd CollectOutput(const ChildProcess& child, Deadline deadline, std::strin
 // Whether the program has ended.
 bool HasEnded(const ChildProcess& child);
 
-// Waits for the program's end, lets go of its number and says how it ended, as waitpid does.
-int Reap(const ChildProcess& child);
+// Whether its number may mean another process already: somebody else has reaped it, or the system did because the
+// host's parent ignores SIGCHLD.
+bool IsReaped(const ChildProcess& child);
+
+// Waits for the program's end, lets go of its number and says how it ended, as waitpid does; none where nobody knows.
+std::optional<int> Reap(const ChildProcess& child);
 
 }  // namespace NKVRHXA20

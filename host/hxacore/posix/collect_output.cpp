@@ -93,13 +93,18 @@ OutputEnd CollectOutput(const ChildProcess& child, Deadline deadline, std::strin
 bool HasEnded(const ChildProcess& child) {
   siginfo_t how{};
   const int failure = waitid(P_PID, static_cast<id_t>(child.pid), &how, WEXITED | WNOHANG | WNOWAIT);
-  // ECHILD: somebody else has reaped it.
   return failure != 0 ? errno == ECHILD : how.si_pid == child.pid;
 }
 
-int Reap(const ChildProcess& child) {
+bool IsReaped(const ChildProcess& child) {
+  siginfo_t how{};
+  return waitid(P_PID, static_cast<id_t>(child.pid), &how, WEXITED | WNOHANG | WNOWAIT) != 0 && errno == ECHILD;
+}
+
+std::optional<int> Reap(const ChildProcess& child) {
   int status = 0;
-  while (waitpid(child.pid, &status, 0) < 0 && errno == EINTR) {
+  while (waitpid(child.pid, &status, 0) < 0) {
+    if (errno != EINTR) return std::nullopt;
   }
   return status;
 }

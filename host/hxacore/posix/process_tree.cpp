@@ -69,12 +69,14 @@ bool ReadStatus(const fs::path& folder, Process& process) {
 std::vector<Process> RunningProcesses(const ChildProcess& child) {
   std::error_code failure;
   const fs::path pipe = fs::read_symlink("/proc/self/fd/" + std::to_string(child.output.Get()), failure);
+  const bool isGroupOfRun = !IsReaped(child);
   std::vector<Process> processes;
   for (fs::directory_iterator entry("/proc", failure), end; !failure && entry != end; entry.increment(failure)) {
     Process process;
     process.pid = static_cast<pid_t>(std::atoi(entry->path().filename().c_str()));
     if (process.pid <= 0 || process.pid == getpid() || !ReadStatus(*entry, process)) continue;
-    process.isMarked = process.group == child.pid || HasMark(*entry, child.mark) || HoldsPipe(*entry, pipe);
+    process.isMarked =
+        (isGroupOfRun && process.group == child.pid) || HasMark(*entry, child.mark) || HoldsPipe(*entry, pipe);
     processes.push_back(process);
   }
   return processes;
@@ -110,7 +112,7 @@ void EndProcessTree(const ChildProcess& child) {
     SignalAll(found, SIGSTOP);
     stopped = std::move(found);
   }
-  kill(-child.pid, SIGKILL);  // also where there is no /proc to find members in
+  if (!IsReaped(child)) kill(-child.pid, SIGKILL);  // also where there is no /proc to find members in
   SignalAll(stopped, SIGKILL);
   for (std::set<pid_t> left = Members(child); !left.empty() && isTime(); left = Members(child)) {
     SignalAll(left, SIGKILL);

@@ -9,9 +9,14 @@ namespace NKVRHXA20 {
 
 namespace {
 
-void SetEnd(int waitStatus, SpawnResult& result) {
-  if (WIFEXITED(waitStatus)) result.exitStatus = WEXITSTATUS(waitStatus);
-  if (WIFSIGNALED(waitStatus)) result.ending = "signal " + std::to_string(WTERMSIG(waitStatus));
+void SetEnd(std::optional<int> waitStatus, SpawnResult& result) {
+  if (!waitStatus) {
+    result.ending = kUnknownEnding;
+  } else if (WIFEXITED(*waitStatus)) {
+    result.exitStatus = WEXITSTATUS(*waitStatus);
+  } else if (WIFSIGNALED(*waitStatus)) {
+    result.ending = "signal " + std::to_string(WTERMSIG(*waitStatus));
+  }
 }
 
 }  // namespace

@@ -26,7 +26,9 @@ void ReadAnswerOf(const SpawnResult& result, ToolRun& run) {
   run.bytes = result.output.size();
   ReadAnswer answer = ReadToolAnswer(ToolName(run.path), run.arguments, result.output);
   if (answer.outcome == Outcome::kOk && !result.ending.empty()) {
-    answer = {Outcome::kFailed, "it was ended by the system: " + Printable(result.ending)};
+    answer = {Outcome::kFailed, result.ending == kUnknownEnding
+                                    ? "how it ended is not known"
+                                    : "it was ended by the system: " + Printable(result.ending)};
   } else if (answer.outcome == Outcome::kOk && result.exitStatus.value_or(0) != 0) {
     answer = {Outcome::kFailed, "its exit status is " + std::to_string(*result.exitStatus)};
   }

@@ -1,0 +1,8 @@
+#include "host/hxahost/system/signals.h"
+
+namespace hxahost {
+
+// Windows has none of these signals.
+void SetSignals() {}
+
+}  // namespace hxahost
