@@ -78,7 +78,7 @@ TEST(Runs, TellAMissingToolACutAnswerAndAnEmptyAnswerApart) {
   EXPECT_THAT(result.out, HasSubstr("    cut off (3 runs, the first getconfig 1 al):\n      its last line is "));
   EXPECT_THAT(result.out, HasSubstr("    empty (getlogs 2 dead): it wrote nothing\n"));
   EXPECT_THAT(result.out,
-              HasSubstr("    cut off (35 runs, the first getconfig 2 al): its last line is \"Something new\""));
+              HasSubstr("    failed (35 runs, the first getconfig 2 al): printed no valid report: Something new\n"));
 }
 
 TEST(Runs, SayThatNoControllerIsThereOnlyWhereEachToolSaysSo) {

@@ -53,10 +53,15 @@ TEST(ToolAnswer, TellsWhatAnAnswerAmountsTo) {
   ExpectAnswer("arcconf", kProbe, "", Outcome::kEmpty, "it wrote nothing");
   ExpectAnswer("arcconf", kLog, " \n\t\n", Outcome::kEmpty, "it wrote nothing");
   ExpectAnswer("arcconf", kProbe, "Controller information\n   Mod", Outcome::kCutOff, "its last line is \"Mod\"");
-  ExpectAnswer("arcconf", kLog, "x\nCommand completed succ", Outcome::kCutOff,
+  ExpectAnswer("arcconf", kProbe, "Controllers found: 1", Outcome::kCutOff,
+               "its last line is \"Controllers found: 1\"");
+  ExpectAnswer("qcmdrun", kLog, "Found 1 KVR Zentraxis controller(s)\nCommand completed succ", Outcome::kCutOff,
                "its last line is \"Command completed succ\"");
+  ExpectAnswer("arcconf", kLog, "Segmentation fault", Outcome::kFailed, "printed no valid report: Segmentation fault");
+  ExpectAnswer("arcconf", kProbe, "Zentraxis utility\n\nAccess is denied: be an Administrator.", Outcome::kFailed,
+               "Access is denied: be an Administrator.");
   ExpectAnswer("other", kProbe, "whatever", Outcome::kOk, "");
-  ExpectAnswer("arcconf", {}, "x\n", Outcome::kCutOff, "its last line is \"x\"");
+  ExpectAnswer("arcconf", {}, "x", Outcome::kFailed, "printed no valid report: x");
 }
 
 TEST(ToolAnswer, NamesEachOutcomeInTheWordsThatProgramsRelyOn) {
@@ -71,14 +76,17 @@ TEST(ToolAnswer, NamesEachOutcomeInTheWordsThatProgramsRelyOn) {
 
 TEST(ToolAnswer, LetsNoTerminalCommandThroughInAReason) {
   const ReadAnswer answer = ReadToolAnswer("arcconf", kProbe, "\x1b[2J gone");
-  EXPECT_EQ(answer.reason, "its last line is \"\\x1b[2J gone\"");
+  EXPECT_EQ(answer.reason, "printed no valid report: \\x1b[2J gone");
 }
 
 TEST(ToolAnswer, ShowsTheBeginningOfALineOf16MiB) {
   const std::string line(std::size_t{16} << 20, '\x01');
-  const std::string reason = ReadToolAnswer("arcconf", kProbe, line).reason;
-  EXPECT_TRUE(reason.starts_with("its last line is \"\\x01\\x01")) << reason;
-  EXPECT_LT(reason.size(), 300U);
+  const std::string garbage = ReadToolAnswer("arcconf", kProbe, line).reason;
+  EXPECT_TRUE(garbage.starts_with("printed no valid report: \\x01\\x01")) << garbage;
+  EXPECT_LT(garbage.size(), 90U);
+  const std::string cut = ReadToolAnswer("arcconf", kProbe, "Controllers found: 1\n" + line).reason;
+  EXPECT_TRUE(cut.starts_with("its last line is \"\\x01\\x01")) << cut;
+  EXPECT_LT(cut.size(), 300U);
 }
 
 TEST(ToolAnswer, NamesAToolByItsFileWithoutFolderAndSuffix) {

@@ -30,15 +30,45 @@ constexpr AnswerSign kSigns[] = {
 
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
 
-// The line in which the text at this place stands, as far as a reader wants it. Some answers are one line of megabytes:
-// no more of it is made printable than may fill the width.
+// The beginning of a text, as far as a reader wants it. Some answers are one line of megabytes: no more of it is made
+// printable than may fill the width.
+std::string BeginningOf(std::string_view text, std::size_t widest) {
+  constexpr std::size_t kMostBytesOfColumn = 20;
+  return CutToWidth(Printable(text.substr(0, kMostBytesOfColumn * widest)), widest);
+}
+
+// The line in which the text at this place stands.
 std::string LineAt(std::string_view text, std::size_t place) {
+  constexpr std::size_t kWidest = 200;
   const std::size_t before = text.rfind('\n', place);
   const std::size_t first = before == text.npos ? 0 : before + 1;
-  constexpr std::size_t kWidest = 200;
-  constexpr std::size_t kMostBytes = 20 * kWidest;
-  const std::string_view line = text.substr(first, text.find('\n', place) - first);
-  return CutToWidth(Printable(line.substr(0, kMostBytes)), kWidest);
+  return BeginningOf(text.substr(first, text.find('\n', place) - first), kWidest);
+}
+
+// Every report begins with the number of controllers, as the text does that says that there are none.
+bool BeginsAsReport(const Tool& tool, std::string_view output) {
+  return Trim(output).starts_with(tool.noneFound.substr(0, tool.noneFound.find('0'))) ||
+         Contains(output, kControllerHeading);
+}
+
+// Where a utility refuses users who are no administrators; npos where it does not. No letter of an answer of megabytes
+// past the first few lines counts.
+std::size_t PlaceOfRefusal(std::string_view output) {
+  constexpr std::size_t kMostBytes = 1000;
+  constexpr std::string_view kRefusals[] = {"administrator", "access denied", "access is denied", "permission denied"};
+  const std::string text = Lower(output.substr(0, kMostBytes));
+  for (const std::string_view refusal : kRefusals) {
+    if (const std::size_t place = text.find(refusal); place != text.npos) return place;
+  }
+  return output.npos;
+}
+
+// An answer that is no report: the words in which it refuses, else its beginning.
+ReadAnswer ReadGarbage(std::string_view output) {
+  constexpr std::size_t kWidest = 60;
+  const std::size_t refusal = PlaceOfRefusal(output);
+  if (refusal != output.npos) return {Outcome::kFailed, LineAt(output, refusal)};
+  return {Outcome::kFailed, "printed no valid report: " + BeginningOf(output, kWidest)};
 }
 
 // A log may quote any text; a complete answer to another command is no refusal for having it.
@@ -79,6 +109,8 @@ std::vector<std::string_view> KnownTools() {
   return names;
 }
 
+bool IsRefusalOfUser(std::string_view answer) { return PlaceOfRefusal(answer) != answer.npos; }
+
 ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output) {
   if (Trim(output).empty()) return {Outcome::kEmpty, "it wrote nothing"};
   const auto* const known = std::ranges::find(kKnownTools, tool, [](const KnownTool& each) { return each.tool.name; });
@@ -87,6 +119,7 @@ ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>&
   if (const AnswerSign* const sign = FindSign(known->tool, isProbe, output)) {
     return {sign->outcome, LineAt(output, output.find(known->tool.*sign->text))};
   }
+  if (!Contains(output, kCommandCompleted) && !BeginsAsReport(known->tool, output)) return ReadGarbage(output);
   if (!Contains(output, kCommandCompleted)) return {Outcome::kCutOff, "its last line is \"" + LastLine(output) + "\""};
   if (isProbe && !Contains(output, kControllerHeading)) {
     return {Outcome::kFailed, "its answer has no \"" + std::string(kControllerHeading) + "\""};

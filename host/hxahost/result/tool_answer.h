@@ -37,6 +37,9 @@ std::string ToolName(std::string_view path);
 // The utilities in the order in which they are run.
 std::vector<std::string_view> KnownTools();
 
+// Whether a utility, or the system, says that the user has to be an administrator.
+bool IsRefusalOfUser(std::string_view answer);
+
 // Reads what a tool wrote. Of programs that are no known utility, only an empty answer tells anything.
 ReadAnswer ReadToolAnswer(std::string_view tool, const std::vector<std::string>& arguments, std::string_view output);
 
