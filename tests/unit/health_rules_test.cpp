@@ -67,7 +67,7 @@ const Case kCases[] = {
     {kDisk,       "State",                     kIdle,     {"Standby (SBY)", "Hot spare (HSP)"}                     },
     {kDisk,       "State",                     kIdle,     {"Hot Spare for Logical drive 1"}                        },
     {kDisk,       "State",                     kIdle,     {"Standby hot spare (SHS)", "Dedicated Hot-Spare"}       },
-    {kDisk,       "State",                     kIdle,     {"Global Hot-Spare"}                                     },
+    {kDisk,       "State",                     kIdle,     {"Global Hot-Spare", "Ready (Foreign)"}                  },
     {kDisk,       "State",                     kBusy,     {"Rebuild (RBL)", "Rebuilding"}                          },
     {kDisk,       "State",                     kCritical, {"Defunct (DDD)", "Failed", "Missing", "Offline (OFL)"}  },
     {kDisk,       "State",                     kWarning,  {"Defunct hot-spare (DHS)", "Failed hot spare"}          },

@@ -34,6 +34,14 @@ bool HasWord(const State& state, std::string_view part) {
                              [&](const std::string& word) { return word.find(part) != word.npos; });
 }
 
+// The utility that a finding of the log is about: what its runs report has the same cause.
+std::string_view ToolOfLogged(const Finding& finding) {
+  const auto rule = std::ranges::find_if(HealthRules(), [&](const HealthRule& each) {
+    return each.value == &kLogText && TextOf(each.meaning) == finding.meaning;
+  });
+  return rule == HealthRules().end() ? std::string_view() : rule->tools;
+}
+
 std::string PlaceKey(const std::string& controller, const std::string& channel, const std::string& id) {
   return controller + "/" + channel + "," + id;
 }
@@ -212,7 +220,8 @@ class Sorting {
 
   Key KeyOf(const Finding& finding, const Subject& subject) {
     if (subject.controller == kNone) {
-      if (finding.className == kLog) return {kNone, kNone, finding.meaning};
+      if (finding.className == kEventClass) return {kNone, kNone, finding.className};
+      if (finding.className == kLog) return {kNone, kNone, std::string(ToolOfLogged(finding))};
       return {kNone, kNone, finding.instance ? finding.name : finding.identifier};
     }
     if (subject.drive != kNone || subject.device != kNone) {

@@ -101,11 +101,11 @@ void AddBatteryMessage(const InstanceList& instances, std::size_t place, const Q
   const TPublishedInstance& event = *instances[place];
   const std::string message = RawText(event, "Message");
   if (RawText(event, "Severity") == "INF" || Lower(message).find("battery") == message.npos) return;
-  const std::string now = ReadableTime(header.time.ToString());
-  if (!IsRecent(ShownText(event, "MessageTimestamp"), now, header.limits.batteryDays)) return;
+  const std::string time = ShownText(event, "MessageTimestamp");
+  if (!IsRecent(time, ReadableTime(header.time.ToString()), header.limits.batteryDays)) return;
   Finding finding = OfInstance(instances, place, "Message", message, kBatteryMessage);
   finding.identifier = RawText(event, "RecordID");
-  finding.name = "the RAID manager's log";
+  finding.name = "RAID manager, " + time.substr(0, time.find(' '));
   findings.push_back(std::move(finding));
 }
 

@@ -100,10 +100,30 @@ std::set<std::size_t> UnguardedDisks(const Machine& machine) {
   return unguarded;
 }
 
+// Controllers with failed spares and no other fault of a disk or drive, as places of instances.
+std::set<std::size_t> FailedSpares(const Machine& machine) {
+  std::set<std::size_t> places;
+  for (const Controller& controller : machine.controllers) {
+    Level worst = Level::kFine;
+    for (const Device& device : controller.devices) {
+      worst = std::max(worst, JudgeText(kDiskState, device.state.text).level);
+    }
+    const bool isWhole = std::ranges::all_of(controller.logicalDrives, [](const LogicalDrive& drive) {
+      return JudgeText(kDriveState, drive.state.text).level < Level::kWarning;
+    });
+    if (worst != Level::kWarning || !isWhole) continue;
+    for (const ControllerUnit& unit : controller.units) places.insert(unit.instance);
+  }
+  return places;
+}
+
 class Examination {
  public:
   Examination(Machine& machine, const InstanceList& instances)
-      : instances_(instances), objects_(instances.size()), unguarded_(UnguardedDisks(machine)) {
+      : instances_(instances),
+        objects_(instances.size()),
+        unguarded_(UnguardedDisks(machine)),
+        failedSpares_(FailedSpares(machine)) {
     for (Controller& controller : machine.controllers) {
       AddObjects(controller.units);
       AddObjects(controller.logicalDrives);
@@ -154,6 +174,7 @@ class Examination {
       case Where::kOnHardDisk: return RawText(*instances_[place], "DeviceType").find("Hard d") != std::string::npos;
       case Where::kWithChannelLine: return !RawText(*instances_[place], "ChannelDescription").empty();
       case Where::kOnUnguardedArray: return unguarded_.contains(place);
+      case Where::kOnFailedSpares: return failedSpares_.contains(place);
       case Where::kOnConfiguration:
       case Where::kOnState: break;
     }
@@ -163,6 +184,7 @@ class Examination {
   const InstanceList& instances_;
   std::vector<Object*> objects_;  // by the place of their instance; null for what is none
   std::set<std::size_t> unguarded_;
+  std::set<std::size_t> failedSpares_;
 };
 
 }  // namespace

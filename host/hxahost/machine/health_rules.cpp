@@ -22,6 +22,7 @@ constexpr auto kAnywhere = Where::kAnywhere;
 constexpr auto kOnHardDisk = Where::kOnHardDisk;
 constexpr auto kWithChannelLine = Where::kWithChannelLine;
 constexpr auto kOnUnguardedArray = Where::kOnUnguardedArray;
+constexpr auto kOnFailedSpares = Where::kOnFailedSpares;
 constexpr auto kOnConfiguration = Where::kOnConfiguration;
 constexpr auto kOnState = Where::kOnState;
 
@@ -63,9 +64,9 @@ constexpr Meaning kDiskGone = {"the disk is missing", "check whether it was pull
 constexpr Meaning kDiskRebuilt = {"its array has no redundancy until the rebuild ends",
                                   "wait for the end of the rebuild", Effect::kRebuilding};
 constexpr Meaning kPredicted = {"the disk predicts that it will fail", "replace it soon", Effect::kPredicted};
-constexpr Meaning kLeftOutController = {"its drives are published but it is not, as after a failure", "replace it",
-                                        Effect::kController};
-constexpr Meaning kFailedController = {"the controller has failed", "replace it", Effect::kController};
+constexpr Meaning kLeftOutController = {"its drives are published but it is not, as after a failure",
+                                        "replace the controller", Effect::kController};
+constexpr Meaning kFailedController = {"the controller has failed", "replace the controller", Effect::kController};
 constexpr Meaning kTrouble = {"the controller reports trouble", "see its event log", Effect::kCounted};
 constexpr Meaning kSomeTrouble = {"the controller does not work as it should", "see its event log", Effect::kCounted};
 constexpr Meaning kCountsOffline = {"the controller counts offline logical drives: the second number",
@@ -144,6 +145,7 @@ constexpr HealthRule kRules[] = {
     {&kDiskState,        "ready",                   "rdy", kAll,     kIdle,     kNothing,           kAnywhere        },
     {&kDiskState,        "available",               "",    kNewer,   kIdle,     kNothing,           kAnywhere        },
     {&kDiskState,        "raw",                     "",    kNewer,   kIdle,     kNothing,           kAnywhere        },
+    {&kDiskState,        "foreign",                 "",    kNewer,   kIdle,     kNothing,           kAnywhere        },
     {&kDiskState,        "unconfigured",            "",    kAll,     kIdle,     kNothing,           kAnywhere        },
     {&kDiskState,        "unconfigured good",       "",    kAll,     kIdle,     kNothing,           kAnywhere        },
     {&kDiskState,        "empty",                   "emp", kQcmdrun, kIdle,     kNothing,           kAnywhere        },
@@ -186,6 +188,7 @@ constexpr HealthRule kRules[] = {
     {&kDriveCounts,      "critical",                "",    kAll,     kCritical, kCountsCritical,    kAnywhere        },
 
     {&kDefunct,          "none",                    "",    kAll,     kFine,     kNothing,           kAnywhere        },
+    {&kDefunct,          "some",                    "",    kAll,     kWarning,  kCountsDefunct,     kOnFailedSpares  },
     {&kDefunct,          "some",                    "",    kAll,     kCritical, kCountsDefunct,     kAnywhere        },
 
     {&kHeat,             "normal",                  "",    kArcconf, kFine,     kNothing,           kAnywhere        },

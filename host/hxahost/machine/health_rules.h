@@ -41,6 +41,7 @@ enum class Where {
   kOnHardDisk,        // not on tapes, enclosures, processors: some of them have no state
   kWithChannelLine,   // on controllers of utilities that print a status beside the description of the channel
   kOnUnguardedArray,  // on disks of a logical drive that is itself a finding
+  kOnFailedSpares,    // on controllers on which nothing else has failed
   kOnConfiguration,   // on the answer that says which controllers and drives there are
   kOnState,           // on answers that states are read from, not on those that are only kept
 };

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "host/hxahost/machine/state_words.h"
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
 
 namespace hxahost {
@@ -61,7 +62,15 @@ std::string DescribeDisk(const Controller& controller, std::size_t device) {
   const Device& disk = controller.devices[device];
   const std::string location = disk.location.empty() ? Printable(disk.name) : Printable(disk.location);
   const std::string identity = IdentityOf(disk);
-  return fmt::format("{}: {}{}{}", location, identity, identity.empty() ? "" : ", ", RoleOf(controller, device));
+  return fmt::format("{}{}{}, {}", location, identity.empty() ? "" : ": ", identity, RoleOf(controller, device));
+}
+
+std::string InstructionOf(const Finding& finding) {
+  const std::size_t semicolon = finding.meaning.rfind("; ");
+  if (semicolon == std::string::npos) return "";
+  const std::string text = finding.meaning.substr(semicolon + 2);
+  const std::size_t verb = std::min(text.find(' '), text.size());
+  return Upper(text.substr(0, verb)) + text.substr(verb);
 }
 
 std::string StateWord(const State& state) {

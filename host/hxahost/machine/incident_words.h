@@ -23,6 +23,9 @@ std::string RoleOf(const Controller& controller, std::size_t device);
 // The three: location, identity and role.
 std::string DescribeDisk(const Controller& controller, std::size_t device);
 
+// "REPLACE the battery" of "cached data is lost when the power fails; replace the battery"; "" where it says nothing.
+std::string InstructionOf(const Finding& finding);
+
 // "degraded" of "Degraded, Rebuilding ( Rebuild : 38 % )", "critical" of "Critical (CRT)".
 std::string StateWord(const State& state);
 

@@ -1,7 +1,6 @@
 #include "host/hxahost/machine/incidents.h"
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
 #include <set>
 #include <tuple>
@@ -14,45 +13,38 @@
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/machine/incident_words.h"
 #include "host/hxahost/machine/storage_incident.h"
-#include "host/hxahost/text/ascii.h"
+#include "host/hxahost/result/tool_answer.h"
+#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/escaping.h"
 
 namespace hxahost {
 
 namespace {
 
-std::string Sentence(std::string text) {
-  if (!text.empty()) text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
-  return text;
-}
+bool IsOfTool(const Machine& machine, std::size_t place) { return machine.findings[place].className == kToolRun; }
 
-// "the disk has failed; replace it" ends with what to do; not every meaning has such an end.
-std::string ActionOf(const Finding& finding) {
-  const std::size_t semicolon = finding.meaning.rfind("; ");
-  return semicolon == std::string::npos ? "" : Sentence(finding.meaning.substr(semicolon + 2));
-}
-
-bool IsRefusal(const std::string& answer) {
-  const std::string text = Lower(answer);
-  return text.find("administrator") != text.npos || text.find("access denied") != text.npos ||
-         text.find("access is denied") != text.npos || text.find("permission denied") != text.npos;
+// "arcconf timed out: it ran 300 s", "arcconf printed no valid report: x"; else "arcconf: its exit status is 5".
+std::string ToolHeadline(const Finding& finding) {
+  constexpr std::string_view kFailed = "failed: ";
+  std::string_view text = finding.text;
+  if (!text.starts_with(kFailed)) return fmt::format("{} {}", Printable(finding.identifier), Printable(text));
+  text.remove_prefix(kFailed.size());
+  return fmt::format("{}{} {}", Printable(finding.identifier), text.starts_with("printed ") ? "" : ":",
+                     Printable(text));
 }
 
 // One incident for all that went wrong with a utility: "arcconf: run as administrator".
 void DescribeTool(const Machine& machine, Incident& incident) {
-  const auto refused = std::ranges::find_if(incident.findings,
-                                            [&](std::size_t place) { return IsRefusal(machine.findings[place].text); });
-  const Finding& finding = machine.findings[refused == incident.findings.end() ? incident.findings.front() : *refused];
+  const auto refused = std::ranges::find_if(
+      incident.findings, [&](std::size_t place) { return IsRefusalOfUser(machine.findings[place].text); });
   if (refused != incident.findings.end()) {
-    incident.headline = finding.identifier + ": run as administrator";
-    incident.action = "Run this program again as administrator.";
+    incident.headline = machine.findings[*refused].identifier + ": run as administrator";
+    incident.action = "RUN this program again as administrator";
     return;
   }
-  const std::size_t colon = finding.text.find(": ");
-  const bool isWord = colon != std::string::npos && finding.text.starts_with("failed: ");
-  incident.headline = fmt::format("{} {}", Printable(finding.identifier),
-                                  Printable(isWord ? finding.text.substr(colon + 2) : finding.text));
-  incident.action = ActionOf(finding);
+  const auto run = std::ranges::find_if(incident.findings, [&](std::size_t place) { return IsOfTool(machine, place); });
+  incident.headline = ToolHeadline(machine.findings[*run]);
+  incident.action = InstructionOf(machine.findings[incident.findings.front()]);
 }
 
 struct Headline {
@@ -66,6 +58,19 @@ constexpr Headline kHeadlines[] = {
     {Effect::kController, "has failed"    },
 };
 
+// The battery is the one part of a controller that is replaced by itself.
+std::string BatteryPart(const Controller& controller) {
+  const std::string fru = controller.units.size() == 1 ? Printable(controller.units.front().battery.fru) : "";
+  return fru.empty() ? "" : ", FRU " + fru;
+}
+
+// Of messages that say the same again and again the last one counts.
+void DescribeMessage(const Machine& machine, Incident& incident) {
+  const Finding& finding = machine.findings[incident.findings.back()];
+  incident.headline = fmt::format("{}: \"{}\"", Printable(finding.name), Printable(finding.text));
+  incident.action = InstructionOf(finding);
+}
+
 void DescribeOther(const Machine& machine, Incident& incident) {
   const Finding& finding = machine.findings[incident.findings.front()];
   const std::string text = Printable(finding.text);
@@ -77,7 +82,10 @@ void DescribeOther(const Machine& machine, Incident& incident) {
   } else {
     incident.headline = fmt::format("{}: {} \"{}\"", Printable(finding.name), Printable(finding.property), text);
   }
-  incident.action = ActionOf(finding);
+  incident.action = InstructionOf(finding);
+  if (isOfController && finding.property == kBattery.property) {
+    incident.action += BatteryPart(machine.controllers[incident.controller]);
+  }
 }
 
 Incident Describe(const Machine& machine, const Cause& cause) {
@@ -90,8 +98,10 @@ Incident Describe(const Machine& machine, const Cause& cause) {
   }
   if (!cause.drives.empty() || !cause.devices.empty()) {
     DescribeStorage(machine, cause, incident);
-  } else if (machine.findings[cause.findings.front()].className == kToolRun) {
+  } else if (std::ranges::any_of(cause.findings, [&](std::size_t place) { return IsOfTool(machine, place); })) {
     DescribeTool(machine, incident);
+  } else if (machine.findings[cause.findings.front()].className == kEventClass) {
+    DescribeMessage(machine, incident);
   } else {
     DescribeOther(machine, incident);
   }
@@ -116,7 +126,7 @@ void AddMixedFirmware(const Machine& machine, Incidents& incidents) {
       incident.controller = place;
       incident.headline = fmt::format("{} {} has disks with different firmware: {}", ShortName(controller),
                                       ShortName(drive), fmt::join(levels, ", "));
-      incident.action = "UPDATE the disks to one firmware level at the next maintenance.";
+      incident.action = "UPDATE the disks to one firmware level at the next maintenance";
     }
   }
 }

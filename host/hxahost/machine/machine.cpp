@@ -40,6 +40,7 @@ void Describe(ControllerUnit& unit, const TPublishedInstance& instance) {
       RawText(instance, "ControllerBatteryOverTemp"),
       RawText(instance, "ControllerBatteryCapacity"),
       RawText(instance, "BatteryTimeRemaining"),
+      RawText(instance, "ControllerBatteryFRU"),
   };
   unit.serialNumber = RawText(instance, "SerialNum");
   unit.temperature = {kHeat.property, RawText(instance, kHeat.property)};

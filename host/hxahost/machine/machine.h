@@ -37,6 +37,7 @@ struct Battery {
   std::string overTemperature;
   std::string capacity;
   std::string timeRemaining;
+  std::string fru;
 };
 
 // A background operation: "Rebuild" of logical drive "3".

@@ -136,53 +136,72 @@ std::string LocationOf(const Device& device) {
   return Printable(device.location.empty() ? device.name : device.location);
 }
 
-std::string PercentText(const Situation& situation) {
-  return situation.percent ? fmt::format("{:.0f} % done", *situation.percent) : "";
-}
-
+// "is degraded", "are degraded", "has failed".
 std::string StateOf(const Situation& situation) {
   const LogicalDrive& drive = situation.controller.logicalDrives[situation.cause.drives.front()];
+  const bool isOne = situation.cause.drives.size() == 1;
+  const std::string is = isOne ? "is " : "are ";
+  const std::string has = isOne ? "has " : "have ";
   const bool isBad = HasEffect(situation.machine, drive, Effect::kDegraded) ||
                      HasEffect(situation.machine, drive, Effect::kUnreachable) ||
                      HasEffect(situation.machine, drive, Effect::kRebuilding);
-  if (!isBad && HasEffect(situation, Effect::kBadStripes)) return "has bad stripes: data was lost";
+  if (!isBad && HasEffect(situation, Effect::kBadStripes)) return has + "bad stripes: data was lost";
   const std::string word = StateWord(drive.state);
-  if (!isBad && drive.level < Level::kUnknown) return "has a failed segment";
+  if (!isBad && drive.level < Level::kUnknown) return has + "a failed segment";
   if (HasEffect(situation.machine, drive, Effect::kUnreachable) && drive.state.level < Level::kWarning) {
-    return "is blocked";
+    return is + "blocked";
   }
-  return word.empty() ? "has no state" : "is " + word;
+  if (word == "failed") return has + word;
+  return word.empty() ? has + "no state" : is + word;
 }
 
 std::string DriveHeadline(const Situation& situation) {
   std::string text = fmt::format("{} {}", NamesOf(situation, situation.cause.drives), StateOf(situation));
   if (situation.isRebuilding && LostDrives(situation).empty()) {
-    const std::string percent = PercentText(situation);
-    text += percent.empty() ? ", rebuilding" : fmt::format(", rebuilding: {}", percent);
+    if (!text.ends_with(" rebuilding")) text += ", rebuilding";
+    if (situation.percent) text += fmt::format(": {:.0f} % done", *situation.percent);
   }
   return text;
 }
 
 struct DiskHeadline {
   Effect effect;
-  std::string_view text;
+  std::string_view property;  // of the finding; "": any
+  std::string_view text;      // {} is the value
 };
 
 // The first one that the disk has.
 constexpr DiskHeadline kDiskHeadlines[] = {
-    {Effect::kDiskFailed,  "has failed"          },
-    {Effect::kDiskMissing, "is missing"          },
-    {Effect::kPredicted,   "predicts its failure"},
-    {Effect::kErrors,      "reports errors"      },
-    {Effect::kRebuilding,  "is being rebuilt"    },
-    {Effect::kOther,       "has an unknown state"},
+    {Effect::kDiskMissing, "",                "is missing"                       },
+    {Effect::kDiskFailed,  "",                "has failed"                       },
+    {Effect::kPredicted,   "",                "predicts its failure"             },
+    {Effect::kErrors,      "NumHardErrors",   "reports hard errors: {}"          },
+    {Effect::kErrors,      "NumSoftErrors",   "reports soft errors: {}"          },
+    {Effect::kErrors,      "NumParityErrors", "reports parity errors: {}"        },
+    {Effect::kErrors,      "Cur_Txer_p",      "transfers slower than it can"     },
+    {Effect::kRebuilding,  "",                "is being rebuilt"                 },
+    {Effect::kOther,       "",                "has a state that is not known: {}"},
 };
+
+// The finding that a headline is about; null where there is none.
+const Finding* FindingFor(const Situation& situation, const DiskHeadline& headline) {
+  for (const std::size_t place : situation.cause.findings) {
+    const Finding& finding = situation.machine.findings[place];
+    const bool isSame = headline.property.empty() || finding.property == headline.property;
+    if (finding.effect == headline.effect && isSame) return &finding;
+  }
+  return nullptr;
+}
 
 std::string DiskHeadlineText(const Situation& situation) {
   const Device& device = situation.controller.devices[situation.cause.devices.front()];
-  const auto* const headline =
-      std::ranges::find_if(kDiskHeadlines, [&](const DiskHeadline& each) { return HasEffect(situation, each.effect); });
-  const std::string_view text = headline == std::end(kDiskHeadlines) ? "is not well" : headline->text;
+  std::string text = "is not well";
+  for (const DiskHeadline& headline : kDiskHeadlines) {
+    const Finding* const finding = FindingFor(situation, headline);
+    if (finding == nullptr) continue;
+    text = fmt::format(fmt::runtime(headline.text), Printable(finding->text));
+    break;
+  }
   const Words words = StateWords(device.state.text);
   const bool isSpare = std::ranges::any_of(words, [](const std::string& word) { return word.ends_with("spare"); });
   return fmt::format("{} at {} {}", isSpare ? "hot spare" : "disk", LocationOf(device), text);
@@ -202,8 +221,8 @@ bool IsReadySpare(const Situation& situation, const Device& device) {
 
 std::string RestoreAction(const Situation& situation, const Places& lost) {
   const std::string disks = Described(situation, situation.failed);
-  return fmt::format("RESTORE {} from backup; first check cables and enclosure power.{}{}", NamesOf(situation, lost),
-                     disks.empty() ? "" : " Failed: ", disks);
+  return fmt::format("RESTORE {} from backup; first check cables and enclosure power{}{}", NamesOf(situation, lost),
+                     disks.empty() ? "" : ". Failed: ", disks);
 }
 
 std::string RebuildAction(const Situation& situation) {
@@ -211,19 +230,45 @@ std::string RebuildAction(const Situation& situation) {
   std::string text = fmt::format("WAIT for the rebuild{}{}", onto.empty() ? "" : " onto ", onto);
   Places others;
   std::ranges::set_difference(situation.failed, situation.rebuilding, std::back_inserter(others));
-  return text + (others.empty() ? "; then check again." : "; then PULL " + Described(situation, others));
+  return text + (others.empty() ? "; then check again" : "; then PULL " + Described(situation, others));
 }
 
+// A missing disk may have other words in its state, too: "Failed (Missing)".
+bool IsMissing(const Situation& situation, std::size_t device) {
+  return NormalWord(situation.controller.devices[device].state.text).find("missing") != std::string::npos;
+}
+
+bool IsWhole(const Situation& situation, const LogicalDrive& drive) {
+  constexpr Effect kFaults[] = {Effect::kDegraded, Effect::kUnreachable, Effect::kRebuilding, Effect::kSegment};
+  return std::ranges::none_of(kFaults, [&](Effect fault) { return HasEffect(situation.machine, drive, fault); });
+}
+
+// What else a person has to know who is about to pull the disks.
+std::string PullNote(const Situation& situation) {
+  const Controller& controller = situation.controller;
+  if (HasEffect(situation, Effect::kDegraded)) {
+    const auto spare =
+        std::ranges::find_if(controller.devices, [&](const Device& each) { return IsReadySpare(situation, each); });
+    if (spare == controller.devices.end()) return "";
+    return fmt::format(". The hot spare at {} is ready but has not taken over", LocationOf(*spare));
+  }
+  const bool isSpareGone = controller.devices[situation.failed.front()].level < Level::kCritical;
+  const bool isWhole = std::ranges::all_of(controller.logicalDrives,
+                                           [&](const LogicalDrive& drive) { return IsWhole(situation, drive); });
+  return isWhole && !isSpareGone ? ". No logical drive is degraded" : "";
+}
+
+// Drives that have lost several disks stay readable only while the others are left alone.
 std::string PullAction(const Situation& situation) {
-  const bool isMissing = std::ranges::all_of(situation.failed, [&](std::size_t device) {
-    return HasEffect(situation.machine, situation.controller.devices[device], Effect::kDiskMissing);
-  });
-  std::string text =
-      fmt::format("{} {}", isMissing ? "INSERT a disk at" : "PULL", Described(situation, situation.failed));
-  const bool hasSpare = std::ranges::any_of(situation.controller.devices,
-                                            [&](const Device& device) { return IsReadySpare(situation, device); });
-  if (HasEffect(situation, Effect::kDegraded) && hasSpare) text += ". A hot spare is ready but has not taken over";
-  return text;
+  const bool isMissing =
+      std::ranges::all_of(situation.failed, [&](std::size_t device) { return IsMissing(situation, device); });
+  std::vector<std::string> steps;
+  for (const std::size_t device : situation.failed) {
+    const std::string disk = DescribeDisk(situation.controller, device);
+    steps.push_back(fmt::format("{} {}", IsMissing(situation, device) ? "INSERT a disk at" : "PULL", disk));
+  }
+  const bool isOneByOne = !isMissing && steps.size() > 1 && HasEffect(situation, Effect::kDegraded);
+  return fmt::format("{}{}", fmt::join(steps, isOneByOne ? "; after the rebuild " : "; "), PullNote(situation));
 }
 
 // A disk that still works in an array that no longer has redundancy must stay until the array is whole.
@@ -240,7 +285,10 @@ std::string WeakDiskAction(const Situation& situation) {
     return isNeeded ? "BACK UP now; replace this disk only after the array is rebuilt: " + disk
                     : "REPLACE soon " + disk;
   }
-  if (HasEffect(situation, Effect::kErrors)) return "CHECK cable and backplane, and watch " + disk;
+  for (const DiskHeadline& headline : kDiskHeadlines) {
+    const Finding* const finding = headline.effect == Effect::kErrors ? FindingFor(situation, headline) : nullptr;
+    if (finding != nullptr) return fmt::format("{}: {}", InstructionOf(*finding), disk);
+  }
   return "CHECK " + disk;
 }
 
@@ -255,15 +303,18 @@ Action ActionOf(const Situation& situation) {
   }
   if (situation.isRebuilding) return {Urgency::kWait, RebuildAction(situation)};
   if (!situation.failed.empty()) return {Urgency::kReplace, PullAction(situation)};
-  if (situation.cause.drives.empty()) return {Urgency::kOther, WeakDiskAction(situation)};
+  if (situation.cause.drives.empty()) {
+    const Urgency urgency = HasEffect(situation, Effect::kPredicted) ? Urgency::kReplace : Urgency::kOther;
+    return {urgency, WeakDiskAction(situation)};
+  }
   const std::string drives = NamesOf(situation, situation.cause.drives);
   if (HasEffect(situation, Effect::kDegraded) || HasEffect(situation, Effect::kSegment)) {
-    return {Urgency::kReplace, fmt::format("FIND the failed disk of {}: no disk of it reports a failure.", drives)};
+    return {Urgency::kReplace, fmt::format("FIND the failed disk of {}: no disk of it reports a failure", drives)};
   }
   if (HasEffect(situation, Effect::kBadStripes)) {
-    return {Urgency::kRestore, fmt::format("RESTORE {} from backup.", drives)};
+    return {Urgency::kRestore, fmt::format("RESTORE {} from backup", drives)};
   }
-  return {Urgency::kOther, fmt::format("CHECK {} with the utility itself.", drives)};
+  return {Urgency::kOther, fmt::format("CHECK {} with the utility itself", drives)};
 }
 
 // The disks to act on: those that failed, else those that are weak or being rebuilt.

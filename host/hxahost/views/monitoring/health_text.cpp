@@ -66,6 +66,7 @@ std::string_view WhereOf(Where where) {
     case Where::kAnywhere: return "";
     case Where::kOnHardDisk: return " of a hard disk";
     case Where::kWithChannelLine: return " beside a description of the channel";
+    case Where::kOnFailedSpares: return " where hot spares alone have failed";
     case Where::kOnUnguardedArray: return " in a logical drive that is not guarded";
     case Where::kOnConfiguration: return " to getconfig";
     case Where::kOnState: break;

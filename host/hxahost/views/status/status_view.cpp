@@ -98,7 +98,7 @@ Lines AllIncidents(const HealthReport& report, std::size_t room) {
     Lines& block = blocks[place];
     if (shares[place] < block.size()) {
       block.resize(shares[place]);
-      block.back() = CutToWidth(block.back() + " ...", layout.width);
+      block.back() = CutToWidth(block.back() + " \u2026", layout.width);
     }
     std::ranges::move(block, std::back_inserter(lines));
   }
