@@ -22,6 +22,9 @@ enum class Urgency { kRestore, kReplace, kWait, kOther };
 struct Incident {
   Severity severity = Severity::kFine;  // the worst of its findings; fine: for information
   Urgency urgency = Urgency::kOther;
+  // What it is about, whatever is said of it: by this programs recognise it from one collection to the next.
+  std::string subject;
+  std::string name;                   // of the subject: "logical drive 3 (Archive) of controller 4"
   std::string headline;               // "C4 \"Archive\" (RAID 5) is degraded"
   std::string location;               // of the first disk to act on: "enclosure 0, slot 8"; "" without one
   std::string action;                 // what to do, an instruction

@@ -88,10 +88,42 @@ void DescribeOther(const Machine& machine, Incident& incident) {
   }
 }
 
+struct Part {
+  Effect effect;
+  std::string_view name;
+};
+
+// Of a controller, that have incidents of their own.
+constexpr Part kParts[] = {
+    {Effect::kHeat,    " temperature"},
+    {Effect::kBattery, " battery"    },
+};
+
+// The identifier of the first logical drive or device; else of what reports it. Values and severities are no part of
+// it: they change while the incident lasts.
+void NameSubject(const Machine& machine, const Cause& cause, Incident& incident) {
+  const Finding& finding = machine.findings[cause.findings.front()];
+  const auto name = [&](const Object& object) {
+    incident.subject = object.identifier;
+    incident.name = Printable(object.name);
+  };
+  if (!cause.drives.empty()) return name(machine.controllers[cause.controller].logicalDrives[cause.drives.front()]);
+  if (!cause.devices.empty()) return name(machine.controllers[cause.controller].devices[cause.devices.front()]);
+  incident.name = Printable(finding.name);
+  incident.subject = finding.identifier;
+  const bool isOfController = cause.controller < machine.controllers.size();
+  const auto* const part = std::ranges::find(kParts, finding.effect, &Part::effect);
+  if (isOfController && part != std::end(kParts)) incident.subject += part->name;
+  if (!isOfController && finding.instance) incident.subject = finding.name;  // records have numbers that change
+  const Words head = finding.className == kLog ? LogHead(finding.text) : Words();
+  if (!head.empty()) incident.subject += " " + head.front();
+}
+
 Incident Describe(const Machine& machine, const Cause& cause) {
   Incident incident;
   incident.controller = cause.controller;
   incident.findings = cause.findings;
+  NameSubject(machine, cause, incident);
   for (const std::size_t place : cause.findings) {
     const Severity severity = machine.findings[place].severity;
     if (IsWorse(severity, incident.severity)) incident.severity = severity;
@@ -124,6 +156,8 @@ void AddMixedFirmware(const Machine& machine, Incidents& incidents) {
       if (models.size() != 1 || levels.size() < 2) continue;
       Incident& incident = incidents.emplace_back();
       incident.controller = place;
+      incident.subject = drive.identifier + " firmware";
+      incident.name = Printable(drive.name);
       incident.headline = fmt::format("{} {} has disks with different firmware: {}", ShortName(controller),
                                       ShortName(drive), fmt::join(levels, ", "));
       incident.action = "UPDATE the disks to one firmware level at the next maintenance";

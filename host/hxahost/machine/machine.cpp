@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "host/hxahost/machine/counts.h"
 #include "host/hxahost/machine/device_names.h"
 #include "host/hxahost/machine/device_owners.h"
 #include "host/hxahost/machine/health.h"
@@ -15,6 +16,7 @@
 #include "host/hxahost/machine/operations.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/text/ascii.h"
 
 using NKVRHXA20::TPublishedInstance;
 
@@ -35,16 +37,19 @@ void SetPlace(Device& device, const TPublishedInstance& instance) {
 void Describe(ControllerUnit& unit, const TPublishedInstance& instance) {
   unit.model = RawText(instance, "ControllerType");
   const std::string battery = RawText(instance, kBattery.property);
+  const std::string capacity = RawText(instance, "ControllerBatteryCapacity");
   unit.battery = {
       {kBattery.property, battery, JudgeText(kBattery, battery).level},
       RawText(instance, "ControllerBatteryOverTemp"),
-      RawText(instance, "ControllerBatteryCapacity"),
+      capacity,
+      LeadingNumber(capacity),
       RawText(instance, "BatteryTimeRemaining"),
       RawText(instance, "ControllerBatteryFRU"),
   };
   unit.serialNumber = RawText(instance, "SerialNum");
   unit.temperature = {kHeat.property, RawText(instance, kHeat.property)};
   unit.temperature.level = JudgeText(kHeat, unit.temperature.text).level;
+  unit.celsius = LeadingNumber(unit.temperature.text);
 }
 
 void Describe(LogicalDrive& drive, const TPublishedInstance& instance) {
@@ -164,6 +169,7 @@ Machine BuildMachine(const QueryHeader& header, const QueryResult& result) {
   for (Controller& controller : machine.controllers) FindMembers(controller, result.instances);
   FindFirmware(machine.controllers, result.instances);
   FindOperations(machine.controllers, result.instances);
+  FindCounts(machine.controllers, result.instances);
   Judge(machine, header, result);
   FindIncidents(machine, result.instances);
   return machine;

@@ -36,6 +36,7 @@ struct Battery {
   State state;
   std::string overTemperature;
   std::string capacity;
+  std::optional<double> percent;  // that the capacity says, where it can be read
   std::string timeRemaining;
   std::string fru;
 };
@@ -54,6 +55,7 @@ struct ControllerUnit : Object {
   std::string serialNumber;
   std::string firmware;
   State temperature;
+  std::optional<double> celsius;  // that the temperature says, where it can be read
   Battery battery;
   std::vector<Operation> operations;
 };
@@ -64,14 +66,23 @@ struct LogicalDrive : Object {
   std::string title;      // "Archive"; "" where it has no name
   std::string raidLevel;  // "5"
   std::string size;
-  std::optional<std::uint64_t> bytes;  // that the size says, where it can be read
-  std::vector<std::size_t> groups;     // that it is built on
-  std::vector<std::size_t> devices;    // that its own lists name
-  std::vector<std::size_t> members;    // all of its devices, in their order
+  std::optional<std::uint64_t> bytes;       // that the size says, where it can be read
+  std::optional<std::uint64_t> badStripes;  // in which data was lost
+  std::vector<std::size_t> groups;          // that it is built on
+  std::vector<std::size_t> devices;         // that its own lists name
+  std::vector<std::size_t> members;         // all of its devices, in their order
 };
 
 struct DiskGroup : Object {
   std::vector<std::size_t> devices;
+};
+
+// That its controller counted on a device.
+struct ErrorCounts {
+  std::uint64_t hard = 0;
+  std::uint64_t soft = 0;
+  std::uint64_t parity = 0;
+  std::uint64_t other = 0;
 };
 
 enum class HardwareKind { kDisk, kTape, kEnclosure, kOther };
@@ -90,6 +101,7 @@ struct Device : Object {
   std::string firmware;
   std::string size;
   std::optional<std::uint64_t> bytes;      // that the size says, where it can be read
+  std::optional<ErrorCounts> errors;       // where its utility counts them
   std::vector<std::size_t> logicalDrives;  // that it is a member of
 };
 

@@ -1,10 +1,8 @@
 #include "host/hxahost/machine/operations.h"
 
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 #include "host/hxacore/value_reader.h"
@@ -22,18 +20,12 @@ namespace {
 
 constexpr double kWhole = 100.0;
 
-std::optional<double> ReadNumber(std::string_view text) {
-  double number = 0;
-  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-  return error == std::errc() ? std::optional(number) : std::nullopt;
-}
-
 bool IsUnder(std::string_view word) { return word != "none" && !word.empty(); }
 
 // "4442880" stripes, "1466150" of them remaining.
 std::optional<double> PercentOf(const std::string& stripes, const std::string& remaining) {
-  const auto all = ReadNumber(stripes);
-  const auto left = ReadNumber(remaining);
+  const auto all = LeadingNumber(stripes);
+  const auto left = LeadingNumber(remaining);
   if (!all || !left || !(*all > 0) || !(*left >= 0 && *left <= *all)) return std::nullopt;
   return (*all - *left) / *all * kWhole;
 }
@@ -66,7 +58,7 @@ std::vector<Operation> OperationsIn(const std::vector<TCIMValue>& lines) {
     if (label == "logical drive number") operations.push_back({"", value, "", std::nullopt, true});
     if (operations.empty()) continue;
     if (label == "current operation") operations.back().name = value;
-    if (label == "percentage complete") operations.back().percent = ReadNumber(value);
+    if (label == "percentage complete") operations.back().percent = LeadingNumber(value);
   }
   std::erase_if(operations, [](const Operation& each) { return !IsUnder(NormalWord(each.name)); });
   return operations;

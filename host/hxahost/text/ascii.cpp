@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
+#include <cmath>
+#include <system_error>
 
 #include "host/hxacore/ignore_case.h"
 
@@ -45,6 +48,13 @@ std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view
   }
   pieces.push_back(text);
   return pieces;
+}
+
+// "nan" and "inf" would be numbers, too.
+std::optional<double> LeadingNumber(std::string_view text) {
+  double number = 0;
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+  return error == std::errc() && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 bool IsDigits(std::string_view text) { return !text.empty() && text.find_first_not_of("0123456789") == text.npos; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,9 @@ std::string WithSingleBlanks(std::string_view text);
 // Where the words begin in the text, from the given place on, with no letter or digit directly around them; npos where
 // they do not.
 std::size_t FindWords(std::string_view text, std::string_view words, std::size_t from = 0);
+
+// 46 of "46 C/ 114 F": the decimal number that the text begins with.
+std::optional<double> LeadingNumber(std::string_view text);
 
 // Whether the text is a decimal number without a sign.
 bool IsDigits(std::string_view text);
