@@ -55,8 +55,8 @@ TEST(Health, IsAsBadAsTheOneThingThatIsWrong) {
   ExpectHealth("Status of logical drive                  : Okay", "Status of logical drive                  : Odd", 3,
                "UNKNOWN: 1 unknown on HOST");
   ExpectHealth("Controller Status                        : Okay", "Controller Status                        : Failed",
-               2, "critical: controller 1 [Zentraxis1]: ControllerNum \"Failed\"");
-  ExpectHealth("Command completed successfully.", "", 3, "[hrconf_64]: outcome \"cut off");
+               2, "critical C1 has failed");
+  ExpectHealth("Command completed successfully.", "", 3, "unknown  hrconf_64 cut off");
 }
 
 TEST(Health, IsUnknownWhereAUtilityIsMissing) {
@@ -66,7 +66,7 @@ TEST(Health, IsUnknownWhereAUtilityIsMissing) {
   ProgramResult result = HealthOf(machine);
   EXPECT_EQ(result.exitStatus, 3);
   EXPECT_THAT(result.out, AllOf(HasSubstr("UNKNOWN: 1 unknown on HOST (1 controller"),
-                                HasSubstr("[arcconf]: outcome \"not started")));
+                                HasSubstr("unknown  arcconf not started")));
   machine.RemoveTool("qcmdrun");
   machine.RemoveTool("hrconf_64");
   result = HealthOf(machine);

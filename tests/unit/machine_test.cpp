@@ -228,7 +228,10 @@ TEST(Machine, IsJudgedAlikeInTablesReportHealthAndMetrics) {
     EXPECT_EQ(std::to_string(static_cast<int>(WorstOf(built.findings))), each.status);
     std::ostringstream metrics;
     WriteHealthMetrics(metrics, {header, result, built, 0});
-    EXPECT_THAT(metrics.str(), HasSubstr(",state=\"" + std::string(each.text) + "\"} " + each.status + "\n"));
+    const std::string labels = "_state{controller=\"2\",tool=\"arcconf\",";
+    const std::string series =
+        property == "State" ? "zenx_disk" + labels + "disk=\"0,1\"} " : "zenx_logical_drive" + labels + "drive=\"1\"} ";
+    EXPECT_THAT(metrics.str(), HasSubstr(series + each.status + "\n"));
   }
 }
 

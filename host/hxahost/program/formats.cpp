@@ -21,6 +21,7 @@ constexpr Format kFormats[] = {
     {"diff",   "text",       WriteDiffText                                                 },
     {"diff",   "json",       WriteDiffJson                                                 },
     {"health", "text",       WriteHealthText                                               },
+    {"health", "nagios",     WriteHealthNagios                                             },
     {"health", "json",       WriteHealthJson                                               },
     {"health", "prometheus", WriteHealthMetrics                                            },
     {"query",  "table",      QueryWriter{BeginTables, WriteQueryTables, EndTables}         },

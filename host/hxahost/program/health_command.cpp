@@ -1,5 +1,7 @@
 #include "host/hxahost/program/health_command.h"
 
+#include <exception>
+
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_command.h"
@@ -21,7 +23,7 @@ Verdict Examine(std::string_view command, const QueryOptions& options, std::ostr
   QueryDisplay display;
   display.begin = [](std::ostream&, const QueryHeader&) {};
   display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
-    const HealthReport report{header, result, BuildMachine(header, result), result.seconds};
+    const HealthReport report{header, result, BuildMachine(header, result), result.seconds, query.isVerbose};
     verdict = {WorstOf(report.machine.findings), !report.machine.controllers.empty()};
     write(shown, report);
   };
@@ -33,7 +35,12 @@ Verdict Examine(std::string_view command, const QueryOptions& options, std::ostr
 }  // namespace
 
 Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
-  return Examine("health", options, out, err).severity;
+  try {
+    return Examine("health", options, out, err).severity;
+  } catch (const std::exception& failure) {
+    if (options.format == "nagios") WriteNagiosFailure(out, failure.what());  // it reads standard output alone
+    throw;
+  }
 }
 
 ExitStatus RunStatusCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {

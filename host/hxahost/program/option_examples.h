@@ -39,8 +39,10 @@ inline constexpr const char* kStatusExamples =
 
 inline constexpr const char* kHealthExamples =
     "Examples:\n"
-    "  hxahost health                                                what is wrong, one line each, worst first\n"
+    "  hxahost health                                                what is wrong, worst first, with what to do\n"
     "  hxahost health --directory C:\\tools                           with the tools in C:\\tools\\zenx\n"
+    "  hxahost health --verbose                                      with the findings that this sums up\n"
+    "  hxahost health --format nagios                                for Nagios and its relatives\n"
     "  hxahost health --format prometheus --output DIR/zenx.prom     for the node exporter's textfile collector\n"
     "  hxahost health --rules                                        which words mean what\n"
     "\n"

@@ -137,9 +137,12 @@ void AddStatus(CLI::App& status, TypedOptions& typed) {
 }
 
 void AddHealth(CLI::App& health, TypedOptions& typed) {
-  AddFormat(health, typed.healthFormat, ": lines for people, JSON for programs, metrics");
+  AddFormat(health, typed.healthFormat, ": lines for people, for Nagios, for programs, metrics");
+  health.add_flag("-v,--verbose", typed.read.isVerbose, "Show below each incident the findings that it sums up");
   health.add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
   AddLimits(health, typed);
+  AddLayout(health, typed);
+  AddColour(health, typed);
   AddCollecting(health, typed);
 }
 

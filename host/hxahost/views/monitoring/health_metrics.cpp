@@ -2,216 +2,274 @@
 #include <chrono>
 #include <optional>
 #include <span>
-#include <sstream>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 #include <vector>
 
-#include <fmt/core.h>
-
-#include "host/hxahost/machine/device_names.h"
-#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/machine/state_words.h"
 #include "host/hxahost/schema/class_names.h"
-#include "host/hxahost/text/ascii.h"
-#include "host/hxahost/text/escaping.h"
-#include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/health_report.h"
+#include "host/hxahost/views/monitoring/metric_family.h"
 
-using NKVRHXA20::TPublishedInstance;
-
+// The labels of a series are what tells objects apart and does not change with their state. What may change is a value,
+// or a text of a series *_info.
 namespace hxahost {
 
 namespace {
 
-using Labels = std::vector<std::pair<std::string_view, std::string>>;
+using Number = std::optional<double>;
 
-// The format knows three escapes. Other control characters are spelt out, so that the file can be looked at.
-std::string LabelValue(const std::string& bytes) {
-  std::string value;
-  std::istringstream lines(AsUtf8(bytes));
-  std::string separator;
-  for (std::string line; std::getline(lines, line); separator = "\\n") {
-    value += separator;
-    for (const char character : EscapeControls(line)) {
-      if (character == '\\' || character == '"') value += '\\';
-      value += character;
-    }
-  }
-  return value;
-}
+double NumberOf(Severity severity) { return static_cast<double>(severity); }
 
-std::string LabelText(const Labels& labels) {
-  std::string text;
-  for (const auto& [name, value] : labels) {
-    text += fmt::format("{}{}=\"{}\"", text.empty() ? "{" : ",", name, LabelValue(value));
-  }
-  return text.empty() ? text : text + "}";
-}
-
-// One metric. A reader refuses the whole file when a sample comes twice, which controllers of two utilities with one
-// number can bring about: the larger value counts.
-class Family {
- public:
-  Family(std::string_view name, std::string_view help) : name_(name), help_(help) {}
-
-  void Add(const Labels& labels, const std::string& value) {
-    const auto [place, isNew] = places_.emplace(LabelText(labels), samples_.size());
-    if (isNew) {
-      samples_.emplace_back(place->first, value);
-    } else if (std::stod(value) > std::stod(samples_[place->second].second)) {
-      samples_[place->second].second = value;
-    }
-  }
-
-  void Write(std::ostream& out) const {
-    if (samples_.empty()) return;
-    out << "# HELP " << name_ << ' ' << help_ << "\n# TYPE " << name_ << " gauge\n";
-    for (const auto& [labels, value] : samples_) out << name_ << labels << ' ' << value << '\n';
-  }
-
- private:
-  std::string_view name_;
-  std::string_view help_;
-  std::vector<std::pair<std::string, std::string>> samples_;  // labels and value, in the order of their coming
-  std::unordered_map<std::string, std::size_t> places_;       // of the labels among them
-};
-
-// A metric of one sample without labels.
-void WriteNumber(std::ostream& out, std::string_view name, std::string_view help, const std::string& value) {
-  Family family(name, help);
-  family.Add({}, value);
+// A metric of one sample.
+void WriteNumber(std::ostream& out, const MetricName& name, double value, const Labels& labels = {}) {
+  MetricFamily family(name);
+  family.Add(labels, value);
   family.Write(out);
 }
 
-std::string SeverityNumber(Severity severity) { return std::to_string(static_cast<int>(severity)); }
-
-void WriteStatus(std::ostream& out, const Findings& findings) {
-  WriteNumber(out, "zenx_health_status", "The worst of all findings: 0 ok, 1 warning, 2 critical, 3 unknown.",
-              SeverityNumber(WorstOf(findings)));
-  Family counts("zenx_findings", "How many findings there are.");
-  for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
-    const Labels labels = {
-        {"severity", std::string(SeverityWord(severity))}
-    };
-    counts.Add(labels, std::to_string(std::ranges::count(findings, severity, &Finding::severity)));
-  }
-  counts.Write(out);
-}
-
-// The text is left out: a count in it would make a new series each time that it changes.
-void WriteFindingMetrics(std::ostream& out, const Findings& findings) {
-  Family family("zenx_finding", "1 for each thing that is wrong or not known.");
-  for (const Finding& finding : findings) {
-    const Labels labels = {
-        {"severity",   std::string(SeverityWord(finding.severity))},
-        {"class",      finding.className                          },
-        {"identifier", finding.identifier                         },
-        {"property",   finding.property                           },
-    };
-    family.Add(labels, "1");
-  }
-  family.Write(out);
-}
-
-struct LabelSource {
-  std::string_view label;
-  std::string_view property;
-};
-
-constexpr LabelSource kControllerLabels[] = {
-    {"controller", "ControllerNum" },
-    {"model",      "ControllerType"},
-};
-
-constexpr LabelSource kDriveLabels[] = {
-    {"controller", "ControllerNum"   },
-    {"drive",      "LogicalDriveNum" },
-    {"name",       "LogicalDriveName"},
-    {"raid_level", "RaidLevel"       },
-};
-
-constexpr LabelSource kDiskLabels[] = {
-    {"controller", "ControllerNum"},
-    {"channel",    "Channel"      },
-    {"id",         "ScsiId"       },
-    {"type",       "DeviceType"   },
-};
-
-constexpr LabelSource kStripeLabels[] = {
-    {"controller", "ControllerNum"},
-    {"drive",      "LogicalDrive" },
-};
-
-Labels LabelValues(const TPublishedInstance& instance, std::span<const LabelSource> sources) {
-  Labels labels = {
-      {"identifier", IdentifierOf(instance)}
+// Controllers of two utilities may share a number.
+Labels LabelsOf(const Controller& controller) {
+  return {
+      {"controller", controller.number           },
+      {"tool",       std::string(controller.tool)}
   };
-  for (const LabelSource& source : sources) labels.emplace_back(source.label, RawText(instance, source.property));
+}
+
+Labels LabelsOf(const Controller& controller, const ControllerUnit&) { return LabelsOf(controller); }
+
+Labels LabelsOf(const Controller& controller, const LogicalDrive& drive) {
+  Labels labels = LabelsOf(controller);
+  labels.emplace_back("drive", drive.number);
   return labels;
 }
 
-// States that are shown with their severity.
-struct StateFamily {
-  std::string_view className;
+// "0,8", as the utilities write channel and ID.
+Labels LabelsOf(const Controller& controller, const Device& device) {
+  Labels labels = LabelsOf(controller);
+  const bool hasPlace = !device.channel.empty() || !device.id.empty();
+  labels.emplace_back("disk", hasPlace ? device.channel + "," + device.id : device.identifier);
+  return labels;
+}
+
+// ---- Values and texts of objects: rows of tables
+
+constexpr std::string_view kGauge = "gauge";
+constexpr std::string_view kCounter = "counter";
+
+template <class Kind>
+struct ObjectValue {
   std::string_view name;
-  std::span<const LabelSource> labels;
+  std::string_view help;
+  std::string_view type;
+  Number (*read)(const Kind& object);
 };
 
-constexpr std::string_view kStateHelp = "0 ok, 1 warning, 2 critical, 3 unknown; state: as the utility prints it.";
-
-constexpr StateFamily kStateFamilies[] = {
-    {kControllerClass,  "zenx_controller_state",   kControllerLabels},
-    {kLogicalDiskClass, "zenx_logical_disk_state", kDriveLabels     },
-    {kDiskDriveClass,   "zenx_disk_state",         kDiskLabels      },
+template <class Kind>
+struct ObjectText {
+  std::string_view label;
+  std::string Kind::*text;
 };
 
-void WriteStates(std::ostream& out, const HealthReport& report) {
-  for (const StateFamily& state : kStateFamilies) {
-    Family family(state.name, kStateHelp);
-    for (const Controller& controller : report.machine.controllers) {
-      for (const Object* const object : ObjectsOf(controller, state.className)) {
-        const Severity severity = SeverityOf(object->state.level);
-        if (object->state.text.empty() && severity == Severity::kFine) continue;
-        Labels labels = LabelValues(*report.result.instances[object->instance], state.labels);
-        labels.emplace_back("state", object->state.text);
-        family.Add(labels, SeverityNumber(severity));
+template <class Kind>
+Number StateOf(const Kind& object) {
+  return NumberOf(SeverityOf(object.level));
+}
+
+template <class Kind>
+Number SizeOf(const Kind& object) {
+  return object.bytes ? Number(static_cast<double>(*object.bytes)) : std::nullopt;
+}
+
+template <std::uint64_t ErrorCounts::*count>
+Number ErrorsOf(const Device& device) {
+  return device.errors ? Number(static_cast<double>((*device.errors).*count)) : std::nullopt;
+}
+
+Number BadStripesOf(const LogicalDrive& drive) {
+  return drive.badStripes ? Number(static_cast<double>(*drive.badStripes)) : std::nullopt;
+}
+
+Number CelsiusOf(const ControllerUnit& unit) { return unit.celsius; }
+
+Number BatteryStateOf(const ControllerUnit& unit) {
+  return unit.battery.state.text.empty() ? std::nullopt : Number(NumberOf(SeverityOf(unit.battery.state.level)));
+}
+
+constexpr double kPercent = 100.0;
+
+Number ChargeOf(const ControllerUnit& unit) {
+  return unit.battery.percent ? Number(*unit.battery.percent / kPercent) : std::nullopt;
+}
+
+constexpr std::string_view kStateHelp = "As it is judged: 0 ok, 1 warning, 2 critical, 3 unknown.";
+
+constexpr ObjectValue<ControllerUnit> kUnitValues[] = {
+    {"zenx_controller_state",               kStateHelp,                               kGauge, StateOf<ControllerUnit>},
+    {"zenx_controller_temperature_celsius", "Temperature of the controller.",         kGauge, CelsiusOf              },
+    {"zenx_battery_state",                  kStateHelp,                               kGauge, BatteryStateOf         },
+    {"zenx_battery_charge_ratio",           "Charge of the cache's battery, 0 to 1.", kGauge, ChargeOf               },
+};
+
+constexpr ObjectValue<LogicalDrive> kDriveValues[] = {
+    {"zenx_logical_drive_state",       kStateHelp,                        kGauge, StateOf<LogicalDrive>},
+    {"zenx_logical_drive_size_bytes",  "Size of the logical drive.",      kGauge, SizeOf<LogicalDrive> },
+    {"zenx_logical_drive_bad_stripes", "Stripes in which data was lost.", kGauge, BadStripesOf         },
+};
+
+constexpr ObjectValue<Device> kDeviceValues[] = {
+    {"zenx_disk_state",               kStateHelp,                        kGauge,   StateOf<Device>               },
+    {"zenx_disk_size_bytes",          "Size of the disk.",               kGauge,   SizeOf<Device>                },
+    {"zenx_disk_hard_errors_total",   "Errors that were not corrected.", kCounter, ErrorsOf<&ErrorCounts::hard>  },
+    {"zenx_disk_soft_errors_total",   "Errors that were corrected.",     kCounter, ErrorsOf<&ErrorCounts::soft>  },
+    {"zenx_disk_parity_errors_total", "Errors of transfers.",            kCounter, ErrorsOf<&ErrorCounts::parity>},
+    {"zenx_disk_other_errors_total",  "Other errors.",                   kCounter, ErrorsOf<&ErrorCounts::other> },
+};
+
+constexpr ObjectText<ControllerUnit> kUnitTexts[] = {
+    {"model",    &ControllerUnit::model       },
+    {"serial",   &ControllerUnit::serialNumber},
+    {"firmware", &ControllerUnit::firmware    },
+};
+
+constexpr ObjectText<LogicalDrive> kDriveTexts[] = {
+    {"name",       &LogicalDrive::title    },
+    {"raid_level", &LogicalDrive::raidLevel},
+};
+
+constexpr ObjectText<Device> kDeviceTexts[] = {
+    {"location", &Device::location    },
+    {"type",     &Device::type        },
+    {"vendor",   &Device::vendor      },
+    {"model",    &Device::model       },
+    {"serial",   &Device::serialNumber},
+    {"fru",      &Device::fru         },
+    {"firmware", &Device::firmware    },
+};
+
+template <class Kind>
+void WriteObjects(std::ostream& out, const Machine& machine, std::vector<Kind> Controller::*objects,
+                  const MetricName& info, std::span<const ObjectText<Kind>> texts,
+                  std::span<const ObjectValue<Kind>> values) {
+  MetricFamily infos(info);
+  for (const Controller& controller : machine.controllers) {
+    for (const Kind& object : controller.*objects) {
+      Labels labels = LabelsOf(controller, object);
+      for (const ObjectText<Kind>& text : texts) labels.emplace_back(text.label, object.*(text.text));
+      infos.Add(labels, 1);
+    }
+  }
+  infos.Write(out);
+  for (const ObjectValue<Kind>& value : values) {
+    MetricFamily family({value.name, value.help, value.type});
+    for (const Controller& controller : machine.controllers) {
+      for (const Kind& object : controller.*objects) {
+        if (const Number number = value.read(object)) family.Add(LabelsOf(controller, object), *number);
       }
     }
     family.Write(out);
   }
 }
 
-void WriteBadStripes(std::ostream& out, const InstanceList& instances) {
-  Family family("zenx_bad_stripes", "Stripes of the logical drive in which data was lost.");
-  for (const auto& instance : instances) {
-    const std::string count = RawText(*instance, "NumBadStripes");
-    if (IsDigits(count)) family.Add(LabelValues(*instance, kStripeLabels), count);
+void WriteOperations(std::ostream& out, const Machine& machine) {
+  MetricFamily family({"zenx_operation_ratio", "Part of a running operation that is done, 0 to 1."});
+  for (const Controller& controller : machine.controllers) {
+    for (const ControllerUnit& unit : controller.units) {
+      for (const Operation& operation : unit.operations) {
+        if (!operation.isActive || !operation.percent) continue;
+        Labels labels = LabelsOf(controller);
+        labels.emplace_back("drive", operation.logicalDrive);
+        labels.emplace_back("operation", NormalWord(operation.name));
+        family.Add(labels, *operation.percent / kPercent);
+      }
+    }
   }
   family.Write(out);
 }
 
-struct CountFamily {
-  std::string_view className;
-  std::string_view name;
-  std::string_view help;
-};
+// ---- Incidents
 
-constexpr CountFamily kCounts[] = {
-    {kControllerClass,  "zenx_controllers",   "Controllers that were published."            },
-    {kLogicalDiskClass, "zenx_logical_disks", "Logical drives that were published."         },
-    {kDiskDriveClass,   "zenx_disks",         "Disks and other devices that were published."},
-};
+Labels LabelsOf(const Machine& machine, const Incident& incident) {
+  const bool isOfController = incident.controller < machine.controllers.size();
+  Labels labels = isOfController ? LabelsOf(machine.controllers[incident.controller]) : Labels();
+  labels.emplace_back("subject", incident.subject);
+  return labels;
+}
 
-void WriteCountMetrics(std::ostream& out, const Machine& machine) {
-  for (const CountFamily& count : kCounts) {
-    WriteNumber(out, count.name, count.help, std::to_string(CountOf(machine, count.className)));
+Labels TextsOf(const Machine& machine, const Incident& incident) {
+  Labels labels = LabelsOf(machine, incident);
+  labels.emplace_back("name", incident.name);
+  labels.emplace_back("location", incident.location);
+  if (incident.disks.empty()) return labels;
+  const DeviceRef& disk = incident.disks.front();
+  const Device& device = machine.controllers[disk.controller].devices[disk.device];
+  labels.emplace_back("model", device.model);
+  labels.emplace_back("serial", device.serialNumber);
+  labels.emplace_back("fru", device.fru);
+  return labels;
+}
+
+double NumberOf(Urgency urgency) {
+  switch (urgency) {
+    case Urgency::kWait: return 1;
+    case Urgency::kReplace: return 2;
+    case Urgency::kRestore: return 3;
+    case Urgency::kOther: break;
   }
+  return 0;
+}
+
+void WriteIncidents(std::ostream& out, const Machine& machine) {
+  MetricFamily counts({"zenx_incidents", "How many incidents there are."});
+  for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
+    const auto count = std::ranges::count(machine.incidents, severity, &Incident::severity);
+    counts.Add(
+        {
+            {"severity", std::string(SeverityWord(severity))}
+    },
+        static_cast<double>(count));
+  }
+  MetricFamily severities({"zenx_incident", "One cause of trouble: 0 information, 1 warning, 2 critical, 3 unknown."});
+  MetricFamily actions({"zenx_incident_action",
+                        "What the incident calls for: 0 see hxahost health, 1 wait for the end of a rebuild, 2 replace "
+                        "the disk, 3 restore from a backup."});
+  MetricFamily texts({"zenx_incident_info", "What the incident is about, and the first disk to act on."});
+  for (const Incident& incident : machine.incidents) {
+    const Labels labels = LabelsOf(machine, incident);
+    severities.Add(labels, NumberOf(incident.severity));
+    actions.Add(labels, NumberOf(incident.urgency));
+    texts.Add(TextsOf(machine, incident), 1);
+  }
+  for (const MetricFamily* const family : {&counts, &severities, &actions, &texts}) family->Write(out);
+}
+
+// ---- The collection
+
+struct CountMetric {
+  std::string_view className;
+  MetricName metric;
+};
+
+constexpr CountMetric kCounts[] = {
+    {kControllerClass,  {"zenx_controllers", "Controllers that were published."}      },
+    {kLogicalDiskClass, {"zenx_logical_drives", "Logical drives that were published."}},
+    {kDiskDriveClass,   {"zenx_disks", "Disks and other devices that were published."}},
+};
+
+void WriteTools(std::ostream& out, const HealthReport& report) {
+  MetricFamily family({"zenx_tool_up", "1 where the utility was run and nothing went wrong, else 0."});
+  for (const ToolHealth& each : ToolHealthOf(report)) {
+    family.Add(
+        {
+            {"tool", std::string(each.tool)}
+    },
+        each.isUp ? 1 : 0);
+  }
+  family.Write(out);
 }
 
 // From the CIM form, yyyymmddhhmmss.mmmmmmsutc; nothing for a time that is none.
-std::optional<long long> SecondsSince1970(const std::string& cim) {
+Number SecondsSince1970(const std::string& cim) {
   if (cim.size() != 25 || cim.find('*') != cim.npos) return std::nullopt;
   const auto number = [&cim](std::size_t begin, std::size_t length) { return std::stoi(cim.substr(begin, length)); };
   const std::chrono::year_month_day date(std::chrono::year(number(0, 4)),
@@ -221,25 +279,40 @@ std::optional<long long> SecondsSince1970(const std::string& cim) {
   const auto local = std::chrono::sys_days(date) + std::chrono::hours(number(8, 2)) +
                      std::chrono::minutes(number(10, 2)) + std::chrono::seconds(number(12, 2));
   const auto offset = std::chrono::minutes(number(22, 3)) * (cim[21] == '-' ? -1 : 1);
-  return std::chrono::duration_cast<std::chrono::seconds>((local - offset).time_since_epoch()).count();
+  return static_cast<double>(
+      std::chrono::duration_cast<std::chrono::seconds>((local - offset).time_since_epoch()).count());
 }
 
 void WriteCollection(std::ostream& out, const HealthReport& report) {
-  WriteNumber(out, "zenx_collection_seconds", "How long the collection took.", fmt::format("{:.3f}", report.seconds));
-  const auto time = SecondsSince1970(report.header.time.ToString());
+  WriteNumber(out,
+              {
+                  "zenx_build_info", "The version that collected."
+  },
+              1, {{"version", ZENX_VERSION}});
+  WriteNumber(out, {"zenx_collection_duration_seconds", "How long the collection took."}, report.seconds);
+  const Number time = SecondsSince1970(report.header.time.ToString());
   if (!time) return;
-  WriteNumber(out, "zenx_collection_timestamp_seconds", "When the collection began, in seconds since 1970.",
-              std::to_string(*time));
+  WriteNumber(out, {"zenx_collection_timestamp_seconds", "When the collection began, in seconds since 1970."}, *time);
 }
 
 }  // namespace
 
 void WriteHealthMetrics(std::ostream& out, const HealthReport& report) {
-  WriteStatus(out, report.machine.findings);
-  WriteFindingMetrics(out, report.machine.findings);
-  WriteStates(out, report);
-  WriteBadStripes(out, report.result.instances);
-  WriteCountMetrics(out, report.machine);
+  const Machine& machine = report.machine;
+  WriteNumber(out, {"zenx_health_status", "The worst of all findings: 0 ok, 1 warning, 2 critical, 3 unknown."},
+              NumberOf(WorstOf(machine.findings)));
+  WriteIncidents(out, machine);
+  WriteObjects<ControllerUnit>(out, machine, &Controller::units, {"zenx_controller_info", "What the controller is."},
+                               kUnitTexts, kUnitValues);
+  WriteOperations(out, machine);
+  WriteObjects<LogicalDrive>(out, machine, &Controller::logicalDrives,
+                             {"zenx_logical_drive_info", "What the logical drive is."}, kDriveTexts, kDriveValues);
+  WriteObjects<Device>(out, machine, &Controller::devices, {"zenx_disk_info", "What the disk is, and where."},
+                       kDeviceTexts, kDeviceValues);
+  for (const CountMetric& count : kCounts) {
+    WriteNumber(out, count.metric, static_cast<double>(CountOf(machine, count.className)));
+  }
+  WriteTools(out, report);
   WriteCollection(out, report);
 }
 

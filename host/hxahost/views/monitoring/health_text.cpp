@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <set>
 #include <string>
 
@@ -6,35 +5,16 @@
 
 #include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/terminal/wrap.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
+#include "host/hxahost/views/incident_lines.h"
 #include "host/hxahost/views/monitoring/finding_line.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 
 namespace hxahost {
 
 namespace {
-
-std::string Counted(const Machine& machine, std::string_view className, std::string_view what) {
-  const std::size_t count = CountOf(machine, className);
-  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
-}
-
-std::string Inventory(const Machine& machine) {
-  return fmt::format("{}, {}, {}", Counted(machine, kControllerClass, "controller"),
-                     Counted(machine, kLogicalDiskClass, "logical drive"), Counted(machine, kDiskDriveClass, "device"));
-}
-
-// "4 critical, 1 warning"
-std::string Tally(const Findings& findings) {
-  std::string tally;
-  for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
-    const auto count = std::ranges::count(findings, severity, &Finding::severity);
-    if (count == 0) continue;
-    tally += fmt::format("{}{} {}", tally.empty() ? "" : ", ", count, SeverityWord(severity));
-  }
-  return tally;
-}
 
 std::string ToolsThatRan(const ToolRunList& runs) {
   std::set<std::string> seen;
@@ -52,7 +32,7 @@ std::string Summary(const HealthReport& report) {
   if (machine.findings.empty() && CountOf(machine, kControllerClass) == 0) {
     return fmt::format("no controller on {}: {} answered that there is none", name, ToolsThatRan(report.result.runs));
   }
-  const std::string verdict = machine.findings.empty() ? "nothing is wrong" : Tally(machine.findings);
+  const std::string verdict = machine.findings.empty() ? "nothing is wrong" : Tally(machine.incidents);
   return fmt::format("{} on {} ({})", verdict, name, Inventory(machine));
 }
 
@@ -74,13 +54,34 @@ std::string_view WhereOf(Where where) {
   return " to any command but getlogs";
 }
 
+void WriteFindings(std::ostream& out, const Machine& machine, const Incident& incident, const Layout& layout) {
+  const std::string indent(kIncidentIndent, ' ');
+  for (const std::size_t place : incident.findings) {
+    std::string_view mark = "- ";
+    for (const std::string& line :
+         WrapWords(FindingText(machine.findings[place]), layout.width - indent.size() - mark.size())) {
+      out << indent << mark << line << '\n';
+      mark = "  ";
+    }
+  }
+}
+
 }  // namespace
 
-// The first line is what monitoring programs show.
 void WriteHealthText(std::ostream& out, const HealthReport& report) {
-  out << Upper(SeverityWord(WorstOf(report.machine.findings))) << ": " << Summary(report) << '\n';
-  for (const Finding& finding : report.machine.findings) out << FindingText(finding) << '\n';
+  const Machine& machine = report.machine;
+  const Layout& layout = report.header.layout;
+  const Severity worst = WorstOf(machine.findings);
+  out << Painted(Upper(SeverityWord(worst)), LevelOf(worst), layout) << ": " << Summary(report) << '\n';
   if (report.header.isReplayed) out << SourceNote(report.header) << '\n';
+  for (const Incident& incident : machine.incidents) {
+    out << '\n';
+    for (const std::string& line : IncidentLines(incident, layout)) out << line << '\n';
+    if (report.isVerbose) WriteFindings(out, machine, incident, layout);
+  }
+  const std::size_t count = machine.findings.size();
+  if (report.isVerbose || count == 0) return;
+  out << fmt::format("\n{} finding{} in all: hxahost health --verbose\n", count, count == 1 ? "" : "s");
 }
 
 void WriteHealthRules(std::ostream& out) {

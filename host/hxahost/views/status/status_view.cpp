@@ -16,6 +16,7 @@
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
+#include "host/hxahost/views/incident_lines.h"
 #include "host/hxahost/views/level_colour.h"
 
 namespace hxahost {
@@ -25,13 +26,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr std::size_t kScreen = 24;
-constexpr std::size_t kIndent = 9;  // "critical "
 constexpr std::size_t kFewest = 2;  // lines of an incident: its headline and what to do
-
-std::string Painted(const std::string& text, Level level, const Layout& layout) {
-  const auto colour = ColourOf(level);
-  return layout.hasColours && colour ? InColour(text, *colour) : text;
-}
 
 std::string Plural(std::size_t count, std::string_view what) {
   return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
@@ -41,27 +36,13 @@ std::string Plural(std::size_t count, std::string_view what) {
 std::string Verdict(const HealthReport& report) {
   const Machine& machine = report.machine;
   const Severity worst = WorstOf(machine.findings);
-  Lines tally;
-  for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {
-    const auto count = std::ranges::count(machine.incidents, severity, &Incident::severity);
-    if (count > 0) tally.push_back(fmt::format("{} {}", count, SeverityWord(severity)));
-  }
-  std::string text = tally.empty() ? "no fault found" : fmt::format("{}", fmt::join(tally, ", "));
+  const std::string tally = Tally(machine.incidents);
+  std::string text = tally.empty() ? "no fault found" : tally;
   if (worst == Severity::kFine && machine.controllers.empty()) text = "no controller found";
   const std::string word = Upper(SeverityWord(worst));
   return fmt::format("{}{}{} at {}: {}", Painted(word, LevelOf(worst), report.header.layout),
-                     std::string(kIndent - word.size(), ' '), Printable(report.header.machine),
+                     std::string(kIncidentIndent - word.size(), ' '), Printable(report.header.machine),
                      ReadableTime(report.header.time.ToString()), text);
-}
-
-// The first line has the severity before it; further lines are indented.
-Lines IncidentLines(const Incident& incident, const Layout& layout) {
-  const std::size_t width = layout.width - kIndent;
-  const std::string word(IncidentWord(incident));
-  Lines lines = {Painted(word, LevelOf(incident.severity), layout) + std::string(kIndent - word.size(), ' ') +
-                 CutToWidth(incident.headline, width)};
-  for (const std::string& line : WrapWords(incident.action, width)) lines.push_back(std::string(kIndent, ' ') + line);
-  return lines;
 }
 
 // How many lines of each incident are shown: all where there is room; else its headline and the beginning of what to
@@ -103,7 +84,8 @@ Lines AllIncidents(const HealthReport& report, std::size_t room) {
     std::ranges::move(block, std::back_inserter(lines));
   }
   const std::size_t left = blocks.size() - shares.size();
-  if (left > 0) lines.push_back(std::string(kIndent, ' ') + fmt::format("and {} more: see hxahost health", left));
+  if (left > 0)
+    lines.push_back(std::string(kIncidentIndent, ' ') + fmt::format("and {} more: see hxahost health", left));
   return lines;
 }
 
