@@ -163,16 +163,16 @@ Json IncidentJson(const Machine& machine, const Incident& incident) {
     disks.push_back(DeviceJson(machine.controllers[disk.controller].devices[disk.device]));
   }
   return {
-      {"severity",   IncidentWord(incident)                                               },
-      {"subject",    AsUtf8(incident.subject)                                             },
-      {"controller", AsUtf8(controller)},
-      {"name",       AsUtf8(incident.name)                                                },
-      {"headline",   AsUtf8(incident.headline)                                            },
-      {"urgency",    WordOf(incident.urgency)                                             },
-      {"action",     AsUtf8(incident.action)                                              },
-      {"location",   AsUtf8(incident.location)                                            },
-      {"disks",      std::move(disks)},
-      {"findings",   incident.findings                                                    },
+      {"severity",   IncidentWord(incident)   },
+      {"subject",    AsUtf8(incident.subject) },
+      {"controller", AsUtf8(controller)       },
+      {"name",       AsUtf8(incident.name)    },
+      {"headline",   AsUtf8(incident.headline)},
+      {"urgency",    WordOf(incident.urgency) },
+      {"action",     AsUtf8(incident.action)  },
+      {"location",   AsUtf8(incident.location)},
+      {"disks",      std::move(disks)         },
+      {"findings",   incident.findings        },
   };
 }
 
@@ -190,15 +190,15 @@ void WriteHealthJson(std::ostream& out, const HealthReport& report) {
   Json incidents = Json::array();
   for (const Incident& incident : machine.incidents) incidents.push_back(IncidentJson(machine, incident));
   Json json = {
-      {"format",      1                                    },
-      {"machine",     AsUtf8(report.header.machine)        },
-      {"time",        report.header.time.ToString()        },
-      {"status",      SeverityWord(WorstOf(machine.findings))},
-      {"findings",    ListOf(machine.findings, FindingJson)},
-      {"incidents",   std::move(incidents)},
-      {"controllers", ListOf(machine.controllers, ControllerJson)},
-      {"tools",       ListOf(ToolHealthOf(report), ToolJson)},
+      {"format",  1                                      },
+      {"machine", AsUtf8(report.header.machine)          },
+      {"time",    report.header.time.ToString()          },
+      {"status",  SeverityWord(WorstOf(machine.findings))},
   };
+  json["findings"] = ListOf(machine.findings, FindingJson);
+  json["incidents"] = std::move(incidents);
+  json["controllers"] = ListOf(machine.controllers, ControllerJson);
+  json["tools"] = ListOf(ToolHealthOf(report), ToolJson);
   if (report.header.isReplayed) json["replayed"] = true;
   if (report.header.isMasked) json["masked"] = true;
   out << JsonText(json, 2) << '\n';
