@@ -82,7 +82,7 @@ void RequireMetrics(std::string_view text) {
     TakeLabels(rest, line);
     Require(samples.insert(line.substr(0, line.size() - rest.size())).second, "no sample comes twice", line);
     Take(rest, ' ', line);
-    Require(!rest.empty() && rest.find_first_not_of("0123456789.-") == rest.npos, "a sample is a number", line);
+    Require(!rest.empty() && rest.find_first_not_of("0123456789.-+e") == rest.npos, "a sample is a number", line);
   }
 }
 

@@ -65,8 +65,8 @@ TEST(Health, IsUnknownWhereAUtilityIsMissing) {
   machine.RemoveTool("arcconf");
   ProgramResult result = HealthOf(machine);
   EXPECT_EQ(result.exitStatus, 3);
-  EXPECT_THAT(result.out, AllOf(HasSubstr("UNKNOWN: 1 unknown on HOST (1 controller"),
-                                HasSubstr("unknown  arcconf not started")));
+  EXPECT_THAT(result.out,
+              AllOf(HasSubstr("UNKNOWN: 1 unknown on HOST (1 controller"), HasSubstr("unknown  arcconf not started")));
   machine.RemoveTool("qcmdrun");
   machine.RemoveTool("hrconf_64");
   result = HealthOf(machine);

@@ -147,6 +147,17 @@ TEST(HealthMetrics, KeepTheirLabelsWhenStatesChange) {
   EXPECT_EQ(SamplesOf(degraded), SamplesOf(rebuilding));
 }
 
+TEST(HealthMetrics, TellApartTheIncidentsOfOneController) {
+  HealthyMachine machine;
+  machine.SetOf("Zentraxis2", "ControllerStatus", "Puzzled");
+  machine.SetOf("Zentraxis2", "ControllerBatteryStatus", "Failed");
+  machine.SetOf("Zentraxis2", "ControllerTemp", "90 C/ 194 F (Critical)");
+  for (const char* const subject : {"Zentraxis2", "Zentraxis2 battery", "Zentraxis2 temperature"}) {
+    EXPECT_TRUE(SamplesOf(machine).contains(std::string("zenx_incident{controller=\"2\",tool=\"arcconf\",subject=\"") +
+                                            subject + "\"}"));
+  }
+}
+
 TEST(HealthMetrics, LeaveOutATimeThatIsNone) {
   HealthyMachine machine;
   QueryHeader header = machine.Header();

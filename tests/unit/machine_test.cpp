@@ -77,6 +77,29 @@ TEST(Machine, KeepsApartWhatTwoToolsDescribeUnderOneNumber) {
   EXPECT_THAT(machine.controllers[1].units, IsEmpty());
 }
 
+// Counts name their controller by its number alone.
+TEST(Machine, GivesCountsToTheLegacyUtilitysControllerWhereTwoShareItsNumber) {
+  FilledRepository repository;
+  repository.Publish(kLogicalDisk, "ControllerNum", "3", "LogicalDriveNum", "1", "PartOfArray", "A");
+  repository.Publish(kLogicalDisk, "ControllerNum", "3", "LogicalDriveNum", "1", "NumOfChunks", "2");
+  repository.Publish(kDiskDrive, "ControllerNum", "3", "Channel", "0", "ScsiId", "1");
+  repository.Publish(kDiskDrive, "ControllerNum", "3", "DeviceNumber", "4", "ReportedChannel", "0,1");
+  repository.Publish("KVRSG_zxSCSIDeviceData", "ControllerNum", "3", "Channel", "0", "ScsiId", "1", "NumHardErrors",
+                     "4", "NumSoftErrors", "x");
+  for (const char* const count : {"2", "0", "none"}) {
+    repository.Publish("KVRSG_BadStripeData", "ControllerNum", "3", "LogicalDrive", "1", "NumBadStripes", count);
+  }
+  const Machine machine = BuildMachine({}, {2, repository.Instances(), {}});
+  ASSERT_EQ(machine.controllers.size(), 2U);
+  const Controller& legacy = machine.controllers[0];
+  EXPECT_EQ(legacy.logicalDrives[0].badStripes, 2U);
+  ASSERT_TRUE(legacy.devices[0].errors);
+  EXPECT_EQ(legacy.devices[0].errors->hard, 4U);
+  EXPECT_EQ(legacy.devices[0].errors->soft, 0U);
+  EXPECT_EQ(machine.controllers[1].logicalDrives[0].badStripes, 0U);
+  EXPECT_FALSE(machine.controllers[1].devices[0].errors);
+}
+
 TEST(Machine, DescribesADevice) {
   const Device device =
       DeviceWith("ControllerNum", "4", "Channel", "0", "ScsiId", "8", "DeviceType", "Hard drive", "Vendor", "NORDVIK",

@@ -37,7 +37,7 @@ class Figures {
       quoted += character == '\'' ? "''" : std::string(1, character == '=' ? '_' : character);
     }
     if (!labels_.insert(quoted).second) return;
-    text_ += fmt::format("{}'{}'={:.9g}{}", text_.empty() ? "" : " ", quoted, value, unitAndRange);
+    text_ += fmt::format("{}'{}'={}{}", text_.empty() ? "" : " ", quoted, value, unitAndRange);
   }
 
   const std::string& Text() const { return text_; }
@@ -95,7 +95,7 @@ std::string FurtherFigures(const HealthReport& report) {
   Figures figures;
   figures.Add("logical drives", static_cast<double>(CountOf(machine, kLogicalDiskClass)));
   figures.Add("devices", static_cast<double>(CountOf(machine, kDiskDriveClass)));
-  figures.Add("time", report.seconds, "s");
+  figures.Add("time", std::round(report.seconds * 1000) / 1000, "s");
   for (const Controller& controller : machine.controllers) {
     const std::string name = ShortName(controller);
     for (const ControllerUnit& unit : controller.units) AddUnit(name, unit, figures);
