@@ -1,6 +1,6 @@
 # The page of "hxahost query --format html", as a source of the program. The order of the scripts is that of their use.
 set(report_folder ${CMAKE_SOURCE_DIR}/host/hxahost/views/report/page)
-set(report_scripts text elements levels model details tables drawing timeline raw_text page)
+set(report_scripts text elements data levels model details tables drawing timeline raw_text page)
 list(TRANSFORM report_scripts REPLACE "(.+)" "${report_folder}/\\1.js")
 list(JOIN report_scripts "," report_script_names)
 set(report_source ${CMAKE_BINARY_DIR}/generated/report_template.cpp)

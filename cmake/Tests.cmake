@@ -84,7 +84,7 @@ endif()
 
 # The report in a real browser, natively alone: the page does not depend on the system that wrote it.
 if(NOT CMAKE_CROSSCOMPILING)
-  add_executable(report_pages tests/browser/report_pages.cpp)
+  add_executable(report_pages tests/browser/report_pages.cpp tests/support/healthy_machine.cpp)
   target_link_libraries(report_pages PRIVATE hxahost_objects)
   add_test(NAME browser COMMAND node ${CMAKE_SOURCE_DIR}/tests/browser/run.mjs ${CMAKE_BINARY_DIR})
   set_tests_properties(browser PROPERTIES TIMEOUT 900)

@@ -44,6 +44,7 @@ async function runOne(browser, { name, run }) {
     watch(page, file, troubles);
     if (options.media) await page.emulateMedia({ media: options.media });
     await page.goto(file.href + (options.hash || ""));
+    if (options.javaScriptEnabled === false) return page;
     await page.waitForSelector("html[data-ready], .broken", { state: "attached", timeout: 60000 });
     troubles.push(...(await page.locator(".broken").allTextContents()));
     return page;

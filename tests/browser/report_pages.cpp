@@ -9,9 +9,10 @@
 
 #include "host/hxahost/program/formats.h"
 #include "tests/support/filled_repository.h"
+#include "tests/support/healthy_machine.h"
 
 // Writes pages, and the JSON beside them, of machines that the sample machine is not: one with thousands of disks, one
-// whose tools print markup and scripts, and one with nothing.
+// whose tools print markup and scripts, one with nothing, and one on which nothing is wrong.
 namespace {
 
 using namespace hxahost;
@@ -161,5 +162,7 @@ int main(int argc, char** argv) {
   WritePage(folder, "many", {"MACHINE", "/tools", time, {"KVRSG_zxDiskDrive"}, 1}, {1, ManyDisks(), {}});
   WritePage(folder, "hostile", {Hostile(0), Hostile(1), time, {Hostile(2)}, 1}, {1, HostileMachine(), HostileLog()});
   WritePage(folder, "nothing", {"MACHINE", "/tools", time, {}, 1}, {1, {}, {}});
+  const HealthyMachine healthy;
+  WritePage(folder, "healthy", healthy.Header(), healthy.Result());
   return 0;
 }

@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <functional>
 #include <optional>
+#include <set>
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <boost/locale/encoding_utf.hpp>
@@ -287,18 +289,43 @@ std::string Take(std::string& page, std::string_view begin, std::string_view end
   return taken;
 }
 
+// What the tags of HTML begin with: "</p", "<li".
+std::set<std::string> TagsOf(const std::string& html) {
+  std::set<std::string> tags;
+  for (std::size_t at = html.find('<'); at != html.npos; at = html.find('<', at + 1)) {
+    tags.insert(html.substr(at, html.find_first_of(" >", at) - at));
+  }
+  return tags;
+}
+
+// Takes out what the page holds as HTML of its own: the name, where it comes from, and the summary.
+std::string TakeHtml(std::string& page) {
+  constexpr std::pair<std::string_view, std::string_view> kParts[] = {
+      {"<title>",                                                        "</title>"  },
+      {"<h1>",                                                           "</header>" },
+      {"<h2 id=\"health\" class=\"unseen\" tabindex=\"-1\">Health</h2>", "</section>"},
+  };
+  std::string html;
+  for (const auto& [begin, end] : kParts) html += Take(page, begin, end);
+  return html;
+}
+
 TEST(HostileTexts, AreDataOfThePageWhichIsTheSameAroundThem) {
   constexpr std::string_view kQuery = "<script type=\"application/json\" id=\"query-data\">";
   constexpr std::string_view kReport = "<script type=\"application/json\" id=\"report-data\">";
   std::string harmless = Machine(kHarmless).Query("html");
   Take(harmless, kQuery, "</script>");
   Take(harmless, kReport, "</script>");
+  const std::set<std::string> tags = TagsOf(TakeHtml(harmless));
   for (const HostileText& each : kTexts) {
     SCOPED_TRACE(each.name);
     const Machine machine(each.bytes);
     std::string page = machine.Query("html");
     const std::string query = Take(page, kQuery, "</script>");
     const std::string report = Take(page, kReport, "</script>");
+    const std::string html = TakeHtml(page);
+    EXPECT_THAT(tags, testing::IsSupersetOf(TagsOf(html)));
+    ExpectSafeOnATerminal(html);
     EXPECT_TRUE(page == harmless);
     EXPECT_EQ(Json::parse(query), Json::parse(machine.Query("json")));
     EXPECT_TRUE(Json::accept(report));

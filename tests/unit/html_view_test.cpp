@@ -57,7 +57,9 @@ TEST(HtmlView, HoldsTheJsonOfTheQuery) {
   const QueryResult result = HostileResult();
   const std::string page = Page(header, {result});
   EXPECT_EQ(ordered_json::parse(DataOf(page, "query-data")), ordered_json::parse(Json(header, result)));
-  EXPECT_EQ(ordered_json::parse(DataOf(page, "report-data"))["directory"], "/tools");
+  EXPECT_THAT(page, HasSubstr("<title>RAID report: MACHINE</title>"));
+  EXPECT_THAT(page, HasSubstr("<h1>RAID report: MACHINE</h1>"));
+  EXPECT_THAT(page, HasSubstr(" in /tools</p>"));
 }
 
 TEST(HtmlView, MakesNoMarkupOfWhatToolsAndOptionsSay) {
@@ -78,7 +80,7 @@ TEST(HtmlView, ShowsTheLastOfSeveralQueriesAndSaysHowManyThereWere) {
   const auto queries = ordered_json::parse(DataOf(page, "query-data"))["queries"];
   ASSERT_EQ(queries.size(), 1U);
   EXPECT_EQ(queries[0]["log"][0]["text"], "query 3");
-  EXPECT_EQ(ordered_json::parse(DataOf(page, "report-data"))["queryCount"], 3);
+  EXPECT_THAT(page, HasSubstr("3 queries were made"));
 }
 
 TEST(HtmlView, IsAsLongAsThePageAndItsDataTogether) {

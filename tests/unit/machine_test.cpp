@@ -236,10 +236,10 @@ TEST(Machine, IsJudgedAlikeInTablesReportHealthAndMetrics) {
     WriteQueryTables(tables, header, result);
     EXPECT_THAT(tables.str(), HasSubstr(std::string(each.colour) + each.text + "\x1b[0m"));
 
-    std::ostringstream report;
-    WriteReportData(report, header, result);
-    const std::string property = each.property;
     const Machine built = BuildMachine(header, result);
+    std::ostringstream report;
+    WriteReportData(report, header, result, built);
+    const std::string property = each.property;
     const Object& object = property == "State" ? static_cast<const Object&>(built.controllers[1].devices[1])
                                                : built.controllers[1].logicalDrives[0];
     const auto objects = nlohmann::json::parse(report.str())["objects"];

@@ -23,7 +23,7 @@ using testing::ElementsAre;
 
 ordered_json ReportData(const QueryHeader& header, const QueryResult& result = {}) {
   std::ostringstream out;
-  WriteReportData(out, header, result);
+  WriteReportData(out, header, result, BuildMachine(header, result));
   return ordered_json::parse(out.str());
 }
 
@@ -33,13 +33,35 @@ std::vector<std::string> Texts(const ordered_json& objects, const char* key) {
   return texts;
 }
 
-TEST(ReportData, SaysWhenWhereAndForWhatTheToolsWereRun) {
-  const auto json = ReportData(
-      {"MACHINE", "C:\\t\xf6ols", TCIMDateTime(2026, 3, 5, 12, 30, 15, 250000, -60), {"KVRSG_zxRawData"}, 3});
-  EXPECT_EQ(json["directory"], "C:\\t\u00f6ols");
-  EXPECT_EQ(json["time"], "20260305123015.250000-060");
+TEST(ReportData, NamesTheClassesThatWereAskedForAndEveryLevelOnce) {
+  const auto json = ReportData({"MACHINE", "", {}, {"KVRSG_zxRawData"}, 1});
   EXPECT_THAT(json["classes"], ElementsAre("KVRSG_zxRawData"));
-  EXPECT_EQ(json["queryCount"], 3);
+  EXPECT_THAT(Texts(json["levels"], "level"),
+              ElementsAre("critical", "warning", "unknown", "busy", "idle", "unsaid", "ok"));
+}
+
+TEST(ReportData, HasTheTextsOfEachBox) {
+  HealthyMachine machine;
+  for (HealthyMachine::Device& device : machine.devices) {
+    if (device.className != "KVRSG_zxDiskDrive") continue;
+    device.properties.insert(device.properties.end(), {
+                                                          {"Model",            "M73"                },
+                                                          {"Size",             "70007 MB"           },
+                                                          {"DeviceSerialNum",  "S-1"                },
+                                                          {"ReportedLocation", "Enclosure 0, Slot 1"}
+    });
+  }
+  std::vector<ordered_json> boxes;
+  const auto data = ReportData(machine.Header(), machine.Result());
+  for (const auto& each : data["objects"]) {
+    if (each["owner"] == "2" && each.contains("title")) boxes.push_back({each["title"], each["lines"]});
+  }
+  ASSERT_EQ(boxes.size(), 7U);
+  EXPECT_EQ(boxes[0].dump(), R"(["Controller 2",["Zentraxis C5"]])");
+  EXPECT_EQ(boxes[1].dump(), R"box(["\"Data\" (RAID 5)",["Logical drive 1","2 disks"]])box");
+  EXPECT_EQ(boxes[2].dump(), R"(["enclosure 0, slot 1",["M73, 73.4 GB","S/N S-1","Data"]])");
+  EXPECT_EQ(boxes[4][1][2], "hot spare");
+  EXPECT_EQ(boxes[6][1][2], "Tape drive");
 }
 
 TEST(ReportData, HasTheTablesOfTheTerminalWithTheirColumns) {
@@ -78,14 +100,6 @@ TEST(ReportData, HasTheFindingsWithThePlacesOfWhatTheyAreAbout) {
   EXPECT_EQ(RawText(*result.instances.at(findings[0]["instance"]), "DeviceID"), "Zentraxis2LD1");
   EXPECT_EQ(findings[1]["class"], "tool run");
   EXPECT_FALSE(findings[1].contains("instance"));
-}
-
-TEST(ReportData, NamesTheClassesThatHealthIsReadFromAndThatWereNotAskedFor) {
-  QueryHeader header;
-  header.classes.assign(HealthClasses().begin(), HealthClasses().end());
-  EXPECT_EQ(ReportData(header)["unjudged"], ordered_json::array());
-  header.classes.erase(header.classes.begin());
-  EXPECT_THAT(ReportData(header)["unjudged"], ElementsAre(HealthClasses().front()));
 }
 
 TEST(ReportData, TellsUnreadLinesWhereEveryClassWasAskedFor) {

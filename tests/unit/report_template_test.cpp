@@ -22,6 +22,9 @@ TEST(ReportTemplate, IsAWholePageWithOnePlaceForEachKindOfData) {
   const std::string_view page = ReportTemplate();
   EXPECT_TRUE(page.starts_with("<!DOCTYPE html>"));
   EXPECT_TRUE(page.ends_with("</html>\n"));
+  EXPECT_EQ(Count(page, "@TITLE@"), 2U);
+  EXPECT_EQ(Count(page, "@ORIGIN@"), 1U);
+  EXPECT_EQ(Count(page, "@SUMMARY@"), 1U);
   EXPECT_EQ(Count(page, "@QUERY_DATA@"), 1U);
   EXPECT_EQ(Count(page, "@REPORT_DATA@"), 1U);
   EXPECT_EQ(Count(page, "@PROOF_DATA@"), 1U);

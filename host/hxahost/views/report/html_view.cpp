@@ -1,10 +1,13 @@
 #include "host/hxahost/views/report/html_view.h"
 
+#include <functional>
+
 #include "host/hxahost/views/json/json_view.h"
 #include "host/hxahost/views/report/proof_data.h"
 #include "host/hxahost/views/report/report_data.h"
 #include "host/hxahost/views/report/report_template.h"
 #include "host/hxahost/views/report/script_data.h"
+#include "host/hxahost/views/report/summary.h"
 #include "host/hxahost/views/report/write_template.h"
 
 namespace hxahost {
@@ -20,30 +23,32 @@ void WriteResultJson(std::ostream& out, const QueryHeader& header, const QueryRe
   EndJson(out, header);
 }
 
+using Write = std::function<void(std::ostream& out)>;
+
+Write AsScriptData(const Write& write) {
+  return [write](std::ostream& page) {
+    ScriptData buffer(page);
+    std::ostream data(&buffer);
+    write(data);
+  };
+}
+
 }  // namespace
 
 void BeginHtml(std::ostream&, const QueryHeader&) {}
 
 void WriteQueryHtml(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   if (result.number != header.queryCount) return;
-  const auto writeEscaped = [](std::ostream& page, const auto& write) {
-    ScriptData buffer(page);
-    std::ostream data(&buffer);
-    write(data);
-  };
+  const Machine machine = BuildMachine(header, result);
+  const auto writeTitle = [&](std::ostream& page) { WriteTitleHtml(page, header); };
   const TemplateSlot slots[] = {
-      {"@QUERY_DATA@",
-       [&](std::ostream& page) {
-         writeEscaped(page, [&](std::ostream& data) { WriteResultJson(data, header, result); });
-       }},
-      {"@REPORT_DATA@",
-       [&](std::ostream& page) {
-         writeEscaped(page, [&](std::ostream& data) { WriteReportData(data, header, result); });
-       }},
-      {"@PROOF_DATA@",
-       [&](std::ostream& page) {
-         writeEscaped(page, [&](std::ostream& data) { WriteProofData(data, header, result); });
-       }},
+      {"@TITLE@",       writeTitle                                                                               },
+      {"@TITLE@",       writeTitle                                                                               },
+      {"@ORIGIN@",      [&](std::ostream& page) { WriteOriginHtml(page, header); }                               },
+      {"@SUMMARY@",     [&](std::ostream& page) { WriteSummaryHtml(page, header, machine); }                     },
+      {"@QUERY_DATA@",  AsScriptData([&](std::ostream& data) { WriteResultJson(data, header, result); })         },
+      {"@REPORT_DATA@", AsScriptData([&](std::ostream& data) { WriteReportData(data, header, result, machine); })},
+      {"@PROOF_DATA@",  AsScriptData([&](std::ostream& data) { WriteProofData(data, header, result, machine); }) },
   };
   WriteTemplate(out, ReportTemplate(), slots);
 }

@@ -35,12 +35,11 @@ Json InstanceJson(std::size_t instance, const std::vector<Proof>& proofs) {
 }  // namespace
 
 // One instance at a time: a machine has thousands.
-void WriteProofData(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+void WriteProofData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine) {
   if (!IsAskedFor(header, kRawDataClass)) {
     out << "null";
     return;
   }
-  const Machine machine = BuildMachine(header, result);
   Proofs proofs(machine, result.instances);
   const char* separator = "[\n";
   for (std::size_t instance = 0; instance < result.instances.size(); ++instance) {

@@ -4,14 +4,18 @@
 #include <string>
 #include <string_view>
 
+#include <fmt/core.h>
 #include <nlohmann/json.hpp>
 
 #include "host/hxacore/schema.h"
 #include "host/hxahost/machine/health.h"
+#include "host/hxahost/machine/incident_words.h"
 #include "host/hxahost/result/unread_lines.h"
+#include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/json_output.h"
 #include "host/hxahost/text/utf8.h"
 #include "host/hxahost/views/monitoring/finding_json.h"
+#include "host/hxahost/views/report/level_marks.h"
 #include "host/hxahost/views/tables/controller_columns.h"
 #include "host/hxahost/views/tables/record_sections.h"
 
@@ -75,14 +79,6 @@ Json TablesJson() {
   return tables;
 }
 
-Json UnjudgedJson(const QueryHeader& header) {
-  Json json = Json::array();
-  for (const std::string_view className : HealthClasses()) {
-    if (!IsAskedFor(header, className)) json.push_back(className);
-  }
-  return json;
-}
-
 Json FindingsJson(const Findings& findings) {
   Json json = Json::array();
   for (const Finding& finding : findings) {
@@ -101,6 +97,18 @@ Json ObjectJson(const Controller& controller, const Object& object) {
   };
 }
 
+// The title of an object's box, and the lines below its state.
+Json BoxJson(const Controller& controller, const Object& object, const std::string& title,
+             const std::vector<std::string>& lines) {
+  Json json = ObjectJson(controller, object);
+  json["title"] = AsUtf8(title);
+  json["lines"] = Json::array();
+  for (const std::string& line : lines) {
+    if (!line.empty()) json["lines"].push_back(AsUtf8(line));
+  }
+  return json;
+}
+
 template <class Kind>
 Json InstancesJson(const std::vector<Kind>& objects, const std::vector<std::size_t>& places) {
   Json json = Json::array();
@@ -108,24 +116,62 @@ Json InstancesJson(const std::vector<Kind>& objects, const std::vector<std::size
   return json;
 }
 
+template <class Kind>
+std::string SizeOf(const Kind& object) {
+  return object.bytes ? FormatBytes(*object.bytes) : Printable(object.size);
+}
+
+std::string Joined(const std::string& one, const std::string& other) {
+  return one.empty() || other.empty() ? one + other : one + ", " + other;
+}
+
+Json DriveJson(const Controller& controller, const LogicalDrive& drive) {
+  const std::string number = drive.title.empty() ? "" : "Logical drive " + Printable(drive.number);
+  const std::size_t count = drive.members.size();
+  const std::string disks = fmt::format("{} disk{}", count, count == 1 ? "" : "s");
+  Json json = BoxJson(controller, drive, ShortName(drive), {number, Joined(SizeOf(drive), disks)});
+  json["groups"] = InstancesJson(controller.groups, drive.groups);
+  json["devices"] = InstancesJson(controller.devices, drive.members);
+  return json;
+}
+
+Json GroupJson(const Controller& controller, const DiskGroup& group) {
+  Json json = ObjectJson(controller, group);
+  json["devices"] = InstancesJson(controller.devices, group.devices);
+  return json;
+}
+
+// What the device is for, short: the drives are in the drawing as well.
+std::string UseOf(const Controller& controller, std::size_t place) {
+  const Device& device = controller.devices[place];
+  if (device.kind != HardwareKind::kDisk) return Printable(device.type);
+  if (device.logicalDrives.empty()) return RoleOf(controller, place);
+  std::string names;
+  for (const std::size_t index : device.logicalDrives) {
+    const LogicalDrive& drive = controller.logicalDrives[index];
+    names = Joined(names, drive.title.empty() ? "logical drive " + Printable(drive.number) : Printable(drive.title));
+  }
+  return names;
+}
+
+Json DeviceJson(const Controller& controller, std::size_t place) {
+  const Device& device = controller.devices[place];
+  const std::string serial = device.serialNumber.empty() ? "" : "S/N " + Printable(device.serialNumber);
+  return BoxJson(controller, device, Printable(device.location.empty() ? device.name : device.location),
+                 {Joined(Printable(device.model), SizeOf(device)), serial, UseOf(controller, place)});
+}
+
 // By controller, each with what belongs to it. Members are places of instances.
 Json ObjectsJson(const Machine& machine) {
   Json json = Json::array();
   for (const Controller& controller : machine.controllers) {
-    for (const ControllerUnit& unit : controller.units) json.push_back(ObjectJson(controller, unit));
-    for (const LogicalDrive& drive : controller.logicalDrives) {
-      json.push_back(ObjectJson(controller, drive));
-      json.back()["groups"] = InstancesJson(controller.groups, drive.groups);
-      json.back()["devices"] = InstancesJson(controller.devices, drive.devices);
+    for (const ControllerUnit& unit : controller.units) {
+      json.push_back(BoxJson(controller, unit, "Controller " + Printable(controller.label), {Printable(unit.model)}));
     }
-    for (const DiskGroup& group : controller.groups) {
-      json.push_back(ObjectJson(controller, group));
-      json.back()["devices"] = InstancesJson(controller.devices, group.devices);
-    }
-    for (const Device& device : controller.devices) {
-      json.push_back(ObjectJson(controller, device));
-      json.back()["channel"] = AsUtf8(device.channel);
-      json.back()["id"] = AsUtf8(device.id);
+    for (const LogicalDrive& drive : controller.logicalDrives) json.push_back(DriveJson(controller, drive));
+    for (const DiskGroup& group : controller.groups) json.push_back(GroupJson(controller, group));
+    for (std::size_t place = 0; place < controller.devices.size(); ++place) {
+      json.push_back(DeviceJson(controller, place));
     }
   }
   return json;
@@ -140,6 +186,18 @@ Json OriginsJson(const QueryHeader& header) {
       if (property.origin.empty()) continue;
       json[std::string(declaration.name)][std::string(property.name)] = property.origin;
     }
+  }
+  return json;
+}
+
+Json LevelsJson() {
+  Json json = Json::array();
+  for (const LevelMark& mark : LevelMarks()) {
+    json.push_back({
+        {"level",  LevelWord(mark.level)},
+        {"symbol", mark.symbol          },
+        {"words",  mark.words           }
+    });
   }
   return json;
 }
@@ -166,21 +224,16 @@ Json UnreadLinesJson(const QueryHeader& header, const QueryResult& result) {
 
 }  // namespace
 
-void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
-  const Machine machine = BuildMachine(header, result);
+void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine) {
   Json json = Json::object();
   json["program"] = "hxahost " ZENX_VERSION;
-  json["directory"] = AsUtf8(header.directory);
-  json["time"] = header.time.ToString();
-  if (header.isReplayed) json["source"] = SourceNote(header);
   json["classes"] = header.classes;
-  json["queryCount"] = header.queryCount;
+  json["levels"] = LevelsJson();
   json["tables"] = TablesJson();
   json["objects"] = ObjectsJson(machine);
   json["origins"] = OriginsJson(header);
   json["eventLevels"] = EventLevelsJson();
   json["findings"] = FindingsJson(machine.findings);
-  json["unjudged"] = UnjudgedJson(header);
   json["unread"] = UnreadLinesJson(header, result);
   out << JsonText(json, 2);
 }

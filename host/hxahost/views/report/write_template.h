@@ -14,7 +14,7 @@ struct TemplateSlot {
 };
 
 // Writes the template with its slots filled. What is put in is not searched for marks. The slots are in the
-// template's order; throws std::logic_error for one that is not there.
+// template's order, one for each mark; throws std::logic_error for one that is not there.
 void WriteTemplate(std::ostream& out, std::string_view text, std::span<const TemplateSlot> slots);
 
 }  // namespace hxahost

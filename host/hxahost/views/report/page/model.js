@@ -40,10 +40,10 @@ class Model {
   }
 
   // Adds what the program says of an object; the owners keep their objects by class.
-  addObject({ instance, owner, level, stateLevel, groups = [], devices = [], channel = "", id = "" }) {
-    const object = Object.assign(this.objects[instance], { level, stateLevel, owner: "Controller " + printable(owner),
+  addObject({ instance, owner, groups = [], devices = [], title = "", lines = [], ...levels }) {
+    const object = Object.assign(this.objects[instance], levels, { owner: "Controller " + printable(owner),
       groups: groups.map((index) => this.objects[index]), devices: devices.map((index) => this.objects[index]),
-      channel: printable(channel), id: printable(id) });
+      title: printable(title), lines: lines.map(printable) });
     if (!this.owners.has(object.owner)) this.owners.set(object.owner, new Map());
     listOf(this.owners.get(object.owner), object.class).push(object);
     for (const group of object.groups) listOf(this.users, group.index).push(object);
@@ -80,8 +80,10 @@ class Model {
     return this.users.get(array.index) || [];
   }
 
+  // An array without a list of its own has the disks of its logical drives.
   disksOf(object) {
-    return [...new Set([object, ...object.groups].flatMap((each) => each.devices))];
+    const lists = object.devices.length > 0 ? [object] : this.logicalDrivesOf(object);
+    return [...new Set(lists.flatMap((each) => each.devices))];
   }
 
   // The arrays and logical drives by disk, found once: a machine has thousands of disks.
@@ -160,19 +162,13 @@ function arrayName(array) {
   return found ? "Array of drive " + found[1] : "Array " + textOf(array, "CollectionID");
 }
 
-function diskName(disk) {
-  if (disk.id !== "") return "ID " + disk.id;
-  const number = textOf(disk, "DeviceNumber");
-  return number === "" ? "Position not said" : /^\d+$/.test(number) ? "Device " + number : number;
-}
-
 // What people call it; the class and the keys where there is no such name.
 function nameOf(object) {
   switch (object.class) {
     case kControllers: return object.owner;
     case kLogicalDrives: return `${object.owner}, logical drive ${textOf(object, "LogicalDriveNum")}`;
     case kArrays: return `${object.owner}, ${arrayName(object)}`;
-    case kDisks: return `${object.owner}, channel ${object.channel || "not said"}, ${diskName(object)}`;
+    case kDisks: return `${object.owner}, ${object.title}`;
     default: return keyText(object) || object.class;
   }
 }

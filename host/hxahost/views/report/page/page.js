@@ -1,13 +1,5 @@
 // The page: its sections in their order. A section that cannot be drawn says so in its place and affects no other.
 
-const report = { model: null, data: null, tables: [] };
-
-function readData(id) {
-  return JSON.parse(byId(id).textContent);
-}
-
-// Health: the findings of the program's rules, then the state words as the tools printed them.
-
 function findingBadge(finding) {
   return badge(finding.severity, finding.severity);
 }
@@ -35,95 +27,17 @@ function subjectCell(finding) {
   };
 }
 
-function tallyOf(findings) {
-  const severities = kWorstFirst.filter((severity) => findings.some((finding) => finding.severity === severity));
-  return severities.map((severity) => badge(severity,
-    `${findings.filter((finding) => finding.severity === severity).length.toLocaleString("en-US")} ${severity}`));
-}
-
-function findingTable(findings) {
-  return newTable("Findings", [
+function findingSection(findings) {
+  return findings.length === 0 ? null : newTable("Findings", [
     { title: "Severity", cell: severityCell },
-    { title: "What", cell: subjectCell },
-    { title: "Says", cell: (finding) => ({ text: `${finding.property} "${printable(finding.text)}"` }) },
-    { title: "Which means", cell: (finding) => ({ text: finding.meaning }) },
+    { title: "Object", cell: subjectCell },
+    { title: "Value", cell: (finding) => ({ text: `${finding.property} "${printable(finding.text)}"` }) },
+    { title: "Meaning", cell: (finding) => ({ text: finding.meaning }) },
   ], findings, kMostFindings);
 }
 
-// What the findings cannot tell: nothing is fine that nobody looked at.
-function findingLimits(data) {
-  const limits = [];
-  if (data.unjudged.length > 0) limits.push(`Not asked for, so not judged: ${data.unjudged.join(", ")}.`);
-  if (data.queryCount > 1) {
-    limits.push("The tools were run by the first query alone; how their runs went is not judged here.");
-  }
-  return limits.map((text) => make("p", { class: "quiet" }, text));
-}
-
-function findingSection(findings, data) {
-  const isWhole = data.unjudged.length === 0;
-  const verdict = findings.length > 0 ? tallyOf(findings)
-    : [isWhole ? badge("ok", "Nothing needs attention") : badge("unsaid", "No finding in what was asked for")];
-  return make("div", { id: "findings" }, make("p", { class: "verdict" }, ...verdict.flatMap((each) => [each, " "])),
-    ...findingLimits(data), ...(findings.length > 0 ? [findingTable(findings)] : []));
-}
-
-const kKinds = { [kControllers]: "Controllers", [kLogicalDrives]: "Logical drives", [kDisks]: "Disks" };
-
-function stateCounts(model, className) {
-  const counts = new Map();
-  for (const object of model.all(className)) {
-    const { words, level } = model.stateWords(object);
-    const key = level + " " + words;
-    const entry = counts.get(key) || { words, level, count: 0 };
-    entry.count += 1;
-    counts.set(key, entry);
-  }
-  return [...counts.values()].sort((one, other) => kWorstFirst.indexOf(one.level) - kWorstFirst.indexOf(other.level));
-}
-
-function stateList(model, className) {
-  const total = model.all(className).length;
-  if (total === 0) return [];
-  const items = stateCounts(model, className).map(({ words, level, count }) =>
-    make("li", {}, make("span", { class: "number" }, count.toLocaleString("en-US")), " ", badge(level, words)));
-  return [make("section", { class: "states" },
-      make("h3", {}, `${kKinds[className]}: ${total.toLocaleString("en-US")}`), make("ul", {}, ...items))];
-}
-
-function badStripeList(model) {
-  const bad = model.all(kBadStripes).filter((object) => model.findingsOf(object).length > 0);
-  if (bad.length === 0) return [];
-  const words = (object) => {
-    const text = (name) => textOf(object, name);
-    return `Controller ${text("ControllerNum")}, logical drive ${text("LogicalDrive")}: ${text("NumBadStripes")}`;
-  };
-  const items = bad.map((object) => make("li", {}, linkTo(object, words(object))));
-  return [make("section", { class: "states" }, make("h3", {}, "Bad stripes"), make("ul", {}, ...items))];
-}
-
-// Every command says so in the log when its tool cannot be started; the same words once are enough.
-function failedRuns(log) {
-  const texts = [...new Set(log.map((entry) => entry.text).filter((text) => text.includes("zenx//")))];
-  if (texts.length === 0) return [];
-  return [make("section", { class: "states trouble" }, make("h3", {}, "Tools could not be run"),
-    make("ul", {}, ...texts.map((text) => make("li", {}, printable(text)))))];
-}
-
-function healthSection(model, query, data) {
-  const counts = Object.keys(kKinds).flatMap((className) => stateList(model, className));
-  const parts = [...counts, ...badStripeList(model), ...failedRuns(query.log)];
-  const found = model.objects.some((object) => object.class !== "KVRSG_zxRawData");
-  const nothing = found ? [] : [make("p", { class: "trouble" },
-    "Nothing was found: no controller, no drive and no log record of the classes asked for.")];
-  return make("div", {}, findingSection(model.findings, data), ...nothing,
-      make("div", { class: "state-lists" }, ...parts));
-}
-
 function drawingSection(model) {
-  if (model.owners.size === 0) return null;
-  report.drawing = new Drawing(model);
-  return report.drawing.element;
+  return model.owners.size === 0 ? null : drawing(model);
 }
 
 // Tables in the program's order; logs and raw texts have sections of their own.
@@ -173,8 +87,8 @@ function sectionList(model, query, data) {
   const isDevice = (table) => table.classes.some((name) => kDeviceClasses.includes(name));
   const others = otherClasses(model, tables);
   return [
-    { title: "Health", content: () => healthSection(model, query, data) },
     { title: "Drawing", content: () => drawingSection(model) },
+    { title: "Findings", content: () => findingSection(model.findings) },
     ...tables.filter(isDevice).map(tableSection(model)),
     { title: "Events", content: () => eventSection(model) },
     ...tables.filter((table) => !isDevice(table)).map(tableSection(model)),
@@ -206,29 +120,14 @@ function addSection(section) {
   byId("sections").append(make("li", {}, make("a", { href: "#" + id }, section.title)));
 }
 
-function writeHead(json, data) {
-  const title = "RAID report: " + printable(json.machine);
-  document.title = title;
-  byId("title").textContent = title;
-  byId("subtitle").textContent = `Collected in ${printable(data.directory)} on ${readableTime(data.time)}`
-    + (data.source ? `. ${data.source}` : "");
-  byId("footer").textContent =
-    `Written by ${data.program}. Everything is in this file; nothing is loaded from elsewhere.`;
-  if (data.queryCount > 1) {
-    byId("note").textContent =
-      `${data.queryCount} queries were made; this is the last one. Its log begins where the one before it ended.`;
-  }
-}
-
 function start() {
-  const json = readData("query-data");
-  report.data = readData("report-data");
-  const query = json.queries[json.queries.length - 1];
-  writeHead(json, report.data);
+  const query = readData("query-data").queries.at(-1);
   report.model = new Model(query, report.data);
   for (const section of sectionList(report.model, query, report.data)) addSection(section);
-  if (report.drawing) setUpDrawing(report.drawing);
+  document.querySelectorAll(".units").forEach(setUpKeys);
   setUpDetails(report.model);
+  byId("footer").textContent =
+    `Written by ${report.data.program}. Everything is in this file; nothing is loaded from elsewhere.`;
   window.addEventListener("beforeprint", () => report.tables.forEach((table) => table.showAll()));
   document.documentElement.dataset.ready = "true";
 }

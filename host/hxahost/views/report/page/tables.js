@@ -21,6 +21,8 @@ class SortedTable {
     this.order = this.rows.map((_, index) => index);
     this.element = this.build();
     this.refill();
+    // The line of the filter is as wide as the table may be, and no higher or lower for what the table becomes.
+    new ResizeObserver(() => this.fit()).observe(this.input.closest(".tools"));
   }
 
   build() {
@@ -38,8 +40,7 @@ class SortedTable {
     return make("div", { class: "sorted-table" },
       make("div", { class: "tools" },
         make("label", {}, "Filter ", make("span", { class: "unseen" }, this.caption + " "), this.input), this.count),
-      make("div", { class: "scroll", tabindex: "0", role: "region", "aria-label": this.caption + ", table" }, table),
-        this.more);
+      make("div", { class: "table-box" }, table), this.more);
   }
 
   buildHead(column, index) {
@@ -78,6 +79,14 @@ class SortedTable {
   showAll() {
     this.most = Infinity;
     this.refill();
+    this.fit();
+  }
+
+  // Where the columns do not fit side by side, each row becomes a block.
+  fit() {
+    const table = this.body.parentElement;
+    this.element.classList.remove("stacked");
+    this.element.classList.toggle("stacked", table.offsetWidth > table.parentElement.clientWidth);
   }
 }
 

@@ -1,0 +1,154 @@
+#include "host/hxahost/views/report/summary.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "host/hxahost/machine/health.h"
+#include "host/hxahost/machine/incident_words.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/text/ascii.h"
+#include "host/hxahost/text/html_text.h"
+#include "host/hxahost/views/report/level_marks.h"
+
+namespace hxahost {
+
+namespace {
+
+constexpr std::size_t kMostLinks = 12;  // to the disks of one incident
+
+std::string Symbol(Level level) {
+  return fmt::format(R"(<span class="symbol" aria-hidden="true">{}</span>)", MarkOf(level).symbol);
+}
+
+std::vector<std::string_view> UnjudgedClasses(const QueryHeader& header) {
+  std::vector<std::string_view> classes;
+  std::ranges::copy_if(HealthClasses(), std::back_inserter(classes),
+                       [&header](std::string_view each) { return !IsAskedFor(header, each); });
+  return classes;
+}
+
+void WriteVerdict(std::ostream& out, Level level, std::string_view words) {
+  out << fmt::format(R"(<p class="verdict level-{}">{} {}</p>)"
+                     "\n",
+                     LevelWord(level), Symbol(level), HtmlText(words));
+}
+
+// Nothing is fine that nobody looked at.
+void WriteVerdict(std::ostream& out, const Machine& machine, bool isWhole) {
+  const Severity worst = WorstOf(machine.findings);
+  if (worst != Severity::kFine) {
+    WriteVerdict(out, LevelOf(worst), fmt::format("{}: {}", Upper(SeverityWord(worst)), TallyOf(machine)));
+  } else if (machine.controllers.empty()) {
+    WriteVerdict(out, Level::kUnknown, "Nothing was found: no controller and no disk in what was asked for");
+  } else {
+    WriteVerdict(out, isWhole ? Level::kFine : Level::kUnsaid,
+                 isWhole ? "OK: no fault found" : "No fault found in what was asked for");
+  }
+}
+
+void WriteLimits(std::ostream& out, const QueryHeader& header, const std::vector<std::string_view>& unjudged) {
+  if (!unjudged.empty()) {
+    out << fmt::format("<p class=\"quiet\">Not asked for, so not judged: {}.</p>\n", fmt::join(unjudged, ", "));
+  }
+  if (header.queryCount > 1) {
+    out << fmt::format(
+        "<p class=\"quiet\">{} queries were made; this is the last one. Its log begins where the one "
+        "before it ended. The first query alone ran the tools; their runs are not judged here.</p>\n",
+        header.queryCount);
+  }
+}
+
+std::string LocationOf(const Device& device) {
+  return HtmlText(device.location.empty() ? device.name : device.location);
+}
+
+// A disk that calls for attention, or is at work, says where it is.
+void WriteDisk(std::ostream& out, const Controller& controller, std::size_t place) {
+  const Device& disk = controller.devices[place];
+  const std::string state = disk.state.text.empty() ? "state not said" : disk.state.text;
+  out << fmt::format(
+      R"(<li><a class="disk level-{0}" href="#object-{1}" data-object="{1}" title="{2}, {3}">{4}{5}</a></li>)"
+      "\n",
+      LevelWord(disk.level), disk.instance, HtmlText(DescribeDisk(controller, place)), HtmlText(state),
+      Symbol(disk.level), disk.level >= Level::kBusy ? " " + LocationOf(disk) : "");
+}
+
+void WriteDisks(std::ostream& out, const Controller& controller) {
+  const std::string name = HtmlText(ShortName(controller));
+  const std::string model = controller.units.empty() ? "" : HtmlText(controller.units.front().model);
+  out << fmt::format("<li class=\"unit\"><span class=\"unit-name\">{} <span class=\"quiet\">{}</span></span>\n", name,
+                     model);
+  out << fmt::format("<ul class=\"disks\" aria-label=\"Disks of {}\">\n", name);
+  for (std::size_t place = 0; place < controller.devices.size(); ++place) {
+    if (controller.devices[place].kind == HardwareKind::kDisk) WriteDisk(out, controller, place);
+  }
+  out << "</ul></li>\n";
+}
+
+bool HasDisks(const Controller& controller) {
+  return std::ranges::find(controller.devices, HardwareKind::kDisk, &Device::kind) != controller.devices.end();
+}
+
+void WriteAllDisks(std::ostream& out, const Machine& machine) {
+  if (std::ranges::none_of(machine.controllers, HasDisks)) return;
+  out << "<h3 class=\"unseen\">All disks</h3>\n<ul class=\"units\">\n";
+  for (const Controller& controller : machine.controllers) {
+    if (HasDisks(controller)) WriteDisks(out, controller);
+  }
+  out << "</ul>\n";
+}
+
+// Links to the disks to act on.
+std::string DiskLinks(const Machine& machine, const Incident& incident) {
+  std::vector<std::string> links;
+  for (const DeviceRef& place : incident.disks) {
+    if (links.size() == kMostLinks) {
+      links.push_back(fmt::format("and {} more", incident.disks.size() - kMostLinks));
+      break;
+    }
+    const Device& disk = machine.controllers[place.controller].devices[place.device];
+    links.push_back(fmt::format(R"(<a href="#object-{}">{}</a>)", disk.instance, LocationOf(disk)));
+  }
+  return fmt::format("{}", fmt::join(links, ", "));
+}
+
+void WriteIncident(std::ostream& out, const Machine& machine, const Incident& incident) {
+  const Level level = incident.severity == Severity::kFine ? Level::kUnsaid : LevelOf(incident.severity);
+  out << fmt::format(R"(<li class="incident level-{0}"><p><span class="badge level-{0}">{1}{2}</span> {3}</p>)",
+                     LevelWord(level), Symbol(level), IncidentWord(incident), DiskLinks(machine, incident));
+  out << fmt::format("\n<h3>{}</h3>\n<p>{}</p>\n", HtmlText(incident.headline), HtmlText(incident.action));
+  if (const std::size_t count = incident.findings.size(); count > 0) {
+    out << fmt::format("<p class=\"quiet\"><a href=\"#findings\">{} finding{}</a></p>", count, count == 1 ? "" : "s");
+  }
+  out << "</li>\n";
+}
+
+}  // namespace
+
+void WriteTitleHtml(std::ostream& out, const QueryHeader& header) {
+  out << "RAID report: " << HtmlText(header.machine);
+}
+
+void WriteOriginHtml(std::ostream& out, const QueryHeader& header) {
+  out << fmt::format("Collected on {} in {}", HtmlText(ReadableTime(header.time.ToString())),
+                     HtmlText(header.directory));
+  if (header.isReplayed) out << ". " << HtmlText(SourceNote(header));
+}
+
+void WriteSummaryHtml(std::ostream& out, const QueryHeader& header, const Machine& machine) {
+  const std::vector<std::string_view> unjudged = UnjudgedClasses(header);
+  WriteVerdict(out, machine, unjudged.empty());
+  WriteLimits(out, header, unjudged);
+  WriteAllDisks(out, machine);
+  if (machine.incidents.empty()) return;
+  out << "<ol class=\"incidents\">\n";
+  for (const Incident& incident : machine.incidents) WriteIncident(out, machine, incident);
+  out << "</ol>\n";
+}
+
+}  // namespace hxahost

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <ostream>
+
+#include "host/hxahost/machine/machine.h"
+#include "host/hxahost/result/query_result.h"
+
+// What everybody sees first, as HTML that needs no script.
+namespace hxahost {
+
+// The name of the report.
+void WriteTitleHtml(std::ostream& out, const QueryHeader& header);
+
+// When and where it was collected.
+void WriteOriginHtml(std::ostream& out, const QueryHeader& header);
+
+// The verdict, all disks by controller, and the incidents with what to do. "#object-17" leads to the instance 17.
+void WriteSummaryHtml(std::ostream& out, const QueryHeader& header, const Machine& machine);
+
+}  // namespace hxahost
