@@ -13,6 +13,7 @@
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/html_text.h"
+#include "host/hxahost/views/incident_lines.h"
 #include "host/hxahost/views/report/level_marks.h"
 
 namespace hxahost {
@@ -42,7 +43,7 @@ void WriteVerdict(std::ostream& out, Level level, std::string_view words) {
 void WriteVerdict(std::ostream& out, const Machine& machine, bool isWhole) {
   const Severity worst = WorstOf(machine.findings);
   if (worst != Severity::kFine) {
-    WriteVerdict(out, LevelOf(worst), fmt::format("{}: {}", Upper(SeverityWord(worst)), TallyOf(machine)));
+    WriteVerdict(out, LevelOf(worst), fmt::format("{}: {}", Upper(SeverityWord(worst)), Tally(machine.incidents)));
   } else if (machine.controllers.empty()) {
     WriteVerdict(out, Level::kUnknown, "Nothing was found: no controller and no disk in what was asked for");
   } else {
