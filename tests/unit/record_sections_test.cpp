@@ -5,7 +5,8 @@
 #include <set>
 #include <sstream>
 
-#include "host/hxahost/views/tables/controller_columns.h"
+#include "host/hxahost/views/controller_columns.h"
+#include "host/hxahost/views/record_columns.h"
 #include "tests/support/filled_repository.h"
 
 namespace {

@@ -10,8 +10,8 @@
 
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/result/property_values.h"
-#include "host/hxahost/views/tables/controller_columns.h"
-#include "host/hxahost/views/tables/record_sections.h"
+#include "host/hxahost/views/controller_columns.h"
+#include "host/hxahost/views/record_columns.h"
 #include "tests/support/healthy_machine.h"
 
 namespace {

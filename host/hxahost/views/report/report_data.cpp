@@ -14,10 +14,10 @@
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/json_output.h"
 #include "host/hxahost/text/utf8.h"
+#include "host/hxahost/views/controller_columns.h"
 #include "host/hxahost/views/monitoring/finding_json.h"
+#include "host/hxahost/views/record_columns.h"
 #include "host/hxahost/views/report/level_marks.h"
-#include "host/hxahost/views/tables/controller_columns.h"
-#include "host/hxahost/views/tables/record_sections.h"
 
 using NKVRHXA20::ClassDeclaration;
 using NKVRHXA20::PropertyDeclaration;

@@ -9,7 +9,8 @@
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
-#include "host/hxahost/views/tables/controller_columns.h"
+#include "host/hxahost/views/controller_columns.h"
+#include "host/hxahost/views/tables/instance_table.h"
 
 using NKVRHXA20::TPublishedInstance;
 

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "host/hxahost/result/property_values.h"
+#include "host/hxahost/terminal/table.h"
 #include "host/hxahost/views/level_colour.h"
 
 namespace hxahost {

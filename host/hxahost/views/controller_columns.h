@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "host/hxahost/views/tables/instance_table.h"
+#include "host/hxahost/views/instance_column.h"
 
 // What a controller's block shows, in its order: what matters first.
 namespace hxahost {

@@ -1,4 +1,4 @@
-#include "host/hxahost/views/tables/controller_columns.h"
+#include "host/hxahost/views/controller_columns.h"
 
 #include "host/hxahost/schema/class_names.h"
 
