@@ -96,8 +96,43 @@ TEST(Table, LeavesOutColumnsFromTheRightWhenTheyCannotBeNarrowedAndSaysSo) {
                  {
                      {std::string(50, 'a'), std::string(50, 'b'), std::string(50, 'c')}
   }),
-            "  A" + std::string(41, ' ') + "B  \u2026\n  " + std::string(39, 'a') + "\u2026  " + std::string(39, 'b') +
+            "  A" + std::string(47, ' ') + "B  \u2026\n  " + std::string(45, 'a') + "\u2026  " + std::string(46, 'b') +
                 "\u2026\n");
+}
+
+TEST(Table, LeavesOutColumnsThatAreKeptLast) {
+  const std::vector<TableColumn> columns = {
+      {"A", 60, 40,   true},
+      {"B", 60, 40  },
+      {"C", 60, 40, true    }
+  };
+  const std::string shown = Text(columns, {
+                                              {std::string(40, 'a'), std::string(40, 'b'), std::string(40, 'c')}
+  });
+  EXPECT_EQ(shown,
+            "  A" + std::string(41, ' ') + "C  \u2026\n  " + std::string(40, 'a') + "  " + std::string(40, 'c') + "\n");
+}
+
+TEST(Table, LeavesOutNoColumnForOneLongCell) {
+  const std::vector<TableColumn> columns = {
+      {"State", 90, 8,     true},
+      {"Size",       30,    8}
+  };
+  const std::string size(30, '1');
+  const std::string longState(90, 'x');
+  const std::string usual = "Failed";
+  const std::string shown = Text(columns, {
+                                              {usual,     size},
+                                              {longState, size},
+                                              {usual,     size},
+                                              {usual,     size}
+  });
+  EXPECT_NE(shown.find(std::string(65, 'x') + "\u2026  " + size), std::string::npos) << shown;
+  const std::string wide = Text(columns, {
+                                             4, {longState, size}
+  });
+  EXPECT_EQ(wide.find(size), std::string::npos)
+      << "cells that are all long are not cut for what matters less: " << wide;
 }
 
 TEST(Table, UsesTheWidthOfTheLayout) {

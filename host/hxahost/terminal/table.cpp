@@ -19,44 +19,60 @@ struct Shown {
   std::size_t index = 0;
   std::size_t width = 0;
   std::size_t least = 0;
+  bool isKept = false;
 };
 
 std::string_view Cell(const std::vector<std::string>& row, std::size_t index) {
   return index < row.size() ? std::string_view(row[index]) : std::string_view();
 }
 
+// What three of four cells need: one long cell does not take the room of other columns.
+std::size_t UsualWidth(std::vector<std::size_t> widths) {
+  const auto usual = widths.begin() + static_cast<std::ptrdiff_t>((widths.size() - 1) * 3 / 4);
+  std::ranges::nth_element(widths, usual);
+  return *usual;
+}
+
 std::vector<Shown> ColumnsWithText(const Table& table) {
   std::vector<Shown> shown;
   for (std::size_t index = 0; index < table.columns.size(); ++index) {
     const TableColumn& column = table.columns[index];
-    std::size_t width = 0;
-    for (const auto& row : table.rows) width = std::max(width, DisplayWidth(Cell(row, index)));
-    if (width == 0) continue;
-    width = std::min(std::max(width, DisplayWidth(column.title)), column.widest);
-    shown.push_back({index, width, std::min(width, column.least)});
+    std::vector<std::size_t> widths;
+    for (const auto& row : table.rows) widths.push_back(DisplayWidth(Cell(row, index)));
+    const std::size_t widest = widths.empty() ? 0 : std::ranges::max(widths);
+    if (widest == 0) continue;
+    const std::size_t width = std::min(std::max(widest, DisplayWidth(column.title)), column.widest);
+    const std::size_t least = column.isKept ? std::max(column.least, UsualWidth(std::move(widths))) : column.least;
+    shown.push_back({index, width, std::min(width, least), column.isKept});
   }
   return shown;
 }
 
-std::size_t TotalWidth(const std::vector<Shown>& columns) {
+std::size_t TotalWidth(const std::vector<Shown>& columns, std::size_t Shown::*width) {
   return std::accumulate(columns.begin(), columns.end(), kIndentWidth + kGap * (columns.size() - 1),
-                         [](std::size_t sum, const Shown& column) { return sum + column.width; });
+                         [width](std::size_t sum, const Shown& column) { return sum + column.*width; });
+}
+
+// Leaves out columns until the others fit, as narrow as they may be: what matters least is at the right. One stays,
+// whatever its width. Gives the room of those that stay.
+std::size_t LeaveOut(std::vector<Shown>& columns, std::size_t width) {
+  std::size_t room = width;
+  while (columns.size() > 1 && TotalWidth(columns, &Shown::least) > room) {
+    const auto last = std::find_if(columns.rbegin(), columns.rend(), [](const Shown& each) { return !each.isKept; });
+    columns.erase(last == columns.rend() ? columns.end() - 1 : last.base() - 1);
+    room = width - DisplayWidth(kMoreColumns);
+  }
+  return room;
 }
 
 // Takes from the widest of the columns that may be narrower.
 void Narrow(std::vector<Shown>& columns, std::size_t width) {
-  while (TotalWidth(columns) > width) {
+  while (TotalWidth(columns, &Shown::width) > width) {
     const auto widest = std::ranges::max_element(
         columns, {}, [](const Shown& column) { return column.width > column.least ? column.width : 0; });
     if (widest->width <= widest->least) return;
     --widest->width;
   }
-}
-
-// What matters least is at the right. The first column stays, whatever its width.
-void LeaveOutFromTheRight(std::vector<Shown>& columns, std::size_t width) {
-  const std::size_t room = width - DisplayWidth(kMoreColumns);
-  while (columns.size() > 1 && TotalWidth(columns) > room) columns.pop_back();
 }
 
 // Gives the text of a cell its colour.
@@ -78,13 +94,12 @@ std::string RowText(const std::vector<Shown>& columns, const std::vector<std::st
 void WriteTable(std::ostream& out, const Layout& layout, const Table& table) {
   std::vector<Shown> columns = ColumnsWithText(table);
   if (columns.empty()) return;
-  Narrow(columns, layout.width);
-  const bool isTooWide = TotalWidth(columns) > layout.width;
-  if (isTooWide) LeaveOutFromTheRight(columns, layout.width);
+  const std::size_t room = LeaveOut(columns, layout.width);
+  Narrow(columns, room);
   std::vector<std::string> titles;
   for (const TableColumn& column : table.columns) titles.push_back(column.title);
   const auto plain = [](const std::string& text, std::size_t) { return text; };
-  out << RowText(columns, titles, plain) << (isTooWide ? kMoreColumns : "") << '\n';
+  out << RowText(columns, titles, plain) << (room < layout.width ? kMoreColumns : "") << '\n';
   for (std::size_t row = 0; row < table.rows.size(); ++row) {
     const auto paint = [&](const std::string& text, std::size_t column) {
       const auto colour = table.colours.find({row, column});
