@@ -67,6 +67,8 @@ const std::vector<Case> kQueryCases = {
     {"--superclasses", {"query", "--superclasses"},                            2, "give --format mof"          },
     {"--runs",         {"query", "--runs=some"},                               2, "hxahost query --help"       },
     {"--ascii",        {"query", "--ascii=some"},                              2, "hxahost query --help"       },
+    {"--all",          {"query", "--all=some"},                                2, "hxahost query --help"       },
+    {"--verbose",      {"query", "--verbose=some"},                            2, "hxahost query --help"       },
     {"--record",       {"query", "--record", kNowhere},                        2, "--record "                  },
     {"--record",       {"query", "--record", kFolder},                         2, "--record "                  },
     {"--record",       {"query", "--record", kFile, "--output", kFile},        2, "is named twice"             },

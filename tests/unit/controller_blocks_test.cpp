@@ -1,5 +1,6 @@
 #include "host/hxahost/views/tables/controller_blocks.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -15,9 +16,11 @@ constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
 constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
-std::string Blocks(const FilledRepository& repository, const std::vector<std::string>& askedFor = {kController}) {
+std::string Blocks(const FilledRepository& repository, const std::vector<std::string>& askedFor = {kController},
+                   bool isVerbose = false) {
   std::ostringstream out;
-  const QueryHeader header{"", "", {}, askedFor, 1};
+  QueryHeader header{"", "", {}, askedFor, 1};
+  header.isVerbose = isVerbose;
   const QueryResult result{1, repository.Instances(), {}};
   WriteControllerBlocks(out, header, result.instances, BuildMachine(header, result));
   return out.str();
@@ -43,16 +46,61 @@ Controller 1: Zentraxis-6M - Okay
   serial 8A1234, slot 3
   defunct drives 1, battery Charging
   Logical drives
-  Drive  Name  RAID  Size      State
-  1      data  5     69430 MB  Critical (CRT)
+  Drive  Name  State     RAID  Size
+  1      data  Critical  5     72.8 GB
   Disk groups
   Array  Stripe order  Identifier
   A      0,3 0,4       Zentraxis1ArrayA
   Disks
-  Ch  ID  Type       Model       State                           PFA  Size      Serial   Firmware
-  0   3   Hard disk  ST336607LC  Online                          No   34715 MB  3KR0123  B26A
-  0   4   Hard disk  ST336607LC  Defunct for a very, very long…  Yes  34715 MB  3KR0124  B26A
+  Location         State                   Model       Serial   Size     Type  PFA  Firmware  Ch  ID
+  channel 0, ID 3  Online                  ST336607LC  3KR0123  36.4 GB  HDD   No   B26A      0   3
+  channel 0, ID 4  Defunct for a very, v…  ST336607LC  3KR0124  36.4 GB  HDD   Yes  B26A      0   4
 )");
+}
+
+TEST(ControllerBlocks, ShowShortFormsOfStatesOnRequestAlone) {
+  FilledRepository repository;
+  const auto publish = [&](const char* state, const char* cache) {
+    repository.Publish(kLogicalDisk, "ControllerNum", "1", "LogicalDriveStatus", state, "WriteCacheStatus", cache);
+  };
+  publish("Critical (CRT)", "Write back (WB)");
+  publish("Optimal (Initializing)", "Enabled (write-back)");
+  publish("(OKY)", "WB)");
+  EXPECT_THAT(Blocks(repository), testing::HasSubstr(R"(
+  State                   Write cache
+  Critical                Write back
+  Optimal (Initializing)  Enabled (write-back)
+  (OKY)                   WB)
+)"));
+  EXPECT_THAT(Blocks(repository, {kController}, true),
+              testing::HasSubstr("  Critical (CRT)          Write back (WB)\n"));
+}
+
+// The unit is that of the smallest, so that figures compare; a size that cannot be read stays as it was printed.
+TEST(ControllerBlocks, ShowSizesInOneUnitForAColumn) {
+  struct Case {
+    const char* name;
+    std::vector<const char*> sizes;
+    const char* shown;
+  };
+  const Case cases[] = {
+      {"small and large", {"34715/71096320", "2861588 MB"}, "  Size\n    36.4 GB\n  3000.6 GB\n"},
+      {"large alone",     {"2861588 MB", "1907729 MB"},     "  Size\n  3.00 TB\n  2.00 TB\n"    },
+      {"not readable",    {"36.4 lots", "34715/71096320"},  "  Size\n  36.4 lots\n    36.4 GB\n"},
+  };
+  for (const Case& each : cases) {
+    FilledRepository repository;
+    for (const char* const size : each.sizes) repository.Publish(kDiskDrive, "ControllerNum", "1", "Size", size);
+    EXPECT_THAT(Blocks(repository), testing::HasSubstr(each.shown)) << each.name;
+  }
+}
+
+TEST(ControllerBlocks, CallEachKindOfDeviceByOneShortWord) {
+  FilledRepository repository;
+  for (const char* const type : {"Hard drive", "Tape drive", "Enclosure services device", "Processor device"}) {
+    repository.Publish(kDiskDrive, "ControllerNum", "1", "DeviceType", type);
+  }
+  EXPECT_THAT(Blocks(repository), testing::HasSubstr("  Type\n  HDD\n  tape\n  enclosure\n  Processor device\n"));
 }
 
 TEST(ControllerBlocks, ShowWhatHangsOnAControllerThatHasNoInstance) {

@@ -230,6 +230,7 @@ TEST(Machine, IsJudgedAlikeInTablesReportHealthAndMetrics) {
     machine.SetOf(each.identifier, each.property, each.text);
     QueryHeader header = machine.Header();
     header.layout = {200, true};
+    header.isVerbose = true;
     const QueryResult result = machine.Result();
 
     std::ostringstream tables;

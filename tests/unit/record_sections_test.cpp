@@ -14,16 +14,20 @@ namespace {
 using namespace hxahost;
 using namespace NKVRHXA20;
 
-std::string Sections(const FilledRepository& repository) {
+std::string Sections(const FilledRepository& repository, bool showAll = true) {
+  QueryHeader header;
+  header.showAll = showAll;
+  QueryResult result;
+  result.instances = repository.Instances();
   std::ostringstream out;
-  WriteRecordSections(out, {}, repository.Instances());
+  WriteRecordSections(out, header, result.instances, BuildMachine(header, result));
   return out.str();
 }
 
 TEST(RecordSections, NamePropertiesThatOneOfTheirClassesDeclares) {
   for (const RecordSection& section : RecordSections()) {
     for (const InstanceColumn& column : section.columns) {
-      bool isDeclared = false;
+      bool isDeclared = column.property.empty();
       for (const std::string_view name : section.classes) {
         const auto* const declaration = FindClass(name);
         ASSERT_NE(declaration, nullptr) << name;
@@ -54,11 +58,41 @@ TEST(RecordSections, ShowVersionsOfAllKindsInOneTable) {
                      "SoftwareElementID", "1");
   repository.Publish("KVRSG_zxDiskDriveVersion", "Name", "Zentraxis Disk", "Version", "5.2-0 ", "SoftwareElementID",
                      "1-C1 CH0 I03:3KR0", "Manufacturer", "SEAGULL");
+  repository.Publish("KVRSG_zxDiskDrive", "ControllerNum", "1", "DeviceID", "C1 CH0 I03:3KR0", "Channel", "0", "ScsiId",
+                     "3", "DeviceSerialNum", "3KR0");
   EXPECT_EQ(Sections(repository), R"(
 Versions
-  Name                 Version        Build  Element            Manufacturer
-  Zentraxis1 Firmware  5.2-0 (12345)  12345  1
-  Zentraxis Disk       5.2-0                 1-C1 CH0 I03:3KR0  SEAGULL
+  Controller  Location         Serial  Version        Name                 Build  Manufac…  Element
+  C1                                   5.2-0 (12345)  Zentraxis1 Firmware  12345            1
+  C1          channel 0, ID 3  3KR0    5.2-0          Zentraxis Disk              SEAGULL   1-C1 CH…
+)");
+}
+
+// Each record is the one of its controller, where two share the number, or says that nobody knows.
+TEST(RecordSections, TellControllersOfOneNumberApart) {
+  FilledRepository repository;
+  repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "3", "ReadAhead", "On");
+  repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "3", "VPD", "7");
+  for (const char* const version : {"1.0", "2.0"}) {
+    repository.Publish("KVRSG_zxBiosVersion", "Version", version, "SoftwareElementID", "3");
+  }
+  repository.Publish("KVRSG_zxFirmwareVersion", "Version", "3.0", "SoftwareElementID", "3");
+  repository.Publish("KVRSG_BadStripeData", "ControllerNum", "3", "LogicalDrive", "2", "NumBadStripes", "0");
+  repository.Publish("KVRSG_LogRecord_SoftEvent", "ControllerNum", "3", "NumEntries", "1");
+  EXPECT_EQ(Sections(repository), R"(
+Soft events
+  Controller    Entries
+  C3 (qcmdrun)  1
+
+Versions
+  Controller           Version  Element
+  C3 (qcmdrun)         1.0      3
+  C3 (arcconf)         2.0      3
+  C3 (tool not known)  3.0      3
+
+Bad stripes
+  Controller           Logical drive  Bad stripes
+  C3 (tool not known)  2              0
 )");
 }
 
@@ -80,34 +114,36 @@ TEST(RecordSections, ShowStatisticsAndLogs) {
                      "HexHardEvent", hardCodes);
   repository.Publish("KVRSG_LogRecord_RAIDMgrEvent", "MessageTimestamp", time, "RecordID", "1", "Severity", "Error",
                      "MachineName", "M", "Message", "Bad disk");
-  EXPECT_EQ(Sections(repository), R"(
-Bad stripes
-  Controller  Logical drive  Bad stripes
-  1           2              3
-
-Device statistics
-  Controller  Channel  ID  Hard errors  Soft errors  Parity errors  Misc  PFA
-  1           0        3   h            s            p              m     f
-
-SCSI sub-status
-  Controller  Channel  ID  Parameters  Req/Off  Highest transfer  Current transfer
-  1           0        3   p           r        max               cur
-
+  const std::string events = R"(
 Defunct drives log
-  Controller  Record  Date      Time      Channel  ID  Reason  Description
-  1           7       03/05/26  12:30:15  0        3   0x24    Timed out
+  Controller  Date      Time      Channel  ID  Description  Reason  Record
+  C1          03/05/26  12:30:15  0        3   Timed out    0x24    7
 
 Soft events
-  Controller  Time                        Entries  Codes
-  1           2026-03-05 12:30:15 +01:00  1        0x000000ff
+  Controller  Entries  Codes
+  C1          1        0x000000ff
 
 Hard events
-  Controller  Time                        Entries  Codes
-  1           2026-03-05 12:30:15 +01:00  1        0x00000010
+  Controller  Entries  Codes
+  C1          1        0x00000010
 
 RAID manager events
   Time                        Severity  Message   Machine  Record
   2026-03-05 12:30:15 +01:00  Error     Bad disk  M        1
+)";
+  EXPECT_EQ(Sections(repository, false), events);
+  EXPECT_EQ(Sections(repository), events + R"(
+Bad stripes
+  Controller  Logical drive  Bad stripes
+  C1          2              3
+
+Device statistics
+  Controller  Channel  ID  Hard errors  Soft errors  Parity errors  Misc  PFA
+  C1          0        3   h            s            p              m     f
+
+SCSI sub-status
+  Controller  Channel  ID  Parameters  Req/Off  Highest transfer  Current transfer
+  C1          0        3   p           r        max               cur
 )");
 }
 

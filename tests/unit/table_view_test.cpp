@@ -1,18 +1,24 @@
 #include "host/hxahost/views/tables/table_view.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sstream>
 
 #include "tests/support/filled_repository.h"
+#include "tests/support/healthy_machine.h"
 
 namespace {
 
 using namespace hxahost;
 using namespace NKVRHXA20;
+using testing::HasSubstr;
+using testing::Not;
 
 QueryHeader Header(const std::vector<std::string>& classes, unsigned queryCount = 1) {
-  return {"MACHINE", "C:\\tools", TCIMDateTime(2026, 3, 5, 12, 30, 15, 0, 60), classes, queryCount};
+  QueryHeader header{"MACHINE", "C:\\tools", TCIMDateTime(2026, 3, 5, 12, 30, 15, 0, 60), classes, queryCount};
+  header.showAll = true;
+  return header;
 }
 
 std::string Tables(const QueryHeader& header, const std::vector<QueryResult>& results) {
@@ -48,6 +54,19 @@ Runs of the tools
   hrconf_64: not run
   arcconf: not run
 )");
+}
+
+TEST(TableView, BeginsWithWhatIsWrongAndLeavesOutWhatMattersLittle) {
+  HealthyMachine machine;
+  const std::string healthy = Tables(machine.Header(), {machine.Result()});
+  EXPECT_THAT(healthy, HasSubstr("\n\nOK       no fault found\n\nController 1"));
+  EXPECT_THAT(healthy, Not(HasSubstr("Class asked for")));
+  machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", "Degraded");
+  EXPECT_THAT(Tables(machine.Header(), {machine.Result()}),
+              HasSubstr("\n\nCRITICAL 1 critical\n\ncritical C2 \"Data\" "));
+  QueryHeader withoutDisks = machine.Header();
+  std::erase(withoutDisks.classes, "KVRSG_zxDiskDrive");
+  EXPECT_THAT(Tables(withoutDisks, {machine.Result()}), Not(HasSubstr("CRITICAL"))) << "a verdict on less misleads";
 }
 
 TEST(TableView, SaysWhenNothingWasFoundAndWhichToolsCouldNotBeRun) {

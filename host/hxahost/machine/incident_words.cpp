@@ -78,11 +78,14 @@ std::string StateWord(const State& state) {
   return words.empty() ? "" : Printable(words.front());
 }
 
-std::string FormatBytes(std::uint64_t bytes) {
+std::string FormatBytes(std::uint64_t bytes) { return FormatBytes(bytes, bytes); }
+
+std::string FormatBytes(std::uint64_t bytes, std::uint64_t smallest) {
   constexpr double kGiga = 1e9;
   constexpr double kTera = 1e12;
   const auto number = static_cast<double>(bytes);
-  return number < kTera ? fmt::format("{:.1f} GB", number / kGiga) : fmt::format("{:.2f} TB", number / kTera);
+  const bool isSmall = static_cast<double>(smallest) < kTera;
+  return isSmall ? fmt::format("{:.1f} GB", number / kGiga) : fmt::format("{:.2f} TB", number / kTera);
 }
 
 }  // namespace hxahost

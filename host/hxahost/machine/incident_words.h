@@ -32,4 +32,7 @@ std::string StateWord(const State& state);
 // "73.4 GB": thousands, as makers of disks count. "1.50 TB" from there on.
 std::string FormatBytes(std::uint64_t bytes);
 
+// The same in the unit of the smallest of several that are compared.
+std::string FormatBytes(std::uint64_t bytes, std::uint64_t smallest);
+
 }  // namespace hxahost

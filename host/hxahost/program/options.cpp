@@ -173,6 +173,8 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
             "a page for browsers, instances for CIM repositories");
   query.add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
   query.add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
+  query.add_flag("--all", read.showAll, "Tables: also versions, statistics and numbers of instances");
+  query.add_flag("-v,--verbose", read.isVerbose, "Tables: also the short forms of states, as in \"Critical (CRT)\"");
   AddLimits(query, typed);
   query.add_flag("--superclasses", read.withSuperclasses,
                  "Declare the classes in the MOF, derived from the DMTF's, for repositories that have its schema");

@@ -21,6 +21,8 @@ struct QueryOptions {
   bool showRuns = false;
   bool showUnread = false;
   bool withSuperclasses = false;
+  bool showAll = false;
+  bool isVerbose = false;
   std::optional<unsigned> width;  // of the tables
   bool isAscii = false;
   std::string color = "auto";
@@ -42,6 +44,7 @@ struct DiffOptions {
   std::string oldFile;
   std::string newFile;
   std::string format = "text";
+  bool isVerbose = false;
 };
 
 enum class Command {

@@ -27,6 +27,8 @@ struct QueryHeader {
   bool isReplayed = false;        // everything comes from a bundle
   bool isMasked = false;          // and names and serial numbers in that are hidden
   bool withSuperclasses = false;  // MOF declares the classes, under those of the DMTF
+  bool showAll = false;           // tables have versions, counts and numbers of instances, too
+  bool isVerbose = false;         // tables have the short forms of states, too
   Layout layout = {};             // of the tables
   Limits limits = {};             // of what is counted
   boost::shared_ptr<const NKVRHXA20::TPublishedInstance> system = {};  // the machine, as exports name it

@@ -15,6 +15,7 @@ inline constexpr std::string_view kDeviceErrorsClass = "KVRSG_zxSCSIDeviceData";
 inline constexpr std::string_view kTransferClass = "KVRSG_zxSCSISubStatData";
 inline constexpr std::string_view kEventClass = "KVRSG_LogRecord_RAIDMgrEvent";
 inline constexpr std::string_view kFirmwareClass = "KVRSG_zxFirmwareVersion";
+inline constexpr std::string_view kDiskVersionClass = "KVRSG_zxDiskDriveVersion";
 inline constexpr std::string_view kManagerRawDataClass = "KVRSG_zxManagerRawData";
 
 }  // namespace hxahost

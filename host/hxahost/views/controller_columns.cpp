@@ -32,40 +32,41 @@ constexpr Fact kState[] = {
     {"battery time",             "BatteryTimeRemaining"       },
 };
 
-// States are not narrowed, and are where no narrow page cuts them off: they are what people look for.
+// What people look for first is at the left, and is kept where space is short.
 constexpr InstanceColumn kLogicalDrives[] = {
-    {"Drive",        "LogicalDriveNum",    8,  5 },
-    {"Name",         "LogicalDriveName",   20, 8 },
-    {"RAID",         "RaidLevel",          12, 4 },
-    {"Size",         "Size",               16, 10},
-    {"State",        "LogicalDriveStatus", 30, 30},
-    {"Blocked",      "AccessBlocked",      10, 7 },
-    {"Defunct",      "DefunctSegments",    20, 9 },
-    {"Array",        "PartOfArray",        10, 5 },
-    {"Stripe unit",  "StripeUnitSize",     12, 6 },
-    {"Write cache",  "WriteCacheStatus",   24, 8 },
-    {"Read cache",   "ReadCacheStatus",    16, 8 },
-    {"Stripe order", "StripeOrder",        40, 12},
+    {"Drive",        "LogicalDriveNum",    8,  5,  Cell::kProperty, true },
+    {"Name",         "LogicalDriveName",   20, 8,  Cell::kProperty, true },
+    {"State",        "LogicalDriveStatus", 40, 17, Cell::kState,    true },
+    {"RAID",         "RaidLevel",          12, 4,  Cell::kProperty, true },
+    {"Size",         "Size",               16, 10, Cell::kSize,     true },
+    {"Blocked",      "AccessBlocked",      10, 7,  Cell::kProperty, false},
+    {"Defunct",      "DefunctSegments",    20, 9,  Cell::kProperty, false},
+    {"Array",        "PartOfArray",        10, 5,  Cell::kProperty, false},
+    {"Stripe unit",  "StripeUnitSize",     12, 11, Cell::kProperty, false},
+    {"Write cache",  "WriteCacheStatus",   24, 14, Cell::kState,    false},
+    {"Read cache",   "ReadCacheStatus",    16, 10, Cell::kState,    false},
+    {"Stripe order", "StripeOrder",        40, 12, Cell::kProperty, false},
 };
 
 constexpr InstanceColumn kDiskGroups[] = {
-    {"Array",        "Array",        10, 8},
-    {"Stripe order", "StripeOrder",  60, 8},
-    {"Identifier",   "CollectionID", 60, 8},
+    {"Array",        "Array",        10, 8, Cell::kProperty, false},
+    {"Stripe order", "StripeOrder",  60, 8, Cell::kProperty, false},
+    {"Identifier",   "CollectionID", 60, 8, Cell::kProperty, false},
 };
 
 constexpr InstanceColumn kDisks[] = {
-    {"Ch",       "Channel",         8,  2 },
-    {"ID",       "ScsiId",          6,  2 },
-    {"Type",     "DeviceType",      24, 9 },
-    {"Model",    "Model",           20, 10},
-    {"State",    "State",           30, 30},
-    {"PFA",      "PFA",             8,  3 },
-    {"Size",     "Size",            16, 8 },
-    {"Serial",   "DeviceSerialNum", 24, 20},
-    {"Firmware", "Firmware",        10, 8 },
-    {"FRU",      "FRU",             12, 8 },
-    {"Vendor",   "Vendor",          10, 8 },
+    {"Location", "",                30, 20, Cell::kLocation, true },
+    {"State",    "State",           40, 17, Cell::kState,    true },
+    {"Model",    "Model",           20, 10, Cell::kProperty, true },
+    {"Serial",   "DeviceSerialNum", 24, 10, Cell::kProperty, true },
+    {"Size",     "Size",            16, 8,  Cell::kSize,     true },
+    {"Type",     "DeviceType",      20, 9,  Cell::kKind,     false},
+    {"PFA",      "PFA",             8,  3,  Cell::kProperty, false},
+    {"FRU",      "FRU",             12, 8,  Cell::kProperty, false},
+    {"Firmware", "Firmware",        10, 8,  Cell::kProperty, false},
+    {"Vendor",   "Vendor",          10, 8,  Cell::kProperty, false},
+    {"Ch",       "Channel",         8,  2,  Cell::kProperty, false},
+    {"ID",       "ScsiId",          6,  2,  Cell::kProperty, false},
 };
 
 constexpr DeviceKind kKinds[] = {

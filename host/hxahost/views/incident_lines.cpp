@@ -17,6 +17,10 @@ std::string Painted(const std::string& text, Level level, const Layout& layout) 
   return layout.hasColours && colour ? InColour(text, *colour) : text;
 }
 
+std::string SeverityHead(std::string_view word, Severity severity, const Layout& layout) {
+  return Painted(std::string(word), LevelOf(severity), layout) + std::string(kIncidentIndent - word.size(), ' ');
+}
+
 std::string Tally(const Incidents& incidents) {
   std::vector<std::string> counts;
   for (const Severity severity : {Severity::kCritical, Severity::kWarning, Severity::kUnknown}) {

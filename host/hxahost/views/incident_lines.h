@@ -2,22 +2,28 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/hxahost/machine/machine.h"
 #include "host/hxahost/terminal/layout.h"
 
+// Incidents as lines of text for people.
 namespace hxahost {
 
-constexpr std::size_t kIncidentIndent = 9;  // "critical "
+// "critical "
+inline constexpr std::size_t kIncidentIndent = 9;
 
 // The text in the colour of the level, where the layout has colours.
 std::string Painted(const std::string& text, Level level, const Layout& layout);
 
+// The word in its colour, with blanks up to the indent.
+std::string SeverityHead(std::string_view word, Severity severity, const Layout& layout);
+
 // "4 critical, 1 warning"; "" where nothing is wrong.
 std::string Tally(const Incidents& incidents);
 
-// The headline, the severity before it, then what to do; further lines are indented.
+// The headline after its severity, and below it, indented, what to do.
 std::vector<std::string> IncidentLines(const Incident& incident, const Layout& layout);
 
 }  // namespace hxahost

@@ -12,6 +12,7 @@ struct RecordSection {
   std::string_view heading;
   std::span<const std::string_view> classes;
   std::span<const InstanceColumn> columns;
+  bool isOfEvents = false;
 };
 
 std::span<const RecordSection> RecordSections();

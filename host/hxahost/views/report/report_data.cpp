@@ -52,7 +52,9 @@ Json TableJson(std::string_view heading, std::span<const std::string_view> class
 
 Json ColumnsJson(std::span<const InstanceColumn> columns) {
   Json json = Json::array();
-  for (const InstanceColumn& column : columns) json.push_back(ColumnJson(column.title, column.property));
+  for (const InstanceColumn& column : columns) {
+    if (!column.property.empty()) json.push_back(ColumnJson(column.title, column.property));
+  }
   return json;
 }
 

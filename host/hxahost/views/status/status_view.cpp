@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -10,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "host/hxahost/machine/incident_words.h"
+#include "host/hxahost/result/answers.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/terminal/table.h"
 #include "host/hxahost/terminal/wrap.h"
@@ -28,21 +28,17 @@ using Lines = std::vector<std::string>;
 constexpr std::size_t kScreen = 24;
 constexpr std::size_t kFewest = 2;  // lines of an incident: its headline and what to do
 
-std::string Plural(std::size_t count, std::string_view what) {
-  return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
-}
-
-// "CRITICAL  SAMPLE at 2026-11-21 09:30:00 +01:00: 4 critical, 1 warning"
+// "CRITICAL SAMPLE at 2026-11-21 09:30:00 +01:00: 4 critical, 1 warning"
 std::string Verdict(const HealthReport& report) {
   const Machine& machine = report.machine;
   const Severity worst = WorstOf(machine.findings);
   const std::string tally = Tally(machine.incidents);
-  std::string text = tally.empty() ? "no fault found" : tally;
-  if (worst == Severity::kFine && machine.controllers.empty()) text = "no controller found";
-  const std::string word = Upper(SeverityWord(worst));
-  return fmt::format("{}{}{} at {}: {}", Painted(word, LevelOf(worst), report.header.layout),
-                     std::string(kIncidentIndent - word.size(), ' '), Printable(report.header.machine),
-                     ReadableTime(report.header.time.ToString()), text);
+  const bool isNothing = worst == Severity::kFine && machine.controllers.empty();
+  return fmt::format("{}{} at {}: {}", SeverityHead(Upper(SeverityWord(worst)), worst, report.header.layout),
+                     Printable(report.header.machine), ReadableTime(report.header.time.ToString()),
+                     isNothing       ? "no controller found"
+                     : tally.empty() ? "no fault found"
+                                     : tally);
 }
 
 // How many lines of each incident are shown: all where there is room; else its headline and the beginning of what to
@@ -131,27 +127,6 @@ Table ControllerTable(const Machine& machine) {
   return table;
 }
 
-// "qcmdrun 2 controllers, hrconf_64 none, arcconf not started"
-std::string ToolsText(const HealthReport& report) {
-  Lines tools;
-  for (const std::string_view tool : KnownTools()) {
-    std::set<std::string> answered;
-    Outcome worst = Outcome::kOk;
-    bool isAsked = false;
-    for (const ToolRun& run : report.result.runs) {
-      if (ToolName(run.path) != tool) continue;
-      isAsked = true;
-      worst = std::max(worst, run.outcome == Outcome::kRefused ? Outcome::kOk : run.outcome);
-      if (run.outcome == Outcome::kOk && run.arguments.size() > 1) answered.insert(run.arguments[1]);
-    }
-    if (!isAsked) continue;
-    const bool isSilent = answered.empty() && worst != Outcome::kOk;
-    tools.push_back(
-        fmt::format("{} {}", tool, isSilent ? std::string(OutcomeWord(worst)) : Plural(answered.size(), "controller")));
-  }
-  return tools.empty() ? "" : fmt::format("Tools: {}", fmt::join(tools, ", "));
-}
-
 // Where to look next.
 std::string Hint(const Machine& machine) {
   const auto located = std::ranges::find_if(machine.incidents, [](const Incident& each) {
@@ -173,7 +148,10 @@ void WriteStatusText(std::ostream& out, const HealthReport& report) {
   const Machine& machine = report.machine;
   const Layout& layout = report.header.layout;
   const Table controllers = ControllerTable(machine);
-  Lines end = WrapWords(ToolsText(report), layout.width);
+  Lines end;
+  if (const std::string answers = AnswersText(report.result.runs); !answers.empty()) {
+    end = WrapWords("Tools: " + answers, layout.width);
+  }
   const bool isFine = machine.incidents.empty();
   if (!isFine) end.push_back(Hint(machine));
   const std::size_t blank = isFine ? 0 : 2;

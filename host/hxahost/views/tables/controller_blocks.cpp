@@ -1,12 +1,13 @@
 #include "host/hxahost/views/tables/controller_blocks.h"
 
+#include <algorithm>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "host/hxahost/result/property_values.h"
-#include "host/hxahost/terminal/table.h"
+#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/views/controller_columns.h"
@@ -54,12 +55,32 @@ std::string_view WhyWithoutInstance(const QueryHeader& header) {
                                                              : " (controllers were not asked for)";
 }
 
-void WriteDevices(std::ostream& out, const Layout& layout, const DeviceKind& kind, const InstanceList& instances,
-                  const Machine& machine, const std::vector<const Object*>& objects) {
-  InstanceList shown;
-  for (const Object* const object : objects) shown.push_back(instances[object->instance]);
-  WriteInstances(out, layout, "  " + std::string(kind.heading), kind.columns, shown,
-                 [&](std::size_t row, std::string_view property) { return LevelOf(machine, *objects[row], property); });
+std::string KindText(const Device& device) {
+  switch (device.kind) {
+    case HardwareKind::kDisk: return "HDD";
+    case HardwareKind::kTape: return "tape";
+    case HardwareKind::kEnclosure: return "enclosure";
+    default: return Printable(device.type);
+  }
+}
+
+void Complete(InstanceRow&, const DiskGroup&) {}
+void Complete(InstanceRow& row, const LogicalDrive& drive) { row.bytes = drive.bytes; }
+void Complete(InstanceRow& row, const Device& device) {
+  row.bytes = device.bytes;
+  row.location = Printable(device.location);
+  row.kind = KindText(device);
+}
+
+template <class Kind>
+void WriteObjects(std::ostream& out, const QueryHeader& header, std::string_view className,
+                  const InstanceList& instances, const Machine& machine, const std::vector<Kind>& objects) {
+  const std::span<const DeviceKind> kinds = DeviceKinds();
+  const auto kind = std::ranges::find(kinds, className, &DeviceKind::className);
+  std::vector<InstanceRow> rows;
+  for (const Kind& object : objects) Complete(rows.emplace_back(instances[object.instance].get()), object);
+  WriteInstances(out, header, "  " + std::string(kind->heading), kind->columns, rows,
+                 [&](std::size_t row, std::string_view property) { return LevelOf(machine, objects[row], property); });
 }
 
 void WriteBlock(std::ostream& out, const QueryHeader& header, const InstanceList& instances, const Machine& machine,
@@ -69,9 +90,9 @@ void WriteBlock(std::ostream& out, const QueryHeader& header, const InstanceList
     out << CutToWidth("Controller " + label, header.layout.width / 2) << WhyWithoutInstance(header) << '\n';
   }
   for (const auto& unit : controller.units) WriteController(out, header.layout, label, *instances[unit.instance]);
-  for (const DeviceKind& kind : DeviceKinds().subspan(1)) {
-    WriteDevices(out, header.layout, kind, instances, machine, ObjectsOf(controller, kind.className));
-  }
+  WriteObjects(out, header, kLogicalDiskClass, instances, machine, controller.logicalDrives);
+  WriteObjects(out, header, kDiskGroupClass, instances, machine, controller.groups);
+  WriteObjects(out, header, kDiskDriveClass, instances, machine, controller.devices);
 }
 
 }  // namespace

@@ -1,10 +1,13 @@
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/hxahost/machine/finding.h"
 #include "host/hxahost/result/query_result.h"
@@ -12,12 +15,22 @@
 
 namespace hxahost {
 
+// An instance with what the machine model knows of it. Texts are printable.
+struct InstanceRow {
+  const NKVRHXA20::TPublishedInstance* instance = nullptr;
+  std::string controller = {};  // "C3 (arcconf)"
+  std::string location = {};
+  std::string serialNumber = {};
+  std::string kind = {};
+  std::optional<std::uint64_t> bytes = {};
+};
+
 // What a property of the instance in a row says: its colour where the layout has colours.
 using CellLevel = std::function<Level(std::size_t row, std::string_view property)>;
 
-// Writes the heading and one row for each instance; nothing at all where there is no instance.
-void WriteInstances(std::ostream& out, const Layout& layout, std::string_view heading,
-                    std::span<const InstanceColumn> columns, const InstanceList& instances,
+// Writes the heading and the rows; nothing at all where there is none.
+void WriteInstances(std::ostream& out, const QueryHeader& header, std::string_view heading,
+                    std::span<const InstanceColumn> columns, const std::vector<InstanceRow>& rows,
                     const CellLevel& level = {});
 
 }  // namespace hxahost

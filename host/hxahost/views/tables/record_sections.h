@@ -2,11 +2,12 @@
 
 #include <ostream>
 
-#include "host/hxahost/result/query_result.h"
+#include "host/hxahost/machine/machine.h"
 
 namespace hxahost {
 
-// Writes the sections that have an instance.
-void WriteRecordSections(std::ostream& out, const Layout& layout, const InstanceList& instances);
+// Writes the sections that have an instance: those of events, and the others where all is to be shown.
+void WriteRecordSections(std::ostream& out, const QueryHeader& header, const InstanceList& instances,
+                         const Machine& machine);
 
 }  // namespace hxahost

@@ -8,13 +8,16 @@
 
 #include <fmt/core.h>
 
+#include "host/hxahost/machine/health.h"
+#include "host/hxahost/machine/machine.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/terminal/table.h"
+#include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
+#include "host/hxahost/views/incident_lines.h"
 #include "host/hxahost/views/tables/controller_blocks.h"
-#include "host/hxahost/views/tables/instance_table.h"
 #include "host/hxahost/views/tables/raw_text_summary.h"
 #include "host/hxahost/views/tables/record_sections.h"
 #include "host/hxahost/views/tables/tool_summary.h"
@@ -45,6 +48,20 @@ void WriteNothingFound(std::ostream& out, const Layout& layout, const QueryResul
   WriteToolsNotStarted(out, layout, result);
 }
 
+// A verdict on less than everything would mislead.
+bool IsJudged(const QueryHeader& header) {
+  return std::ranges::all_of(HealthClasses(), [&](std::string_view name) { return IsAskedFor(header, name); });
+}
+
+void WriteVerdict(std::ostream& out, const QueryHeader& header, const Machine& machine) {
+  const Severity worst = WorstOf(machine.findings);
+  out << '\n' << SeverityHead(Upper(SeverityWord(worst)), worst, header.layout) << IncidentCounts(machine) << '\n';
+  if (!machine.incidents.empty()) out << '\n';
+  for (const Incident& incident : machine.incidents) {
+    for (const std::string& line : IncidentLines(incident, header.layout)) out << line << '\n';
+  }
+}
+
 void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   std::map<std::string_view, std::size_t> counts;
   for (const auto& instance : result.instances) ++counts[instance->Class().name];
@@ -69,11 +86,15 @@ void BeginTables(std::ostream& out, const QueryHeader& header) {
 
 void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   if (header.queryCount > 1) out << "\nQuery " << result.number << " of " << header.queryCount << '\n';
+  const Machine machine = BuildMachine(header, result);
   WriteNothingFound(out, header.layout, result);
-  WriteControllerBlocks(out, header, result.instances, BuildMachine(header, result));
-  WriteRecordSections(out, header.layout, result.instances);
-  WriteRawTextSummary(out, header.layout, result.instances);
-  WriteCounts(out, header, result);
+  if (IsJudged(header)) WriteVerdict(out, header, machine);
+  WriteControllerBlocks(out, header, result.instances, machine);
+  WriteRecordSections(out, header, result.instances, machine);
+  if (header.showAll) {
+    WriteRawTextSummary(out, header.layout, result.instances);
+    WriteCounts(out, header, result);
+  }
   WriteToolSummaries(out, header, result);
   if (header.withUnread) WriteUnreadLines(out, header.layout, result.instances);
 }

@@ -1,0 +1,51 @@
+#include "host/hxahost/result/answers.h"
+
+#include <algorithm>
+#include <set>
+#include <string_view>
+
+#include <fmt/core.h>
+
+namespace hxahost {
+
+namespace {
+
+// "getconfig 1 al"
+bool IsOfController(const ToolRun& run) {
+  return run.outcome == Outcome::kOk && run.arguments.size() > 1 && run.arguments.front() == "getconfig";
+}
+
+std::string AnswerText(std::string_view tool, const ToolRunList& runs) {
+  std::set<std::string> controllers;
+  Outcome worst = Outcome::kOk;
+  bool isAsked = false;
+  for (const ToolRun& run : runs) {
+    if (ToolName(run.path) != tool) continue;
+    isAsked = true;
+    worst = std::max(worst, run.outcome == Outcome::kRefused ? Outcome::kOk : run.outcome);
+    if (IsOfController(run)) controllers.insert(run.arguments[1]);
+  }
+  if (!isAsked) return "";
+  if (controllers.empty() && worst != Outcome::kOk) return fmt::format("{} {}", tool, OutcomeWord(worst));
+  return fmt::format("{} {} controller{}", tool, controllers.size(), controllers.size() == 1 ? "" : "s");
+}
+
+}  // namespace
+
+std::string AnswersText(const ToolRunList& runs) {
+  std::string text;
+  for (const std::string_view tool : KnownTools()) {
+    const std::string answer = AnswerText(tool, runs);
+    if (!answer.empty()) text += (text.empty() ? "" : ", ") + answer;
+  }
+  return text;
+}
+
+bool HasAnswer(const ToolRunList& runs) {
+  return std::ranges::any_of(
+      runs, [](const ToolRun& run) { return run.outcome == Outcome::kOk || run.outcome == Outcome::kRefused; });
+}
+
+bool HasController(const ToolRunList& runs) { return std::ranges::any_of(runs, IsOfController); }
+
+}  // namespace hxahost

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "host/hxahost/result/tool_run.h"
+
+// Which utilities answered, and with how many controllers.
+namespace hxahost {
+
+// What became of each utility that was run: "qcmdrun 2 controllers, hrconf_64 not started"; "" where none was.
+std::string AnswersText(const ToolRunList& runs);
+
+// Whether a utility answered, be it that it has no controller.
+bool HasAnswer(const ToolRunList& runs);
+
+// Whether a utility described a controller.
+bool HasController(const ToolRunList& runs);
+
+}  // namespace hxahost
