@@ -50,7 +50,7 @@ TEST_F(PlantedLibrary, IsNeverLoadedFromTheWorkingDirectory) {
   };
   for (const std::vector<std::string>& arguments : cases) {
     const ProgramResult result = RunHxahost(arguments);
-    EXPECT_EQ(result.exitStatus, 0) << arguments.back() << ": " << result.err;
+    EXPECT_EQ(result.exitStatus, 4) << arguments.back() << ": " << result.err;
     EXPECT_FALSE(fs::exists(Trace())) << arguments.back();
   }
 }

@@ -20,6 +20,10 @@ std::string QueryThatReplays(const std::filesystem::path& bundle) {
   const auto result = NKVRHXA20::RealServices().spawn(
       Utf8FromPath(ProgramFile()), {"query", "--format", "json", "--replay", Utf8FromPath(bundle)}, kLimitSeconds);
   if (result.exitStatus == 0) return result.output;
+  // After the result, a line says then why nothing was found.
+  if (result.exitStatus == static_cast<int>(ExitStatus::kNothingFound)) {
+    return result.output.substr(0, result.output.rfind('}') + 1);
+  }
   throw ProgramError(ExitStatus::kWrongArguments,
                      Printable(Utf8FromPath(bundle)) + " cannot be replayed: " + Printable(result.output));
 }

@@ -12,7 +12,7 @@ namespace {
 
 struct Verdict {
   Severity severity = Severity::kUnknown;
-  bool isAnyFound = false;
+  ToolRunList runs;
 };
 
 Verdict Examine(std::string_view command, const QueryOptions& options, std::ostream& out, std::ostream& err) {
@@ -24,11 +24,11 @@ Verdict Examine(std::string_view command, const QueryOptions& options, std::ostr
   display.begin = [](std::ostream&, const QueryHeader&) {};
   display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
     const HealthReport report{header, result, BuildMachine(header, result), result.seconds, query.isVerbose};
-    verdict = {WorstOf(report.machine.findings), !report.machine.controllers.empty()};
+    verdict.severity = WorstOf(report.machine.findings);
     write(shown, report);
   };
   display.end = [](std::ostream&, const QueryHeader&) {};
-  RunQueries(query, display, out, err);
+  verdict.runs = RunQueries(query, display, out, err);
   return verdict;
 }
 
@@ -44,7 +44,7 @@ Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::o
 }
 
 ExitStatus RunStatusCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
-  return Examine("status", options, out, err).isAnyFound ? ExitStatus::kDone : ExitStatus::kNothingFound;
+  return StatusOfRuns(Examine("status", options, out, err).runs, out, err);
 }
 
 }  // namespace hxahost

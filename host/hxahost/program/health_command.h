@@ -12,7 +12,7 @@ namespace hxahost {
 // name none) and gives the worst of it. Throws ProgramError.
 Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
 
-// "hxahost status": the same for people, on one screen. Gives kNothingFound where there is no controller.
+// "hxahost status": the same for people, on one screen. Gives kNothingFound where no tool described a controller.
 ExitStatus RunStatusCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
 
 }  // namespace hxahost

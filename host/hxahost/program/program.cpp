@@ -25,7 +25,7 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
   switch (commandLine.command) {
     case Command::kShowText: out << commandLine.text; break;
     case Command::kStatus: status = static_cast<int>(RunStatusCommand(commandLine.query, out, err)); break;
-    case Command::kQuery: RunQueryCommand(commandLine.query, out, err); break;
+    case Command::kQuery: status = static_cast<int>(RunQueryCommand(commandLine.query, out, err)); break;
     case Command::kHealth: status = static_cast<int>(RunHealthCommand(commandLine.query, out, err)); break;
     case Command::kExplain: RunExplainCommand(commandLine.query, commandLine.object, out, err); break;
     case Command::kHealthRules: WriteHealthRules(out); break;

@@ -13,6 +13,7 @@
 #include "host/hxahost/collection/working_directory.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
+#include "host/hxahost/result/answers.h"
 #include "host/hxahost/result/unique_paths.h"
 #include "host/hxahost/schema/class_words.h"
 #include "host/hxahost/system/exit_status.h"
@@ -57,7 +58,7 @@ QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
 
 }  // namespace
 
-void RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
+ToolRunList RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
   CheckWorkingDirectory();
   const QueryOptions options = WithAbsolutePaths(typed);
   const std::vector<std::string> classes = DeclaredNames(options.classes);
@@ -65,17 +66,22 @@ void RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ost
   EnterDirectory(options.collection.directory);
   QueryOutput output(options, out);
   Collection collection(options.collection, err);
+  ToolRunList runs;
   try {
     QueryHeader header = collection.Header(classes);
     header.queryCount = options.repeat;
     header.withRuns = options.showRuns;
     header.withUnread = options.showUnread;
+    header.showAll = options.showAll || !options.classes.empty();  // what is named is wanted
+    header.isVerbose = options.isVerbose;
     header.limits = options.limits;
     header.withSuperclasses = options.withSuperclasses;
     header.layout = LayoutFor(WishesOf(options));
     display.begin(output.Stream(), header);
     for (unsigned number = 1; number <= header.queryCount; ++number) {
-      display.query(output.Stream(), header, collection.Query(header, number));
+      const QueryResult result = collection.Query(header, number);
+      display.query(output.Stream(), header, result);
+      runs.insert(runs.end(), result.runs.begin(), result.runs.end());
     }
     display.end(output.Stream(), header);
     collection.Finish();
@@ -90,9 +96,21 @@ void RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ost
   }
   output.Finish();
   collection.SaveRecording();
+  return runs;
 }
 
-void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
+ExitStatus StatusOfRuns(const ToolRunList& runs, const std::ostream& out, std::ostream& err) {
+  if (HasController(runs) || !out) return ExitStatus::kDone;
+  const std::string answers = runs.empty() ? "none was run" : AnswersText(runs);
+  err << "hxahost: "
+      << (HasAnswer(runs) ? "No controller was found: " + answers + ". --log FILE shows what was asked."
+                          : "No tool answered: " + answers +
+                                ". Tools belong into a folder zenx; name the folder above it with --directory.")
+      << std::endl;
+  return ExitStatus::kNothingFound;
+}
+
+ExitStatus RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
   const auto& writer = WriterOf<QueryWriter>("query", options.format);
   UniquePaths paths;
   const auto query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
@@ -101,7 +119,7 @@ void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostrea
     for (const auto& instance : unique.leftOut) err << "hxahost: " << LeftOutText(*instance) << std::endl;
     writer.Query(shown, header, unique);
   };
-  RunQueries(options, {writer.Begin, query, writer.End}, out, err);
+  return StatusOfRuns(RunQueries(options, {writer.Begin, query, writer.End}, out, err), out, err);
 }
 
 }  // namespace hxahost

@@ -5,6 +5,7 @@
 
 #include "host/hxahost/program/options.h"
 #include "host/hxahost/result/query_result.h"
+#include "host/hxahost/system/exit_status.h"
 
 namespace hxahost {
 
@@ -15,12 +16,17 @@ struct QueryDisplay {
   std::function<void(std::ostream& out, const QueryHeader& header)> end;
 };
 
-// Queries as "hxahost query" does, whatever format the options name, and has the display show it.
-void RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err);
+// Queries as "hxahost query" does, whatever format the options name, and has the display show it. Gives the runs of the
+// tools.
+ToolRunList RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err);
+
+// What a command ends with whose tools had these runs: kNothingFound where no tool described a controller. A line on err
+// then says which tools did not answer, unless out failed: then that is what is said.
+ExitStatus StatusOfRuns(const ToolRunList& runs, const std::ostream& out, std::ostream& err);
 
 // "hxahost query": loads the plug-in, queries it, writes what it publishes to the output that the options name (out
-// where they name none) and what a person should know meanwhile to err. Changes the working directory. Throws
-// ProgramError.
-void RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
+// where they name none) and what a person should know meanwhile to err. Changes the working directory. Gives
+// kNothingFound where there is no controller. Throws ProgramError.
+ExitStatus RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
 
 }  // namespace hxahost

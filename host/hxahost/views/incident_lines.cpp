@@ -32,9 +32,7 @@ std::string Tally(const Incidents& incidents) {
 
 std::vector<std::string> IncidentLines(const Incident& incident, const Layout& layout) {
   const std::size_t width = layout.width - kIncidentIndent;
-  const std::string word(IncidentWord(incident));
-  std::vector<std::string> lines = {Painted(word, LevelOf(incident.severity), layout) +
-                                    std::string(kIncidentIndent - word.size(), ' ') +
+  std::vector<std::string> lines = {SeverityHead(IncidentWord(incident), incident.severity, layout) +
                                     CutToWidth(incident.headline, width)};
   for (const std::string& line : WrapWords(incident.action, width)) {
     lines.push_back(std::string(kIncidentIndent, ' ') + line);

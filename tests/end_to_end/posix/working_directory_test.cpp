@@ -61,7 +61,7 @@ TEST(WorkingDirectory, ThatGoesWhileToolsRunEndsInToolsThatCannotBeStarted) {
   const MachineCopy machine;
   machine.SetTool("qcmdrun", "#!/bin/sh\nrm -rf '" + machine.Directory() + "'/zenx\necho gone\n");
   const ProgramResult result = RunFromShell("cd '" + machine.Directory() + "' && exec \"$0\" \"$@\"", kFixed);
-  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  EXPECT_EQ(result.exitStatus, 4) << result.err;
   EXPECT_THAT(result.out, HasSubstr("\\\"zenx//arcconf.exe\\\" cannot be started: No such file or directory"));
 }
 

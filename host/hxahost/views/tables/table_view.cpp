@@ -55,7 +55,10 @@ bool IsJudged(const QueryHeader& header) {
 
 void WriteVerdict(std::ostream& out, const QueryHeader& header, const Machine& machine) {
   const Severity worst = WorstOf(machine.findings);
-  out << '\n' << SeverityHead(Upper(SeverityWord(worst)), worst, header.layout) << IncidentCounts(machine) << '\n';
+  const std::string tally = Tally(machine.incidents);
+  out << '\n'
+      << SeverityHead(Upper(SeverityWord(worst)), worst, header.layout) << (tally.empty() ? "no fault found" : tally)
+      << '\n';
   if (!machine.incidents.empty()) out << '\n';
   for (const Incident& incident : machine.incidents) {
     for (const std::string& line : IncidentLines(incident, header.layout)) out << line << '\n';
