@@ -206,19 +206,19 @@ TEST(Options, AreCompletedAsTheCommandsHaveThem) {
     const char* lines;  // among them
   };
   const Case cases[] = {
-      {"",                           "query\nhealth\n"            },
-      {"",                           "\n--version\n"              },
-      {"query",                      "\n--format\n"               },
-      {"query --output query --log", ""                           },
-      {"query --output f",           "\n--color\n"                },
-      {"query --color",              "auto\nalways\nnever\n"      },
-      {"health --format =",          "text\njson\nprometheus\n"   },
-      {"schema -f",                  "mof\nmarkdown\n"            },
-      {"query --os-type",            "none\n"                     },
-      {"query --class",              "\nversions\nKVRSG_zxManager"},
-      {"bundle",                     "list\nshow\nmask\n"         },
-      {"help bundle",                "list\nshow\nmask\n"         },
-      {"bundle mask in",             "--all\n"                    },
+      {"",                           "query\nhealth\n"                 },
+      {"",                           "\n--version\n"                   },
+      {"query",                      "\n--format\n"                    },
+      {"query --output query --log", ""                                },
+      {"query --output f",           "\n--color\n"                     },
+      {"query --color",              "auto\nalways\nnever\n"           },
+      {"health --format =",          "text\nnagios\njson\nprometheus\n"},
+      {"schema -f",                  "mof\nmarkdown\n"                 },
+      {"query --os-type",            "none\n"                          },
+      {"query --class",              "\nversions\nKVRSG_zxManager"     },
+      {"bundle",                     "list\nshow\nmask\n"              },
+      {"help bundle",                "list\nshow\nmask\n"              },
+      {"bundle mask in",             "--all\n"                         },
   };
   for (const Case& each : cases) {
     const std::string text = Parse("complete " + std::string(each.words)).text;
