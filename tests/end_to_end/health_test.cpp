@@ -74,6 +74,13 @@ TEST(Health, IsUnknownWhereAUtilityIsMissing) {
   EXPECT_THAT(result.out, StartsWith("UNKNOWN: 3 unknown on HOST (0 controllers, 0 logical drives, 0 devices)\n"));
 }
 
+TEST(Health, TellsNagiosOfItsOwnFailureOnStandardOutput) {
+  const ProgramResult result = HealthOf(MachineCopy(), {"--format", "nagios", "--plugin", "missing.pi"});
+  EXPECT_EQ(result.exitStatus, 3);
+  EXPECT_THAT(result.out, AllOf(StartsWith("ZENX UNKNOWN - "), HasSubstr("missing.pi is missing")));
+  EXPECT_THAT(result.err, HasSubstr("missing.pi is missing"));
+}
+
 TEST(Health, IsWrittenToAFileWholeAndAtOnce) {
   const MachineCopy machine;
   const TemporaryFolder folder;
