@@ -57,6 +57,7 @@ void RunExplainCommand(const QueryOptions& options, const std::string& object, s
     const NamedObject& named = OnlyOne(search, object);
     WriteExplanation(shown, header.layout, result.instances, named,
                      Proofs(machine, result.instances).Of(named.object->instance));
+    if (header.isReplayed) shown << '\n' << SourceNote(header) << '\n';
   };
   display.end = [](std::ostream&, const QueryHeader&) {};
   RunQueries(query, display, out, err);

@@ -27,7 +27,6 @@ struct QueryOptions {
   bool isAscii = false;
   std::string color = "auto";
   Limits limits;
-  bool isVerbose = false;
 };
 
 // What "hxahost bundle" is asked for.

@@ -127,6 +127,12 @@ Table ControllerTable(const Machine& machine) {
   return table;
 }
 
+// What answered: the utilities, or those of a bundle.
+std::string_view SourceOf(const QueryHeader& header) {
+  if (!header.isReplayed) return "Tools";
+  return header.isMasked ? "Replayed, masked" : "Replayed";
+}
+
 // Where to look next.
 std::string Hint(const Machine& machine) {
   const auto located = std::ranges::find_if(machine.incidents, [](const Incident& each) {
@@ -150,7 +156,7 @@ void WriteStatusText(std::ostream& out, const HealthReport& report) {
   const Table controllers = ControllerTable(machine);
   Lines end;
   if (const std::string answers = AnswersText(report.result.runs); !answers.empty()) {
-    end = WrapWords("Tools: " + answers, layout.width);
+    end = WrapWords(fmt::format("{}: {}", SourceOf(report.header), answers), layout.width);
   }
   const bool isFine = machine.incidents.empty();
   if (!isFine) end.push_back(Hint(machine));
