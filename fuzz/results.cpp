@@ -29,7 +29,7 @@ std::size_t CountOf(const ResultDiff& diff, ChangeKind kind) {
 void CheckViews(const JsonResult& before, const JsonResult& after, const ResultDiff& diff) {
   for (const Format& format : FormatsOf("diff")) {
     std::ostringstream out;
-    std::get<DiffWriter>(format.writer)(out, {"old.json", before.machine}, {"new.json", after.machine}, diff);
+    std::get<DiffWriter>(format.writer)(out, {"old.json", before.machine}, {"new.json", after.machine}, diff, false);
     if (format.name == "json") {
       Require(nlohmann::json::parse(out.str())["changes"].size() == diff.changes.size(), "every change is read back");
     } else {

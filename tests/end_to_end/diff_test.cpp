@@ -55,13 +55,16 @@ TEST_F(Diff, ShowsAFailedDiskAndALostOneFirst) {
   EXPECT_THAT(shown.out,
               HasSubstr(":\n\nHealth findings: 1\n  + critical: Hard drive at channel 0, ID 0 of controller 4 "
                         "[C4 CH0 I00:Controller: Device #0]: State \"Failed\": the disk has failed; replace it\n"
-                        "\nDisappeared: 2\n  - KVRSG_zxDiskDrive.CreationClassName=\"KVRSG_zxDiskDrive\","
-                        "DeviceID=\"C1 CH1 I05:TALVERA T36LW10 S96H8B01290\","
-                        "SystemCreationClassName=\"KVRSG_ComputerSystem\",SystemName=\"M\"\n"
-                        "  - KVRSG_zxDiskDriveVersion."));
-  EXPECT_THAT(shown.out, HasSubstr("\n\nStates that changed: 1\n  ! KVRSG_zxDiskDrive."));
-  EXPECT_THAT(shown.out, HasSubstr(": State \"Online\" -> \"Failed\"\n"));
-  EXPECT_THAT(shown.out, HasSubstr("  ! zenx//qcmdrun.exe getconfig 1 al: lines gone 8, new 0\n"));
+                        "\nDisappeared: 1\n  - C1 channel 1, ID 5, S/N H8B01290\n"
+                        "\nStates that changed: 1\n  ! C4 enclosure 0, slot 0: State \"Online\" -> \"Failed\"\n"));
+
+  const std::string verbose = RunHxahost({"diff", "--verbose", before, after}).out;
+  EXPECT_THAT(verbose, HasSubstr("\nDisappeared: 2\n  - KVRSG_zxDiskDrive.CreationClassName=\"KVRSG_zxDiskDrive\","
+                                 "DeviceID=\"C1 CH1 I05:TALVERA T36LW10 S96H8B01290\","
+                                 "SystemCreationClassName=\"KVRSG_ComputerSystem\",SystemName=\"M\"\n"
+                                 "  - KVRSG_zxDiskDriveVersion."));
+  EXPECT_THAT(verbose, HasSubstr("\n\nStates that changed: 1\n  ! KVRSG_zxDiskDrive."));
+  EXPECT_THAT(verbose, HasSubstr("  ! zenx//qcmdrun.exe getconfig 1 al: lines gone 8, new 0\n"));
 
   const Json json = Json::parse(RunHxahost({"diff", "--format", "json", before, after}).out);
   EXPECT_EQ(json["format"], 1);

@@ -64,6 +64,38 @@ TEST_F(DiffCommand, ShowsTheFindingsBeforeEverythingElse) {
   EXPECT_NE(out_.str().find("  - critical: "), std::string::npos) << out_.str();
 }
 
+// The path of a disk names its place with some utilities, its serial number with others.
+TEST_F(DiffCommand, ShowsADiskThatWasReplacedInOneLine) {
+  const auto disk = [](const std::string& path, const std::string& serial, const std::string& firmware) {
+    return R"({"format": 1, "machine": "M", "queries": [{"instances": [{"class": "KVRSG_zxDiskDrive", "path": ")" +
+           path + R"(", "properties": {"DeviceID": ")" + path + R"(", "ControllerNum": "4", "DeviceType": "Hard drive",
+        "ReportedLocation": "Enclosure 0, Slot 8", "State": "Online", "Firmware": ")" +
+           firmware + R"(", "DeviceSerialNum": ")" + serial + "\"}}]}]}";
+  };
+  for (const char* const path : {"by place", "by serial"}) {
+    const std::string before = disk(path, "NV3LE77Q2H", "BA2C");
+    const std::string after = disk(path == std::string("by place") ? path : "other", "NV3MA01", "BA31");
+    DiffOptions options = Options(before.c_str(), after.c_str());
+    out_.str("");
+    EXPECT_EQ(RunDiffCommand(options, out_), 1);
+    EXPECT_NE(
+        out_.str().find(":\n\nDisks replaced: 1\n  C4 enclosure 0, slot 8: disk replaced, NV3LE77Q2H -> NV3MA01\n"),
+        std::string::npos)
+        << out_.str();
+    EXPECT_EQ(out_.str().find("Firmware"), std::string::npos) << "the firmware is the other disk's: " << out_.str();
+    options.isVerbose = true;
+    out_.str("");
+    RunDiffCommand(options, out_);
+    EXPECT_NE(out_.str().find(path), std::string::npos) << out_.str();
+    EXPECT_EQ(out_.str().find("replaced"), std::string::npos) << out_.str();
+  }
+  const std::string before = disk("d", "", "BA2C");
+  const std::string after = disk("d", "NV3MA01", "BA2C");
+  out_.str("");
+  RunDiffCommand(Options(before.c_str(), after.c_str()), out_);
+  EXPECT_EQ(out_.str().find("replaced"), std::string::npos) << "a number that was not read before: " << out_.str();
+}
+
 TEST_F(DiffCommand, GivesProgramsBothSidesOfAFinding) {
   DiffOptions options = Options(kEmpty, kOneDisk);
   options.format = "json";

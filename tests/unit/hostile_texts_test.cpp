@@ -130,7 +130,7 @@ class Machine {
     const JsonResult before = ParseJsonResult(Machine("Optimal").Query("json"), "");
     const JsonResult after = ParseJsonResult(Query("json"), "");
     WriterOf<DiffWriter>("diff", format)(out, {"before", before.machine}, {text_, after.machine},
-                                         CompareResults(before, after));
+                                         CompareResults(before, after), false);
     return out.str();
   }
 

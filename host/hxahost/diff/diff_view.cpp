@@ -2,9 +2,14 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
 
 #include <fmt/core.h>
 
+#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/json_output.h"
 #include "host/hxahost/text/utf8.h"
@@ -28,25 +33,92 @@ std::string QuotedValue(const Json& value) {
   return fmt::format("\"{}\"", EscapeControls(value.is_string() ? value.get<std::string>() : value.dump()));
 }
 
-std::string ChangeText(const Change& change) {
-  const std::string path = Printable(change.path);
-  if (change.kind == ChangeKind::kDisappeared) return "- " + path;
-  if (change.kind == ChangeKind::kAppeared) return "+ " + path;
-  const std::string moved = change.newPath.empty() ? "" : fmt::format(" (now {})", Printable(change.newPath));
-  return fmt::format("! {}{}: {} {} -> {}", path, moved, Printable(change.property), QuotedValue(change.before),
+// What an object is called, and what it is called now.
+std::string SubjectOf(const Change& change, bool isVerbose) {
+  const bool hasName = !isVerbose && !change.named.name.empty();
+  const std::string subject = hasName ? change.named.name : Printable(change.path);
+  const std::string now = hasName ? change.newName : Printable(change.newPath);
+  return now.empty() || now == subject ? subject : fmt::format("{} (now {})", subject, now);
+}
+
+std::string ChangeText(const Change& change, bool isVerbose) {
+  const std::string subject = SubjectOf(change, isVerbose);
+  const std::string& serial = change.named.serialNumber;
+  const std::string identity = isVerbose || serial.empty() ? "" : ", S/N " + serial;
+  if (change.kind == ChangeKind::kDisappeared) return "- " + subject + identity;
+  if (change.kind == ChangeKind::kAppeared) return "+ " + subject + identity;
+  return fmt::format("! {}: {} {} -> {}", subject, Printable(change.property), QuotedValue(change.before),
                      QuotedValue(change.after));
 }
 
+std::string SerialText(const Json& value) { return value.is_string() ? Printable(value.get<std::string>()) : ""; }
+
+using Changes = std::vector<const Change*>;
+
 // The times of collection are always others: how many says enough.
-void WriteChanges(std::ostream& out, const ResultDiff& diff) {
-  for (auto first = diff.changes.begin(); first != diff.changes.end();) {
-    const ChangeGroup group = first->group;
-    const auto last =
-        std::find_if(first, diff.changes.end(), [group](const Change& each) { return each.group != group; });
+void WriteChanges(std::ostream& out, const Changes& changes, bool isVerbose) {
+  for (auto first = changes.begin(); first != changes.end();) {
+    const ChangeGroup group = (*first)->group;
+    const auto last = std::find_if(first, changes.end(), [group](const Change* each) { return each->group != group; });
     out << '\n' << kHeadings[static_cast<std::size_t>(group)] << ": " << std::distance(first, last) << '\n';
     if (group == ChangeGroup::kTime) return;
-    for (; first != last; ++first) out << "  " << ChangeText(*first) << '\n';
+    for (; first != last; ++first) out << "  " << ChangeText(**first, isVerbose) << '\n';
   }
+}
+
+// Takes out of the changes what a disk that was replaced says, and gives a line for each. One utility's disks are known
+// by their place, so another disk there changes its properties; those of the others disappear and appear.
+std::vector<std::string> TakeReplacedDisks(Changes& changes) {
+  std::vector<std::string> lines;
+  std::set<const Change*> taken;
+  const auto replaced = [&lines](const Change& change, const std::string& before, const std::string& after) {
+    lines.push_back(fmt::format("{}: disk replaced, {} -> {}", SubjectOf(change, false), before, after));
+  };
+  std::map<std::string, const Change*> gone;
+  std::set<std::string> places;  // of disks that are known by their place
+  for (const Change* const change : changes) {
+    if (change->className != kDiskDriveClass || change->named.name.empty()) continue;
+    const std::string& serial = change->named.serialNumber;
+    if (change->kind == ChangeKind::kDisappeared && !serial.empty()) gone[change->named.name] = change;
+    const auto before = gone.find(change->named.name);
+    if (change->kind == ChangeKind::kAppeared && !serial.empty() && before != gone.end()) {
+      replaced(*change, before->second->named.serialNumber, serial);
+      taken.insert({change, before->second});
+      gone.erase(before);
+    }
+    if (change->property != "DeviceSerialNum") continue;
+    const std::string old = SerialText(change->before);
+    const std::string now = SerialText(change->after);
+    if (old.empty() || now.empty()) continue;  // it was not read on one side
+    replaced(*change, old, now);
+    places.insert(change->named.name);
+  }
+  std::erase_if(changes, [&](const Change* change) {
+    return taken.contains(change) || (change->className == kDiskDriveClass && change->group == ChangeGroup::kProperty &&
+                                      places.contains(change->named.name));
+  });
+  return lines;
+}
+
+// What follows from other changes.
+bool IsDetail(const Change& change) {
+  return change.group == ChangeGroup::kLink || change.className == kDiskVersionClass;
+}
+
+void WriteSummary(std::ostream& out, const ResultDiff& diff) {
+  Changes changes;
+  std::size_t details = 0;
+  for (const Change& change : diff.changes) {
+    details += IsDetail(change) ? 1 : 0;
+    if (!IsDetail(change)) changes.push_back(&change);
+  }
+  const std::vector<std::string> replaced = TakeReplacedDisks(changes);
+  if (!replaced.empty()) out << "\nDisks replaced: " << replaced.size() << '\n';
+  for (const std::string& line : replaced) out << "  " << line << '\n';
+  WriteChanges(out, changes, false);
+  if (details + diff.rawTexts.size() == 0) return;
+  out << fmt::format("\nLinks and versions of disks: {}, raw texts of commands: {}; --verbose lists them\n", details,
+                     diff.rawTexts.size());
 }
 
 std::string FindingChangeText(const FindingChange& change) {
@@ -78,10 +150,14 @@ std::string NameText(const ComparedFile& file) {
 
 }  // namespace
 
-void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
+void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff,
+                   bool isVerbose) {
   out << "From " << NameText(before) << " to " << NameText(after) << (IsSame(diff) ? ": no difference.\n" : ":\n");
   WriteFindingChanges(out, diff);
-  WriteChanges(out, diff);
+  if (!isVerbose) return WriteSummary(out, diff);
+  Changes all;
+  for (const Change& change : diff.changes) all.push_back(&change);
+  WriteChanges(out, all, true);
   WriteRawTexts(out, diff);
 }
 
@@ -140,7 +216,8 @@ Json ListJson(const std::vector<Each>& list, Json (*toJson)(const Each&)) {
 
 }  // namespace
 
-void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff) {
+void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff,
+                   bool) {
   Json json = {
       {"format", 1               },
       {"old",    FileJson(before)},

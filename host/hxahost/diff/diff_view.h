@@ -13,10 +13,13 @@ struct ComparedFile {
   std::string machine;
 };
 
-// For people: what is worst first.
-void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff);
+// For people: what is worst first, and objects as people call them. With isVerbose every change is shown, with the path
+// of its object.
+void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff,
+                   bool isVerbose);
 
 // For programs, format 1. Keys may be added, nothing else may change.
-void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff);
+void WriteDiffJson(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff,
+                   bool isVerbose);
 
 }  // namespace hxahost

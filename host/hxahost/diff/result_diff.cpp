@@ -92,6 +92,11 @@ std::vector<std::string> PropertyNames(const ResultInstance& old, const ResultIn
   return names;
 }
 
+ObjectName NameIn(const ObjectNames& names, const ResultInstance& instance) {
+  const auto named = names.find(&instance);
+  return named == names.end() ? ObjectName() : named->second;
+}
+
 // What a link names is compared where it is published; its own two properties change with the paths alone.
 void AddProperties(std::vector<Change>& changes, const ResultInstance& old, const ResultInstance& now) {
   if (IsLink(old) && IsLink(now)) return;
@@ -158,13 +163,24 @@ std::string_view KindWord(ChangeKind kind) { return kKindWords[static_cast<std::
 
 ResultDiff CompareResults(const JsonResult& before, const JsonResult& after) {
   const MatchedInstances matched = MatchInstances(before, after);
+  const ObjectNames oldNames = NameObjects(before);
+  const ObjectNames newNames = NameObjects(after);
   ResultDiff diff;
   for (const ResultInstance* const instance : matched.onlyOld) {
     diff.changes.push_back(ObjectChange(*instance, ChangeGroup::kDisappeared, ChangeKind::kDisappeared));
+    diff.changes.back().named = NameIn(oldNames, *instance);
   }
-  for (const auto& [old, now] : matched.pairs) AddProperties(diff.changes, *old, *now);
+  for (const auto& [old, now] : matched.pairs) {
+    const std::size_t known = diff.changes.size();
+    AddProperties(diff.changes, *old, *now);
+    for (std::size_t place = known; place < diff.changes.size(); ++place) {
+      diff.changes[place].named = NameIn(oldNames, *old);
+      diff.changes[place].newName = NameIn(newNames, *now).name;
+    }
+  }
   for (const ResultInstance* const instance : matched.onlyNew) {
     diff.changes.push_back(ObjectChange(*instance, ChangeGroup::kAppeared, ChangeKind::kAppeared));
+    diff.changes.back().named = NameIn(newNames, *instance);
   }
   std::ranges::stable_sort(diff.changes, {}, &Change::group);
   diff.rawTexts = CompareRawTexts(before, after);

@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxahost/diff/finding_diff.h"
+#include "host/hxahost/diff/object_names.h"
 #include "host/hxahost/result/json_result.h"
 
 // What is different between two results, the worst first.
@@ -39,6 +40,8 @@ struct Change {
   std::string property;
   nlohmann::ordered_json before;  // null: not there
   nlohmann::ordered_json after;
+  ObjectName named = {};     // in the old result, where it was there
+  std::string newName = {};  // where it is another
 };
 
 // A command whose raw text is different.

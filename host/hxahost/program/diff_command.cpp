@@ -18,7 +18,7 @@ int Compare(const DiffOptions& options, std::ostream& out) {
   const JsonResult after = ReadResultOrBundle(PathFromUtf8(options.newFile));
   const ResultDiff diff = CompareResults(before, after);
   WriterOf<DiffWriter>("diff", options.format)(out, {options.oldFile, before.machine}, {options.newFile, after.machine},
-                                               diff);
+                                               diff, options.isVerbose);
   out.flush();
   if (!out) {
     throw ProgramError(ExitStatus::kWrongArguments,

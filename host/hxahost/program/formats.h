@@ -23,7 +23,7 @@ struct QueryWriter {
 using HealthWriter = void (*)(std::ostream& out, const HealthReport& report);
 
 using DiffWriter = void (*)(std::ostream& out, const ComparedFile& before, const ComparedFile& after,
-                            const ResultDiff& diff);
+                            const ResultDiff& diff, bool isVerbose);
 
 using SchemaWriter = void (*)(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes,
                               bool withSuperclasses);

@@ -189,6 +189,7 @@ void AddDiff(CLI::App& diff, TypedOptions& typed) {
       ->required();
   diff.add_option("NEW", read.newFile, "What it wrote later")->required();
   AddFormat(diff, read.format);
+  diff.add_flag("-v,--verbose", read.isVerbose, "Show every change, with the path of its object");
 }
 
 void AddBundle(CLI::App& bundle, TypedOptions& typed) {
