@@ -65,9 +65,9 @@ const std::string kReplayedKey = "  \"replayed\": true,";
 TEST_F(Bundles, GiveTheSameResultAgainInEveryFormatButSayThatTheyDo) {
   const RaidLogSetting setting(kRaidLogFolder);
   const std::pair<const char*, std::vector<std::string>> cases[] = {
-      {"json",  {kReplayedKey}                                              },
-      {"table", {"Replayed from a bundle."}                                 },
-      {"html",  {kReplayedKey, "  \"source\": \"Replayed from a bundle.\","}},
+      {"json",  {kReplayedKey}                                  },
+      {"table", {"Replayed from a bundle."}                     },
+      {"html",  {kReplayedKey, "<p>Replayed from a bundle.</p>"}},
   };
   for (const auto& [format, marks] : cases) {
     const std::vector<std::string> query = {"query", "--format", format, "--runs", "--repeat", "2"};

@@ -37,7 +37,7 @@ TEST(Summary, SaysWhereItComesFrom) {
   header.directory = "C:\\<tools>";
   std::ostringstream out;
   WriteOriginHtml(out, header);
-  EXPECT_EQ(out.str(), "Collected on 2026-11-21 09:30:00 +01:00 in C:\\&lt;tools&gt;");
+  EXPECT_EQ(out.str(), "<p>Collected on 2026-11-21 09:30:00 +01:00 in C:\\&lt;tools&gt;</p>\n");
   header.isReplayed = true;
   WriteOriginHtml(out, header);
   EXPECT_THAT(out.str(), HasSubstr(SourceNote(header)));

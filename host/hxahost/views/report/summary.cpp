@@ -136,9 +136,9 @@ void WriteTitleHtml(std::ostream& out, const QueryHeader& header) {
 }
 
 void WriteOriginHtml(std::ostream& out, const QueryHeader& header) {
-  out << fmt::format("Collected on {} in {}", HtmlText(ReadableTime(header.time.ToString())),
+  out << fmt::format("<p>Collected on {} in {}</p>\n", HtmlText(ReadableTime(header.time.ToString())),
                      HtmlText(header.directory));
-  if (header.isReplayed) out << ". " << HtmlText(SourceNote(header));
+  if (header.isReplayed) out << fmt::format("<p>{}</p>\n", SourceNote(header));
 }
 
 void WriteSummaryHtml(std::ostream& out, const QueryHeader& header, const Machine& machine) {
