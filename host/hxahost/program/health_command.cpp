@@ -12,7 +12,7 @@ namespace {
 
 struct Verdict {
   Severity severity = Severity::kUnknown;
-  ToolRunList runs;
+  Collected collected;
 };
 
 Verdict Examine(std::string_view command, const QueryOptions& options, std::ostream& out, std::ostream& err) {
@@ -28,7 +28,7 @@ Verdict Examine(std::string_view command, const QueryOptions& options, std::ostr
     write(shown, report);
   };
   display.end = [](std::ostream&, const QueryHeader&) {};
-  verdict.runs = RunQueries(query, display, out, err);
+  verdict.collected = RunQueries(query, display, out, err);
   return verdict;
 }
 
@@ -44,7 +44,7 @@ Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::o
 }
 
 ExitStatus RunStatusCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
-  return StatusOfRuns(Examine("status", options, out, err).runs, out, err);
+  return StatusOf(Examine("status", options, out, err).collected, out, err);
 }
 
 }  // namespace hxahost

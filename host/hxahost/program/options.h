@@ -68,7 +68,7 @@ struct CommandLine {
   DiffOptions diff = {};
   BundleOptions bundle = {};
   std::string schemaFormat = "mof";
-  std::string object = {};  // that "hxahost explain" is asked for
+  std::string object = {};        // that "hxahost explain" is asked for
   bool withSuperclasses = false;  // of the schema
 };
 

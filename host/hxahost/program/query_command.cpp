@@ -15,6 +15,7 @@
 #include "host/hxahost/program/query_output.h"
 #include "host/hxahost/result/answers.h"
 #include "host/hxahost/result/unique_paths.h"
+#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/schema/class_words.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/terminal/terminal_layout.h"
@@ -56,9 +57,17 @@ QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
   return options;
 }
 
+// A report that is cut off may describe a controller all the same.
+bool HasObject(const InstanceList& instances) {
+  return std::ranges::any_of(instances, [](const auto& instance) {
+    const std::string_view name = instance->Class().name;
+    return name == kControllerClass || name == kLogicalDiskClass || name == kDiskDriveClass;
+  });
+}
+
 }  // namespace
 
-ToolRunList RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
+Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
   CheckWorkingDirectory();
   const QueryOptions options = WithAbsolutePaths(typed);
   const std::vector<std::string> classes = DeclaredNames(options.classes);
@@ -66,7 +75,7 @@ ToolRunList RunQueries(const QueryOptions& typed, const QueryDisplay& display, s
   EnterDirectory(options.collection.directory);
   QueryOutput output(options, out);
   Collection collection(options.collection, err);
-  ToolRunList runs;
+  Collected collected;
   try {
     QueryHeader header = collection.Header(classes);
     header.queryCount = options.repeat;
@@ -81,7 +90,8 @@ ToolRunList RunQueries(const QueryOptions& typed, const QueryDisplay& display, s
     for (unsigned number = 1; number <= header.queryCount; ++number) {
       const QueryResult result = collection.Query(header, number);
       display.query(output.Stream(), header, result);
-      runs.insert(runs.end(), result.runs.begin(), result.runs.end());
+      collected.runs.insert(collected.runs.end(), result.runs.begin(), result.runs.end());
+      collected.hasController |= HasController(result.runs) || HasObject(result.instances);
     }
     display.end(output.Stream(), header);
     collection.Finish();
@@ -96,11 +106,12 @@ ToolRunList RunQueries(const QueryOptions& typed, const QueryDisplay& display, s
   }
   output.Finish();
   collection.SaveRecording();
-  return runs;
+  return collected;
 }
 
-ExitStatus StatusOfRuns(const ToolRunList& runs, const std::ostream& out, std::ostream& err) {
-  if (HasController(runs) || !out) return ExitStatus::kDone;
+ExitStatus StatusOf(const Collected& collected, const std::ostream& out, std::ostream& err) {
+  if (collected.hasController || !out) return ExitStatus::kDone;
+  const ToolRunList& runs = collected.runs;
   const std::string answers = runs.empty() ? "none was run" : AnswersText(runs);
   err << "hxahost: "
       << (HasAnswer(runs) ? "No controller was found: " + answers + ". --log FILE shows what was asked."
@@ -119,7 +130,7 @@ ExitStatus RunQueryCommand(const QueryOptions& options, std::ostream& out, std::
     for (const auto& instance : unique.leftOut) err << "hxahost: " << LeftOutText(*instance) << std::endl;
     writer.Query(shown, header, unique);
   };
-  return StatusOfRuns(RunQueries(options, {writer.Begin, query, writer.End}, out, err), out, err);
+  return StatusOf(RunQueries(options, {writer.Begin, query, writer.End}, out, err), out, err);
 }
 
 }  // namespace hxahost

@@ -16,13 +16,18 @@ struct QueryDisplay {
   std::function<void(std::ostream& out, const QueryHeader& header)> end;
 };
 
-// Queries as "hxahost query" does, whatever format the options name, and has the display show it. Gives the runs of the
-// tools.
-ToolRunList RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err);
+// What came of the queries of one run of the program.
+struct Collected {
+  ToolRunList runs;            // of the tools
+  bool hasController = false;  // a controller was described, or something that belongs to one was published
+};
 
-// What a command ends with whose tools had these runs: kNothingFound where no tool described a controller. A line on err
-// then says which tools did not answer, unless out failed: then that is what is said.
-ExitStatus StatusOfRuns(const ToolRunList& runs, const std::ostream& out, std::ostream& err);
+// Queries as "hxahost query" does, whatever format the options name, and has the display show it.
+Collected RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err);
+
+// What a command ends with: kNothingFound where there is no controller. A line on err then says which tools did not
+// answer, unless out failed: then that is what is said.
+ExitStatus StatusOf(const Collected& collected, const std::ostream& out, std::ostream& err);
 
 // "hxahost query": loads the plug-in, queries it, writes what it publishes to the output that the options name (out
 // where they name none) and what a person should know meanwhile to err. Changes the working directory. Gives
