@@ -14,23 +14,26 @@ struct MaskedLabel {
   MaskScope scope = MaskScope::kNames;
 };
 
+constexpr auto kNames = MaskScope::kNames;
+constexpr auto kAll = MaskScope::kAll;
+
 // What names a thing for good, or was chosen by people. Left as they are: vendors, models, sizes, states, versions
 // ("EC Version#" too), part numbers of whole controllers, slots, channels, and the letters of arrays, which are the
 // tool's own. In the identifier of a hard disk the serial number stands behind model and firmware; its first character
 // is the last of the firmware's, and left. Other devices have no serial number there.
 constexpr MaskedLabel kLabels[] = {
-    {"Controller Serial Number", 0, 1,               ""            },
-    {"Serial",                   0, 1,               ""            }, // number
-    {"World-wide name",          0, 1,               ""            },
-    {"FRU",                      0, 1,               "",             MaskScope::kAll}, // and part number
-    {"Controller FRU",                          0,            1, "",   MaskScope::kAll},
-    {"Battery FRU",           0,            1,               "",                MaskScope::kAll},
-    {"VPD Assigned",                        0,          1,           ""},
-    {"Controller name",                         0,               1,                    ""                     },
-    {"Logical drive name",                         0,          1,      ""},
-    {"Array name",                         0,               1,                         ""                                                },
-    {"Enclosure ID",                         0,          5, ""}, // "0" is a place, "5000F0A0001B4000" a name for good
-    {"Device ID",                         21,               1,                              "Hard disk"                                                                                }, // " TALVERA T36LW10 S96H8B01234"
+    {"Controller Serial Number", 0,  1, "",          kNames},
+    {"Serial",                   0,  1, "",          kNames}, // number
+    {"World-wide name",          0,  1, "",          kNames},
+    {"FRU",                      0,  1, "",          kAll  }, // and part number
+    {"Controller FRU",           0,  1, "",          kAll  },
+    {"Battery FRU",              0,  1, "",          kAll  },
+    {"VPD Assigned",             0,  1, "",          kNames},
+    {"Controller name",          0,  1, "",          kNames},
+    {"Logical drive name",       0,  1, "",          kNames},
+    {"Array name",               0,  1, "",          kNames},
+    {"Enclosure ID",             0,  5, "",          kNames}, // "0" is a place, "5000F0A0001B4000" a name for good
+    {"Device ID",                21, 1, "Hard disk", kNames}, // " TALVERA T36LW10 S96H8B01234"
 };
 
 // What tools print where there is nothing to hide.

@@ -276,8 +276,7 @@ class Sorting {
     }
     for (auto* const places : {&cause.drives, &cause.devices, &cause.findings}) {
       std::ranges::sort(*places);
-      const auto rest = std::ranges::unique(*places);
-      places->erase(rest.begin(), rest.end());
+      places->erase(std::unique(places->begin(), places->end()), places->end());
     }
   }
 
