@@ -31,7 +31,7 @@ inline constexpr const char* kStatusExamples =
     "Examples:\n"
     "  hxahost status                          the same as hxahost alone\n"
     "  hxahost status --directory C:\\tools     with the tools in C:\\tools\\zenx\n"
-    "  hxahost status --replay machine.bundle  of a machine that was recorded\n"
+    "  hxahost status --width 80               for a mail\n"
     "  hxahost status --warn soft-errors=100   warn of more errors only\n"
     "\n"
     "Exit status: 0 shown, whatever is wrong (hxahost health tells by its exit status), 1 the collection failed,\n"

@@ -22,7 +22,7 @@ void CopyRights(const std::filesystem::path& from, const std::filesystem::path& 
   struct stat file {};
   if (stat(from.c_str(), &file) != 0) return;
   // Before the mode, of which a new owner takes bits away. Most users may give a file to their own groups alone.
-  constexpr uid_t kSameOwner = -1;
+  constexpr auto kSameOwner = static_cast<uid_t>(-1);
   const bool keepsGroup =
       chown(to.c_str(), file.st_uid, file.st_gid) == 0 || chown(to.c_str(), kSameOwner, file.st_gid) == 0;
   const mode_t rights = file.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
