@@ -78,7 +78,10 @@ void WriteObjects(std::ostream& out, const QueryHeader& header, std::string_view
   const std::span<const DeviceKind> kinds = DeviceKinds();
   const auto kind = std::ranges::find(kinds, className, &DeviceKind::className);
   std::vector<InstanceRow> rows;
-  for (const Kind& object : objects) Complete(rows.emplace_back(instances[object.instance].get()), object);
+  for (const Kind& object : objects) {
+    rows.push_back({instances[object.instance].get()});
+    Complete(rows.back(), object);
+  }
   WriteInstances(out, header, "  " + std::string(kind->heading), kind->columns, rows,
                  [&](std::size_t row, std::string_view property) { return LevelOf(machine, objects[row], property); });
 }
