@@ -110,9 +110,10 @@ TEST_F(Hxahost, ShowsEveryClassThatWasAskedForUnderItsDeclaredName) {
 TEST_F(Hxahost, FindsNothingWithoutTheFolderOfToolsAndNamesTheTools) {
   const ProgramResult result = Query({"--format", "json"});
   EXPECT_EQ(result.exitStatus, kNothingFound);
-  EXPECT_EQ(result.err,
-            "hxahost: No tool answered: qcmdrun not started, hrconf_64 not started, arcconf not started. Tools belong "
-            "into a folder zenx; name the folder above it with --directory.\n");
+  ExpectOneLine(result.err);
+  EXPECT_THAT(result.err,
+              StartsWith("hxahost: No tool answered: qcmdrun not started, hrconf_64 not started, arcconf not started. "
+                         "Tools belong into a folder zenx; name the folder above it with --directory."));
   const auto query = nlohmann::json::parse(result.out)["queries"][0];
   for (const auto& instance : query["instances"]) {
     EXPECT_EQ(instance["class"], "KVRSG_zxRawData") << "commands that failed, and nothing else";
