@@ -173,8 +173,10 @@ test("A list over two lines leads to both, and a search leaves them marked", asy
   const group = placeOf("KVRSG_zxDiskGroup", "0,2 0,3 0,4 0,5 0,6");
   const page = await open(pageFile("sample"), { hash: "#object-" + group });
   await page.locator("dialog").getByRole("link", { name: "0,2 0,3 0,4 0,5 0,6", exact: true }).click();
+  await page.locator(".followed").first().waitFor();
   assert.equal(await page.locator(".followed").count(), 2);
   await page.locator("#raw-search").fill("Stripe order");
+  await page.locator(".followed mark").waitFor();
   assert.equal(await page.locator(".followed").count(), 2);
   assert.equal(await page.locator(".followed mark").count(), 1);
 });
