@@ -168,7 +168,7 @@ test("The findings of the rules are worst first, and lead to what they are about
   assert.deepEqual(await table.locator("th").allTextContents(), ["Severity", "Object", "Value", "Meaning"]);
   await table.locator(".sorted-table").scrollIntoViewIfNeeded();
   const rows = await table.locator("tbody tr").evaluateAll((each) =>
-      each.map((row) => [...row.cells].map((cell) => cell.innerText)));
+      each.map((row) => [...row.cells].map((cell) => cell.textContent)));
   assert.deepEqual(rows.map(([severity]) => severity.replace(/^[^a-z]+/, "")),
       expected.map(({ severity }) => severity));
   expected.forEach((finding, index) => {
