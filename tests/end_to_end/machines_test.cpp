@@ -68,6 +68,7 @@ class Machines : public testing::TestWithParam<std::string> {
     arguments.insert(arguments.end(),
                      {"--width", "80", "--replay", Utf8FromPath(bundle), "--record", Utf8FromPath(Recorded())});
     const ProgramResult result = RunHxahost(arguments);
+    EXPECT_EQ(result.err.starts_with("hxahost: No "), result.exitStatus == 4) << result.err;
     EXPECT_EQ(result.err.empty(), result.exitStatus != 4) << result.err;
     return command + "\n" + result.out;
   }
