@@ -58,11 +58,12 @@ std::string RoleOf(const Controller& controller, std::size_t device) {
   return controller.devices[device].level >= Level::kWarning ? "failed hot spare" : "hot spare";
 }
 
-std::string DescribeDisk(const Controller& controller, std::size_t device) {
-  const Device& disk = controller.devices[device];
-  const std::string location = disk.location.empty() ? Printable(disk.name) : Printable(disk.location);
-  const std::string identity = IdentityOf(disk);
-  return fmt::format("{}{}{}, {}", location, identity.empty() ? "" : ": ", identity, RoleOf(controller, device));
+std::string DescribeDevice(const Controller& controller, std::size_t device) {
+  const Device& each = controller.devices[device];
+  const std::string location = each.location.empty() ? Printable(each.name) : Printable(each.location);
+  const std::string identity = IdentityOf(each);
+  const std::string text = location + (identity.empty() ? "" : ": " + identity);
+  return each.kind == HardwareKind::kDisk ? text + ", " + RoleOf(controller, device) : text;
 }
 
 std::string InstructionOf(const Finding& finding) {

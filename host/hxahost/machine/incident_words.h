@@ -20,8 +20,8 @@ std::string IdentityOf(const Device& device);
 // "in \"Archive\" (RAID 5, degraded)", "hot spare", "in no logical drive".
 std::string RoleOf(const Controller& controller, std::size_t device);
 
-// The three: location, identity and role.
-std::string DescribeDisk(const Controller& controller, std::size_t device);
+// The three: location, identity and, of a disk, its role.
+std::string DescribeDevice(const Controller& controller, std::size_t device);
 
 // "REPLACE the battery" of "cached data is lost when the power fails; replace the battery"; "" where it says nothing.
 std::string InstructionOf(const Finding& finding);

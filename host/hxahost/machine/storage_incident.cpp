@@ -128,7 +128,7 @@ std::string NamesOf(const Situation& situation, const Places& drives) {
 
 std::string Described(const Situation& situation, const Places& devices) {
   std::vector<std::string> texts;
-  for (const std::size_t device : devices) texts.push_back(DescribeDisk(situation.controller, device));
+  for (const std::size_t device : devices) texts.push_back(DescribeDevice(situation.controller, device));
   return fmt::format("{}", fmt::join(texts, "; "));
 }
 
@@ -193,7 +193,19 @@ const Finding* FindingFor(const Situation& situation, const DiskHeadline& headli
   return nullptr;
 }
 
-std::string DiskHeadlineText(const Situation& situation) {
+std::string_view KindOf(const Device& device) {
+  const Words words = StateWords(device.state.text);
+  const bool isSpare = std::ranges::any_of(words, [](const std::string& word) { return word.ends_with("spare"); });
+  if (isSpare) return "hot spare";
+  switch (device.kind) {
+    case HardwareKind::kDisk: return "disk";
+    case HardwareKind::kTape: return "tape drive";
+    case HardwareKind::kEnclosure: return "enclosure";
+    default: return "device";
+  }
+}
+
+std::string DeviceHeadline(const Situation& situation) {
   const Device& device = situation.controller.devices[situation.cause.devices.front()];
   std::string text = "is not well";
   for (const DiskHeadline& headline : kDiskHeadlines) {
@@ -202,9 +214,7 @@ std::string DiskHeadlineText(const Situation& situation) {
     text = fmt::format(fmt::runtime(headline.text), Printable(finding->text));
     break;
   }
-  const Words words = StateWords(device.state.text);
-  const bool isSpare = std::ranges::any_of(words, [](const std::string& word) { return word.ends_with("spare"); });
-  return fmt::format("{} at {} {}", isSpare ? "hot spare" : "disk", LocationOf(device), text);
+  return fmt::format("{} at {} {}", KindOf(device), LocationOf(device), text);
 }
 
 // "Hot Spare for Logical drive 1" takes over for that drive only.
@@ -243,9 +253,14 @@ bool IsWhole(const Situation& situation, const LogicalDrive& drive) {
   return std::ranges::none_of(kFaults, [&](Effect fault) { return HasEffect(situation.machine, drive, fault); });
 }
 
+bool IsDisk(const Situation& situation, std::size_t device) {
+  return situation.controller.devices[device].kind == HardwareKind::kDisk;
+}
+
 // What else a person has to know who is about to pull the disks.
 std::string PullNote(const Situation& situation) {
   const Controller& controller = situation.controller;
+  if (!IsDisk(situation, situation.failed.front())) return "";
   if (HasEffect(situation, Effect::kDegraded)) {
     const auto spare =
         std::ranges::find_if(controller.devices, [&](const Device& each) { return IsReadySpare(situation, each); });
@@ -258,14 +273,21 @@ std::string PullNote(const Situation& situation) {
   return isWhole && !isSpareGone ? ". No logical drive is degraded" : "";
 }
 
+std::string StepFor(const Situation& situation, std::size_t device) {
+  const std::string words = DescribeDevice(situation.controller, device);
+  if (!IsDisk(situation, device)) {
+    return fmt::format("CHECK the power and the cables of {}; replace it if it stays failed", words);
+  }
+  return fmt::format("{} {}", IsMissing(situation, device) ? "INSERT a disk at" : "PULL", words);
+}
+
 // Drives that have lost several disks stay readable only while the others are left alone.
 std::string PullAction(const Situation& situation) {
   const bool isMissing =
       std::ranges::all_of(situation.failed, [&](std::size_t device) { return IsMissing(situation, device); });
   std::vector<std::string> steps;
   for (const std::size_t device : situation.failed) {
-    const std::string disk = DescribeDisk(situation.controller, device);
-    steps.push_back(fmt::format("{} {}", IsMissing(situation, device) ? "INSERT a disk at" : "PULL", disk));
+    steps.push_back(StepFor(situation, device));
   }
   const bool isOneByOne = !isMissing && steps.size() > 1 && HasEffect(situation, Effect::kDegraded);
   return fmt::format("{}{}", fmt::join(steps, isOneByOne ? "; after the rebuild " : "; "), PullNote(situation));
@@ -275,7 +297,7 @@ std::string PullAction(const Situation& situation) {
 std::string WeakDiskAction(const Situation& situation) {
   const std::size_t place = situation.cause.devices.front();
   const Device& device = situation.controller.devices[place];
-  const std::string disk = DescribeDisk(situation.controller, place);
+  const std::string disk = DescribeDevice(situation.controller, place);
   const bool isNeeded = std::ranges::any_of(device.logicalDrives, [&](std::size_t drive) {
     const LogicalDrive& each = situation.controller.logicalDrives[drive];
     return HasEffect(situation.machine, each, Effect::kDegraded) ||
@@ -327,7 +349,7 @@ const Places& DisksOf(const Situation& situation) {
 void DescribeStorage(const Machine& machine, const Cause& cause, Incident& incident) {
   const Situation situation = Look(machine, cause);
   incident.headline = fmt::format("{} {}", ShortName(situation.controller),
-                                  cause.drives.empty() ? DiskHeadlineText(situation) : DriveHeadline(situation));
+                                  cause.drives.empty() ? DeviceHeadline(situation) : DriveHeadline(situation));
   const Action action = ActionOf(situation);
   incident.urgency = action.urgency;
   incident.action = action.text;

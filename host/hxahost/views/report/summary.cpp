@@ -75,7 +75,7 @@ void WriteDisk(std::ostream& out, const Controller& controller, std::size_t plac
   out << fmt::format(
       R"(<li><a class="disk level-{0}" href="#object-{1}" data-object="{1}" title="{2}, {3}">{4}{5}</a></li>)"
       "\n",
-      LevelWord(disk.level), disk.instance, HtmlText(DescribeDisk(controller, place)), HtmlText(state),
+      LevelWord(disk.level), disk.instance, HtmlText(DescribeDevice(controller, place)), HtmlText(state),
       Symbol(disk.level), disk.level >= Level::kBusy ? " " + LocationOf(disk) : "");
 }
 
