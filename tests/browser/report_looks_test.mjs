@@ -144,6 +144,19 @@ test("Paper shows light colours, no controls, nothing cut off, and a summary on 
   assert.equal(await page.locator(".summary").evaluate((summary) => getComputedStyle(summary).breakAfter), "page");
 });
 
+test("The first sheet has the whole summary of a machine with many incidents, the cards follow on the next",
+    async (open) => {
+  const sheet = { width: 718, height: 1000 };
+  const page = await open(pageFile("many"), { media: "print", viewport: sheet });
+  const headlines = await page.locator(".headlines li").allTextContents();
+  assert.equal(headlines.length, 26);
+  assert.match(headlines[0], /^critical: C1 /);
+  assert.equal(headlines[25], "and 15 more");
+  const bottom = await page.locator(".headlines").evaluate((list) => list.getBoundingClientRect().bottom);
+  assert.ok(bottom > 0 && bottom < sheet.height, `${bottom}`);
+  assert.equal(await page.locator(".incidents").evaluate((list) => getComputedStyle(list).breakBefore), "page");
+});
+
 test("A printed report has few pages", async (open) => {
   const page = await open(pageFile("sample"));
   const paper = await page.pdf({ format: "A4" });

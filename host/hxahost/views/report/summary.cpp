@@ -22,6 +22,11 @@ namespace {
 
 constexpr std::size_t kMostLinks = 12;  // to the disks of one incident
 
+// What the first printed sheet has room for.
+constexpr std::size_t kMostPrintedDisks = 150;
+constexpr std::size_t kMostPrintedCards = 8;
+constexpr std::size_t kMostPrintedHeadlines = 25;
+
 std::string Symbol(Level level) {
   return fmt::format(R"(<span class="symbol" aria-hidden="true">{}</span>)", MarkOf(level).symbol);
 }
@@ -95,9 +100,18 @@ bool HasDisks(const Controller& controller) {
   return std::ranges::find(controller.devices, HardwareKind::kDisk, &Device::kind) != controller.devices.end();
 }
 
+std::size_t CountDisks(const Machine& machine) {
+  std::size_t count = 0;
+  for (const Controller& controller : machine.controllers) {
+    count += static_cast<std::size_t>(std::ranges::count(controller.devices, HardwareKind::kDisk, &Device::kind));
+  }
+  return count;
+}
+
 void WriteAllDisks(std::ostream& out, const Machine& machine) {
   if (std::ranges::none_of(machine.controllers, HasDisks)) return;
-  out << "<h3 class=\"unseen\">All disks</h3>\n<ul class=\"units\">\n";
+  const bool isMany = CountDisks(machine) > kMostPrintedDisks;
+  out << fmt::format("<h3 class=\"unseen\">All disks</h3>\n<ul class=\"units{}\">\n", isMany ? " many" : "");
   for (const Controller& controller : machine.controllers) {
     if (HasDisks(controller)) WriteDisks(out, controller);
   }
@@ -129,6 +143,26 @@ void WriteIncident(std::ostream& out, const Machine& machine, const Incident& in
   out << "</li>\n";
 }
 
+// The first printed sheet has these in place of the cards, which then begin on the second.
+void WriteHeadlines(std::ostream& out, const Incidents& incidents) {
+  out << "<ol class=\"headlines\">\n";
+  const std::size_t count = std::min(incidents.size(), kMostPrintedHeadlines);
+  for (std::size_t place = 0; place < count; ++place) {
+    const Incident& incident = incidents[place];
+    out << fmt::format("<li>{}: {}</li>\n", IncidentWord(incident), HtmlText(incident.headline));
+  }
+  if (count < incidents.size()) out << fmt::format("<li>and {} more</li>\n", incidents.size() - count);
+  out << "</ol>\n";
+}
+
+void WriteIncidents(std::ostream& out, const Machine& machine) {
+  const bool isMany = machine.incidents.size() > kMostPrintedCards;
+  if (isMany) WriteHeadlines(out, machine.incidents);
+  out << fmt::format("<ol class=\"incidents{}\">\n", isMany ? " many" : "");
+  for (const Incident& incident : machine.incidents) WriteIncident(out, machine, incident);
+  out << "</ol>\n";
+}
+
 }  // namespace
 
 void WriteTitleHtml(std::ostream& out, const QueryHeader& header) {
@@ -146,10 +180,7 @@ void WriteSummaryHtml(std::ostream& out, const QueryHeader& header, const Machin
   WriteVerdict(out, machine, unjudged.empty());
   WriteLimits(out, header, unjudged);
   WriteAllDisks(out, machine);
-  if (machine.incidents.empty()) return;
-  out << "<ol class=\"incidents\">\n";
-  for (const Incident& incident : machine.incidents) WriteIncident(out, machine, incident);
-  out << "</ol>\n";
+  if (!machine.incidents.empty()) WriteIncidents(out, machine);
 }
 
 }  // namespace hxahost
