@@ -30,6 +30,16 @@ TEST(JsonResult, ReadsTheInstancesOfTheLastQuery) {
   EXPECT_EQ(ResultText(result.instances[0], "Other"), "");
 }
 
+TEST(JsonResult, SaysWhenItWasCollectedWhereTheResultDoes) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(ReadJsonResult(folder.Write("r.json", kWhole)).time, "");
+  const JsonResult dated = ReadJsonResult(folder.Write("d.json", R"({"format": 1, "machine": "M",
+      "time": "20261121093000.000000+060", "masked": true, "queries": [{"instances": []}]})"));
+  EXPECT_EQ(dated.time, "20261121093000.000000+060");
+  EXPECT_TRUE(dated.isMasked);
+  EXPECT_FALSE(dated.isReplayed);
+}
+
 TEST(JsonResult, HasTheLogsAndTheRunsOfAllQueries) {
   const TemporaryFolder folder;
   const JsonResult result = ReadJsonResult(folder.Write("r.json", R"({"format": 1, "machine": "M", "queries": [

@@ -39,13 +39,14 @@ TEST(JsonView, WritesEveryKindOfValueInTheOrderInWhichItWasSet) {
                      static_cast<unsigned short>(3), "Version", "");
   repository.Publish("KVRSG_zxRawData", "RawResults", Texts({"a \"quoted\" line", "b\\"}), "Command",
                      "zenx//qcmdrun.exe getconfig 1 al");
-  const QueryHeader header{"MACHINE", "", {}, {}, 1};
+  const QueryHeader header{"MACHINE", "", TCIMDateTime("20260305123015.250000-060"), {}, 1};
   const QueryResult result{
       1, repository.Instances(), {{3, "one"}, {100, "two\n"}}
   };
   EXPECT_EQ(Json(header, {result}), R"({
   "format": 1,
   "machine": "MACHINE",
+  "time": "20260305123015.250000-060",
   "queries": [
     {
       "instances": [
@@ -113,6 +114,7 @@ TEST(JsonView, KeepsTheQueriesApart) {
             R"({
   "format": 1,
   "machine": "M",
+  "time": "00000000000000.000000+000",
   "queries": [
     {
       "instances": [],

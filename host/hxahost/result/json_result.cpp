@@ -82,6 +82,9 @@ JsonResult ReadWholeResult(const Json& json) {
   if (queries.empty()) throw NoResult("it has no query");
   JsonResult result;
   result.machine = Member(json, "machine", Json::value_t::string);
+  if (json.contains("time")) result.time = Member(json, "time", Json::value_t::string);
+  result.isReplayed = json.contains("replayed");
+  result.isMasked = json.contains("masked");
   for (const Json& instance : Member(queries.back(), "instances", Json::value_t::array)) {
     result.instances.push_back(ReadInstance(instance));
   }

@@ -25,6 +25,9 @@ struct JsonResult {
   std::vector<ResultInstance> instances;  // of the last query
   std::vector<LoggedEntry> log = {};      // of all queries
   std::optional<ToolRunList> runs = {};   // of all queries; nothing where the result was written without them
+  std::string time = {};                  // when it was collected, in the CIM form; "" where the result does not say
+  bool isReplayed = false;
+  bool isMasked = false;
 };
 
 // Throws ProgramError (wrong arguments) for a file that cannot be read and for one that is no such result.

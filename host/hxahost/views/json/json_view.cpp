@@ -110,6 +110,7 @@ void WriteJsonArray(std::ostream& out, std::string_view name, const Items& items
 
 void BeginJson(std::ostream& out, const QueryHeader& header) {
   out << "{\n  \"format\": 1,\n  \"machine\": " << JsonText(AsUtf8(header.machine)) << ",\n";
+  out << "  \"time\": \"" << header.time.ToString() << "\",\n";
   if (header.isReplayed) out << "  \"replayed\": true,\n";
   if (header.isMasked) out << "  \"masked\": true,\n";
   out << "  \"queries\": [";
