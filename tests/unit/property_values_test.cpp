@@ -36,6 +36,15 @@ TEST(PropertyValues, ShowsATimeThatHasNoSuchFormAsItIs) {
   EXPECT_EQ(ReadableTime("2026112107000000.000000+000"), "2026112107000000.000000+000");
 }
 
+TEST(PropertyValues, CountsTheSecondsSince1970InAnyTimeZone) {
+  EXPECT_EQ(SecondsSince1970("19700101000000.000000+000"), 0);
+  EXPECT_EQ(SecondsSince1970("19700102010000.999999+060"), 86400);
+  EXPECT_EQ(SecondsSince1970("19691231190000.000000-300"), 0);
+  EXPECT_EQ(SecondsSince1970("20260021070000.000000+000"), std::nullopt);
+  EXPECT_EQ(SecondsSince1970("20260231070000.000000+000"), std::nullopt);
+  EXPECT_EQ(SecondsSince1970(""), std::nullopt);
+}
+
 TEST(PropertyValues, CountsTheElementsOfAnArray) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxRawData", "Command", "a", "RawResults", Texts({"1", "2"}));

@@ -1,6 +1,7 @@
 #include "host/hxahost/result/property_values.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
 
 #include <fmt/core.h>
@@ -8,6 +9,7 @@
 #include "host/hxacore/value_reader.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
+#include "plugin/host_interface/exception.h"
 
 using namespace NKVRHXA20;
 
@@ -71,6 +73,23 @@ std::string ReadableTime(const std::string& cimDateTime) {
   const int offset = std::atoi(part(22, 3).c_str());
   return fmt::format("{}-{}-{} {}:{}:{} {}{:02}:{:02}", part(0, 4), part(4, 2), part(6, 2), part(8, 2), part(10, 2),
                      part(12, 2), cimDateTime[21], offset / 60, offset % 60);
+}
+
+std::optional<std::int64_t> SecondsSince1970(const std::string& cimDateTime) {
+  try {
+    const TCIMDateTime valid(cimDateTime);
+  } catch (const THXAException&) {
+    return std::nullopt;
+  }
+  const auto number = [&](std::size_t begin, std::size_t length) {
+    return std::stoi(cimDateTime.substr(begin, length));
+  };
+  const std::chrono::sys_days date(std::chrono::year(number(0, 4)) / static_cast<unsigned>(number(4, 2)) /
+                                   static_cast<unsigned>(number(6, 2)));
+  const auto local = date + std::chrono::hours(number(8, 2)) + std::chrono::minutes(number(10, 2)) +
+                     std::chrono::seconds(number(12, 2));
+  const auto offset = std::chrono::minutes(number(22, 3)) * (cimDateTime[21] == '-' ? -1 : 1);
+  return std::chrono::duration_cast<std::chrono::seconds>((local - offset).time_since_epoch()).count();
 }
 
 }  // namespace hxahost

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,5 +28,8 @@ std::size_t ElementCount(const NKVRHXA20::TPublishedInstance& instance, std::str
 
 // "2026-03-05 12:30:15 +01:00" from the CIM form.
 std::string ReadableTime(const std::string& cimDateTime);
+
+// Seconds since 1970 of the CIM form; nothing for a text or a date that is none.
+std::optional<std::int64_t> SecondsSince1970(const std::string& cimDateTime);
 
 }  // namespace hxahost

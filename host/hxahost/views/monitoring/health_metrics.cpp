@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <chrono>
 #include <optional>
 #include <span>
 #include <string>
@@ -7,6 +6,7 @@
 #include <vector>
 
 #include "host/hxahost/machine/state_words.h"
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 #include "host/hxahost/views/monitoring/metric_family.h"
@@ -268,21 +268,6 @@ void WriteTools(std::ostream& out, const HealthReport& report) {
   family.Write(out);
 }
 
-// From the CIM form, yyyymmddhhmmss.mmmmmmsutc; nothing for a time that is none.
-Number SecondsSince1970(const std::string& cim) {
-  if (cim.size() != 25 || cim.find('*') != cim.npos) return std::nullopt;
-  const auto number = [&cim](std::size_t begin, std::size_t length) { return std::stoi(cim.substr(begin, length)); };
-  const std::chrono::year_month_day date(std::chrono::year(number(0, 4)),
-                                         std::chrono::month(static_cast<unsigned>(number(4, 2))),
-                                         std::chrono::day(static_cast<unsigned>(number(6, 2))));
-  if (!date.ok()) return std::nullopt;
-  const auto local = std::chrono::sys_days(date) + std::chrono::hours(number(8, 2)) +
-                     std::chrono::minutes(number(10, 2)) + std::chrono::seconds(number(12, 2));
-  const auto offset = std::chrono::minutes(number(22, 3)) * (cim[21] == '-' ? -1 : 1);
-  return static_cast<double>(
-      std::chrono::duration_cast<std::chrono::seconds>((local - offset).time_since_epoch()).count());
-}
-
 void WriteCollection(std::ostream& out, const HealthReport& report) {
   WriteNumber(out,
               {
@@ -290,9 +275,10 @@ void WriteCollection(std::ostream& out, const HealthReport& report) {
   },
               1, {{"version", ZENX_VERSION}});
   WriteNumber(out, {"zenx_collection_duration_seconds", "How long the collection took."}, report.seconds);
-  const Number time = SecondsSince1970(report.header.time.ToString());
+  const auto time = SecondsSince1970(report.header.time.ToString());
   if (!time) return;
-  WriteNumber(out, {"zenx_collection_timestamp_seconds", "When the collection began, in seconds since 1970."}, *time);
+  WriteNumber(out, {"zenx_collection_timestamp_seconds", "When the collection began, in seconds since 1970."},
+              static_cast<double>(*time));
 }
 
 }  // namespace
