@@ -107,19 +107,20 @@ const std::vector<Case> kHealthCases = {
 };
 
 const std::vector<Case> kOtherCases = {
-    {"",          {"status", "--format", "table"},            2, "give text or json"        },
-    {"",          {"collect"},                                2, "hxahost --help"           },
-    {"",          {"qurey"},                                  2, "did you mean query?"      },
-    {"",          {"classes", "schema"},                      2, "--help"                   },
-    {"",          {"classes", "--format", "json"},            2, "--help"                   },
-    {"",          {"schema", "KVRSG_zxDiskDrive"},            2, "--help"                   },
-    {"",          {"diff", kFile},                            2, "hxahost diff --help"      },
-    {"",          {"diff", kMissing, kFile},                  2, "name a file that is there"},
-    {"",          {"diff", kFile, kMissing},                  2, "is no result of"          },
-    {"",          {"diff", kFolder, kFile},                   2, "name a file that is there"},
-    {"",          {"diff", kFile, kFile},                     2, "is no result of"          },
-    {"--format",  {"diff", "--format", "html", kFile, kFile}, 2, "give text or json"        },
-    {"--verbose", {"diff", "--verbose=some", kFile, kFile},   2, "hxahost diff --help"      },
+    {"",          {"status", "--format", "table"},            2, "give text or json"                         },
+    {"",          {"collect"},                                2, "hxahost --help"                            },
+    {"",          {"qurey"},                                  2, "did you mean query?"                       },
+    {"",          {"classes", "schema"},                      2, "hxahost schema ..."                        },
+    {"",          {"--directory", kFolder, "health"},                 2, "The command goes first: hxahost health ..."},
+    {"",          {"classes", "--format", "json"},            2, "--help"                                    },
+    {"",          {"schema", "KVRSG_zxDiskDrive"},            2, "--help"                                    },
+    {"",          {"diff", kFile},                            2, "hxahost diff --help"                       },
+    {"",          {"diff", kMissing, kFile},                  2, "name a file that is there"                 },
+    {"",          {"diff", kFile, kMissing},                  2, "is no result of"                           },
+    {"",          {"diff", kFolder, kFile},                   2, "name a file that is there"                 },
+    {"",          {"diff", kFile, kFile},                     2, "is no result of"                           },
+    {"--format",  {"diff", "--format", "html", kFile, kFile}, 2, "give text or json"                         },
+    {"--verbose", {"diff", "--verbose=some", kFile, kFile},   2, "hxahost diff --help"                       },
 };
 
 const std::vector<Case> kSchemaCases = {

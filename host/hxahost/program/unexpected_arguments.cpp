@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <fmt/core.h>
+
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/nearest_word.h"
@@ -48,6 +50,11 @@ std::string Answer(const CLI::App& command, const std::string& commandName, cons
   return (IsOption(name) ? Printable(name) : "\"" + Printable(name) + "\"") + isNot + advice;
 }
 
+bool NamesCommand(const CLI::App& program, const std::string& word) {
+  const auto commands = program.get_subcommands({});
+  return std::ranges::find(commands, word, [](const CLI::App* each) { return each->get_name(); }) != commands.end();
+}
+
 }  // namespace
 
 std::string GivenCommand(const CLI::App& program) {
@@ -60,6 +67,10 @@ void RejectUnexpected(const CLI::App& program, const std::vector<std::string>& a
   const auto first = std::ranges::find_if(
       arguments, [&](const std::string& argument) { return std::ranges::count(unexpected, argument) > 0; });
   if (first == arguments.end()) return;
+  if (NamesCommand(program, *first)) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       fmt::format("The command goes first: {} {} ...", program.get_name(), *first));
+  }
   throw ProgramError(ExitStatus::kWrongArguments, Answer(LastGiven(program), GivenCommand(program), *first));
 }
 

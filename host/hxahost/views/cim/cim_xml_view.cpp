@@ -167,8 +167,10 @@ void WriteTree(std::ostream& out, const Tree& tree) {
 
 }  // namespace
 
-void BeginCimXml(std::ostream& out, const QueryHeader&) {
-  out << "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<CIM CIMVERSION=\"2.8\" DTDVERSION=\"2.4\">\n<DECLARATION>\n";
+void BeginCimXml(std::ostream& out, const QueryHeader& header) {
+  out << "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
+  if (header.isReplayed) out << "<!-- " << SourceNote(header) << " -->\n";
+  out << "<CIM CIMVERSION=\"2.8\" DTDVERSION=\"2.4\">\n<DECLARATION>\n";
 }
 
 void WriteQueryCimXml(std::ostream& out, const QueryHeader&, const QueryResult& result) {

@@ -91,6 +91,7 @@ Aliases ReferredPaths(const InstanceList& instances) {
 }  // namespace
 
 void BeginMof(std::ostream& out, const QueryHeader& header) {
+  if (header.isReplayed) out << "// " << SourceNote(header) << '\n';
   out << "// What was published on " << Printable(header.machine) << " at " << header.time.ToString() << ".";
   if (!header.withSuperclasses) {
     out << " \"hxahost schema\" has the classes.\n" << kMofNamespace;

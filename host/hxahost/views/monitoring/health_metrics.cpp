@@ -285,6 +285,7 @@ void WriteCollection(std::ostream& out, const HealthReport& report) {
 
 void WriteHealthMetrics(std::ostream& out, const HealthReport& report) {
   const Machine& machine = report.machine;
+  if (report.header.isReplayed) out << "# " << SourceNote(report.header) << '\n';
   WriteNumber(out, {"zenx_health_status", "The worst of all findings: 0 ok, 1 warning, 2 critical, 3 unknown."},
               NumberOf(WorstOf(machine.findings)));
   WriteIncidents(out, machine);

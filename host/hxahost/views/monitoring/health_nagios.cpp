@@ -136,6 +136,7 @@ void WriteHealthNagios(std::ostream& out, const HealthReport& report) {
     out << WithoutBars(fmt::format("{}: {}{}{}", IncidentWord(incident), incident.headline, separator, incident.action))
         << '\n';
   }
+  if (report.header.isReplayed) out << SourceNote(report.header) << '\n';
   out << "| " << FurtherFigures(report) << '\n';
 }
 
