@@ -7,18 +7,27 @@
 
 namespace NKVRHXA20 {
 
+namespace {
+
+std::string EndText(long process) {
+  if (process == 0) return "was ended";
+  return fmt::format("cannot be ended (process {}; it is not run again before that is gone)", process);
+}
+
+}  // namespace
+
 void ThrowNotStarted(const std::string& path, const std::string& reason) {
   throw TSpawnException(SpawnFailure::kNotStarted, fmt::format("\"{}\" cannot be started: {}", path, reason));
 }
 
-void ThrowTooLong(const std::string& path, int limitSeconds) {
+void ThrowTooLong(const std::string& path, int limitSeconds, long process) {
   throw TSpawnException(SpawnFailure::kTooLong,
-                        fmt::format("\"{}\" was ended: it ran longer than {} seconds", path, limitSeconds));
+                        fmt::format("\"{}\" {}: it ran longer than {} seconds", path, EndText(process), limitSeconds));
 }
 
-void ThrowTooMuchOutput(const std::string& path) {
-  throw TSpawnException(SpawnFailure::kTooMuchOutput,
-                        fmt::format("\"{}\" was ended: it wrote more than {} MiB", path, kOutputLimit >> 20U));
+void ThrowTooMuchOutput(const std::string& path, long process) {
+  throw TSpawnException(SpawnFailure::kTooMuchOutput, fmt::format("\"{}\" {}: it wrote more than {} MiB", path,
+                                                                  EndText(process), kOutputLimit >> 20U));
 }
 
 }  // namespace NKVRHXA20

@@ -218,10 +218,10 @@ struct ModeCase {
 
 void PrintTo(const ModeCase& mode, std::ostream* out) { *out << mode.name; }
 
-// The program has ended by itself: its output counts, and what it has left is not waited for.
+// The program has ended by itself: its output counts, and what it has left ends with the run.
 class SpawnProcessLeft : public testing::TestWithParam<ModeCase> {};
 
-TEST_P(SpawnProcessLeft, ReturnsTheOutputAndEndsWhatStillHoldsThePipe) {
+TEST_P(SpawnProcessLeft, ReturnsTheOutputAndEndsWhatIsLeft) {
   const NumberFile file;
   const auto begin = steady_clock::now();
   const std::string output = RunChild({GetParam().mode, file.Path()});
@@ -233,7 +233,8 @@ TEST_P(SpawnProcessLeft, ReturnsTheOutputAndEndsWhatStillHoldsThePipe) {
 
 INSTANTIATE_TEST_SUITE_P(What, SpawnProcessLeft,
                          testing::Values(ModeCase{"InTheGroup", "leave"}, ModeCase{"OutOfTheGroup", "detach"},
-                                         ModeCase{"WritingForEver", "leave-flood"}),
+                                         ModeCase{"WritingForEver", "leave-flood"},
+                                         ModeCase{"WithoutOutputGroupOrParent", "daemon"}),
                          [](const auto& mode) { return mode.param.name; });
 
 // The program runs beyond the limit, and has started something.

@@ -104,35 +104,36 @@ void SleepWithoutOutput(const std::string& seconds) {
 }
 
 const std::map<std::string, std::function<void(const Texts&)>> kModes = {
-    {"arguments",         PrintArguments                                                              },
-    {"bytes",             [](const Texts& given) { PrintBytes(std::stoul(given.at(0))); }             },
-    {"flood",             [](const Texts&) { Flood(); }                                               },
-    {"both",              [](const Texts& given) { PrintOnBothOutputs(std::stoi(given.at(0))); }      },
-    {"input",             [](const Texts&) { PrintInput(); }                                          },
-    {"locale",            [](const Texts&) { PrintLocale(); }                                         },
-    {"variable",          [](const Texts& given) { PrintVariable(given.at(0)); }                      },
-    {"sleep",             [](const Texts& given) { Sleep(given.at(0)); }                              },
-    {"sleep-unasked",     [](const Texts& given) { SleepUnasked(given.at(0), given.at(1)); }          },
-    {"sleep-with-family", [](const Texts& given) { SleepWithFamily(given.at(0), given.at(1)); }       },
-    {"sleep-silently",    [](const Texts& given) { SleepWithoutOutput(given.at(0)); }                 },
-    {"exit",              [](const Texts& given) { Exit(std::stoi(given.at(0))); }                    },
-    {"leave",             [](const Texts& given) { Leave(Ties::kAll, Rest::kSleeps, given.at(0)); }   },
-    {"leave-flood",       [](const Texts& given) { Leave(Ties::kAll, Rest::kFloods, given.at(0)); }   },
-    {"detach",            [](const Texts& given) { Leave(Ties::kOutput, Rest::kSleeps, given.at(0)); }},
+    {"arguments",         PrintArguments                                                               },
+    {"bytes",             [](const Texts& given) { PrintBytes(std::stoul(given.at(0))); }              },
+    {"flood",             [](const Texts&) { Flood(); }                                                },
+    {"both",              [](const Texts& given) { PrintOnBothOutputs(std::stoi(given.at(0))); }       },
+    {"input",             [](const Texts&) { PrintInput(); }                                           },
+    {"locale",            [](const Texts&) { PrintLocale(); }                                          },
+    {"variable",          [](const Texts& given) { PrintVariable(given.at(0)); }                       },
+    {"sleep",             [](const Texts& given) { Sleep(given.at(0)); }                               },
+    {"sleep-unasked",     [](const Texts& given) { SleepUnasked(given.at(0), given.at(1)); }           },
+    {"sleep-with-family", [](const Texts& given) { SleepWithFamily(given.at(0), given.at(1)); }        },
+    {"sleep-silently",    [](const Texts& given) { SleepWithoutOutput(given.at(0)); }                  },
+    {"exit",              [](const Texts& given) { Exit(std::stoi(given.at(0))); }                     },
+    {"leave",             [](const Texts& given) { Leave(Ties::kAll, Rest::kSleeps, given.at(0)); }    },
+    {"leave-flood",       [](const Texts& given) { Leave(Ties::kAll, Rest::kFloods, given.at(0)); }    },
+    {"detach",            [](const Texts& given) { Leave(Ties::kOutput, Rest::kSleeps, given.at(0)); } },
+    {"daemon",            [](const Texts& given) { Leave(Ties::kNothing, Rest::kSleeps, given.at(0)); }},
     {"detach-sleep",
      [](const Texts& given) {
        Leave(Ties::kOutput, Rest::kSleeps, given.at(0));
        Sleep(given.at(1));
-     }                                                                                                },
+     }                                                                                                 },
     {"daemon-sleep",
      [](const Texts& given) {
        Leave(Ties::kNothing, Rest::kSleeps, given.at(0));
        Sleep(given.at(1));
-     }                                                                                                },
+     }                                                                                                 },
  // What Windows starts where other systems fork.
-    {"rest-sleeps",       [](const Texts& given) { StayBehind(Rest::kSleeps, given.at(0)); }          },
-    {"rest-floods",       [](const Texts& given) { StayBehind(Rest::kFloods, given.at(0)); }          },
-    {"rest-breeds",       [](const Texts& given) { StayBehind(Rest::kBreeds, given.at(0)); }          },
+    {"rest-sleeps",       [](const Texts& given) { StayBehind(Rest::kSleeps, given.at(0)); }           },
+    {"rest-floods",       [](const Texts& given) { StayBehind(Rest::kFloods, given.at(0)); }           },
+    {"rest-breeds",       [](const Texts& given) { StayBehind(Rest::kBreeds, given.at(0)); }           },
 };
 
 // Under a utility's name it writes what stands in a file beside it, "script/qcmdrun getconfig 1 al", byte for byte.

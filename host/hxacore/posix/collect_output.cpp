@@ -2,14 +2,15 @@
 #include <array>
 #include <cerrno>
 #include <limits>
-#include <thread>
 
 #include <poll.h>
 #include <sys/ioctl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 
 #include "host/hxacore/operating_system.h"
 #include "host/hxacore/posix/child_process.h"
+#include "host/hxacore/posix/keeper.h"
 
 namespace NKVRHXA20 {
 
@@ -17,96 +18,84 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// How often a kernel without descriptors of processes is asked whether the program has ended.
-constexpr milliseconds kAskAgain{5};
-
 // Rounded up: a wait of 0 would turn the last millisecond into a busy loop.
 milliseconds Remaining(Deadline deadline) {
   const auto left = std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
   return std::clamp(left, milliseconds(0), milliseconds(std::numeric_limits<int>::max()));
 }
 
-enum class Arrived { kBytes, kEnd, kNothing };
-
-// Reads once, what is there or would come next.
-Arrived ReadSome(int descriptor, std::string& output, std::size_t atMost) {
+// Reads once, what is there or would come next. False: the pipe is at its end.
+bool ReadSome(int descriptor, std::string& output, std::size_t atMost) {
   std::array<char, std::size_t{64} << 10U> buffer;
   const ssize_t count = read(descriptor, buffer.data(), std::min(buffer.size(), atMost));
-  if (count < 0) return errno == EINTR ? Arrived::kNothing : Arrived::kEnd;
+  if (count < 0) return errno == EINTR;
   output.append(buffer.data(), static_cast<std::size_t>(count));
-  return count > 0 ? Arrived::kBytes : Arrived::kEnd;
+  return count > 0;
 }
 
 bool IsTooMuch(const std::string& output) { return output.size() > kOutputLimit; }
 
-// Waits until the program has ended or the deadline passed.
-bool WaitForEnd(const ChildProcess& child, Deadline deadline) {
-  while (!HasEnded(child)) {
-    const milliseconds left = Remaining(deadline);
-    if (left.count() == 0) return false;
-    if (child.end.Get() >= 0) {
-      pollfd end{child.end.Get(), POLLIN, 0};
-      poll(&end, 1, static_cast<int>(left.count()));
-    } else {
-      std::this_thread::sleep_for(std::min(left, kAskAgain));
-    }
+// One report of the keeper's, or its end. A program that was not started ends, too.
+void ReadReport(ChildProcess& child) {
+  KeeperReport report{};
+  const ssize_t size = recv(child.reports.Get(), &report, sizeof report, 0);
+  if (size < 0 && errno == EINTR) return;
+  if (size != sizeof report) {
+    child.isKept = false;
+  } else if (report.kind == KeeperReport::kStarted) {
+    child.process = report.value;
+  } else if (report.kind == KeeperReport::kNotStarted) {
+    child.startFailure = report.value;
+  } else {
+    child.waitStatus = report.value;
   }
-  return true;
 }
 
 // The program has ended: all that it wrote lies in the pipe. Only that is read, because what it has started may write
 // for ever.
-OutputEnd TakeTheRest(int descriptor, std::string& output) {
+void TakeTheRest(int descriptor, std::string& output) {
   int waiting = 0;
   ioctl(descriptor, FIONREAD, &waiting);
   const std::size_t whole = output.size() + static_cast<std::size_t>(waiting);
-  while (output.size() < whole && ReadSome(descriptor, output, whole - output.size()) != Arrived::kEnd) {
+  while (output.size() < whole && ReadSome(descriptor, output, whole - output.size())) {
   }
-  pollfd pipe{descriptor, POLLIN, 0};
-  poll(&pipe, 1, 0);
-  if (IsTooMuch(output)) return OutputEnd::kTooMuch;
-  const bool isClosed = (pipe.revents & POLLHUP) != 0 && (pipe.revents & POLLIN) == 0;
-  return isClosed ? OutputEnd::kComplete : OutputEnd::kLeftOpen;
 }
 
 }  // namespace
 
-OutputEnd CollectOutput(const ChildProcess& child, Deadline deadline, std::string& output) {
-  const bool isTold = child.end.Get() >= 0;
-  for (;;) {
+OutputEnd CollectOutput(ChildProcess& child, Deadline deadline, std::string& output) {
+  bool isOpen = true;
+  while (child.isKept && !child.waitStatus) {
     const milliseconds left = Remaining(deadline);
     if (left.count() == 0) return OutputEnd::kTooLong;
     pollfd waits[] = {
-        {child.output.Get(), POLLIN, 0},
-        {child.end.Get(),    POLLIN, 0}  // -1 is passed over
+        {child.reports.Get(),                   POLLIN, 0},
+        {isOpen ? child.output.Get() : int{-1}, POLLIN, 0}  // -1 is passed over
     };
-    const int ready = poll(waits, 2, static_cast<int>((isTold ? left : std::min(left, kAskAgain)).count()));
-    if (isTold ? waits[1].revents != 0 : ready == 0 && HasEnded(child)) return TakeTheRest(child.output.Get(), output);
-    if (ready <= 0 || waits[0].revents == 0) continue;
-
-    const Arrived arrived = ReadSome(child.output.Get(), output, std::string::npos);
+    poll(waits, 2, static_cast<int>(left.count()));
+    if (waits[0].revents != 0) {
+      ReadReport(child);
+    } else if (waits[1].revents != 0) {
+      isOpen = ReadSome(child.output.Get(), output, std::string::npos);
+    }
     if (IsTooMuch(output)) return OutputEnd::kTooMuch;
-    if (arrived == Arrived::kEnd) return WaitForEnd(child, deadline) ? OutputEnd::kComplete : OutputEnd::kTooLong;
   }
+  TakeTheRest(child.output.Get(), output);
+  return IsTooMuch(output) ? OutputEnd::kTooMuch : OutputEnd::kComplete;
 }
 
-bool HasEnded(const ChildProcess& child) {
-  siginfo_t how{};
-  const int failure = waitid(P_PID, static_cast<id_t>(child.pid), &how, WEXITED | WNOHANG | WNOWAIT);
-  return failure != 0 ? errno == ECHILD : how.si_pid == child.pid;
-}
-
-bool IsReaped(const ChildProcess& child) {
-  siginfo_t how{};
-  return waitid(P_PID, static_cast<id_t>(child.pid), &how, WEXITED | WNOHANG | WNOWAIT) != 0 && errno == ECHILD;
-}
-
-std::optional<int> Reap(const ChildProcess& child) {
-  int status = 0;
-  while (waitpid(child.pid, &status, 0) < 0) {
-    if (errno != EINTR) return std::nullopt;
+bool EndProcessTree(ChildProcess& child) {
+  const Deadline giveUp = std::chrono::steady_clock::now() + kPatience;
+  shutdown(child.reports.Get(), SHUT_WR);
+  while (child.isKept) {
+    const milliseconds left = Remaining(giveUp);
+    if (left.count() == 0) return false;
+    pollfd reports{child.reports.Get(), POLLIN, 0};
+    if (poll(&reports, 1, static_cast<int>(left.count())) > 0) ReadReport(child);
   }
-  return status;
+  while (waitpid(child.keeper, nullptr, 0) < 0 && errno == EINTR) {
+  }
+  return true;
 }
 
 }  // namespace NKVRHXA20

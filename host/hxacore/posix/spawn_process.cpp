@@ -1,8 +1,9 @@
+#include <system_error>
+
 #include <sys/wait.h>
 
 #include "host/hxacore/operating_system.h"
 #include "host/hxacore/posix/child_process.h"
-#include "host/hxacore/posix/process_tree.h"
 #include "host/hxacore/spawn_failure.h"
 
 namespace NKVRHXA20 {
@@ -23,14 +24,15 @@ void SetEnd(std::optional<int> waitStatus, SpawnResult& result) {
 
 SpawnResult SpawnProcess(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
   const Deadline deadline = std::chrono::steady_clock::now() + std::chrono::seconds(limitSeconds);
-  const ChildProcess child = StartProcess(path, arguments);
+  ChildProcess child = StartProcess(path, arguments);
   SpawnResult result;
   const OutputEnd end = CollectOutput(child, deadline, result.output);
-  if (end != OutputEnd::kComplete) EndProcessTree(child);
-  if (HasEnded(child)) SetEnd(Reap(child), result);  // where even the kernel cannot end it, waiting would last for ever
+  const bool isGone = EndProcessTree(child);
+  if (child.startFailure != 0) ThrowNotStarted(path, std::generic_category().message(child.startFailure));
+  SetEnd(child.waitStatus, result);
 
-  if (end == OutputEnd::kTooLong) ThrowTooLong(path, limitSeconds);
-  if (end == OutputEnd::kTooMuch) ThrowTooMuchOutput(path);
+  if (end == OutputEnd::kTooLong) ThrowTooLong(path, limitSeconds, isGone ? 0 : child.process);
+  if (end == OutputEnd::kTooMuch) ThrowTooMuchOutput(path, isGone ? 0 : child.process);
   return result;
 }
 

@@ -1,6 +1,12 @@
-#include <atomic>
+#include <array>
+#include <random>
 #include <vector>
 
+#include <windows.h>
+
+#include <sddl.h>
+
+#include "host/hxacore/operating_system.h"
 #include "host/hxacore/spawn_failure.h"
 #include "host/hxacore/windows/child_process.h"
 #include "host/hxacore/windows/command_line.h"
@@ -11,8 +17,11 @@ namespace NKVRHXA20 {
 
 namespace {
 
+using std::chrono::milliseconds;
+
 constexpr DWORD kPipeSize = DWORD{64} << 10U;
-constexpr DWORD kPatienceMilliseconds = 5000;
+// Newer than the oldest Windows that this is built for, which refuses it.
+constexpr DWORD_PTR kJobListAttribute = 0x2000D;
 
 [[noreturn]] void ThrowLastError(const std::string& path) { ThrowNotStarted(path, ErrorText(GetLastError())); }
 
@@ -26,13 +35,41 @@ std::wstring FullPath(const std::string& path) {
 
 SECURITY_ATTRIBUTES Inheritable() { return {sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE}; }
 
-// A pipe without a name cannot be read overlapped, and only so can one wait for output and for the end at once.
+struct FreeMemory {
+  void operator()(void* memory) const { LocalFree(memory); }
+};
+
+// Lets the user of this process alone open something; null where Windows does not say who that is.
+std::unique_ptr<void, FreeMemory> ForThisUserAlone() {
+  HANDLE token = nullptr;
+  OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token);
+  const UniqueHandle owned = Owned(token);
+  alignas(TOKEN_USER) std::array<char, sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE> user{};
+  DWORD size = 0;
+  wchar_t* name = nullptr;
+  if (!GetTokenInformation(token, TokenUser, user.data(), user.size(), &size) ||
+      !ConvertSidToStringSidW(reinterpret_cast<TOKEN_USER*>(user.data())->User.Sid, &name)) {
+    return nullptr;
+  }
+  const std::unique_ptr<void, FreeMemory> ownedName(name);
+  const std::wstring text = L"D:P(A;;GA;;;" + std::wstring(name) + L")";
+  void* descriptor = nullptr;
+  ConvertStringSecurityDescriptorToSecurityDescriptorW(text.c_str(), SDDL_REVISION_1, &descriptor, nullptr);
+  return std::unique_ptr<void, FreeMemory>(descriptor);
+}
+
+// A pipe without a name cannot be read overlapped, and only so can one wait for output and for the end at once. Nobody
+// else can foresee the name, or open the pipe before the program has it.
 UniqueHandle MakePipe(std::wstring& name) {
-  static std::atomic<unsigned> pipes = 0;
-  name = L"\\\\.\\pipe\\hxacore-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++pipes);
+  std::random_device random;
+  name = L"\\\\.\\pipe\\hxacore";
+  for (int word = 0; word < 4; ++word) name += L"-" + std::to_wstring(random());
+  const auto descriptor = ForThisUserAlone();
+  if (!descriptor) return nullptr;
+  SECURITY_ATTRIBUTES attributes{sizeof(SECURITY_ATTRIBUTES), descriptor.get(), FALSE};
   return Owned(CreateNamedPipeW(name.c_str(),
                                 PIPE_ACCESS_INBOUND | FILE_FLAG_OVERLAPPED | FILE_FLAG_FIRST_PIPE_INSTANCE,
-                                PIPE_TYPE_BYTE | PIPE_REJECT_REMOTE_CLIENTS, 1, kPipeSize, kPipeSize, 0, nullptr));
+                                PIPE_TYPE_BYTE | PIPE_REJECT_REMOTE_CLIENTS, 1, kPipeSize, kPipeSize, 0, &attributes));
 }
 
 UniqueHandle OpenInheritable(const wchar_t* name, DWORD access) {
@@ -48,20 +85,22 @@ UniqueHandle MakeJob() {
   return job;
 }
 
-// The handles that the program inherits, whatever else the host holds inheritable. They must outlive it.
-class THandleList {
+// What the program inherits, whatever else the host holds inheritable, and the job that it begins in. Both must outlive
+// the list.
+class TAttributeList {
  public:
-  explicit THandleList(std::vector<HANDLE>& handles) {
+  TAttributeList(std::vector<HANDLE>& handles, HANDLE& job) {
     SIZE_T size = 0;
-    InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
+    InitializeProcThreadAttributeList(nullptr, 2, 0, &size);
     memory_.resize(size);
-    InitializeProcThreadAttributeList(Get(), 1, 0, &size);
+    InitializeProcThreadAttributeList(Get(), 2, 0, &size);
     UpdateProcThreadAttribute(Get(), 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, handles.data(),
                               handles.size() * sizeof(HANDLE), nullptr, nullptr);
+    UpdateProcThreadAttribute(Get(), 0, kJobListAttribute, &job, sizeof job, nullptr, nullptr);
   }
-  ~THandleList() { DeleteProcThreadAttributeList(Get()); }
-  THandleList(const THandleList&) = delete;
-  THandleList& operator=(const THandleList&) = delete;
+  ~TAttributeList() { DeleteProcThreadAttributeList(Get()); }
+  TAttributeList(const TAttributeList&) = delete;
+  TAttributeList& operator=(const TAttributeList&) = delete;
 
   LPPROC_THREAD_ATTRIBUTE_LIST Get() { return reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(memory_.data()); }
 
@@ -70,16 +109,16 @@ class THandleList {
 };
 
 PROCESS_INFORMATION CreateSuspended(const std::string& path, const std::vector<std::string>& arguments, HANDLE input,
-                                    HANDLE output) {
+                                    HANDLE output, HANDLE job) {
   std::vector<HANDLE> inherited{input, output};
-  THandleList handles(inherited);
+  TAttributeList attributes(inherited, job);
   STARTUPINFOEXW startup{};
   startup.StartupInfo.cb = sizeof startup;
   startup.StartupInfo.dwFlags = STARTF_USESTDHANDLES;
   startup.StartupInfo.hStdInput = input;
   startup.StartupInfo.hStdOutput = output;
   startup.StartupInfo.hStdError = output;
-  startup.lpAttributeList = handles.Get();
+  startup.lpAttributeList = attributes.Get();
 
   const std::wstring program = FullPath(path);
   std::wstring environment = ChildEnvironment();
@@ -101,15 +140,10 @@ PROCESS_INFORMATION CreateSuspended(const std::string& path, const std::vector<s
   return started;
 }
 
-bool HasProcesses(HANDLE job) {
-  JOBOBJECT_BASIC_ACCOUNTING_INFORMATION processes{};
-  return QueryInformationJobObject(job, JobObjectBasicAccountingInformation, &processes, sizeof processes, nullptr) &&
-         processes.ActiveProcesses > 0;
-}
-
 }  // namespace
 
 ChildProcess StartProcess(const std::string& path, const std::vector<std::string>& arguments) {
+  if (IsStillThere(FullPath(path))) ThrowNotStarted(path, "an earlier run of it cannot be ended and goes on");
   ChildProcess child;
   std::wstring pipeName;
   child.output = MakePipe(pipeName);
@@ -118,25 +152,25 @@ ChildProcess StartProcess(const std::string& path, const std::vector<std::string
   if (!write) ThrowLastError(path);
   const UniqueHandle null = OpenInheritable(L"NUL", GENERIC_READ);
   if (!null) ThrowLastError(path);
-  child.job = MakeJob();
-  if (!child.job) ThrowLastError(path);
+  UniqueHandle job = MakeJob();
+  if (!job) ThrowLastError(path);
+  child.job = TRunJob(std::move(job));
 
-  const PROCESS_INFORMATION started = CreateSuspended(path, arguments, null.get(), write.get());
+  const PROCESS_INFORMATION started = CreateSuspended(path, arguments, null.get(), write.get(), child.job.Get());
   child.process = Owned(started.hProcess);
   const UniqueHandle thread = Owned(started.hThread);
-  // Before Windows 8 a process has one job at most. There, in a host that has its own, the program runs without one,
-  // and what it starts is not ended with it.
-  AssignProcessToJobObject(child.job.get(), child.process.get());
+  // Before Windows 10 a program cannot begin in a job. Before Windows 8 a process has one job at most: there, in a host
+  // that has its own, the program runs without one, and what it starts is not ended with it.
+  AssignProcessToJobObject(child.job.Get(), child.process.get());
   ResumeThread(thread.get());
   return child;
 }
 
-void EndProcessTree(const ChildProcess& child) {
-  TerminateJobObject(child.job.get(), 1);
+void EndProcessTree(const std::string& path, ChildProcess& child) {
+  const bool isGone = child.job.End();
   TerminateProcess(child.process.get(), 1);
-  const ULONGLONG giveUp = GetTickCount64() + kPatienceMilliseconds;
-  WaitForSingleObject(child.process.get(), kPatienceMilliseconds);
-  while (HasProcesses(child.job.get()) && GetTickCount64() < giveUp) Sleep(1);
+  WaitForSingleObject(child.process.get(), isGone ? static_cast<DWORD>(milliseconds(kPatience).count()) : 0);
+  if (!isGone) KeepUntilGone(FullPath(path), std::move(child.job));
 }
 
 }  // namespace NKVRHXA20

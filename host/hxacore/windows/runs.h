@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "host/hxacore/windows/handle.h"
+#include "plugin/host_interface/export.h"
+
+namespace NKVRHXA20 {
+
+// A job for a program and all that it starts, known to StopRuns as long as it is open; or none. Its end, also that of
+// this process, ends them.
+class HXACORE_API TRunJob {
+ public:
+  TRunJob() = default;
+  explicit TRunJob(UniqueHandle job);
+  TRunJob(TRunJob&&) = default;
+  TRunJob& operator=(TRunJob&&) = default;
+  ~TRunJob();
+
+  HANDLE Get() const { return job_.get(); }
+
+  // Ends its processes and waits until none is left. False: Windows cannot end one of them within some seconds.
+  bool End() const;
+
+ private:
+  UniqueHandle job_;
+};
+
+// From here on the program counts as running until nobody of the job is left.
+void KeepUntilGone(const std::wstring& program, TRunJob job);
+bool IsStillThere(const std::wstring& program);
+
+}  // namespace NKVRHXA20
