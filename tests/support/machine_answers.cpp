@@ -8,6 +8,7 @@
 
 #include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_format.h"
+#include "tests/support/tool_text.h"
 #include "tools/known_tools.h"
 
 using namespace hxahost;
@@ -28,16 +29,37 @@ RecordedFailure FailureOf(const std::string& text) {
   return {static_cast<FailureKind>(word - std::begin(bundle_format::kFailureWords)), *message};
 }
 
-void AddLine(RecordedRun& run, const std::string& line) {
-  if (const std::string status = ValueOf(line, "exit-status: "); !status.empty()) {
+void AddLine(RecordedRun& run, const std::string& line, std::string& lineEnd) {
+  if (line == "line-ends: LF") {
+    lineEnd = "\n";
+  } else if (const std::string status = ValueOf(line, "exit-status: "); !status.empty()) {
     run.result.exitStatus = std::stoi(status);
   } else if (const std::string failure = ValueOf(line, "failure: "); !failure.empty()) {
     run.failure = FailureOf(failure);
   } else {
     const auto bytes = UnescapeBytes(line);
     if (!bytes) throw std::runtime_error("no escaped text: " + line);
-    run.result.output += *bytes + "\r\n";
+    run.result.output += *bytes + lineEnd;
   }
+}
+
+// The text with the lines between "repeat: 0 199" and "repeat-end" once for each number, which they hold as "{}".
+std::string WithRepetitions(const std::string& text) {
+  std::string repeated;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream range(ValueOf(line, "repeat: "));
+    unsigned first = 0;
+    unsigned last = 0;
+    if (!(range >> first >> last)) {
+      repeated += line + "\n";
+      continue;
+    }
+    std::string block;
+    while (std::getline(lines, line) && line != "repeat-end") block += line + "\n";
+    for (unsigned number = first; number <= last; ++number) repeated += Replaced(block, "{}", std::to_string(number));
+  }
+  return repeated;
 }
 
 // What a tool prints where nobody wrote an answer down.
@@ -74,7 +96,8 @@ void AddRuns(const MachineAnswers& answers, const Tool& tool, unsigned number, B
 MachineAnswers ReadMachineAnswers(const std::string& text) {
   MachineAnswers answers;
   RecordedRun* run = nullptr;
-  std::istringstream lines(text);
+  std::string lineEnd;
+  std::istringstream lines(WithRepetitions(text));
   for (std::string line; std::getline(lines, line);) {
     if (const std::string command = ValueOf(line, "$ "); command == kLogFile) {
       answers.raidLog = "";
@@ -82,8 +105,9 @@ MachineAnswers ReadMachineAnswers(const std::string& text) {
     } else if (!command.empty()) {
       run = &answers.runs[command];
       run->result.exitStatus = 0;
+      lineEnd = "\r\n";
     } else if (run != nullptr) {
-      AddLine(*run, line);
+      AddLine(*run, line, lineEnd);
     } else if (answers.raidLog) {
       *answers.raidLog += line + "\r\n";
     }
