@@ -25,7 +25,7 @@ std::string AnswerText(std::string_view tool, const ToolRunList& runs) {
     worst = std::max(worst, run.outcome == Outcome::kRefused ? Outcome::kOk : run.outcome);
     if (IsOfController(run)) controllers.insert(run.arguments[1]);
   }
-  if (!isAsked) return "";
+  if (!isAsked) return fmt::format("{} not run", tool);
   if (controllers.empty() && worst != Outcome::kOk) return fmt::format("{} {}", tool, OutcomeWord(worst));
   return fmt::format("{} {} controller{}", tool, controllers.size(), controllers.size() == 1 ? "" : "s");
 }
@@ -33,11 +33,9 @@ std::string AnswerText(std::string_view tool, const ToolRunList& runs) {
 }  // namespace
 
 std::string AnswersText(const ToolRunList& runs) {
+  if (runs.empty()) return "";
   std::string text;
-  for (const std::string_view tool : KnownTools()) {
-    const std::string answer = AnswerText(tool, runs);
-    if (!answer.empty()) text += (text.empty() ? "" : ", ") + answer;
-  }
+  for (const std::string_view tool : KnownTools()) text += (text.empty() ? "" : ", ") + AnswerText(tool, runs);
   return text;
 }
 

@@ -7,7 +7,7 @@
 // Which utilities answered, and with how many controllers.
 namespace hxahost {
 
-// What became of each utility that was run: "qcmdrun 2 controllers, hrconf_64 not started"; "" where none was.
+// What became of each utility: "qcmdrun 2 controllers, hrconf_64 not started, arcconf not run"; "" where none was run.
 std::string AnswersText(const ToolRunList& runs);
 
 // Whether a utility answered, be it that it has no controller.
