@@ -100,8 +100,17 @@ INSTANTIATE_TEST_SUITE_P(Recorded, Machines, testing::ValuesIn(NamesOf(".answers
 });
 
 TEST(MachineFiles, AreThereInPairs) {
-  EXPECT_GE(NamesOf(".answers").size(), 20U);
+  EXPECT_GE(NamesOf(".answers").size(), 60U);
   EXPECT_EQ(NamesOf(".answers"), NamesOf(".expected"));
+}
+
+TEST(MachineFiles, ExpectTheVerdictAndTheTablesInAHundredLinesAtMost) {
+  for (const std::string& name : NamesOf(".expected")) {
+    const std::string expected = FileText(SourceFile("tests/machines") / (name + ".expected"));
+    EXPECT_LE(std::ranges::count(expected, '\n'), 100) << name;
+    EXPECT_TRUE(expected.starts_with("$ hxahost status\n")) << name;
+    EXPECT_NE(expected.find("\n$ hxahost query"), expected.npos) << name;
+  }
 }
 
 }  // namespace
