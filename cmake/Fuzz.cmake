@@ -28,7 +28,7 @@ sources_of(fuzz_material_sources fuzz/material)
 add_executable(fuzz_material ${fuzz_material_sources})
 target_link_libraries(fuzz_material PRIVATE fuzz_support)
 file(GLOB_RECURSE fuzz_material_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/samples/machine/*
-     ${CMAKE_SOURCE_DIR}/docs/bundle-format.md ${CMAKE_SOURCE_DIR}/tests/golden/* ${CMAKE_SOURCE_DIR}/tools/*
+     ${CMAKE_SOURCE_DIR}/docs/bundles.md ${CMAKE_SOURCE_DIR}/tests/golden/* ${CMAKE_SOURCE_DIR}/tools/*
      ${CMAKE_SOURCE_DIR}/collect/*
      ${CMAKE_SOURCE_DIR}/logs/* ${CMAKE_SOURCE_DIR}/publish/*.cpp ${CMAKE_SOURCE_DIR}/host/hxahost/*/*.cpp)
 add_custom_command(

@@ -169,7 +169,7 @@ Seeds SeedMaker::Views() const {
 
 // The document's example, and the sample machine's texts as those of runs.
 Seeds SeedMaker::Bundles() const {
-  const std::string page = FileText(sources_ / "docs/bundle-format.md");
+  const std::string page = FileText(sources_ / "docs/bundles.md");
   const std::size_t begin = page.find("hxahost bundle 1\n");
   Seeds seeds = {page.substr(begin, page.find("```", begin) - begin)};
   for (const std::string& text : AllAnswers(sources_ / kAnswers)) {

@@ -14,7 +14,7 @@ using namespace hxahost;
 
 // The worked example of the description, between the fences that begin with ```bundle.
 std::string DocumentedExample() {
-  const std::string page = FileText(SourceFile("docs/bundle-format.md"));
+  const std::string page = FileText(SourceFile("docs/bundles.md"));
   constexpr std::string_view kFence = "```bundle\n";
   const std::size_t begin = page.find(kFence) + kFence.size();
   return page.substr(begin, page.find("```", begin) - begin);

@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// A bundle as one file of text: docs/bundle-format.md describes it.
+// A bundle as one file of text: docs/bundles.md describes it.
 std::string WriteBundle(const Bundle& bundle);
 
 }  // namespace hxahost
