@@ -12,10 +12,10 @@ namespace {
 
 using namespace hxahost;
 
-// The worked example of the description, between the fences that begin with ```bundle.
+// The worked example of the description, the block below the comment "bundle".
 std::string DocumentedExample() {
   const std::string page = FileText(SourceFile("docs/bundles.md"));
-  constexpr std::string_view kFence = "```bundle\n";
+  constexpr std::string_view kFence = "<!-- bundle -->\n```text\n";
   const std::size_t begin = page.find(kFence) + kFence.size();
   return page.substr(begin, page.find("```", begin) - begin);
 }
