@@ -18,7 +18,8 @@ constexpr int kLimitSeconds = 600;
 // Plug-ins collect once in a process, so each bundle is replayed by a process of its own.
 std::string QueryThatReplays(const std::filesystem::path& bundle) {
   const auto result = NKVRHXA20::RealServices().spawn(
-      Utf8FromPath(ProgramFile()), {"query", "--format", "json", "--replay", Utf8FromPath(bundle)}, kLimitSeconds);
+      Utf8FromPath(ProgramFile()), {"query", "--format", "json", "--runs", "--replay", Utf8FromPath(bundle)},
+      kLimitSeconds);
   if (result.exitStatus == 0) return result.output;
   // After the result, a line says then why nothing was found.
   if (result.exitStatus == static_cast<int>(ExitStatus::kNothingFound)) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "host/hxahost/fleet/fleet_rows.h"
 #include "host/hxahost/schema/schema_markdown.h"
 #include "host/hxahost/schema/schema_view.h"
 #include "host/hxahost/views/cim/cim_xml_view.h"
@@ -20,6 +21,11 @@ namespace {
 constexpr Format kFormats[] = {
     {"diff",   "text",       WriteDiffText                                                 },
     {"diff",   "json",       WriteDiffJson                                                 },
+    {"fleet",  "table",      FleetWriter{nullptr, {}, WriteFleetTable}                     },
+    {"fleet",  "json",       FleetWriter{nullptr, {}, WriteFleetJson}                      },
+    {"fleet",  "jsonl",      FleetWriter{nullptr, {WriteJsonRows, WriteJsonRow}}           },
+    {"fleet",  "csv",        FleetWriter{WriteCsvHeader, {WriteCsvRows, WriteCsvRow}}      },
+    {"fleet",  "prometheus", FleetWriter{nullptr, {}, WriteFleetMetrics}                   },
     {"health", "text",       WriteHealthText                                               },
     {"health", "nagios",     WriteHealthNagios                                             },
     {"health", "json",       WriteHealthJson                                               },

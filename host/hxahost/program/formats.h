@@ -7,6 +7,8 @@
 
 #include "host/hxacore/schema.h"
 #include "host/hxahost/diff/diff_view.h"
+#include "host/hxahost/fleet/fleet_view.h"
+#include "host/hxahost/fleet/read_fleet.h"
 #include "host/hxahost/result/query_result.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 
@@ -28,11 +30,18 @@ using DiffWriter = void (*)(std::ostream& out, const ComparedFile& before, const
 using SchemaWriter = void (*)(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes,
                               bool withSuperclasses);
 
+// Shows a fleet: each result as it comes, or the whole at the end.
+struct FleetWriter {
+  void (*Begin)(std::ostream& out) = nullptr;
+  RowWriters rows = {};
+  void (*Whole)(std::ostream& out, const FleetView& view) = nullptr;
+};
+
 // A format of a command, and what writes it.
 struct Format {
   std::string_view command;
   std::string_view name;
-  std::variant<QueryWriter, HealthWriter, DiffWriter, SchemaWriter> writer;
+  std::variant<QueryWriter, HealthWriter, DiffWriter, FleetWriter, SchemaWriter> writer;
 };
 
 // The formats of a command, its default first.

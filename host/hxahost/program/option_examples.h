@@ -65,6 +65,16 @@ inline constexpr const char* kDiffExamples =
     "\n"
     "Exit status: 0 nothing is different, 1 something is, 2 it could not be told.";
 
+inline constexpr const char* kFleetExamples =
+    "Examples:\n"
+    "  hxahost fleet results                                          machines in a folder, the worst first\n"
+    "  hxahost fleet --stale 7 results                                also which have not reported for a week\n"
+    "  hxahost fleet --format jsonl results                           objects for a database, one a line\n"
+    "  hxahost fleet --format prometheus -o DIR/fleet.prom results    for the node exporter's textfile collector\n"
+    "\n"
+    "Exit status: 0 done, whatever is wrong with the machines or files, 1 the output could not be written, 2 wrong\n"
+    "arguments, 4 no machine was found.";
+
 inline constexpr const char* kClassesExamples =
     "Examples:\n"
     "  hxahost classes   what can be asked for with \"hxahost query --class NAME\"";

@@ -32,6 +32,9 @@ struct TypedOptions {
   bool healthRules = false;
   std::string width;
   DiffOptions diff;
+  FleetCommandOptions fleet;
+  std::vector<std::string> fleetPaths;
+  std::string staleDays;
   BundleOptions bundle;
   std::vector<std::string> bundleItems;
   std::string mask;  // "true" where it was given alone
@@ -80,6 +83,11 @@ void AddOutput(CLI::App& command, std::filesystem::path& path, const std::string
       ->type_name("FILE");
 }
 
+void AddLocalTime(CLI::App& command, TypedOptions& typed) {
+  command.add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
+      ->type_name("CIMDATETIME");
+}
+
 // What every command that collects is told.
 void AddCollecting(CLI::App& command, TypedOptions& typed) {
   CollectionOptions& read = typed.read.collection;
@@ -100,8 +108,7 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
       ->capture_default_str();
   command.add_option("--machine-name", typed.machineName, "What the machine is called (default: its own name)")
       ->type_name("NAME");
-  command.add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
-      ->type_name("CIMDATETIME");
+  AddLocalTime(command, typed);
   command.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
 }
 
@@ -192,6 +199,24 @@ void AddDiff(CLI::App& diff, TypedOptions& typed) {
   diff.add_flag("-v,--verbose", read.isVerbose, "Show every change, with the path of its object");
 }
 
+void AddFleet(CLI::App& fleet, TypedOptions& typed) {
+  fleet
+      .add_option("PATH", typed.fleetPaths,
+                  "Results (JSON, JSON lines), bundles, and folders with files *.json, *.jsonl and *.bundle")
+      ->required();
+  AddFormat(fleet, typed.fleet.shown.format,
+            ": tables for people; objects for programs (jsonl: a line each), spreadsheets; metrics");
+  fleet.add_option("--stale", typed.staleDays, "List machines that were last collected from more than N days ago")
+      ->type_name("DAYS");
+  fleet.add_flag("--all", typed.read.showAll, "Tables: also all machines with nothing wrong");
+  AddOutput(fleet, typed.read.output, "; complete or not at all");
+  AddLocalTime(fleet, typed);
+  fleet.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which file is read");
+  AddLimits(fleet, typed);
+  AddLayout(fleet, typed);
+  AddColour(fleet, typed);
+}
+
 void AddBundle(CLI::App& bundle, TypedOptions& typed) {
   bundle.require_subcommand(1);
   BundleOptions& read = typed.bundle;
@@ -239,20 +264,26 @@ void CheckBundles(const CollectionOptions& options) {
   }
 }
 
-QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
-  RejectEmptyValues(query);
+// What commands share that collect and those that do not.
+QueryOptions ReadShown(const CLI::App& command, const TypedOptions& typed) {
+  RejectEmptyValues(command);
   QueryOptions options = typed.read;
+  if (!typed.localTime.empty()) options.collection.localTime = ReadLocalTime(typed.localTime);
+  options.collection.showProgress = !typed.noProgress;
+  options.limits = ReadLimits(typed.limits);
+  if (!typed.width.empty()) options.width = ReadWidth(typed.width);
+  CheckColor(options.color);
+  return options;
+}
+
+QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
+  QueryOptions options = ReadShown(query, typed);
   options.repeat = ReadRepeat(typed.repeat);
   CollectionOptions& collection = options.collection;
   collection.osType = ReadOsType(typed.osType);
   collection.hasOsType = query.get_option("--os-type")->count() > 0;
   if (!typed.machineName.empty()) collection.machineName = typed.machineName;
-  if (!typed.localTime.empty()) collection.localTime = ReadLocalTime(typed.localTime);
-  collection.showProgress = !typed.noProgress;
   collection.mask = ReadMask(typed.mask);
-  options.limits = ReadLimits(typed.limits);
-  if (!typed.width.empty()) options.width = ReadWidth(typed.width);
-  CheckColor(options.color);
   CheckBundles(collection);
   return options;
 }
@@ -261,6 +292,20 @@ CommandLine ReadDiff(const CLI::App& diff, const TypedOptions& typed) {
   RejectEmptyValues(diff);
   CheckFormat("diff", typed.diff.format);
   return {Command::kDiff, "", {}, typed.diff};
+}
+
+CommandLine ReadFleetCommand(const CLI::App& fleet, const TypedOptions& typed) {
+  CommandLine line{Command::kFleet, "", {}};
+  line.fleet = typed.fleet;
+  line.fleet.shown = ReadShown(fleet, typed);
+  line.fleet.shown.format = typed.fleet.shown.format;
+  CheckFormat("fleet", line.fleet.shown.format);
+  for (const std::string& path : typed.fleetPaths) line.fleet.paths.push_back(PathFromUtf8(path));
+  if (!typed.staleDays.empty()) {
+    line.fleet.staleDays = WholeNumber(typed.staleDays);
+    if (!line.fleet.staleDays) Reject("--stale", typed.staleDays, "give a number of days.");
+  }
+  return line;
 }
 
 // "hxahost bundle ...": the subcommand that was given decides.
@@ -348,15 +393,16 @@ constexpr std::string_view kCompleteCommand = "complete";
 
 // Help, advice on mistyped words and completion follow from it.
 constexpr CommandRow kCommands[] = {
-    {"status",  "Show on one screen what is wrong and what to do",         kStatusExamples,  AddStatus,  ReadStatus },
-    {"query",   "Run the controller utilities and show what they say",     kQueryExamples,   AddQuery,   ReadQuery  },
-    {"health",  "Say what is wrong with the controllers and their drives", kHealthExamples,  AddHealth,  ReadHealth },
-    {"explain", "Show which line each value of an object comes from",      kExplainExamples, AddExplain, ReadExplain},
-    {"diff",    "Show what is different between two JSON results",         kDiffExamples,    AddDiff,    ReadDiff   },
-    {"bundle",  "Look into what \"hxahost query --record\" wrote",         kBundleExamples,  AddBundle,  ReadBundle },
-    {"classes", "List the classes that the plug-in publishes",             kClassesExamples, AddNothing, ReadClasses},
-    {"schema",  "Show these classes with their properties",                kSchemaExamples,  AddSchema,  ReadSchema },
-    {"help",    "Show what the program, or one of its commands, takes",    kHelpExamples,    AddHelp,    ReadHelp   },
+    {"status",  "Show on one screen what is wrong and what to do",         kStatusExamples,  AddStatus,  ReadStatus      },
+    {"query",   "Run the controller utilities and show what they say",     kQueryExamples,   AddQuery,   ReadQuery       },
+    {"health",  "Say what is wrong with the controllers and their drives", kHealthExamples,  AddHealth,  ReadHealth      },
+    {"explain", "Show which line each value of an object comes from",      kExplainExamples, AddExplain, ReadExplain     },
+    {"diff",    "Show what is different between two JSON results",         kDiffExamples,    AddDiff,    ReadDiff        },
+    {"fleet",   "Show results of many machines together",                  kFleetExamples,   AddFleet,   ReadFleetCommand},
+    {"bundle",  "Look into what \"hxahost query --record\" wrote",         kBundleExamples,  AddBundle,  ReadBundle      },
+    {"classes", "List the classes that the plug-in publishes",             kClassesExamples, AddNothing, ReadClasses     },
+    {"schema",  "Show these classes with their properties",                kSchemaExamples,  AddSchema,  ReadSchema      },
+    {"help",    "Show what the program, or one of its commands, takes",    kHelpExamples,    AddHelp,    ReadHelp        },
 };
 
 void AddCommands(CLI::App& program, TypedOptions& typed) {

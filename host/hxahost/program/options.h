@@ -46,6 +46,14 @@ struct DiffOptions {
   bool isVerbose = false;
 };
 
+// What "hxahost fleet" is asked for.
+struct FleetCommandOptions {
+  std::vector<std::filesystem::path> paths;  // results, bundles and folders of them
+  std::optional<unsigned> staleDays;
+  std::filesystem::path pages;  // the folder that the reports of the machines go to
+  QueryOptions shown;           // how
+};
+
 enum class Command {
   kShowText,
   kStatus,
@@ -54,6 +62,7 @@ enum class Command {
   kHealthRules,
   kExplain,
   kDiff,
+  kFleet,
   kClasses,
   kSchema,
   kBundleList,
@@ -67,6 +76,7 @@ struct CommandLine {
   QueryOptions query;  // "hxahost health" takes those of a query that it has a use for
   DiffOptions diff = {};
   BundleOptions bundle = {};
+  FleetCommandOptions fleet = {};
   std::string schemaFormat = "mof";
   std::string object = {};        // that "hxahost explain" is asked for
   bool withSuperclasses = false;  // of the schema

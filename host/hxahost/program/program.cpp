@@ -6,6 +6,7 @@
 #include "host/hxahost/program/bundle_command.h"
 #include "host/hxahost/program/diff_command.h"
 #include "host/hxahost/program/explain_command.h"
+#include "host/hxahost/program/fleet_command.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/health_command.h"
 #include "host/hxahost/program/options.h"
@@ -37,6 +38,7 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
     case Command::kBundleList: ListBundle(commandLine.bundle, out); break;
     case Command::kBundleShow: ShowBundle(commandLine.bundle, out); break;
     case Command::kBundleMask: MaskBundleFile(commandLine.bundle); break;
+    case Command::kFleet: status = static_cast<int>(RunFleetCommand(commandLine.fleet, out, err)); break;
     case Command::kDiff: status = RunDiffCommand(commandLine.diff, out); break;
   }
   out.flush();

@@ -19,10 +19,6 @@ using Json = nlohmann::ordered_json;
 // A result nests seven deep. What is done with a value calls itself for each level, and room for that ends somewhere.
 constexpr int kDeepest = 32;
 
-class NoResult : public std::runtime_error {
-  using std::runtime_error::runtime_error;
-};
-
 const Json& Member(const Json& object, const char* name) {
   if (!object.is_object()) throw NoResult("an object is missing");
   const auto member = object.find(name);
@@ -116,6 +112,24 @@ JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
     return ReadWholeResult(Json::parse(text, CheckDepth, false));
   } catch (const NoResult& reason) {
     RejectFile(name, fmt::format("is no result of \"hxahost query --format json\": {}.", Printable(reason.what())));
+  }
+}
+
+void AddJsonLine(JsonResult& result, std::string_view line) {
+  const Json json = Json::parse(line, CheckDepth, false);
+  if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
+  result.machine = Member(json, "machine", Json::value_t::string);
+  result.time = Member(json, "time", Json::value_t::string);
+  result.isReplayed = json.contains("replayed");
+  result.isMasked = json.contains("masked");
+  const std::string kind = Member(json, "class", Json::value_t::string);
+  if (kind == kRunLine) {
+    if (!result.runs) result.runs.emplace();
+    result.runs->push_back(ReadJsonRun(Member(json, "properties")));
+  } else if (kind == kLogLine) {
+    result.log.push_back(ReadEntry(Member(json, "properties")));
+  } else {
+    result.instances.push_back(ReadInstance(json));
   }
 }
 

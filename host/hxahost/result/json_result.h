@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,11 +31,23 @@ struct JsonResult {
   bool isMasked = false;
 };
 
+// What JSON lines have as "class" of what is no instance.
+inline constexpr std::string_view kRunLine = "tool run";
+inline constexpr std::string_view kLogLine = "log";
+
 // Throws ProgramError (wrong arguments) for a file that cannot be read and for one that is no such result.
 JsonResult ReadJsonResult(const std::filesystem::path& file);
 
 // The same from the text itself, which messages call by the name.
 JsonResult ParseJsonResult(std::string_view text, const std::string& name);
+
+// Why a text is no result; the text that was read goes before it.
+class NoResult : public std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+// Adds what one line of "hxahost query --format jsonl" holds. Throws NoResult for a line that is none.
+void AddJsonLine(JsonResult& result, std::string_view line);
 
 // The property as text; "" where it is not there.
 std::string ResultText(const ResultInstance& instance, const std::string& property);

@@ -63,19 +63,21 @@ std::string Cell(std::string_view text) {
   return '"' + cell + '"';
 }
 
-template <class Texts>
-void WriteRow(std::ostream& out, const Texts& texts) {
+}  // namespace
+
+void WriteCsvCells(std::ostream& out, const std::vector<std::string>& texts) {
   std::string_view separator;
-  for (const std::string_view text : texts) {
+  for (const std::string& text : texts) {
     out << separator << Cell(text);
     separator = ",";
   }
   out << "\r\n";
 }
 
-}  // namespace
-
-void BeginCsv(std::ostream& out, const QueryHeader& header) { WriteRow(out, Columns(header)); }
+void BeginCsv(std::ostream& out, const QueryHeader& header) {
+  const std::vector<std::string_view> columns = Columns(header);
+  WriteCsvCells(out, {columns.begin(), columns.end()});
+}
 
 void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   const std::vector<std::string_view> columns = Columns(header);
@@ -88,7 +90,7 @@ void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResu
       // One name is published in another case than it is declared.
       row[places.at(FindProperty(instance->Class(), property.name)->name)] = ValueText(property.value);
     }
-    WriteRow(out, row);
+    WriteCsvCells(out, row);
   }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <ostream>
+#include <string>
+#include <vector>
 
 #include "host/hxahost/result/query_result.h"
 
@@ -12,5 +14,8 @@ namespace hxahost {
 void BeginCsv(std::ostream& out, const QueryHeader& header);
 void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResult& result);
 void EndCsv(std::ostream& out, const QueryHeader& header);
+
+// One such row of any texts.
+void WriteCsvCells(std::ostream& out, const std::vector<std::string>& texts);
 
 }  // namespace hxahost

@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/result/json_result.h"
 #include "host/hxahost/result/object_path.h"
 #include "host/hxahost/result/unread_lines.h"
 #include "host/hxahost/text/ascii.h"
@@ -137,16 +138,29 @@ void EndJson(std::ostream& out, const QueryHeader&) { out << "\n  ]\n}\n"; }
 void BeginJsonLines(std::ostream&, const QueryHeader&) {}
 
 void WriteQueryJsonLines(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
-  for (const auto& instance : result.instances) {
-    Json line = {
-        {"machine", AsUtf8(header.machine)},
-        {"time",    header.time.ToString()}
-    };
-    if (header.isReplayed) line["replayed"] = true;
-    if (header.isMasked) line["masked"] = true;
-    line.update(InstanceJson(*instance));
+  Json begin = {
+      {"machine", AsUtf8(header.machine)},
+      {"time",    header.time.ToString()}
+  };
+  if (header.isReplayed) begin["replayed"] = true;
+  if (header.isMasked) begin["masked"] = true;
+  const auto write = [&](const Json& rest) {
+    Json line = begin;
+    line.update(rest);
     out << JsonText(line) << '\n';
-  }
+  };
+  for (const auto& instance : result.instances) write(InstanceJson(*instance));
+  if (!header.withRuns) return;
+  for (const ToolRun& run : result.runs)
+    write({
+        {"class",      kRunLine    },
+        {"properties", RunJson(run)}
+    });
+  for (const LoggedEntry& entry : result.log)
+    write({
+        {"class",      kLogLine        },
+        {"properties", EntryJson(entry)}
+    });
 }
 
 void EndJsonLines(std::ostream&, const QueryHeader&) {}

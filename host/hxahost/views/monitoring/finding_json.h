@@ -2,11 +2,14 @@
 
 #include <nlohmann/json.hpp>
 
-#include "host/hxahost/machine/finding.h"
+#include "host/hxahost/machine/machine.h"
 
 namespace hxahost {
 
 // A finding as "hxahost health --format json" shows it. Texts that are no UTF-8 are read as ISO 8859-1.
 nlohmann::ordered_json FindingJson(const Finding& finding);
+
+// An incident of the machine likewise.
+nlohmann::ordered_json IncidentJson(const Machine& machine, const Incident& incident);
 
 }  // namespace hxahost

@@ -155,6 +155,15 @@ std::string_view WordOf(Urgency urgency) {
   return kWords[static_cast<std::size_t>(urgency)];
 }
 
+Json ToolJson(const ToolHealth& tool) {
+  return {
+      {"tool", tool.tool},
+      {"isUp", tool.isUp},
+  };
+}
+
+}  // namespace
+
 Json IncidentJson(const Machine& machine, const Incident& incident) {
   const bool isOfController = incident.controller < machine.controllers.size();
   const std::string controller = isOfController ? machine.controllers[incident.controller].label : "";
@@ -175,15 +184,6 @@ Json IncidentJson(const Machine& machine, const Incident& incident) {
       {"findings",   incident.findings        },
   };
 }
-
-Json ToolJson(const ToolHealth& tool) {
-  return {
-      {"tool", tool.tool},
-      {"isUp", tool.isUp},
-  };
-}
-
-}  // namespace
 
 void WriteHealthJson(std::ostream& out, const HealthReport& report) {
   const Machine& machine = report.machine;

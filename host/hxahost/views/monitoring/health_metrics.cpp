@@ -9,6 +9,7 @@
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/views/monitoring/health_report.h"
+#include "host/hxahost/views/monitoring/incident_labels.h"
 #include "host/hxahost/views/monitoring/metric_family.h"
 
 // The labels of a series are what tells objects apart and does not change with their state. What may change is a value,
@@ -28,25 +29,17 @@ void WriteNumber(std::ostream& out, const MetricName& name, double value, const 
   family.Write(out);
 }
 
-// Controllers of two utilities may share a number.
-Labels LabelsOf(const Controller& controller) {
-  return {
-      {"controller", controller.number           },
-      {"tool",       std::string(controller.tool)}
-  };
-}
-
-Labels LabelsOf(const Controller& controller, const ControllerUnit&) { return LabelsOf(controller); }
+Labels LabelsOf(const Controller& controller, const ControllerUnit&) { return ControllerLabels(controller); }
 
 Labels LabelsOf(const Controller& controller, const LogicalDrive& drive) {
-  Labels labels = LabelsOf(controller);
+  Labels labels = ControllerLabels(controller);
   labels.emplace_back("drive", drive.number);
   return labels;
 }
 
 // "0,8", as the utilities write channel and ID.
 Labels LabelsOf(const Controller& controller, const Device& device) {
-  Labels labels = LabelsOf(controller);
+  Labels labels = ControllerLabels(controller);
   const bool hasPlace = !device.channel.empty() || !device.id.empty();
   labels.emplace_back("disk", hasPlace ? device.channel + "," + device.id : device.identifier);
   return labels;
@@ -177,7 +170,7 @@ void WriteOperations(std::ostream& out, const Machine& machine) {
     for (const ControllerUnit& unit : controller.units) {
       for (const Operation& operation : unit.operations) {
         if (!operation.isActive || !operation.percent) continue;
-        Labels labels = LabelsOf(controller);
+        Labels labels = ControllerLabels(controller);
         labels.emplace_back("drive", operation.logicalDrive);
         labels.emplace_back("operation", NormalWord(operation.name));
         family.Add(labels, *operation.percent / kPercent);
@@ -188,26 +181,6 @@ void WriteOperations(std::ostream& out, const Machine& machine) {
 }
 
 // ---- Incidents
-
-Labels LabelsOf(const Machine& machine, const Incident& incident) {
-  const bool isOfController = incident.controller < machine.controllers.size();
-  Labels labels = isOfController ? LabelsOf(machine.controllers[incident.controller]) : Labels();
-  labels.emplace_back("subject", incident.subject);
-  return labels;
-}
-
-Labels TextsOf(const Machine& machine, const Incident& incident) {
-  Labels labels = LabelsOf(machine, incident);
-  labels.emplace_back("name", incident.name);
-  labels.emplace_back("location", incident.location);
-  if (incident.disks.empty()) return labels;
-  const DeviceRef& disk = incident.disks.front();
-  const Device& device = machine.controllers[disk.controller].devices[disk.device];
-  labels.emplace_back("model", device.model);
-  labels.emplace_back("serial", device.serialNumber);
-  labels.emplace_back("fru", device.fru);
-  return labels;
-}
 
 double NumberOf(Urgency urgency) {
   switch (urgency) {
@@ -235,10 +208,10 @@ void WriteIncidents(std::ostream& out, const Machine& machine) {
                         "the disk, 3 restore from a backup."});
   MetricFamily texts({"zenx_incident_info", "What the incident is about, and the first disk to act on."});
   for (const Incident& incident : machine.incidents) {
-    const Labels labels = LabelsOf(machine, incident);
+    const Labels labels = IncidentLabels(machine, incident);
     severities.Add(labels, NumberOf(incident.severity));
     actions.Add(labels, NumberOf(incident.urgency));
-    texts.Add(TextsOf(machine, incident), 1);
+    texts.Add(IncidentTexts(machine, incident), 1);
   }
   for (const MetricFamily* const family : {&counts, &severities, &actions, &texts}) family->Write(out);
 }

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/hxahost/fleet/fleet_machine.h"
+
+// Many machines together, and what shows only there. Texts are printable.
+namespace hxahost {
+
+// A file, or a part of one, that holds no result.
+struct DamagedFile {
+  std::string file;
+  std::string reason;
+};
+
+// A model of disks with one level of firmware.
+struct DiskModel {
+  std::string model;
+  std::string firmware;
+  std::size_t disks = 0;
+  std::size_t failed = 0;
+  std::size_t predicted = 0;
+  std::size_t machines = 0;
+};
+
+// A model of controllers with one level of firmware.
+struct ControllerModel {
+  std::string model;
+  std::string firmware;
+  std::size_t controllers = 0;
+  std::vector<std::string> machines;
+};
+
+// Where and when a disk was seen.
+struct Sighting {
+  std::string machine;
+  std::string place;
+  std::string time;                     // in the CIM form
+  std::optional<std::int64_t> seconds;  // the same, since 1970
+  std::string model;
+};
+
+// A serial number in the newest results of several machines.
+struct SharedSerialNumber {
+  std::string serialNumber;
+  std::vector<Sighting> seen;
+};
+
+// A disk that an older result shows in another place.
+struct MovedDisk {
+  std::string serialNumber;
+  Sighting from;
+  Sighting to;
+};
+
+struct FleetOptions {
+  std::int64_t now = 0;  // in seconds since 1970
+  std::optional<unsigned> staleDays;
+};
+
+class Fleet {
+ public:
+  explicit Fleet(const FleetOptions& options) : options_(options) {}
+
+  // Of several results of a machine the newest counts; of those of one time the first.
+  void Add(FleetMachine machine);
+  void Add(DamagedFile file) { damaged_.push_back(std::move(file)); }
+
+  const FleetOptions& Options() const { return options_; }
+  const std::vector<DamagedFile>& Damaged() const { return damaged_; }
+
+  // The worst first, of those the stale ones, then by name.
+  std::vector<const FleetMachine*> Machines() const;
+
+  // Those that have most failed disks first.
+  std::vector<DiskModel> DiskModels() const;
+  std::vector<ControllerModel> ControllerModels() const;
+  std::vector<SharedSerialNumber> SharedSerialNumbers() const;
+  std::vector<MovedDisk> MovedDisks() const;
+
+  // How long ago the machine was collected from, in seconds; nothing where it does not say.
+  std::optional<std::int64_t> AgeOf(const FleetMachine& machine) const;
+  // It is older than it may be, or does not say how old it is.
+  bool IsStale(const FleetMachine& machine) const;
+
+ private:
+  FleetOptions options_;
+  std::map<std::string, FleetMachine> machines_;             // the newest of each, by name
+  std::map<std::string, std::vector<Sighting>> seenBefore_;  // in results that are not the newest, by serial number
+  std::vector<DamagedFile> damaged_;
+};
+
+}  // namespace hxahost

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "host/hxahost/fleet/fleet_view.h"
+
+namespace hxahost {
+
+// What WriteFleetJson writes.
+nlohmann::ordered_json FleetJson(const FleetView& view);
+
+}  // namespace hxahost

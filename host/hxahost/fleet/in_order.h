@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <future>
+#include <type_traits>
+#include <utility>
+
+namespace hxahost {
+
+// Takes items from next (which ends with an empty optional), works on so many of them at a time, each on a thread of
+// its own, and gives what comes of them to take in the order of the items. Not more than so many results are held. What
+// is thrown passes on.
+template <class Next, class Work, class Take>
+void InOrder(std::size_t atATime, Next next, Work work, Take take) {
+  std::deque<std::future<std::invoke_result_t<Work, decltype(*next())>>> running;
+  const auto takeFirst = [&] {
+    auto first = running.front().get();
+    running.pop_front();
+    take(std::move(first));
+  };
+  while (auto item = next()) {
+    if (running.size() >= atATime) takeFirst();
+    running.push_back(std::async(std::launch::async, work, std::move(*item)));
+  }
+  while (!running.empty()) takeFirst();
+}
+
+}  // namespace hxahost

@@ -1,0 +1,55 @@
+#include "host/hxahost/program/fleet_command.h"
+
+#include <memory>
+
+#include "host/hxacore/host_services.h"
+#include "host/hxahost/fleet/read_fleet.h"
+#include "host/hxahost/program/formats.h"
+#include "host/hxahost/program/query_output.h"
+#include "host/hxahost/result/property_values.h"
+#include "host/hxahost/system/terminal.h"
+#include "host/hxahost/terminal/progress.h"
+#include "host/hxahost/terminal/terminal_layout.h"
+
+namespace hxahost {
+
+namespace {
+
+// The moment from which on ages are counted.
+std::int64_t Now(const QueryOptions& options) {
+  const auto& given = options.collection.localTime;
+  return SecondsSince1970((given ? *given : NKVRHXA20::CurrentServices().localTime()).ToString()).value_or(0);
+}
+
+std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, std::ostream& out, std::ostream& err,
+                 Fleet& fleet) {
+  FleetInputs inputs(options.paths);
+  const auto progress = options.shown.collection.showProgress && StandardErrorIsTerminal()
+                            ? std::make_unique<Progress>(err, ProgressWidth())
+                            : nullptr;
+  const auto begin = [&](const std::string& name) {
+    if (progress) progress->Begin(name, inputs.FileCount());
+  };
+  return ReadFleet(inputs, options.shown.limits, writer.rows, out, fleet, begin);
+}
+
+}  // namespace
+
+ExitStatus RunFleetCommand(const FleetCommandOptions& options, std::ostream& out, std::ostream& err) {
+  const auto& writer = WriterOf<FleetWriter>("fleet", options.shown.format);
+  QueryOutput output(options.shown, out);
+  Fleet fleet({Now(options.shown), options.staleDays});
+  if (writer.Begin != nullptr) writer.Begin(output.Stream());
+  const std::size_t results = Read(options, writer, output.Stream(), err, fleet);
+  const FleetView view{fleet, LayoutFor(WishesOf(options.shown)), options.shown.showAll};
+  if (writer.Whole != nullptr) writer.Whole(output.Stream(), view);
+  output.Stream().flush();
+  output.Finish();
+  if (results > 0 || !out) return ExitStatus::kDone;
+  err << "hxahost: No machine was found: name files that \"hxahost query\" wrote with --format json, --format jsonl or "
+         "--record, or folders of them."
+      << std::endl;
+  return ExitStatus::kNothingFound;
+}
+
+}  // namespace hxahost

@@ -1,0 +1,70 @@
+#include "host/hxahost/result/json_lines.h"
+
+#include <utility>
+
+#include <fmt/core.h>
+
+#include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/ascii.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/json_output.h"
+
+namespace hxahost {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+// What the line begins with where the program wrote it: by this the lines of a collection are known without reading
+// each of them twice. "" where the line is not whole.
+std::string HeadOf(std::string_view line) {
+  const Json json = Json::parse(line, nullptr, false);
+  if (!json.is_object() || !json.contains("machine") || !json.contains("time")) return "";
+  return "{\"machine\":" + JsonText(json["machine"]) + ",\"time\":" + JsonText(json["time"]) + ",";
+}
+
+}  // namespace
+
+bool CollectionReader::ReadLine() {
+  while (std::getline(in_, line_)) {
+    ++number_;
+    if (!Trim(line_).empty()) return true;
+  }
+  line_.clear();
+  return false;
+}
+
+std::optional<CollectionLines> CollectionReader::Next() {
+  if (line_.empty() && !ReadLine()) return std::nullopt;
+  CollectionLines lines{line_ + "\n", number_};
+  const std::string head = HeadOf(line_);
+  while (ReadLine()) {
+    const bool isNext = !head.empty() && !line_.starts_with(head);
+    const std::string other = isNext ? HeadOf(line_) : head;
+    if (isNext && !other.empty() && other != head) return lines;
+    lines.text += line_ + "\n";
+  }
+  return lines;
+}
+
+bool IsInstanceLine(std::string_view line) {
+  return Trim(line).ends_with('}') && !HeadOf(line).empty() && Json::parse(line).contains("class");
+}
+
+JsonResult ParseJsonLines(const CollectionLines& lines, const std::string& name) {
+  JsonResult result;
+  std::size_t number = lines.first;
+  for (const std::string_view line : Split(std::string_view(lines.text).substr(0, lines.text.size() - 1), "\n")) {
+    try {
+      AddJsonLine(result, line);
+    } catch (const NoResult& reason) {
+      throw ProgramError(ExitStatus::kWrongArguments,
+                         fmt::format("{} line {} is no line of \"hxahost query --format jsonl\": {}.", Printable(name),
+                                     number, Printable(reason.what())));
+    }
+    ++number;
+  }
+  return result;
+}
+
+}  // namespace hxahost

@@ -1,0 +1,120 @@
+// "hxahost fleet" on results, lines and bundles of the sample machine and of others.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "host/hxahost/bundle/write_bundle.h"
+#include "host/hxahost/text/utf8.h"
+#include "tests/support/file_text.h"
+#include "tests/support/hxahost_run.h"
+#include "tests/support/machine_answers.h"
+#include "tests/support/source_folder.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using testing::HasSubstr;
+using testing::Not;
+
+class FleetCommand : public testing::Test {
+ protected:
+  // A bundle of a machine of tests/machines under another name.
+  void WriteMachine(const std::string& name, const std::string& answers) const {
+    hxahost::Bundle bundle =
+        BundleOf(ReadMachineAnswers(FileText(SourceFile("tests/machines/" + answers + ".answers").string())));
+    bundle.machine = name;
+    folder_.Write(name + ".bundle", WriteBundle(bundle));
+  }
+
+  std::string Folder() const { return hxahost::Utf8FromPath(folder_.Path()); }
+  std::string File(const std::string& name) const { return hxahost::Utf8FromPath(folder_.Path() / name); }
+
+  ProgramResult Run(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), {"fleet", "--local-time", "20261122093000.000000+060"});
+    return RunHxahost(arguments);
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(FleetCommand, ShowsTheWorstMachineFirstAndADamagedFileInOneLine) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  WriteMachine("DB02", "arcconf-newer-failed-disk");
+  folder_.Write("broken.bundle", FileText(File("DB01.bundle")).substr(0, 1000));
+  folder_.Write("broken.json", "{\"format\": 1, ");
+  folder_.Write("notes.txt", "nothing of a fleet");
+  const ProgramResult result = Run({Folder()});
+  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  EXPECT_EQ(result.err, "");
+  EXPECT_THAT(result.out, testing::StartsWith("CRITICAL 2 machines: 1 critical, 1 ok; 2 damaged files\n\n"
+                                              "  Machine  State     Age   Incidents   Controllers  Drives  Disks"));
+  EXPECT_LT(result.out.find("  DB02     critical  24 h  1 critical"), result.out.find("  DB01     ok        24 h "));
+  EXPECT_THAT(result.out, HasSubstr("\ncritical DB02: C1 \"Archive\" (RAID 5) is degraded\n         PULL enclosure 0"));
+  EXPECT_THAT(result.out, HasSubstr("\nDisks by model and firmware\n"));
+  EXPECT_THAT(result.out, HasSubstr("\nControllers by model and firmware\n"));
+  EXPECT_THAT(result.out, HasSubstr("\nSerial numbers in more than one machine\n"));
+  EXPECT_THAT(result.out, HasSubstr("\nFiles that hold no result\n  " + File("broken.bundle")));
+  EXPECT_THAT(result.out, Not(HasSubstr("notes.txt")));
+}
+
+TEST_F(FleetCommand, SaysTheSameOfBundlesOfTheirResultsAndOfTheirLines) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  WriteMachine("DB02", "arcconf-newer-tool-refuses");
+  const std::string bundles = Run({Folder()}).out;
+  const TemporaryFolder others;
+  std::string lines;
+  for (const std::string name : {"DB01", "DB02"}) {
+    const std::string json = hxahost::Utf8FromPath(others.Path() / (name + ".json"));
+    RunHxahost({"query", "--replay", File(name + ".bundle"), "--format", "json", "--runs", "--output", json});
+    lines += RunHxahost({"query", "--replay", File(name + ".bundle"), "--format", "jsonl", "--runs"}).out;
+  }
+  EXPECT_THAT(bundles, HasSubstr("DB02"));
+  EXPECT_EQ(Run({hxahost::Utf8FromPath(others.Path())}).out, bundles);
+  EXPECT_EQ(Run({hxahost::Utf8FromPath(folder_.Write("all.lines", lines))}).out, bundles);
+}
+
+TEST_F(FleetCommand, WritesForProgramsWhatItShows) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  WriteMachine("DB02", "arcconf-newer-failed-disk");
+  const Json json = Json::parse(Run({"--format", "json", "--stale", "0", Folder()}).out);
+  EXPECT_EQ(json["status"], "critical");
+  EXPECT_EQ(json["machines"][0]["machine"], "DB02");
+  EXPECT_EQ(json["machines"][0]["ageSeconds"], 86400);
+  EXPECT_EQ(json["machines"][1]["isStale"], true);
+  EXPECT_EQ(json["machines"][0]["incidents"][0]["urgency"], "replace");
+  EXPECT_EQ(json["diskModels"][0]["failed"], 1);
+  EXPECT_THAT(Run({"--format", "prometheus", Folder()}).out,
+              HasSubstr("\nzenx_fleet_machine_state{machine=\"DB02\"} 2\n"));
+  const std::string csv = Run({"--format", "csv", Folder()}).out;
+  EXPECT_THAT(csv, testing::StartsWith("machine,time,class,path,level,"));
+  EXPECT_THAT(csv, HasSubstr("\r\nDB02,20261121093000.000000+060,machine,DB02,critical,"));
+}
+
+TEST_F(FleetCommand, TakesItsOwnLinesAgain) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  WriteMachine("DB02", "arcconf-newer-failed-disk");
+  const std::string lines = Run({"--format", "jsonl", Folder()}).out;
+  EXPECT_THAT(lines, testing::StartsWith(
+                         R"({"machine":"DB01","time":"20261121093000.000000+060","class":"machine","path":"DB01",)"));
+  const std::string file = hxahost::Utf8FromPath(folder_.Write("lines.jsonl", lines));
+  EXPECT_EQ(Run({file}).out, Run({File("DB01.bundle"), File("DB02.bundle")}).out);
+}
+
+TEST_F(FleetCommand, EndsWithStatus4WhereNothingHoldsAMachine) {
+  const ProgramResult result = Run({Folder()});
+  EXPECT_EQ(result.exitStatus, 4);
+  EXPECT_THAT(result.err, HasSubstr("hxahost: No machine was found"));
+}
+
+TEST_F(FleetCommand, SaysWhichArgumentIsWrong) {
+  EXPECT_EQ(Run({File("nowhere")}).err,
+            "hxahost: " + File("nowhere") + " is not there: name results, bundles or folders of them.\n");
+  EXPECT_EQ(Run({File("nowhere")}).exitStatus, 2);
+  EXPECT_EQ(Run({"--stale", "soon", Folder()}).err, "hxahost: --stale \"soon\": give a number of days.\n");
+  EXPECT_EQ(Run({}).exitStatus, 2);
+}
+
+}  // namespace

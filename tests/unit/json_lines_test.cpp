@@ -1,0 +1,87 @@
+#include "host/hxahost/result/json_lines.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <vector>
+
+#include "host/hxahost/system/exit_status.h"
+
+namespace {
+
+using namespace hxahost;
+
+std::string Line(const std::string& machine, const std::string& time, const std::string& path) {
+  return R"({"machine":")" + machine + R"(","time":")" + time + R"(","class":"C","path":")" + path +
+         R"(","properties":{}})" + "\n";
+}
+
+std::vector<CollectionLines> Collections(const std::string& text) {
+  std::istringstream in(text);
+  CollectionReader reader(in);
+  std::vector<CollectionLines> collections;
+  while (auto lines = reader.Next()) collections.push_back(std::move(*lines));
+  return collections;
+}
+
+TEST(JsonLinesReader, TakesLinesOfOneMachineAndTimeTogether) {
+  const std::string text = Line("A", "1", "a") + Line("A", "1", "b") + "\n" + Line("A", "2", "a") +
+                           Line("B", "2", "a") + Line("A", "2", "b");
+  const auto collections = Collections(text);
+  ASSERT_EQ(collections.size(), 4U);
+  EXPECT_EQ(collections[0].text, Line("A", "1", "a") + Line("A", "1", "b"));
+  EXPECT_EQ(collections[1].first, 4U) << "an empty line counts";
+  EXPECT_EQ(collections[3].text, Line("A", "2", "b"));
+  EXPECT_TRUE(Collections("").empty());
+  EXPECT_TRUE(Collections("\n \n").empty());
+}
+
+TEST(JsonLinesReader, TakesLinesTogetherWhoseKeysAreInAnotherOrder) {
+  const std::string other = R"({"class":"C","path":"x","properties":{},"time":"1","machine":"A"})"
+                            "\n";
+  EXPECT_EQ(Collections(Line("A", "1", "a") + other + Line("A", "1", "b")).size(), 1U);
+  EXPECT_EQ(Collections(other + Line("A", "1", "b")).size(), 1U);
+  EXPECT_EQ(Collections(Line("B", "1", "a") + other).size(), 2U);
+}
+
+TEST(JsonLinesReader, LeavesALineThatIsCutOffWithThoseBeforeIt) {
+  const auto collections = Collections(Line("A", "1", "a") + Line("A", "1", "b").substr(0, 30));
+  ASSERT_EQ(collections.size(), 1U);
+  try {
+    ParseJsonLines(collections[0], "f.jsonl");
+    FAIL() << "it was read";
+  } catch (const ProgramError& error) {
+    EXPECT_STREQ(error.what(),
+                 "f.jsonl line 2 is no line of \"hxahost query --format jsonl\": it is damaged, or no JSON at all.");
+  }
+}
+
+TEST(JsonLinesReader, GivesTheInstancesTheRunsAndTheLog) {
+  const std::string begin = R"({"machine":"A","time":"1","replayed":true,"class":)";
+  const JsonResult result =
+      ParseJsonLines({Line("A", "1", "p") + begin +
+                          R"("tool run","properties":{"command":"zenx//arcconf.exe","arguments":["getconfig"],)" +
+                          R"("outcome":"timed out","failure":"why"}})" + "\n" + begin +
+                          R"("log","properties":{"level":3,"text":"t"}})" + "\n",
+                      1},
+                     "f");
+  EXPECT_EQ(result.machine, "A");
+  EXPECT_EQ(result.time, "1");
+  EXPECT_TRUE(result.isReplayed);
+  ASSERT_EQ(result.instances.size(), 1U);
+  EXPECT_EQ(result.instances[0].path, "p");
+  ASSERT_TRUE(result.runs && result.runs->size() == 1);
+  EXPECT_EQ(result.runs->front().outcome, Outcome::kTimedOut);
+  ASSERT_EQ(result.log.size(), 1U);
+  EXPECT_EQ(result.log[0].text, "t");
+}
+
+TEST(JsonLinesReader, KnowsItsLinesFromOtherFiles) {
+  EXPECT_TRUE(IsInstanceLine(Line("A", "1", "p")));
+  EXPECT_FALSE(IsInstanceLine("{"));
+  EXPECT_FALSE(IsInstanceLine(""));
+  EXPECT_FALSE(IsInstanceLine(R"({"format":1,"machine":"A","time":"1","queries":[]})")) << "a result on one line";
+}
+
+}  // namespace
