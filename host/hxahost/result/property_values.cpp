@@ -84,8 +84,7 @@ std::optional<std::int64_t> SecondsSince1970(const std::string& cimDateTime) {
   const auto number = [&](std::size_t begin, std::size_t length) {
     return std::stoi(cimDateTime.substr(begin, length));
   };
-  const std::chrono::sys_days date(std::chrono::year(number(0, 4)) / static_cast<unsigned>(number(4, 2)) /
-                                   static_cast<unsigned>(number(6, 2)));
+  const std::chrono::sys_days date(std::chrono::year(number(0, 4)) / number(4, 2) / number(6, 2));
   const auto local = date + std::chrono::hours(number(8, 2)) + std::chrono::minutes(number(10, 2)) +
                      std::chrono::seconds(number(12, 2));
   const auto offset = std::chrono::minutes(number(22, 3)) * (cimDateTime[21] == '-' ? -1 : 1);
