@@ -9,7 +9,7 @@ LANGUAGES = {"sh", "console", "bat", "diff", "mermaid", "cpp", "json", "text"}
 INSTRUCTIONS = {"checkout": "sh", "bundle": "text"}
 
 # The beginning of a command; a block that is only shown must not contain one.
-COMMAND = re.compile(r"^\s*(\$ |> )?(hxahost (-|\w+\b(?!:))|scripts/\w|cmake -|ctest\b)", re.MULTILINE)
+COMMAND = re.compile(r"^\s*(\$ |> )?(hxahost($| -| \w+\b(?!:))|scripts/\w|cmake -|ctest\b)", re.MULTILINE)
 
 
 @dataclass
