@@ -82,6 +82,15 @@ if(CMAKE_CROSSCOMPILING)
   set_tests_properties(documents PROPERTIES TIMEOUT 900)
 endif()
 
+# Many machines together: a scripted day of bundles, through the program, databases and Prometheus.
+if(NOT CMAKE_CROSSCOMPILING)
+  add_executable(fleet_machines tests/fleet/fleet_machines.cpp tests/support/machine_answers.cpp)
+  target_link_libraries(fleet_machines PRIVATE hxahost_objects)
+  add_test(NAME fleet COMMAND ${CMAKE_SOURCE_DIR}/tests/fleet/fleet_test ${CMAKE_BINARY_DIR}/bin
+                              ${CMAKE_BINARY_DIR}/results-fleet.xml)
+  set_tests_properties(fleet PROPERTIES TIMEOUT 900)
+endif()
+
 # The report in a real browser, natively alone: the page does not depend on the system that wrote it.
 if(NOT CMAKE_CROSSCOMPILING)
   add_executable(report_pages tests/browser/report_pages.cpp tests/support/healthy_machine.cpp)

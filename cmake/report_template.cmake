@@ -1,5 +1,6 @@
 # Makes a C++ source of the report's page, so that the program needs no file beside itself:
-#   cmake -DTEMPLATE=page.html -DSTYLE=style.css -DSCRIPTS=a.js,b.js -DOUTPUT=report_template.cpp -P report_template.cmake
+#   cmake -DTEMPLATE=page.html -DSTYLE=style.css -DSCRIPTS=a.js,b.js -DFUNCTION=ReportTemplate -DOUTPUT=page.cpp
+#         -P report_template.cmake
 # The style and the script are put into the template together with their hashes: the page's policy lets nothing else run.
 
 # Sets VARIABLE to the SHA-256 of TEXT as a policy names it, in base 64.
@@ -46,7 +47,7 @@ file(WRITE "${OUTPUT}" "#include \"host/hxahost/views/report/report_template.h\"
 
 namespace hxahost {
 
-std::string_view ReportTemplate() {
+std::string_view ${FUNCTION}() {
   return R\"${delimiter}(${page})${delimiter}\";
 }
 

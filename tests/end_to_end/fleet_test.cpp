@@ -103,6 +103,21 @@ TEST_F(FleetCommand, TakesItsOwnLinesAgain) {
   EXPECT_EQ(Run({file}).out, Run({File("DB01.bundle"), File("DB02.bundle")}).out);
 }
 
+TEST_F(FleetCommand, WritesAPageThatLinksToTheNewestReportOfEachMachine) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  WriteMachine("DB02", "arcconf-newer-failed-disk");
+  const ProgramResult result =
+      Run({"--format", "html", "--output", File("fleet.html"), "--pages", File("pages"), Folder()});
+  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  const std::string page = FileText(folder_.Path() / "fleet.html");
+  EXPECT_THAT(page, HasSubstr("CRITICAL: 2 machines: 1 critical, 1 ok</p>"));
+  EXPECT_THAT(page, HasSubstr("<a href=\"pages/machine-DB02.html\">DB02</a>"));
+  EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB02.html"), HasSubstr("<h1>RAID report: DB02</h1>"));
+  EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB01.html"), HasSubstr("OK: no fault found"));
+  EXPECT_EQ(Run({"--pages", File("pages"), Folder()}).err,
+            "hxahost: --pages is for what --format html links to: give that, or leave it out.\n");
+}
+
 TEST_F(FleetCommand, EndsWithStatus4WhereNothingHoldsAMachine) {
   const ProgramResult result = Run({Folder()});
   EXPECT_EQ(result.exitStatus, 4);

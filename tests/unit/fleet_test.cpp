@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "host/hxahost/fleet/fleet_pages.h"
 #include "host/hxahost/fleet/fleet_rows.h"
 #include "host/hxahost/fleet/fleet_view.h"
 #include "host/hxahost/machine/health.h"
@@ -218,6 +219,32 @@ TEST(FleetRows, AreFollowedInJsonByTheInstancesAsTheQueryWritesThem) {
   EXPECT_THAT(out.str(), testing::StartsWith(
                              R"({"machine":"DB01","time":"20261121093000.000000+060","class":"machine","path":"DB01",)"
                              R"("properties":{"level":"ok","source":"f.json"}})"));
+}
+
+TEST(FleetPages, HaveNamesThatDifferOnEverySystem) {
+  Fleet fleet({10 * kDay, {}});
+  for (const char* const name : {"DB", "db", "a/b", "a:b", "../up"}) fleet.Add(MachineOf(name, 9));
+  const auto names = PageNames(fleet);
+  EXPECT_EQ(names.at("../up"), "machine-___up.html");
+  EXPECT_EQ(names.at("DB"), "machine-DB.html");
+  EXPECT_EQ(names.at("db"), "machine-db-2.html");
+  EXPECT_EQ(names.at("a/b"), "machine-a_b.html");
+  EXPECT_EQ(names.at("a:b"), "machine-a_b-2.html");
+}
+
+TEST(FleetPages, AreLinkedToFromWhereThePageIs) {
+  EXPECT_EQ(LinkBetween("out", "out/pages"), "pages");
+  EXPECT_EQ(LinkBetween("out", "all pages"), "../all%20pages");
+  EXPECT_EQ(LinkBetween("", "pages"), "pages");
+}
+
+TEST(FleetPage, ShowsNamesAsTextOnly) {
+  Fleet fleet({10 * kDay, {}});
+  fleet.Add(MachineOf("<script>alert(1)</script>", 9, Severity::kCritical));
+  std::ostringstream out;
+  WriteFleetPage(out, {fleet});
+  EXPECT_THAT(out.str(), Not(HasSubstr("<script>alert")));
+  EXPECT_THAT(out.str(), HasSubstr("&lt;script&gt;alert(1)"));
 }
 
 TEST(FleetTable, SumsUpMachinesWithNothingWrongUnlessAllAreWanted) {

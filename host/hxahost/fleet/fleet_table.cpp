@@ -49,7 +49,7 @@ Table MachineTable(const Fleet& fleet, const std::vector<const FleetMachine*>& m
       {"Controllers",11,  11         },
       {"Drives",        6,        6   },
       {"Disks", 5,5},
-      {"Collected",        25,               10                      },
+      {"Collected",        26,               10                      },
   };
   for (const FleetMachine* const machine : machines) {
     const Level level = machine->state == Severity::kFine ? Level::kFine : LevelOf(machine->state);
@@ -122,17 +122,19 @@ Table ControllerTable(const Fleet& fleet) {
   return table;
 }
 
+// A row for each place.
 Table SharedTable(const Fleet& fleet) {
   Table table;
   table.columns = {
-      {"Serial number", 24, 8,         true},
-      {"Model",               24,           8   },
-      {"Seen in",               120,         40},
+      {"Serial number", 24, 8,    true},
+      {"Model",         24, 8   },
+      {"Seen in",             70, 40, true    },
   };
   for (const SharedSerialNumber& shared : fleet.SharedSerialNumbers()) {
-    std::vector<std::string> seen;
-    for (const Sighting& each : shared.seen) seen.push_back(SightingText(each));
-    table.rows.push_back({shared.serialNumber, shared.seen.front().model, fmt::format("{}", fmt::join(seen, "; "))});
+    for (const Sighting& each : shared.seen) {
+      const bool isFirst = &each == &shared.seen.front();
+      table.rows.push_back({isFirst ? shared.serialNumber : "", isFirst ? each.model : "", SightingText(each)});
+    }
   }
   return table;
 }
@@ -140,13 +142,13 @@ Table SharedTable(const Fleet& fleet) {
 Table MovedTable(const Fleet& fleet) {
   Table table;
   table.columns = {
-      {"Serial number", 24, 8,      true},
-      {"Model",               24,           8},
-      {"From",               60,            20 },
-      {"To",               60,              20  },
+      {"Serial number", 24, 8,     true},
+      {"From",               70,            20, true},
+      {"To",           70,             20,               true},
+      {"Model",             24,8},
   };
   for (const MovedDisk& moved : fleet.MovedDisks()) {
-    table.rows.push_back({moved.serialNumber, moved.to.model, SightingText(moved.from), SightingText(moved.to)});
+    table.rows.push_back({moved.serialNumber, SightingText(moved.from), SightingText(moved.to), moved.to.model});
   }
   return table;
 }

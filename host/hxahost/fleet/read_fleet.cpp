@@ -38,6 +38,8 @@ Read ReadOne(const FleetInput& input, const Limits& limits, const RowWriters& wr
 
 }  // namespace
 
+std::size_t Processors() { return std::max(1U, std::thread::hardware_concurrency()); }
+
 std::size_t ReadFleet(FleetInputs& inputs, const Limits& limits, const RowWriters& rows, std::ostream& out,
                       Fleet& fleet, const std::function<void(const std::string& name)>& begin) {
   std::size_t results = 0;
@@ -54,7 +56,7 @@ std::size_t ReadFleet(FleetInputs& inputs, const Limits& limits, const RowWriter
     if (read.machine) fleet.Add(std::move(*read.machine));
     if (read.damaged) fleet.Add(std::move(*read.damaged));
   };
-  InOrder(std::max(1U, std::thread::hardware_concurrency()), next, work, take);
+  InOrder(Processors(), next, work, take);
   return results;
 }
 

@@ -11,6 +11,9 @@
 
 namespace hxahost {
 
+// How many inputs are read at a time.
+std::size_t Processors();
+
 // What a format writes of each result as it comes; empty where the whole alone counts.
 struct RowWriters {
   void (*result)(std::ostream& out, const JudgedResult& judged) = nullptr;

@@ -1,8 +1,12 @@
 #include "host/hxahost/program/fleet_command.h"
 
+#include <filesystem>
+#include <map>
 #include <memory>
+#include <string>
 
 #include "host/hxacore/host_services.h"
+#include "host/hxahost/fleet/fleet_pages.h"
 #include "host/hxahost/fleet/read_fleet.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
@@ -33,6 +37,18 @@ std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, 
   return ReadFleet(inputs, options.shown.limits, writer.rows, out, fleet, begin);
 }
 
+// Gives the links to them.
+std::map<std::string, std::string> WriteReports(const FleetCommandOptions& options, const Fleet& fleet) {
+  if (options.pages.empty()) return {};
+  FleetInputs inputs(options.paths);
+  WritePages(inputs, options.shown.limits, fleet, options.pages);
+  const std::filesystem::path& page = options.shown.output;
+  const std::string folder = LinkBetween(page.empty() ? "." : page.parent_path(), options.pages);
+  std::map<std::string, std::string> links = PageNames(fleet);
+  for (auto& [machine, link] : links) link.insert(0, folder + "/");
+  return links;
+}
+
 }  // namespace
 
 ExitStatus RunFleetCommand(const FleetCommandOptions& options, std::ostream& out, std::ostream& err) {
@@ -41,7 +57,7 @@ ExitStatus RunFleetCommand(const FleetCommandOptions& options, std::ostream& out
   Fleet fleet({Now(options.shown), options.staleDays});
   if (writer.Begin != nullptr) writer.Begin(output.Stream());
   const std::size_t results = Read(options, writer, output.Stream(), err, fleet);
-  const FleetView view{fleet, LayoutFor(WishesOf(options.shown)), options.shown.showAll};
+  const FleetView view{fleet, LayoutFor(WishesOf(options.shown)), options.shown.showAll, WriteReports(options, fleet)};
   if (writer.Whole != nullptr) writer.Whole(output.Stream(), view);
   output.Stream().flush();
   output.Finish();

@@ -25,6 +25,7 @@ constexpr Format kFormats[] = {
     {"fleet",  "json",       FleetWriter{nullptr, {}, WriteFleetJson}                      },
     {"fleet",  "jsonl",      FleetWriter{nullptr, {WriteJsonRows, WriteJsonRow}}           },
     {"fleet",  "csv",        FleetWriter{WriteCsvHeader, {WriteCsvRows, WriteCsvRow}}      },
+    {"fleet",  "html",       FleetWriter{nullptr, {}, WriteFleetPage}                      },
     {"fleet",  "prometheus", FleetWriter{nullptr, {}, WriteFleetMetrics}                   },
     {"health", "text",       WriteHealthText                                               },
     {"health", "nagios",     WriteHealthNagios                                             },

@@ -69,6 +69,7 @@ inline constexpr const char* kFleetExamples =
     "Examples:\n"
     "  hxahost fleet results                                          machines in a folder, the worst first\n"
     "  hxahost fleet --stale 7 results                                also which have not reported for a week\n"
+    "  hxahost fleet --format html -o fleet.html --pages DIR results  a page, with the report of each machine\n"
     "  hxahost fleet --format jsonl results                           objects for a database, one a line\n"
     "  hxahost fleet --format prometheus -o DIR/fleet.prom results    for the node exporter's textfile collector\n"
     "\n"

@@ -205,11 +205,13 @@ void AddFleet(CLI::App& fleet, TypedOptions& typed) {
                   "Results (JSON, JSON lines), bundles, and folders with files *.json, *.jsonl and *.bundle")
       ->required();
   AddFormat(fleet, typed.fleet.shown.format,
-            ": tables for people; objects for programs (jsonl: a line each), spreadsheets; metrics");
+            ": tables for people; objects for programs (jsonl: a line each), spreadsheets; a page; metrics");
   fleet.add_option("--stale", typed.staleDays, "List machines that were last collected from more than N days ago")
       ->type_name("DAYS");
   fleet.add_flag("--all", typed.read.showAll, "Tables: also all machines with nothing wrong");
   AddOutput(fleet, typed.read.output, "; complete or not at all");
+  AddPath(fleet, "--pages", "DIR", typed.fleet.pages,
+          "Write the report of each machine there, for the page to link to");
   AddLocalTime(fleet, typed);
   fleet.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which file is read");
   AddLimits(fleet, typed);
@@ -300,6 +302,10 @@ CommandLine ReadFleetCommand(const CLI::App& fleet, const TypedOptions& typed) {
   line.fleet.shown = ReadShown(fleet, typed);
   line.fleet.shown.format = typed.fleet.shown.format;
   CheckFormat("fleet", line.fleet.shown.format);
+  if (!line.fleet.pages.empty() && line.fleet.shown.format != "html") {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       "--pages is for what --format html links to: give that, or leave it out.");
+  }
   for (const std::string& path : typed.fleetPaths) line.fleet.paths.push_back(PathFromUtf8(path));
   if (!typed.staleDays.empty()) {
     line.fleet.staleDays = WholeNumber(typed.staleDays);

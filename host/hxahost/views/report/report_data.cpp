@@ -192,18 +192,6 @@ Json OriginsJson(const QueryHeader& header) {
   return json;
 }
 
-Json LevelsJson() {
-  Json json = Json::array();
-  for (const LevelMark& mark : LevelMarks()) {
-    json.push_back({
-        {"level",  LevelWord(mark.level)},
-        {"symbol", mark.symbol          },
-        {"words",  mark.words           }
-    });
-  }
-  return json;
-}
-
 Json EventLevelsJson() {
   Json json = Json::object();
   for (const EventSeverity& each : EventSeverities()) json[std::string(each.word)] = LevelWord(each.level);
@@ -225,6 +213,18 @@ Json UnreadLinesJson(const QueryHeader& header, const QueryResult& result) {
 }
 
 }  // namespace
+
+Json LevelsJson() {
+  Json json = Json::array();
+  for (const LevelMark& mark : LevelMarks()) {
+    json.push_back({
+        {"level",  LevelWord(mark.level)},
+        {"symbol", mark.symbol          },
+        {"words",  mark.words           }
+    });
+  }
+  return json;
+}
 
 void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine) {
   Json json = Json::object();

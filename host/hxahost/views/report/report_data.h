@@ -2,6 +2,8 @@
 
 #include <ostream>
 
+#include <nlohmann/json.hpp>
+
 #include "host/hxahost/machine/machine.h"
 #include "host/hxahost/result/query_result.h"
 
@@ -17,5 +19,8 @@ namespace hxahost {
 // - the findings: "instance" is the place of the instance that a finding is about;
 // - the lines of the raw texts that no property shows ("unread"), null where not all classes were asked for.
 void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine);
+
+// The levels with their symbols and words, the worst first.
+nlohmann::ordered_json LevelsJson();
 
 }  // namespace hxahost

@@ -8,4 +8,7 @@ namespace hxahost {
 // is built. "@QUERY_DATA@" and "@REPORT_DATA@" are where the data goes.
 std::string_view ReportTemplate();
 
+// The page of "hxahost fleet", from fleet/page/ and parts of the report.
+std::string_view FleetTemplate();
+
 }  // namespace hxahost

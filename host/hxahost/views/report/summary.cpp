@@ -27,10 +27,6 @@ constexpr std::size_t kMostPrintedDisks = 150;
 constexpr std::size_t kMostPrintedCards = 8;
 constexpr std::size_t kMostPrintedHeadlines = 25;
 
-std::string Symbol(Level level) {
-  return fmt::format(R"(<span class="symbol" aria-hidden="true">{}</span>)", MarkOf(level).symbol);
-}
-
 std::vector<std::string_view> UnjudgedClasses(const QueryHeader& header) {
   std::vector<std::string_view> classes;
   std::ranges::copy_if(HealthClasses(), std::back_inserter(classes),
@@ -38,22 +34,16 @@ std::vector<std::string_view> UnjudgedClasses(const QueryHeader& header) {
   return classes;
 }
 
-void WriteVerdict(std::ostream& out, Level level, std::string_view words) {
-  out << fmt::format(R"(<p class="verdict level-{}">{} {}</p>)"
-                     "\n",
-                     LevelWord(level), Symbol(level), HtmlText(words));
-}
-
 // Nothing is fine that nobody looked at.
 void WriteVerdict(std::ostream& out, const Machine& machine, bool isWhole) {
   const Severity worst = WorstOf(machine.findings);
   if (worst != Severity::kFine) {
-    WriteVerdict(out, LevelOf(worst), fmt::format("{}: {}", Upper(SeverityWord(worst)), Tally(machine.incidents)));
+    WriteVerdictHtml(out, LevelOf(worst), fmt::format("{}: {}", Upper(SeverityWord(worst)), Tally(machine.incidents)));
   } else if (machine.controllers.empty()) {
-    WriteVerdict(out, Level::kUnknown, "Nothing was found: no controller and no disk in what was asked for");
+    WriteVerdictHtml(out, Level::kUnknown, "Nothing was found: no controller and no disk in what was asked for");
   } else {
-    WriteVerdict(out, isWhole ? Level::kFine : Level::kUnsaid,
-                 isWhole ? "OK: no fault found" : "No fault found in what was asked for");
+    WriteVerdictHtml(out, isWhole ? Level::kFine : Level::kUnsaid,
+                     isWhole ? "OK: no fault found" : "No fault found in what was asked for");
   }
 }
 
@@ -81,7 +71,7 @@ void WriteDisk(std::ostream& out, const Controller& controller, std::size_t plac
       R"(<li><a class="disk level-{0}" href="#object-{1}" data-object="{1}" title="{2}, {3}">{4}{5}</a></li>)"
       "\n",
       LevelWord(disk.level), disk.instance, HtmlText(DescribeDevice(controller, place)), HtmlText(state),
-      Symbol(disk.level), disk.level >= Level::kBusy ? " " + LocationOf(disk) : "");
+      SymbolHtml(disk.level), disk.level >= Level::kBusy ? " " + LocationOf(disk) : "");
 }
 
 void WriteDisks(std::ostream& out, const Controller& controller) {
@@ -133,10 +123,7 @@ std::string DiskLinks(const Machine& machine, const Incident& incident) {
 }
 
 void WriteIncident(std::ostream& out, const Machine& machine, const Incident& incident) {
-  const Level level = incident.severity == Severity::kFine ? Level::kUnsaid : LevelOf(incident.severity);
-  out << fmt::format(R"(<li class="incident level-{0}"><p><span class="badge level-{0}">{1}{2}</span> {3}</p>)",
-                     LevelWord(level), Symbol(level), IncidentWord(incident), DiskLinks(machine, incident));
-  out << fmt::format("\n<h3>{}</h3>\n<p>{}</p>\n", HtmlText(incident.headline), HtmlText(incident.action));
+  WriteIncidentHtml(out, incident, DiskLinks(machine, incident));
   if (const std::size_t count = incident.findings.size(); count > 0) {
     out << fmt::format("<p class=\"quiet\"><a href=\"#findings\">{} finding{}</a></p>", count, count == 1 ? "" : "s");
   }
@@ -165,13 +152,30 @@ void WriteIncidents(std::ostream& out, const Machine& machine) {
 
 }  // namespace
 
+std::string SymbolHtml(Level level) {
+  return fmt::format(R"(<span class="symbol" aria-hidden="true">{}</span>)", MarkOf(level).symbol);
+}
+
+void WriteVerdictHtml(std::ostream& out, Level level, std::string_view words) {
+  out << fmt::format(R"(<p class="verdict level-{}">{} {}</p>)"
+                     "\n",
+                     LevelWord(level), SymbolHtml(level), HtmlText(words));
+}
+
+void WriteIncidentHtml(std::ostream& out, const Incident& incident, const std::string& links) {
+  const Level level = incident.severity == Severity::kFine ? Level::kUnsaid : LevelOf(incident.severity);
+  out << fmt::format(R"(<li class="incident level-{0}"><p><span class="badge level-{0}">{1}{2}</span> {3}</p>)",
+                     LevelWord(level), SymbolHtml(level), IncidentWord(incident), links);
+  out << fmt::format("\n<h3>{}</h3>\n<p>{}</p>\n", HtmlText(incident.headline), HtmlText(incident.action));
+}
+
 void WriteTitleHtml(std::ostream& out, const QueryHeader& header) {
   out << "RAID report: " << HtmlText(header.machine);
 }
 
 void WriteOriginHtml(std::ostream& out, const QueryHeader& header) {
-  out << fmt::format("<p>Collected on {} in {}</p>\n", HtmlText(ReadableTime(header.time.ToString())),
-                     HtmlText(header.directory));
+  const std::string place = header.directory.empty() ? "" : " in " + HtmlText(header.directory);
+  out << fmt::format("<p>Collected on {}{}</p>\n", HtmlText(ReadableTime(header.time.ToString())), place);
   if (header.isReplayed) out << fmt::format("<p>{}</p>\n", SourceNote(header));
 }
 
