@@ -16,8 +16,3 @@ if(ZENX_SANITIZE)
   target_compile_options(compile_options INTERFACE ${sanitizers})
   target_link_options(compile_options INTERFACE -fsanitize=address,undefined)
 endif()
-# The counters that fuzzers follow come with a runtime that programs without sanitizers lack: those that only run what is
-# kept, to count the lines that it reaches, go without.
-if(ZENX_FUZZERS AND ZENX_SANITIZE)
-  target_compile_options(compile_options INTERFACE -fsanitize=fuzzer-no-link)
-endif()

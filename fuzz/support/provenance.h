@@ -9,6 +9,8 @@
 class Printed {
  public:
   explicit Printed(std::string text) : text_(std::move(text)) {}
+  Printed(const Printed&) = delete;
+  Printed& operator=(const Printed&) = delete;
 
   // Ends the program unless each word of the value, up to a blank, is in what was printed, or is one of the words
   // that the plug-in itself writes.
@@ -18,6 +20,6 @@ class Printed {
   void RequireBytes(std::string_view name, std::string_view value) const;
 
  private:
-  std::string text_;
-  std::unordered_set<std::string> known_;
+  const std::string text_;
+  std::unordered_set<std::string_view> known_;  // parts of the text
 };
