@@ -10,6 +10,7 @@
 #include "collect/records.h"
 #include "fuzz/support/fuzzed_machine.h"
 #include "fuzz/support/fuzzer.h"
+#include "fuzz/support/parser_trial.h"
 #include "fuzz/support/record_texts.h"
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
@@ -59,71 +60,62 @@ void RequirePart(std::string_view text, std::string_view part) {
 }
 
 // The rest of the line from its first part of that text on; "" where it has none.
-std::string From(const std::string& line, const std::string& part) {
-  const std::size_t found = line.find(part);
-  return found == line.npos ? std::string() : line.substr(found);
+std::string_view From(std::string_view line, std::string_view part) {
+  return line.substr(std::min(line.find(part), line.size()));
 }
 
 // What the first six tokens of a sub-status line give, each searched after the start of the one before it.
-void RequireTokens(const ZenxSubStatData& record, const std::string& line) {
+void RequireTokens(const ZenxSubStatData& record, std::string_view line) {
   const std::string* const fields[] = {&record.ControllerNum, &record.Channel, &record.ScsiId,
                                        &record.Params,        &record.Req_Off, &record.Max_Txer_P};
-  const char* const tokens[] = {"A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:"};
-  std::string rest = line;
-  for (std::size_t index = 0; index < std::size(tokens); ++index) {
-    const std::string token = tokens[index];
-    const std::string found = From(rest, token);
-    std::string value = found.empty() ? found : found.substr(token.size());
-    const std::size_t blank = value.find(' ');
-    value = value.substr(0, blank == value.npos ? value.find_first_of("\r\n") : blank);
+  constexpr std::string_view kTokens[] = {"A:", "C:", "I:", "PARAMS:", "REQ-OFF:", "MAX-TXER-P:"};
+  std::string_view rest = line;
+  for (std::size_t index = 0; index < std::size(kTokens); ++index) {
+    const std::string_view found = From(rest, kTokens[index]);
+    const std::string_view after = found.substr(std::min(kTokens[index].size(), found.size()));
+    const std::size_t blank = after.find(' ');
+    const std::string_view value = after.substr(0, blank == after.npos ? after.find_first_of("\r\n") : blank);
     Require(*fields[index] == value, "a token's first value counts", line);
     if (!found.empty()) rest = found.substr(1);
   }
-  const std::string last = "CUR-TXER-P:";
-  std::string value = From(rest, last);
-  if (!value.empty())
-    value = value.substr(last.size(), value.size() - 2 > last.size() ? value.size() - 2 - last.size() : 0);
-  Require(record.Cur_Txer_p == value, "the last token's value ends before the carriage return", line);
+  constexpr std::string_view kLast = "CUR-TXER-P:";
+  const std::string_view last = From(rest, kLast);
+  const std::size_t end = std::max(last.size(), kLast.size() + 2) - 2;
+  Require(record.Cur_Txer_p == (last.empty() ? last : last.substr(kLast.size(), end - kLast.size())),
+          "the last token's value ends before the carriage return", line);
   Require(record.InstanceID == "Zentraxis:" + record.ControllerNum + "C" + record.Channel + "S" + record.ScsiId,
-          "the identifier is put together of three values", std::string(record.InstanceID));
+          "the identifier is put together of three values", line);
 }
 
 // The columns of a row, as many as a device has counters; leading blanks are dropped but for the last character.
-void RequireColumns(const ZenxEventData& record, const std::string& line) {
+void RequireColumns(const ZenxEventData& record, std::string_view line) {
   const std::string* const fields[] = {&record.Channel,       &record.ScsiId,        &record.NumParityErrors,
                                        &record.NumSoftErrors, &record.NumHardErrors, &record.PFA,
                                        &record.Misc};
-  const bool areTrimmed[] = {true, true, false, true, false, true, false};
-  std::string rest = From(line, "|");
+  constexpr bool kAreTrimmed[] = {true, true, false, true, false, true, false};
+  std::string_view rest = From(line, "|");
   for (std::size_t index = 0; index < std::size(fields); ++index) {
-    const std::string after = rest.empty() ? rest : rest.substr(1);
+    const std::string_view after = rest.substr(rest.empty() ? 0 : 1);
     rest = From(after, "|");
     const std::size_t width = rest.empty() ? 0 : after.size() - rest.size();
-    std::string column = after.substr(0, width == 0 ? 0 : width - 1);
+    std::string_view column = after.substr(0, width == 0 ? 0 : width - 1);
     const auto isBlank = [](char character) { return character == ' ' || character == '\t' || character == '\n'; };
-    while (column.size() > 1 && isBlank(column.front())) column.erase(0, 1);
-    while (areTrimmed[index] && !column.empty() && isBlank(column.back())) column.pop_back();
+    while (column.size() > 1 && isBlank(column.front())) column.remove_prefix(1);
+    while (kAreTrimmed[index] && !column.empty() && isBlank(column.back())) column.remove_suffix(1);
     Require(*fields[index] == column, "a column is between its bars", line);
   }
 }
 
-// What the current line gives, beside what it reads.
-void InspectLine(const CollectedData& scanner) {
-  const std::string line(scanner.CurrentLine());
-  ZenxSubStatData status(scanner.Host());
-  ParseSubStat(status, scanner, "1");
-  RequireTokens(status, line);
-  ZenxEventData event(scanner.Host());
-  ParseDeviceEvent(event, scanner, "1");
-  RequireColumns(event, line);
-}
-
-// The answer's lines, each read with those around it and alone.
+// What each line gives, beside what it reads.
 void InspectLines(std::string_view text) {
   CollectedData scanner(TRootObject::GetCoreLogger(), std::string(text));
   for (auto left = std::ranges::count(text, '\n'); left > 0; --left) {
-    InspectLine(scanner);
-    InspectLine({scanner.Host(), std::string(scanner.CurrentLine())});
+    ZenxSubStatData status(scanner.Host());
+    ParseSubStat(status, scanner, "1");
+    RequireTokens(status, scanner.CurrentLine());
+    ZenxEventData event(scanner.Host());
+    ParseDeviceEvent(event, scanner, "1");
+    RequireColumns(event, scanner.CurrentLine());
     if (left > 1) scanner.NextLine();
   }
 }
@@ -153,6 +145,43 @@ void Inspect(const ZenxController& controller, std::string_view text) {
   if (controller.HardEvents) Require(controller.HardEvents->Codes.size() < lines, "no line gives two codes");
 }
 
+constexpr std::string_view kSections[] = {
+    R"(Get bad stripe information
+   Logical drive 1 - 0
+   Logical drive 2 - 3
+Command completed successfully.
+)",
+    R"(Device event table:
++---------+---------+---------------+-------------+-------------+-----+-------------+
+| Channel | SCSI ID | Parity errors | Soft errors | Hard errors | PFA | Misc errors |
++---------+---------+---------------+-------------+-------------+-----+-------------+
+|       1 |       4 |             0 |          17 |           0 |   1 |           0 |
+Command completed successfully.
+)",
+    R"(  Date         Time       Channel   SCSI ID   Reason   Description
++------------+----------+---------+---------+--------+--------------------------------
+| 06/14/2005 | 09:12:05 |       1 |       4 |   0x07 | Removed by the operator
+Command completed successfully.
+)",
+    R"(Controller Soft Event Log
+------------------------------
+0000120c
+Command completed successfully.
+)",
+    R"(Controller Hard Event Log
+------------------------------
+0a000203
+Command completed successfully.
+)",
+    R"(A:1 C:2 I:6 PARAMS:0x0b REQ-OFF:32 MAX-TXER-P:10 CUR-TXER-P:10
+Command completed successfully.
+)",
+    R"(   Current/most recent operation          : Rebuild
+      Logical drive                       : 3
+      Status                              : In progress
+)",
+};
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -161,7 +190,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view text = AsText(data, size);
   const auto controller = Walk(text);
   Inspect(*controller, text);
-  InspectLines(text);
-  Require(TextOf({controller}, {}) == TextOf({Walk(text)}, {}), "the same answers give the same records");
+  // One of the two for each input: more inputs are worth more than both. Texts of all records take the longest.
+  if (size % 4 != 0) {
+    InspectLines(text);
+  } else {
+    Require(TextOf({controller}, {}) == TextOf({Walk(text)}, {}), "the same answers give the same records");
+  }
   return 0;
+}
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
+                                               unsigned seed) {
+  return MutateAroundSections(data, size, maxSize, seed, kSections);
 }

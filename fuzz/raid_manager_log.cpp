@@ -1,4 +1,4 @@
-// The RAID manager's log, from the file to the records.
+// The RAID manager's log, from its bytes to the records.
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -7,10 +7,10 @@
 
 #include "fuzz/support/fuzzed_machine.h"
 #include "fuzz/support/fuzzer.h"
-#include "fuzz/support/log_folder.h"
 #include "fuzz/support/require.h"
 #include "fuzz/support/sections.h"
 #include "logs/collect_raid_mgr_data.h"
+#include "platform/recorded_system.h"
 #include "plugin/host_interface/services.h"
 
 namespace {
@@ -55,7 +55,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes = AsText(data, size);
   const Sections nothing(nullptr, 0);
   const FuzzedMachine machine(nothing, 0, {});
-  SetRaidManagerLog("6.1", bytes);
+  AnswerAs(RecordedSystem{
+      {.isWindowsNt = true, .major = 6, .minor = 1},
+      "C:\\", std::string(bytes)
+  });
   const std::string text = WithLineFeeds(bytes);
   Require(ReadAll(text) == ReadAll(text), "the same log gives the same records");
   return 0;

@@ -53,6 +53,22 @@ Seeds ForEachController(const fs::path& answers, const Utility& utility) {
   return seeds;
 }
 
+// The reports on the utility's controllers, in pieces of whole lines that are as short as the inputs of parsers.
+Seeds PiecesOfReports(const fs::path& answers, const Utility& utility) {
+  constexpr std::size_t kLongestPiece = 4096;
+  Seeds pieces;
+  for (const auto& folder : fs::directory_iterator(answers / utility.name)) {
+    if (!folder.is_directory()) continue;
+    const std::string report = Answer(folder.path() / "getconfig-al.txt");
+    for (std::size_t begin = 0; begin < report.size(); begin += pieces.back().size()) {
+      pieces.push_back(report.substr(begin, kLongestPiece));
+      pieces.back().resize(pieces.back().rfind('\n') + 1);
+    }
+  }
+  std::ranges::sort(pieces);
+  return pieces;
+}
+
 std::vector<std::string> AllAnswers(const fs::path& answers) {
   std::vector<std::string> texts;
   for (const auto& file : fs::recursive_directory_iterator(answers)) {
@@ -127,6 +143,9 @@ Seeds SeedMaker::LineScanner() const {
 Seeds SeedMaker::Qcmdrun() const { return ForEachController(sources_ / kAnswers, kQcmdrun); }
 Seeds SeedMaker::Hrconf() const { return ForEachController(sources_ / kAnswers, kHrconf); }
 Seeds SeedMaker::Arcconf() const { return ForEachController(sources_ / kAnswers, kArcconf); }
+Seeds SeedMaker::QcmdrunParsers() const { return PiecesOfReports(sources_ / kAnswers, kQcmdrun); }
+Seeds SeedMaker::HrconfParsers() const { return PiecesOfReports(sources_ / kAnswers, kHrconf); }
+Seeds SeedMaker::ArcconfParsers() const { return PiecesOfReports(sources_ / kAnswers, kArcconf); }
 
 Seeds SeedMaker::RaidManagerLog() const {
   const std::string log = FileText(sources_ / "samples/machine/raid-manager/KVR/Zentraxis Manager/RaidEvtA.log");

@@ -17,6 +17,10 @@ class SeedMaker {
   Seeds Qcmdrun() const;
   Seeds Hrconf() const;
   Seeds Arcconf() const;
+  // Of one report on a controller each.
+  Seeds QcmdrunParsers() const;
+  Seeds HrconfParsers() const;
+  Seeds ArcconfParsers() const;
   Seeds RaidManagerLog() const;
   Seeds LogParsers() const;
   Seeds DateTimes() const;
