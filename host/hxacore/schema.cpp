@@ -112,7 +112,7 @@ constexpr PropertyDeclaration kControllers[] = {
     Text("InitiatorChannelScsiId", "SCSI identifiers that the controller itself has on its channels."),
     Text("MaxPhysicalDevices", "How many drives the controller can have."),
     Text("DefunctDiskDriveCnt", "How many drives are defunct. Anything but 0 asks for a replacement."),
-    Text("LogicalDriveStatusCnt", "How many logical drives there are, failed and degraded ones told apart."),
+    Text("LogicalDriveStatusCnt", "How many logical drives there are, with separate numbers of failed and degraded ones."),
     Text("ReadAhead", "Setting of the read-ahead cache."),
     Text("StripeUnitSize", "Stripe unit that new arrays get."),
     Text("RebuildRate", "Priority of a rebuild against the machine's own work."),
@@ -189,7 +189,7 @@ constexpr PropertyDeclaration kDiskDrives[] = {
     Text("Channel", "Channel of the controller that the drive is on.",
          "qcmdrun, hrconf_64: the heading of the channel; else 0 (hrconf_64)"),
     Text("DeviceNumber", "Number that the tool gives to the device."),
-    Text("ScsiId", "SCSI identifier on the channel.", "arcconf: behind the comma"),
+    Text("ScsiId", "SCSI identifier on the channel.", "arcconf: after the comma"),
     Text("DeviceType", "Kind of device: hard disk, enclosure, tape or another."),
     Text("PFA", "Whether the drive predicts its own failure. A drive that does is to be replaced soon."),
     Text("State", "State of the drive: Online, Hot spare, Ready, Defunct or another."),
@@ -222,7 +222,7 @@ constexpr PropertyDeclaration kBadStripes[] = {
     Text("LogicalDrive", "Number of the logical drive.",
          "asked with getbst; LogicalDriveNum of each logical disk where it lists none"),
     Text("NumBadStripes", "How many stripes are bad. Anything but 0 means that data was lost.",
-         "qcmdrun getbst: the number behind the dash; 0 where it lists none"),
+         "qcmdrun getbst: the number after the dash; 0 if it lists none"),
 };
 
 constexpr PropertyDeclaration kDeviceStatistics[] = {
@@ -306,7 +306,7 @@ constexpr PropertyDeclaration kRaidManagerEvents[] = {
 constexpr auto kVersionName = Key(Text("Name", "What it is a version of."));
 constexpr auto kVersion = Key(Text("Version", "The version."));
 constexpr auto kBuild = Text("BuildNumber", "Number of the build: what the version has in parentheses.",
-                             "Version: what stands in parentheses");
+                             "Version: the part in parentheses");
 constexpr auto kElementState = Key(Number("SoftwareElementState", "Always 3: running.", "fixed: 3"));
 constexpr auto kElementId =
     Key(Text("SoftwareElementID", "Number of the controller, and the drive for a drive's firmware.",
@@ -339,7 +339,7 @@ constexpr PropertyDeclaration kBiosVersions[] = {
 constexpr PropertyDeclaration kDriveVersions[] = {
     From("fixed text, by the kind of device", kVersionName),
     From("Firmware of the drive, without the build", kVersion),
-    From("Firmware of the drive: what stands in parentheses", kBuild),
+    From("Firmware of the drive: the part in parentheses", kBuild),
     kElementState,
     From("made of ControllerNum and DeviceID of the drive", kElementId),
     kTargetSystem,

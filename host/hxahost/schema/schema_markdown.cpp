@@ -16,33 +16,36 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kHead =
-    "# Classes\n"
-    "\n"
-    "What the plug-in publishes, in the order of its catalogue, and the machine itself, which exports have an "
-    "instance\n"
-    "of. `hxahost schema --format markdown` writes this page.\n"
-    "\n"
-    "**Keys** that the host adds are part of the path of an instance and of exports, and no published property.\n"
-    "\n"
-    "**From** names the tool and, in quotes, the label that the value stands behind, as the tool prints it. A tool "
-    "that\n"
-    "is not named does not print the value. Tools are asked with `getconfig` where nothing else is said.\n";
+constexpr std::string_view kHead = R"(# Classes
 
-constexpr std::string_view kSuperclassesHead =
-    "\n## Superclasses\n"
-    "\n"
-    "`--superclasses` of `hxahost schema` and of `hxahost query --format mof` derives the classes from those of the\n"
-    "DMTF's schema, version 2, for repositories that contain it. The third column says what such a repository or its\n"
-    "clients can ask for and the tools do not provide: these properties have no value.\n"
-    "\n"
-    "A class adds no key to those that it inherits. CIM_StatisticalData, CIM_LogRecord and CIM_SoftwareElement have "
-    "keys\n"
-    "that do not name the machine; what could be derived from them is derived from a class without keys. For the same\n"
-    "reason `KVRSG_ElementZxScsiDeviceData` and `KVRSG_ElementBadStripeData` have no superclass.\n"
-    "\n"
-    "| Superclass | Of | Not provided |\n"
-    "|---|---|---|\n";
+```console
+$ hxahost query --class KVRSG_zxDiskGroup --format jsonl
+{"machine":"...","time":"...","class":"KVRSG_zxDiskGroup","path":"...","properties":{"CollectionID":"Zentraxis1ArrayA",...
+```
+
+The classes that the plug-in publishes, in the order of its catalogue, and the class of the machine itself, of which
+exports have an instance. `hxahost schema --format markdown` writes this document.
+
+**Keys** that the host adds are part of the path of an instance and of exports. They are not published properties.
+
+**From** names the utility and, in quotes, the label that precedes the value in its output. A utility that is not named
+does not print the value. The command is `getconfig` unless another one is named.
+)";
+
+constexpr std::string_view kSuperclassesHead = R"(
+## Superclasses
+
+`--superclasses` of `hxahost schema` and of `hxahost query --format mof` derives the classes from those of the DMTF
+schema, version 2, for repositories that contain it. Properties in the third column have no value: clients of such a
+repository can query them, but no utility provides them.
+
+A class adds no key to those that it inherits. CIM_StatisticalData, CIM_LogRecord and CIM_SoftwareElement have keys that
+do not name the machine; their candidates are derived from classes without keys instead. For the same reason
+`KVRSG_ElementZxScsiDeviceData` and `KVRSG_ElementBadStripeData` have no superclass.
+
+| Superclass | Of | Not provided |
+|---|---|---|
+)";
 
 // A bar ends a cell and a < begins markup; nothing else of Markdown is in these texts.
 std::string CellText(std::string_view text) {
