@@ -112,7 +112,7 @@ constexpr PropertyDeclaration kControllers[] = {
     Text("InitiatorChannelScsiId", "SCSI identifiers that the controller itself has on its channels."),
     Text("MaxPhysicalDevices", "How many drives the controller can have."),
     Text("DefunctDiskDriveCnt", "How many drives are defunct. Anything but 0 asks for a replacement."),
-    Text("LogicalDriveStatusCnt", "How many logical drives there are, with separate numbers of failed and degraded ones."),
+    Text("LogicalDriveStatusCnt", "Number of all, failed and degraded logical drives."),
     Text("ReadAhead", "Setting of the read-ahead cache."),
     Text("StripeUnitSize", "Stripe unit that new arrays get."),
     Text("RebuildRate", "Priority of a rebuild against the machine's own work."),
