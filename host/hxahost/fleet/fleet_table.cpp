@@ -139,16 +139,17 @@ Table SharedTable(const Fleet& fleet) {
   return table;
 }
 
+// A row for where it was, and one for where it is.
 Table MovedTable(const Fleet& fleet) {
   Table table;
   table.columns = {
-      {"Serial number", 24, 8,     true},
-      {"From",               70,            20, true},
-      {"To",           70,             20,               true},
-      {"Model",             24,8},
+      {"Serial number", 24, 8,    true},
+      {"Model",         24, 8   },
+      {"Moved",             70, 40, true    },
   };
   for (const MovedDisk& moved : fleet.MovedDisks()) {
-    table.rows.push_back({moved.serialNumber, SightingText(moved.from), SightingText(moved.to), moved.to.model});
+    table.rows.push_back({moved.serialNumber, moved.to.model, "from " + SightingText(moved.from)});
+    table.rows.push_back({"", "", "to " + SightingText(moved.to)});
   }
   return table;
 }
