@@ -18,9 +18,13 @@ if(WIN32)
             ${CMAKE_SOURCE_DIR}/packaging/utilities.txt=zenx/put-the-utilities-here.txt
             ${CMAKE_SOURCE_DIR}/packaging/licences.md=licences/README.txt
             ${CMAKE_SOURCE_DIR}/share/prometheus/zenx.rules.yml=prometheus/zenx.rules.yml
+            ${CMAKE_SOURCE_DIR}/share/prometheus/zenx-fleet.rules.yml=prometheus/zenx-fleet.rules.yml
             ${CMAKE_SOURCE_DIR}/share/completion/hxahost.ps1=completion/hxahost.ps1
             ${CMAKE_SOURCE_DIR}/share/grafana/zenx.json=grafana/zenx.json
             ${CMAKE_SOURCE_DIR}/share/schema/health.schema.json=schema/health.schema.json)
+  foreach(name duckdb parquet postgresql queries sqlite views)
+    list(APPEND texts ${CMAKE_SOURCE_DIR}/share/sql/${name}.sql=sql/${name}.sql)
+  endforeach()
   foreach(document ${documents})
     cmake_path(GET document FILENAME name)
     list(APPEND texts ${document}=docs/${name})
@@ -33,7 +37,7 @@ else()
   file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/packaging)
   file(CREATE_LINK ../lib/zenx/hxahost ${CMAKE_BINARY_DIR}/packaging/hxahost SYMBOLIC)
   install(FILES ${CMAKE_BINARY_DIR}/packaging/hxahost DESTINATION bin)
-  install(DIRECTORY share/prometheus share/grafana share/schema DESTINATION share/zenx)
+  install(DIRECTORY share/prometheus share/grafana share/schema share/sql DESTINATION share/zenx)
   install(FILES share/completion/hxahost.bash DESTINATION share/bash-completion/completions RENAME hxahost)
   install(FILES share/completion/hxahost.zsh DESTINATION share/zsh/vendor-completions RENAME _hxahost)
   install(FILES README.md packaging/licences.md DESTINATION share/doc/zenx)
