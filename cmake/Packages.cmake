@@ -17,6 +17,7 @@ if(WIN32)
   set(texts ${CMAKE_SOURCE_DIR}/README.md=README.txt ${CMAKE_SOURCE_DIR}/CHANGELOG.md=CHANGELOG.txt
             ${CMAKE_SOURCE_DIR}/packaging/utilities.txt=zenx/put-the-utilities-here.txt
             ${CMAKE_SOURCE_DIR}/packaging/licences.md=licences/README.txt
+            ${CMAKE_SOURCE_DIR}/share/windows/report.cmd=report.cmd
             ${CMAKE_SOURCE_DIR}/share/prometheus/zenx.rules.yml=prometheus/zenx.rules.yml
             ${CMAKE_SOURCE_DIR}/share/prometheus/zenx-fleet.rules.yml=prometheus/zenx-fleet.rules.yml
             ${CMAKE_SOURCE_DIR}/share/completion/hxahost.ps1=completion/hxahost.ps1
@@ -31,6 +32,7 @@ if(WIN32)
   endforeach()
   install(DIRECTORY docs/images DESTINATION docs)
   install(CODE "set(texts \"${texts}\")\nset(licences licences)
+    set(task \"${CMAKE_SOURCE_DIR}/share/windows/zenx-health.xml\")
     set(runtime_libraries \"${runtime_libraries}\")
     set(strip \"${CMAKE_STRIP}\")")
 else()
@@ -38,6 +40,7 @@ else()
   file(CREATE_LINK ../lib/zenx/hxahost ${CMAKE_BINARY_DIR}/packaging/hxahost SYMBOLIC)
   install(FILES ${CMAKE_BINARY_DIR}/packaging/hxahost DESTINATION bin)
   install(DIRECTORY share/prometheus share/grafana share/schema share/sql DESTINATION share/zenx)
+  install(FILES share/systemd/zenx-health.service share/systemd/zenx-health.timer DESTINATION lib/systemd/system)
   install(FILES share/completion/hxahost.bash DESTINATION share/bash-completion/completions RENAME hxahost)
   install(FILES share/completion/hxahost.zsh DESTINATION share/zsh/vendor-completions RENAME _hxahost)
   install(FILES README.md packaging/licences.md DESTINATION share/doc/zenx)
@@ -69,6 +72,7 @@ if(NOT WIN32)
   set(CPACK_DEBIAN_PACKAGE_SECTION admin)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR}/bin)
+  file(GLOB CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA CONFIGURE_DEPENDS packaging/debian/*)
   set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
   file(READ packaging/description.txt CPACK_DEBIAN_PACKAGE_DESCRIPTION)
   include(CPack)

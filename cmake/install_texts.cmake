@@ -17,6 +17,14 @@ foreach(text IN LISTS texts)
   write_windows_lines("${CMAKE_MATCH_1}" "${root}/${CMAKE_MATCH_2}")
 endforeach()
 
+# UTF-16, as the task scheduler writes its own files. An encoding that the first line named would have to be that one.
+if(task)
+  set(to "${root}/task-scheduler/zenx-health.xml")
+  write_windows_lines("${task}" "${to}.utf-8")
+  execute_process(COMMAND iconv -f UTF-8 -t UTF-16 "${to}.utf-8" OUTPUT_FILE "${to}" COMMAND_ERROR_IS_FATAL ANY)
+  file(REMOVE "${to}.utf-8")
+endif()
+
 # Without the time and the name of the file, which would make each package another one.
 function(zip FILE)
   execute_process(COMMAND gzip -9nf "${root}/${FILE}" COMMAND_ERROR_IS_FATAL ANY)

@@ -6,7 +6,7 @@ from dataclasses import dataclass
 LANGUAGES = {"sh", "console", "bat", "diff", "mermaid", "cpp", "json", "text"}
 
 # What a comment above a block may say of its test, and the language of such a block.
-INSTRUCTIONS = {"checkout": "sh", "bundle": "text"}
+INSTRUCTIONS = {"checkout": "sh", "root": "sh", "administrator": "bat", "bundle": "text"}
 
 # The beginning of a command; a block that is only shown must not contain one.
 COMMAND = re.compile(r"^\s*(\$ |> )?(hxahost($| -| \w+\b(?!:))|scripts/\w|cmake -|ctest\b)", re.MULTILINE)
