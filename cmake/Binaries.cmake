@@ -31,7 +31,7 @@ sources_of(hxacore_sources host/hxacore)
 add_library(hxacore SHARED ${hxacore_sources} plugin/host_interface/assertion_failed.cpp)
 add_dependencies(hxacore includes)
 target_compile_definitions(hxacore PRIVATE HXACORE_BUILD)
-target_link_libraries(hxacore PUBLIC compile_options)
+target_link_libraries(hxacore PUBLIC compile_options PRIVATE platform_answers)
 if(WIN32)
   set_target_properties(hxacore PROPERTIES PREFIX "")
 endif()
@@ -47,7 +47,8 @@ target_link_libraries(plugin_manager PUBLIC hxacore PRIVATE host_interface)
 set_target_properties(plugin_manager PROPERTIES PREFIX "" OUTPUT_NAME plugin SUFFIX .nsp)
 
 # What the system says of itself: to the plug-in, and to the program that records what the plug-in is told.
-add_library(platform_answers STATIC platform/recorded_system.cpp platform/${system}/os_version.cpp
+add_library(platform_answers STATIC platform/ordinary_file.cpp platform/recorded_system.cpp
+                                    platform/${system}/ordinary_file.cpp platform/${system}/os_version.cpp
                                     platform/${system}/registry.cpp)
 target_link_libraries(platform_answers PUBLIC compile_options)
 

@@ -47,10 +47,11 @@ foreach(tool ${tools})
   may_include(${tool} collect logs platform ${host})
 endforeach()
 may_include(publish collect logs ${host})
-may_include(plugin publish collect platform/recorded_system.h ${host})
+may_include(plugin publish collect platform/raid_log_limit.h platform/recorded_system.h
+            ${host})
 
 # The host. It shares with the plug-in what the host declares, what describes a system, and constant tables.
-may_include(host/hxacore ${host})
+may_include(host/hxacore platform/ordinary_file.h ${host})
 may_include(host/plugin_manager host/hxacore ${host})
 set(below host/hxacore host/plugin_manager ${host} platform tools/known_tools.h)
 list(REVERSE hxahost_rooms)

@@ -7,6 +7,7 @@
 #include "logs/raid_mgr_fields.h"
 #include "platform/ask_os_version.h"
 #include "platform/native_path.h"
+#include "platform/raid_log_limit.h"
 #include "platform/raid_manager_key.h"
 #include "platform/recorded_system.h"
 #include "platform/registry.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr const char* kSubFolder = "KVR\\Zentraxis Manager\\";
 constexpr const char* kFileName = "RaidEvtA.log";
+constexpr const char* kNotRead = "RAID manager log not read: ";
 
 }  // namespace
 
@@ -73,8 +75,9 @@ bool CollectRaidMgrData::OpenRaidMgrLog() {
   path_ += kFileName;
   const std::string nativePath = NativePath(path_);
   const RecordedSystem* const recorded = AnswersInPlace();
-  file_ = recorded != nullptr ? TextFile(recorded->raidLog) : TextFile(nativePath);
+  file_ = recorded != nullptr ? TextFile(recorded->raidLog) : TextFile(nativePath, LargestRaidLog());
   if (!file_.IsOpen()) {
+    if (!file_.Refusal().empty()) Log(host_, kLogProblem, kNotRead + path_ + ": " + file_.Refusal() + ".");
     // The path ends in the file's name already: it is twice in this line.
     Log(host_, kLogRoutine, path_ + kFileName + " not found.");
     return false;

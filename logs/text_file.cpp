@@ -1,8 +1,14 @@
 #include "logs/text_file.h"
 
+#include <utility>
+
 #include "platform/native_path.h"
 
-TextFile::TextFile(const std::string& nativePath) : file_(std::fopen(nativePath.c_str(), "r")) {}
+TextFile::TextFile(const std::string& nativePath, std::uint64_t largest) {
+  OrdinaryFile opened = OpenOrdinaryFile(FileAt(nativePath), "r", largest);
+  file_ = std::move(opened.stream);
+  if (!opened.isMissing) refusal_ = opened.refusal;
+}
 
 TextFile::TextFile(const std::optional<std::string>& recorded) {
   if (recorded) recorded_.emplace(*recorded);

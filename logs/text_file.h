@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
-#include <memory>
 #include <optional>
 #include <sstream>
 #include <string>
+
+#include "platform/ordinary_file.h"
 
 // A text file that the system opens by a native path, read line by line with the C streams in text mode. Carriage
 // return and line feed are one line feed, also on systems whose streams have no text mode.
@@ -16,13 +18,16 @@ class TextFile {
   // Not open.
   TextFile() = default;
 
-  // Open if the system opens the path for reading.
-  explicit TextFile(const std::string& nativePath);
+  // Open if the system opens the path for reading and finds an ordinary file of at most so many bytes there.
+  explicit TextFile(const std::string& nativePath, std::uint64_t largest = kLargestInput);
 
   // What a file held when it was recorded; not open where there was none.
   explicit TextFile(const std::optional<std::string>& recorded);
 
   bool IsOpen() const { return file_ || recorded_; }
+
+  // Why a file that is there is not open; "" where there is none, too.
+  const std::string& Refusal() const { return refusal_; }
 
   // Whether a read has run into the end. True only after it has: not yet when a read stopped just before.
   bool HasMetEnd() const { return file_ ? std::feof(file_.get()) != 0 : recorded_ && recorded_->eof(); }
@@ -32,14 +37,11 @@ class TextFile {
   std::string ReadLine();
 
  private:
-  struct Close {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-  };
-
   std::string Gets();
   int GetNext();
   void PutBack(int character);
 
-  std::unique_ptr<std::FILE, Close> file_;
+  UniqueStream file_;
+  std::string refusal_;
   std::optional<std::istringstream> recorded_;  // read as a file is
 };

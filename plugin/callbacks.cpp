@@ -40,6 +40,8 @@ void TZenxCallbacks::Query(boost::shared_ptr<ICIMNamespace> nameSpace,
 
 void TZenxCallbacks::AnswerAs(const RecordedSystem& recorded) { ::AnswerAs(recorded); }
 
+void TZenxCallbacks::SetLargestRaidLog(std::uint64_t bytes) { ::SetLargestRaidLog(bytes); }
+
 int OnLibraryNotification(unsigned reason) {
   if (reason != kProcessAttach) return 1;
   return new (std::nothrow) TZenxCallbacks != nullptr ? 1 : 0;

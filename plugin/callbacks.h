@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "collect/host_handle.h"
+#include "platform/raid_log_limit.h"
 #include "platform/recorded_system.h"
 #include "plugin/host_interface/plugin_callbacks.h"
 
@@ -12,7 +14,8 @@
 // for follows them.
 class TZenxCallbacks final : public NKVRHXA20::IPluginCallbacks,
                              public NKVRHXA20::IPluginBasicQueryCallbacks,
-                             public IReplaysSystem {
+                             public IReplaysSystem,
+                             public ILimitsRaidLog {
  public:
   // Throws TBrokenInvariant when the host has no plug-in manager.
   TZenxCallbacks();
@@ -28,8 +31,9 @@ class TZenxCallbacks final : public NKVRHXA20::IPluginCallbacks,
   void Query(boost::shared_ptr<NKVRHXA20::ICIMNamespace> nameSpace,
              const std::vector<boost::shared_ptr<NKVRHXA20::ICIMClass>>& classes) override;
 
-  // To be called before the first query.
+  // Both to be called before the first query.
   void AnswerAs(const RecordedSystem& recorded) override;
+  void SetLargestRaidLog(std::uint64_t bytes) override;
 
  private:
   HostHandle host_;

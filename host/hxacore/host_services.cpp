@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/hxacore/operating_system.h"
+#include "host/hxacore/whole_file.h"
 #include "plugin/host_interface/services.h"
 
 namespace NKVRHXA20 {
@@ -44,7 +45,8 @@ SpawnResult TimedSpawn(const std::string& path, const std::vector<std::string>& 
 }  // namespace
 
 HostServices RealServices() {
-  return {TimedSpawn, CaptureFile, MachineName, LocalTime, [](int, const std::string&) {}};
+  const auto capture = [](const std::string& path) { return CaptureFile(path); };
+  return {TimedSpawn, capture, MachineName, LocalTime, [](int, const std::string&) {}};
 }
 
 const HostServices& CurrentServices() { return State().services; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -25,8 +26,8 @@ constexpr std::chrono::seconds kPatience{5};
 // most. No program is started any more. To be called before the process ends.
 HXACORE_API void StopRuns();
 
-// The bytes of a file. Throws THXAException with path and reason.
-std::string CaptureFile(const std::string& path);
+// The path that plug-ins name by the text.
+std::filesystem::path PathOf(const std::string& text);
 
 std::string MachineName();
 

@@ -1,23 +1,26 @@
 #pragma once
 
-#include <array>
+#include <cstdint>
 #include <filesystem>
-#include <fstream>
-#include <ios>
 #include <string>
+
+#include "platform/ordinary_file.h"
+#include "plugin/host_interface/export.h"
 
 namespace NKVRHXA20 {
 
-// Appends to the text what the file has. False where it cannot be opened, or not be read to its end: a folder, a broken
-// disk, what the system tells of a process that ends meanwhile. Iterators over a stream throw at such a place.
-inline bool ReadWholeFile(const std::filesystem::path& path, std::string& text) {
-  std::ifstream stream(path, std::ios::binary);
-  std::array<char, 4096> piece{};
-  while (stream) {
-    stream.read(piece.data(), piece.size());
-    text.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
-  }
-  return stream.eof() && !stream.bad();
-}
+// The bytes of a file, or why they are not all of it.
+struct WholeFile {
+  std::string bytes;    // as far as it could be read
+  std::string refusal;  // "Permission denied"; of a file that was read to its end, ""
+  bool isTooLarge = false;
+};
+
+// Reads an ordinary file up to where reading finds the end, not up to its size: a log may grow meanwhile, and files of
+// the system have none. What holds more than so many bytes is refused.
+HXACORE_API WholeFile ReadWholeFile(const std::filesystem::path& path, std::uint64_t largest = kLargestInput);
+
+// The same of what a plug-in names. Throws THXAException with path and reason.
+HXACORE_API std::string CaptureFile(const std::string& path, std::uint64_t largest = kLargestInput);
 
 }  // namespace NKVRHXA20

@@ -8,4 +8,6 @@ std::string NativePath(const std::string& windowsPath) {
   return path;
 }
 
+std::filesystem::path FileAt(const std::string& nativePath) { return nativePath; }
+
 bool HaveStreamsTextMode() { return false; }

@@ -112,12 +112,4 @@ TEST_F(BundleCommand, RefusesWhatIsNoWholeBundleInOneLine) {
   EXPECT_EQ(out.str(), "");
 }
 
-TEST_F(BundleCommand, TellsBundlesFromOtherFiles) {
-  EXPECT_TRUE(IsBundleFile(options_.file));
-  EXPECT_FALSE(IsBundleFile(folder_.Write("short", "hxahost")));
-  EXPECT_FALSE(IsBundleFile(folder_.Write("json", "{\"format\": 1, \"machine\": 2}")));
-  EXPECT_FALSE(IsBundleFile(folder_.Path()));
-  EXPECT_FALSE(IsBundleFile(folder_.Path() / "missing"));
-}
-
 }  // namespace

@@ -33,13 +33,6 @@ RecordedFailure CurrentFailure() {
   }
 }
 
-// The plug-in reads a log that cannot be captured all the same, as far as it can.
-std::string ReadAsFarAsPossible(const std::string& path) {
-  std::string text;
-  ReadWholeFile(path, text);
-  return text;
-}
-
 }  // namespace
 
 BundleRecorder::BundleRecorder(std::optional<std::uint16_t> osType, std::string directory) {
@@ -94,7 +87,7 @@ std::string BundleRecorder::Capture(const std::function<std::string(const std::s
     log.bytes = capture(path);
   } catch (...) {
     log.failure = CurrentFailure();
-    log.bytes = ReadAsFarAsPossible(path);
+    log.bytes = ReadWholeFile(path).bytes;  // the plug-in reads it all the same, as far as it can
     throw;
   }
   return log.bytes;

@@ -5,10 +5,12 @@
 #include <utility>
 
 #include "host/hxacore/host_services.h"
+#include "host/hxacore/whole_file.h"
 #include "host/hxahost/bundle/bundle_file.h"
 #include "host/hxahost/bundle/bundle_mask.h"
 #include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/collection/writable_tools.h"
+#include "host/hxahost/system/input_file.h"
 #include "host/hxahost/system/terminal.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/terminal/terminal_layout.h"
@@ -21,13 +23,20 @@ namespace hxahost {
 
 namespace {
 
-std::optional<BundleReplay> OpenReplay(const fs::path& bundle) {
-  if (bundle.empty()) return std::nullopt;
-  return BundleReplay(ReadBundleFile(bundle));
+std::optional<BundleReplay> OpenReplay(const CollectionOptions& options) {
+  if (options.replay.empty()) return std::nullopt;
+  return BundleReplay(ReadBundleFile(options.replay, options.inputLimit));
+}
+
+// Files that are captured have at most so many bytes.
+HostServices ServicesUpTo(std::uint64_t largestFile) {
+  HostServices services = RealServices();
+  services.capture = [largestFile](const std::string& path) { return CaptureFile(path, largestFile); };
+  return services;
 }
 
 std::optional<OutputFile> OpenRecord(const fs::path& bundle) {
-  if (bundle.empty()) return std::nullopt;
+  if (bundle.empty() || bundle == kStandardStream) return std::nullopt;
   return std::optional<OutputFile>(std::in_place, bundle, "--record");
 }
 
@@ -35,20 +44,22 @@ std::optional<OutputFile> OpenRecord(const fs::path& bundle) {
 
 Collection::Collection(const CollectionOptions& options, std::ostream& err)
     : mask_(options.mask),
-      replay_(OpenReplay(options.replay)),
+      replay_(OpenReplay(options)),
       osType_(replay_ && !options.hasOsType ? replay_->Recorded().osType : options.osType),
       recordFile_(OpenRecord(options.record)),
-      recorder_(recordFile_ ? std::make_unique<BundleRecorder>(osType_, ToolDirectory()) : nullptr),
+      recorder_(!options.record.empty() ? std::make_unique<BundleRecorder>(osType_, ToolDirectory()) : nullptr),
       log_(options.log),
       progress_(options.showProgress && StandardErrorIsTerminal() ? std::make_unique<Progress>(err, ProgressWidth())
                                                                   : nullptr),
-      services_(replay_ ? replay_->Services() : RealServices(), options, log_, runs_, progress_.get(), recorder_.get()),
+      services_(replay_ ? replay_->Services() : ServicesUpTo(options.inputLimit), options, log_, runs_, progress_.get(),
+                recorder_.get()),
       plugin_(options.plugin.empty() ? ProgramFolder() / "zenx.pi" : options.plugin),
       repository_(TRepository::Make(osType_, CurrentServices().machineName())) {
   if (replay_) {
     plugin_.AnswerAs(SystemOf(replay_->Recorded()));
     return;
   }
+  plugin_.SetLargestRaidLog(options.inputLimit);
   const std::string warning = WritableToolsWarning(fs::current_path());
   if (!warning.empty()) err << "hxahost: " << warning << std::endl;
   lock_.emplace("zenx", err);
@@ -94,7 +105,7 @@ void Collection::Finish() {
   log_.Finish();
 }
 
-void Collection::SaveRecording() {
+void Collection::SaveRecording(std::ostream& out) {
   if (!recorder_) return;
   Bundle bundle = recorder_->Recorded();
   if (replay_) {
@@ -106,8 +117,9 @@ void Collection::SaveRecording() {
     bundle.isMasked = played.isMasked;
   }
   if (mask_) bundle = MaskBundle(bundle, SystemRandom(), *mask_);
-  recordFile_->Stream() << WriteBundle(bundle);
-  recordFile_->Finish();
+  std::ostream& stream = recordFile_ ? recordFile_->Stream() : out;
+  stream << WriteBundle(bundle);
+  if (recordFile_) recordFile_->Finish();
 }
 
 }  // namespace hxahost

@@ -39,8 +39,8 @@ class Collection {
   // No query follows. Throws ProgramError where the log lacks entries.
   void Finish();
 
-  // Writes what was recorded, also of a query that failed. Throws ProgramError.
-  void SaveRecording();
+  // Writes what was recorded, also of a query that failed; to out where no file but "-" is named. Throws ProgramError.
+  void SaveRecording(std::ostream& out);
 
  private:
   std::string ToolDirectory() const;
@@ -48,7 +48,7 @@ class Collection {
   std::optional<MaskScope> mask_;
   std::optional<BundleReplay> replay_;
   std::optional<std::uint16_t> osType_;
-  std::optional<OutputFile> recordFile_;
+  std::optional<OutputFile> recordFile_;  // none where it goes to standard output
   std::unique_ptr<BundleRecorder> recorder_;
   QueryLog log_;
   ToolRunList runs_;

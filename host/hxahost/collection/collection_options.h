@@ -6,18 +6,20 @@
 #include <string>
 
 #include "host/hxahost/bundle/mask_places.h"
+#include "platform/ordinary_file.h"
 #include "plugin/host_interface/date_time.h"
 
 namespace hxahost {
 
-// How to collect. An empty path was not given; the others are absolute.
+// How to collect. An empty path was not given; the others are absolute, but for "-", a standard stream.
 struct CollectionOptions {
   std::filesystem::path plugin;     // none: zenx.pi beside the program
   std::filesystem::path directory;  // the working directory of the tools
   std::filesystem::path log;
-  std::filesystem::path record;   // the bundle to write
-  std::optional<MaskScope> mask;  // what is hidden in it
-  std::filesystem::path replay;   // the bundle to take everything from
+  std::filesystem::path record;              // the bundle to write
+  std::optional<MaskScope> mask;             // what is hidden in it
+  std::filesystem::path replay;              // the bundle to take everything from
+  std::uint64_t inputLimit = kLargestInput;  // of a file that is read, in bytes
   std::optional<std::uint16_t> osType;
   bool hasOsType = false;  // it was asked for; none is an answer, too
   std::optional<std::string> machineName;

@@ -11,6 +11,7 @@
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 #include "host/plugin_manager/plugin_manager_access.h"
+#include "platform/raid_log_limit.h"
 
 using namespace NKVRHXA20;
 
@@ -30,6 +31,7 @@ namespace {
 Plugin::Plugin(const std::filesystem::path& file) : manager_(TPluginManagerAccess::Install()) {
   std::error_code unknown;
   if (!std::filesystem::exists(file, unknown)) Refuse(file, "is missing");
+  if (!std::filesystem::is_regular_file(file, unknown)) Refuse(file, "is no ordinary file");
   try {
     LoadPluginLibrary(file);
   } catch (const std::exception& failure) {
@@ -53,6 +55,10 @@ void Plugin::AnswerAs(const RecordedSystem& recorded) {
                        "The plug-in cannot replay a bundle: give the path of zenx.pi with --plugin.");
   }
   replays->AnswerAs(recorded);
+}
+
+void Plugin::SetLargestRaidLog(std::uint64_t bytes) {
+  if (auto* const limits = dynamic_cast<ILimitsRaidLog*>(query_)) limits->SetLargestRaidLog(bytes);
 }
 
 void Plugin::Query(const boost::shared_ptr<ICIMNamespace>& nameSpace,

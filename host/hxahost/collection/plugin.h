@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <mutex>
 #include <vector>
@@ -23,6 +24,9 @@ class Plugin {
 
   // Has it take a recorded system's answers for those of this one. Throws ProgramError where it cannot.
   void AnswerAs(const RecordedSystem& recorded);
+
+  // The RAID manager's log is read where it has at most so many bytes. Other plug-ins have no limit.
+  void SetLargestRaidLog(std::uint64_t bytes);
 
   // Has it publish the classes, in their order; plug-ins count on one thread at a time, so further ones wait. What it
   // throws passes on.

@@ -4,7 +4,9 @@
 
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/read_bundle.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/input_file.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -16,10 +18,12 @@ namespace {
 constexpr int kLimitSeconds = 600;
 
 // Plug-ins collect once in a process, so each bundle is replayed by a process of its own.
-std::string QueryThatReplays(const std::filesystem::path& bundle) {
-  const auto result = NKVRHXA20::RealServices().spawn(
-      Utf8FromPath(ProgramFile()), {"query", "--format", "json", "--runs", "--replay", Utf8FromPath(bundle)},
-      kLimitSeconds);
+std::string QueryThatReplays(const std::filesystem::path& bundle, std::uint64_t largest) {
+  const auto result =
+      NKVRHXA20::RealServices().spawn(Utf8FromPath(ProgramFile()),
+                                      {"query", "--format", "json", "--runs", "--replay", Utf8FromPath(bundle),
+                                       "--input-limit", std::to_string(largest >> 20U)},
+                                      kLimitSeconds);
   if (result.exitStatus == 0) return result.output;
   // After the result, a line says then why nothing was found.
   if (result.exitStatus == static_cast<int>(ExitStatus::kNothingFound)) {
@@ -31,10 +35,12 @@ std::string QueryThatReplays(const std::filesystem::path& bundle) {
 
 }  // namespace
 
-JsonResult ReadResultOrBundle(const std::filesystem::path& file) {
-  if (!IsBundleFile(file)) return ReadJsonResult(file);
-  ReadBundleFile(file);  // what is wrong with it is said here, in one line
-  return ParseJsonResult(QueryThatReplays(file), Utf8FromPath(file));
+JsonResult ReadResultOrBundle(const std::filesystem::path& file, std::uint64_t largest) {
+  const std::string name = Utf8FromPath(file);
+  const std::string text = ReadInputFile(file, "a result or a bundle", largest);
+  if (!LooksLikeBundle(text)) return ParseJsonResult(text, name);
+  ReadNamedBundle(text, name);  // what is wrong with it is said here, in one line
+  return ParseJsonResult(QueryThatReplays(file, largest), name);
 }
 
 }  // namespace hxahost

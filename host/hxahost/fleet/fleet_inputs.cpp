@@ -5,7 +5,6 @@
 #include <iterator>
 #include <string_view>
 
-#include "host/hxahost/bundle/bundle_file.h"
 #include "host/hxahost/diff/diff_source.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/text/ascii.h"
@@ -38,9 +37,10 @@ std::vector<fs::path> FilesIn(const fs::path& folder) {
 }
 
 bool HoldsLines(const fs::path& file) {
+  if (!fs::is_regular_file(file)) return false;  // to open it may take for ever
   std::ifstream stream(file, std::ios::binary);
   std::string line;
-  return fs::is_regular_file(file) && !IsBundleFile(file) && std::getline(stream, line) && IsInstanceLine(line);
+  return std::getline(stream, line) && IsInstanceLine(line);
 }
 
 }  // namespace

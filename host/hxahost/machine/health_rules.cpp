@@ -92,11 +92,16 @@ constexpr Meaning kCollectionEnded = {"the rest of the collection is missing", "
 constexpr Meaning kLegacyEnded = {"this controller and those after it are not shown", "run qcmdrun by hand"};
 constexpr Meaning kStripesEnded = {"the bad stripes from here on are not shown", "run qcmdrun by hand"};
 constexpr Meaning kNoneRead = {"no controller was published", "see the log with hxahost query"};
+constexpr Meaning kEventsUnread = {"the RAID manager's events are not shown",
+                                   "see that its log is an ordinary file; --input-limit allows larger ones"};
 constexpr Meaning kUpdateDriver = {"this controller and those after it are not shown", "update the driver"};
 
 // How the log begins to tell of a driver that is too old for arcconf.
 constexpr std::string_view kMismatch =
     "a zentraxis c4, c5, c6/c6 e or b3 is present, but there is a driver and firmware mismatch";
+
+// How it begins to tell of a log that the plug-in does not read.
+constexpr std::string_view kLogNotRead = "raid manager log not read";
 
 constexpr HealthRule kRules[] = {
     {&kPresence,         "not published",           "",    kAll,     kCritical, kLeftOutController, kAnywhere        },
@@ -231,6 +236,7 @@ constexpr HealthRule kRules[] = {
     {&kLogText,          "status data is junk",     "",    kQcmdrun, kUnknown,  kLegacyEnded,       kAnywhere        },
     {&kLogText,          "bad stripe data is junk", "",    kQcmdrun, kUnknown,  kStripesEnded,      kAnywhere        },
     {&kLogText,          "getcontrollers() failed", "",    kAll,     kUnknown,  kNoneRead,          kAnywhere        },
+    {&kLogText,          kLogNotRead,               "",    kAll,     kUnknown,  kEventsUnread,      kAnywhere        },
     {&kLogText,          kMismatch,                 "",    kArcconf, kWarning,  kUpdateDriver,      kAnywhere        },
 };
 

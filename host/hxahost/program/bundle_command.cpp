@@ -96,7 +96,7 @@ void ShowItems(const Bundle& bundle, const BundleOptions& options, std::ostream&
 }  // namespace
 
 void ListBundle(const BundleOptions& options, std::ostream& out) {
-  const Bundle bundle = ReadBundleFile(options.file);
+  const Bundle bundle = ReadBundleFile(options.file, options.inputLimit);
   out << " ITEM     BYTES   SECONDS  COMMAND (OUTCOME)\n";
   for (std::size_t number = 1; number <= ItemCount(bundle); ++number) {
     const Item item = ItemOf(bundle, number);
@@ -106,7 +106,7 @@ void ListBundle(const BundleOptions& options, std::ostream& out) {
 }
 
 void ShowBundle(const BundleOptions& options, std::ostream& out) {
-  const Bundle bundle = ReadBundleFile(options.file);
+  const Bundle bundle = ReadBundleFile(options.file, options.inputLimit);
   CheckItems(bundle, options);
   if (options.isRaw && options.output.empty() && StandardOutputIsTerminal()) {
     throw ProgramError(ExitStatus::kWrongArguments,
@@ -121,7 +121,7 @@ void ShowBundle(const BundleOptions& options, std::ostream& out) {
 }
 
 void MaskBundleFile(const BundleOptions& options) {
-  const Bundle bundle = ReadBundleFile(options.file);
+  const Bundle bundle = ReadBundleFile(options.file, options.inputLimit);
   OutputFile file(options.output, "OUT");
   file.Stream() << WriteBundle(MaskBundle(bundle, SystemRandom(), options.mask));
   file.Finish();

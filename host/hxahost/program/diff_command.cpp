@@ -14,8 +14,8 @@ namespace hxahost {
 namespace {
 
 int Compare(const DiffOptions& options, std::ostream& out) {
-  const JsonResult before = ReadResultOrBundle(PathFromUtf8(options.oldFile));
-  const JsonResult after = ReadResultOrBundle(PathFromUtf8(options.newFile));
+  const JsonResult before = ReadResultOrBundle(PathFromUtf8(options.oldFile), options.inputLimit);
+  const JsonResult after = ReadResultOrBundle(PathFromUtf8(options.newFile), options.inputLimit);
   const ResultDiff diff = CompareResults(before, after);
   WriterOf<DiffWriter>("diff", options.format)(out, {options.oldFile, before.machine}, {options.newFile, after.machine},
                                                diff, options.isVerbose);

@@ -57,6 +57,15 @@ unsigned ReadWidth(const std::string& text) {
   return *number;
 }
 
+std::uint64_t ReadInputLimit(const std::string& text) {
+  constexpr unsigned kMost = 65536;
+  const auto number = WholeNumber(text);
+  if (!number || *number == 0 || *number > kMost) {
+    Reject("--input-limit", text, "give a whole number of MiB from 1 to 65536.");
+  }
+  return std::uint64_t{*number} << 20U;
+}
+
 std::optional<MaskScope> ReadMask(const std::string& text) {
   if (text.empty()) return std::nullopt;
   if (text == "true") return MaskScope::kNames;

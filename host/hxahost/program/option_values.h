@@ -31,6 +31,9 @@ NKVRHXA20::TCIMDateTime ReadLocalTime(const std::string& text);
 // --width: columns of the tables.
 unsigned ReadWidth(const std::string& text);
 
+// --input-limit: so many MiB; gives bytes.
+std::uint64_t ReadInputLimit(const std::string& text);
+
 // --mask: nothing, "true" where it was given alone, or all.
 std::optional<MaskScope> ReadMask(const std::string& text);
 // --warn: "NAME=N" or "NAME=off", each.

@@ -11,6 +11,7 @@
 #include "host/hxahost/program/option_values.h"
 #include "host/hxahost/program/unexpected_arguments.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/input_file.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -31,6 +32,7 @@ struct TypedOptions {
   std::vector<std::string> limits;
   bool healthRules = false;
   std::string width;
+  std::string inputLimit = "256";
   DiffOptions diff;
   FleetCommandOptions fleet;
   std::vector<std::string> fleetPaths;
@@ -88,6 +90,13 @@ void AddLocalTime(CLI::App& command, TypedOptions& typed) {
       ->type_name("CIMDATETIME");
 }
 
+void AddInputLimit(CLI::App& command, TypedOptions& typed) {
+  command
+      .add_option("--input-limit", typed.inputLimit, "Largest file to read, 1 to 65536 MiB; larger ones are refused")
+      ->type_name("MIB")
+      ->capture_default_str();
+}
+
 // What every command that collects is told.
 void AddCollecting(CLI::App& command, TypedOptions& typed) {
   CollectionOptions& read = typed.read.collection;
@@ -96,11 +105,12 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
   AddOutput(command, typed.read.output, "; complete or not at all");
   AddPath(command, "--log", "FILE", read.log, "Write the log there: one line for an entry, its level first");
   AddPath(command, "--record", "BUNDLE", read.record,
-          "Keep all that the collection was told in a bundle, to be replayed");
+          "Keep all that the collection was told in a bundle, to be replayed (of a query -: standard output)");
   command.add_flag(
       "--mask", typed.mask,
       "Hide machine name, serial numbers and given names in that bundle; FRU part numbers, too: --mask=all");
-  AddPath(command, "--replay", "BUNDLE", read.replay, "Run no tool: take everything from a bundle");
+  AddPath(command, "--replay", "BUNDLE", read.replay, "Run no tool: take everything from a bundle (-: standard input)");
+  AddInputLimit(command, typed);
   command
       .add_option("--os-type", typed.osType,
                   "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
@@ -197,6 +207,7 @@ void AddDiff(CLI::App& diff, TypedOptions& typed) {
   diff.add_option("NEW", read.newFile, "What it wrote later")->required();
   AddFormat(diff, read.format);
   diff.add_flag("-v,--verbose", read.isVerbose, "Show every change, with the path of its object");
+  AddInputLimit(diff, typed);
 }
 
 void AddFleet(CLI::App& fleet, TypedOptions& typed) {
@@ -233,6 +244,7 @@ void AddBundle(CLI::App& bundle, TypedOptions& typed) {
   AddPath(*mask, "IN", "TEXT", read.file, "The bundle")->required();
   AddPath(*mask, "OUT", "TEXT", read.output, "The masked one")->required();
   mask->add_flag("--all", typed.masksAll, "Hide FRU part numbers, too");
+  for (CLI::App* const command : {list, show, mask}) AddInputLimit(*command, typed);
 }
 
 void AddNothing(CLI::App&, TypedOptions&) {}
@@ -255,7 +267,12 @@ void RejectEmptyValues(const CLI::App& query) {
   }
 }
 
-void CheckBundles(const CollectionOptions& options) {
+void CheckBundles(const std::string& command, const CollectionOptions& options) {
+  if (options.record == kStandardStream && command != "query") {
+    throw ProgramError(
+        ExitStatus::kWrongArguments,
+        "--record - writes the bundle in the place of tables: give it to hxahost query, or name a file.");
+  }
   if (options.mask && options.record.empty()) {
     throw ProgramError(ExitStatus::kWrongArguments,
                        "--mask hides what is in a bundle: name one with --record, or leave it out.");
@@ -286,14 +303,17 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   collection.hasOsType = query.get_option("--os-type")->count() > 0;
   if (!typed.machineName.empty()) collection.machineName = typed.machineName;
   collection.mask = ReadMask(typed.mask);
-  CheckBundles(collection);
+  collection.inputLimit = ReadInputLimit(typed.inputLimit);
+  CheckBundles(query.get_name(), collection);
   return options;
 }
 
 CommandLine ReadDiff(const CLI::App& diff, const TypedOptions& typed) {
   RejectEmptyValues(diff);
   CheckFormat("diff", typed.diff.format);
-  return {Command::kDiff, "", {}, typed.diff};
+  CommandLine line{Command::kDiff, "", {}, typed.diff};
+  line.diff.inputLimit = ReadInputLimit(typed.inputLimit);
+  return line;
 }
 
 CommandLine ReadFleetCommand(const CLI::App& fleet, const TypedOptions& typed) {
@@ -320,6 +340,7 @@ CommandLine ReadBundle(const CLI::App& bundle, const TypedOptions& typed) {
   RejectEmptyValues(given);
   CommandLine line;
   line.bundle = typed.bundle;
+  line.bundle.inputLimit = ReadInputLimit(typed.inputLimit);
   line.bundle.mask = typed.masksAll ? MaskScope::kAll : MaskScope::kNames;
   for (const std::string& item : typed.bundleItems) {
     const auto number = WholeNumber(item);

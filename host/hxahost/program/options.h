@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -36,6 +37,7 @@ struct BundleOptions {
   bool isRaw = false;
   std::filesystem::path output;  // where the items, or the masked bundle, go
   MaskScope mask = MaskScope::kNames;
+  std::uint64_t inputLimit = kLargestInput;  // in bytes
 };
 
 // What "hxahost diff" is asked for: two results that were written before.
@@ -44,6 +46,7 @@ struct DiffOptions {
   std::string newFile;
   std::string format = "text";
   bool isVerbose = false;
+  std::uint64_t inputLimit = kLargestInput;  // in bytes
 };
 
 // What "hxahost fleet" is asked for.

@@ -18,6 +18,7 @@
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/schema/class_words.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/input_file.h"
 #include "host/hxahost/terminal/terminal_layout.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -45,7 +46,7 @@ QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
   fs::path& log = collection.log;
   fs::path& record = collection.record;
   for (fs::path* const path : {&collection.plugin, &log, &record, &collection.replay, &options.output}) {
-    if (!path->empty()) *path = fs::absolute(*path);
+    if (!path->empty() && *path != kStandardStream) *path = fs::absolute(*path);
   }
   if (!log.empty() && log == options.output) {
     throw ProgramError(ExitStatus::kWrongArguments, "--log and --output name one file: name two.");
@@ -99,13 +100,13 @@ Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std
   } catch (const ProgramError&) {
     throw;
   } catch (const std::exception& failure) {
-    collection.SaveRecording();  // whoever looks for the reason needs it most now
+    collection.SaveRecording(out);  // whoever looks for the reason needs it most now
     throw ProgramError(ExitStatus::kQueryFailed,
                        "The query failed: " + Printable(failure.what()) + ". --log FILE shows how far it came." +
                            (output.IsFile() ? "" : " What was written before this is not whole."));
   }
   output.Finish();
-  collection.SaveRecording();
+  collection.SaveRecording(out);
   return collected;
 }
 

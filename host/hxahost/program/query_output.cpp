@@ -1,11 +1,15 @@
 #include "host/hxahost/program/query_output.h"
 
+#include "host/hxahost/system/input_file.h"
+
 namespace hxahost {
 
 namespace {
 
-std::ostream& Opened(std::optional<OutputFile>& file, const std::filesystem::path& path, std::ostream& out) {
-  return path.empty() ? out : file.emplace(path).Stream();
+std::ostream& Shown(const QueryOptions& options, std::optional<OutputFile>& file, std::ostream& nowhere,
+                    std::ostream& out) {
+  if (!options.output.empty()) return file.emplace(options.output).Stream();
+  return options.collection.record == kStandardStream ? nowhere : out;
 }
 
 }  // namespace
@@ -15,7 +19,7 @@ LayoutWishes WishesOf(const QueryOptions& options) {
 }
 
 QueryOutput::QueryOutput(const QueryOptions& options, std::ostream& out)
-    : shown_(Opened(file_, options.output, out)), asciiBuffer_(shown_), ascii_(&asciiBuffer_), stream_(&shown_) {
+    : shown_(Shown(options, file_, nowhere_, out)), asciiBuffer_(shown_), ascii_(&asciiBuffer_), stream_(&shown_) {
   if (options.format != QueryOptions().format) return;
   if (IsAsciiOnly(WishesOf(options))) stream_ = &ascii_;
 }

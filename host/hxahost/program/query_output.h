@@ -16,7 +16,8 @@ LayoutWishes WishesOf(const QueryOptions& options);
 // Where a query is shown.
 class QueryOutput {
  public:
-  // To the output that the options name, or to out. Throws ProgramError where the file cannot be written.
+  // To the output that the options name, or to out unless that is taken by the bundle. Throws ProgramError where the
+  // file cannot be written.
   QueryOutput(const QueryOptions& options, std::ostream& out);
   QueryOutput(const QueryOutput&) = delete;
   QueryOutput& operator=(const QueryOutput&) = delete;
@@ -29,6 +30,7 @@ class QueryOutput {
 
  private:
   std::optional<OutputFile> file_;
+  std::ostream nowhere_{nullptr};
   std::ostream& shown_;
   TAsciiBuffer asciiBuffer_;
   std::ostream ascii_;

@@ -5,8 +5,8 @@
 
 #include <fmt/core.h>
 
-#include "host/hxacore/whole_file.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/input_file.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -101,10 +101,7 @@ JsonResult ReadWholeResult(const Json& json) {
 }  // namespace
 
 JsonResult ReadJsonResult(const std::filesystem::path& file) {
-  const std::string name = Utf8FromPath(file);
-  std::string text;
-  if (!NKVRHXA20::ReadWholeFile(file, text)) RejectFile(name, "cannot be read: name a file that is there.");
-  return ParseJsonResult(text, name);
+  return ParseJsonResult(ReadInputFile(file, "a file", kLargestInput), Utf8FromPath(file));
 }
 
 JsonResult ParseJsonResult(std::string_view text, const std::string& name) {

@@ -16,8 +16,7 @@ fs::path ProgramFolder() { return fs::read_symlink("/proc/self/exe").parent_path
 
 // "417 (name) S ...": the state follows the last parenthesis.
 bool IsRunning(unsigned long process) {
-  std::string status;
-  NKVRHXA20::ReadWholeFile("/proc/" + std::to_string(process) + "/stat", status);
+  const std::string status = NKVRHXA20::ReadWholeFile("/proc/" + std::to_string(process) + "/stat").bytes;
   const auto nameEnd = status.rfind(") ");
   return nameEnd != std::string::npos && status[nameEnd + 2] != 'Z' && status[nameEnd + 2] != 'X';
 }

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "host/hxahost/bundle/bundle_file.h"
-#include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/result/json_result.h"
+#include "host/hxahost/system/exit_status.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -21,18 +21,18 @@ TEST(WholeFile, IsWhatTheFileHas) {
   for (const std::size_t size : {0U, 1U, 4095U, 4096U, 4097U, 10000U}) {
     const std::string written(size, 'x');
     folder.Write("file", written);
-    std::string text = "before ";
-    EXPECT_TRUE(ReadWholeFile(folder.Path() / "file", text)) << size;
-    EXPECT_EQ(text, "before " + written);
+    const NKVRHXA20::WholeFile read = ReadWholeFile(folder.Path() / "file");
+    EXPECT_EQ(read.refusal, "") << size;
+    EXPECT_EQ(read.bytes, written);
   }
 }
 
 TEST(WholeFile, IsNotThereWhereTheSystemFailsToReadIt) {
   const TemporaryFolder folder;
   for (const std::filesystem::path& path : {std::filesystem::path(kBroken), folder.Path(), folder.Path() / "none"}) {
-    std::string text;
-    EXPECT_FALSE(ReadWholeFile(path, text)) << path;
-    EXPECT_EQ(text, "");
+    const NKVRHXA20::WholeFile read = ReadWholeFile(path);
+    EXPECT_NE(read.refusal, "") << path;
+    EXPECT_EQ(read.bytes, "");
   }
 }
 
@@ -47,8 +47,10 @@ std::string Complaint(const Read& read) {
 }
 
 TEST(WholeFile, ThatCannotBeReadIsNamedWithWhatToDo) {
-  EXPECT_THAT(Complaint([] { hxahost::ReadJsonResult(kBroken); }), HasSubstr("/proc/self/mem cannot be read: name a"));
-  EXPECT_THAT(Complaint([] { hxahost::ReadBundleFile(kBroken); }), HasSubstr("/proc/self/mem cannot be read: name a"));
+  EXPECT_THAT(Complaint([] { hxahost::ReadJsonResult(kBroken); }),
+              HasSubstr("/proc/self/mem cannot be read (Input/output error): name a"));
+  EXPECT_THAT(Complaint([] { hxahost::ReadBundleFile(kBroken); }),
+              HasSubstr("/proc/self/mem cannot be read (Input/output error): name a"));
 }
 
 }  // namespace

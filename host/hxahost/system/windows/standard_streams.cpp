@@ -10,6 +10,7 @@
 namespace hxahost {
 
 StandardStreams::StandardStreams() : consoleBefore_(GetConsoleOutputCP()) {
+  _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
   SetConsoleOutputCP(CP_UTF8);
 }
