@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <random>
 #include <string>
 
@@ -73,6 +74,118 @@ TEST(BundleMask, MasksTheFolderOfALogWhoseSlashesAreThoseOfAnotherSystem) {
   EXPECT_THAT(masked.raidLog->path, testing::EndsWith("/RaidEvtA.log"));
   EXPECT_EQ(masked.raidLog->path.substr(0, 4), masked.raidLogDir->substr(0, 4));
   EXPECT_EQ(masked.raidLog->path[4], '/');
+}
+
+// Words that are planted where a machine's texts hold names, numbers and addresses, and quoted in other texts.
+Bundle Planted() {
+  Bundle bundle = SampleBundle();
+  bundle.machine = "GRIMHOLT.vexmoor.example";
+  bundle.directory = "C:\\quibbledir\\Jo Zandrik";
+  bundle.raidLogDir = "D:\\Wexlogs\\";
+  bundle.runs[0].result.output =
+      "   Controller Serial Number : 81730946\n   VPD Assigned# : PLIMSOL\n   Controller name : Orfelius\n"
+      "   Logical drive name : Trundlewick\n                        Vault\n                        of: Ombersley\n"
+      "   RAID level : 5\n   Array name : Snorbitz\n   Enclosure ID : 5000F0A1\n"
+      "   Device is a Hard disk\n   Serial number : QZ73X9\n   World-wide name : 50:00:C5:00:1A:2B:3C:4D\n"
+      "   Device ID : TALVERA T36LW10 S96H8B01234\n";
+  bundle.runs[1].result.output =
+      "<deadDrive serialNumber='KRUMPET1' /><deadDrive serialNumber = \"brindlesop\" />\n"
+      "<event text=\"GRIMHOLT asks Trundlewick, 81730946 and 5000c5001a2b3c4e\" />\n"
+      "[00001] 0000:00:00:00 Boot of grimholt, drive ORFELIUS, S/N81730946, qz73x9 lost, call zed.ax@vexmoor.example\n"
+      "| 06/14/2005 | 09:12:05 | 1 | 4 | 0x07 | Removed by snorbitz on Grimholt: 81730946, vault of xTRUNDLEWICKx\n"
+      "phy 00:1b:21:AA:BB:CC and 00-1b-21-aa-bb-cd, 0x5000C5001A2B3C4F\n";
+  bundle.runs[2].failure->message = "\"D:/Wexlogs/x\": c:\\QUIBBLEDIR\\jo zandrik is gone, wrote GRIMHOLT to krumpet1";
+  bundle.raidLog->path = "d:\\wexlogs\\RaidEvtA.log";
+  bundle.raidLog->bytes =
+      "day\tINF\tMUMBLEBY\tBrindlesop of PLIMSOL, s96h8b01234 without 8b01234\r\n"
+      "2007/03/06 08:00:01 PST INF GRIMHOLT the agent of mumbleby: 5000f0a1 by ombersley@grimholt\r\n";
+  bundle.raidLog->failure = RecordedFailure{FailureKind::kHost, "\"D:\\WEXLOGS\\RaidEvtA.log\" is in use by jo zandrik"};
+  return bundle;
+}
+
+TEST(BundleMask, LeavesNoNameNumberOrAddressOfAnyFieldAnywhere) {
+  const Bundle original = Planted();
+  const std::string before = FoldCase(WriteBundle(original));
+  const std::string after = FoldCase(WriteBundle(MaskBundle(original, Seeded())));
+  const char* const words[] = {
+      "grimholt",
+      "vexmoor",
+      "quibbledir",
+      "zandrik",
+      "wexlogs",
+      "81730946",
+      "plimsol",
+      "orfelius",
+      "trundlewick",
+      "vault",
+      "ombersley",
+      "snorbitz",
+      "5000f0a1",
+      "qz73x9",
+      "50:00:c5:00:1a:2b:3c:4d",
+      "8b01234",
+      "krumpet1",
+      "brindlesop",
+      "5000c5001a2b3c4e",
+      "zed.ax",
+      "00:1b:21:aa:bb:cc",
+      "00-1b-21-aa-bb-cd",
+      "5000c5001a2b3c4f",
+      "mumbleby",
+      "1a:2b:3c",
+      "1b:21:aa",
+      "1b-21-aa",
+      "example",
+      "jo z",
+      "of: omb",
+  };
+  for (const char* const word : words) {
+    EXPECT_THAT(before, HasSubstr(word));
+    EXPECT_THAT(after, Not(HasSubstr(word)));
+  }
+  EXPECT_EQ(after.size(), before.size() + 1) << "\"yes\" is longer than \"no\"";
+}
+
+TEST(BundleMask, LeavesModelsStatesAndFixedLines) {
+  const std::string text = WriteBundle(MaskBundle(Planted(), Seeded()));
+  for (const char* const kept :
+       {"Device ID : TALVERA T36LW10 S96H", "   RAID level : 5\n", "<deadDrive serialNumber='", "| 0x07 | Removed by ",
+        "[00001] 0000:00:00:00 Boot of ", "zenx//arcconf.exe", "RaidEvtA.log", "2007/03/06 08:00:01 PST INF "}) {
+    EXPECT_THAT(text, HasSubstr(kept));
+  }
+}
+
+// A name may be a word of the tools: to replace it everywhere would leave nothing to be read.
+TEST(BundleMask, KeepsTextsReadableWhateverTheMachineIsCalled) {
+  for (const char* const name : {"Controller", "CONTROL", "status", "Serial", "Zentraxis", "Online", "Found", "zenx"}) {
+    Bundle bundle = SampleBundle();
+    bundle.machine = name;
+    const std::string output = "Found 2 KVR Zentraxis controller(s)\n   Controller Status : Online\n";
+    bundle.runs[0].result.output = output + "   Serial number : AB12CD34\n";
+    const Bundle masked = MaskBundle(bundle, Seeded());
+    EXPECT_THAT(masked.runs[0].result.output, testing::StartsWith(output)) << name;
+    EXPECT_EQ(masked.runs[0].path, bundle.runs[0].path);
+    EXPECT_NE(masked.machine, name);
+  }
+}
+
+TEST(BundleMask, FindsNamesWithUmlautsInEitherCase) {
+  Bundle bundle = SampleBundle();
+  bundle.runs[0].result.output = "   Logical drive name : B\xc3\xa4renh\xc3\xb6hle\n";
+  bundle.runs[1].result.output = "[1] lost: B\xc3\x84RENH\xc3\x96HLE\n";
+  EXPECT_THAT(MaskBundle(bundle, Seeded()).runs[1].result.output, Not(HasSubstr("RENH")));
+}
+
+// How long masking a text takes against one a quarter as long: quadratic work takes sixteen times as long.
+TEST(BundleMask, TakesTimeInProportionToTheText) {
+  const auto secondsFor = [](std::size_t lines) {
+    Bundle bundle = SampleBundle();
+    for (std::size_t line = 0; line < lines; ++line) bundle.raidLog->bytes += "day\tINF\tDBSERVER\tof DBSERVER\n";
+    const auto begin = std::chrono::steady_clock::now();
+    MaskBundle(bundle, Seeded());
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+  };
+  EXPECT_LT(secondsFor(40000), 10 * secondsFor(10000));
 }
 
 TEST(BundleMask, LeavesABundleWithNothingInItAsItIs) {

@@ -1,73 +1,52 @@
 #include "host/hxahost/bundle/bundle_mask.h"
 
 #include <algorithm>
-#include <cctype>
-#include <map>
-#include <optional>
-#include <set>
+#include <cstddef>
 #include <string_view>
 #include <utility>
+#include <vector>
+
+#include "host/hxahost/bundle/addresses.h"
+#include "host/hxahost/bundle/secrets.h"
+#include "host/hxahost/bundle/tool_words.h"
 
 namespace hxahost {
 
 namespace {
 
-// Shorter texts say nothing, and stand everywhere.
-constexpr std::size_t kShortestQuoted = 3;
-// From this length on, a text of letters and digits is no word of any tool.
-constexpr std::size_t kShortestUnmistakable = 6;
+bool IsSlash(char character) { return character == '/' || character == '\\'; }
 
-bool IsWordCharacter(char character) { return std::isalnum(static_cast<unsigned char>(character)) != 0; }
-
-bool IsUnmistakable(std::string_view secret) {
-  const auto is = [](int (*kind)(int)) {
-    return [kind](char character) { return kind(static_cast<unsigned char>(character)) != 0; };
-  };
-  return secret.size() >= kShortestUnmistakable && std::ranges::any_of(secret, is(std::isdigit)) &&
-         std::ranges::any_of(secret, is(std::isalpha));
+std::string_view WithoutLastSlashes(std::string_view folder) {
+  while (!folder.empty() && IsSlash(folder.back())) folder.remove_suffix(1);
+  return folder;
 }
 
-bool IsInside(const Span& inner, const std::vector<Span>& outer) {
-  return std::ranges::any_of(outer, [&inner](const Span& each) {
-    return inner.begin >= each.begin && inner.begin + inner.length <= each.begin + each.length;
-  });
-}
-
-// Whether the piece is a word, or some, of the text.
-bool StandsAlone(std::string_view text, const Span& span) {
-  const std::size_t end = span.begin + span.length;
-  const bool goesOnBefore =
-      span.begin > 0 && IsWordCharacter(text[span.begin]) && IsWordCharacter(text[span.begin - 1]);
-  const bool goesOnBehind = end < text.size() && IsWordCharacter(text[end - 1]) && IsWordCharacter(text[end]);
-  return !goesOnBefore && !goesOnBehind;
-}
-
-// All secrets of a bundle, and where they are quoted.
-class Secrets {
- public:
-  void Add(std::string_view secret) {
-    if (secret.size() < kShortestQuoted) return;
-    const std::string folded = FoldCase(secret);
-    byStart_[folded.substr(0, kShortestQuoted)].insert(folded);
+// The parts of a path, or all of what is none.
+template <class Call>
+void ForEachPart(std::string_view path, const Call& call) {
+  for (std::size_t begin = 0; begin < path.size();) {
+    const auto* const slash = std::find_if(path.begin() + begin, path.end(), IsSlash);
+    const auto end = static_cast<std::size_t>(slash - path.begin());
+    call(Span{begin, end - begin});
+    begin = end + 1;
   }
+}
 
-  // The longest secret that is quoted at this place of the text.
-  std::optional<Span> QuotedAt(std::string_view text, std::string_view folded, std::size_t place,
-                               const std::vector<Span>& prose) const {
-    const auto found = byStart_.find(std::string(folded.substr(place, kShortestQuoted)));
-    if (found == byStart_.end()) return std::nullopt;
-    std::optional<Span> longest;
-    for (const std::string& secret : found->second) {
-      const Span span{place, secret.size()};
-      if (folded.substr(place, secret.size()) != secret || (longest && longest->length > span.length)) continue;
-      if (IsUnmistakable(secret) || (IsInside(span, prose) && StandsAlone(text, span))) longest = span;
-    }
-    return longest;
-  }
+// Secrets by their places and those by their form, in the order of the text. They may overlap.
+std::vector<Span> SecretSpans(std::string_view text, const SecretPlaces& places) {
+  std::vector<Span> spans = FindAddresses(text);
+  spans.insert(spans.end(), places.secrets.begin(), places.secrets.end());
+  std::ranges::sort(spans, {}, &Span::begin);
+  return spans;
+}
 
- private:
-  std::map<std::string, std::set<std::string>> byStart_;  // in lower case, by their first characters
-};
+std::size_t EndOf(const Span& span) { return span.begin + span.length; }
+
+// The first of the spans from here on that does not end before the place.
+template <class Iterator>
+Iterator SkipBefore(Iterator span, Iterator end, std::size_t place) {
+  return std::find_if(span, end, [place](const Span& each) { return EndOf(each) > place; });
+}
 
 class Masking {
  public:
@@ -79,22 +58,51 @@ class Masking {
   }
   void LearnToolText(std::string_view text) { Learn(text, FindInToolText(text, scope_)); }
 
-  void MaskWhole(std::string& secret) { secret = mask_.Mask(secret); }
+  // The whole and its parts: those that are words of the tools are everywhere.
+  void LearnFolder(std::string_view folder) {
+    Learn(WithoutLastSlashes(folder));
+    ForEachPart(folder, [&](const Span& part) {
+      const std::string_view name = folder.substr(part.begin, part.length);
+      if (!HasToolWordsAlone(FoldCase(name))) Learn(name);
+    });
+  }
+
+  // A name with a domain is quoted without it, too.
+  void LearnMachine(std::string_view machine) {
+    Learn(machine);
+    Learn(machine.substr(0, machine.find('.')));
+  }
+
+  void HaveLearnt() { secrets_.Sort(); }
+
+  // Parts of paths are masked each by itself, so that a path goes on as the masked one does.
+  void MaskWhole(std::string& secret) {
+    const std::string original = secret;
+    ForEachPart(original, [&](const Span& part) {
+      secret.replace(part.begin, part.length, mask_.Mask(original.substr(part.begin, part.length)));
+    });
+  }
 
   void MaskText(std::string& text, const SecretPlaces& places) {
     const std::string original = text;
     const std::string folded = FoldCase(text);
-    auto next = places.secrets.begin();
+    const std::vector<Span> spans = SecretSpans(original, places);
+    auto next = spans.begin();
+    auto prose = places.prose.begin();
     for (std::size_t place = 0; place < original.size();) {
-      while (next != places.secrets.end() && next->begin < place) ++next;
-      const bool isSecret = next != places.secrets.end() && next->begin == place;
-      const auto span = isSecret ? std::optional(*next) : secrets_.QuotedAt(original, folded, place, places.prose);
-      if (!span) {
-        ++place;
-        continue;
+      next = SkipBefore(next, spans.end(), place);
+      prose = SkipBefore(prose, places.prose.end(), place);
+      const std::size_t nextBegin = next == spans.end() ? original.size() : next->begin;
+      const bool isProse = prose != places.prose.end() && prose->begin <= place;
+      const std::size_t length = nextBegin <= place
+                                     ? EndOf(*next) - place
+                                     : std::min(secrets_.LengthAt(original, folded, place, isProse), nextBegin - place);
+      if (length > 0) {
+        std::string secret = original.substr(place, length);
+        MaskWhole(secret);
+        text.replace(place, length, secret);
       }
-      text.replace(span->begin, span->length, mask_.Mask(original.substr(span->begin, span->length)));
-      place += span->length;
+      place += std::max<std::size_t>(length, 1);
     }
   }
 
@@ -103,24 +111,26 @@ class Masking {
   // A sentence of the system or the host.
   void MaskProse(std::string& text) { MaskText(text, {{}, {{0, text.size()}}}); }
 
+  // A path that may begin with the folder, whichever slashes are between its parts.
+  void MaskPath(std::string& path, std::string_view folder) {
+    const std::string_view start = WithoutLastSlashes(folder);
+    const bool isInFolder = FoldCase(path).starts_with(FoldCase(start));
+    MaskText(path, isInFolder ? SecretPlaces{{{0, start.size()}}, {}} : SecretPlaces{});
+  }
+
  private:
   Secrets secrets_;
   TextMask mask_;
   MaskScope scope_;
 };
 
-// The folder that the path begins with is masked as it is on its own, whichever slashes separate its parts.
-void MaskFolder(std::string& path, std::string_view folder, std::string_view maskedFolder) {
-  for (std::size_t index = 0; index < std::min(folder.size(), path.size()); ++index) {
-    if (path[index] == folder[index]) path[index] = maskedFolder[index];
-  }
-}
-
 void LearnAll(const Bundle& bundle, Masking& masking) {
-  masking.Learn(bundle.machine);
-  masking.Learn(bundle.directory);
+  masking.LearnMachine(bundle.machine);
+  masking.LearnFolder(bundle.directory);
+  if (bundle.raidLogDir) masking.LearnFolder(*bundle.raidLogDir);
   for (const RecordedRun& run : bundle.runs) masking.LearnToolText(run.result.output);
   if (bundle.raidLog) masking.Learn(bundle.raidLog->bytes, FindInRaidLog(bundle.raidLog->bytes));
+  masking.HaveLearnt();
 }
 
 void MaskRun(RecordedRun& run, Masking& masking) {
@@ -142,7 +152,7 @@ Bundle MaskBundle(const Bundle& bundle, RandomSource random, MaskScope scope) {
   if (!masked.raidLog) return masked;
   RecordedLog& log = *masked.raidLog;
   masking.MaskText(log.bytes, FindInRaidLog(log.bytes));
-  if (bundle.raidLogDir) MaskFolder(log.path, *bundle.raidLogDir, *masked.raidLogDir);
+  masking.MaskPath(log.path, bundle.raidLogDir.value_or(""));
   if (log.failure) masking.MaskProse(log.failure->message);
   return masked;
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/hxahost/bundle/text_mask.h"
+
 namespace hxahost {
 
 namespace {
@@ -41,7 +43,7 @@ constexpr std::string_view kNoValues[] = {"None", "N/A", "Not Available", "Not A
 
 constexpr std::string_view kSpaceInLine = " \t\r";
 constexpr std::string_view kDeviceType = "Device is a";
-constexpr std::string_view kSerialAttribute = "serialNumber=\"";
+constexpr char kLogEntry = '[';  // "[00004] 0005:17:54:33 SAS phy 8: device timeout, reset 1 of 3"
 
 // Calls back with each line, without its line feed, and where it begins.
 template <class Call>
@@ -60,8 +62,14 @@ Span TrimmedSpan(std::string_view text, std::size_t begin, std::size_t end) {
   return {begin, end - begin};
 }
 
+// A value that is to be masked, and where its label begins in the line.
+struct LabelledValue {
+  Span value;
+  std::size_t label = 0;
+};
+
 // The value on a line of the tools, by its label; of no length where it is none to be masked.
-Span ValueToMask(std::string_view line, std::string_view deviceType, MaskScope scope) {
+LabelledValue ValueToMask(std::string_view line, std::string_view deviceType, MaskScope scope) {
   const std::size_t first = line.find_first_not_of(kSpaceInLine);
   const std::size_t colon = line.find(':');
   if (first == line.npos || colon == line.npos) return {};
@@ -71,21 +79,39 @@ Span ValueToMask(std::string_view line, std::string_view deviceType, MaskScope s
       continue;
     const Span value = TrimmedSpan(line, std::min(colon + 1 + row.from, line.size()), line.size());
     const bool isNone = std::ranges::count(kNoValues, line.substr(value.begin, value.length)) > 0;
-    return value.length < row.shortest || isNone ? Span{} : value;
+    return value.length < row.shortest || isNone ? LabelledValue{} : LabelledValue{value, first};
   }
   return {};
 }
 
-// "<deadDrive serialNumber="NV3LE77Q2H" failureReason="device not responding" />": all that is quoted is prose.
+// A value may be wrapped: what goes on is behind the column of the label, and has none of its own unless it is below
+// the value.
+Span WrappedValue(std::string_view line, const LabelledValue& before) {
+  const Span value = TrimmedSpan(line, 0, line.size());
+  const bool isBelowValue = value.begin >= before.value.begin;
+  const bool isBehindLabel = value.begin > before.label && line.find(':') == line.npos;
+  return before.value.length > 0 && (isBelowValue || isBehindLabel) ? value : Span{};
+}
+
+bool IsBlankOrEquals(char character) { return character == '=' || character == ' ' || character == '\t'; }
+
+// "serialNumber=", "serialNumber = ": what is before a quotation mark.
+bool NamesSerial(std::string_view before) {
+  constexpr std::string_view kName = "serialnumber";
+  while (!before.empty() && IsBlankOrEquals(before.back())) before.remove_suffix(1);
+  return before.size() >= kName.size() && FoldCase(before.substr(before.size() - kName.size())) == kName;
+}
+
+// "<deadDrive serialNumber="NV3LE77Q2H" failureReason='device not responding' />": all that is quoted is prose.
 void AddAttributes(std::string_view line, std::size_t begin, SecretPlaces& places) {
-  std::size_t quote = line.find('"');
+  std::size_t quote = line.find_first_of("\"'");
   while (quote != line.npos) {
-    const std::size_t end = line.find('"', quote + 1);
+    const std::size_t end = line.find(line[quote], quote + 1);
     if (end == line.npos) return;
     const Span value{begin + quote + 1, end - quote - 1};
-    const bool isSerial = line.substr(0, quote + 1).ends_with(kSerialAttribute) && value.length > 0;
+    const bool isSerial = NamesSerial(line.substr(0, quote)) && value.length > 0;
     (isSerial ? places.secrets : places.prose).push_back(value);
-    quote = line.find('"', end + 1);
+    quote = line.find_first_of("\"'", end + 1);
   }
 }
 
@@ -94,12 +120,17 @@ void AddAttributes(std::string_view line, std::size_t begin, SecretPlaces& place
 SecretPlaces FindInToolText(std::string_view text, MaskScope scope) {
   SecretPlaces places;
   std::string_view deviceType;
+  LabelledValue before;
   ForEachLine(text, [&](std::string_view line, std::size_t begin) {
     if (const std::size_t type = line.find(kDeviceType); type != line.npos) deviceType = line.substr(type);
     const std::size_t first = line.find_first_not_of(kSpaceInLine);
-    if (first != line.npos && line[first] == '<') return AddAttributes(line, begin, places);
-    const Span value = ValueToMask(line, deviceType, scope);
-    if (value.length > 0) places.secrets.push_back({begin + value.begin, value.length});
+    const char start = first == line.npos ? ' ' : line[first];
+    if (start == '<' || start == 's') AddAttributes(line, begin, places);
+    if (start == kLogEntry) places.prose.push_back({begin, line.size()});
+    const LabelledValue labelled = ValueToMask(line, deviceType, scope);
+    const Span value = labelled.value.length > 0 ? labelled.value : WrappedValue(line, before);
+    if (value.length > 0 && start != '<') places.secrets.push_back({begin + value.begin, value.length});
+    if (labelled.value.length > 0 || value.length == 0) before = labelled;
   });
   return places;
 }

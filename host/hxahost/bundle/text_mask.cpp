@@ -1,7 +1,6 @@
 #include "host/hxahost/bundle/text_mask.h"
 
 #include <algorithm>
-#include <memory>
 #include <random>
 
 #include "host/hxahost/text/utf8.h"
@@ -35,13 +34,29 @@ void GoOn(std::string& text) {
 
 }  // namespace
 
+// Nothing leads from a mask to its text, whoever knows the other masks: the device is asked for the beginning alone, as
+// it may take long.
 RandomSource SystemRandom() {
-  return [device = std::make_shared<std::random_device>()] { return static_cast<std::uint32_t>((*device)()); };
+  std::random_device device;
+  std::seed_seq seed{device(), device(), device(), device(), device(), device(), device(), device()};
+  return [engine = std::mt19937(seed)]() mutable { return static_cast<std::uint32_t>(engine()); };
 }
 
+// Bytes stay as many, and each at its place. In UTF-8 an upper case letter of ISO 8859-1 is 0xc3 and 0x80 to 0x9e.
 std::string FoldCase(std::string_view text) {
   std::string folded(text);
-  std::ranges::transform(folded, folded.begin(), Lower);
+  const bool isUtf8 = AsUtf8(text) == text;
+  bool isSecondByte = false;
+  for (char& character : folded) {
+    const auto byte = static_cast<unsigned char>(character);
+    const unsigned code = isSecondByte ? byte + 0x40U : isUtf8 ? 0 : byte;
+    isSecondByte = isUtf8 && byte == 0xc3;
+    if (code >= 0xc0 && code <= 0xde && code != 0xd7) {
+      character = static_cast<char>(byte + 0x20);
+    } else {
+      character = character == '\\' ? '/' : Lower(character);
+    }
+  }
   return folded;
 }
 
@@ -94,6 +109,7 @@ std::string TextMask::Mask(std::string_view text) {
   std::string mask = known->second;
   for (std::size_t index = 0; index < text.size(); ++index) {
     if (IsUpper(text[index])) mask[index] = Upper(mask[index]);
+    if (text[index] == '\\') mask[index] = '\\';
   }
   return mask;
 }

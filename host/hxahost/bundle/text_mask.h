@@ -33,7 +33,7 @@ class TextMask {
   std::set<std::string> given_;
 };
 
-// ASCII letters in lower case; all else as it is.
+// Letters of ASCII and ISO 8859-1 in lower case, backslashes as slashes; all else as it is, and at its place.
 std::string FoldCase(std::string_view text);
 
 }  // namespace hxahost
