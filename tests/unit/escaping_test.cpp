@@ -16,7 +16,22 @@ TEST(Escaping, EscapesWhatWouldActOnATerminal) {
   EXPECT_EQ(EscapeControls("a\xe2\x80\xae."), "a\\u202e.") << "turns the direction of the text";
   EXPECT_EQ(EscapeControls("\xef\xbf\xbe\xef\xbf\xbf"), "\\ufffe\\uffff") << "no characters";
   EXPECT_EQ(EscapeControls("a\xf3\xa0\x81\x81\xe1\xa0\x8e."), "a\\U000e0041\\u180e.") << "an invisible letter";
+  EXPECT_EQ(EscapeControls("a\u034f\u115f\u1160\u17b4\u2800\u3164\uffa0\U0001d173\U000e0100\U000e01ef."),
+            "a\\u034f\\u115f\\u1160\\u17b4\\u2800\\u3164\\uffa0\\U0001d173\\U000e0100\\U000e01ef.")
+      << "characters that nobody sees";
   EXPECT_EQ(EscapeControls("C:\\zenx"), "C:\\zenx") << "a path stays as it is";
+}
+
+TEST(Escaping, LeavesAFewMarksOnACharacterAndEscapesALongRunOfThem) {
+  EXPECT_EQ(EscapeControls("e\u0301\u0323 e\u0301\u0301\u0301\u0301"), "e\u0301\u0323 e\u0301\u0301\u0301\u0301");
+  EXPECT_EQ(EscapeControls("e\u0301\u0301\u0301\u0301\u0302\u0303x\u0301"),
+            "e\u0301\u0301\u0301\u0301\\u0302\\u0303x\u0301");
+}
+
+// Bundles of older versions have these characters as they are.
+TEST(Escaping, LeavesInvisibleCharactersInBundlesAsTheirFormatHasThem) {
+  EXPECT_EQ(PrintableLength("\u3164"), 3U);
+  EXPECT_EQ(PrintableLength("\u202e"), 0U);
 }
 
 TEST(Escaping, LosesWhiteSpaceAtBothEndsForPeople) {

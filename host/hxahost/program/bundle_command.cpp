@@ -67,7 +67,7 @@ void ShowHeader(const Bundle& bundle, std::ostream& out) {
   header.runs.clear();
   header.raidLog.reset();
   const std::string text = WriteBundle(header);
-  out << text.substr(0, text.find("items: "));
+  WriteReadable(out, std::string_view(text).substr(0, text.find("items: ")));
   out << "items: " << ItemCount(bundle) << "\n";
 }
 

@@ -1,26 +1,12 @@
 #include "host/hxahost/text/display_width.h"
 
 #include "host/hxahost/text/code_range.h"
+#include "host/hxahost/text/combining.h"
 #include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 
 namespace {
-
-// None: they are drawn over the character before. Marks of scripts whose letters change shape are counted as one.
-constexpr CodeRange kCombining[] = {
-    {0x300,   0x36f  },
-    {0x483,   0x489  },
-    {0x591,   0x5bd  },
-    {0x610,   0x61a  },
-    {0x64b,   0x65f  },
-    {0x1ab0,  0x1aff },
-    {0x1dc0,  0x1dff },
-    {0x20d0,  0x20ff },
-    {0xfe00,  0xfe0f },
-    {0xfe20,  0xfe2f },
-    {0xe0100, 0xe01ef},
-};
 
 // Two columns each.
 constexpr CodeRange kWide[] = {
@@ -36,7 +22,7 @@ constexpr CodeRange kWide[] = {
 };
 
 std::size_t Columns(char32_t code) {
-  if (IsIn(code, kCombining)) return 0;
+  if (IsCombining(code)) return 0;
   return IsIn(code, kWide) ? 2 : 1;
 }
 

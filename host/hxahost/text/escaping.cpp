@@ -4,6 +4,7 @@
 
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/code_range.h"
+#include "host/hxahost/text/combining.h"
 #include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
@@ -26,6 +27,21 @@ constexpr CodeRange kUnsafe[] = {
     {0xe0000, 0xe007f}, // copies of ASCII that nobody sees
 };
 
+// What nobody sees, too, but stands in bundles as it is: their format is older.
+constexpr CodeRange kInvisible[] = {
+    {0x34f,   0x34f  },
+    {0x115f,  0x1160 },
+    {0x17b4,  0x17b5 },
+    {0x2800,  0x2800 },
+    {0x3164,  0x3164 },
+    {0xffa0,  0xffa0 },
+    {0x1d173, 0x1d17a},
+    {0xe0080, 0xe0fff},
+};
+
+// More marks on one character than any language puts there are drawn over the lines above and below.
+constexpr std::size_t kMostMarks = 4;
+
 std::string Escaped(char32_t code) {
   if (code == '\t') return "\\t";
   if (code == '\r') return "\\r";
@@ -38,12 +54,14 @@ std::string Escaped(char32_t code) {
 
 }  // namespace
 
-bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe); }
+bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe) || IsIn(code, kInvisible); }
 
 std::string EscapeControls(std::string_view bytes) {
   std::string printable;
-  ForEachCharacter(AsUtf8(bytes), [&printable](char32_t code, std::string_view character) {
-    IsUnsafe(code) ? printable += Escaped(code) : printable += character;
+  std::size_t marks = 0;
+  ForEachCharacter(AsUtf8(bytes), [&](char32_t code, std::string_view character) {
+    marks = IsCombining(code) ? marks + 1 : 0;
+    IsUnsafe(code) || marks > kMostMarks ? printable += Escaped(code) : printable += character;
   });
   return printable;
 }
@@ -53,7 +71,7 @@ std::string Printable(std::string_view bytes) { return EscapeControls(Trim(bytes
 std::size_t PrintableLength(std::string_view bytes) {
   if (bytes.empty()) return 0;
   const Character character = NextCharacter(bytes);
-  return IsUnsafe(character.code) ? 0 : character.length;
+  return IsIn(character.code, kUnsafe) ? 0 : character.length;
 }
 
 }  // namespace hxahost

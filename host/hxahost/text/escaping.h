@@ -18,7 +18,7 @@ std::string EscapeControls(std::string_view bytes);
 // The same for people, without the white space at both ends.
 std::string Printable(std::string_view bytes);
 
-// The bytes of the first character, where it is valid UTF-8 and none that EscapeControls escapes; 0 otherwise.
+// The bytes of the first character, where it is valid UTF-8 and a bundle has it as it is; 0 otherwise.
 std::size_t PrintableLength(std::string_view bytes);
 
 }  // namespace hxahost

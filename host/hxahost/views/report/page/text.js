@@ -2,7 +2,10 @@
 // direction of the text around it is shown as an escape, as in the tables of the terminal.
 
 const kUnsafeCharacters = new RegExp("[\\u0000-\\u0008\\u000b\\u000c\\u000e-\\u001f\\u007f-\\u009f\\u00ad\\u061c" +
-  "\\u180e\\u200b-\\u200f\\u2028-\\u202e\\u2060-\\u206f\\ufeff\\ufff9-\\ufffb\\u{e0000}-\\u{e007f}]", "gu");
+  "\\u034f\\u115f\\u1160\\u17b4\\u17b5\\u180e\\u200b-\\u200f\\u2028-\\u202e\\u2060-\\u206f\\u2800\\u3164\\ufeff\\uffa0" +
+  "\\ufff9-\\ufffb\\u{1d173}-\\u{1d17a}\\u{e0000}-\\u{e0fff}]", "gu");
+// More marks on one character than any language puts there are drawn over the lines above and below.
+const kFurtherMarks = new RegExp("(?<=\\p{Mn}{4})\\p{Mn}", "gu");
 
 const kLineCharacters = { "\t": "\\t", "\r": "\\r", "\n": "\\n" };
 
@@ -14,7 +17,7 @@ function escapedCharacter(character) {
 
 // Tabs and line ends stay: for text that is shown in lines of its own.
 function visibleLines(text) {
-  return text.replace(kUnsafeCharacters, escapedCharacter);
+  return text.replace(kUnsafeCharacters, escapedCharacter).replace(kFurtherMarks, escapedCharacter);
 }
 
 // One line, without the white space at both ends.
