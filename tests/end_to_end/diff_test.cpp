@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/machine_copy.h"
 
@@ -104,6 +106,21 @@ TEST_F(Diff, EndsWithStatus2AndOneLineWhereItCannotTell) {
     EXPECT_THAT(result.err, StartsWith("hxahost: ")) << each.name;
     EXPECT_THAT(result.err, HasSubstr(each.says)) << each.name;
   }
+}
+
+// What a utility may print is bounded; the result of a bundle is not a utility's.
+TEST_F(Diff, TakesABundleWhoseResultIsLongerThanAnyUtilityMayPrint) {
+  hxahost::Bundle bundle = hxahost::ReadBundleFile(RecordedSampleMachine());
+  const auto logs = std::ranges::find_if(bundle.runs, [](const hxahost::RecordedRun& run) {
+    return hxahost::CommandText(run).find("uart") != std::string::npos;
+  });
+  ASSERT_NE(logs, bundle.runs.end());
+  const std::string line = std::string(999, '\x01') + '\n';  // six bytes each in JSON
+  for (int count = 0; count < 12000; ++count) logs->result.output += line;
+  folder_.Write("large.bundle", hxahost::WriteBundle(bundle));
+  const ProgramResult result = RunHxahost({"diff", RecordedSampleMachine(), Utf8("large.bundle")});
+  EXPECT_LE(result.exitStatus, 1);
+  EXPECT_EQ(result.err, "");
 }
 
 }  // namespace

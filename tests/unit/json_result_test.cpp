@@ -132,6 +132,24 @@ std::string WithValue(const std::string& value) {
 }
 
 // What is made of a value goes as deep as the value does, and so deep that there is no room for it.
+// Objects search their keys one by one: a hundred thousand keys take a minute.
+TEST(JsonResult, RejectsAnObjectWithMoreKeysThanAnyResultHas) {
+  const auto result = [](int keys) {
+    std::string properties;
+    for (int key = 0; key < keys; ++key) properties += (key == 0 ? "\"k" : ",\"k") + std::to_string(key) + "\": 1";
+    const std::string instance = R"({"class": "C", "path": "p", "properties": {)" + properties + "}}";
+    return R"({"format": 1, "machine": "M", "queries": [{"instances": [)" + instance + ", " + instance + "]}]}";
+  };
+  EXPECT_EQ(hxahost::ParseJsonResult(result(1000), "r").instances.size(), 2U);
+  try {
+    hxahost::ParseJsonResult(result(100000), "r");
+    ADD_FAILURE() << "it is read";
+  } catch (const hxahost::ProgramError& error) {
+    EXPECT_EQ(std::string(error.what()),
+              "r is no result of \"hxahost query --format json\": an object has more than 1000 keys.");
+  }
+}
+
 TEST(JsonResult, RejectsValuesNestedTooDeep) {
   const TemporaryFolder folder;
   const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };

@@ -1,5 +1,6 @@
 #include "host/hxahost/diff/diff_source.h"
 
+#include <limits>
 #include <string>
 
 #include "host/hxacore/host_services.h"
@@ -7,6 +8,7 @@
 #include "host/hxahost/bundle/read_bundle.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/input_file.h"
+#include "host/hxahost/system/private_folder.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -17,17 +19,19 @@ namespace {
 
 constexpr int kLimitSeconds = 600;
 
-// Plug-ins collect once in a process, so each bundle is replayed by a process of its own.
+// Plug-ins collect once in a process, so each bundle is replayed by a process of its own. Its result goes through a
+// file: what a program that is run may print is bounded.
 std::string QueryThatReplays(const std::filesystem::path& bundle, std::uint64_t largest) {
-  const auto result =
-      NKVRHXA20::RealServices().spawn(Utf8FromPath(ProgramFile()),
-                                      {"query", "--format", "json", "--runs", "--replay", Utf8FromPath(bundle),
-                                       "--input-limit", std::to_string(largest >> 20U)},
-                                      kLimitSeconds);
-  if (result.exitStatus == 0) return result.output;
-  // After the result, a line says then why nothing was found.
-  if (result.exitStatus == static_cast<int>(ExitStatus::kNothingFound)) {
-    return result.output.substr(0, result.output.rfind('}') + 1);
+  const PrivateFolder folder;
+  const std::filesystem::path output = folder.Path() / "result.json";
+  const auto result = NKVRHXA20::RealServices().spawn(
+      Utf8FromPath(ProgramFile()),
+      {"query", "--format", "json", "--runs", "--replay", Utf8FromPath(bundle), "--input-limit",
+       std::to_string(largest >> 20U), "--output", Utf8FromPath(output)},
+      kLimitSeconds);
+  // Without a controller there is a result, too; a line says then why nothing was found.
+  if (result.exitStatus == 0 || result.exitStatus == static_cast<int>(ExitStatus::kNothingFound)) {
+    return ReadInputFile(output, "a result", std::numeric_limits<std::uint64_t>::max());
   }
   throw ProgramError(ExitStatus::kWrongArguments,
                      Printable(Utf8FromPath(bundle)) + " cannot be replayed: " + Printable(result.output));

@@ -1,5 +1,6 @@
 #include "host/hxahost/result/json_result.h"
 
+#include <array>
 #include <string_view>
 #include <utility>
 
@@ -9,6 +10,7 @@
 #include "host/hxahost/system/input_file.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
+#include "platform/ordinary_file.h"
 
 namespace hxahost {
 
@@ -32,10 +34,23 @@ const Json& Member(const Json& object, const char* name, Json::value_t type) {
   return member;
 }
 
-bool CheckDepth(int depth, Json::parse_event_t, const Json&) {
-  if (depth > kDeepest) throw NoResult("it is nested too deep");
-  return true;
-}
+// An object finds a key by looking at all before it. No class has so many properties by far.
+constexpr std::size_t kMostKeys = 1000;
+
+// Looks at a text while it is parsed.
+class Bounds {
+ public:
+  bool operator()(int depth, Json::parse_event_t event, const Json&) {
+    if (depth > kDeepest) throw NoResult("it is nested too deep");
+    std::size_t& keys = keys_.at(static_cast<std::size_t>(depth));
+    if (event == Json::parse_event_t::object_start) keys_.at(static_cast<std::size_t>(depth) + 1) = 0;
+    if (event == Json::parse_event_t::key && ++keys > kMostKeys) throw NoResult("an object has more than 1000 keys");
+    return true;
+  }
+
+ private:
+  std::array<std::size_t, kDeepest + 2> keys_{};  // of the objects that are open, by depth
+};
 
 ResultInstance ReadInstance(const Json& json) {
   return {Member(json, "class", Json::value_t::string), Member(json, "path", Json::value_t::string),
@@ -106,14 +121,14 @@ JsonResult ReadJsonResult(const std::filesystem::path& file) {
 
 JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
   try {
-    return ReadWholeResult(Json::parse(text, CheckDepth, false));
+    return ReadWholeResult(Json::parse(text, Bounds(), false));
   } catch (const NoResult& reason) {
     RejectFile(name, fmt::format("is no result of \"hxahost query --format json\": {}.", Printable(reason.what())));
   }
 }
 
 void AddJsonLine(JsonResult& result, std::string_view line) {
-  const Json json = Json::parse(line, CheckDepth, false);
+  const Json json = Json::parse(line, Bounds(), false);
   if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
   result.machine = Member(json, "machine", Json::value_t::string);
   result.time = Member(json, "time", Json::value_t::string);
