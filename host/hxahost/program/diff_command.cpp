@@ -1,11 +1,13 @@
 #include "host/hxahost/program/diff_command.h"
 
 #include <exception>
+#include <new>
 
 #include "host/hxahost/diff/diff_source.h"
 #include "host/hxahost/diff/result_diff.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/no_memory.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -34,6 +36,8 @@ int RunDiffCommand(const DiffOptions& options, std::ostream& out) {
     return Compare(options, out);
   } catch (const ProgramError&) {
     throw;
+  } catch (const std::bad_alloc&) {
+    throw ProgramError(ExitStatus::kWrongArguments, kNoMemory);
   } catch (const std::exception& failure) {
     throw ProgramError(ExitStatus::kWrongArguments,
                        "The results could not be compared: " + Printable(failure.what()) + ".");

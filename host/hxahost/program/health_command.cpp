@@ -1,10 +1,12 @@
 #include "host/hxahost/program/health_command.h"
 
 #include <exception>
+#include <new>
 
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_command.h"
+#include "host/hxahost/system/no_memory.h"
 
 namespace hxahost {
 
@@ -37,6 +39,9 @@ Verdict Examine(std::string_view command, const QueryOptions& options, std::ostr
 Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
   try {
     return Examine("health", options, out, err).severity;
+  } catch (const std::bad_alloc&) {
+    if (options.format == "nagios") WriteNagiosFailure(out, kNoMemory);
+    throw;
   } catch (const std::exception& failure) {
     if (options.format == "nagios") WriteNagiosFailure(out, failure.what());  // it reads standard output alone
     throw;

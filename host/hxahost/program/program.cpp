@@ -1,6 +1,7 @@
 #include "host/hxahost/program/program.h"
 
 #include <exception>
+#include <new>
 
 #include "host/hxacore/schema.h"
 #include "host/hxahost/program/bundle_command.h"
@@ -13,6 +14,7 @@
 #include "host/hxahost/program/query_command.h"
 #include "host/hxahost/schema/schema_view.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/no_memory.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/views/monitoring/health_report.h"
 
@@ -68,6 +70,8 @@ int RunProgram(const std::vector<std::string>& arguments, std::ostream& out, std
     return Run(ParseCommandLine(arguments), out, err);
   } catch (const ProgramError& error) {
     return Fail(err, StatusFor(arguments, error.Status()), error.what());
+  } catch (const std::bad_alloc&) {
+    return Fail(err, StatusFor(arguments, ExitStatus::kQueryFailed), kNoMemory);
   } catch (const std::exception& failure) {
     return Fail(err, StatusFor(arguments, ExitStatus::kQueryFailed), "Failed: " + Printable(failure.what()) + ".");
   }

@@ -4,6 +4,7 @@
 #include <exception>
 #include <filesystem>
 #include <iterator>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -98,6 +99,8 @@ Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std
     collection.Finish();
     output.Stream().flush();
   } catch (const ProgramError&) {
+    throw;
+  } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& failure) {
     collection.SaveRecording(out);  // whoever looks for the reason needs it most now

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace hxahost {
+
+// What is said where there is not enough memory.
+inline constexpr const char* kNoMemory =
+    "There is not enough memory: read smaller files (--input-limit), ask for fewer classes (--class), or run it on a "
+    "machine with more.";
+
+}  // namespace hxahost
