@@ -37,6 +37,20 @@ TEST(OutputFile, LeavesWhatWasThereWhenItIsNotFinished) {
   EXPECT_EQ(FileCount(folder.Path()), 1U);
 }
 
+// No process has that number; the other names are none of this file's.
+TEST(OutputFile, RemovesWhatAProgramThatWasKilledHasLeft) {
+  const TemporaryFolder folder;
+  for (const char* const other :
+       {"out.json.part", "out.json.x.part", "out.json.9999999990x.part", "other.999999999.part"}) {
+    folder.Write(other, "");
+  }
+  folder.Write("out.json.999999999.part", "half");
+  OutputFile file(folder.Path() / "out.json");
+  EXPECT_FALSE(fs::exists(folder.Path() / "out.json.999999999.part"));
+  file.Finish();
+  EXPECT_EQ(FileCount(folder.Path()), 5U);
+}
+
 TEST(OutputFile, ReplacesWhatWasThere) {
   const TemporaryFolder folder;
   const fs::path path = folder.Path() / "out.json";

@@ -1,5 +1,8 @@
 #include "host/hxahost/system/output_file.h"
 
+#include <charconv>
+#include <optional>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -22,14 +25,39 @@ fs::path WithoutLinks(const fs::path& path) {
   return error ? path : resolved;
 }
 
+constexpr std::string_view kPart = ".part";
+
+// The number of the process that writes what has this name: "result.json.4711.part" of "result.json".
+std::optional<unsigned long> WriterOf(std::string_view name, std::string_view written) {
+  if (!name.starts_with(written) || !name.ends_with(kPart)) return std::nullopt;
+  const std::size_t begin = written.size() + 1;
+  const std::size_t end = name.size() - kPart.size();
+  unsigned long number = 0;
+  if (begin >= end || name[begin - 1] != '.') return std::nullopt;
+  const auto [stop, error] = std::from_chars(name.data() + begin, name.data() + end, number);
+  return error == std::errc() && stop == name.data() + end ? std::optional(number) : std::nullopt;
+}
+
+// What programs that were killed have left. Those that still run write theirs.
+void RemoveAbandoned(const fs::path& path) {
+  const std::string written = Utf8FromPath(path.filename());
+  const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";
+  std::error_code failure;
+  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+    const auto writer = WriterOf(Utf8FromPath(entry->path().filename()), written);
+    std::error_code ignored;
+    if (writer && !IsProcessRunning(*writer) && fs::is_regular_file(entry->symlink_status(ignored))) {
+      fs::remove(entry->path(), ignored);
+    }
+  }
+}
+
 fs::path WrittenName(const fs::path& path) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
   if (fs::exists(status) && !fs::is_regular_file(status)) return path;
   fs::path name = path;
-  name += ".";
-  name += std::to_string(ProcessId());
-  name += ".part";
+  name += "." + std::to_string(ProcessId()) + std::string(kPart);
   return name;
 }
 
@@ -45,7 +73,9 @@ OutputFile::OutputFile(const fs::path& path, std::string option)
                                                         " cannot be written: name a file in a folder that is there "
                                                         "and that you may write to.");
   }
-  if (written_ != path_) CopyRights(path_, written_);
+  if (written_ == path_) return;
+  CopyRights(path_, written_);
+  RemoveAbandoned(path_);
 }
 
 OutputFile::~OutputFile() {

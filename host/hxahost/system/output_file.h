@@ -8,8 +8,8 @@
 namespace hxahost {
 
 // A file that is there complete or not at all: it is written under another name in the same folder and renamed at
-// the end, with the owner and the rights of the file that it replaces. What is no ordinary file (a device, a pipe) is
-// written directly.
+// the end, with the owner and the rights of the file that it replaces. What programs that were killed have left of it
+// is removed. What is no ordinary file (a device, a pipe) is written directly.
 class OutputFile {
  public:
   // Opens it. Throws ProgramError, which names the option, when it cannot be written there.

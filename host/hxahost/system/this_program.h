@@ -15,4 +15,7 @@ std::filesystem::path ProgramFolder();
 
 unsigned long ProcessId();
 
+// Whether a process of this machine has the number.
+bool IsProcessRunning(unsigned long process);
+
 }  // namespace hxahost

@@ -16,6 +16,14 @@ namespace {
 using namespace hxahost;
 namespace fs = std::filesystem;
 
+TEST(OutputFilePosix, LeavesWhatAProgramThatStillRunsIsWriting) {
+  const TemporaryFolder folder;
+  const fs::path theirs = folder.Write("out.json." + std::to_string(getppid()) + ".part", "half");
+  OutputFile file(folder.Path() / "out.json");
+  file.Finish();
+  EXPECT_EQ(FileText(theirs), "half");
+}
+
 TEST(OutputFilePosix, WritesThroughALinkToTheFileBehindIt) {
   const TemporaryFolder folder;
   WriteFileText(folder.Path() / "file", "before");

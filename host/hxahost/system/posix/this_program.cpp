@@ -1,5 +1,9 @@
 #include "host/hxahost/system/this_program.h"
 
+#include <cerrno>
+#include <csignal>
+#include <limits>
+
 #include <unistd.h>
 
 namespace hxahost {
@@ -12,5 +16,11 @@ std::filesystem::path ProgramFile() { return std::filesystem::read_symlink("/pro
 std::filesystem::path ProgramFolder() { return ProgramFile().parent_path(); }
 
 unsigned long ProcessId() { return static_cast<unsigned long>(getpid()); }
+
+// Numbers that none can have stand for groups of processes in the call.
+bool IsProcessRunning(unsigned long process) {
+  if (process == 0 || process > static_cast<unsigned long>(std::numeric_limits<pid_t>::max())) return false;
+  return kill(static_cast<pid_t>(process), 0) == 0 || errno != ESRCH;
+}
 
 }  // namespace hxahost

@@ -39,4 +39,13 @@ std::filesystem::path ProgramFolder() { return ProgramFile().parent_path(); }
 
 unsigned long ProcessId() { return GetCurrentProcessId(); }
 
+// Somebody else's may not be opened.
+bool IsProcessRunning(unsigned long process) {
+  const HANDLE opened = OpenProcess(SYNCHRONIZE, FALSE, process);
+  if (opened == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;
+  const bool isRunning = WaitForSingleObject(opened, 0) == WAIT_TIMEOUT;
+  CloseHandle(opened);
+  return isRunning;
+}
+
 }  // namespace hxahost
