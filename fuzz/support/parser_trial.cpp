@@ -53,7 +53,7 @@ void RequireBeginning(const std::vector<std::shared_ptr<Record>>& cut,
 void TryCutOff(const ReportParser& parser, std::string_view report, const ZenxController& whole) {
   if (report.empty()) return;
   const auto place = report.size() * static_cast<unsigned char>(report.back()) / 256;
-  const std::string_view beginning = report.substr(0, place);
+  const std::string_view beginning = report.substr(0, report.rfind('\n', place) + 1);  // whole lines count
   if (Contains(beginning, parser.decidingHeading) != Contains(report, parser.decidingHeading)) return;
   const Controller cut = Read(parser, beginning);
   RequireBeginning(cut->LogicalDevices, whole.LogicalDevices);
