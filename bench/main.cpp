@@ -220,6 +220,58 @@ void MeasureLog(Table& table, const std::string& program) {
                 50'000);
 }
 
+// Results of machines with 16 disks, in a folder that goes with it.
+class FleetFolder {
+ public:
+  FleetFolder(const std::string& result, int machines) : folder_(fs::temp_directory_path() / "zenx-bench-fleet") {
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+    const std::string key = "\"machine\": \"";
+    const std::size_t name = result.find(key) + key.size();
+    for (int number = 0; number < machines; ++number) {
+      const std::string machine = "M" + std::to_string(number);
+      std::ofstream(folder_ / (machine + ".json"), std::ios::binary)
+          << result.substr(0, name) << machine << result.substr(name);
+    }
+  }
+  ~FleetFolder() { fs::remove_all(folder_); }
+  FleetFolder(const FleetFolder&) = delete;
+  FleetFolder& operator=(const FleetFolder&) = delete;
+
+  std::string Path() const { return folder_.string(); }
+
+ private:
+  fs::path folder_;
+};
+
+constexpr int kFleet = 500;  // machines; twice and four times as many take as much longer, and no more memory
+constexpr int kLargeFleet = 10'000;
+constexpr int kFleetDisks = 16;
+constexpr double kFleetMemory = 1.25;  // the names of the files
+
+void MeasureFleet(Table& table, const std::string& program) {
+  const std::string result = [&] {
+    const Machine machine(kFleetDisks);
+    return OutputOf({program, "query", "--format", "json", "--runs"});
+  }();
+  for (const std::string format : {"table", "jsonl", "csv"}) {
+    std::vector<Cost> costs;
+    for (const int times : {1, 2, 4}) {
+      const FleetFolder folder(result, times * kFleet);
+      costs.push_back(CostOf({program, "fleet", "--format", format, folder.Path()}, true));
+    }
+    for (std::size_t place = 1; place < costs.size(); ++place) {
+      const int times = 1 << place;
+      const std::string what = "fleet, " + format + ": " + std::to_string(times) + " times the machines: ";
+      table.AtMost(what + "processors", costs[place].busy / costs.front().busy, times * kSteepest);
+      if (format != "table") table.AtMost(what + "memory", costs[place].peakMiB / costs.front().peakMiB, kFleetMemory);
+    }
+  }
+  const FleetFolder folder(result, kLargeFleet);
+  table.AtMost("fleet: seconds for 10,000 results of 16 disks", CostOf({program, "fleet", folder.Path()}, true).wall,
+               60);
+}
+
 }  // namespace
 
 int main() {
@@ -231,6 +283,7 @@ int main() {
     MeasureTools(table);
     MeasureGrowth(table, program);
     MeasureLog(table, program);
+    MeasureFleet(table, program);
     return table.IsMet() ? 0 : 1;
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "%s\n", failure.what());
