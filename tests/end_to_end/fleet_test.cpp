@@ -114,8 +114,8 @@ TEST_F(FleetCommand, WritesAPageThatLinksToTheNewestReportOfEachMachine) {
   EXPECT_THAT(page, HasSubstr("<a href=\"pages/machine-DB02.html\">DB02</a>"));
   EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB02.html"), HasSubstr("<h1>RAID report: DB02</h1>"));
   EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB01.html"), HasSubstr("OK: no fault found"));
-  EXPECT_EQ(Run({"--pages", File("pages"), Folder()}).err,
-            "hxahost: --pages is for what --format html links to: give that, or leave it out.\n");
+  EXPECT_THAT(Run({"--pages", File("pages"), Folder()}).err,
+              HasSubstr("hxahost: --pages is for what --format html links to: give that, or leave it out."));
 }
 
 TEST_F(FleetCommand, EndsWithStatus4WhereNothingHoldsAMachine) {
@@ -128,7 +128,7 @@ TEST_F(FleetCommand, SaysWhichArgumentIsWrong) {
   EXPECT_EQ(Run({File("nowhere")}).err,
             "hxahost: " + File("nowhere") + " is not there: name results, bundles or folders of them.\n");
   EXPECT_EQ(Run({File("nowhere")}).exitStatus, 2);
-  EXPECT_EQ(Run({"--stale", "soon", Folder()}).err, "hxahost: --stale \"soon\": give a number of days.\n");
+  EXPECT_THAT(Run({"--stale", "soon", Folder()}).err, HasSubstr("hxahost: --stale \"soon\": give a number of days."));
   EXPECT_EQ(Run({}).exitStatus, 2);
 }
 
