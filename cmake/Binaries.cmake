@@ -101,7 +101,7 @@ endforeach()
 
 # Programs find a DLL beside themselves: the compiler's runtime is put there, so that the folder runs as it is.
 if(MINGW)
-  set(runtime_libraries libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+  set(runtime_libraries libstdc++-6.dll libgcc_s_seh-1.dll libssp-0.dll libwinpthread-1.dll)
   foreach(runtime ${runtime_libraries})
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime} OUTPUT_VARIABLE path
                     OUTPUT_STRIP_TRAILING_WHITESPACE)
@@ -109,3 +109,8 @@ if(MINGW)
     configure_file(${path} ${CMAKE_BINARY_DIR}/bin/${runtime} COPYONLY)
   endforeach()
 endif()
+
+add_windows_resources(hxahost "RAID collector: shows which disk to replace")
+add_windows_resources(hxacore "RAID collector: services of the stand-alone host")
+add_windows_resources(plugin_manager "RAID collector: plug-in manager of the stand-alone host")
+add_windows_resources(zenx "RAID collector: plug-in")

@@ -54,8 +54,12 @@ ${CMAKE_SOURCE_DIR}/CHANGELOG.md=share/doc/zenx/changelog\")
     set(debian_copyright share/doc/zenx/copyright)
     set(debian_version ${PROJECT_VERSION}-1)")
 endif()
-install(CODE "set(packaging \"${CMAKE_SOURCE_DIR}/packaging\")")
+install(CODE "set(packaging \"${CMAKE_SOURCE_DIR}/packaging\")
+  set(system ${system})
+  set(version ${PROJECT_VERSION})
+  set(sbom $<IF:$<BOOL:${WIN32}>,licences,share/doc/zenx>/zenx.spdx.json)")
 install(SCRIPT cmake/install_texts.cmake)
+install(SCRIPT cmake/install_sbom.cmake)
 
 # The .deb. scripts/package makes the archives of what is installed.
 if(NOT WIN32)
