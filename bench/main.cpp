@@ -119,6 +119,49 @@ void MeasureCollection(Table& table, const std::string& program) {
   table.AtMost(what + "processors", Median(busy), 1.25);
 }
 
+// The sample machine with utilities that take 50 ms for each answer; the working directory until it goes.
+class SlowMachine {
+ public:
+  SlowMachine() : folder_(fs::temp_directory_path() / "zenx-bench-slow") {
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+    fs::copy(SampleMachine() / "zenx", folder_ / "zenx" / "quick", fs::copy_options::recursive);
+    for (const std::string tool : {"qcmdrun", "hrconf_64", "arcconf"}) {
+      const fs::path script = folder_ / "zenx" / (tool + ".exe");
+      std::ofstream(script) << "#!/bin/sh\nsleep 0.05\nexec zenx/quick/" << tool << ".exe \"$@\"\n";
+      fs::permissions(script, fs::perms::owner_all);
+    }
+    fs::current_path(folder_);
+  }
+  ~SlowMachine() {
+    fs::current_path("/");
+    fs::remove_all(folder_);
+  }
+  SlowMachine(const SlowMachine&) = delete;
+  SlowMachine& operator=(const SlowMachine&) = delete;
+
+ private:
+  fs::path folder_;
+};
+
+// Of utilities that take their time, what counts is how often they are asked.
+void MeasureSlowTools(Table& table, const std::string& program) {
+  constexpr int kSlowRounds = 5;
+  const SlowMachine machine;
+  const std::vector<Command> commands = CommandsOf(program);
+  std::vector<double> health;
+  std::vector<double> query;
+  for (int round = 0; round < kSlowRounds; ++round) {
+    double bare = 0;
+    for (const Command& command : commands) bare += CostOf(command, false).wall;
+    health.push_back(CostOf({program, "health"}, false).wall / bare);
+    query.push_back(CostOf({program, "query", "--format", "json"}, true).wall / bare);
+  }
+  const std::string what = " / " + std::to_string(commands.size()) + " tool runs of 50 ms alone";
+  table.AtMost("health" + what, Median(health), 0.6);
+  table.AtMost("query" + what, Median(query), 1.03);
+}
+
 void MeasureTools(Table& table) {
   for (const MeasuredTool& tool : MeasuredTools()) {
     std::vector<double> seconds;
@@ -280,6 +323,7 @@ int main() {
     fs::current_path(SampleMachine());
     Table table;
     MeasureCollection(table, program);
+    MeasureSlowTools(table, program);
     MeasureTools(table);
     MeasureGrowth(table, program);
     MeasureLog(table, program);

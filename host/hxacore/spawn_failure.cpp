@@ -16,8 +16,9 @@ std::string EndText(long process) {
 
 }  // namespace
 
-void ThrowNotStarted(const std::string& path, const std::string& reason) {
-  throw TSpawnException(SpawnFailure::kNotStarted, fmt::format("\"{}\" cannot be started: {}", path, reason));
+void ThrowNotStarted(const std::string& path, const std::string& reason, bool isThere) {
+  throw TSpawnException(isThere ? SpawnFailure::kNotStarted : SpawnFailure::kNotInstalled,
+                        fmt::format("\"{}\" cannot be started: {}", path, reason));
 }
 
 void ThrowTooLong(const std::string& path, int limitSeconds, long process) {

@@ -26,7 +26,13 @@ struct SpawnResult {
 };
 
 // Why a program gave nothing.
-enum class SpawnFailure { kNotStarted, kTooLong, kTooMuchOutput };
+enum class SpawnFailure {
+  kNotInstalled,  // there is no such file
+  kNotAsked,      // the host does not run it any more
+  kNotStarted,
+  kTooLong,
+  kTooMuchOutput,
+};
 
 // What a spawn service throws: to the plug-in an exception as any other, to the host one with a reason it can tell.
 class HXACORE_API TSpawnException : public THXAException {

@@ -29,6 +29,7 @@ using Json = nlohmann::ordered_json;
 using hxahost::Utf8FromPath;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 constexpr const char* kRaidLogFolder = "raid-manager\\";
 
@@ -251,12 +252,36 @@ std::string Without(const std::string& command) {
 
 TEST_F(Bundles, ThatLackACommandAreAnErrorThatNamesIt) {
   const std::string lacking = Utf8FromPath(folder_.Write("l.bundle", Without("zenx//arcconf.exe getlogs 2 uart")));
-  for (const std::string command : {"query", "health"}) {
-    const ProgramResult result = RunHxahost({command, "--replay", lacking, "--output", Name("out")});
-    EXPECT_EQ(result.exitStatus, command == "query" ? 1 : 3);
-    EXPECT_THAT(result.err, HasSubstr("zenx//arcconf.exe getlogs 2 uart"));
-    EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << result.err;
-    EXPECT_FALSE(fs::exists(folder_.Path() / "out"));
+  const ProgramResult result = RunHxahost({"query", "--replay", lacking, "--output", Name("out")});
+  EXPECT_EQ(result.exitStatus, 1);
+  EXPECT_THAT(result.err, HasSubstr("zenx//arcconf.exe getlogs 2 uart"));
+  EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << result.err;
+  EXPECT_FALSE(fs::exists(folder_.Path() / "out"));
+}
+
+TEST_F(Bundles, ThatLackACommandGiveAVerdictThatSaysSo) {
+  const std::string lacking = Utf8FromPath(folder_.Write("l.bundle", Without("zenx//qcmdrun.exe getconfig 1 al")));
+  const ProgramResult health = RunHxahost({"health", "--replay", lacking});
+  EXPECT_EQ(health.exitStatus, 3);
+  EXPECT_EQ(health.err, "");
+  EXPECT_THAT(health.out,
+              AllOf(StartsWith("UNKNOWN: "), HasSubstr("the bundle does not hold zenx//qcmdrun.exe getconfig 1 al\n")));
+  EXPECT_THAT(RunHxahost({"status", "--replay", lacking}).out, HasSubstr("the bundle does not hold zenx//qcmdrun.exe"));
+  EXPECT_THAT(RunHxahost({"health", "--format", "nagios", "--replay", lacking}).out, StartsWith("ZENX UNKNOWN - "));
+}
+
+TEST_F(Bundles, OfACollectionThatAsksOnceHoldEachAnswerOnceAndReplayInBothModes) {
+  const RaidLogSetting setting(kRaidLogFolder);
+  const std::vector<std::string> time = {"--local-time", "20261121093000.000000+060"};
+  Run({"query", "--ask-once", "--format", "json", "--directory", Sample(), "--record", Name("m.bundle"), "--output",
+       Name("live"), "--local-time", time[1]});
+  const hxahost::Bundle recorded = hxahost::ReadBundleFile(folder_.Path() / "m.bundle");
+  std::set<std::string> commands;
+  for (const auto& run : recorded.runs) EXPECT_TRUE(commands.insert(CommandText(run)).second) << CommandText(run);
+  EXPECT_EQ(commands.size(), 42U);
+  for (const char* const mode : {"--ask-once", "--ask-again"}) {
+    const std::string again = Run({"query", mode, "--format", "json", "--replay", Name("m.bundle")});
+    EXPECT_TRUE(WithoutLine(again, kReplayedKey) == Text("live")) << mode;
   }
 }
 

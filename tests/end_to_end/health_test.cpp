@@ -19,6 +19,7 @@ namespace fs = std::filesystem;
 using hxahost::Utf8FromPath;
 using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 ProgramResult HealthOf(const MachineCopy& machine, std::vector<std::string> further = {}) {
@@ -59,19 +60,89 @@ TEST(Health, IsAsBadAsTheOneThingThatIsWrong) {
   ExpectHealth("Command completed successfully.", "", 3, "unknown  hrconf_64 cut off");
 }
 
-TEST(Health, IsUnknownWhereAUtilityIsMissing) {
+TEST(Health, IsInformationWhereAUtilityIsNotInstalledAndUnknownWhereItIsExpectedOrNoneIs) {
   const MachineCopy machine;
   machine.LeaveOnly("hrconf_64");
   machine.RemoveTool("arcconf");
   ProgramResult result = HealthOf(machine);
+  EXPECT_EQ(result.exitStatus, 0);
+  EXPECT_THAT(result.out, AllOf(StartsWith("OK: nothing is wrong on HOST (1 controller"),
+                                HasSubstr("\ninfo     arcconf is not installed\n")));
+  result = HealthOf(machine, {"--expect", "qcmdrun,arcconf"});
   EXPECT_EQ(result.exitStatus, 3);
-  EXPECT_THAT(result.out,
-              AllOf(HasSubstr("UNKNOWN: 1 unknown on HOST (1 controller"), HasSubstr("unknown  arcconf not started")));
+  EXPECT_THAT(result.out, AllOf(HasSubstr("UNKNOWN: 1 unknown on HOST (1 controller"),
+                                HasSubstr("unknown  arcconf not installed: \"zenx//arcconf.exe\" cannot be started")));
   machine.RemoveTool("qcmdrun");
   machine.RemoveTool("hrconf_64");
   result = HealthOf(machine);
   EXPECT_EQ(result.exitStatus, 3);
-  EXPECT_THAT(result.out, StartsWith("UNKNOWN: 3 unknown on HOST (0 controllers, 0 logical drives, 0 devices)\n"));
+  EXPECT_THAT(result.out, AllOf(StartsWith("UNKNOWN: 1 unknown on HOST (0 controllers, 0 logical drives, 0 devices)\n"),
+                                HasSubstr("not installed are qcmdrun, hrconf_64, arcconf")));
+}
+
+TEST(Health, IsUnknownWhereAUtilityIsThereButCannotBeRun) {
+  const MachineCopy machine;
+  machine.LeaveOnly("hrconf_64");
+  machine.RemoveTool("arcconf");
+  machine.SetTool("arcconf", "\x01no program");
+  const ProgramResult result = HealthOf(machine);
+  EXPECT_EQ(result.exitStatus, 3);
+  EXPECT_THAT(result.out, HasSubstr("unknown  arcconf not started: \"zenx//arcconf.exe\" cannot be started: "));
+}
+
+TEST(Health, ReplaysAUtilityThatIsNotInstalledAsIt) {
+  const MachineCopy machine;
+  machine.LeaveOnly("hrconf_64");
+  machine.RemoveTool("arcconf");
+  const TemporaryFolder folder;
+  const std::string bundle = Utf8FromPath(folder.Path() / "machine.bundle");
+  ASSERT_EQ(HealthOf(machine, {"--record", bundle}).exitStatus, 0);
+  EXPECT_EQ(RunHxahost({"health", "--replay", bundle}).exitStatus, 0);
+  EXPECT_EQ(RunHxahost({"health", "--replay", bundle, "--expect", "arcconf"}).exitStatus, 3);
+}
+
+TEST(Health, ShowsAUtilityThatIsNotInstalledInEveryForm) {
+  const MachineCopy machine;
+  machine.LeaveOnly("hrconf_64");
+  machine.RemoveTool("arcconf");
+  const auto shows = [&](std::vector<std::string> arguments, const std::string& text) {
+    arguments.insert(arguments.end(), {"--directory", machine.Directory()});
+    EXPECT_THAT(RunHxahost(arguments).out, HasSubstr(text)) << arguments[0];
+  };
+  shows({"status"}, "info     arcconf is not installed\n");
+  shows({"health", "--format", "nagios"}, "\ninfo: arcconf is not installed");
+  shows({"health", "--format", "prometheus"}, "zenx_incident{subject=\"arcconf\"} 0\n");
+  shows({"health", "--format", "json"}, "\"isInstalled\": false");
+  shows({"query", "--format", "html"}, "<h3>arcconf is not installed</h3>");
+  shows({"query"}, "info     arcconf is not installed\n");
+}
+
+TEST(Health, ComparesWithABaselineThatWasSavedBefore) {
+  const MachineCopy machine;
+  const TemporaryFolder folder;
+  const std::string baseline = Utf8FromPath(folder.Path() / "baseline.json");
+  EXPECT_EQ(HealthOf(machine, {"--save-baseline", baseline}).err, "");
+  const std::string same = HealthOf(machine, {"--baseline", baseline}).out;
+  EXPECT_THAT(same, AllOf(Not(HasSubstr("is missing")), Not(HasSubstr("is new")), Not(HasSubstr("was moved"))));
+  machine.RemoveControllers("arcconf");
+  machine.RemoveController("qcmdrun", "2");
+  const ProgramResult result =
+      HealthOf(machine, {"--baseline", baseline, "--expect-controllers", "5", "--expect-disks", "30"});
+  EXPECT_EQ(result.exitStatus, 2);
+  EXPECT_THAT(result.out,
+              AllOf(HasSubstr("critical C2 with "), HasSubstr("critical C4 with "), HasSubstr("critical C5 with "),
+                    HasSubstr("critical 2 of 5 controllers are there"), HasSubstr(" of 30 disks are there")));
+}
+
+TEST(Health, SavesNoBaselineWhereAUtilityDidNotAnswer) {
+  const MachineCopy machine;
+  machine.SetAnswer("hrconf_64/other", "Something new\n");
+  const TemporaryFolder folder;
+  const fs::path file = folder.Write("baseline.json", "old");
+  const ProgramResult result = HealthOf(machine, {"--save-baseline", Utf8FromPath(file)});
+  EXPECT_THAT(result.err, HasSubstr("nothing was saved"));
+  EXPECT_EQ(FileText(file), "old");
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 1);
 }
 
 TEST(Health, TellsNagiosOfItsOwnFailureOnStandardOutput) {

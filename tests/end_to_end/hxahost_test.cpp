@@ -113,8 +113,8 @@ TEST_F(Hxahost, FindsNothingWithoutTheFolderOfToolsAndNamesTheTools) {
   std::string line = result.err;
   std::erase(line, '\r');  // of the line's end on Windows
   EXPECT_EQ(line,
-            "hxahost: No tool answered: qcmdrun not started, hrconf_64 not started, arcconf not started. Tools belong "
-            "into a folder zenx; name the folder above it with --directory.\n");
+            "hxahost: No tool answered: qcmdrun not installed, hrconf_64 not installed, arcconf not installed. Tools "
+            "belong into a folder zenx; name the folder above it with --directory.\n");
   const auto query = nlohmann::json::parse(result.out)["queries"][0];
   for (const auto& instance : query["instances"]) {
     EXPECT_EQ(instance["class"], "KVRSG_zxRawData") << "commands that failed, and nothing else";

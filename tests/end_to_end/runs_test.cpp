@@ -71,8 +71,8 @@ TEST(Runs, TellAMissingToolACutAnswerAndAnEmptyAnswerApart) {
   const std::string log = machine.Directory() + "/log.txt";
   const ProgramResult result = RunHxahost({"query", "--directory", machine.Directory(), "--log", log});
   EXPECT_EQ(result.exitStatus, 0);
-  EXPECT_THAT(result.out, HasSubstr("  qcmdrun: 80 runs, no controller answered, 80 not started, "));
-  EXPECT_THAT(result.out, HasSubstr("    not started (80 runs, the first getconfig 1 al):"));
+  EXPECT_THAT(result.out, HasSubstr("  qcmdrun: 80 runs, no controller answered, 80 not installed, "));
+  EXPECT_THAT(result.out, HasSubstr("    not installed (80 runs, the first getconfig 1 al):"));
   EXPECT_THAT(result.out, HasSubstr("  Tools belong into the folder zenx of "));
   EXPECT_THAT(result.out, HasSubstr("  arcconf: 26 runs, 1 controller (2), numbers 3-8 refused, 3 cut off, 1 empty, "));
   EXPECT_THAT(result.out, HasSubstr("    cut off (3 runs, the first getconfig 1 al):\n      its last line is "));

@@ -42,7 +42,7 @@ TEST(SpawnResult, HasTheExitStatusOfTheProgram) {
 }
 
 TEST(SpawnResult, TellsAProgramThatCannotBeStartedFromOneThatTakesTooLong) {
-  EXPECT_EQ(FailureOf("zenx//missing.exe", {}, kGenerous), static_cast<int>(SpawnFailure::kNotStarted));
+  EXPECT_EQ(FailureOf("zenx//missing.exe", {}, kGenerous), static_cast<int>(SpawnFailure::kNotInstalled));
   EXPECT_EQ(FailureOf(ChildPath(), {"sleep", "300"}, 1), static_cast<int>(SpawnFailure::kTooLong));
 }
 

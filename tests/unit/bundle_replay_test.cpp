@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/hxahost/system/exit_status.h"
 #include "tests/support/sample_bundle.h"
 
 namespace {
@@ -11,20 +10,9 @@ namespace {
 using namespace hxahost;
 using namespace NKVRHXA20;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 constexpr const char* kArcconf = "zenx//arcconf.exe";
-
-std::string Missing(const BundleReplay& replay) {
-  try {
-    replay.CheckNothingWasMissing();
-    return "";
-  } catch (const ProgramError& error) {
-    EXPECT_EQ(error.Status(), ExitStatus::kQueryFailed);
-    return error.what();
-  }
-}
 
 TEST(BundleReplay, GivesWhatTheToolsGave) {
   BundleReplay replay(SampleBundle());
@@ -43,7 +31,7 @@ TEST(BundleReplay, GivesWhatTheToolsGave) {
     EXPECT_EQ(failure.Seconds(), 300.5);
   }
   EXPECT_THAT(replay.UnusedRuns(), IsEmpty());
-  EXPECT_EQ(Missing(replay), "");
+  EXPECT_EQ(replay.Missing(), "");
 }
 
 TEST(BundleReplay, ThrowsEachKindOfFailureAsItWas) {
@@ -53,6 +41,8 @@ TEST(BundleReplay, ThrowsEachKindOfFailureAsItWas) {
     BundleReplay replay(bundle);
     replay.Services().spawn("zenx//qcmdrun.exe", {}, 300);
   };
+  EXPECT_THROW(thrown(FailureKind::kNotInstalled), TSpawnException);
+  EXPECT_THROW(thrown(FailureKind::kNotAsked), TSpawnException);
   EXPECT_THROW(thrown(FailureKind::kNotStarted), TSpawnException);
   EXPECT_THROW(thrown(FailureKind::kTooMuchOutput), TSpawnException);
   EXPECT_THROW(thrown(FailureKind::kHost), THXAException);
@@ -67,7 +57,7 @@ TEST(BundleReplay, ThrowsEachKindOfFailureAsItWas) {
       std::runtime_error);
 }
 
-TEST(BundleReplay, RepeatsTheSameCommandInItsOrder) {
+TEST(BundleReplay, RepeatsTheSameCommandInItsOrderAndThenTheLast) {
   Bundle bundle = SampleBundle();
   bundle.runs.push_back(bundle.runs[0]);
   bundle.runs.back().result.output = "second";
@@ -77,14 +67,14 @@ TEST(BundleReplay, RepeatsTheSameCommandInItsOrder) {
   EXPECT_THAT(replay.UnusedRuns(),
               ElementsAre("zenx//arcconf.exe getconfig 1 al", "zenx//arcconf.exe getlogs 1 ", "zenx//qcmdrun.exe"));
   EXPECT_EQ(services.spawn(kArcconf, {"getconfig", "1", "al"}, 300).output, "second");
-  EXPECT_ANY_THROW(services.spawn(kArcconf, {"getconfig", "1", "al"}, 300));
-  EXPECT_THAT(Missing(replay), HasSubstr("zenx//arcconf.exe getconfig 1 al, run once more than it was recorded"));
+  EXPECT_EQ(services.spawn(kArcconf, {"getconfig", "1", "al"}, 300).output, "second") << "as from memory";
+  EXPECT_EQ(replay.Missing(), "");
 }
 
 TEST(BundleReplay, NamesACommandThatItDoesNotHold) {
   BundleReplay replay(SampleBundle());
   EXPECT_ANY_THROW(replay.Services().spawn(kArcconf, {"getconfig", "2", "al"}, 300));
-  EXPECT_THAT(Missing(replay), HasSubstr(": zenx//arcconf.exe getconfig 2 al."));
+  EXPECT_EQ(replay.Missing(), "zenx//arcconf.exe getconfig 2 al");
 }
 
 TEST(BundleReplay, GivesTheTimesInTheirOrderAndThenTheLast) {
@@ -105,12 +95,12 @@ TEST(BundleReplay, GivesTheLogOrTheReasonWhyItCouldNotBeCaptured) {
   locked.raidLog->failure = RecordedFailure{FailureKind::kHost, "locked"};
   BundleReplay failing(locked);
   EXPECT_THROW(failing.Services().capture("any"), THXAException);
-  EXPECT_EQ(Missing(failing), "");
+  EXPECT_EQ(failing.Missing(), "");
   Bundle without = SampleBundle();
   without.raidLog.reset();
   BundleReplay lacking(without);
   EXPECT_ANY_THROW(lacking.Services().capture("file"));
-  EXPECT_THAT(Missing(lacking), HasSubstr("the file file"));
+  EXPECT_EQ(lacking.Missing(), "the file file");
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ TEST_F(CollectionServicesTest, KeepARunThatFailsAndShowItsCommandMeanwhile) {
   EXPECT_THAT(terminal.str(), testing::StartsWith("\rno//such.exe getconfig 1 al (1 of about 48)\r"));
   ASSERT_EQ(runs_.size(), 1U);
   EXPECT_EQ(runs_[0].path, "no//such.exe");
-  EXPECT_EQ(OutcomeWord(runs_[0].outcome), "not started");
+  EXPECT_EQ(OutcomeWord(runs_[0].outcome), "not installed");
 }
 
 }  // namespace

@@ -30,6 +30,12 @@ std::vector<std::string> FindingsOf(const HealthyMachine& machine) {
   return findings;
 }
 
+HealthyMachine WithoutRunsOf(const std::string& tool) {
+  HealthyMachine machine;
+  std::erase_if(machine.runs, [&tool](const ToolRun& run) { return ToolName(run.path) == tool; });
+  return machine;
+}
+
 HealthyMachine WithRun(const ToolRun& run) {
   HealthyMachine machine;
   machine.runs.push_back(run);
@@ -138,7 +144,7 @@ TEST(Health, TellsWhatWentWrongWithTheTools) {
       {RunOf("qcmdrun",   {"getconfig", "1", "al"}, Outcome::kNotStarted, "not here"),
        "unknown: qcmdrun, outcome \"not started: not here\""          },
       {RunOf("arcconf",   {"getlogs", "1", "uart"}, Outcome::kTimedOut,   "300 s"),
-       "warning: arcconf, outcome \"timed out: 300 s\""               },
+       "unknown: arcconf, outcome \"timed out: 300 s\""               },
       {RunOf("arcconf",   {"getconfig", "1", "al"}, Outcome::kCutOff,     "its last line is \"x\""),
        "unknown: arcconf, outcome \"cut off: its last line is \"x\"\""},
       {RunOf("hrconf_64", {"getconfig", "1", "al"}, Outcome::kEmpty,      "it wrote nothing"),
@@ -159,6 +165,35 @@ TEST(Health, IsUnknownWhereNoToolCanBeRun) {
   const Findings findings = BuildMachine(machine.Header(), machine.Result()).findings;
   EXPECT_EQ(findings.size(), 3U);
   EXPECT_EQ(WorstOf(findings), Severity::kUnknown);
+}
+
+TEST(Health, IsUnknownWhereNoToolIsInstalled) {
+  HealthyMachine machine;
+  machine.devices.clear();
+  machine.runs = {RunOf("qcmdrun", {"getconfig", "1", "al"}, Outcome::kNotInstalled, "no such file"),
+                  RunOf("arcconf", {"getconfig", "1", "al"}, Outcome::kNotInstalled, "no such file")};
+  EXPECT_THAT(FindingsOf(machine),
+              ElementsAre("unknown: collection, controllers \"found no utility: not installed are qcmdrun, arcconf\""));
+}
+
+TEST(Health, MissesAUtilityThatIsNotInstalledOnlyWhereItIsExpectedOrWasThere) {
+  HealthyMachine machine = WithoutRunsOf("hrconf_64");
+  machine.runs.push_back(RunOf("hrconf_64", {"getconfig", "1", "al"}, Outcome::kNotInstalled, "no such file"));
+  EXPECT_THAT(FindingsOf(machine), IsEmpty());
+  QueryHeader header = machine.Header();
+  header.expectations.tools = {"hrconf_64"};
+  EXPECT_EQ(BuildMachine(header, machine.Result()).findings.size(), 1U);
+  machine.runs.push_back(RunOf("hrconf_64", {"getconfig", "1", "al"}, Outcome::kRefused, "none"));
+  EXPECT_THAT(FindingsOf(machine), ElementsAre("unknown: hrconf_64, outcome \"not installed: no such file\""));
+}
+
+TEST(Health, MissesAnExpectedUtilityThatWasNotRun) {
+  const HealthyMachine machine = WithoutRunsOf("hrconf_64");
+  QueryHeader header = machine.Header();
+  header.expectations.tools = {"hrconf_64"};
+  const Findings findings = BuildMachine(header, machine.Result()).findings;
+  ASSERT_EQ(findings.size(), 1U);
+  EXPECT_EQ(Brief(findings[0]), "unknown: hrconf_64, outcome \"not asked: it was not run\"");
 }
 
 TEST(Health, IsUnknownWhereNoToolWasRunAtAll) {

@@ -306,4 +306,39 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
   }
 }
 
+TEST(Options, AskOnceForHealthAndStatusAndAsOftenAsThePluginForTheRest) {
+  const auto asksOnce = [](const std::string& arguments) {
+    return Parse(arguments).query.collection.limits.asksOnce;
+  };
+  EXPECT_TRUE(asksOnce("status"));
+  EXPECT_TRUE(asksOnce("health"));
+  EXPECT_FALSE(asksOnce("query"));
+  EXPECT_FALSE(asksOnce("explain C1"));
+  EXPECT_FALSE(asksOnce("health --ask-again"));
+  EXPECT_TRUE(asksOnce("query --ask-once"));
+}
+
+TEST(Options, BoundWhatUtilitiesMayCost) {
+  const RunLimits plain = Parse("health").query.collection.limits;
+  EXPECT_EQ(plain.runSeconds, std::nullopt);
+  EXPECT_EQ(plain.collectionSeconds, std::nullopt);
+  EXPECT_EQ(plain.outputBytes, 512 * kMebibyte);
+  const RunLimits limits = Parse("query --limit 60 --deadline 900 --output-limit 8").query.collection.limits;
+  EXPECT_EQ(limits.runSeconds, 60U);
+  EXPECT_EQ(limits.collectionSeconds, 900U);
+  EXPECT_EQ(limits.outputBytes, 8 * kMebibyte);
+}
+
+TEST(Options, SayWhatAMachineMustHave) {
+  const QueryOptions options =
+      Parse("health --expect arcconf,qcmdrun --expect hrconf_64 --expect-controllers 5 --expect-disks 30 "
+            "--baseline old.json --save-baseline new.json")
+          .query;
+  EXPECT_THAT(options.expectations.tools, ElementsAre("arcconf", "qcmdrun", "hrconf_64"));
+  EXPECT_EQ(options.expectations.controllers, 5U);
+  EXPECT_EQ(options.expectations.disks, 30U);
+  EXPECT_EQ(options.baseline, "old.json");
+  EXPECT_EQ(options.saveBaseline, "new.json");
+}
+
 }  // namespace

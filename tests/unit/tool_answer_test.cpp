@@ -67,9 +67,11 @@ TEST(ToolAnswer, TellsWhatAnAnswerAmountsTo) {
 TEST(ToolAnswer, NamesEachOutcomeInTheWordsThatProgramsRelyOn) {
   EXPECT_EQ(OutcomeWord(Outcome::kOk), "ok");
   EXPECT_EQ(OutcomeWord(Outcome::kRefused), "refused");
+  EXPECT_EQ(OutcomeWord(Outcome::kNotInstalled), "not installed");
   EXPECT_EQ(OutcomeWord(Outcome::kEmpty), "empty");
   EXPECT_EQ(OutcomeWord(Outcome::kFailed), "failed");
   EXPECT_EQ(OutcomeWord(Outcome::kCutOff), "cut off");
+  EXPECT_EQ(OutcomeWord(Outcome::kNotAsked), "not asked");
   EXPECT_EQ(OutcomeWord(Outcome::kTimedOut), "timed out");
   EXPECT_EQ(OutcomeWord(Outcome::kNotStarted), "not started");
 }

@@ -71,6 +71,14 @@ TEST(ToolRun, TakesAsLongAsTheServiceSays) {
   EXPECT_EQ(RecordOne(tooLong).seconds, 300.5);
 }
 
+TEST(ToolRun, SaysHowLongARunHadToAnswer) {
+  EXPECT_EQ(RecordFailure(SpawnFailure::kTooLong).failure, "it did not answer within 300 s");
+  const auto recorded = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw TSpawnException(SpawnFailure::kTooLong, "reason", 60.02);
+  };
+  EXPECT_EQ(RecordOne(recorded).failure, "it did not answer within 60 s") << "in a replay the limit was another one";
+}
+
 TEST(ToolRun, CallsACompleteAnswerWithAnExitStatusFailed) {
   SpawnResult result(kWhole);
   result.exitStatus = 0;
@@ -98,10 +106,12 @@ TEST(ToolRun, LeavesARefusalARefusalWhateverTheExitStatus) {
 }
 
 TEST(ToolRun, TellsTheWaysApartInWhichNothingCame) {
+  EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotInstalled).outcome), "not installed");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotStarted).outcome), "not started");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kTooLong).outcome), "timed out");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kTooMuchOutput).outcome), "cut off");
-  EXPECT_EQ(RecordFailure(SpawnFailure::kTooLong).failure, "reason");
+  EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotAsked).outcome), "not asked");
+  EXPECT_EQ(RecordFailure(SpawnFailure::kTooMuchOutput).failure, "reason");
 }
 
 TEST(ToolRun, TakesAnyOtherFailureForARunThatWasNotStarted) {

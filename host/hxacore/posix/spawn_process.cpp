@@ -1,5 +1,7 @@
+#include <cerrno>
 #include <system_error>
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include "host/hxacore/operating_system.h"
@@ -20,6 +22,12 @@ void SetEnd(std::optional<int> waitStatus, SpawnResult& result) {
   }
 }
 
+// "No such file" may be about the interpreter of a script, or about what a link leads to.
+bool IsThere(const std::string& path) {
+  struct stat status {};
+  return lstat(path.c_str(), &status) == 0 || errno != ENOENT;
+}
+
 }  // namespace
 
 SpawnResult SpawnProcess(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
@@ -28,7 +36,10 @@ SpawnResult SpawnProcess(const std::string& path, const std::vector<std::string>
   SpawnResult result;
   const OutputEnd end = CollectOutput(child, deadline, result.output);
   const bool isGone = EndProcessTree(child);
-  if (child.startFailure != 0) ThrowNotStarted(path, std::generic_category().message(child.startFailure));
+  if (child.startFailure != 0) {
+    const bool isThere = child.startFailure != ENOENT || IsThere(path);
+    ThrowNotStarted(path, std::generic_category().message(child.startFailure), isThere);
+  }
   SetEnd(child.waitStatus, result);
 
   if (end == OutputEnd::kTooLong) ThrowTooLong(path, limitSeconds, isGone ? 0 : child.process);

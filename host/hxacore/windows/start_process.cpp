@@ -25,6 +25,11 @@ constexpr DWORD_PTR kJobListAttribute = 0x2000D;
 
 [[noreturn]] void ThrowLastError(const std::string& path) { ThrowNotStarted(path, ErrorText(GetLastError())); }
 
+[[noreturn]] void ThrowNotCreated(const std::string& path) {
+  const DWORD code = GetLastError();
+  ThrowNotStarted(path, ErrorText(code), code != ERROR_FILE_NOT_FOUND && code != ERROR_PATH_NOT_FOUND);
+}
+
 // Slashes, doubled or not, become single backslashes; a relative path is taken from the working directory.
 std::wstring FullPath(const std::string& path) {
   const std::wstring wide = ToWide(path);
@@ -134,7 +139,7 @@ PROCESS_INFORMATION CreateSuspended(const std::string& path, const std::vector<s
                        environment.data(), nullptr, &startup.StartupInfo, &started)) {
       break;
     }
-    if (GetLastError() != ERROR_INTERNAL_ERROR || attempt == kTries) ThrowLastError(path);
+    if (GetLastError() != ERROR_INTERNAL_ERROR || attempt == kTries) ThrowNotCreated(path);
     Sleep(kPauseMilliseconds);
   }
   return started;

@@ -8,6 +8,8 @@ namespace hxahost {
 
 void Throw(const RecordedFailure& failure, double seconds) {
   switch (failure.kind) {
+    case FailureKind::kNotInstalled: throw TSpawnException(SpawnFailure::kNotInstalled, failure.message, seconds);
+    case FailureKind::kNotAsked: throw TSpawnException(SpawnFailure::kNotAsked, failure.message, seconds);
     case FailureKind::kNotStarted: throw TSpawnException(SpawnFailure::kNotStarted, failure.message, seconds);
     case FailureKind::kTooLong: throw TSpawnException(SpawnFailure::kTooLong, failure.message, seconds);
     case FailureKind::kTooMuchOutput: throw TSpawnException(SpawnFailure::kTooMuchOutput, failure.message, seconds);

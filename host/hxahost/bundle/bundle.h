@@ -16,6 +16,8 @@ namespace hxahost {
 
 // What a service threw in place of an answer.
 enum class FailureKind {
+  kNotInstalled,
+  kNotAsked,
   kNotStarted,
   kTooLong,
   kTooMuchOutput,

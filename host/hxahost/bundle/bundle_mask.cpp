@@ -140,21 +140,21 @@ void MaskRun(RecordedRun& run, Masking& masking) {
 
 }  // namespace
 
-Bundle MaskBundle(const Bundle& bundle, RandomSource random, MaskScope scope) {
-  Bundle masked = bundle;
+Bundle MaskBundle(Bundle bundle, RandomSource random, MaskScope scope) {
   Masking masking(std::move(random), scope);
   LearnAll(bundle, masking);
-  masked.isMasked = true;
-  masking.MaskWhole(masked.machine);
-  masking.MaskWhole(masked.directory);
-  if (masked.raidLogDir) masking.MaskWhole(*masked.raidLogDir);
-  for (RecordedRun& run : masked.runs) MaskRun(run, masking);
-  if (!masked.raidLog) return masked;
-  RecordedLog& log = *masked.raidLog;
+  const std::optional<std::string> folder = bundle.raidLogDir;
+  bundle.isMasked = true;
+  masking.MaskWhole(bundle.machine);
+  masking.MaskWhole(bundle.directory);
+  if (bundle.raidLogDir) masking.MaskWhole(*bundle.raidLogDir);
+  for (RecordedRun& run : bundle.runs) MaskRun(run, masking);
+  if (!bundle.raidLog) return bundle;
+  RecordedLog& log = *bundle.raidLog;
   masking.MaskText(log.bytes, FindInRaidLog(log.bytes));
-  masking.MaskPath(log.path, bundle.raidLogDir.value_or(""));
+  masking.MaskPath(log.path, folder.value_or(""));
   if (log.failure) masking.MaskProse(log.failure->message);
-  return masked;
+  return bundle;
 }
 
 }  // namespace hxahost

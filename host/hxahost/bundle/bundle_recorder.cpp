@@ -15,6 +15,8 @@ namespace {
 
 FailureKind KindOf(SpawnFailure failure) {
   switch (failure) {
+    case SpawnFailure::kNotInstalled: return FailureKind::kNotInstalled;
+    case SpawnFailure::kNotAsked: return FailureKind::kNotAsked;
     case SpawnFailure::kNotStarted: return FailureKind::kNotStarted;
     case SpawnFailure::kTooLong: return FailureKind::kTooLong;
     case SpawnFailure::kTooMuchOutput: break;
@@ -76,6 +78,14 @@ SpawnResult BundleRecorder::Spawn(const SpawnFunction& spawn, RecordedRun starte
     run.failure = CurrentFailure();
     throw;
   }
+}
+
+void BundleRecorder::AddNotAsked(const std::string& path, const std::vector<std::string>& arguments,
+                                 const std::string& message) {
+  bundle_.runs.push_back({
+      path, arguments, 0, {       },
+         RecordedFailure{ FailureKind::kNotAsked, message}
+  });
 }
 
 // The only file that plug-ins have the host read is the log.

@@ -4,6 +4,8 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/bundle/bundle.h"
@@ -20,9 +22,15 @@ class BundleRecorder {
   // The services, with all that they say taken down; this outlives them.
   NKVRHXA20::HostServices Wrap(NKVRHXA20::HostServices services);
 
+  // A command that was not run any more, and what the plug-in was told in place of an answer.
+  void AddNotAsked(const std::string& path, const std::vector<std::string>& arguments, const std::string& message);
+
   void AddQuery(double seconds) { bundle_.querySeconds.push_back(seconds); }
 
   const Bundle& Recorded() const { return bundle_; }
+
+  // The same at the end of it: outputs may take a lot of memory.
+  Bundle TakeRecorded() { return std::move(bundle_); }
 
  private:
   NKVRHXA20::SpawnResult Spawn(const NKVRHXA20::SpawnFunction& spawn, RecordedRun run);

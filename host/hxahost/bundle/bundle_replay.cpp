@@ -1,10 +1,8 @@
 #include "host/hxahost/bundle/bundle_replay.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
-
-#include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/text/escaping.h"
 
 using namespace NKVRHXA20;
 
@@ -41,13 +39,6 @@ double BundleReplay::QuerySeconds(unsigned number) const {
   return number <= bundle_.querySeconds.size() ? bundle_.querySeconds[number - 1] : 0;
 }
 
-void BundleReplay::CheckNothingWasMissing() const {
-  if (missing_.empty()) return;
-  throw ProgramError(ExitStatus::kQueryFailed,
-                     "The bundle does not hold what the plug-in asks for: " + Printable(missing_) +
-                         ". Record it again with this version of the plug-in.");
-}
-
 std::vector<std::string> BundleReplay::UnusedRuns() const {
   std::vector<std::string> commands;
   for (const auto& [key, same] : runs_) {
@@ -58,13 +49,13 @@ std::vector<std::string> BundleReplay::UnusedRuns() const {
   return commands;
 }
 
+// A command that was recorded once may have been answered from memory after that.
 SpawnResult BundleReplay::Spawn(const std::string& path, const std::vector<std::string>& arguments) {
   const auto found = runs_.find(KeyOf(path, arguments));
-  if (found == runs_.end() || found->second.used == found->second.places.size()) {
-    const std::string again = found == runs_.end() ? "" : ", run once more than it was recorded";
-    ThrowMissing(CommandText({path, arguments, 0, {}, {}}) + again);
-  }
-  return Repeat(bundle_.runs[found->second.places[found->second.used++]]);
+  if (found == runs_.end()) ThrowMissing(CommandText({path, arguments, 0, {}, {}}));
+  SameRuns& same = found->second;
+  const std::size_t place = same.places[std::min(same.used++, same.places.size() - 1)];
+  return Repeat(bundle_.runs[place]);
 }
 
 // The path is that of the file that stands in for the log.

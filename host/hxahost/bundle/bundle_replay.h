@@ -17,16 +17,16 @@ class BundleReplay {
 
   const Bundle& Recorded() const { return bundle_; }
 
-  // This outlives them. The same command again gets what it got when it was run again. The clock, asked more often
-  // than it was, stands still.
+  // This outlives them. The same command again gets what it got when it was run again; asked more often than it
+  // was run, its last answer. So does the clock.
   NKVRHXA20::HostServices Services();
 
   // How long a query took, counted from 1; 0 where it did not come to its end.
   double QuerySeconds(unsigned number) const;
 
-  // Throws ProgramError where something was asked for that the bundle does not hold. A plug-in goes on where a tool
-  // fails, and would publish the less.
-  void CheckNothingWasMissing() const;
+  // What was asked for first that the bundle does not hold; "" where it holds all of it. A plug-in goes on where a tool
+  // fails, and publishes the less.
+  const std::string& Missing() const { return missing_; }
 
   // The recorded commands that nothing has asked for until now.
   std::vector<std::string> UnusedRuns() const;

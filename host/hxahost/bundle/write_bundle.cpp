@@ -1,8 +1,13 @@
 #include "host/hxahost/bundle/write_bundle.h"
 
+#include <cstdint>
 #include <iterator>
+#include <sstream>
+#include <string_view>
+#include <utility>
 
 #include <fmt/core.h>
+#include <boost/crc.hpp>
 
 #include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_format.h"
@@ -15,21 +20,40 @@ using namespace bundle_format;
 
 static_assert(std::size(kFailureWords) == static_cast<std::size_t>(FailureKind::kOther) + 1);
 
-void Add(std::string& text, std::string_view label, std::string_view value) {
+// Goes out as it is made: the outputs of a collection may fill most of the memory.
+class BundleText {
+ public:
+  explicit BundleText(std::ostream& out) : out_(out) {}
+
+  BundleText& operator+=(std::string_view part) {
+    out_ << part;
+    crc_.process_bytes(part.data(), part.size());
+    return *this;
+  }
+
+  std::uint32_t Crc() const { return crc_.checksum(); }
+
+ private:
+  std::ostream& out_;
+  boost::crc_32_type crc_;
+};
+
+void Add(BundleText& text, std::string_view label, std::string_view value) {
   text += fmt::format("{}: {}\n", label, value);
 }
 
-void AddBytes(std::string& text, std::string_view label, std::string_view bytes) {
+void AddBytes(BundleText& text, std::string_view label, std::string_view bytes) {
   Add(text, label, fmt::format("{}{}{}", bytes.size(), kCrc, HexText(Crc32(bytes))));
   while (!bytes.empty()) {
     const std::size_t end = bytes.find('\n');
-    text += end == bytes.npos ? kUnendedLine : kLine;
-    text += EscapeBytes(bytes.substr(0, end)) + "\n";
+    text += std::string_view(end == bytes.npos ? &kUnendedLine : &kLine, 1);
+    text += EscapeBytes(bytes.substr(0, end));
+    text += "\n";
     bytes.remove_prefix(end == bytes.npos ? bytes.size() : end + 1);
   }
 }
 
-void AddFailure(std::string& text, const RecordedFailure& failure) {
+void AddFailure(BundleText& text, const RecordedFailure& failure) {
   const std::string_view word = kFailureWords[static_cast<std::size_t>(failure.kind)];
   Add(text, "failure", fmt::format("{} {}", word, Quote(failure.message)));
 }
@@ -39,7 +63,7 @@ std::string VersionLine(const OsVersion& version) {
   return fmt::format("{}.{}", version.major, version.minor);
 }
 
-void AddHeader(std::string& text, const Bundle& bundle) {
+void AddHeader(BundleText& text, const Bundle& bundle) {
   text += fmt::format("{}{}\n", kMagic, kVersion);
   Add(text, "program", Quote(bundle.program));
   Add(text, "masked", bundle.isMasked ? "yes" : "no");
@@ -55,7 +79,7 @@ void AddHeader(std::string& text, const Bundle& bundle) {
   Add(text, "items", std::to_string(ItemCount(bundle)));
 }
 
-void AddRun(std::string& text, const RecordedRun& run) {
+void AddRun(BundleText& text, const RecordedRun& run) {
   Add(text, "path", Quote(run.path));
   for (const std::string& argument : run.arguments) Add(text, "argument", Quote(argument));
   Add(text, "limit", std::to_string(run.limitSeconds));
@@ -66,7 +90,7 @@ void AddRun(std::string& text, const RecordedRun& run) {
   AddBytes(text, "output", run.result.output);
 }
 
-void AddLog(std::string& text, const RecordedLog& log) {
+void AddLog(BundleText& text, const RecordedLog& log) {
   Add(text, "path", Quote(log.path));
   if (log.failure) AddFailure(text, *log.failure);
   AddBytes(text, "content", log.bytes);
@@ -74,8 +98,8 @@ void AddLog(std::string& text, const RecordedLog& log) {
 
 }  // namespace
 
-std::string WriteBundle(const Bundle& bundle) {
-  std::string text;
+void WriteBundle(std::ostream& out, const Bundle& bundle) {
+  BundleText text(out);
   AddHeader(text, bundle);
   std::size_t number = 0;
   for (const RecordedRun& run : bundle.runs) {
@@ -87,8 +111,13 @@ std::string WriteBundle(const Bundle& bundle) {
     AddLog(text, *bundle.raidLog);
   }
   text += "\n";
-  const std::uint32_t crc = Crc32(text);
-  return text + fmt::format("{}{}\n", kEnd, HexText(crc));
+  out << kEnd << HexText(text.Crc()) << '\n';
+}
+
+std::string WriteBundle(const Bundle& bundle) {
+  std::ostringstream out;
+  WriteBundle(out, bundle);
+  return std::move(out).str();
 }
 
 }  // namespace hxahost

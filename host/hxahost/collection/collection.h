@@ -32,8 +32,8 @@ class Collection {
   // What holds for all queries of these classes.
   QueryHeader Header(std::vector<std::string> classes) const;
 
-  // Has the plug-in publish the classes of the header. Queries are counted from 1. Throws ProgramError where a bundle
-  // lacks what the plug-in asks for; what the plug-in throws passes on.
+  // Has the plug-in publish the classes of the header. Queries are counted from 1. What the plug-in
+  // throws passes on.
   QueryResult Query(const QueryHeader& header, unsigned number);
 
   // No query follows. Throws ProgramError where the log lacks entries.

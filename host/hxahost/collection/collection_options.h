@@ -6,6 +6,7 @@
 #include <string>
 
 #include "host/hxahost/bundle/mask_places.h"
+#include "host/hxahost/collection/run_limits.h"
 #include "platform/ordinary_file.h"
 #include "plugin/host_interface/date_time.h"
 
@@ -25,6 +26,7 @@ struct CollectionOptions {
   std::optional<std::string> machineName;
   std::optional<NKVRHXA20::TCIMDateTime> localTime;
   bool showProgress = true;
+  RunLimits limits = {};
 };
 
 }  // namespace hxahost

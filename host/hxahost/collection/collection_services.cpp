@@ -1,7 +1,9 @@
 #include "host/hxahost/collection/collection_services.h"
 
+#include <memory>
 #include <utility>
 
+#include "host/hxahost/collection/limited_runs.h"
 #include "host/hxahost/result/expected_runs.h"
 
 using namespace NKVRHXA20;
@@ -38,12 +40,18 @@ CollectionServices::CollectionServices(HostServices services, const CollectionOp
   services.log = [&log](int level, const std::string& text) { log.Add(level, text); };
   if (options.machineName) services.machineName = [name = *options.machineName] { return name; };
   if (options.localTime) services.localTime = [time = *options.localTime] { return time; };
-  services.spawn = [spawn = services.spawn, &runs, progress](
-                       const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+  if (recorder != nullptr) services = recorder->Wrap(std::move(services));  // what is run, and nothing from memory
+  const auto limited = std::make_shared<LimitedRuns>(services.spawn, options.limits, runs);
+  if (recorder != nullptr) {
+    limited->OnRefusal([recorder](const ToolRun& run, const std::string& message) {
+      recorder->AddNotAsked(run.path, run.arguments, message);
+    });
+  }
+  services.spawn = [limited, &runs, progress](const std::string& path, const std::vector<std::string>& arguments,
+                                              int limitSeconds) {
     const RunningCommand running(progress, path, arguments, runs);
-    return SpawnAndRecord(spawn, path, arguments, limitSeconds, runs);
+    return limited->Run(path, arguments, limitSeconds);
   };
-  if (recorder != nullptr) services = recorder->Wrap(std::move(services));
   SetServices(std::move(services));
 }
 

@@ -7,6 +7,7 @@
 #include <set>
 #include <vector>
 
+#include "host/hxahost/machine/baseline.h"
 #include "host/hxahost/machine/device_names.h"
 #include "host/hxahost/machine/error_findings.h"
 #include "host/hxahost/machine/silent_controllers.h"
@@ -176,7 +177,8 @@ class Examination {
       case Where::kOnUnguardedArray: return unguarded_.contains(place);
       case Where::kOnFailedSpares: return failedSpares_.contains(place);
       case Where::kOnConfiguration:
-      case Where::kOnState: break;
+      case Where::kOnState:
+      case Where::kOnOptional: break;
     }
     return false;
   }
@@ -197,11 +199,15 @@ Judgement JudgeText(const WatchedValue& value, std::string_view text) {
 
 void Judge(Machine& machine, const QueryHeader& header, const QueryResult& result) {
   Findings& findings = machine.findings;
+  machine.absentTools = OptionalTools(header.expectations, result.runs);
   if (IsAskedFor(header, kControllerClass)) findings = ControllerFindings(machine, result);
   Examination examination(machine, result.instances);
   for (const WatchedValue* const value : WatchedValues()) examination.Examine(*value, findings);
+  Findings aboutTools = ToolFindings(machine, header, result);
+  std::ranges::move(ExpectationFindings(machine, header), std::back_inserter(findings));
+  std::ranges::move(BaselineFindings(machine, header, aboutTools), std::back_inserter(findings));
   std::ranges::move(ErrorFindings(header, result.instances), std::back_inserter(findings));
-  std::ranges::move(ToolFindings(result), std::back_inserter(findings));
+  std::ranges::move(aboutTools, std::back_inserter(findings));
   std::ranges::stable_sort(
       findings, [](const Finding& left, const Finding& right) { return IsWorse(left.severity, right.severity); });
   examination.Assign(findings);

@@ -25,6 +25,7 @@ constexpr auto kOnUnguardedArray = Where::kOnUnguardedArray;
 constexpr auto kOnFailedSpares = Where::kOnFailedSpares;
 constexpr auto kOnConfiguration = Where::kOnConfiguration;
 constexpr auto kOnState = Where::kOnState;
+constexpr auto kOnOptional = Where::kOnOptional;
 
 constexpr WatchedValue kAccess = {kLogicalDiskClass, "AccessBlocked", FirstWord};
 constexpr WatchedValue kSegments = {kLogicalDiskClass, "DefunctSegments", FirstWord};
@@ -84,6 +85,12 @@ constexpr Meaning kSaidNothing = {"it reported no controllers", "run it by hand"
 constexpr Meaning kMaybeWrong = {"its report may be incomplete", "run it by hand"};
 constexpr Meaning kBehindTheCut = {"its report is incomplete", "run it by hand"};
 constexpr Meaning kHung = {"its controllers are not shown", "check whether the controller still responds"};
+constexpr Meaning kNotAsked = {"what it would say is not known", "see which commands with hxahost query --runs"};
+constexpr Meaning kReplayEnded = {"what follows it is not known", "record the bundle again with this version"};
+constexpr Meaning kGone = {"it was there at the baseline", "check whether it was removed"};
+constexpr Meaning kNotSeen = {"it was there at the baseline, and its utility did not answer",
+                              "run the utility by hand"};
+constexpr Meaning kFewerThanExpected = {"there are fewer than expected", "find those that are missing"};
 constexpr Meaning kNotRun = {"its controllers are not shown",
                              "put it into the folder zenx and make sure that it may be run"};
 constexpr Meaning kTooFew = {"fewer controllers were published than answered", "see which with hxahost query --runs"};
@@ -226,11 +233,21 @@ constexpr HealthRule kRules[] = {
     {&kOutcome,          "failed",                  "",    kAll,     kFine,     kNothing,           kAnywhere        },
     {&kOutcome,          "cut off",                 "",    kAll,     kUnknown,  kBehindTheCut,      kOnState         },
     {&kOutcome,          "cut off",                 "",    kAll,     kFine,     kNothing,           kAnywhere        },
-    {&kOutcome,          "timed out",               "",    kAll,     kWarning,  kHung,              kAnywhere        },
+    {&kOutcome,          "not asked",               "",    kAll,     kUnknown,  kNotAsked,          kAnywhere        },
+    {&kOutcome,          "timed out",               "",    kAll,     kUnknown,  kHung,              kAnywhere        },
     {&kOutcome,          "not started",             "",    kAll,     kUnknown,  kNotRun,            kAnywhere        },
+    {&kOutcome,          "not installed",           "",    kAll,     kFine,     kNothing,           kOnOptional      },
+    {&kOutcome,          "not installed",           "",    kAll,     kUnknown,  kNotRun,            kAnywhere        },
 
     {&kAnswers,          "not published",           "",    kAll,     kUnknown,  kTooFew,            kAnywhere        },
+    {&kAnswers,          "not recorded",            "",    kAll,     kUnknown,  kReplayEnded,       kAnywhere        },
+    {&kAnswers,          "no tool is installed",    "",    kAll,     kUnknown,  kNothingKnown,      kAnywhere        },
     {&kAnswers,          "no tool was run",         "",    kAll,     kUnknown,  kNothingKnown,      kAnywhere        },
+
+    {&kBaselinePresence, "missing",                 "",    kAll,     kCritical, kGone,              kAnywhere        },
+    {&kBaselinePresence, "not known",               "",    kAll,     kUnknown,  kNotSeen,           kAnywhere        },
+
+    {&kExpectedNumber,   "too few",                 "",    kAll,     kCritical, kFewerThanExpected, kAnywhere        },
 
     {&kLogText,          "collection aborted",      "",    kQcmdrun, kUnknown,  kCollectionEnded,   kAnywhere        },
     {&kLogText,          "status data is junk",     "",    kQcmdrun, kUnknown,  kLegacyEnded,       kAnywhere        },

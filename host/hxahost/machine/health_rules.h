@@ -20,6 +20,8 @@ struct WatchedValue {
 inline constexpr std::string_view kToolRun = "tool run";
 inline constexpr std::string_view kLog = "log";
 inline constexpr std::string_view kLeftOut = "left out";
+inline constexpr std::string_view kBaseline = "baseline";
+inline constexpr std::string_view kExpectation = "expectation";
 
 inline constexpr WatchedValue kDriveState = {"KVRSG_zxLogicalDisk", "LogicalDriveStatus", StateWords};
 inline constexpr WatchedValue kControllerStatus = {"KVRSG_zxSCSIProtocolController", "ControllerStatus", StateWords};
@@ -32,6 +34,10 @@ inline constexpr WatchedValue kPresence = {kLeftOut, "ControllerNum", WholeText}
 inline constexpr WatchedValue kOutcome = {kToolRun, "outcome", WholeText};
 // Controllers that answered against those that were published.
 inline constexpr WatchedValue kAnswers = {kToolRun, "controllers", WholeText};
+// What became of an object that was there at the baseline.
+inline constexpr WatchedValue kBaselinePresence = {kBaseline, "presence", WholeText};
+// How many there are against how many are expected.
+inline constexpr WatchedValue kExpectedNumber = {kExpectation, "number", WholeText};
 // What the plug-in logged.
 inline constexpr WatchedValue kLogText = {kLog, "text", LogHead};
 
@@ -44,6 +50,7 @@ enum class Where {
   kOnFailedSpares,    // on controllers on which nothing else has failed
   kOnConfiguration,   // on the answer that says which controllers and drives there are
   kOnState,           // on answers that states are read from, not on those that are only kept
+  kOnOptional,        // on utilities that nobody expects
 };
 
 // What a value means and what to do.

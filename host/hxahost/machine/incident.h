@@ -9,7 +9,8 @@
 
 namespace hxahost {
 
-// A device by its places in the lists of the machine and of its controller.
+// A device by its places in the lists of the machine and of its controller; one that is missing by the number of
+// controllers and its place in Machine::missingDisks.
 struct DeviceRef {
   std::size_t controller = 0;
   std::size_t device = 0;

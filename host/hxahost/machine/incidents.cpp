@@ -23,10 +23,12 @@ namespace {
 
 bool IsOfTool(const Machine& machine, std::size_t place) { return machine.findings[place].className == kToolRun; }
 
-// "arcconf timed out: it ran 300 s", "arcconf printed no valid report: x"; else "arcconf: its exit status is 5".
+// "arcconf did not answer within 300 s", "arcconf printed no valid report: x"; else "arcconf: its exit status is 5".
 std::string ToolHeadline(const Finding& finding) {
   constexpr std::string_view kFailed = "failed: ";
+  constexpr std::string_view kTimedOut = "timed out: it ";
   std::string_view text = finding.text;
+  if (text.starts_with(kTimedOut)) text.remove_prefix(kTimedOut.size());
   if (!text.starts_with(kFailed)) return fmt::format("{} {}", Printable(finding.identifier), Printable(text));
   text.remove_prefix(kFailed.size());
   return fmt::format("{}{} {}", Printable(finding.identifier), text.starts_with("printed ") ? "" : ":",
@@ -35,8 +37,10 @@ std::string ToolHeadline(const Finding& finding) {
 
 // One incident for all that went wrong with a utility: "arcconf: run as administrator".
 void DescribeTool(const Machine& machine, Incident& incident) {
-  const auto refused = std::ranges::find_if(
-      incident.findings, [&](std::size_t place) { return IsRefusalOfUser(machine.findings[place].text); });
+  const auto refused = std::ranges::find_if(incident.findings, [&](std::size_t place) {
+    const std::string& text = machine.findings[place].text;
+    return IsRefusalOfUser(text) && !text.starts_with("not started: ");  // that is about a file that is no program
+  });
   if (refused != incident.findings.end()) {
     incident.headline = machine.findings[*refused].identifier + ": run as administrator";
     incident.action = "RUN this program again as administrator";
@@ -119,8 +123,22 @@ void NameSubject(const Machine& machine, const Cause& cause, Incident& incident)
   if (!head.empty()) incident.subject += " " + head.front();
 }
 
+// What a finding of expectations comes with; null for any other finding.
+const Incident* ChangeOf(const Machine& machine, const Finding& finding) {
+  if (finding.className != kBaseline && finding.className != kExpectation) return nullptr;
+  const auto change = std::ranges::find_if(machine.changes, [&](const Incident& each) {
+    return each.severity != Severity::kFine && each.subject == finding.identifier;
+  });
+  return change == machine.changes.end() ? nullptr : &*change;
+}
+
 Incident Describe(const Machine& machine, const Cause& cause) {
   Incident incident;
+  if (const Incident* const change = ChangeOf(machine, machine.findings[cause.findings.front()])) {
+    incident = *change;
+    incident.findings = cause.findings;
+    return incident;
+  }
   incident.controller = cause.controller;
   incident.findings = cause.findings;
   NameSubject(machine, cause, incident);
@@ -165,6 +183,17 @@ void AddMixedFirmware(const Machine& machine, Incidents& incidents) {
   }
 }
 
+// For information: most machines need one or two of the utilities.
+void AddAbsentTools(Machine& machine) {
+  for (const std::string_view tool : machine.absentTools) {
+    Incident& incident = machine.incidents.emplace_back();
+    incident.controller = machine.controllers.size();
+    incident.subject = incident.name = tool;
+    incident.headline = fmt::format("{} is not installed", tool);
+    incident.action = "PUT it into the folder zenx if this machine has controllers that it serves";
+  }
+}
+
 }  // namespace
 
 std::string_view IncidentWord(const Incident& incident) {
@@ -174,6 +203,9 @@ std::string_view IncidentWord(const Incident& incident) {
 void FindIncidents(Machine& machine, const InstanceList& instances) {
   for (const Cause& cause : FindCauses(machine, instances)) machine.incidents.push_back(Describe(machine, cause));
   AddMixedFirmware(machine, machine.incidents);
+  AddAbsentTools(machine);
+  std::ranges::copy_if(machine.changes, std::back_inserter(machine.incidents),
+                       [](const Incident& change) { return change.severity == Severity::kFine; });
   std::ranges::stable_sort(machine.incidents, [](const Incident& left, const Incident& right) {
     if (left.severity != right.severity) return IsWorse(left.severity, right.severity);
     return std::tie(left.urgency, left.controller) < std::tie(right.urgency, right.controller);

@@ -145,15 +145,6 @@ void FindFirmware(std::vector<Controller>& controllers, const InstanceList& inst
   }
 }
 
-std::vector<Controller> Controllers(const InstanceList& instances) {
-  Sorter sorter(instances);
-  sorter.Add(kControllerClass, &Controller::units, kControllerStatus.property);
-  sorter.Add(kLogicalDiskClass, &Controller::logicalDrives, kDriveState.property);
-  sorter.Add(kDiskGroupClass, &Controller::groups, {});
-  sorter.Add(kDiskDriveClass, &Controller::devices, kDiskState.property);
-  return sorter.Take();
-}
-
 template <class Kind>
 std::vector<const Object*> Pointers(const std::vector<Kind>& objects) {
   std::vector<const Object*> pointers;
@@ -163,13 +154,28 @@ std::vector<const Object*> Pointers(const std::vector<Kind>& objects) {
 
 }  // namespace
 
+std::vector<Controller> ReadControllers(const InstanceList& instances) {
+  Sorter sorter(instances);
+  sorter.Add(kControllerClass, &Controller::units, kControllerStatus.property);
+  sorter.Add(kLogicalDiskClass, &Controller::logicalDrives, kDriveState.property);
+  sorter.Add(kDiskGroupClass, &Controller::groups, {});
+  sorter.Add(kDiskDriveClass, &Controller::devices, kDiskState.property);
+  std::vector<Controller> controllers = sorter.Take();
+  for (Controller& controller : controllers) FindMembers(controller, instances);
+  FindFirmware(controllers, instances);
+  FindOperations(controllers, instances);
+  FindCounts(controllers, instances);
+  return controllers;
+}
+
+const Device& DeviceOf(const Machine& machine, const DeviceRef& disk) {
+  const bool isMissing = disk.controller == machine.controllers.size();
+  return (isMissing ? machine.missingDisks : machine.controllers[disk.controller].devices)[disk.device];
+}
+
 Machine BuildMachine(const QueryHeader& header, const QueryResult& result) {
   Machine machine;
-  machine.controllers = Controllers(result.instances);
-  for (Controller& controller : machine.controllers) FindMembers(controller, result.instances);
-  FindFirmware(machine.controllers, result.instances);
-  FindOperations(machine.controllers, result.instances);
-  FindCounts(machine.controllers, result.instances);
+  machine.controllers = ReadControllers(result.instances);
   Judge(machine, header, result);
   FindIncidents(machine, result.instances);
   return machine;

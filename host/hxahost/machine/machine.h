@@ -117,11 +117,23 @@ struct Controller {
   std::vector<Device> devices;
 };
 
+// The objects, not judged.
+std::vector<Controller> ReadControllers(const InstanceList& instances);
+
+// The objects, not judged.
+std::vector<Controller> ReadControllers(const InstanceList& instances);
+
 struct Machine {
-  std::vector<Controller> controllers;  // in the order in which they, or what belongs to them, were published
-  Findings findings;                    // what is wrong: the worst first, then in the order of the rules
-  Incidents incidents;                  // their causes: the worst first, then in the order of the controllers
+  std::vector<Controller> controllers;        // in the order in which they, or what belongs to them, were published
+  std::vector<std::string_view> absentTools;  // utilities that are not installed, and need not be
+  Incidents changes;                          // of expectations: those with findings, and those for information
+  std::vector<Device> missingDisks;           // that were there at the baseline
+  Findings findings;                          // what is wrong: the worst first, then in the order of the rules
+  Incidents incidents;                        // their causes: the worst first, then in the order of the controllers
 };
+
+// The disk of an incident.
+const Device& DeviceOf(const Machine& machine, const DeviceRef& disk);
 
 // Of classes that were not asked for nothing is missed.
 Machine BuildMachine(const QueryHeader& header, const QueryResult& result);

@@ -9,8 +9,10 @@
 #include <utility>
 
 #include <fmt/core.h>
+#include <fmt/format.h>
 
 #include "host/hxahost/machine/health_rules.h"
+#include "host/hxahost/result/answers.h"
 #include "host/hxahost/result/tool_run.h"
 
 namespace hxahost {
@@ -24,17 +26,20 @@ std::string_view CommandOf(const ToolRun& run) {
   return run.arguments.empty() ? std::string_view() : std::string_view(run.arguments.front());
 }
 
-bool HoldsOfRun(Where where, const ToolRun& run) {
+using Tools = std::vector<std::string_view>;
+
+bool HoldsOfRun(Where where, const ToolRun& run, const Tools& optional) {
   switch (where) {
+    case Where::kOnOptional: return std::ranges::find(optional, ToolName(run.path)) != optional.end();
     case Where::kOnConfiguration: return CommandOf(run) == kConfiguration;
     case Where::kOnState: return CommandOf(run) != kOnlyKept;
     default: return where == Where::kAnywhere;
   }
 }
 
-const HealthRule& RuleForRun(const ToolRun& run) {
-  return *std::ranges::find_if(HealthRules(), [&run](const HealthRule& rule) {
-    return rule.value == &kOutcome && rule.word == OutcomeWord(run.outcome) && HoldsOfRun(rule.where, run);
+const HealthRule& RuleForRun(const ToolRun& run, const Tools& optional) {
+  return *std::ranges::find_if(HealthRules(), [&](const HealthRule& rule) {
+    return rule.value == &kOutcome && rule.word == OutcomeWord(run.outcome) && HoldsOfRun(rule.where, run, optional);
   });
 }
 
@@ -47,10 +52,10 @@ struct Trouble {
   std::size_t times = 0;
 };
 
-std::vector<Trouble> Troubles(const ToolRunList& runs) {
+std::vector<Trouble> Troubles(const ToolRunList& runs, const Tools& optional) {
   std::vector<Trouble> troubles;
   for (const ToolRun& run : runs) {
-    const HealthRule& rule = RuleForRun(run);
+    const HealthRule& rule = RuleForRun(run, optional);
     if (SeverityOf(rule.level) == Severity::kFine) continue;
     const std::string tool = ToolName(run.path);
     const auto same = std::ranges::find_if(troubles, [&](const Trouble& trouble) {
@@ -65,8 +70,21 @@ std::vector<Trouble> Troubles(const ToolRunList& runs) {
   return troubles;
 }
 
+// Utilities that are expected, but were not run: later queries of one program run none.
+std::vector<Trouble> NeverRun(const Expectations& expectations, const QueryResult& result) {
+  std::vector<Trouble> troubles;
+  if (result.number > 1) return troubles;
+  for (const std::string& tool : expectations.tools) {
+    const bool isRun =
+        std::ranges::any_of(result.runs, [&tool](const ToolRun& run) { return ToolName(run.path) == tool; });
+    if (!isRun)
+      troubles.push_back({&RuleFor(kOutcome, OutcomeWord(Outcome::kNotAsked)), tool, "it was not run", "", 1});
+  }
+  return troubles;
+}
+
 Finding AsFinding(const Trouble& trouble) {
-  std::string name = trouble.tool + " " + trouble.firstCommand;
+  std::string name = trouble.tool + (trouble.firstCommand.empty() ? "" : " ") + trouble.firstCommand;
   if (trouble.times > 1) name += fmt::format(" and {} more", trouble.times - 1);
   return {SeverityOf(trouble.rule->level),
           std::string(kToolRun),
@@ -93,6 +111,17 @@ Finding OfCollection(std::string_view word, std::string text) {
           std::string(kAnswers.property), std::move(text),       TextOf(rule.meaning)};
 }
 
+// Every run was one of a program that is not there.
+bool IsNothingInstalled(const ToolRunList& runs) {
+  const auto isMissing = [](const ToolRun& run) { return run.outcome == Outcome::kNotInstalled; };
+  return !runs.empty() && std::ranges::all_of(runs, isMissing);
+}
+
+Finding NothingInstalled(const ToolRunList& runs) {
+  return OfCollection("no tool is installed",
+                      fmt::format("found no utility: not installed are {}", fmt::join(NotInstalled(runs), ", ")));
+}
+
 std::optional<Finding> LogFinding(const std::string& text) {
   const Words head = LogHead(text);
   const auto rule = std::ranges::find_if(HealthRules(), [&head](const HealthRule& each) {
@@ -114,9 +143,21 @@ void AddLogFindings(const std::vector<LoggedEntry>& log, Findings& findings) {
 
 }  // namespace
 
-Findings ToolFindings(const QueryResult& result) {
+Tools OptionalTools(const Expectations& expectations, const ToolRunList& runs) {
+  Tools tools = NotInstalled(runs);
+  if (IsNothingInstalled(runs)) return {};
+  std::erase_if(tools, [&](std::string_view tool) { return IsExpected(expectations, tool); });
+  return tools;
+}
+
+Findings ToolFindings(const Machine& machine, const QueryHeader& header, const QueryResult& result) {
+  if (IsNothingInstalled(result.runs)) return {NothingInstalled(result.runs)};
   Findings findings;
-  for (const Trouble& trouble : Troubles(result.runs)) findings.push_back(AsFinding(trouble));
+  if (!result.notRecorded.empty()) {
+    findings.push_back(OfCollection("not recorded", "replay ended: the bundle does not hold " + result.notRecorded));
+  }
+  for (const Trouble& trouble : Troubles(result.runs, machine.absentTools)) findings.push_back(AsFinding(trouble));
+  for (const Trouble& trouble : NeverRun(header.expectations, result)) findings.push_back(AsFinding(trouble));
   AddLogFindings(result.log, findings);
   return findings;
 }

@@ -1,6 +1,7 @@
 #include "host/hxahost/program/bundle_command.h"
 
 #include <optional>
+#include <utility>
 
 #include <fmt/core.h>
 
@@ -121,9 +122,9 @@ void ShowBundle(const BundleOptions& options, std::ostream& out) {
 }
 
 void MaskBundleFile(const BundleOptions& options) {
-  const Bundle bundle = ReadBundleFile(options.file, options.inputLimit);
+  Bundle bundle = ReadBundleFile(options.file, options.inputLimit);
   OutputFile file(options.output, "OUT");
-  file.Stream() << WriteBundle(MaskBundle(bundle, SystemRandom(), options.mask));
+  WriteBundle(file.Stream(), MaskBundle(std::move(bundle), SystemRandom(), options.mask));
   file.Finish();
 }
 

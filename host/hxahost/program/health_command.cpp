@@ -1,12 +1,18 @@
 #include "host/hxahost/program/health_command.h"
 
+#include <algorithm>
 #include <exception>
+#include <filesystem>
 #include <new>
+#include <optional>
 
 #include "host/hxahost/machine/health.h"
+#include "host/hxahost/machine/health_rules.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_command.h"
 #include "host/hxahost/system/no_memory.h"
+#include "host/hxahost/system/output_file.h"
+#include "host/hxahost/views/json/json_view.h"
 
 namespace hxahost {
 
@@ -14,23 +20,59 @@ namespace {
 
 struct Verdict {
   Severity severity = Severity::kUnknown;
+  bool isWhole = false;  // every utility said what it knows
   Collected collected;
 };
+
+// The result that --save-baseline asks for.
+class Baseline {
+ public:
+  explicit Baseline(const std::filesystem::path& path) {
+    if (!path.empty()) file_.emplace(std::filesystem::absolute(path), "--save-baseline");
+  }
+
+  void Write(QueryHeader header, const QueryResult& result) {
+    if (!file_) return;
+    header.withRuns = true;
+    BeginJson(file_->Stream(), header);
+    WriteQueryJson(file_->Stream(), header, result);
+    EndJson(file_->Stream(), header);
+  }
+
+  // What is not known now would not be missed later.
+  void Finish(bool isWhole, std::ostream& err) {
+    if (!file_) return;
+    if (isWhole) return file_->Finish();
+    err << "hxahost: --save-baseline: nothing was saved, because not every tool answered." << std::endl;
+  }
+
+ private:
+  std::optional<OutputFile> file_;
+};
+
+bool IsWhole(const Machine& machine) {
+  return std::ranges::none_of(machine.findings, [](const Finding& each) { return each.className == kToolRun; });
+}
 
 Verdict Examine(std::string_view command, const QueryOptions& options, std::ostream& out, std::ostream& err) {
   const auto write = WriterOf<HealthWriter>(command, options.format);
   QueryOptions query = options;
   query.classes.assign(HealthClasses().begin(), HealthClasses().end());
+  Baseline saved(options.saveBaseline);
   Verdict verdict;
   QueryDisplay display;
   display.begin = [](std::ostream&, const QueryHeader&) {};
   display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
     const HealthReport report{header, result, BuildMachine(header, result), result.seconds, query.isVerbose};
     verdict.severity = WorstOf(report.machine.findings);
+    verdict.isWhole = IsWhole(report.machine);
     write(shown, report);
+    saved.Write(header, result);
   };
   display.end = [](std::ostream&, const QueryHeader&) {};
+  display.showsPart = true;
   verdict.collected = RunQueries(query, display, out, err);
+  saved.Finish(verdict.isWhole, err);
   return verdict;
 }
 

@@ -6,6 +6,9 @@
 #include <limits>
 #include <string_view>
 
+#include <fmt/format.h>
+
+#include "host/hxahost/result/tool_answer.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/terminal/layout.h"
 #include "host/hxahost/text/escaping.h"
@@ -23,6 +26,17 @@ std::optional<unsigned> WholeNumber(const std::string& text) {
 
 void Reject(const std::string& option, const std::string& typed, const std::string& whatToGive) {
   throw ProgramError(ExitStatus::kWrongArguments, option + " " + Printable("\"" + typed + "\"") + ": " + whatToGive);
+}
+
+std::optional<unsigned> ReadNumber(const std::string& option, const std::string& text, unsigned most) {
+  if (text.empty()) return std::nullopt;
+  const auto number = WholeNumber(text);
+  if (!number || *number == 0 || *number > most) {
+    const bool isBounded = most < std::numeric_limits<unsigned>::max();
+    Reject(option, text,
+           isBounded ? fmt::format("give a whole number from 1 to {}.", most) : "give a whole number from 1 on.");
+  }
+  return number;
 }
 
 unsigned ReadRepeat(const std::string& text) {
@@ -93,6 +107,15 @@ std::string LimitNames() {
   for (const LimitName& each : kLimitNames) names += (names.empty() ? "" : ", ") + std::string(each.name);
   return names;
 }
+
+void CheckTools(const std::vector<std::string>& names) {
+  const std::vector<std::string_view> known = KnownTools();
+  for (const std::string& name : names) {
+    if (std::ranges::find(known, name) == known.end()) Reject("--expect", name, "give " + ToolNames() + ".");
+  }
+}
+
+std::string ToolNames() { return fmt::format("{}", fmt::join(KnownTools(), ", ")); }
 
 void CheckColor(const std::string& text) {
   constexpr std::string_view kWords[] = {"auto", "always", "never"};

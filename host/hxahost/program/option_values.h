@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +19,10 @@ namespace hxahost {
 
 // A decimal number and nothing else; throws nothing.
 std::optional<unsigned> WholeNumber(const std::string& text);
+
+// A whole number from 1 on and up to most; nothing where none was typed.
+std::optional<unsigned> ReadNumber(const std::string& option, const std::string& text,
+                                   unsigned most = std::numeric_limits<unsigned>::max());
 
 // --repeat: how many times, from 1 on.
 unsigned ReadRepeat(const std::string& text);
@@ -41,6 +46,12 @@ Limits ReadLimits(const std::vector<std::string>& texts);
 
 // The names that --warn takes.
 std::string LimitNames();
+
+// --expect: each the name of a utility.
+void CheckTools(const std::vector<std::string>& names);
+
+// The names that --expect takes.
+std::string ToolNames();
 
 // --color: one of its words.
 void CheckColor(const std::string& text);

@@ -30,6 +30,13 @@ struct TypedOptions {
   std::string healthFormat = "text";
   std::string statusFormat = "text";
   std::vector<std::string> limits;
+  std::string runSeconds;
+  std::string collectionSeconds;
+  std::string outputMebibytes;
+  bool asksOnce = false;
+  bool asksAgain = false;
+  std::string expectedControllers;
+  std::string expectedDisks;
   bool healthRules = false;
   std::string width;
   std::string inputLimit = "256";
@@ -85,6 +92,19 @@ void AddOutput(CLI::App& command, std::filesystem::path& path, const std::string
       ->type_name("FILE");
 }
 
+// What the utilities may cost.
+void AddRunLimits(CLI::App& command, TypedOptions& typed) {
+  command.add_option("--limit", typed.runSeconds, "How long one run of a tool may take (default: 300)")
+      ->type_name("SECONDS");
+  command.add_option("--deadline", typed.collectionSeconds, "How long all runs together may take (default: any time)")
+      ->type_name("SECONDS");
+  command.add_option("--output-limit", typed.outputMebibytes, "How much all runs together may print (default: 512)")
+      ->type_name("MIB");
+  command.add_flag("--ask-once", typed.asksOnce,
+                   "Answer a repeated command of a tool from memory (default of status and health)");
+  command.add_flag("--ask-again", typed.asksAgain, "Run it as often as it is asked for (default of query and explain)");
+}
+
 void AddLocalTime(CLI::App& command, TypedOptions& typed) {
   command.add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
       ->type_name("CIMDATETIME");
@@ -111,6 +131,7 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
       "Hide machine name, serial numbers and given names in that bundle; FRU part numbers, too: --mask=all");
   AddPath(command, "--replay", "BUNDLE", read.replay, "Run no tool: take everything from a bundle (-: standard input)");
   AddInputLimit(command, typed);
+  AddRunLimits(command, typed);
   command
       .add_option("--os-type", typed.osType,
                   "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
@@ -145,9 +166,25 @@ void AddLimits(CLI::App& command, TypedOptions& typed) {
       ->allow_extra_args(false);
 }
 
+void AddExpectations(CLI::App& command, TypedOptions& typed) {
+  Expectations& expected = typed.read.expectations;
+  command
+      .add_option("--expect", expected.tools,
+                  "Utilities that must be installed: " + ToolNames() + "; several with commas; may be given again")
+      ->type_name("TOOL")
+      ->delimiter(',')
+      ->allow_extra_args(false);
+  command.add_option("--expect-controllers", typed.expectedControllers, "Fewer controllers are critical")
+      ->type_name("N");
+  command.add_option("--expect-disks", typed.expectedDisks, "Fewer disks are critical")->type_name("N");
+  AddPath(command, "--baseline", "FILE", typed.read.baseline,
+          "Compare with this JSON result or bundle: what was there and is missing is critical");
+}
+
 void AddStatus(CLI::App& status, TypedOptions& typed) {
   AddFormat(status, typed.statusFormat, ": one screen for people, JSON for programs");
   AddLimits(status, typed);
+  AddExpectations(status, typed);
   AddLayout(status, typed);
   AddColour(status, typed);
   AddCollecting(status, typed);
@@ -156,8 +193,11 @@ void AddStatus(CLI::App& status, TypedOptions& typed) {
 void AddHealth(CLI::App& health, TypedOptions& typed) {
   AddFormat(health, typed.healthFormat, ": lines for people, for Nagios, for programs, metrics");
   health.add_flag("-v,--verbose", typed.read.isVerbose, "Show below each incident the findings that it sums up");
+  AddPath(health, "--save-baseline", "FILE", typed.read.saveBaseline,
+          "Write the JSON result that later ones can be compared with; complete or not at all");
   health.add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
   AddLimits(health, typed);
+  AddExpectations(health, typed);
   AddLayout(health, typed);
   AddColour(health, typed);
   AddCollecting(health, typed);
@@ -193,6 +233,7 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
   query.add_flag("--all", read.showAll, "Tables: also versions, statistics and numbers of instances");
   query.add_flag("-v,--verbose", read.isVerbose, "Tables: also the short forms of states, as in \"Critical (CRT)\"");
   AddLimits(query, typed);
+  AddExpectations(query, typed);
   query.add_flag("--superclasses", read.withSuperclasses,
                  "Declare the classes in the MOF, derived from the DMTF's, for repositories that have its schema");
   AddLayout(query, typed);
@@ -283,6 +324,22 @@ void CheckBundles(const std::string& command, const CollectionOptions& options) 
   }
 }
 
+RunLimits ReadRunLimits(const TypedOptions& typed) {
+  constexpr unsigned kMostSeconds = 86400;
+  constexpr unsigned kMostMebibytes = 1U << 20U;
+  if (typed.asksOnce && typed.asksAgain) {
+    throw ProgramError(ExitStatus::kWrongArguments, "--ask-once and --ask-again: leave one of them out.");
+  }
+  RunLimits limits;
+  limits.runSeconds = ReadNumber("--limit", typed.runSeconds, kMostSeconds);
+  limits.collectionSeconds = ReadNumber("--deadline", typed.collectionSeconds, kMostSeconds);
+  if (const auto most = ReadNumber("--output-limit", typed.outputMebibytes, kMostMebibytes)) {
+    limits.outputBytes = *most * kMebibyte;
+  }
+  limits.asksOnce = typed.asksOnce;
+  return limits;
+}
+
 // What commands share that collect and those that do not.
 QueryOptions ReadShown(const CLI::App& command, const TypedOptions& typed) {
   RejectEmptyValues(command);
@@ -304,6 +361,10 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   if (!typed.machineName.empty()) collection.machineName = typed.machineName;
   collection.mask = ReadMask(typed.mask);
   collection.inputLimit = ReadInputLimit(typed.inputLimit);
+  collection.limits = ReadRunLimits(typed);
+  options.expectations.controllers = ReadNumber("--expect-controllers", typed.expectedControllers);
+  options.expectations.disks = ReadNumber("--expect-disks", typed.expectedDisks);
+  CheckTools(options.expectations.tools);
   CheckBundles(query.get_name(), collection);
   return options;
 }
@@ -370,6 +431,7 @@ CommandLine ReadQuery(const CLI::App& query, const TypedOptions& typed) {
 
 CommandLine ReadStatus(const CLI::App& status, const TypedOptions& typed) {
   CommandLine line{Command::kStatus, "", ReadCollecting(status, typed)};
+  line.query.collection.limits.asksOnce = !typed.asksAgain;
   line.query.format = typed.statusFormat;
   CheckFormat("status", line.query.format);
   return line;
@@ -377,6 +439,7 @@ CommandLine ReadStatus(const CLI::App& status, const TypedOptions& typed) {
 
 CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   CommandLine line{typed.healthRules ? Command::kHealthRules : Command::kHealth, "", ReadCollecting(health, typed)};
+  line.query.collection.limits.asksOnce = !typed.asksAgain;
   line.query.format = typed.healthFormat;
   CheckFormat("health", line.query.format);
   return line;

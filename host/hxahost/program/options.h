@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/hxahost/collection/collection_options.h"
+#include "host/hxahost/result/expectations.h"
 #include "host/hxahost/result/limits.h"
 
 namespace hxahost {
@@ -28,6 +29,9 @@ struct QueryOptions {
   bool isAscii = false;
   std::string color = "auto";
   Limits limits;
+  Expectations expectations;           // its baseline is read from the next
+  std::filesystem::path baseline;      // an earlier result or bundle to compare with
+  std::filesystem::path saveBaseline;  // where the result goes that later ones are compared with
 };
 
 // What "hxahost bundle" is asked for.

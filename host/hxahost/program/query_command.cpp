@@ -4,6 +4,7 @@
 #include <exception>
 #include <filesystem>
 #include <iterator>
+#include <memory>
 #include <new>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "host/hxahost/collection/class_dependencies.h"
 #include "host/hxahost/collection/collection.h"
 #include "host/hxahost/collection/working_directory.h"
+#include "host/hxahost/diff/diff_source.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
 #include "host/hxahost/result/answers.h"
@@ -40,21 +42,59 @@ std::vector<std::string> DeclaredNames(const std::vector<std::string>& asked) {
   return names;
 }
 
+[[noreturn]] void RejectSharedFile(const std::string& option, const fs::path& file) {
+  throw ProgramError(ExitStatus::kWrongArguments, option + " " + Printable(Utf8FromPath(file)) +
+                                                      " is named twice: give each output a file of its own.");
+}
+
+std::shared_ptr<const JsonResult> ReadBaseline(const fs::path& file) {
+  if (file.empty()) return nullptr;
+  return std::make_shared<JsonResult>(ReadResultOrBundle(file));
+}
+
+// Serial numbers that are masked in one of the two have nothing in common with those of the other.
+void CheckBaseline(const QueryHeader& header, const fs::path& file) {
+  if (!header.expectations.baseline || header.expectations.baseline->isMasked == header.isMasked) return;
+  throw ProgramError(ExitStatus::kWrongArguments,
+                     "--baseline " + Printable(Utf8FromPath(file)) +
+                         " cannot be compared: serial numbers are masked in it or in this collection. Name one that is "
+                         "masked as this collection is.");
+}
+
+// What holds for all queries, as the command line asks for it.
+QueryHeader HeaderOf(const Collection& collection, const QueryOptions& options) {
+  QueryHeader header = collection.Header(DeclaredNames(options.classes));
+  header.queryCount = options.repeat;
+  header.withRuns = options.showRuns;
+  header.withUnread = options.showUnread;
+  header.showAll = options.showAll || !options.classes.empty();  // what is named is wanted
+  header.isVerbose = options.isVerbose;
+  header.limits = options.limits;
+  header.expectations = options.expectations;
+  header.withSuperclasses = options.withSuperclasses;
+  header.layout = LayoutFor(WishesOf(options));
+  return header;
+}
+
 // Paths on the command line are relative to where the program was started, not to where the tools run.
 QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
   QueryOptions options = typed;
   CollectionOptions& collection = options.collection;
   fs::path& log = collection.log;
   fs::path& record = collection.record;
-  for (fs::path* const path : {&collection.plugin, &log, &record, &collection.replay, &options.output}) {
+  for (fs::path* const path : {&collection.plugin, &log, &record, &collection.replay, &options.output,
+                               &options.baseline, &options.saveBaseline}) {
     if (!path->empty() && *path != kStandardStream) *path = fs::absolute(*path);
   }
   if (!log.empty() && log == options.output) {
     throw ProgramError(ExitStatus::kWrongArguments, "--log and --output name one file: name two.");
   }
   if (!record.empty() && (record == options.output || record == log)) {
-    throw ProgramError(ExitStatus::kWrongArguments, "--record " + Printable(Utf8FromPath(typed.collection.record)) +
-                                                        " is named twice: give each output a file of its own.");
+    RejectSharedFile("--record", typed.collection.record);
+  }
+  const fs::path& save = options.saveBaseline;
+  if (!save.empty() && (save == options.output || save == log || save == record)) {
+    RejectSharedFile("--save-baseline", typed.saveBaseline);
   }
   return options;
 }
@@ -67,30 +107,32 @@ bool HasObject(const InstanceList& instances) {
   });
 }
 
+[[noreturn]] void RejectBundle(const std::string& missing) {
+  throw ProgramError(ExitStatus::kQueryFailed,
+                     "The bundle does not hold what the plug-in asks for: " + Printable(missing) +
+                         ". Record it again with this version of the plug-in.");
+}
+
 }  // namespace
 
 Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
   CheckWorkingDirectory();
-  const QueryOptions options = WithAbsolutePaths(typed);
-  const std::vector<std::string> classes = DeclaredNames(options.classes);
-  for (const std::string& line : MissingDependencies(classes)) err << "hxahost: " << line << std::endl;
+  QueryOptions options = WithAbsolutePaths(typed);
+  for (const std::string& line : MissingDependencies(DeclaredNames(options.classes))) {
+    err << "hxahost: " << line << std::endl;
+  }
+  options.expectations.baseline = ReadBaseline(options.baseline);
   EnterDirectory(options.collection.directory);
   QueryOutput output(options, out);
   Collection collection(options.collection, err);
   Collected collected;
   try {
-    QueryHeader header = collection.Header(classes);
-    header.queryCount = options.repeat;
-    header.withRuns = options.showRuns;
-    header.withUnread = options.showUnread;
-    header.showAll = options.showAll || !options.classes.empty();  // what is named is wanted
-    header.isVerbose = options.isVerbose;
-    header.limits = options.limits;
-    header.withSuperclasses = options.withSuperclasses;
-    header.layout = LayoutFor(WishesOf(options));
+    const QueryHeader header = HeaderOf(collection, options);
+    CheckBaseline(header, typed.baseline);
     display.begin(output.Stream(), header);
     for (unsigned number = 1; number <= header.queryCount; ++number) {
       const QueryResult result = collection.Query(header, number);
+      if (!result.notRecorded.empty() && !display.showsPart) RejectBundle(result.notRecorded);
       display.query(output.Stream(), header, result);
       collected.runs.insert(collected.runs.end(), result.runs.begin(), result.runs.end());
       collected.hasController |= HasController(result.runs) || HasObject(result.instances);

@@ -14,6 +14,7 @@ struct QueryDisplay {
   std::function<void(std::ostream& out, const QueryHeader& header)> begin;
   std::function<void(std::ostream& out, const QueryHeader& header, const QueryResult& result)> query;
   std::function<void(std::ostream& out, const QueryHeader& header)> end;
+  bool showsPart = false;  // what a replay gave that ended early; otherwise that is a failure
 };
 
 // What came of the queries of one run of the program.

@@ -39,6 +39,16 @@ std::string AnswersText(const ToolRunList& runs) {
   return text;
 }
 
+std::vector<std::string_view> NotInstalled(const ToolRunList& runs) {
+  std::vector<std::string_view> tools = KnownTools();
+  std::erase_if(tools, [&](std::string_view tool) {
+    const auto isOfTool = [tool](const ToolRun& run) { return ToolName(run.path) == tool; };
+    const auto isInstalled = [&](const ToolRun& run) { return isOfTool(run) && run.outcome != Outcome::kNotInstalled; };
+    return std::ranges::none_of(runs, isOfTool) || std::ranges::any_of(runs, isInstalled);
+  });
+  return tools;
+}
+
 bool HasAnswer(const ToolRunList& runs) {
   return std::ranges::any_of(
       runs, [](const ToolRun& run) { return run.outcome == Outcome::kOk || run.outcome == Outcome::kRefused; });

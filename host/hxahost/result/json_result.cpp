@@ -74,6 +74,7 @@ ToolRun ReadJsonRun(const Json& json) {
   if (!read) throw NoResult(fmt::format("the outcome \"{}\" is not known", outcome));
   run.outcome = *read;
   run.failure = Member(json, "failure", Json::value_t::string);
+  run.isReused = json.contains("reused");
   return run;
 }
 

@@ -8,6 +8,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "host/hxacore/repository.h"
+#include "host/hxahost/result/expectations.h"
 #include "host/hxahost/result/limits.h"
 #include "host/hxahost/result/tool_run.h"
 #include "host/hxahost/terminal/layout.h"
@@ -31,6 +32,7 @@ struct QueryHeader {
   bool isVerbose = false;         // tables have the short forms of states, too
   Layout layout = {};             // of the tables
   Limits limits = {};             // of what is counted
+  Expectations expectations = {};
   boost::shared_ptr<const NKVRHXA20::TPublishedInstance> system = {};  // the machine, as exports name it
 };
 
@@ -59,6 +61,7 @@ struct QueryResult {
   std::vector<LoggedEntry> log;  // since the previous query ended
   ToolRunList runs = {};         // since the previous query ended
   double seconds = 0;            // that it took
+  std::string notRecorded = {};  // what ended a replay: the bundle does not hold it; "" where it holds all
   InstanceList leftOut = {};     // by a format that has each path once: others have their paths
 };
 

@@ -12,8 +12,8 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::string_view kOutcomeWords[] = {"ok",      "refused",   "empty",      "failed",
-                                              "cut off", "timed out", "not started"};
+constexpr std::string_view kOutcomeWords[] = {"ok",      "refused",   "not installed", "empty",      "failed",
+                                              "cut off", "not asked", "timed out",     "not started"};
 static_assert(std::size(kOutcomeWords) == static_cast<std::size_t>(Outcome::kNotStarted) + 1);
 
 struct AnswerSign {

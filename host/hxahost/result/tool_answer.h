@@ -12,15 +12,18 @@ namespace hxahost {
 // From the best to the worst.
 enum class Outcome {
   kOk,
-  kRefused,     // the tool says that there is no such controller
-  kEmpty,       // it wrote nothing
-  kFailed,      // it says or shows by its exit status that something went wrong
-  kCutOff,      // the answer ends before its closing line
-  kTimedOut,    // it was ended when its time was up
-  kNotStarted,  // there was nothing to start
+  kRefused,       // the tool says that there is no such controller
+  kNotInstalled,  // there is no such program
+  kEmpty,         // it wrote nothing
+  kFailed,        // it says or shows by its exit status that something went wrong
+  kCutOff,        // the answer ends before its closing line
+  kNotAsked,      // it was not run: runs before it had used up what a limit allows
+  kTimedOut,      // it was ended when its time was up
+  kNotStarted,    // the program is there, but cannot be run
 };
 
-// "ok", "refused", "empty", "failed", "cut off", "timed out", "not started": programs rely on the words.
+// "ok", "refused", "not installed", "empty", "failed", "cut off", "not asked", "timed out", "not started":
+// programs rely on the words.
 std::string_view OutcomeWord(Outcome outcome);
 
 // Nothing where it is none of these words.

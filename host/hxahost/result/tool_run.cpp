@@ -1,6 +1,10 @@
 #include "host/hxahost/result/tool_run.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
+
+#include <fmt/core.h>
 
 #include "host/hxahost/text/escaping.h"
 
@@ -10,8 +14,20 @@ namespace hxahost {
 
 namespace {
 
+// A recorded run knows how long it took; its limit was another one.
+std::string TimeoutText(const TSpawnException& failure, int limitSeconds) {
+  const double seconds = std::floor(failure.Seconds());
+  const std::string message = Printable(failure.what());
+  const bool isGone = message.find("cannot be ended") == std::string::npos;
+  return fmt::format("it did not answer within {:.0f} s{}",
+                     seconds > 0 ? std::min<double>(seconds, limitSeconds) : limitSeconds,
+                     isGone ? "" : ": " + message);
+}
+
 Outcome OutcomeOf(SpawnFailure failure) {
   switch (failure) {
+    case SpawnFailure::kNotInstalled: return Outcome::kNotInstalled;
+    case SpawnFailure::kNotAsked: return Outcome::kNotAsked;
     case SpawnFailure::kNotStarted: return Outcome::kNotStarted;
     case SpawnFailure::kTooLong: return Outcome::kTimedOut;
     case SpawnFailure::kTooMuchOutput: break;
@@ -57,7 +73,7 @@ SpawnResult SpawnAndRecord(const SpawnFunction& spawn, const std::string& path,
   } catch (const TSpawnException& failure) {
     run.seconds = failure.Seconds();
     run.outcome = OutcomeOf(failure.Failure());
-    run.failure = Printable(failure.what());
+    run.failure = run.outcome == Outcome::kTimedOut ? TimeoutText(failure, limitSeconds) : Printable(failure.what());
     throw;
   } catch (const std::exception& failure) {
     run.failure = Printable(failure.what());

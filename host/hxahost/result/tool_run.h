@@ -19,7 +19,8 @@ struct ToolRun {
   std::optional<std::int64_t> exitStatus;  // none: not started, ended by the system, or not known
   std::size_t bytes = 0;                   // of output
   Outcome outcome = Outcome::kOk;
-  std::string failure;  // why it is not kOk, printable
+  std::string failure;    // why it is not kOk, printable
+  bool isReused = false;  // nothing was run: the same command answered so before
 };
 
 // The runs of one query, in the order in which they were started.

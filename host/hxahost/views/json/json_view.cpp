@@ -59,7 +59,7 @@ Json EntryJson(const LoggedEntry& entry) {
 Json RunJson(const ToolRun& run) {
   Json arguments = Json::array();
   for (const std::string& argument : run.arguments) arguments.push_back(AsUtf8(argument));
-  return {
+  Json json = {
       {"command",    AsUtf8(run.path)                               },
       {"arguments",  std::move(arguments)                           },
       {"seconds",    std::round(run.seconds * 1000) / 1000          },
@@ -68,6 +68,8 @@ Json RunJson(const ToolRun& run) {
       {"outcome",    OutcomeWord(run.outcome)                       },
       {"failure",    run.failure                                    }
   };
+  if (run.isReused) json["reused"] = true;
+  return json;
 }
 
 Json UnreadTextJson(const UnreadText& text) {

@@ -159,6 +159,7 @@ Json ToolJson(const ToolHealth& tool) {
   return {
       {"tool", tool.tool},
       {"isUp", tool.isUp},
+      {"isInstalled", tool.isInstalled},
   };
 }
 
@@ -169,7 +170,7 @@ Json IncidentJson(const Machine& machine, const Incident& incident) {
   const std::string controller = isOfController ? machine.controllers[incident.controller].label : "";
   Json disks = Json::array();
   for (const DeviceRef& disk : incident.disks) {
-    disks.push_back(DeviceJson(machine.controllers[disk.controller].devices[disk.device]));
+    disks.push_back(DeviceJson(DeviceOf(machine, disk)));
   }
   return {
       {"severity",   IncidentWord(incident)   },

@@ -232,6 +232,7 @@ constexpr CountMetric kCounts[] = {
 void WriteTools(std::ostream& out, const HealthReport& report) {
   MetricFamily family({"zenx_tool_up", "1 where the utility was run and nothing went wrong, else 0."});
   for (const ToolHealth& each : ToolHealthOf(report)) {
+    if (std::ranges::find(report.machine.absentTools, each.tool) != report.machine.absentTools.end()) continue;
     family.Add(
         {
             {"tool", std::string(each.tool)}

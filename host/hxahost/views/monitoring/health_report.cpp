@@ -5,6 +5,7 @@
 #include <fmt/core.h>
 
 #include "host/hxahost/machine/health_rules.h"
+#include "host/hxahost/result/answers.h"
 #include "host/hxahost/schema/class_names.h"
 
 namespace hxahost {
@@ -20,13 +21,15 @@ std::string Counted(const Machine& machine, std::string_view className, std::str
 
 std::vector<ToolHealth> ToolHealthOf(const HealthReport& report) {
   std::vector<ToolHealth> tools;
+  const std::vector<std::string_view> absent = NotInstalled(report.result.runs);
   for (const std::string_view tool : KnownTools()) {
     const auto isOfTool = [tool](const ToolRun& run) { return ToolName(run.path) == tool; };
     const auto isAboutTool = [tool](const Finding& finding) {
       return finding.className == kToolRun && finding.identifier == tool;
     };
     if (std::ranges::none_of(report.result.runs, isOfTool)) continue;
-    tools.push_back({tool, std::ranges::none_of(report.machine.findings, isAboutTool)});
+    const bool isInstalled = std::ranges::find(absent, tool) == absent.end();
+    tools.push_back({tool, isInstalled && std::ranges::none_of(report.machine.findings, isAboutTool), isInstalled});
   }
   return tools;
 }

@@ -26,6 +26,7 @@ void WriteHealthText(std::ostream& out, const HealthReport& report);
 struct ToolHealth {
   std::string_view tool;
   bool isUp = false;
+  bool isInstalled = true;
 };
 
 std::vector<ToolHealth> ToolHealthOf(const HealthReport& report);

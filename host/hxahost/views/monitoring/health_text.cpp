@@ -20,6 +20,7 @@ std::string ToolsThatRan(const ToolRunList& runs) {
   std::set<std::string> seen;
   std::string names;
   for (const ToolRun& run : runs) {
+    if (run.outcome == Outcome::kNotInstalled) continue;
     const std::string tool = Printable(ToolName(run.path));
     if (seen.insert(tool).second) names += (names.empty() ? "" : ", ") + tool;
   }
@@ -49,6 +50,7 @@ std::string_view WhereOf(Where where) {
     case Where::kOnFailedSpares: return " where hot spares alone have failed";
     case Where::kOnUnguardedArray: return " in a logical drive that is not guarded";
     case Where::kOnConfiguration: return " to getconfig";
+    case Where::kOnOptional: return " of a utility that --expect does not name";
     case Where::kOnState: break;
   }
   return " to any command but getlogs";

@@ -21,8 +21,7 @@ Labels IncidentTexts(const Machine& machine, const Incident& incident) {
   labels.emplace_back("name", incident.name);
   labels.emplace_back("location", incident.location);
   if (incident.disks.empty()) return labels;
-  const DeviceRef& disk = incident.disks.front();
-  const Device& device = machine.controllers[disk.controller].devices[disk.device];
+  const Device& device = DeviceOf(machine, incident.disks.front());
   labels.emplace_back("model", device.model);
   labels.emplace_back("serial", device.serialNumber);
   labels.emplace_back("fru", device.fru);

@@ -116,8 +116,10 @@ std::string DiskLinks(const Machine& machine, const Incident& incident) {
       links.push_back(fmt::format("and {} more", incident.disks.size() - kMostLinks));
       break;
     }
-    const Device& disk = machine.controllers[place.controller].devices[place.device];
-    links.push_back(fmt::format(R"(<a href="#object-{}">{}</a>)", disk.instance, LocationOf(disk)));
+    const Device& disk = DeviceOf(machine, place);
+    const bool isThere = place.controller < machine.controllers.size();
+    links.push_back(!isThere ? LocationOf(disk)
+                             : fmt::format(R"(<a href="#object-{}">{}</a>)", disk.instance, LocationOf(disk)));
   }
   return fmt::format("{}", fmt::join(links, ", "));
 }

@@ -135,8 +135,9 @@ std::string_view SourceOf(const QueryHeader& header) {
 
 // Where to look next.
 std::string Hint(const Machine& machine) {
-  const auto located = std::ranges::find_if(machine.incidents, [](const Incident& each) {
-    return !each.location.empty() && each.urgency == Urgency::kReplace;
+  const auto located = std::ranges::find_if(machine.incidents, [&](const Incident& each) {
+    return !each.location.empty() && each.urgency == Urgency::kReplace &&
+           each.disks.front().controller < machine.controllers.size();
   });
   const std::string hint = "More: hxahost health -v";
   if (located == machine.incidents.end()) return hint;

@@ -35,7 +35,8 @@ void WriteToolsNotStarted(std::ostream& out, const Layout& layout, const QueryRe
   std::string names;
   std::set<std::string> known;
   for (const ToolRun& run : result.runs) {
-    if (run.outcome != Outcome::kNotStarted || !known.insert(run.path).second) continue;
+    const bool isStarted = run.outcome != Outcome::kNotStarted && run.outcome != Outcome::kNotInstalled;
+    if (isStarted || !known.insert(run.path).second) continue;
     names += (names.empty() ? "" : ", ") + Printable(run.path);
   }
   if (names.empty()) return;

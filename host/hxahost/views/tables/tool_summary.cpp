@@ -46,7 +46,8 @@ ToolSummary Summarize(std::string tool, const ToolRunList& runs) {
   std::map<int, Outcome> worst;
   for (const ToolRun& run : runs) {
     if (ToolName(run.path) != summary.tool) continue;
-    ++summary.runs;
+    summary.reused += run.isReused ? 1 : 0;
+    summary.runs += run.isReused || run.outcome == Outcome::kNotAsked ? 0 : 1;
     summary.seconds += run.seconds;
     if (IsTrouble(run.outcome)) AddTrouble(summary.troubles, run);
     if (const auto number = ProbedNumber(run)) {
@@ -156,7 +157,9 @@ void WriteAbort(std::ostream& out, const Layout& layout, const QueryResult& resu
   }
 }
 
-bool IsNotStarted(const ToolTrouble& trouble) { return trouble.outcome == Outcome::kNotStarted; }
+bool IsNotStarted(const ToolTrouble& trouble) {
+  return trouble.outcome == Outcome::kNotStarted || trouble.outcome == Outcome::kNotInstalled;
+}
 
 }  // namespace
 
@@ -168,8 +171,9 @@ std::vector<ToolSummary> SummarizeRuns(const ToolRunList& runs) {
 
 std::string SummaryText(const ToolSummary& summary) {
   const std::string tool = Printable(summary.tool);
-  if (summary.runs == 0) return tool + ": not run";
-  return fmt::format("{}: {}, {}{}{}, {:.1f} s", tool, Counted(summary.runs, "run"), ControllersText(summary),
+  if (summary.runs == 0 && summary.troubles.empty()) return tool + ": not run";
+  const std::string reused = summary.reused == 0 ? "" : fmt::format(", {} from memory", summary.reused);
+  return fmt::format("{}: {}{}, {}{}{}, {:.1f} s", tool, Counted(summary.runs, "run"), reused, ControllersText(summary),
                      RefusedText(summary.refused), TroubleCounts(summary), summary.seconds);
 }
 

@@ -22,7 +22,8 @@ struct ToolTrouble {
 
 struct ToolSummary {
   std::string tool;
-  std::size_t runs = 0;  // 0: it was not run
+  std::size_t runs = 0;    // that were made
+  std::size_t reused = 0;  // answers that were given from memory
   double seconds = 0;
   std::vector<int> controllers;  // the utility's own numbers that answered to every "getconfig"
   std::vector<int> refused;      // the numbers that it says it does not have
