@@ -136,9 +136,12 @@ const std::map<std::string, std::function<void(const Texts&)>> kModes = {
     {"rest-breeds",       [](const Texts& given) { StayBehind(Rest::kBreeds, given.at(0)); }           },
 };
 
-// Under a utility's name it writes what stands in a file beside it, "script/qcmdrun getconfig 1 al", byte for byte.
-// Where there is another of that name, ended by ".crash", it crashes then.
+// Under a utility's name it has a family that nobody ends by asking, and sleeps, where there is a folder "family"
+// beside it: for the numbers of these processes. Else it writes what stands in a file beside it, "script/qcmdrun
+// getconfig 1 al", byte for byte. Where there is another of that name, ended by ".crash", it crashes then.
 int AnswerAs(const std::filesystem::path& utility, const Texts& arguments) {
+  const std::filesystem::path family = utility.parent_path() / "family";
+  if (std::filesystem::exists(family)) SleepWithFamily((family / "number").string(), "300");
   std::string name = utility.stem().string();
   for (const std::string& argument : arguments) name += " " + argument;
   const std::filesystem::path script = utility.parent_path() / "script" / name;

@@ -22,6 +22,8 @@ bool RunningProgram::SaysOnStandardError(const std::string& text) const {
   return false;
 }
 
+void RunningProgram::AskToEnd(EndRequest request) const { AskProcessToEnd(process_, request); }
+
 ProgramResult RunningProgram::Wait() {
   isRunning_ = false;
   const int exitStatus = WaitForProcess(process_);

@@ -14,6 +14,9 @@ struct ProgramResult {
   std::string err;
 };
 
+// How a program is made to end.
+enum class EndRequest { kInterrupt, kTerminate, kHangUp, kKill };
+
 // A program that runs beside the test. What it writes goes to files, so that it never waits for a reader.
 class RunningProgram {
  public:
@@ -27,6 +30,7 @@ class RunningProgram {
   std::string ErrorSoFar() const;
   // Whether standard error holds the text within ten seconds.
   bool SaysOnStandardError(const std::string& text) const;
+  void AskToEnd(EndRequest request) const;
   ProgramResult Wait();
 
  private:
@@ -38,5 +42,7 @@ class RunningProgram {
 // The system's part. Throws std::runtime_error when the program cannot be started.
 std::intptr_t StartProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments,
                            const std::filesystem::path& out, const std::filesystem::path& err);
+// Throws std::runtime_error where the system has no such request.
+void AskProcessToEnd(std::intptr_t process, EndRequest request);
 // The exit status; 256 and more where it was ended by force.
 int WaitForProcess(std::intptr_t process);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 // What tests need of the operating system.
 
@@ -11,6 +12,9 @@ std::filesystem::path ProgramFolder();
 
 // Whether a process of this number runs; one that has ended and only waits for its parent to notice does not.
 bool IsRunning(unsigned long process);
+
+// The processes that run this program, or one in this folder.
+std::vector<unsigned long> ProcessesOf(const std::filesystem::path& programs);
 
 // How many files, pipes and the like this process holds.
 std::size_t OpenHandleCount();

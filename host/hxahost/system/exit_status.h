@@ -14,6 +14,9 @@ enum class ExitStatus {
   kPluginNotLoaded = 3,
   kHealthUnknown = 3,
   kNothingFound = 4,
+  kHungUp = 129,  // and the next two: as shells say of a program that a signal has ended
+  kInterrupted = 130,
+  kTerminated = 143,
 };
 
 // Ends the program with a status. The message is the one line that a person gets: what is wrong and what to do.

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "host/hxahost/system/exit_status.h"
-#include "host/hxahost/system/file_rights.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -52,10 +51,13 @@ void RemoveAbandoned(const fs::path& path) {
   }
 }
 
-fs::path WrittenName(const fs::path& path) {
+bool IsDevice(const fs::path& path) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
-  if (fs::exists(status) && !fs::is_regular_file(status)) return path;
+  return fs::exists(status) && !fs::is_regular_file(status);
+}
+
+fs::path NameMeanwhile(const fs::path& path) {
   fs::path name = path;
   name += "." + std::to_string(ProcessId()) + std::string(kPart);
   return name;
@@ -64,37 +66,28 @@ fs::path WrittenName(const fs::path& path) {
 }  // namespace
 
 OutputFile::OutputFile(const fs::path& path, std::string option)
-    : option_(std::move(option)),
-      path_(WithoutLinks(path)),
-      written_(WrittenName(path_)),
-      stream_(written_, std::ios::binary) {
+    : option_(std::move(option)), path_(WithoutLinks(path)), stream_(nullptr) {
+  if (IsDevice(path_)) {
+    if (device_.open(path_, std::ios::out | std::ios::binary) != nullptr) stream_.rdbuf(&device_);
+  } else {
+    stream_.rdbuf(file_.emplace(NameMeanwhile(path_), path_).Buffer());
+  }
   if (!stream_) {
     throw ProgramError(ExitStatus::kWrongArguments, option_ + " " + Printable(Utf8FromPath(path)) +
                                                         " cannot be written: name a file in a folder that is there "
                                                         "and that you may write to.");
   }
-  if (written_ == path_) return;
-  CopyRights(path_, written_);
-  RemoveAbandoned(path_);
-}
-
-OutputFile::~OutputFile() {
-  if (isFinished_ || written_ == path_) return;
-  stream_.close();
-  std::error_code ignored;  // there is nothing left to be done about it
-  fs::remove(written_, ignored);
+  if (file_) RemoveAbandoned(path_);
 }
 
 void OutputFile::Finish() {
-  stream_.close();
-  std::error_code error;
-  if (stream_ && written_ != path_) fs::rename(written_, path_, error);
-  if (!stream_ || error) {
+  stream_.flush();
+  const bool isWhole = stream_ && (file_ ? file_->Finish() : device_.close() != nullptr);
+  if (!isWhole) {
     throw ProgramError(ExitStatus::kQueryFailed, option_ + " " + Printable(Utf8FromPath(path_)) +
                                                      " could not be written: see whether there is room on the disk "
                                                      "and whether another program has the file open.");
   }
-  isFinished_ = true;
 }
 
 }  // namespace hxahost

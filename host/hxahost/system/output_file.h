@@ -2,20 +2,22 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <ostream>
 #include <string>
 
+#include "host/hxahost/system/unfinished_file.h"
+
 namespace hxahost {
 
-// A file that is there complete or not at all: it is written under another name in the same folder and renamed at
-// the end, with the owner and the rights of the file that it replaces. What programs that were killed have left of it
-// is removed. What is no ordinary file (a device, a pipe) is written directly.
+// A file that is there complete or not at all: it is written beside the file that it replaces at the end, whose owner
+// and rights it gets, and is gone with the program where that ends before. What programs that were killed have left of
+// it, where the file system names unfinished files, is removed. What is no ordinary file (a device, a pipe) is written
+// directly.
 class OutputFile {
  public:
   // Opens it. Throws ProgramError, which names the option, when it cannot be written there.
   explicit OutputFile(const std::filesystem::path& path, std::string option = "--output");
-  // Removes what was written unless it was finished.
-  ~OutputFile();
   OutputFile(const OutputFile&) = delete;
   OutputFile& operator=(const OutputFile&) = delete;
 
@@ -27,9 +29,9 @@ class OutputFile {
  private:
   std::string option_;
   std::filesystem::path path_;
-  std::filesystem::path written_;  // the same as path_ where it is written directly
-  std::ofstream stream_;
-  bool isFinished_ = false;
+  std::filebuf device_;
+  std::optional<UnfinishedFile> file_;
+  std::ostream stream_;
 };
 
 }  // namespace hxahost

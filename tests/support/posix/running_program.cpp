@@ -1,5 +1,6 @@
 #include "tests/support/running_program.h"
 
+#include <csignal>
 #include <cstring>
 #include <stdexcept>
 
@@ -27,6 +28,11 @@ std::intptr_t StartProcess(const std::filesystem::path& program, const std::vect
   posix_spawn_file_actions_destroy(&actions);
   if (error != 0) throw std::runtime_error(program.string() + ": " + std::strerror(error));
   return process;
+}
+
+void AskProcessToEnd(std::intptr_t process, EndRequest request) {
+  const int signals[] = {SIGINT, SIGTERM, SIGHUP, SIGKILL};
+  kill(static_cast<pid_t>(process), signals[static_cast<int>(request)]);
 }
 
 int WaitForProcess(std::intptr_t process) {

@@ -21,6 +21,17 @@ bool IsRunning(unsigned long process) {
   return nameEnd != std::string::npos && status[nameEnd + 2] != 'Z' && status[nameEnd + 2] != 'X';
 }
 
+std::vector<unsigned long> ProcessesOf(const fs::path& programs) {
+  std::vector<unsigned long> processes;
+  for (const auto& entry : fs::directory_iterator("/proc")) {
+    std::error_code gone;
+    const std::string program = fs::read_symlink(entry.path() / "exe", gone).string();
+    const unsigned long process = std::strtoul(entry.path().filename().c_str(), nullptr, 10);
+    if (process != 0 && program.starts_with(programs.string()) && IsRunning(process)) processes.push_back(process);
+  }
+  return processes;
+}
+
 std::size_t OpenHandleCount() {
   return static_cast<std::size_t>(std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
 }

@@ -33,8 +33,8 @@ std::intptr_t StartProcess(const std::filesystem::path& program, const std::vect
   startup.hStdError = OpenForChild(err);
   PROCESS_INFORMATION process{};
   std::wstring line = CommandLine(program, arguments);
-  const BOOL isStarted =
-      CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process);
+  const BOOL isStarted = CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, CREATE_NEW_PROCESS_GROUP,
+                                        nullptr, nullptr, &startup, &process);
   const DWORD error = GetLastError();
   CloseHandle(startup.hStdOutput);
   CloseHandle(startup.hStdError);
@@ -43,6 +43,15 @@ std::intptr_t StartProcess(const std::filesystem::path& program, const std::vect
   }
   CloseHandle(process.hThread);
   return reinterpret_cast<std::intptr_t>(process.hProcess);
+}
+
+void AskProcessToEnd(std::intptr_t process, EndRequest request) {
+  const auto handle = reinterpret_cast<HANDLE>(process);
+  if (request == EndRequest::kKill) {
+    TerminateProcess(handle, 256);
+  } else if (request != EndRequest::kInterrupt || !GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, GetProcessId(handle))) {
+    throw std::runtime_error("the program cannot be asked to end: error " + std::to_string(GetLastError()));
+  }
 }
 
 int WaitForProcess(std::intptr_t process) {

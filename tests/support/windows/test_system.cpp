@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 
 #include <windows.h>
 
@@ -21,6 +22,24 @@ bool IsRunning(unsigned long process) {
   const bool isRunning = WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
   CloseHandle(handle);
   return isRunning;
+}
+
+std::vector<unsigned long> ProcessesOf(const std::filesystem::path& programs) {
+  std::array<DWORD, 4096> all{};
+  DWORD size = 0;
+  EnumProcesses(all.data(), sizeof all, &size);
+  std::vector<unsigned long> processes;
+  for (DWORD index = 0; index < size / sizeof(DWORD); ++index) {
+    const HANDLE handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, all[index]);
+    std::array<wchar_t, 1024> program{};
+    DWORD length = program.size();
+    if (handle && QueryFullProcessImageNameW(handle, 0, program.data(), &length) &&
+        std::wstring_view(program.data(), length).starts_with(programs.wstring()) && IsRunning(all[index])) {
+      processes.push_back(all[index]);
+    }
+    if (handle) CloseHandle(handle);
+  }
+  return processes;
 }
 
 // Handles are small multiples of four. Wine says 0 when it is asked for their number, so they are tried one by one.

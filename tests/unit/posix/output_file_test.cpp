@@ -52,6 +52,15 @@ TEST(OutputFilePosix, KeepsModeAndOwnerOfWhatItReplaces) {
   EXPECT_EQ(replaced.st_uid, owner);
 }
 
+TEST(OutputFilePosix, IsNotSeenBeforeItIsFinished) {
+  const TemporaryFolder folder;
+  OutputFile file(folder.Path() / "file");
+  file.Stream() << "text" << std::flush;
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
+  file.Finish();
+  EXPECT_EQ(FileText(folder.Path() / "file"), "text");
+}
+
 TEST(OutputFilePosix, WritesIntoADeviceAndDoesNotReplaceIt) {
   OutputFile file("/dev/null");
   file.Stream() << "text";

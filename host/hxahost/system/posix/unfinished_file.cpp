@@ -1,0 +1,67 @@
+#include "host/hxahost/system/unfinished_file.h"
+
+#include <fstream>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "host/hxahost/system/file_rights.h"
+
+namespace fs = std::filesystem;
+
+namespace hxahost {
+
+namespace {
+
+constexpr mode_t kReadAndWrite = 0666;  // without what the user's mask takes away
+
+// The file of a descriptor, by a name that the system has for it.
+std::string OpenName(int file) { return "/proc/self/fd/" + std::to_string(file); }
+
+class FileBuffer : public std::filebuf {
+ public:
+  explicit FileBuffer(int file) : file_(file) { open(OpenName(file), std::ios::out | std::ios::binary); }
+  ~FileBuffer() override { ::close(file_); }
+  int File() const { return file_; }
+
+ private:
+  int file_;
+};
+
+}  // namespace
+
+UnfinishedFile::UnfinishedFile(fs::path name, const fs::path& target) : name_(std::move(name)), target_(target) {
+  const fs::path folder = name_.has_parent_path() ? name_.parent_path() : fs::path(".");
+  int file = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kReadAndWrite);
+  isNamed_ = file < 0;
+  if (isNamed_) file = open(name_.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, kReadAndWrite);
+  if (file < 0) return;
+  auto buffer = std::make_unique<FileBuffer>(file);
+  if (!buffer->is_open()) return;
+  CopyRights(target_, OpenName(file));
+  buffer_ = std::move(buffer);
+}
+
+UnfinishedFile::~UnfinishedFile() {
+  std::error_code ignored;  // there is nothing left to be done about it
+  if (isNamed_) fs::remove(name_, ignored);
+}
+
+bool UnfinishedFile::Finish() {
+  auto& buffer = static_cast<FileBuffer&>(*buffer_);
+  if (buffer.close() == nullptr) return false;
+  std::error_code error;
+  if (!isNamed_) {
+    fs::remove(name_, error);  // of a program of the same number, ended between these two
+    isNamed_ = linkat(AT_FDCWD, OpenName(buffer.File()).c_str(), AT_FDCWD, name_.c_str(), AT_SYMLINK_FOLLOW) == 0;
+    if (!isNamed_) return false;
+  }
+  fs::rename(name_, target_, error);
+  isNamed_ = static_cast<bool>(error);
+  return !error;
+}
+
+}  // namespace hxahost
