@@ -70,10 +70,9 @@ std::size_t Secrets::LengthAt(std::string_view text, std::string_view folded, st
     }
     if (place + length == folded.size()) break;
     const auto next = [length](const Secret& secret) { return static_cast<unsigned char>(secret.folded[length]); };
-    const auto same =
-        std::ranges::equal_range(first, last, static_cast<unsigned char>(folded[place + length]), {}, next);
-    first = same.begin();
-    last = same.end();
+    const auto wanted = static_cast<unsigned char>(folded[place + length]);
+    first = std::ranges::lower_bound(first, last, wanted, {}, next);
+    last = std::ranges::upper_bound(first, last, wanted, {}, next);
   }
   return longest;
 }
