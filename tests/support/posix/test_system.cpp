@@ -59,6 +59,6 @@ bool UnloadLibrary(const fs::path& file) {
   return dlopen(file.c_str(), kFlags) == nullptr;
 }
 
-const int kManyRuns = 10000;
+const int kManyRuns = 1000;
 
 const std::size_t kCasesForOneRun = 29;
