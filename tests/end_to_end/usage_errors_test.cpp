@@ -88,7 +88,7 @@ const std::vector<Case> kQueryCases = {
     {"--expect",             {"query", "--expect", "arconf"},                        2, "give qcmdrun, hrconf_64, arcconf"},
     {"--expect-controllers", {"query", "--expect-controllers", "-1"},                2, "a whole number from 1 on"        },
     {"--expect-disks",       {"query", "--expect-disks", "0"},                       2, "a whole number from 1 on"        },
-    {"--baseline",           {"query", "--baseline", kMissing},                      2, "name a file that is there"       },
+    {"--baseline",           {"query", "--baseline", kMissing},                      2, "name a result or a bundle"       },
     {"--baseline",           {"query", "--baseline", kFile},                         2, "is no result of"                 },
 };
 
@@ -125,7 +125,7 @@ const std::vector<Case> kHealthCases = {
     {"--expect",             {"health", "--expect", "arconf"},                        3, "give qcmdrun, hrconf_64, arcconf"},
     {"--expect-controllers", {"health", "--expect-controllers", "-1"},                3, "a whole number from 1 on"        },
     {"--expect-disks",       {"health", "--expect-disks", "0"},                       3, "a whole number from 1 on"        },
-    {"--baseline",           {"health", "--baseline", kMissing},                      3, "name a file that is there"       },
+    {"--baseline",           {"health", "--baseline", kMissing},                      3, "name a result or a bundle"       },
     {"--baseline",           {"health", "--baseline", kFile},                         3, "is no result of"                 },
     {"--save-baseline",      {"health", "--save-baseline", kNowhere},                 3, "name a file in a folder"         },
     {"--save-baseline",      {"health", "--save-baseline", kFile, "--output", kFile}, 3, "is named twice"                  },

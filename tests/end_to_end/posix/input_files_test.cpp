@@ -140,7 +140,7 @@ TEST(InputFiles, ABundleGoesThroughAPipe) {
 }
 
 TEST(InputFiles, AStreamIsReadUpToTheLimit) {
-  const ProgramResult endless = RunFromShell("ulimit -v 2000000; timeout 60 \"$0\" \"$@\" < /dev/zero",
+  const ProgramResult endless = RunFromShell("head -c 200000000 /dev/zero | timeout 60 \"$0\" \"$@\"",
                                              {"query", "--replay", "-", "--input-limit", "3"});
   EXPECT_EQ(endless.exitStatus, 2);
   EXPECT_EQ(endless.err, "hxahost: Standard input is larger than 3 MiB: allow more with --input-limit.\n");
@@ -149,7 +149,8 @@ TEST(InputFiles, AStreamIsReadUpToTheLimit) {
   EXPECT_THAT(other.err, HasSubstr("Standard input is no bundle"));
 }
 
-// With 300 MB of addresses, the program has room for itself and not for the file.
+// With 300 MB of addresses, the program has room for itself and not for the file. Sanitizers need more for themselves.
+#ifndef ZENX_SANITIZED
 TEST(InputFiles, ThatDoNotFitIntoTheMemoryAreAnsweredByOneLineThatSaysWhatToDo) {
   const TemporaryFolder folder;
   const fs::path large = folder.Write("large", "");
@@ -173,5 +174,6 @@ TEST(InputFiles, ThatDoNotFitIntoTheMemoryAreAnsweredByOneLineThatSaysWhatToDo) 
   EXPECT_EQ(nagios.exitStatus, 3);
   EXPECT_THAT(nagios.out, HasSubstr("There is not enough memory: "));
 }
+#endif
 
 }  // namespace
