@@ -56,7 +56,7 @@ TEST_F(Diff, ShowsAFailedDiskAndALostOneFirst) {
   EXPECT_EQ(shown.exitStatus, 1);
   EXPECT_THAT(shown.out,
               HasSubstr(":\n\nHealth findings: 1\n  + critical: Hard drive at channel 0, ID 0 of controller 4 "
-                        "[C4 CH0 I00:Controller: Device #0]: State \"Failed\": the disk has failed; replace it\n"
+                        "[C4 CH0 I00:Controller: Device #0]: State \"Failed\": Replace the disk: it has failed\n"
                         "\nDisappeared: 1\n  - C1 channel 1, ID 5, S/N H8B01290\n"
                         "\nStates that changed: 1\n  ! C4 enclosure 0, slot 0: State \"Online\" -> \"Failed\"\n"));
 

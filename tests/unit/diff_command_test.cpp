@@ -52,7 +52,7 @@ TEST_F(DiffCommand, ShowsTheFindingsBeforeEverythingElse) {
   RunDiffCommand(Options(online.c_str(), failed.c_str()), out_);
   EXPECT_NE(
       out_.str().find(":\n\nHealth findings: 1\n  + critical: Hard drive at number  of controller 1 [D\\x1b]: State "
-                      "\"Failed\": the disk has failed; replace it\n\nStates that changed: 1\n"),
+                      "\"Failed\": Replace the disk: it has failed\n\nStates that changed: 1\n"),
       std::string::npos)
       << out_.str();
   out_.str("");

@@ -204,7 +204,7 @@ TEST(HealthRulesText, ShowsEachRule) {
   WriteHealthRules(out);
   EXPECT_THAT(out.str(), HasSubstr("KVRSG_zxLogicalDisk, LogicalDriveStatus\n"));
   EXPECT_THAT(out.str(),
-              HasSubstr("  critical \"offline\" (ofl), printed by every utility: its data cannot be reached"));
+              HasSubstr("  critical \"offline\" (ofl), printed by every utility: Replace the failed disks"));
   EXPECT_THAT(
       out.str(),
       HasSubstr("  warning  \"rebuild\" (rbl) in a logical drive that is not guarded, printed by every utility"));

@@ -134,7 +134,7 @@ TEST(HealthRules, EachBreaksOneThingAndExactlyThatIsFound) {
       EXPECT_EQ(finding.className, each.className);
       EXPECT_EQ(finding.property, each.property);
       EXPECT_EQ(finding.text, printed);
-      EXPECT_NE(finding.meaning, "");
+      EXPECT_NE(TextOf(finding.meaning), "");
     }
   }
 }

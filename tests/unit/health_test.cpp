@@ -55,7 +55,7 @@ TEST(Health, GivesEverythingThatThereIsToSayOfAFinding) {
   EXPECT_EQ(findings[0].name, "logical drive 1 (Data) of controller 2");
   EXPECT_EQ(findings[0].property, "LogicalDriveStatus");
   EXPECT_EQ(findings[0].text, "Degraded");
-  EXPECT_EQ(findings[0].meaning, "one more failed disk loses its data; replace the failed disk now");
+  EXPECT_EQ(TextOf(findings[0].meaning), "Replace the failed disk now: the array cannot tolerate another failure");
   ASSERT_TRUE(findings[0].instance.has_value());
   EXPECT_EQ(RawText(*machine.Result().instances.at(*findings[0].instance), "DeviceID"), "Zentraxis2LD1");
 }

@@ -90,7 +90,7 @@ class Comparison {
         what + (isKnown ? " is missing" : fmt::format(" is not shown: {} did not answer", controller.tool));
     const HealthRule& rule = RuleFor(kBaselinePresence, isKnown ? "missing" : "not known");
     findings_.push_back({change.severity, std::string(kBaseline), object.identifier, object.name,
-                         std::string(kBaselinePresence.property), std::string(rule.word), TextOf(rule.meaning)});
+                         std::string(kBaselinePresence.property), std::string(rule.word), rule.meaning});
     machine_.changes.push_back(std::move(change));
   }
 
@@ -252,8 +252,7 @@ Findings ExpectationFindings(Machine& machine, const QueryHeader& header) {
     if (!number || found >= *number || !IsAskedFor(header, expected.className)) continue;
     const std::string name = fmt::format("the {}", expected.what);
     findings.push_back({SeverityOf(rule.level), std::string(kExpectation), std::string(expected.what), name,
-                        std::string(kExpectedNumber.property), fmt::format("{} of {}", found, *number),
-                        TextOf(rule.meaning)});
+                        std::string(kExpectedNumber.property), fmt::format("{} of {}", found, *number), rule.meaning});
     Incident& change = machine.changes.emplace_back();
     change.severity = SeverityOf(rule.level);
     change.controller = machine.controllers.size();

@@ -37,7 +37,7 @@ bool HasWord(const State& state, std::string_view part) {
 // The utility that a finding of the log is about: what its runs report has the same cause.
 std::string_view ToolOfLogged(const Finding& finding) {
   const auto rule = std::ranges::find_if(HealthRules(), [&](const HealthRule& each) {
-    return each.value == &kLogText && TextOf(each.meaning) == finding.meaning;
+    return each.value == &kLogText && each.meaning == finding.meaning;
   });
   return rule == HealthRules().end() ? std::string_view() : rule->tools;
 }
@@ -203,7 +203,7 @@ class Sorting {
     std::vector<std::size_t> counted;
     for (std::size_t place = 0; place < machine_.findings.size(); ++place) {
       const Finding& finding = machine_.findings[place];
-      if (finding.effect == Effect::kCounted) {
+      if (finding.meaning.effect == Effect::kCounted) {
         counted.push_back(place);
       } else {
         Add(place, subjects_.Of(finding));
@@ -227,8 +227,8 @@ class Sorting {
     if (subject.drive != kNone || subject.device != kNone) {
       return {subject.controller, joints_[subject.controller].Head(subject), ""};
     }
-    const bool isKind = finding.effect == Effect::kHeat || finding.effect == Effect::kBattery;
-    return {subject.controller, kNone, isKind ? std::to_string(static_cast<int>(finding.effect)) : ""};
+    const bool isKind = finding.meaning.effect == Effect::kHeat || finding.meaning.effect == Effect::kBattery;
+    return {subject.controller, kNone, isKind ? std::to_string(static_cast<int>(finding.meaning.effect)) : ""};
   }
 
   void Add(std::size_t place, const Subject& subject) {
@@ -258,7 +258,7 @@ class Sorting {
     return std::ranges::any_of(cause.devices,
                                [&](std::size_t device) { return IsFailed(machine_, devices[device]); }) ||
            std::ranges::any_of(cause.findings, [&](std::size_t place) {
-             const Effect effect = machine_.findings[place].effect;
+             const Effect effect = machine_.findings[place].meaning.effect;
              return effect == Effect::kDegraded || effect == Effect::kUnreachable;
            });
   }
@@ -291,7 +291,7 @@ class Sorting {
 
 bool HasEffect(const Machine& machine, const Object& object, Effect effect) {
   return std::ranges::any_of(object.findings,
-                             [&](std::size_t place) { return machine.findings[place].effect == effect; });
+                             [&](std::size_t place) { return machine.findings[place].meaning.effect == effect; });
 }
 
 bool IsFailed(const Machine& machine, const Device& device) {

@@ -19,8 +19,8 @@ namespace hxahost {
 
 namespace {
 
-constexpr Meaning kHardErrors = {"the disk cannot read or write some sectors", "plan to replace it", Effect::kErrors};
-constexpr Meaning kSoftErrors = {"the disk corrects many errors", "watch it, and plan to replace it", Effect::kErrors};
+constexpr Meaning kHardErrors = {"it cannot read or write some sectors", "plan to replace the disk", Effect::kErrors};
+constexpr Meaning kSoftErrors = {"it corrects many errors", "watch the disk, and plan to replace it", Effect::kErrors};
 constexpr Meaning kParityErrors = {"transfers to the disk fail", "check the cable, the terminator and the backplane",
                                    Effect::kErrors};
 constexpr Meaning kSlow = {"the disk transfers slower than it can", "check the cable and the backplane",
@@ -40,11 +40,14 @@ bool Reaches(std::optional<long> count, std::optional<unsigned> limit) {
 Finding OfInstance(const InstanceList& instances, std::size_t place, std::string_view property, std::string text,
                    const Meaning& meaning) {
   const TPublishedInstance& instance = *instances[place];
-  return {Severity::kWarning,     std::string(instance.Class().name),
-          IdentifierOf(instance), NameOf(instance, ""),
-          std::string(property),  std::move(text),
-          TextOf(meaning),        place,
-          meaning.effect};
+  return {Severity::kWarning,
+          std::string(instance.Class().name),
+          IdentifierOf(instance),
+          NameOf(instance, ""),
+          std::string(property),
+          std::move(text),
+          meaning,
+          place};
 }
 
 struct Counter {

@@ -14,7 +14,7 @@ namespace hxahost {
 
 namespace {
 
-constexpr Meaning kGrowing = {"the disk goes on to report errors", "plan to replace it", Effect::kErrors};
+constexpr Meaning kGrowing = {"it continues to report errors", "plan to replace the disk", Effect::kErrors};
 
 struct Counter {
   std::uint64_t ErrorCounts::*count;
@@ -67,9 +67,8 @@ std::vector<ErrorGrowth> GrowthOf(const Device& before, const Device& now, const
                              now.name,
                              std::string(counter.property),
                              text,
-                             TextOf(kGrowing),
-                             now.instance,
-                             kGrowing.effect};
+                             kGrowing,
+                             now.instance};
   }
   return growths;
 }

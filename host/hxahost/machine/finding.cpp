@@ -2,6 +2,10 @@
 
 #include <algorithm>
 
+#include <fmt/core.h>
+
+#include "host/hxahost/text/ascii.h"
+
 namespace hxahost {
 
 Severity SeverityOf(Level level) {
@@ -30,6 +34,12 @@ std::string_view LevelWord(Level level) {
 std::string_view SeverityWord(Severity severity) { return LevelWord(LevelOf(severity)); }
 
 bool IsWorse(Severity left, Severity right) { return LevelOf(left) > LevelOf(right); }
+
+std::string TextOf(const Meaning& meaning) {
+  const std::string_view action = meaning.action;
+  if (action.empty()) return std::string(meaning.what);
+  return fmt::format("{}{}: {}", Upper(action.substr(0, 1)), action.substr(1), meaning.what);
+}
 
 Severity WorstOf(const Findings& findings) {
   const auto worst = std::ranges::max_element(findings, {}, [](const Finding& each) { return LevelOf(each.severity); });

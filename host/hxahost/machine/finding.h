@@ -51,6 +51,18 @@ enum class Effect {
   kBattery,
 };
 
+// What a value means and what to do.
+struct Meaning {
+  std::string_view what;
+  std::string_view action = "";
+  Effect effect = Effect::kOther;
+
+  bool operator==(const Meaning&) const = default;
+};
+
+// "Replace it: the disk has failed".
+std::string TextOf(const Meaning& meaning);
+
 // One thing that is wrong, or that cannot be told to be right.
 struct Finding {
   Severity severity = Severity::kUnknown;
@@ -58,10 +70,9 @@ struct Finding {
   std::string identifier;  // "DeviceID" or "InstanceID" of the instance, or the tool's name
   std::string name;        // as people call it: "logical drive 3 (Archive) of controller 4"
   std::string property;
-  std::string text;                          // as the tool printed it, bytes, without the white space at both ends
-  std::string meaning;                       // what it means and what to do
+  std::string text;  // as the tool printed it, bytes, without the white space at both ends
+  Meaning meaning;
   std::optional<std::size_t> instance = {};  // the place of the instance among those of the query
-  Effect effect = Effect::kOther;
 };
 
 using Findings = std::vector<Finding>;

@@ -27,7 +27,7 @@ constexpr std::string_view kClasses[] = {
 };
 
 constexpr Judgement kNotKnown = {
-    Level::kUnknown, {"no rule knows what this says", "see the manual of the utility"}
+    Level::kUnknown, {"no rule knows this word", "see the manual of the utility"}
 };
 
 // Whether a rule that holds in one place holds for what is judged.
@@ -147,7 +147,7 @@ class Examination {
       if (severity == Severity::kFine) continue;
       findings.push_back({severity, std::string(value.className), IdentifierOf(instance),
                           object == nullptr ? NameOf(instance, "") : object->name, std::string(value.property), text,
-                          TextOf(judgement.meaning), place, judgement.meaning.effect});
+                          judgement.meaning, place});
     }
   }
 

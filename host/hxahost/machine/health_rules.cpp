@@ -41,73 +41,73 @@ constexpr std::string_view kNewer = "arcconf, hrconf_64";
 
 // What findings mean and what to do.
 constexpr Meaning kNothing = {};
-constexpr Meaning kDataGone = {"its data cannot be reached", "replace the failed disks and restore it from a backup",
+constexpr Meaning kDataGone = {"its data cannot be reached",
+                               "replace the failed disks and restore the logical drive from a backup",
                                Effect::kUnreachable};
 constexpr Meaning kRefusesAccess = {"the controller blocks access to it, as it does after data loss",
-                                    "restore it from a backup", Effect::kUnreachable};
+                                    "restore the logical drive from a backup", Effect::kUnreachable};
 constexpr Meaning kDataLost = {"data was lost in these stripes", "restore the logical drive from a backup",
                                Effect::kBadStripes};
-constexpr Meaning kUnguarded = {"one more failed disk loses its data", "replace the failed disk now",
+constexpr Meaning kUnguarded = {"the array cannot tolerate another failure", "replace the failed disk now",
                                 Effect::kDegraded};
-constexpr Meaning kLessGuarded = {"it tolerates fewer disk failures than configured", "replace the failed disk",
+constexpr Meaning kLessGuarded = {"the array tolerates fewer disk failures than configured", "replace the failed disk",
                                   Effect::kDegraded};
-constexpr Meaning kDriveRebuilt = {"it has no redundancy until the rebuild ends", "wait for the end of the rebuild",
+constexpr Meaning kDriveRebuilt = {"the logical drive has no redundancy until then", "wait for the end of the rebuild",
                                    Effect::kRebuilding};
-constexpr Meaning kSegmentGone = {"a segment of it is on a failed or missing disk", "replace the disk",
-                                  Effect::kSegment};
-constexpr Meaning kFailedDisk = {"the disk has failed", "replace it", Effect::kDiskFailed};
-constexpr Meaning kDiskOutOfService = {"the disk was taken out of service", "replace it", Effect::kDiskFailed};
-constexpr Meaning kUnusedDiskBad = {"the disk is unusable, but no array needs it", "replace it", Effect::kDiskFailed};
-constexpr Meaning kSpareFailed = {"the hot spare has failed: no disk takes over when the next one fails", "replace it",
+constexpr Meaning kSegmentGone = {"a segment is on a failed or missing disk", "replace the disk", Effect::kSegment};
+constexpr Meaning kFailedDisk = {"it has failed", "replace the disk", Effect::kDiskFailed};
+constexpr Meaning kDiskOutOfService = {"it was taken out of service", "replace the disk", Effect::kDiskFailed};
+constexpr Meaning kUnusedDiskBad = {"it is unusable, but no array uses it", "replace the disk", Effect::kDiskFailed};
+constexpr Meaning kSpareFailed = {"no disk takes over when the next one fails", "replace the hot spare",
                                   Effect::kDiskFailed};
-constexpr Meaning kDiskGone = {"the disk is missing", "check whether it was pulled, or replace it",
+constexpr Meaning kDiskGone = {"it is missing", "check whether the disk was pulled, or replace it",
                                Effect::kDiskMissing};
-constexpr Meaning kDiskRebuilt = {"its array has no redundancy until the rebuild ends",
-                                  "wait for the end of the rebuild", Effect::kRebuilding};
-constexpr Meaning kPredicted = {"the disk predicts that it will fail", "replace it soon", Effect::kPredicted};
-constexpr Meaning kLeftOutController = {"its drives are published but it is not, as after a failure",
+constexpr Meaning kDiskRebuilt = {"its array has no redundancy until then", "wait for the end of the rebuild",
+                                  Effect::kRebuilding};
+constexpr Meaning kPredicted = {"it predicts that it will fail", "replace the disk soon", Effect::kPredicted};
+constexpr Meaning kLeftOutController = {"its drives are published without it, as after a failure",
                                         "replace the controller", Effect::kController};
 constexpr Meaning kFailedController = {"the controller has failed", "replace the controller", Effect::kController};
-constexpr Meaning kTrouble = {"the controller reports trouble", "see its event log", Effect::kCounted};
+constexpr Meaning kTrouble = {"the controller reports an error", "see its event log", Effect::kCounted};
 constexpr Meaning kSomeTrouble = {"the controller does not work as it should", "see its event log", Effect::kCounted};
-constexpr Meaning kCountsOffline = {"the controller counts offline logical drives: the second number",
-                                    "restore them from a backup", Effect::kCounted};
-constexpr Meaning kCountsCritical = {"the controller counts logical drives without redundancy: the third number",
-                                     "replace their failed disks", Effect::kCounted};
-constexpr Meaning kCountsDefunct = {"the controller counts failed disks", "replace them", Effect::kCounted};
+constexpr Meaning kCountsOffline = {"the second number counts offline logical drives",
+                                    "restore these logical drives from a backup", Effect::kCounted};
+constexpr Meaning kCountsCritical = {"the third number counts logical drives without redundancy",
+                                     "replace the failed disks of these logical drives", Effect::kCounted};
+constexpr Meaning kCountsDefunct = {"the controller counts failed disks", "replace these disks", Effect::kCounted};
 constexpr Meaning kHot = {"the controller is too hot", "check the cooling", Effect::kHeat};
 constexpr Meaning kVeryHot = {"the controller is too hot", "check the cooling now", Effect::kHeat};
 constexpr Meaning kBatteryHot = {"the battery is too hot", "check the cooling", Effect::kBattery};
 constexpr Meaning kWeakBattery = {"cached data is lost when the power fails", "replace the battery", Effect::kBattery};
 constexpr Meaning kNoState = {"the utility printed no state"};
 constexpr Meaning kNoCount = {"the utility printed no count"};
-constexpr Meaning kSaidNothing = {"it reported no controllers", "run it by hand"};
-constexpr Meaning kMaybeWrong = {"its report may be incomplete", "run it by hand"};
-constexpr Meaning kBehindTheCut = {"its report is incomplete", "run it by hand"};
+constexpr Meaning kSaidNothing = {"it reported no controllers", "run the utility by hand"};
+constexpr Meaning kMaybeWrong = {"its report may be incomplete", "run the utility by hand"};
+constexpr Meaning kCutOff = {"its report is incomplete", "run the utility by hand"};
 constexpr Meaning kHung = {"its controllers are not shown", "check whether the controller still responds"};
-constexpr Meaning kNotAsked = {"what it would say is not known", "see which commands with hxahost query --runs"};
-constexpr Meaning kReplayEnded = {"what follows it is not known", "record the bundle again with this version"};
-constexpr Meaning kGone = {"it was there at the baseline", "check whether it was removed"};
-constexpr Meaning kNotSeen = {"it was there at the baseline, and its utility did not answer",
-                              "run the utility by hand"};
-constexpr Meaning kFewerThanExpected = {"there are fewer than expected", "find those that are missing"};
+constexpr Meaning kNotAsked = {"some commands were not run", "list the runs with hxahost query --runs"};
+constexpr Meaning kReplayEnded = {"the answers after it are not known", "record the bundle again with this version"};
+constexpr Meaning kGone = {"it existed at the baseline", "check whether it was removed"};
+constexpr Meaning kNotSeen = {"it existed at the baseline, and its utility did not answer", "run the utility by hand"};
+constexpr Meaning kFewerThanExpected = {"there are fewer than expected", "find the missing ones"};
 constexpr Meaning kNotRun = {"its controllers are not shown",
-                             "put it into the folder zenx and make sure that it may be run"};
-constexpr Meaning kTooFew = {"fewer controllers were published than answered", "see which with hxahost query --runs"};
-constexpr Meaning kNothingKnown = {"nothing is known of this machine", "check the folder zenx"};
+                             "put the utility into the folder zenx and make sure that it may be run"};
+constexpr Meaning kTooFew = {"fewer controllers were published than answered",
+                             "list the answers with hxahost query --runs"};
+constexpr Meaning kNothingKnown = {"nothing is known about this machine", "check the folder zenx"};
 constexpr Meaning kCollectionEnded = {"the rest of the collection is missing", "see the log with hxahost query"};
 constexpr Meaning kLegacyEnded = {"this controller and those after it are not shown", "run qcmdrun by hand"};
 constexpr Meaning kStripesEnded = {"the bad stripes from here on are not shown", "run qcmdrun by hand"};
 constexpr Meaning kNoneRead = {"no controller was published", "see the log with hxahost query"};
 constexpr Meaning kEventsUnread = {"the RAID manager's events are not shown",
-                                   "see that its log is an ordinary file; --input-limit allows larger ones"};
+                                   "make sure that its log is an ordinary file; --input-limit allows larger ones"};
 constexpr Meaning kUpdateDriver = {"this controller and those after it are not shown", "update the driver"};
 
-// How the log begins to tell of a driver that is too old for arcconf.
+// Begins the log entry about a driver that is too old for arcconf.
 constexpr std::string_view kMismatch =
     "a zentraxis c4, c5, c6/c6 e or b3 is present, but there is a driver and firmware mismatch";
 
-// How it begins to tell of a log that the plug-in does not read.
+// Begins the log entry about a RAID manager's log that the plug-in does not read.
 constexpr std::string_view kLogNotRead = "raid manager log not read";
 
 constexpr HealthRule kRules[] = {
@@ -231,7 +231,7 @@ constexpr HealthRule kRules[] = {
     {&kOutcome,          "empty",                   "",    kAll,     kFine,     kNothing,           kAnywhere        },
     {&kOutcome,          "failed",                  "",    kAll,     kUnknown,  kMaybeWrong,        kOnState         },
     {&kOutcome,          "failed",                  "",    kAll,     kFine,     kNothing,           kAnywhere        },
-    {&kOutcome,          "cut off",                 "",    kAll,     kUnknown,  kBehindTheCut,      kOnState         },
+    {&kOutcome,          "cut off",                 "",    kAll,     kUnknown,  kCutOff,            kOnState         },
     {&kOutcome,          "cut off",                 "",    kAll,     kFine,     kNothing,           kAnywhere        },
     {&kOutcome,          "not asked",               "",    kAll,     kUnknown,  kNotAsked,          kAnywhere        },
     {&kOutcome,          "timed out",               "",    kAll,     kUnknown,  kHung,              kAnywhere        },
@@ -270,10 +270,6 @@ constexpr EventSeverity kEventSeverities[] = {
 
 std::span<const HealthRule> HealthRules() { return kRules; }
 std::span<const EventSeverity> EventSeverities() { return kEventSeverities; }
-
-std::string TextOf(const Meaning& meaning) {
-  return fmt::format("{}{}{}", meaning.what, meaning.action.empty() ? "" : "; ", meaning.action);
-}
 
 const HealthRule& RuleFor(const WatchedValue& value, std::string_view word) {
   return *std::ranges::find_if(kRules,

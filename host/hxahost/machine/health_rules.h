@@ -53,16 +53,6 @@ enum class Where {
   kOnOptional,        // on utilities that nobody expects
 };
 
-// What a value means and what to do.
-struct Meaning {
-  std::string_view what;
-  std::string_view action = "";
-  Effect effect = Effect::kOther;
-};
-
-// "the disk has failed; replace it".
-std::string TextOf(const Meaning& meaning);
-
 // One word and what it means. The first rule that names the word, or its code, and holds there, counts; a word that no
 // rule names is unknown.
 struct HealthRule {

@@ -67,9 +67,7 @@ std::string DescribeDevice(const Controller& controller, std::size_t device) {
 }
 
 std::string InstructionOf(const Finding& finding) {
-  const std::size_t semicolon = finding.meaning.rfind("; ");
-  if (semicolon == std::string::npos) return "";
-  const std::string text = finding.meaning.substr(semicolon + 2);
+  const std::string text(finding.meaning.action);
   const std::size_t verb = std::min(text.find(' '), text.size());
   return Upper(text.substr(0, verb)) + text.substr(verb);
 }

@@ -23,7 +23,7 @@ std::string RoleOf(const Controller& controller, std::size_t device);
 // The three: location, identity and, of a disk, its role.
 std::string DescribeDevice(const Controller& controller, std::size_t device);
 
-// "REPLACE the battery" of "cached data is lost when the power fails; replace the battery"; "" where it says nothing.
+// "REPLACE the battery" of a finding whose action is "replace the battery"; "" without an action.
 std::string InstructionOf(const Finding& finding);
 
 // "degraded" of "Degraded, Rebuilding ( Rebuild : 38 % )", "critical" of "Critical (CRT)".

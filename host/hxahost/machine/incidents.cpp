@@ -78,7 +78,7 @@ void DescribeMessage(const Machine& machine, Incident& incident) {
 void DescribeOther(const Machine& machine, Incident& incident) {
   const Finding& finding = machine.findings[incident.findings.front()];
   const std::string text = Printable(finding.text);
-  const auto* const headline = std::ranges::find(kHeadlines, finding.effect, &Headline::effect);
+  const auto* const headline = std::ranges::find(kHeadlines, finding.meaning.effect, &Headline::effect);
   const bool isOfController = incident.controller < machine.controllers.size();
   if (isOfController && headline != std::end(kHeadlines)) {
     incident.headline = fmt::format("{} {}", ShortName(machine.controllers[incident.controller]),
@@ -116,7 +116,7 @@ void NameSubject(const Machine& machine, const Cause& cause, Incident& incident)
   incident.name = Printable(finding.name);
   incident.subject = finding.identifier;
   const bool isOfController = cause.controller < machine.controllers.size();
-  const auto* const part = std::ranges::find(kParts, finding.effect, &Part::effect);
+  const auto* const part = std::ranges::find(kParts, finding.meaning.effect, &Part::effect);
   if (isOfController && part != std::end(kParts)) incident.subject += part->name;
   if (!isOfController && finding.instance) incident.subject = finding.name;  // records have numbers that change
   const Words head = finding.className == kLog ? LogHead(finding.text) : Words();

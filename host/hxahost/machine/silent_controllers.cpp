@@ -84,9 +84,7 @@ Finding UnpublishedFinding(const std::string& number, const std::string& status)
           "controller " + number,
           std::string(rule.value->property),
           status,
-          TextOf(rule.meaning),
-          {},
-          rule.meaning.effect};
+          rule.meaning};
 }
 
 Finding FailedFinding(const FailedStatus& failed) {
@@ -97,9 +95,7 @@ Finding FailedFinding(const FailedStatus& failed) {
           "the controller of the command " + failed.command,
           std::string(kControllerStatus.property),
           failed.text,
-          TextOf(rule.meaning),
-          {},
-          rule.meaning.effect};
+          rule.meaning};
 }
 
 }  // namespace

@@ -87,8 +87,9 @@ std::optional<double> PercentOf(const Situation& situation) {
 }
 
 bool HasEffect(const Situation& situation, Effect effect) {
-  return std::ranges::any_of(situation.cause.findings,
-                             [&](std::size_t place) { return situation.machine.findings[place].effect == effect; });
+  return std::ranges::any_of(situation.cause.findings, [&](std::size_t place) {
+    return situation.machine.findings[place].meaning.effect == effect;
+  });
 }
 
 Situation Look(const Machine& machine, const Cause& cause) {
@@ -188,7 +189,7 @@ const Finding* FindingFor(const Situation& situation, const DiskHeadline& headli
   for (const std::size_t place : situation.cause.findings) {
     const Finding& finding = situation.machine.findings[place];
     const bool isSame = headline.property.empty() || finding.property == headline.property;
-    if (finding.effect == headline.effect && isSame) return &finding;
+    if (finding.meaning.effect == headline.effect && isSame) return &finding;
   }
   return nullptr;
 }

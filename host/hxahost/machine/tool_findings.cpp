@@ -92,7 +92,7 @@ Finding AsFinding(const Trouble& trouble) {
           std::move(name),
           std::string(kOutcome.property),
           fmt::format("{}: {}", trouble.rule->word, trouble.reason),
-          TextOf(trouble.rule->meaning)};
+          trouble.rule->meaning};
 }
 
 // The controllers that a utility described, by tool and number.
@@ -107,8 +107,8 @@ std::size_t CountAnswers(const ToolRunList& runs) {
 
 Finding OfCollection(std::string_view word, std::string text) {
   const HealthRule& rule = RuleFor(kAnswers, word);
-  return {SeverityOf(rule.level),         std::string(kToolRun), "collection",        "the collection",
-          std::string(kAnswers.property), std::move(text),       TextOf(rule.meaning)};
+  return {SeverityOf(rule.level),         std::string(kToolRun), "collection", "the collection",
+          std::string(kAnswers.property), std::move(text),       rule.meaning};
 }
 
 // Every run was one of a program that is not there.
@@ -128,8 +128,13 @@ std::optional<Finding> LogFinding(const std::string& text) {
     return each.value == &kLogText && !head.empty() && each.word == head.front();
   });
   if (rule == HealthRules().end()) return std::nullopt;
-  return Finding{SeverityOf(rule->level), std::string(kLog), "log", "the log", std::string(kLogText.property), text,
-                 TextOf(rule->meaning)};
+  return Finding{SeverityOf(rule->level),
+                 std::string(kLog),
+                 "log",
+                 "the log",
+                 std::string(kLogText.property),
+                 text,
+                 rule->meaning};
 }
 
 // The log may say one thing twice, in a line and in a longer form.
@@ -137,7 +142,7 @@ void AddLogFindings(const std::vector<LoggedEntry>& log, Findings& findings) {
   std::set<std::string> seen;
   for (const LoggedEntry& entry : log) {
     const auto finding = LogFinding(entry.text);
-    if (finding && seen.insert(finding->meaning).second) findings.push_back(*finding);
+    if (finding && seen.insert(TextOf(finding->meaning)).second) findings.push_back(*finding);
   }
 }
 

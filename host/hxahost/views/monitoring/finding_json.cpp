@@ -12,7 +12,7 @@ nlohmann::ordered_json FindingJson(const Finding& finding) {
       {"name",       AsUtf8(finding.name)          },
       {"property",   finding.property              },
       {"text",       AsUtf8(finding.text)          },
-      {"meaning",    finding.meaning               },
+      {"meaning",    TextOf(finding.meaning)       },
   };
 }
 

@@ -28,7 +28,7 @@ std::string QuotedText(const Finding& finding) {
 
 std::string FindingText(const Finding& finding) {
   return fmt::format("{}: {}: {} {}: {}", SeverityWord(finding.severity), SubjectText(finding),
-                     Printable(finding.property), QuotedText(finding), finding.meaning);
+                     Printable(finding.property), QuotedText(finding), TextOf(finding.meaning));
 }
 
 }  // namespace hxahost
