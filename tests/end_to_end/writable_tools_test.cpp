@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 #include <string>
 
+#include "host/hxahost/system/folder_lock.h"
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
@@ -58,6 +60,23 @@ TEST_F(WritableTools, IncludeTheirFolderAndTheOneItLiesIn) {
   ExpectOneLineAbout("zenx, and", Warning());
   LetOthersWrite(Zenx().parent_path());
   ExpectOneLineAbout(hxahost::Utf8FromPath(Zenx().parent_path().filename()) + " and 1 more", Warning());
+}
+
+TEST_F(WritableTools, IncludeTheFoldersInTheirFolder) {
+  fs::create_directories(Zenx() / "lib" / "plugins");
+  EXPECT_EQ(Warning(), "");
+  LetOthersWrite(Zenx() / "lib" / "plugins");
+  ExpectOneLineAbout("plugins, and", Warning());
+}
+
+TEST_F(WritableTools, AreLookedForWhenNoOtherProgramCollectsAnyMore) {
+  std::optional<hxahost::FolderLock> other(Zenx());
+  ASSERT_TRUE(other->Take());
+  RunningProgram hxahost(HxahostPath(), {"query", "--directory", hxahost::Utf8FromPath(Zenx().parent_path())});
+  ASSERT_TRUE(hxahost.SaysOnStandardError("waiting until it is done"));
+  LetOthersWrite(Zenx() / "qcmdrun.exe");
+  other.reset();
+  EXPECT_THAT(hxahost.Wait().err, HasSubstr("others may write to "));
 }
 
 }  // namespace

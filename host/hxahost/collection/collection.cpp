@@ -43,7 +43,8 @@ std::optional<OutputFile> OpenRecord(const fs::path& bundle) {
 }  // namespace
 
 Collection::Collection(const CollectionOptions& options, std::ostream& err)
-    : mask_(options.mask),
+    : err_(err),
+      mask_(options.mask),
       replay_(OpenReplay(options)),
       osType_(replay_ && !options.hasOsType ? replay_->Recorded().osType : options.osType),
       recordFile_(OpenRecord(options.record)),
@@ -60,8 +61,6 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
     return;
   }
   plugin_.SetLargestRaidLog(options.inputLimit);
-  const std::string warning = WritableToolsWarning(fs::current_path());
-  if (!warning.empty()) err << "hxahost: " << warning << std::endl;
   lock_.emplace("zenx", err);
 }
 
@@ -83,7 +82,12 @@ QueryHeader Collection::Header(std::vector<std::string> classes) const {
   return header;
 }
 
+void Collection::WarnOfWritableTools() {
+  for (const std::string& line : WritableToolsWarnings(fs::current_path())) err_ << "hxahost: " << line << std::endl;
+}
+
 QueryResult Collection::Query(const QueryHeader& header, unsigned number) {
+  if (lock_ && number == 1) WarnOfWritableTools();
   using Clock = std::chrono::steady_clock;
   std::vector<boost::shared_ptr<ICIMClass>> classes;
   for (const std::string& name : header.classes) classes.push_back(repository_->GetClass(name, {}));

@@ -44,7 +44,10 @@ class Collection {
 
  private:
   std::string ToolDirectory() const;
+  // As late as can be: who waits for the lock waits for long.
+  void WarnOfWritableTools();
 
+  std::ostream& err_;
   std::optional<MaskScope> mask_;
   std::optional<BundleReplay> replay_;
   std::optional<std::uint16_t> osType_;

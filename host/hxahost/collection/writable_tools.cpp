@@ -1,8 +1,8 @@
 #include "host/hxahost/collection/writable_tools.h"
 
 #include <algorithm>
+#include <set>
 #include <system_error>
-#include <vector>
 
 #include <fmt/core.h>
 
@@ -16,30 +16,68 @@ namespace hxahost {
 
 namespace {
 
-// The files beside the tools count as they do: tools load libraries from their own folder.
-std::vector<fs::path> WhatMustBeSafe(const fs::path& directory) {
-  std::vector<fs::path> paths = {directory, directory / "zenx"};
-  std::error_code failure;
-  for (fs::directory_iterator entry(paths.back(), failure), end; !failure && entry != end; entry.increment(failure)) {
-    std::error_code unknown;
-    if (entry->is_regular_file(unknown)) paths.push_back(entry->path());
+// Whoever links a whole file system into the folder does not wait for all of it to be looked at.
+constexpr std::size_t kMostFiles = 10'000;
+
+// The files beside the tools, also in folders below, count as they do: tools load libraries from there.
+std::vector<fs::path> WhatLiesBelow(const fs::path& top) {
+  std::vector<fs::path> found;
+  std::vector<fs::path> folders = {top};
+  std::set<fs::path> seen;  // a link may lead back
+  while (!folders.empty() && found.size() <= kMostFiles) {
+    const fs::path folder = folders.back();
+    folders.pop_back();
+    std::error_code failure;
+    if (!seen.insert(fs::canonical(folder, failure)).second) continue;
+    for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+      found.push_back(entry->path());
+      std::error_code unknown;
+      if (entry->is_directory(unknown)) folders.push_back(entry->path());
+      if (found.size() > kMostFiles) break;
+    }
   }
-  std::sort(paths.begin() + 2, paths.end());
-  return paths;
+  std::ranges::sort(found);
+  return found;
+}
+
+// A device that a link leads to is nobody's program.
+bool IsFileOrFolder(const fs::path& path) {
+  std::error_code unknown;
+  return fs::is_regular_file(path, unknown) || fs::is_directory(path, unknown);
+}
+
+// In the order of the paths, each once.
+std::vector<fs::path> WhatOthersMayChange(const std::vector<fs::path>& paths) {
+  std::vector<fs::path> unsafe;
+  const auto add = [&unsafe](const fs::path& path) {
+    if (std::ranges::find(unsafe, path) == unsafe.end()) unsafe.push_back(path);
+  };
+  for (const fs::path& path : paths) {
+    if (IsFileOrFolder(path) && OthersMayWrite(path)) add(path);
+    std::ranges::for_each(UnsafeFoldersBehind(path), add);
+  }
+  return unsafe;
 }
 
 }  // namespace
 
-std::string WritableToolsWarning(const fs::path& directory) {
+std::vector<std::string> WritableToolsWarnings(const fs::path& directory) {
   std::error_code unknown;
-  if (!fs::is_directory(directory / "zenx", unknown)) return "";
-  std::vector<fs::path> paths = WhatMustBeSafe(directory);
-  std::erase_if(paths, [](const fs::path& path) { return !OthersMayWrite(path); });
-  if (paths.empty()) return "";
-  const std::string more = paths.size() > 1 ? fmt::format(" and {} more", paths.size() - 1) : "";
-  return fmt::format(
+  if (!fs::is_directory(directory / "zenx", unknown)) return {};
+  std::vector<fs::path> paths = WhatLiesBelow(directory / "zenx");
+  std::vector<std::string> warnings;
+  if (paths.size() > kMostFiles) {
+    warnings.push_back(fmt::format(
+        "there are more than {} files in zenx: who may write to the others was not looked at.", kMostFiles));
+  }
+  paths.insert(paths.begin(), {directory, directory / "zenx"});
+  const std::vector<fs::path> unsafe = WhatOthersMayChange(paths);
+  if (unsafe.empty()) return warnings;
+  const std::string more = unsafe.size() > 1 ? fmt::format(" and {} more", unsafe.size() - 1) : "";
+  warnings.push_back(fmt::format(
       "others may write to {}{}, and what they put there runs with your rights: let only administrators write there.",
-      Printable(Utf8FromPath(paths.front())), more);
+      Printable(Utf8FromPath(unsafe.front())), more));
+  return warnings;
 }
 
 }  // namespace hxahost

@@ -8,6 +8,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using hxahost::LetsOthersExchange;
 using hxahost::LetsOthersWrite;
 using hxahost::OthersMayWrite;
 
@@ -44,6 +45,37 @@ TEST(FileRights, FollowFromModeOwnerAndGroup) {
     file.st_uid = each.owner;
     file.st_gid = each.group;
     EXPECT_EQ(LetsOthersWrite(file, kUser, kGroup), each.isWritable) << each.name;
+  }
+}
+
+struct EntryCase {
+  const char* name;
+  mode_t folderMode;
+  uid_t folderOwner;
+  uid_t entryOwner;
+  bool isExchangeable;
+};
+
+constexpr EntryCase kEntryCases[] = {
+    {"in a folder that nobody else may write",         0755,  0,     0,     false},
+    {"another user's there",                           0755,  kUser, 1001,  false},
+    {"in a folder for all to write",                   0777,  0,     0,     true },
+    {"root's in one as /tmp",                          01777, 0,     0,     false},
+    {"the user's own in one as /tmp",                  01777, 0,     kUser, false},
+    {"another user's in one as /tmp",                  01777, 0,     1001,  true },
+    {"in one as /tmp, but another user's",             01777, 1001,  kUser, true },
+    {"in another user's folder, which he may open up", 0755,  1001,  0,     true },
+};
+
+TEST(FileRights, ToExchangeFollowFromTheFolderAndTheOwnerOfWhatLiesInIt) {
+  for (const EntryCase& each : kEntryCases) {
+    struct stat folder {};
+    folder.st_mode = each.folderMode;
+    folder.st_uid = each.folderOwner;
+    struct stat entry {};
+    entry.st_mode = 0755;
+    entry.st_uid = each.entryOwner;
+    EXPECT_EQ(LetsOthersExchange(folder, entry, kUser, kGroup), each.isExchangeable) << each.name;
   }
 }
 

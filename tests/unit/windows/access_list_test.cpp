@@ -10,6 +10,7 @@
 
 namespace {
 
+using hxahost::LetsOthersExchange;
 using hxahost::LetsOthersWrite;
 using hxahost::OthersMayWrite;
 
@@ -17,33 +18,34 @@ struct Case {
   const char* name;
   const wchar_t* list;  // as the system writes access lists
   bool isWritable;
+  bool isExchangeable;  // what lies in the folder
 };
 
 // WD everyone, AU authenticated users, BU users, BG guests, IU who sits at the machine, BA administrators, SY the
 // system; A allows, D denies; GR, GW, GX, GA and FR, FW, FX, FA read, write, execute and all.
 constexpr Case kCases[] = {
-    {"as in the folder of programs",          L"D:(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)(A;OICI;0x1200a9;;;BU)", false},
-    {"nobody",                                L"D:",                                                       false},
-    {"everyone, all",                         L"D:(A;;FA;;;WD)",                                           true },
-    {"everyone, to read",                     L"D:(A;;FR;;;WD)",                                           false},
-    {"users, to write",                       L"D:(A;;FW;;;BU)",                                           true },
-    {"users, to write, in generic rights",    L"D:(A;;GW;;;BU)",                                           true },
-    {"guests, all, in generic rights",        L"D:(A;;GA;;;BG)",                                           true },
-    {"authenticated users, to change",        L"D:(A;OICI;0x1301bf;;;AU)",                                 true },
-    {"who sits there, to delete",             L"D:(A;;SD;;;IU)",                                           true },
-    {"users, to delete in a folder",          L"D:(A;;DC;;;BU)",                                           true },
-    {"users, to change the list",             L"D:(A;;WD;;;BU)",                                           true },
-    {"users, to become the owner",            L"D:(A;;WO;;;BU)",                                           true },
-    {"users, to make files",                  L"D:(A;;0x2;;;BU)",                                          true },
-    {"users, to make folders",                L"D:(A;;0x4;;;BU)",                                          false},
-    {"only for what lies in it",              L"D:(A;OICIIO;FA;;;AU)",                                     false},
-    {"administrators, all",                   L"D:(A;;FA;;;BA)(A;;FA;;;SY)",                               false},
-    {"denied before",                         L"D:(D;;FW;;;BU)(A;;FW;;;BU)",                               false},
-    {"denied in part before",                 L"D:(D;;0x2;;;BU)(A;;FA;;;BU)",                              true },
-    {"denied all before",                     L"D:(D;;FA;;;BU)(A;;FA;;;BU)",                               false},
-    {"denied to everyone before",             L"D:(D;;FA;;;WD)(A;;FA;;;BU)",                               false},
-    {"denied after",                          L"D:(A;;FW;;;BU)(D;;FA;;;BU)",                               true },
-    {"denied to guests, allowed to everyone", L"D:(D;;FA;;;BG)(A;;FA;;;WD)",                               true },
+    {"as in the folder of programs",          L"D:(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)(A;OICI;0x1200a9;;;BU)", false, false},
+    {"nobody",                                L"D:",                                                       false, false},
+    {"everyone, all",                         L"D:(A;;FA;;;WD)",                                           true,  true },
+    {"everyone, to read",                     L"D:(A;;FR;;;WD)",                                           false, false},
+    {"users, to write",                       L"D:(A;;FW;;;BU)",                                           true,  false},
+    {"users, to write, in generic rights",    L"D:(A;;GW;;;BU)",                                           true,  false},
+    {"guests, all, in generic rights",        L"D:(A;;GA;;;BG)",                                           true,  true },
+    {"authenticated users, to change",        L"D:(A;OICI;0x1301bf;;;AU)",                                 true,  true },
+    {"who sits there, to delete",             L"D:(A;;SD;;;IU)",                                           true,  true },
+    {"users, to delete in a folder",          L"D:(A;;0x40;;;BU)",                                         true,  true },
+    {"users, to change the list",             L"D:(A;;WD;;;BU)",                                           true,  true },
+    {"users, to become the owner",            L"D:(A;;WO;;;BU)",                                           true,  true },
+    {"users, to make files",                  L"D:(A;;0x2;;;BU)",                                          true,  false},
+    {"users, to make folders",                L"D:(A;;0x4;;;BU)",                                          false, false},
+    {"only for what lies in it",              L"D:(A;OICIIO;FA;;;AU)",                                     false, false},
+    {"administrators, all",                   L"D:(A;;FA;;;BA)(A;;FA;;;SY)",                               false, false},
+    {"denied before",                         L"D:(D;;FW;;;BU)(A;;FW;;;BU)",                               false, false},
+    {"denied in part before",                 L"D:(D;;0x2;;;BU)(A;;FA;;;BU)",                              true,  true },
+    {"denied all before",                     L"D:(D;;FA;;;BU)(A;;FA;;;BU)",                               false, false},
+    {"denied to everyone before",             L"D:(D;;FA;;;WD)(A;;FA;;;BU)",                               false, false},
+    {"denied after",                          L"D:(A;;FW;;;BU)(D;;FA;;;BU)",                               true,  false},
+    {"denied to guests, allowed to everyone", L"D:(D;;FA;;;BG)(A;;FA;;;WD)",                               true,  true },
 };
 
 class SecurityDescriptor {
@@ -72,6 +74,7 @@ TEST(AccessList, LetsOthersWriteWhereAGroupOfEverybodyMay) {
     const SecurityDescriptor descriptor(each.list);
     ASSERT_NE(descriptor.List(), nullptr) << each.name;
     EXPECT_EQ(LetsOthersWrite(descriptor.List()), each.isWritable) << each.name;
+    EXPECT_EQ(LetsOthersExchange(descriptor.List()), each.isExchangeable) << each.name;
   }
 }
 

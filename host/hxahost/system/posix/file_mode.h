@@ -9,4 +9,8 @@ namespace hxahost {
 // ("sticky", as /tmp), is one that others write to.
 bool LetsOthersWrite(const struct stat& file, uid_t user, gid_t group);
 
+// Whether others may put something else into the place of what lies in a folder. In a "sticky" one only its owner and
+// the folder's may.
+bool LetsOthersExchange(const struct stat& folder, const struct stat& entry, uid_t user, gid_t group);
+
 }  // namespace hxahost

@@ -10,9 +10,11 @@ namespace {
 constexpr WELL_KNOWN_SID_TYPE kOthers[] = {WinWorldSid, WinAuthenticatedUserSid, WinBuiltinUsersSid,
                                            WinBuiltinGuestsSid, WinInteractiveSid};
 
+constexpr DWORD kExchanges = FILE_DELETE_CHILD | DELETE | WRITE_DAC | WRITE_OWNER;
+
 // In a folder the first makes files. Appending is left out: it changes no program, and in a folder, where the same bit
 // makes folders, Windows gives it to everybody from the root of a drive on.
-constexpr DWORD kChanges = FILE_WRITE_DATA | FILE_DELETE_CHILD | DELETE | WRITE_DAC | WRITE_OWNER;
+constexpr DWORD kChanges = FILE_WRITE_DATA | kExchanges;
 
 bool IsGroup(PSID sid, WELL_KNOWN_SID_TYPE group) { return IsWellKnownSid(sid, group) != 0; }
 
@@ -40,12 +42,16 @@ DWORD RightsOf(WELL_KNOWN_SID_TYPE group, ACL& list) {
   return allowed;
 }
 
-}  // namespace
-
-bool LetsOthersWrite(ACL* list) {
-  return list == nullptr || std::ranges::any_of(kOthers, [list](WELL_KNOWN_SID_TYPE group) {
-           return (RightsOf(group, *list) & kChanges) != 0;
+bool LetsOthers(DWORD rights, ACL* list) {
+  return list == nullptr || std::ranges::any_of(kOthers, [&](WELL_KNOWN_SID_TYPE group) {
+           return (RightsOf(group, *list) & rights) != 0;
          });
 }
+
+}  // namespace
+
+bool LetsOthersWrite(ACL* list) { return LetsOthers(kChanges, list); }
+
+bool LetsOthersExchange(ACL* list) { return LetsOthers(kExchanges, list); }
 
 }  // namespace hxahost

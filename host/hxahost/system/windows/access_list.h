@@ -8,4 +8,7 @@ namespace hxahost {
 // all (null) lets everybody do everything.
 bool LetsOthersWrite(ACL* list);
 
+// Whether the list of a folder lets any of them put something else into the place of what lies in it, or of itself.
+bool LetsOthersExchange(ACL* list);
+
 }  // namespace hxahost

@@ -8,6 +8,8 @@
 
 #include "host/hxahost/system/windows/access_list.h"
 
+namespace fs = std::filesystem;
+
 namespace hxahost {
 
 namespace {
@@ -16,16 +18,53 @@ struct FreeDescriptor {
   void operator()(void* memory) const { LocalFree(memory); }
 };
 
-}  // namespace
+using ListReader = bool (*)(ACL* list);
 
-bool OthersMayWrite(const std::filesystem::path& path) {
+// False where the system does not say.
+bool ListSays(ListReader reader, const fs::path& path) {
   ACL* list = nullptr;
   PSECURITY_DESCRIPTOR descriptor = nullptr;
   std::wstring name = path.wstring();  // the call takes it without const
   const DWORD failure = GetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
                                               &list, nullptr, &descriptor);
   const std::unique_ptr<void, FreeDescriptor> owned(descriptor);
-  return failure == ERROR_SUCCESS && LetsOthersWrite(list);
+  return failure == ERROR_SUCCESS && reader(list);
+}
+
+bool IsLink(const fs::path& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
+// Behind all links; empty where the system does not say. It writes "\\?\C:\tools" and "\\?\UNC\server\share".
+fs::path FinalPath(const fs::path& path) {
+  constexpr DWORD kAllShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE file =
+      CreateFileW(path.c_str(), 0, kAllShare, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return {};
+  std::wstring name(32768, L'\0');  // no path is longer
+  name.resize(GetFinalPathNameByHandleW(file, name.data(), static_cast<DWORD>(name.size()), FILE_NAME_NORMALIZED));
+  CloseHandle(file);
+  if (name.starts_with(L"\\\\?\\UNC\\")) return L"\\\\" + name.substr(8);
+  if (name.starts_with(L"\\\\?\\")) return name.substr(4);
+  return name;
+}
+
+}  // namespace
+
+bool OthersMayWrite(const fs::path& path) { return ListSays(LetsOthersWrite, path); }
+
+// The folders of links between the first and the last of a chain are not known.
+std::vector<fs::path> UnsafeFoldersBehind(const fs::path& link) {
+  std::vector<fs::path> unsafe;
+  if (!IsLink(link)) return unsafe;
+  const fs::path final = FinalPath(link);
+  const fs::path folder = final.parent_path();
+  if (!fs::is_directory(final) && OthersMayWrite(folder)) unsafe.push_back(folder);
+  for (fs::path place = final; place.has_relative_path(); place = place.parent_path()) {
+    if (ListSays(LetsOthersExchange, place.parent_path())) unsafe.insert(unsafe.begin(), place.parent_path());
+  }
+  return unsafe;
 }
 
 void CopyRights(const std::filesystem::path& from, const std::filesystem::path& to) {
