@@ -24,8 +24,13 @@ set status=%ERRORLEVEL%
 if %status%==0 goto open
 if %status%==4 goto nothing
 echo.
+if exist "%report%" goto part
 echo There is no report. The last line above says why.
 goto end
+
+:part
+echo The report is not complete. The last line above says why.
+goto open
 
 :nothing
 echo.

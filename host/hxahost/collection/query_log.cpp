@@ -1,8 +1,11 @@
 #include "host/hxahost/collection/query_log.h"
 
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/output_file.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -11,11 +14,7 @@ namespace hxahost {
 QueryLog::QueryLog(const std::filesystem::path& file) : name_(Printable(Utf8FromPath(file))) {
   if (file.empty()) return;
   file_.open(file, std::ios::binary);
-  if (!file_) {
-    throw ProgramError(
-        ExitStatus::kWrongArguments,
-        "--log " + name_ + " cannot be written: name a file in a folder that is there and that you may write to.");
-  }
+  if (!file_) RejectOutput("--log", file, std::generic_category().message(errno));
 }
 
 void QueryLog::Add(int level, const std::string& text) {

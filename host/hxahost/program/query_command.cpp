@@ -156,15 +156,22 @@ Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std
 }
 
 ExitStatus StatusOf(const Collected& collected, const std::ostream& out, std::ostream& err) {
-  if (collected.hasController || !out) return ExitStatus::kDone;
   const ToolRunList& runs = collected.runs;
+  const auto failed = std::ranges::find(runs, Outcome::kNotStarted, &ToolRun::outcome);
+  const bool isWhole = failed == runs.end();
+  if ((collected.hasController && isWhole) || !out) return ExitStatus::kDone;
+  std::string_view found = "Not all is shown";
+  std::string advice = "Tools belong into a folder zenx; name the folder above it with --directory.";
+  if (!collected.hasController && HasAnswer(runs)) {
+    found = "No controller was found";
+    advice = "--log FILE shows what was asked.";
+  } else if (!collected.hasController) {
+    found = "No tool answered";
+  }
+  if (!isWhole) advice = failed->failure + ".";
   const std::string answers = runs.empty() ? "none was run" : AnswersText(runs);
-  err << "hxahost: "
-      << (HasAnswer(runs) ? "No controller was found: " + answers + ". --log FILE shows what was asked."
-                          : "No tool answered: " + answers +
-                                ". Tools belong into a folder zenx; name the folder above it with --directory.")
-      << std::endl;
-  return ExitStatus::kNothingFound;
+  err << "hxahost: " << found << ": " << answers << ". " << advice << std::endl;
+  return collected.hasController ? ExitStatus::kQueryFailed : ExitStatus::kNothingFound;
 }
 
 ExitStatus RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {

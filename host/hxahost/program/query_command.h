@@ -26,8 +26,8 @@ struct Collected {
 // Queries as "hxahost query" does, whatever format the options name, and has the display show it.
 Collected RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err);
 
-// What a command ends with: kNothingFound where there is no controller. A line on err then says which tools did not
-// answer, unless out failed: then that is what is said.
+// What a command ends with: kNothingFound where there is no controller, kQueryFailed where a tool that is there could not
+// be started. A line on err then says what became of the tools, unless out failed: then that is what is said.
 ExitStatus StatusOf(const Collected& collected, const std::ostream& out, std::ostream& err);
 
 // "hxahost query": loads the plug-in, queries it, writes what it publishes to the output that the options name (out

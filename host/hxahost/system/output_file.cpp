@@ -65,6 +65,13 @@ fs::path NameMeanwhile(const fs::path& path) {
 
 }  // namespace
 
+void RejectOutput(const std::string& option, const fs::path& path, const std::string& reason) {
+  const std::string inBrackets = reason.empty() ? "" : " (" + Printable(reason) + ")";
+  throw ProgramError(ExitStatus::kWrongArguments,
+                     option + " " + Printable(Utf8FromPath(path)) + " cannot be written" + inBrackets +
+                         ": name a file in a folder that is there and that you may write to.");
+}
+
 OutputFile::OutputFile(const fs::path& path, std::string option)
     : option_(std::move(option)), path_(WithoutLinks(path)), stream_(nullptr) {
   if (IsDevice(path_)) {
@@ -72,11 +79,7 @@ OutputFile::OutputFile(const fs::path& path, std::string option)
   } else {
     stream_.rdbuf(file_.emplace(NameMeanwhile(path_), path_).Buffer());
   }
-  if (!stream_) {
-    throw ProgramError(ExitStatus::kWrongArguments, option_ + " " + Printable(Utf8FromPath(path)) +
-                                                        " cannot be written: name a file in a folder that is there "
-                                                        "and that you may write to.");
-  }
+  if (!stream_) RejectOutput(option_, path, file_ ? file_->Failure() : "");
   if (file_) RemoveAbandoned(path_);
 }
 

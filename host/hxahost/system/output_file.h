@@ -10,6 +10,10 @@
 
 namespace hxahost {
 
+// Throws ProgramError: the file of an option cannot be written, with the reason in the system's words, "" where it is
+// not known.
+[[noreturn]] void RejectOutput(const std::string& option, const std::filesystem::path& path, const std::string& reason);
+
 // A file that is there complete or not at all: it is written beside the file that it replaces at the end, whose owner
 // and rights it gets, and is gone with the program where that ends before. What programs that were killed have left of
 // it, where the file system names unfinished files, is removed. What is no ordinary file (a device, a pipe) is written

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 #include <streambuf>
+#include <string>
 
 namespace hxahost {
 
@@ -19,6 +20,9 @@ class UnfinishedFile {
   // Where it is written; null: it cannot be written in that folder.
   std::streambuf* Buffer() const { return buffer_.get(); }
 
+  // Why there is no buffer, in the system's words; "" where it does not say.
+  const std::string& Failure() const { return failure_; }
+
   // Puts it in the place of the target. False: not all of it could be written, or the target cannot be replaced.
   bool Finish();
 
@@ -26,6 +30,7 @@ class UnfinishedFile {
   std::filesystem::path name_;
   std::filesystem::path target_;
   std::unique_ptr<std::streambuf> buffer_;
+  std::string failure_;
   bool isNamed_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "host/hxahost/system/unfinished_file.h"
 
+#include <cerrno>
 #include <fstream>
 #include <string>
 #include <system_error>
@@ -23,8 +24,12 @@ std::string OpenName(int file) { return "/proc/self/fd/" + std::to_string(file);
 
 class FileBuffer : public std::filebuf {
  public:
-  explicit FileBuffer(int file) : file_(file) { open(OpenName(file), std::ios::out | std::ios::binary); }
-  ~FileBuffer() override { ::close(file_); }
+  explicit FileBuffer(int file) : file_(file) {
+    if (file >= 0) open(OpenName(file), std::ios::out | std::ios::binary);
+  }
+  ~FileBuffer() override {
+    if (file_ >= 0) ::close(file_);
+  }
   int File() const { return file_; }
 
  private:
@@ -38,9 +43,11 @@ UnfinishedFile::UnfinishedFile(fs::path name, const fs::path& target) : name_(st
   int file = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kReadAndWrite);
   isNamed_ = file < 0;
   if (isNamed_) file = open(name_.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, kReadAndWrite);
-  if (file < 0) return;
   auto buffer = std::make_unique<FileBuffer>(file);
-  if (!buffer->is_open()) return;
+  if (!buffer->is_open()) {
+    failure_ = std::generic_category().message(errno);
+    return;
+  }
   CopyRights(target_, OpenName(file));
   buffer_ = std::move(buffer);
 }
