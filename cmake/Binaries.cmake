@@ -1,5 +1,5 @@
 # The four binaries: hxacore, plugin.nsp, zenx.pi and hxahost. Each folder's .cpp files belong to the binary of the
-# folder; what differs between systems stands in a folder windows/ or posix/ beside them.
+# folder; what differs between systems is in a folder windows/ or posix/ beside them.
 if(WIN32)
   set(system windows)
 else()
@@ -46,7 +46,7 @@ target_compile_definitions(plugin_manager PRIVATE PLUGIN_NSP_BUILD)
 target_link_libraries(plugin_manager PUBLIC hxacore PRIVATE host_interface)
 set_target_properties(plugin_manager PROPERTIES PREFIX "" OUTPUT_NAME plugin SUFFIX .nsp)
 
-# What the system says of itself: to the plug-in, and to the program that records what the plug-in is told.
+# What the system reports about itself: to the plug-in, and to the program that records what the plug-in receives.
 add_library(platform_answers STATIC platform/ordinary_file.cpp platform/recorded_system.cpp
                                     platform/${system}/ordinary_file.cpp platform/${system}/os_version.cpp
                                     platform/${system}/registry.cpp)

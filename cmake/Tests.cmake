@@ -1,5 +1,5 @@
 # One program for each level of tests: unit (a parser on text), host (the plug-in in a host with scripted services) and
-# end_to_end (the program on the sample machine, with real processes). What differs between systems stands in a folder
+# end_to_end (the program on the sample machine, with real processes). What differs between systems is in a folder
 # windows/ or posix/, as it does in the binaries.
 enable_testing()
 if(CMAKE_CROSSCOMPILING)

@@ -13,6 +13,6 @@ unsigned MonthNumber(std::string_view word);
 //   "Mar 5, 2007 11:02:03 PM EST"
 //   "5 March 2007 23:02:03 EST"
 //   "2007/03/05 23:02:03 EST"
-// The line's first field holds it; which form it has is told by the line. What is missing counts as 0. Nothing for a
+// The line's first field holds it; the line shows which form it has. What is missing counts as 0. Nothing for a
 // line that begins with neither a digit nor a letter.
 std::optional<NKVRHXA20::TCIMDateTime> ReadEventTime(std::string_view line, std::string_view firstField);

@@ -7,5 +7,5 @@ void PublishSubStats(const PublishContext& context, NKVRHXA20::ICIMClass& publis
 void PublishDeviceData(const PublishContext& context, NKVRHXA20::ICIMClass& publishedClass);
 
 // A controller that lists no bad stripes has none: each of its logical disks, as the host holds them, is published
-// with 0. Bad stripes anywhere are told to the person at the machine.
+// with 0. Bad stripes anywhere are reported to the person at the machine.
 void PublishBadStripes(const PublishContext& context, NKVRHXA20::ICIMClass& publishedClass);

@@ -56,7 +56,7 @@ TCIMDateTime::TCIMDateTime() = default;
 
 TCIMDateTime::TCIMDateTime(const std::string& text) {
   if (text.size() != kTextLength) Reject(text, "it does not have 25 characters");
-  if (text[14] != '.') Reject(text, "no point stands before the microseconds");
+  if (text[14] != '.') Reject(text, "no point precedes the microseconds");
   if (text[21] != '+' && text[21] != '-') Reject(text, "the UTC offset has no sign");
   std::array<unsigned, std::size(kFields)> numbers{};
   std::ranges::transform(kFields, numbers.begin(), [&](const Field& field) { return ReadField(text, field); });

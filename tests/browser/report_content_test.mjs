@@ -257,7 +257,7 @@ test("The mark of an unread line is a sign beside it, not its colour alone, and 
 test("A page of a few classes marks no line and says why", async (open) => {
   const page = await open(pageFile("raw"));
   assert.equal(await page.locator(".unread").count(), 0);
-  assert.match(await sectionText(page, "Raw texts of the tools"), /can be told only where every class was asked for/);
+  assert.match(await sectionText(page, "Raw texts of the tools"), /listed only if every class was queried/);
 });
 
 test("A query of one class alone gives a page", async (open) => {

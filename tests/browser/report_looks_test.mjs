@@ -184,7 +184,7 @@ test("The page has its landmarks, headings in order, and names for all that can 
     .map((element) => element.outerHTML));
   assert.deepEqual(names, []);
   const ids = await page.locator("[id]").evaluateAll((elements) => elements.map((element) => element.id));
-  assert.equal(new Set(ids).size, ids.length, "an id stands twice");
+  assert.equal(new Set(ids).size, ids.length, "an id occurs twice");
 });
 
 test("The links of the head lead to their sections", async (open) => {

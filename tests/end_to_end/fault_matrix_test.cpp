@@ -130,7 +130,7 @@ TEST(FaultMatrix, OfRealProcessesIsTheSameAsWithoutThem) {
   }
 }
 
-// What stands in the place of a utility that cannot be started.
+// Replaces a utility that cannot be started.
 struct Unstartable {
   const char* name;
   void (*Put)(const fs::path& tool);

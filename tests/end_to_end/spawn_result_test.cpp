@@ -22,7 +22,7 @@ SpawnResult RunChild(const std::vector<std::string>& arguments) {
   return RealServices().spawn(ChildPath(), arguments, kGenerous);
 }
 
-// What a run that failed is told to have failed for; -1 where it did not.
+// The reported reason of a failed run; -1 where it did not fail.
 int FailureOf(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
   try {
     RealServices().spawn(path, arguments, limitSeconds);

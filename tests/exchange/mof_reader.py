@@ -102,7 +102,7 @@ class Compiler:
         return self.tokens.pop()[1]
 
     def accept(self, text):
-        """Takes a keyword or a sign where it stands."""
+        """Takes a keyword or a sign at the current place."""
         kind, found = self.tokens[-1]
         if kind not in ("word", "sign") or found.lower() != text:
             return False
@@ -156,7 +156,7 @@ class Compiler:
         while True:
             name = self.take("word").lower()
             if name not in self.qualifiers or name in qualifiers:
-                raise MofError(f"qualifier {name} is not declared, or stands twice")
+                raise MofError(f"qualifier {name} is not declared, or occurs twice")
             qualifiers[name] = self.qualifier_value(name)
             if not self.accept(","):
                 break

@@ -24,7 +24,7 @@ class Instance:
 
 
 def replaced(text):
-    """What stands in XML for a text: it has no place for these characters."""
+    """A text as XML holds it: XML cannot hold these characters."""
     return "".join(_replacement(ord(character), character) for character in text)
 
 
@@ -35,7 +35,7 @@ def _replacement(code, character):
 
 
 def without_nul(text):
-    """What stands in MOF for a text: CIM has no string with U+0000 in it."""
+    """A text as MOF holds it: a CIM string cannot contain U+0000."""
     return text.replace("\0", "\u2400")
 
 

@@ -160,15 +160,15 @@ TEST_F(ArcconfDataTest, AttachesAStripeOrderWithoutAListEmpty) {
 }
 
 TEST_F(ArcconfDataTest, WalksTheDevicesThatFollowEachOther) {
-  ExpectDevices("one behind the other", "D #0\n D is a Hard drive\n State : 0\nD #1\n D is a Hard drive\n State : 1\n",
+  ExpectDevices("one after the other", "D #0\n D is a Hard drive\n State : 0\nD #1\n D is a Hard drive\n State : 1\n",
                 "01");
-  ExpectDevices("passed over behind a gap",
+  ExpectDevices("passed over after a gap",
                 "D #0\n D is a Hard drive\n State : 0\n\nD #1\n D is a Hard drive\n State : 1\n", "0");
   ExpectDevices("the next is passed over too",
                 "D #0\n D is a Hard drive\n\nD #1\n D is a Hard drive\n State : 1\nD #2\n", "0");
-  ExpectDevices("read behind a line of a device", "D #0\n D is a Hard drive\n\nD list\nD #1\n D is a Hard drive\n\n",
+  ExpectDevices("read after a line of a device", "D #0\n D is a Hard drive\n\nD list\nD #1\n D is a Hard drive\n\n",
                 "01");
-  ExpectDevices("behind a gap of two lines", "D #0\n D is a Hard drive\n\n\nD #1\n D is a Hard drive\n\n", "0");
+  ExpectDevices("after a gap of two lines", "D #0\n D is a Hard drive\n\n\nD #1\n D is a Hard drive\n\n", "0");
   ExpectDevices("a heading of a channel", "Channel #0:\n speed\nD #0\n D is a Hard drive\nD #1\n D is a Hard drive\n",
                 "01");
   ExpectDevices("a line before the first", "\nD #0\n D is a Hard drive\n\n", "");

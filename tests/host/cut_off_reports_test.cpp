@@ -10,7 +10,7 @@
 #include "tools/arcconf/arcconf_adapter.h"
 #include "tools/hrconf/hrconf_adapter.h"
 
-// Reports of the sample machine, cut off anywhere: what stands before the cut is in the records, and nothing else is.
+// Reports of the sample machine, cut off anywhere: what precedes the cut is in the records, and nothing else is.
 namespace {
 
 using NKVRHXA20::HostServices;
@@ -18,8 +18,8 @@ using NKVRHXA20::RealServices;
 using NKVRHXA20::SetServices;
 using NKVRHXA20::TRootObject;
 
-// The records that an adapter makes of one report. The pass that only records is told that there is no such controller,
-// so that reports can be tried by the thousand.
+// The records that an adapter makes of one report. The recording pass receives the answer that there is no such
+// controller, so that reports can be tried by the thousand.
 template <class Adapter>
 ControllerList Collect(const std::string& report) {
   int asked = 0;
@@ -67,7 +67,7 @@ bool BeginsWith(const std::string& full, const std::string& part) {
 template <class Record>
 void ExpectPieceOf(const Record& full, const Record& part, std::string_view cut) {
   for (const auto& [name, field] : FieldsOf(full)) {
-    EXPECT_TRUE(BeginsWith(full.*field, part.*field)) << name << " behind " << cut.substr(cut.size() - 60);
+    EXPECT_TRUE(BeginsWith(full.*field, part.*field)) << name << " after " << cut.substr(cut.size() - 60);
   }
 }
 
@@ -78,7 +78,7 @@ void ExpectFirstOf(const std::vector<std::shared_ptr<Record>>& full, const std::
   ASSERT_LE(part.size(), full.size());
   for (std::size_t index = 0; index < part.size(); ++index) {
     if (isComplete || index + 1 < part.size()) {
-      EXPECT_EQ(FilledFields(*part[index]), FilledFields(*full[index])) << "behind " << cut.substr(cut.size() - 60);
+      EXPECT_EQ(FilledFields(*part[index]), FilledFields(*full[index])) << "after " << cut.substr(cut.size() - 60);
     } else {
       ExpectPieceOf(*full[index], *part[index], cut);
     }

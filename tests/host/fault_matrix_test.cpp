@@ -54,8 +54,8 @@ FaultMatrix& Matrix() {
 
 std::vector<Command> Commands() { return CommandsOf(Matrix().OfWholeMachine()); }
 
-// The raw data of the command itself: what it printed. A legacy utility that could not be run leaves a text of the
-// plug-in's own behind, without a line; hrconf's silence is recorded, that of the others is not.
+// The raw data of the command itself: what it printed. For a legacy utility that could not be run, the plug-in
+// records a text of its own, without a line end; it records the silence of hrconf, but not that of the others.
 void ExpectOwnRawData(const Command& command, const Behaviour& behaviour, const Published& published) {
   const bool isLegacy = command.tool == "qcmdrun";
   const bool isRecorded = command.tool == "hrconf_64" || !behaviour.text.empty() || (isLegacy && behaviour.failure);
@@ -112,8 +112,7 @@ TEST(FaultMatrix, EveryAnswerCutOffBehindEachOfItsLinesCostsWhatItsColumnSays) {
     const std::string text = WholeMachine().at(command.Key()).text;
     for (std::size_t end = text.find('\n'); end != text.npos; end = text.find('\n', end + 1)) {
       if (number++ % CasesForOneTry() != 0) continue;
-      SCOPED_TRACE(command.Key() + " cut off behind " +
-                   text.substr(0, end).substr(text.substr(0, end).rfind('\n') + 1));
+      SCOPED_TRACE(command.Key() + " cut off after " + text.substr(0, end).substr(text.substr(0, end).rfind('\n') + 1));
       ExpectCost(command, kCutOff, {text.substr(0, end + 1)});
     }
   }

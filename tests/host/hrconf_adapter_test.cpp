@@ -205,12 +205,12 @@ TEST_F(HrconfDataTest, WalksDevicesWithAndWithoutChannels) {
   ExpectPlaces("gaps between devices", "Channel #0:\n\n\nDevice #0\n type\n\n\n\nDevice #1\n type\n", "0/0 0/1 ");
   ExpectPlaces("an initiator", "Channel #2:\n Initiator at SCSI ID 7\nDevice #0\n type\n", "2/0 ");
   ExpectPlaces("a heading of another kind", "Channel list\nBus #4 of 5: fast\nDevice #0\n type\n", "4 of 5/0 ");
-  ExpectPlaces("no heading behind the line", "Channel list\nDevice #0\n type\n", "/0 ");
-  ExpectPlaces("no colon behind the sign", "Channel #3\nDevice #0\n type\n", "/0 ");
+  ExpectPlaces("no heading after the line", "Channel list\nDevice #0\n type\n", "/0 ");
+  ExpectPlaces("no colon after the sign", "Channel #3\nDevice #0\n type\n", "/0 ");
   ExpectPlaces("a colon before the sign", "Channel: #3\nDevice #0\n type\n", "/0 ");
   ExpectPlaces("a device line with a colon", "Channel #1:\nDevice #7: here\n type\n", "1/7: here ");
   ExpectPlaces("a long number", "Channel #1:\nDevice #1234567\n type\n", "1/1234567 ");
-  ExpectPlaces("the line behind is used up", "Device #0\nDevice #1\nDevice #2\n type\n", "0/0 0/2 ");
+  ExpectPlaces("the line after is used up", "Device #0\nDevice #1\nDevice #2\n type\n", "0/0 0/2 ");
   ExpectPlaces("no number", "Device #\n type\n", "0/ ");
   ExpectPlaces("no device", "Channel #1:\n", "");
 }

@@ -145,7 +145,7 @@ TEST(Query, ACollectionThatFailsIsLoggedAndTheQueryGoesOnWithWhatThereIs) {
   ScriptedServices services;
   const RaidLogSetting noLog(std::nullopt);
   services.answers = AllAnswers();
-  services.answers["qcmdrun getevent 1 soft"] = "Controller Soft Event Log\r\n";  // cut off behind its title
+  services.answers["qcmdrun getevent 1 soft"] = "Controller Soft Event Log\r\n";  // cut off after its title
   QueryHost host;
   host.Query({"KVRSG_zxSCSIProtocolController", "KVRSG_LogRecord_RAIDMgrEvent", "KVRSG_zxRawData"});
   EXPECT_THAT(host.PublishedClasses(), IsEmpty());

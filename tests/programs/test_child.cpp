@@ -137,7 +137,7 @@ const std::map<std::string, std::function<void(const Texts&)>> kModes = {
 };
 
 // Under a utility's name it has a family that nobody ends by asking, and sleeps, where there is a folder "family"
-// beside it: for the numbers of these processes. Else it writes what stands in a file beside it, "script/qcmdrun
+// beside it: for the numbers of these processes. Else it writes the content of a file beside it, "script/qcmdrun
 // getconfig 1 al", byte for byte. Where there is another of that name, ended by ".crash", it crashes then.
 int AnswerAs(const std::filesystem::path& utility, const Texts& arguments) {
   const std::filesystem::path family = utility.parent_path() / "family";

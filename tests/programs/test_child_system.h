@@ -21,7 +21,7 @@ unsigned long OwnProcessId();
 // Ends as a program does that has crashed.
 [[noreturn]] void Crash();
 
-// How a process that the child leaves behind hangs together with it.
+// How a process that the child leaves behind is related to it.
 enum class Ties {
   kAll,      // it has the output and is in the same group
   kOutput,   // it has the output, and a group and session of its own
@@ -31,7 +31,7 @@ enum class Ties {
 enum class Rest {
   kSleeps,
   kFloods,
-  kBreeds,  // leaves one more behind, which has a group of its own, and sleeps
+  kBreeds,  // starts one more process in its own group, and sleeps
 };
 
 // Starts a process that stays behind.

@@ -160,13 +160,13 @@ struct Kind {
   const char* tool;
   const char* words;  // "": any command with a number that has no controller
   const char* feeds;  // classes of the controller; "*": all
-  const char* costs;  // cut off behind a line, then as in kFaults
+  const char* costs;  // cut off after a line, then as in kFaults
 };
 
 // The legacy utility ends collection where an answer ends before what it lists does; the others end what is being
 // read. Without carriage returns, values that are cut where those stand lose their last character. What is fed by
-// nothing is recorded as raw data alone. Bad stripes that are not told are published as 0 for each drive; who asks for
-// a controller that is not there and is told that there are none asks for no further one.
+// nothing is recorded as raw data alone. Bad stripes that are not reported are published as 0 for each drive; who asks
+// for a controller that does not exist and hears that there are none asks for no further one.
 //
 // cut, cannot be started, signal, time limit, empty, unended, LF, CR CR LF, NUL, high bytes, huge, command, controller
 // clang-format off

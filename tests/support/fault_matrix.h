@@ -55,7 +55,7 @@ enum Cost : char {
 struct Published {
   std::vector<Instance> instances;       // but for the raw data
   std::map<std::string, Texts> rawData;  // by their commands
-  Texts runs;                            // commands, where they are told
+  Texts runs;                            // commands, where they are listed
   bool isAborted = false;                // the log says that collection was
 };
 
@@ -96,7 +96,7 @@ struct Fault {
   Behaviour (*Make)(const Command& command, const Machine& machine);
 };
 
-// In the order of the table's columns, which begins with texts that are cut off behind a line.
+// In the order of the table's columns, which begins with texts that are cut off after a line.
 std::span<const Fault> Faults();
 constexpr std::size_t kCutOff = 0;
 constexpr std::size_t kFirstFault = 1;

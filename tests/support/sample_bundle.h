@@ -2,7 +2,7 @@
 
 #include "host/hxahost/bundle/bundle.h"
 
-// A bundle in which everything stands that a bundle can hold.
+// A bundle that contains everything that a bundle can.
 inline hxahost::Bundle SampleBundle() {
   using namespace hxahost;
   Bundle bundle;

@@ -7,7 +7,7 @@
 #include "host/hxacore/host_services.h"
 #include "tests/support/recording_log.h"
 
-// Stands in for the outside while it lives: tools answer from a script, files come from a map, the clock stands still.
+// Replaces the outside while it lives: tools answer from a script, files come from a map, the clock does not move.
 // The real services are back when it is gone.
 class ScriptedServices {
  public:

@@ -194,7 +194,7 @@ TEST(CollectRaidMgrData, ALineOfMoreThan511CharactersIsReadInPieces) {
   Collected found(start + message + "9 the rest\n");
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kRecord);
   EXPECT_EQ(found.collector.CurrentRecord().Message, message);
-  // The rest stands at the start of a line then, and this one begins with a digit.
+  // The rest is then at the start of a line, and this one begins with a digit.
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kRecord);
   EXPECT_EQ(found.collector.CurrentRecord().Message, "");
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kEnd);

@@ -1,6 +1,6 @@
 // The same hostile texts, as names, states, raw texts, log entries and names of machines, in everything that the
 // program writes. Each output is held to the rules of its own format: read back, the texts are what they were, and
-// around them stands exactly what stands around harmless ones.
+// the output around them is exactly that around harmless ones.
 
 #include <algorithm>
 #include <functional>
@@ -89,7 +89,7 @@ const HostileText kTexts[] = {
     {"name of a prototype",         "__proto__"                                                 },
 };
 
-// A machine in which a text stands wherever one from outside can stand.
+// A machine that has a text wherever one from outside can be.
 class Machine {
  public:
   explicit Machine(const std::string& text) : text_(text) {
@@ -172,7 +172,7 @@ std::string ShownBundle(const std::string& text, std::vector<std::size_t> items)
   return out.str();
 }
 
-// An entry of the log, without its level and the tab behind that.
+// An entry of the log, without its level and the tab after that.
 std::string Log(const std::string& text) {
   const TemporaryFolder folder;
   QueryLog log(folder.Path() / "log");
@@ -291,7 +291,7 @@ TEST(HostileTexts, AreTextsInEveryJsonAndNothingMore) {
   }
 }
 
-// Takes what stands between the marks out of the page.
+// Takes what is between the marks out of the HTML report.
 std::string Take(std::string& page, std::string_view begin, std::string_view end) {
   const std::size_t first = page.find(begin) + begin.size();
   const std::size_t length = page.find(end, first) - first;
@@ -359,7 +359,7 @@ void Walk(const Tree& tree, std::string& shape, std::vector<std::string>& texts)
   }
 }
 
-// What XML has no place for stands there as something else.
+// Characters that XML cannot contain are written differently.
 std::string XmlText(const std::string& bytes) {
   std::string text;
   ForEachCharacter(AsUtf8(bytes), [&text](char32_t code, std::string_view character) {
@@ -397,13 +397,13 @@ TEST(HostileTexts, AreTextsInCimXmlAndNothingMore) {
   }
 }
 
-// A MOF document: what stands outside of its strings and comments, and the strings, parts put together.
+// A MOF document: the text outside of its strings and comments, and the strings, parts put together.
 struct Mof {
   std::string outside;
   std::vector<std::string> strings;
 };
 
-// The rest begins behind a backslash. A character by its number is one or two code units of UTF-16.
+// The rest begins after a backslash. A character by its number is one or two code units of UTF-16.
 std::string UnescapedMof(std::string_view& rest) {
   constexpr std::string_view kLetters = "btnfr\"\\";
   constexpr std::string_view kMeant = "\b\t\n\f\r\"\\";

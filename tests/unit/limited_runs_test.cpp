@@ -20,7 +20,7 @@ std::string CommandOf(const std::string& path, const std::vector<std::string>& a
   return command;
 }
 
-// Utilities that answer each command with a report, or hang where they are told to.
+// Utilities that answer each command with a report, or hang where the test says so.
 class LimitedRunsTest : public testing::Test {
  protected:
   LimitedRuns Make(const RunLimits& limits) {

@@ -22,7 +22,7 @@ TEST(MofString, EscapesWhatMofGivesAMeaningAndWhatMustNotReachATerminal) {
       {"backslash",             "C:\\zenx\\",                   R"("C:\\zenx\\")"                 },
       {"escape",                "\\x41",                        R"("\\x41")"                      },
       {"line ends",             "a\r\nb\tc\b\f",                R"("a\r\nb\tc\b\f")"              },
-      {"digits behind",         "\x1b" + "1"s,                  R"("\x001B1")"                    },
+      {"digits after",          "\x1b" + "1"s,                  R"("\x001B1")"                    },
       {"NUL",                   "a\0b"s,                        "\"a\xe2\x90\x80" + "b\""s        },
       {"DEL and C1",            "\x7f\xc2\x9b",                 R"("\x007F\x009B")"               },
       {"turns the text around", "\xe2\x80\xae",                 R"("\x202E")"                     },

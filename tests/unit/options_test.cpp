@@ -244,7 +244,7 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
       {"mistyped option",
        {"query", "--fromat", "json"},
        "--fromat is no option of hxahost query: did you mean --format?"                                               },
-      {"its value behind a sign",   {"health", "--fromat=json"},                            "did you mean --format?"  },
+      {"its value after a sign",    {"health", "--fromat=json"},                            "did you mean --format?"  },
       {"help of no command",        {"help", "qurey"},                                      "did you mean query?"     },
       {"short option",              {"query", "-x"},                                        "-x is no option"         },
       {"stray word",                {"query", "word"},                                      "word"                    },
@@ -307,9 +307,7 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
 }
 
 TEST(Options, AskOnceForHealthAndStatusAndAsOftenAsThePluginForTheRest) {
-  const auto asksOnce = [](const std::string& arguments) {
-    return Parse(arguments).query.collection.limits.asksOnce;
-  };
+  const auto asksOnce = [](const std::string& arguments) { return Parse(arguments).query.collection.limits.asksOnce; };
   EXPECT_TRUE(asksOnce("status"));
   EXPECT_TRUE(asksOnce("health"));
   EXPECT_FALSE(asksOnce("query"));
@@ -331,8 +329,9 @@ TEST(Options, BoundWhatUtilitiesMayCost) {
 
 TEST(Options, SayWhatAMachineMustHave) {
   const QueryOptions options =
-      Parse("health --expect arcconf,qcmdrun --expect hrconf_64 --expect-controllers 5 --expect-disks 30 "
-            "--baseline old.json --save-baseline new.json")
+      Parse(
+          "health --expect arcconf,qcmdrun --expect hrconf_64 --expect-controllers 5 --expect-disks 30 "
+          "--baseline old.json --save-baseline new.json")
           .query;
   EXPECT_THAT(options.expectations.tools, ElementsAre("arcconf", "qcmdrun", "hrconf_64"));
   EXPECT_EQ(options.expectations.controllers, 5U);

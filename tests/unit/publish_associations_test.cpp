@@ -45,15 +45,15 @@ struct Belonging {
   std::string (*valueFor)(std::string_view controllerNumber);
 };
 
-std::string TheNumber(std::string_view number) { return std::string(number); }
+std::string SameNumber(std::string_view number) { return std::string(number); }
 
 constexpr Belonging kBelongings[] = {
-    {PublishControllerToLogicalDisks, kLogicalDisk,               "ControllerNum",     TheNumber},
-    {PublishControllerToDiskDrives,   kDiskDrive,                 "ControllerNum",     TheNumber},
-    {PublishControllerToDiskGroups,   "KVRSG_zxDiskGroup",        "ControllerNum",     TheNumber},
-    {PublishControllerToFirmware,     "KVRSG_zxFirmwareVersion",  "SoftwareElementID", TheNumber},
-    {PublishControllerToBootBlock,    "KVRSG_zxBootBlockVersion", "SoftwareElementID", TheNumber},
-    {PublishControllerToBios,         "KVRSG_zxBiosVersion",      "Name",              BiosName },
+    {PublishControllerToLogicalDisks, kLogicalDisk,               "ControllerNum",     SameNumber},
+    {PublishControllerToDiskDrives,   kDiskDrive,                 "ControllerNum",     SameNumber},
+    {PublishControllerToDiskGroups,   "KVRSG_zxDiskGroup",        "ControllerNum",     SameNumber},
+    {PublishControllerToFirmware,     "KVRSG_zxFirmwareVersion",  "SoftwareElementID", SameNumber},
+    {PublishControllerToBootBlock,    "KVRSG_zxBootBlockVersion", "SoftwareElementID", SameNumber},
+    {PublishControllerToBios,         "KVRSG_zxBiosVersion",      "Name",              BiosName  },
 };
 
 TEST(PublishAssociations, LinkEachControllerToWhatCarriesItsNumberInTheOrderOfTheRecords) {

@@ -56,7 +56,7 @@ class QcmdrunReadConfiguration : public testing::Test {
 
 using Entries = std::vector<LogEntry>;
 
-// A drive's lines behind its number.
+// A drive's lines after its number.
 const std::string kDrive = R"(Status of logical drive : Okay
 RAID level : 5
 Size (in MB) : 1
@@ -165,11 +165,11 @@ TEST_F(QcmdrunReadConfiguration, WalksOverStrayLinesOneByOne) {
       {"blank line between devices",
        "Channel #1:\nInitiator\n" + Device("0") + "\n" + Device("1") + kEnd,
        {"1/0", "1/1"}                                                                                      },
-      {"stray line behind the heading",  "Channel #1:\nInitiator\n\n" + Device("0") + kEnd,         {"1/0"}},
+      {"stray line after the heading",   "Channel #1:\nInitiator\n\n" + Device("0") + kEnd,         {"1/0"}},
       {"device without a heading",       Device("0") + kEnd,                                        {"/0"} },
       {"heading without a colon",        "Channel #1\nInitiator\n" + Device("0") + kEnd,            {"/0"} },
-      {"heading with more behind it",    "Channel #1: 160 MB/s:\nInitiator\n" + Device("0") + kEnd, {"1/0"}},
-      {"end behind an unread heading",   "Channel #1:\nInitiator\n" + kEnd + Device("0"),           {}     },
+      {"heading with more after it",     "Channel #1: 160 MB/s:\nInitiator\n" + Device("0") + kEnd, {"1/0"}},
+      {"end after an unread heading",    "Channel #1:\nInitiator\n" + kEnd + Device("0"),           {}     },
   };
   for (const Case& walkCase : cases) {
     SCOPED_TRACE(walkCase.name);

@@ -77,8 +77,9 @@ TEST(ReadBundle, BringsBackOutputsOfAllBytes) {
 }
 
 TEST(ReadBundle, BringsBackEveryKindOfFailure) {
-  constexpr FailureKind kKinds[] = {FailureKind::kNotInstalled, FailureKind::kNotAsked,  FailureKind::kNotStarted, FailureKind::kTooLong,
-                                    FailureKind::kTooMuchOutput, FailureKind::kHost,       FailureKind::kOther};
+  constexpr FailureKind kKinds[] = {FailureKind::kNotInstalled, FailureKind::kNotAsked,      FailureKind::kNotStarted,
+                                    FailureKind::kTooLong,      FailureKind::kTooMuchOutput, FailureKind::kHost,
+                                    FailureKind::kOther};
   for (const FailureKind kind : kKinds) {
     Bundle bundle = SampleBundle();
     bundle.runs[2].failure->kind = kind;
@@ -140,7 +141,7 @@ TEST(ReadBundle, SaysInOneLineWhatIsWrong) {
   };
   EXPECT_THAT(Refusal(""), HasSubstr("is no bundle"));
   EXPECT_THAT(Refusal("{\"format\": 1}\n"), HasSubstr("is no bundle"));
-  EXPECT_THAT(Refusal(text + "\n"), HasSubstr("something stands behind it"));
+  EXPECT_THAT(Refusal(text + "\n"), HasSubstr("something follows it"));
   for (const Case& each : cases) {
     EXPECT_THAT(Refusal(each.text), HasSubstr(each.says)) << each.name;
     EXPECT_EQ(Refusal(each.text).find('\n'), std::string::npos) << each.name;

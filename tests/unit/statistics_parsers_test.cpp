@@ -163,32 +163,32 @@ TEST_F(SubStatParser, BuildsTheInstanceIdOfALineWithoutTokensFromNothing) {
   EXPECT_EQ(Line("\r\n").InstanceID, "Zentraxis:CS");
 }
 
-// As printed a token stands one blank behind a value; what counts is its first occurrence behind the token before it.
+// A token is printed one blank after a value; its first occurrence after the previous token counts.
 TEST_F(SubStatParser, TakesTheFirstOccurrenceOfATokenWhereverItStands) {
   struct Case {
     std::string name;
     std::string line;
-    std::string values;  // with a bar behind each
+    std::string values;  // with a bar after each
   };
   const std::vector<Case> cases = {
-      {"as printed",                "A:1 C:2 I:5 PARAMS:p\r\n",      "1|2|5|p||||"          },
-      {"in the value before it",    "A:1C:9 C:2 I:5\r\n",            "1C:9|9|5|||||"        },
-      {"directly behind the token", "A:C:9 C:2 I:5\r\n",             "C:9|9|5|||||"         },
-      {"inside another word",       "A:1 XC:9 C:2 I:5\r\n",          "1|9|5|||||"           },
-      {"behind two blanks",         "A:1  C:2   I:5\r\n",            "1|2|5|||||"           },
-      {"behind a tab",              "A:1\tC:2 I:5\r\n",              "1\tC:2|2|5|||||"      },
-      {"behind a carriage return",  "A:1\rC:2 I:5\r\n",              "1\rC:2|2|5|||||"      },
-      {"not at the line's start",   "  A:1 C:2 I:5\r\n",             "1|2|5|||||"           },
-      {"twice",                     "A:1 C:2 C:3 I:5 I:6\r\n",       "1|2|5|||||"           },
-      {"a value with a colon",      "A:1:2 C:2 I:5\r\n",             "1:2|2|5|||||"         },
-      {"in a token before it",      "PARAMS:p A:1\r\n",              "1|||||||"             },
-      {"behind a later token",      "A:1 MAX-TXER-P:8 PARAMS:p\r\n", "1|||p||||"            },
-      {"without its value",         "A: C: I: PARAMS: REQ-OFF:\r\n", "|||||||"              },
-      {"cut off",                   "A:1 C:2 I:5 PARAM\r\n",         "1|2|5|||||"           },
-      {"cut off before its colon",  "A:1 C:2 I\n",                   "1|2||||||"            },
-      {"in small letters",          "A:1 c:2 C:3 I:5\r\n",           "1|3|5|||||"           },
-      {"in the last value",         "CUR-TXER-P:8 CUR-TXER-P:9\r\n", "||||||8 CUR-TXER-P:9|"},
-      {"high characters",           "A:\xff C:\x80 I:5\n",           "\xff|\x80|5|||||"     },
+      {"as printed",               "A:1 C:2 I:5 PARAMS:p\r\n",      "1|2|5|p||||"          },
+      {"in the value before it",   "A:1C:9 C:2 I:5\r\n",            "1C:9|9|5|||||"        },
+      {"directly after the token", "A:C:9 C:2 I:5\r\n",             "C:9|9|5|||||"         },
+      {"inside another word",      "A:1 XC:9 C:2 I:5\r\n",          "1|9|5|||||"           },
+      {"after two blanks",         "A:1  C:2   I:5\r\n",            "1|2|5|||||"           },
+      {"after a tab",              "A:1\tC:2 I:5\r\n",              "1\tC:2|2|5|||||"      },
+      {"after a carriage return",  "A:1\rC:2 I:5\r\n",              "1\rC:2|2|5|||||"      },
+      {"not at the line's start",  "  A:1 C:2 I:5\r\n",             "1|2|5|||||"           },
+      {"twice",                    "A:1 C:2 C:3 I:5 I:6\r\n",       "1|2|5|||||"           },
+      {"a value with a colon",     "A:1:2 C:2 I:5\r\n",             "1:2|2|5|||||"         },
+      {"in a token before it",     "PARAMS:p A:1\r\n",              "1|||||||"             },
+      {"after a later token",      "A:1 MAX-TXER-P:8 PARAMS:p\r\n", "1|||p||||"            },
+      {"without its value",        "A: C: I: PARAMS: REQ-OFF:\r\n", "|||||||"              },
+      {"cut off",                  "A:1 C:2 I:5 PARAM\r\n",         "1|2|5|||||"           },
+      {"cut off before its colon", "A:1 C:2 I\n",                   "1|2||||||"            },
+      {"in small letters",         "A:1 c:2 C:3 I:5\r\n",           "1|3|5|||||"           },
+      {"in the last value",        "CUR-TXER-P:8 CUR-TXER-P:9\r\n", "||||||8 CUR-TXER-P:9|"},
+      {"high characters",          "A:\xff C:\x80 I:5\n",           "\xff|\x80|5|||||"     },
   };
   for (const Case& lineCase : cases) {
     std::string values;

@@ -15,7 +15,7 @@ std::string_view Column(const std::string& line, int number) {
   return row.NextColumn();
 }
 
-// What stands behind so many columns.
+// What follows so many columns.
 std::string_view LastColumn(const std::string& line, int number) {
   TableRow row(line);
   for (int passed = 1; passed < number; ++passed) row.NextColumn();
@@ -34,7 +34,7 @@ TEST(TableColumns, CutsAColumnShortOfTheCharacterBeforeTheNextBar) {
       {"first column",                         "| 1 | 22 | 3 |\r\n",            1, "1"    },
       {"a later column",                       "| 1 | 22 | 3 |\r\n",            2, "22"   },
       {"last column with a closing bar",       "| 1 | 22 | 3 |\r\n",            3, "3"    },
-      {"behind the last bar",                  "| 1 | 22 | 3 |\r\n",            4, ""     },
+      {"after the last bar",                   "| 1 | 22 | 3 |\r\n",            4, ""     },
       {"past the last bar",                    "| 1 | 22 | 3 |\r\n",            9, ""     },
       {"the seventh of a full row",            "|1 |2 |3 |4 |5 |6 |7 |\r\n",    7, "7"    },
       {"more columns than a table has",        "|1 |2 |3 |4 |5 |6 |7 |8 |\r\n", 8, "8"    },
@@ -63,15 +63,15 @@ TEST(TableColumns, CutsAColumnShortOfTheCharacterBeforeTheNextBar) {
 
 TEST(TableColumns, CutsTheLastColumnUpToTheLineFeed) {
   const std::vector<Case> cases = {
-      {"carriage return stays",       "| 1 | no answer\r\n",   2, "no answer\r"  },
-      {"closing bar stays",           "| 1 | no answer |\r\n", 2, "no answer |\r"},
-      {"column of blanks keeps one",  "| 1 |   \n",            2, " "            },
-      {"nothing behind the bar",      "| 1 |\n",               2, ""             },
-      {"bar missing",                 "| 1\r\n",               2, ""             },
-      {"no line feed behind the bar", "| 1 | no answer",       2, ""             },
-      {"first column",                "| 1 | 2\r\n",           1, "1 | 2\r"      },
-      {"column of a line feed",       "| 1 |  \n",             2, " "            },
-      {"empty line",                  "",                      1, ""             },
+      {"carriage return stays",      "| 1 | no answer\r\n",   2, "no answer\r"  },
+      {"closing bar stays",          "| 1 | no answer |\r\n", 2, "no answer |\r"},
+      {"column of blanks keeps one", "| 1 |   \n",            2, " "            },
+      {"nothing after the bar",      "| 1 |\n",               2, ""             },
+      {"bar missing",                "| 1\r\n",               2, ""             },
+      {"no line feed after the bar", "| 1 | no answer",       2, ""             },
+      {"first column",               "| 1 | 2\r\n",           1, "1 | 2\r"      },
+      {"column of a line feed",      "| 1 |  \n",             2, " "            },
+      {"empty line",                 "",                      1, ""             },
   };
   for (const Case& columnCase : cases) {
     EXPECT_EQ(LastColumn(columnCase.line, columnCase.column), columnCase.expected) << columnCase.name;

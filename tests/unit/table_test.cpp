@@ -173,7 +173,7 @@ TEST(Table, IsNeverWiderThanTheLayout) {
     std::vector<std::string> row;
     for (int index = 0; index < 20; ++index) {
       columns.push_back({"Title" + std::to_string(index), 50, least});
-      row.push_back("a long value that stands in column " + std::to_string(index));
+      row.push_back("a long value that belongs to column " + std::to_string(index));
     }
     std::istringstream lines(Text(columns, {row, row}));
     std::string line;

@@ -16,15 +16,15 @@ struct Case {
 
 TEST(ToolText, CutsALogicalDriveNumberUpToTheLineEnd) {
   const std::vector<Case> cases = {
-      {"as printed",               "Logical drive number 1\r\n",     "1" },
-      {"indented",                 "   Logical drive number 12\r\n", "12"},
-      {"trailing blank stays",     "Logical drive number 1 \r\n",    "1 "},
-      {"no carriage return",       "Logical drive number 1\n",       "1" },
-      {"no line end",              "Logical drive number 1",         "1" },
-      {"nothing behind the blank", "Logical drive number \r\n",      ""  },
-      {"no blank at the end",      "Logical drive number",           ""  },
-      {"line ends at the cut",     "Logical drive number ",          ""  },
-      {"anything for the blank",   "Logical drive number:1\r\n",     "1" },
+      {"as printed",              "Logical drive number 1\r\n",     "1" },
+      {"indented",                "   Logical drive number 12\r\n", "12"},
+      {"trailing blank stays",    "Logical drive number 1 \r\n",    "1 "},
+      {"no carriage return",      "Logical drive number 1\n",       "1" },
+      {"no line end",             "Logical drive number 1",         "1" },
+      {"nothing after the blank", "Logical drive number \r\n",      ""  },
+      {"no blank at the end",     "Logical drive number",           ""  },
+      {"line ends at the cut",    "Logical drive number ",          ""  },
+      {"anything for the blank",  "Logical drive number:1\r\n",     "1" },
   };
   for (const Case& textCase : cases) {
     EXPECT_EQ(CutLogicalDriveNumber(textCase.text, "Logical drive number"), textCase.expected) << textCase.name;
@@ -36,7 +36,7 @@ TEST(ToolText, CutsADeviceTypeBehindItsArticle) {
       {"a",                  "   Device is a Hard drive\r\n",                 "Hard drive"               },
       {"an, for enclosures", "   Device is an Enclosure services device\r\n", "Enclosure services device"},
       {"no carriage return", "   Device is a Hard drive\n",                   "Hard drive"               },
-      {"nothing behind it",  "   Device is a\r\n",                            ""                         },
+      {"nothing after it",   "   Device is a\r\n",                            ""                         },
       {"text ends",          "Device is a",                                   ""                         },
       {"no label",           "State : Online\r\n",                            ""                         },
   };
@@ -56,7 +56,7 @@ TEST(ToolText, JoinsPartsWithTheSeparatorAlone) {
       {"words between",                        " Hot Spare\r\n",  " for ", " 1,2\r\n",   " Hot Spare for 1,2\r\n"},
       {"blanks and line end at the ends stay", "  a",             " ",     "b  \r\n",    "  a b  \r\n"           },
       {"nothing before",                       "",                " ",     "b",          " b"                    },
-      {"nothing behind",                       "a\r\n",           " ",     "",           "a "                    },
+      {"nothing after",                        "a\r\n",           " ",     "",           "a "                    },
       {"blanks alone",                         " \r\n",           " ",     "   ",        " "                     },
       {"a tab that opens the part stays",      "a",               " ",     "\tb",        "a \tb"                 },
   };

@@ -62,7 +62,7 @@ TEST(Value, ConvertsToANumberThatFitsOrZero) {
       {"uint32 that does not fit",   65536U,                          0    },
       {"largest",                    65535U,                          65535},
       {"text",                       "82",                            82   },
-      {"text with more behind",      "82 and more",                   82   },
+      {"text with more after",       "82 and more",                   82   },
       {"text that does not fit",     "65536",                         0    },
       {"text far too large",         "99999999999999999999999",       0    },
       {"text with a blank in front", " 82",                           0    },

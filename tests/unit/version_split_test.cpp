@@ -20,7 +20,7 @@ TEST(VersionSplit, DividesAtTheFirstParentheses) {
       {"closed before and after",    ")1.0 (2)",         ")1.0 ",     "2"        },
       {"nothing inside",             "1.0()",            "1.0",       ""         },
       {"nothing before",             "(7)",              "",          "7"        },
-      {"more behind",                "1.0 (2) beta (3)", "1.0 ",      "2"        },
+      {"more after",                 "1.0 (2) beta (3)", "1.0 ",      "2"        },
       {"nested",                     "1.0 ((2))",        "1.0 ",      "(2"       },
       {"nothing",                    "",                 "",          ""         },
       {"only an opening",            "(",                "(",         "("        },

@@ -4,7 +4,7 @@
 
 namespace NKVRHXA20 {
 
-// Backslashes stand for themselves, except in front of a quote: there, and so also in front of the quote that closes
+// Backslashes stand for themselves, except before a quote: there, and so also before the quote that closes
 // the argument, each is written twice, and a quote that belongs to the argument has one more before it.
 std::wstring QuotedArgument(const std::wstring& argument) {
   if (!argument.empty() && argument.find_first_of(L" \t\n\v\"") == std::wstring::npos) return argument;

@@ -7,7 +7,8 @@
 
 namespace NKVRHXA20 {
 
-// One argument as it stands in a command line, so that CommandLineToArgvW and the C runtimes give it back unchanged.
+// One argument as it is written in a command line, so that CommandLineToArgvW and the C runtimes give it back
+// unchanged.
 HXACORE_API std::wstring QuotedArgument(const std::wstring& argument);
 
 // The whole command line: the program as given, then the arguments.

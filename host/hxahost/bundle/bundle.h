@@ -11,7 +11,7 @@
 #include "platform/recorded_system.h"
 #include "plugin/host_interface/date_time.h"
 
-// A bundle: all that a collection was told by the machine, so that it can be repeated anywhere.
+// A bundle: everything that a collection received from the machine, so that it can be repeated anywhere.
 namespace hxahost {
 
 // What a service threw in place of an answer.
@@ -76,7 +76,7 @@ struct Bundle {
   std::optional<RecordedLog> raidLog;
 };
 
-// What the plug-in is told of the system in a replay.
+// What is passed to the plug-in about the system in a replay.
 RecordedSystem SystemOf(const Bundle& bundle);
 
 // The items of a bundle are counted from 1: the runs, then the log.

@@ -10,8 +10,8 @@
 
 namespace hxahost {
 
-// The bundle with its secrets masked: the machine's name, the folders, what the tools print behind the labels that
-// name a device for good or that a customer chose, and where such a text stands elsewhere. A replay publishes as many
+// The bundle with its secrets masked: the machine's name, the folders, what the tools print after the labels that
+// name a device permanently or that a customer chose, and wherever else such a text occurs. A replay publishes as many
 // instances as before with the same links between them.
 Bundle MaskBundle(Bundle bundle, RandomSource random, MaskScope scope = MaskScope::kNames);
 

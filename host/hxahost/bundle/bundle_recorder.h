@@ -12,17 +12,17 @@
 
 namespace hxahost {
 
-// Keeps all that a collection is told.
+// Keeps everything that a collection receives.
 class BundleRecorder {
  public:
-  // Takes down what the plug-in is told of the system, which does not pass through the services. The directory is
+  // Records what is passed to the plug-in about the system, which does not come through the services. The directory is
   // UTF-8.
   BundleRecorder(std::optional<std::uint16_t> osType, std::string directory);
 
   // The services, with all that they say taken down; this outlives them.
   NKVRHXA20::HostServices Wrap(NKVRHXA20::HostServices services);
 
-  // A command that was not run any more, and what the plug-in was told in place of an answer.
+  // A command that was not run any more, and what the plug-in received instead of an answer.
   void AddNotAsked(const std::string& path, const std::vector<std::string>& arguments, const std::string& message);
 
   void AddQuery(double seconds) { bundle_.querySeconds.push_back(seconds); }

@@ -58,7 +58,7 @@ SpawnResult BundleReplay::Spawn(const std::string& path, const std::vector<std::
   return Repeat(bundle_.runs[place]);
 }
 
-// The path is that of the file that stands in for the log.
+// The path of the file that replaces the log.
 std::string BundleReplay::Capture(const std::string& path) {
   if (!bundle_.raidLog) ThrowMissing("the file " + path);
   if (bundle_.raidLog->failure) Throw(*bundle_.raidLog->failure);

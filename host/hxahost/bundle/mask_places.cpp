@@ -9,8 +9,8 @@ namespace hxahost {
 namespace {
 
 struct MaskedLabel {
-  std::string_view label;     // the line begins with it, behind blanks
-  std::size_t from = 0;       // characters behind the colon that are left
+  std::string_view label;     // the line begins with it, after blanks
+  std::size_t from = 0;       // characters after the colon that are left
   std::size_t shortest = 1;   // shorter values are left
   std::string_view ofDevice;  // only of devices whose type contains this
   MaskScope scope = MaskScope::kNames;
@@ -21,7 +21,7 @@ constexpr auto kAll = MaskScope::kAll;
 
 // What names a thing for good, or was chosen by people. Left as they are: vendors, models, sizes, states, versions
 // ("EC Version#" too), part numbers of whole controllers, slots, channels, and the letters of arrays, which are the
-// tool's own. In the identifier of a hard disk the serial number stands behind model and firmware; its first character
+// tool's own. In the identifier of a hard disk the serial number follows model and firmware; its first character
 // is the last of the firmware's, and left. Other devices have no serial number there.
 constexpr MaskedLabel kLabels[] = {
     {"Controller Serial Number", 0,  1, "",          kNames},
@@ -84,8 +84,8 @@ LabelledValue ValueToMask(std::string_view line, std::string_view deviceType, Ma
   return {};
 }
 
-// A value may be wrapped: what goes on is behind the column of the label, and has none of its own unless it is below
-// the value.
+// A value may be wrapped: its continuation line begins after the label's column and has no label of its own, unless it
+// is below the value.
 Span WrappedValue(std::string_view line, const LabelledValue& before) {
   const Span value = TrimmedSpan(line, 0, line.size());
   const bool isBelowValue = value.begin >= before.value.begin;

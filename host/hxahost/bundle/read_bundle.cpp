@@ -255,7 +255,7 @@ void ReadEnd(BundleLines& lines, std::string_view text) {
   const std::string_view line = lines.Take();
   const auto crc = line.starts_with(kEnd) ? ReadCrc(line.substr(kEnd.size())) : std::nullopt;
   if (!crc) lines.Reject("is not its closing line");
-  if (!lines.IsAtEnd()) lines.Reject("is its closing line, and something stands behind it");
+  if (!lines.IsAtEnd()) lines.Reject("is its closing line, and something follows it");
   if (*crc != Crc32(closed)) throw BundleError("is damaged: something in it was changed, as its checksum is another");
 }
 

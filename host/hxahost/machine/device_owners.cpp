@@ -63,13 +63,13 @@ constexpr OwnerSign kOwnerSigns[] = {
     {kDiskDriveClass,   "Channel",                kQcmdrun, kLikely },
 };
 
-struct Told {
+struct Owner {
   std::string_view tool;  // empty: nothing tells
   Certainty certainty = Certainty::kLikely;
 };
 
 // "Device #4" of arcconf is "4" of hrconf_64.
-Told ToolOf(const TPublishedInstance& instance) {
+Owner ToolOf(const TPublishedInstance& instance) {
   if (RawText(instance, "DeviceNumber").starts_with("Device")) return {kArcconf, Certainty::kCertain};
   for (const OwnerSign& sign : kOwnerSigns) {
     if (instance.Class().name != sign.className || RawText(instance, sign.property).empty()) continue;
@@ -92,20 +92,20 @@ DrivesByName LogicalDrives(const InstanceList& instances) {
 }
 
 // An array without a letter is of the utility whose drive has the same disks.
-Told ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
+Owner ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
   const std::vector<std::string> places = PlacesIn(RawText(array, "StripeOrder"));
   const auto [first, last] = drives.equal_range(DriveKeyOf(array));
   const auto drive = std::find_if(first, last, [&places](const auto& each) {
     return places == PlacesIn(RawText(*each.second, "StripeOrder")) ||
            places == PlacesIn(RawText(*each.second, "DriveList"));
   });
-  return drive == last ? Told() : ToolOf(*drive->second);
+  return drive == last ? Owner() : ToolOf(*drive->second);
 }
 
 // A device with its number and the utility that described it; the number is empty of what is no device.
 struct Owned {
   std::string number;
-  Told told;
+  Owner owner;
 };
 
 std::vector<Owned> FindOwners(const InstanceList& instances) {
@@ -117,9 +117,9 @@ std::vector<Owned> FindOwners(const InstanceList& instances) {
       owners.emplace_back();
       continue;
     }
-    Told told = ToolOf(*instance);
-    if (told.tool.empty() && instance->Class().name == kDiskGroupClass) told = ToolOfArray(*instance, drives);
-    owners.push_back({RawText(*instance, "ControllerNum"), told});
+    Owner owner = ToolOf(*instance);
+    if (owner.tool.empty() && instance->Class().name == kDiskGroupClass) owner = ToolOfArray(*instance, drives);
+    owners.push_back({RawText(*instance, "ControllerNum"), owner});
   }
   return owners;
 }
@@ -129,10 +129,10 @@ std::set<std::string> SharedNumbers(const InstanceList& instances, const std::ve
   std::map<std::string, std::set<std::string_view>> certain;
   std::map<std::string, std::set<std::string_view>> controllers;
   for (std::size_t place = 0; place < owners.size(); ++place) {
-    const auto& [number, told] = owners[place];
-    if (told.tool.empty() || number.empty()) continue;
-    if (told.certainty == Certainty::kCertain) certain[number].insert(told.tool);
-    if (instances[place]->Class().name == kControllerClass) controllers[number].insert(told.tool);
+    const auto& [number, owner] = owners[place];
+    if (owner.tool.empty() || number.empty()) continue;
+    if (owner.certainty == Certainty::kCertain) certain[number].insert(owner.tool);
+    if (instances[place]->Class().name == kControllerClass) controllers[number].insert(owner.tool);
   }
   std::set<std::string> shared;
   for (const auto* const tools : {&certain, &controllers}) {
@@ -149,9 +149,9 @@ std::vector<DeviceOwner> DeviceOwners(const InstanceList& instances) {
   const std::vector<Owned> owned = FindOwners(instances);
   const std::set<std::string> shared = SharedNumbers(instances, owned);
   std::vector<DeviceOwner> owners;
-  for (const auto& [number, told] : owned) {
-    const std::string tool(told.tool.empty() ? "tool not known" : told.tool);
-    owners.push_back({number, shared.contains(number) ? number + " (" + tool + ")" : number, told.tool});
+  for (const auto& [number, owner] : owned) {
+    const std::string tool(owner.tool.empty() ? "tool not known" : owner.tool);
+    owners.push_back({number, shared.contains(number) ? number + " (" + tool + ")" : number, owner.tool});
   }
   return owners;
 }

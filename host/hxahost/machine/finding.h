@@ -63,7 +63,7 @@ struct Meaning {
 // "Replace it: the disk has failed".
 std::string TextOf(const Meaning& meaning);
 
-// One thing that is wrong, or that cannot be told to be right.
+// One thing that is wrong, or whose state is not known.
 struct Finding {
   Severity severity = Severity::kUnknown;
   std::string className;   // of the instance that says so; "tool run" or "log" where it is none

@@ -5,7 +5,7 @@
 
 #include "host/hxahost/machine/machine.h"
 
-// Objects as people in front of the machine call them. Texts are printable.
+// Objects as people at the machine call them. Texts are printable.
 namespace hxahost {
 
 // "C4"; "C3 (arcconf)" where two share the number.

@@ -35,7 +35,7 @@ Item RunItem(const RecordedRun& run) {
   try {
     SpawnAndRecord(repeat, run.path, run.arguments, run.limitSeconds, runs);
   } catch (const std::exception&) {
-    // What came of it stands in the list of runs, as it did when it was run.
+    // The list of runs shows its outcome, as it did after the run.
   }
   const ToolRun& read = runs.front();
   const std::string reason = read.failure.empty() ? "" : ": " + read.failure;

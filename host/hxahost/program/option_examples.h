@@ -63,7 +63,7 @@ inline constexpr const char* kDiffExamples =
     "  hxahost diff monday.json friday.json                 what is worst first\n"
     "  hxahost diff --format json monday.json friday.json   for a program to read\n"
     "\n"
-    "Exit status: 0 nothing is different, 1 something is, 2 it could not be told.";
+    "Exit status: 0 nothing is different, 1 something is, 2 the comparison failed.";
 
 inline constexpr const char* kFleetExamples =
     "Examples:\n"

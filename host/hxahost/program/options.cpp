@@ -117,7 +117,7 @@ void AddInputLimit(CLI::App& command, TypedOptions& typed) {
       ->capture_default_str();
 }
 
-// What every command that collects is told.
+// The options of every command that collects.
 void AddCollecting(CLI::App& command, TypedOptions& typed) {
   CollectionOptions& read = typed.read.collection;
   AddPath(command, "--plugin", "FILE", read.plugin, "The plug-in to load (default: zenx.pi beside this program)");
@@ -134,7 +134,7 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
   AddRunLimits(command, typed);
   command
       .add_option("--os-type", typed.osType,
-                  "CIM \"OSType\" that the plug-in is told, 0 to 65535; 82 makes it leave out one tool")
+                  "CIM \"OSType\" that is passed to the plug-in, 0 to 65535; 82 makes it leave out hrconf_64")
       ->type_name("N|none")
       ->capture_default_str();
   command.add_option("--machine-name", typed.machineName, "What the machine is called (default: its own name)")
@@ -278,7 +278,7 @@ void AddBundle(CLI::App& bundle, TypedOptions& typed) {
   AddPath(*list, "FILE", "TEXT", read.file, "The bundle")->required();
   CLI::App* const show = bundle.add_subcommand("show", "What a command printed, or what holds for all of them");
   AddPath(*show, "FILE", "TEXT", read.file, "The bundle")->required();
-  show->add_option("ITEM", typed.bundleItems, "Numbers of the list (default: what stands before the items)");
+  show->add_option("ITEM", typed.bundleItems, "Numbers of the list (default: the part before the items)");
   show->add_flag("--raw", read.isRaw, "The bytes themselves, for a file or another program");
   AddOutput(*show, read.output);
   CLI::App* const mask = bundle.add_subcommand("mask", "Hide machine name, serial numbers and given names");

@@ -37,7 +37,7 @@ struct QueryOptions {
 // What "hxahost bundle" is asked for.
 struct BundleOptions {
   std::filesystem::path file;
-  std::vector<std::size_t> items;  // to be shown, counted from 1; none: what stands before them
+  std::vector<std::size_t> items;  // to be shown, counted from 1; none: the part before them
   bool isRaw = false;
   std::filesystem::path output;  // where the items, or the masked bundle, go
   MaskScope mask = MaskScope::kNames;

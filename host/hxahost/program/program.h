@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// The whole program, from the arguments behind its name to its exit status.
+// The whole program, from the arguments after its name to its exit status.
 int RunProgram(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err);
 
 }  // namespace hxahost

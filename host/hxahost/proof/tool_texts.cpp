@@ -67,7 +67,7 @@ class BlockFinder {
     }
   }
 
-  // A list that is long goes on below; the lines after it are no part of another group.
+  // A long list continues on the next lines; they are no part of another group.
   void AddGroup(std::size_t index, std::string_view line) {
     const bool isOfDrive = open_ == &text_.drives;
     const std::size_t label = line.find(orderLabel_);

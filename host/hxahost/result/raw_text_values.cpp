@@ -118,7 +118,7 @@ std::optional<std::size_t> ValueColumn(std::string_view line) {
   return value == line.npos ? std::nullopt : std::optional(value);
 }
 
-// What goes on below a value: no label, and it begins in the column of the value.
+// A continuation line: it has no label, and begins in the column of the value.
 bool Continues(std::string_view line, std::size_t column) {
   const std::size_t begin = line.find_first_not_of(kWhiteSpace);
   return begin != line.npos && begin == column && line.find(':') == line.npos;

@@ -37,7 +37,7 @@ std::string BeginningOf(std::string_view text, std::size_t widest) {
   return CutToWidth(Printable(text.substr(0, kMostBytesOfColumn * widest)), widest);
 }
 
-// The line in which the text at this place stands.
+// The line that contains this place of the text.
 std::string LineAt(std::string_view text, std::size_t place) {
   constexpr std::size_t kWidest = 200;
   const std::size_t before = text.rfind('\n', place);

@@ -17,7 +17,7 @@ namespace hxahost {
 
 namespace {
 
-// A link keeps pointing where it points: the file behind it is the one that is replaced.
+// A link stays as it is: the file that it points to is replaced.
 fs::path WithoutLinks(const fs::path& path) {
   std::error_code error;
   const fs::path resolved = fs::weakly_canonical(path, error);

@@ -27,7 +27,7 @@ constexpr CodeRange kUnsafe[] = {
     {0xe0000, 0xe007f}, // copies of ASCII that nobody sees
 };
 
-// What nobody sees, too, but stands in bundles as it is: their format is older.
+// Invisible characters, too; bundles contain them unescaped, as their format is older.
 constexpr CodeRange kInvisible[] = {
     {0x34f,   0x34f  },
     {0x115f,  0x1160 },

@@ -134,7 +134,7 @@ TEST(Terminal, ShowsWhichOfHowManyCommandsRuns) {
   EXPECT_THAT(shown, HasSubstr("\rzenx//arcconf.exe getconfig 8 al (80 of about 80)"));
 }
 
-// What stands on the screen when all is written: each carriage return goes back to the begin of the line.
+// What the screen shows when all is written: each carriage return goes back to the begin of the line.
 std::vector<std::string> Screen(const std::string& shown) {
   std::vector<std::string> lines(1);
   std::size_t column = 0;

@@ -2,7 +2,7 @@
 
 namespace hxahost {
 
-// Nothing stands between a program and its bytes here, and terminals show UTF-8.
+// This system passes a program's bytes on unchanged, and terminals show UTF-8.
 StandardStreams::StandardStreams() = default;
 StandardStreams::~StandardStreams() = default;
 

@@ -24,7 +24,7 @@ namespace {
 
 // Boost's property tree writes the markup: it is there for every compiler that the program is built with, as headers
 // alone, and is kept up together with the rest of Boost. A whole document would take many times the memory of the data,
-// so it is given one instance at a time; what stands around the instances is fixed text.
+// so it is given one instance at a time; the text around the instances is fixed.
 using Tree = boost::property_tree::ptree;
 
 // Names of elements have dots in them, which are no paths here.

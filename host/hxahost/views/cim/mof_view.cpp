@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::string_view kMofIndent = "    ";
 
-// What stands for an instance that references name: "$Query1Instance7", by its path. "" until it is written.
+// The alias of an instance that references name: "$Query1Instance7", by its path. "" until it is written.
 using Aliases = std::map<std::string, std::string>;
 
 std::string MofReference(const TCIMReference& reference, const Aliases& aliases) {

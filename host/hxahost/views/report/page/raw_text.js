@@ -180,7 +180,7 @@ function keyHint(key) {
 }
 
 function unreadTools(section, raws, unread) {
-  const whyNot = "Which lines nothing else shows can be told only where every class was asked for.";
+  const whyNot = "Lines that no property shows are listed only if every class was queried.";
   if (unread === null) return [make("p", { class: "quiet" }, whyNot)];
   const texts = raws.filter((raw) => raw.unreadCount > 0);
   const total = texts.reduce((sum, raw) => sum + raw.unreadCount, 0);
