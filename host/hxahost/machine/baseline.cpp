@@ -47,7 +47,7 @@ std::string PlaceOf(const Controller& controller, const Device& device) {
                      Printable(device.location.empty() ? device.name : device.location));
 }
 
-// One comparison; changes and findings are added as they are found.
+// One comparison, which adds changes and findings as it finds them.
 class Comparison {
  public:
   Comparison(Machine& machine, const std::vector<Controller>& before, const QueryHeader& header,
@@ -66,7 +66,7 @@ class Comparison {
   }
 
  private:
-  // What a utility describes that did not answer is not known.
+  // If the utility did not answer, the state of its objects is unknown.
   Severity SeverityOfMissing(const Controller& controller) const {
     const auto isAboutTool = [&](const Finding& finding) { return finding.identifier == controller.tool; };
     const bool isAbsent = std::ranges::find(machine_.absentTools, controller.tool) != machine_.absentTools.end();
@@ -100,7 +100,7 @@ class Comparison {
     machine_.changes.push_back(std::move(change));
   }
 
-  // A controller goes, and comes, with all that belongs to it.
+  // A controller goes and comes with everything that belongs to it.
   void CompareControllers() {
     for (std::size_t place = 0; place < before_.size(); ++place) {
       const Controller& controller = before_[place];
@@ -178,7 +178,7 @@ class Comparison {
     const std::string where = PlaceOf(machine_.controllers[*owner], device);
     const DeviceRef missing{machine_.controllers.size(), machine_.missingDisks.size()};
     machine_.missingDisks.push_back(device);
-    machine_.missingDisks.back().logicalDrives.clear();  // their places are those of before
+    machine_.missingDisks.back().logicalDrives.clear();  // their places are those at the baseline
     Incident change = OfDisk(missing);
     change.controller = *owner;
     change.action = "CHECK whether it was pulled: " + DescribeDevice(controller, ref.device);

@@ -4,13 +4,13 @@
 
 namespace hxahost {
 
-// What is different from the baseline that the header names, if it names one, as findings: objects that are missing and
-// errors that grew past their limits. Each missing object, and what is for information, becomes an incident among the
-// changes of the machine, whose objects are known. The findings about the tools say which of them did not answer: what
-// those describe is not known rather than missing.
+// Compares the machine with the baseline that the header names, if it names one. Findings: objects that are missing,
+// and errors that grew past their limits. Each missing object, and each change for information, is added as an incident
+// to the changes of the machine, whose objects are complete. The findings about the tools name the tools that did not
+// answer: the state of their objects is unknown, not missing.
 Findings BaselineFindings(Machine& machine, const QueryHeader& header, const Findings& aboutTools);
 
-// The same of the numbers of controllers and disks that the header expects.
+// The same for the numbers of controllers and disks that the header expects.
 Findings ExpectationFindings(Machine& machine, const QueryHeader& header);
 
 }  // namespace hxahost

@@ -11,7 +11,7 @@ namespace hxahost {
 
 namespace {
 
-// Results hold texts as UTF-8, utilities print bytes.
+// Results contain UTF-8, utilities print bytes.
 std::string SerialOf(const Controller& controller) {
   return controller.units.empty() ? "" : AsUtf8(controller.units.front().serialNumber);
 }
@@ -21,19 +21,19 @@ bool IsSame(const Controller& before, const Controller& now) {
   return !serial.empty() && serial == SerialOf(now);
 }
 
-// One that was not published tells no serial number.
+// A controller that was not published has no serial number.
 bool HasSameLabel(const Controller& before, const Controller& now) {
   const bool isSilent = before.units.empty() || now.units.empty();
   return before.label == now.label && (isSilent || (SerialOf(before).empty() && SerialOf(now).empty()));
 }
 
-// Without a serial number, and under another number.
+// The same model without a serial number, under another number.
 bool IsAlike(const Controller& before, const Controller& now) {
   return !before.units.empty() && !now.units.empty() && SerialOf(before).empty() && SerialOf(now).empty() &&
          before.tool == now.tool && AsUtf8(before.units.front().model) == AsUtf8(now.units.front().model);
 }
 
-// What tells the disk from others; the controller is its place now.
+// The serial number, or the place; the controller is its place now.
 std::string KeyOf(const Device& disk, std::optional<std::size_t> controller) {
   if (!disk.serialNumber.empty()) return "S/N " + AsUtf8(disk.serialNumber);
   return controller ? fmt::format("{}: {},{}", *controller, disk.channel, disk.id) : "";
@@ -60,7 +60,7 @@ void BaselinePartners::FindControllers() {
   }
 }
 
-// Of several disks with one serial number the one that kept its place comes first.
+// Of several disks with one serial number, the one that kept its place comes first.
 void BaselinePartners::FindDisks() {
   std::multimap<std::string, Key> found;
   for (std::size_t place = 0; place < now_.size(); ++place) {

@@ -10,18 +10,18 @@
 
 namespace hxahost {
 
-// Which objects of a machine are the same at two times. Numbers of controllers change when one is taken out, and disks
-// are moved: serial numbers tell more. What has none is recognised by its place.
+// Finds the objects that a machine has at both of two times. Controller numbers change when a controller is removed,
+// and disks are moved, so serial numbers are compared first. Objects without one are recognised by their place.
 class BaselinePartners {
  public:
   BaselinePartners(const std::vector<Controller>& before, const std::vector<Controller>& now);
 
-  std::vector<std::optional<std::size_t>> controllers;  // by their places before; none: it is not there any more
+  std::vector<std::optional<std::size_t>> controllers;  // by their places before; empty: the controller is gone
 
-  // Where the disk of before is now.
+  // The place now of a disk that was there before.
   std::optional<DeviceRef> DiskOf(const DeviceRef& before) const;
 
-  // Whether the device of now is a disk that was not there before.
+  // Whether the device is a disk that was not there before.
   bool IsNewDisk(const DeviceRef& now) const;
 
  private:
@@ -32,8 +32,8 @@ class BaselinePartners {
 
   const std::vector<Controller>& before_;
   const std::vector<Controller>& now_;
-  std::map<Key, Key> disks_;        // those of now by those of before
-  std::map<Key, Key> disksBefore_;  // the other way
+  std::map<Key, Key> disks_;        // the key now by the key before
+  std::map<Key, Key> disksBefore_;  // the key before by the key now
 };
 
 }  // namespace hxahost

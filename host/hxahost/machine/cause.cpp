@@ -34,7 +34,7 @@ bool HasWord(const State& state, std::string_view part) {
                              [&](const std::string& word) { return word.find(part) != word.npos; });
 }
 
-// The utility that a finding of the log is about: what its runs report has the same cause.
+// The utility that a log finding is about: findings about its runs have the same cause.
 std::string_view ToolOfLogged(const Finding& finding) {
   const auto rule = std::ranges::find_if(HealthRules(), [&](const HealthRule& each) {
     return each.value == &kLogText && each.meaning == finding.meaning;
@@ -46,7 +46,7 @@ std::string PlaceKey(const std::string& controller, const std::string& channel, 
   return controller + "/" + channel + "," + id;
 }
 
-// Finds the objects of findings. Counters name their device by numbers only; they come from the legacy utility.
+// Finds the objects of findings. Counters identify their device only by numbers, and come from the legacy utility.
 class Subjects {
  public:
   Subjects(const Machine& machine, const InstanceList& instances) : machine_(machine), instances_(instances) {
@@ -91,7 +91,7 @@ class Subjects {
     return found == names_.end() ? Subject() : found->second;
   }
 
-  // "Zentraxis4" is not published, but what belongs to it is.
+  // "Zentraxis4" is not published, but its parts are.
   Subject Missing(const Finding& finding) const {
     for (std::size_t place = 0; place < machine_.controllers.size(); ++place) {
       const Controller& controller = machine_.controllers[place];
@@ -103,11 +103,11 @@ class Subjects {
   const Machine& machine_;
   const InstanceList& instances_;
   std::unordered_map<std::size_t, Subject> objects_;  // by the place of their instance
-  std::unordered_map<std::string, Subject> names_;    // by what counters say
+  std::unordered_map<std::string, Subject> names_;    // by the numbers in counters
 };
 
-// The logical drives and devices of a controller, those with one cause joined. A node is a drive, or a device after
-// the last drive.
+// The logical drives and devices of a controller, joined where they have one cause. A node is a drive; devices follow
+// the drives.
 class Joints {
  public:
   Joints(const Machine& machine, const Controller& controller)
@@ -152,7 +152,7 @@ class Joints {
   }
 
   void JoinDrivesOfGroups() {
-    std::map<std::size_t, std::size_t> firsts;  // the first drive of each group that is hit
+    std::map<std::size_t, std::size_t> firsts;  // the first affected drive of each group
     for (std::size_t drive = 0; drive < controller_.logicalDrives.size(); ++drive) {
       if (!IsHit(drive)) continue;
       for (const std::size_t group : controller_.logicalDrives[drive].groups) {
@@ -161,8 +161,8 @@ class Joints {
     }
   }
 
-  // A failed disk that no logical drive names any more: the one whose place a spare has taken, or the one that the only
-  // drive without a failed disk must miss.
+  // Joins a failed disk that no logical drive names any more to the drive that lost it: the only affected one without a
+  // failed disk, which is being rebuilt if a spare has taken the place of the disk.
   void JoinLoose(std::size_t device) {
     if (!IsFailed(machine_, controller_.devices[device]) || !controller_.devices[device].logicalDrives.empty()) return;
     const bool isReplaced = HasWord(controller_.devices[device].state, "spare");
@@ -215,7 +215,8 @@ class Sorting {
   }
 
  private:
-  // Controller, node and kind; findings with the same ones have one cause. What is about no object goes by its name.
+  // Controller, node and kind: findings with equal keys have one cause. A finding without an object has its name as
+  // key.
   using Key = std::tuple<std::size_t, std::size_t, std::string>;
 
   Key KeyOf(const Finding& finding, const Subject& subject) {
@@ -240,7 +241,7 @@ class Sorting {
     if (subject.device != kNone) cause.devices.push_back(subject.device);
   }
 
-  // What a controller counts is explained by the worst of its causes: findings come worst first.
+  // The worst cause of a controller explains its counters: findings come worst first.
   void AddCounted(std::size_t place) {
     const Subject subject = subjects_.Of(machine_.findings[place]);
     const auto cause = std::ranges::find_if(causes_, [&](const Cause& each) {
@@ -263,7 +264,7 @@ class Sorting {
            });
   }
 
-  // The devices that were joined without a finding of their own: those that are rebuilt.
+  // Adds the devices that are being rebuilt: they have no finding of their own.
   void Tidy(Cause& cause) {
     if (cause.controller == kNone) {
       cause.controller = machine_.controllers.size();

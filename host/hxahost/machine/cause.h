@@ -10,7 +10,7 @@ namespace hxahost {
 
 // Findings with one cause, and the objects that they are about.
 struct Cause {
-  std::size_t controller = 0;         // place in Machine::controllers; their number where it is about none
+  std::size_t controller = 0;         // place in Machine::controllers; their number if it is about no controller
   std::vector<std::size_t> drives;    // of the controller, in their order
   std::vector<std::size_t> devices;   // of the controller, in their order
   std::vector<std::size_t> findings;  // places in Machine::findings, in their order; never empty

@@ -41,7 +41,7 @@ std::map<std::string, ErrorCounts> Errors(const InstanceList& instances) {
   return errors;
 }
 
-// The least and the largest count of each logical drive, by its number and that of its controller.
+// The smallest and largest count of each logical drive, by its number and its controller's number.
 struct StripeCounts {
   std::uint64_t least = 0;
   std::uint64_t largest = 0;
@@ -60,8 +60,8 @@ std::map<std::string, StripeCounts> BadStripes(const InstanceList& instances) {
   return stripes;
 }
 
-// Counts name their controller by its number alone. The legacy utility counts errors and bad stripes; for the drives of
-// the others 0 is published.
+// Counts contain only the number of their controller. The legacy utility counts errors and bad stripes; for drives of
+// the other utilities 0 is published.
 bool IsCounting(const std::vector<Controller>& controllers, const Controller& controller) {
   if (controller.tool == kQcmdrun) return true;
   for (const Controller& other : controllers) {

@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// Fills in what the controllers count: errors on devices, bad stripes of logical drives.
+// Fills in the numbers that the controllers count: errors on devices, bad stripes of logical drives.
 void FindCounts(std::vector<Controller>& controllers, const InstanceList& instances);
 
 }  // namespace hxahost

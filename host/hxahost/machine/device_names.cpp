@@ -36,7 +36,7 @@ std::string DeviceNumber(const TPublishedInstance& device) {
   return number.substr(std::min(number.size(), number.rfind('#') + 1));
 }
 
-// One utility reports the place of a device without telling its parts.
+// One utility reports the place of a device as one text.
 std::string Place(const TPublishedInstance& device) {
   const std::string id = RawText(device, "ScsiId");
   const std::string reported = RawText(device, "ReportedChannel");

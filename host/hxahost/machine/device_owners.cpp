@@ -19,8 +19,8 @@ namespace hxahost {
 
 namespace {
 
-// What a property that has a text says of the utility. Signs that are not certain count where others have shown that
-// two controllers share a number: they tell one utility from those of the rows above them, in an answer that is whole.
+// What a property that is not empty shows about the utility. Likely signs count only after certain ones have shown that
+// two controllers share a number: in a complete answer they distinguish a utility from those of the rows above.
 enum class Certainty { kCertain, kLikely };
 
 struct OwnerSign {
@@ -78,7 +78,7 @@ Owner ToolOf(const TPublishedInstance& instance) {
   return {};
 }
 
-// The drives that an array without a letter may be for.
+// The drives that an array without a letter may belong to.
 using DrivesByName = std::multimap<std::string, const TPublishedInstance*>;
 
 DrivesByName LogicalDrives(const InstanceList& instances) {
@@ -91,7 +91,7 @@ DrivesByName LogicalDrives(const InstanceList& instances) {
   return drives;
 }
 
-// An array without a letter is of the utility whose drive has the same disks.
+// An array without a letter comes from the utility whose drive has the same disks.
 Owner ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
   const std::vector<std::string> places = PlacesIn(RawText(array, "StripeOrder"));
   const auto [first, last] = drives.equal_range(DriveKeyOf(array));
@@ -102,7 +102,7 @@ Owner ToolOfArray(const TPublishedInstance& array, const DrivesByName& drives) {
   return drive == last ? Owner() : ToolOf(*drive->second);
 }
 
-// A device with its number and the utility that described it; the number is empty of what is no device.
+// A device with its number and the utility that described it; the number is empty for instances that are not devices.
 struct Owned {
   std::string number;
   Owner owner;
@@ -124,7 +124,7 @@ std::vector<Owned> FindOwners(const InstanceList& instances) {
   return owners;
 }
 
-// The numbers that controllers of two utilities have.
+// The numbers that controllers of two utilities share.
 std::set<std::string> SharedNumbers(const InstanceList& instances, const std::vector<Owned>& owners) {
   std::map<std::string, std::set<std::string_view>> certain;
   std::map<std::string, std::set<std::string_view>> controllers;

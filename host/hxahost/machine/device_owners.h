@@ -12,10 +12,10 @@ namespace hxahost {
 struct DeviceOwner {
   std::string number;
   std::string label;      // the number; "3 (arcconf)" or "3 (tool not known)" where controllers of two tools share it
-  std::string_view tool;  // that described the instance; "" where nothing tells
+  std::string_view tool;  // that described the instance; "" if it is unknown
 };
 
-// By the place of each instance; empty for what is no controller, drive, group or disk.
+// By the place of each instance; empty for instances that are not controllers, drives, groups or disks.
 std::vector<DeviceOwner> DeviceOwners(const InstanceList& instances);
 
 }  // namespace hxahost

@@ -70,7 +70,7 @@ void AddCounters(const InstanceList& instances, std::size_t place, const Limits&
   }
 }
 
-// Periods: a longer one is slower.
+// The values are periods: a longer one is slower.
 void AddTransfer(const InstanceList& instances, std::size_t place, const Limits& limits, Findings& findings) {
   const std::string current = RawText(*instances[place], "Cur_Txer_p");
   const auto shortest = ReadCount(RawText(*instances[place], "Max_Txer_P"));

@@ -4,8 +4,8 @@
 
 namespace hxahost {
 
-// Errors that utilities count on disks, disks that transfer too slowly, and logged messages about batteries: each a
-// warning from its limit on.
+// Warnings about errors that utilities count on disks, disks that transfer too slowly, and logged messages about
+// batteries. Each value has a limit, at which its warning begins.
 Findings ErrorFindings(const QueryHeader& header, const InstanceList& instances);
 
 }  // namespace hxahost

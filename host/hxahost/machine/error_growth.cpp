@@ -18,7 +18,7 @@ constexpr Meaning kGrowing = {"it continues to report errors", "plan to replace 
 
 struct Counter {
   std::uint64_t ErrorCounts::*count;
-  std::optional<unsigned> Limits::*limit;  // null: growing is no fault
+  std::optional<unsigned> Limits::*limit;  // null: growth is not a fault
   std::string_view property;
   std::string_view what;
 };
@@ -30,7 +30,7 @@ constexpr Counter kCounters[] = {
     {&ErrorCounts::other,  nullptr,               "Misc",            "other errors" },
 };
 
-// " (2.5 a day)"; "" where the two times do not tell.
+// " (2.5 a day)"; "" if the times are unknown or not in order.
 std::string RateText(std::uint64_t errors, const std::string& before, const std::string& now) {
   constexpr double kSecondsOfDay = 24 * 60 * 60;
   const auto from = SecondsSince1970(before);

@@ -8,13 +8,13 @@
 
 namespace hxahost {
 
-// Errors that were counted on a disk since the baseline.
+// Errors counted on a disk since the baseline.
 struct ErrorGrowth {
   std::string text;                // "hard errors: 8, 5 more since 2026-11-20 09:30:00 +01:00 (2.5 a day)"
-  std::optional<Finding> finding;  // where they are past their limit
+  std::optional<Finding> finding;  // if they are past their limit
 };
 
-// What the disk of now counted since it was the one of before. Counters that were set back tell nothing.
+// The errors counted on a disk between the two times. Counters that were reset are left out.
 std::vector<ErrorGrowth> GrowthOf(const Device& before, const Device& now, const QueryHeader& header);
 
 }  // namespace hxahost

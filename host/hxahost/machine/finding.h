@@ -11,10 +11,10 @@ namespace hxahost {
 // How bad something is. The numbers are the exit statuses of monitoring plug-ins.
 enum class Severity { kFine = 0, kWarning = 1, kCritical = 2, kUnknown = 3 };
 
-// How an object is: what its symbol and its colour show. From the best to the worst; up to kBusy it is fine. A fault
-// that is known outweighs one that is merely possible.
+// The state of an object, as its symbol and colour show it. From the best to the worst; up to kBusy it is fine. A known
+// fault is worse than a possible one.
 enum class Level {
-  kUnsaid,  // the utility printed no state, and need not
+  kUnsaid,  // the utility printed no state, and is not expected to
   kFine,
   kIdle,  // a spare or unused
   kBusy,  // at work: a rebuild, a migration, ...
@@ -26,14 +26,14 @@ enum class Level {
 Severity SeverityOf(Level level);
 Level LevelOf(Severity severity);
 
-// "ok", "warning", "critical", "unknown"; also "unsaid", "idle", "busy" of a level.
+// "ok", "warning", "critical", "unknown"; for levels also "unsaid", "idle", "busy".
 std::string_view LevelWord(Level level);
 std::string_view SeverityWord(Severity severity);
 
-// Critical over warning over unknown over fine.
+// Critical is worse than warning, warning than unknown, unknown than fine.
 bool IsWorse(Severity left, Severity right);
 
-// What a finding does to its object: this is what decides which findings have one cause.
+// The effect of a finding on its object: it decides which findings have one cause.
 enum class Effect {
   kOther,
   kUnreachable,  // the data of a logical drive
@@ -45,13 +45,13 @@ enum class Effect {
   kDiskMissing,
   kPredicted,  // the failure of a disk
   kErrors,     // counted on a disk
-  kCounted,    // by a controller: a failure that another object reports itself
+  kCounted,    // by a controller: the failure of an object that reports it itself
   kController,
   kHeat,
   kBattery,
 };
 
-// What a value means and what to do.
+// The meaning of a value and the action to take.
 struct Meaning {
   std::string_view what;
   std::string_view action = "";
@@ -66,9 +66,9 @@ std::string TextOf(const Meaning& meaning);
 // One thing that is wrong, or whose state is not known.
 struct Finding {
   Severity severity = Severity::kUnknown;
-  std::string className;   // of the instance that says so; "tool run" or "log" where it is none
+  std::string className;   // of the instance that reports it; "tool run" or "log" if none does
   std::string identifier;  // "DeviceID" or "InstanceID" of the instance, or the tool's name
-  std::string name;        // as people call it: "logical drive 3 (Archive) of controller 4"
+  std::string name;        // for people: "logical drive 3 (Archive) of controller 4"
   std::string property;
   std::string text;  // as the tool printed it, bytes, without the white space at both ends
   Meaning meaning;
@@ -77,7 +77,7 @@ struct Finding {
 
 using Findings = std::vector<Finding>;
 
-// The worst of them; fine where there is none.
+// The worst severity of the findings; fine if there are none.
 Severity WorstOf(const Findings& findings);
 
 }  // namespace hxahost

@@ -30,7 +30,7 @@ constexpr Judgement kNotKnown = {
     Level::kUnknown, {"no rule knows this word", "see the manual of the utility"}
 };
 
-// Whether a rule that holds in one place holds for what is judged.
+// Whether a rule with this condition applies to the value that is judged.
 using Holds = std::function<bool(Where where)>;
 
 Judgement JudgeWord(const WatchedValue& value, std::string_view word, const Holds& holds) {
@@ -52,7 +52,7 @@ Judgement JudgeValue(const WatchedValue& value, std::string_view text, const Hol
   return worst;
 }
 
-// Controllers that are missing among those published.
+// Findings about controllers that are missing among those published.
 Findings ControllerFindings(const Machine& machine, const QueryResult& result) {
   Findings findings = SilentControllers(machine, result.instances);
   const std::size_t known = CountOf(machine, kControllerClass) + findings.size();
@@ -60,7 +60,7 @@ Findings ControllerFindings(const Machine& machine, const QueryResult& result) {
   return findings;
 }
 
-// The values of the rules, each once, in their order.
+// The values that rules name, each once, in their order.
 std::vector<const WatchedValue*> WatchedValues() {
   std::vector<const WatchedValue*> values;
   for (const HealthRule& rule : HealthRules()) {
@@ -69,9 +69,8 @@ std::vector<const WatchedValue*> WatchedValues() {
   return values;
 }
 
-// The disks of logical drives that are not guarded against the next failed disk, as places of instances. A disk that is
-// in no list is taken to belong to any logical drive of its controller's number. A group counts once, however many
-// drives are built on it.
+// The disks of logical drives that cannot tolerate another failure, as places of instances. A disk that is in no list
+// counts as a member of any logical drive of its controller's number. A group counts once, however many drives use it.
 std::set<std::size_t> UnguardedDisks(const Machine& machine) {
   std::set<std::string> numbers;
   std::set<std::size_t> placed;
@@ -83,7 +82,7 @@ std::set<std::size_t> UnguardedDisks(const Machine& machine) {
         if (isUnguarded) unguarded.insert(controller.devices[device].instance);
       }
     };
-    std::map<std::size_t, bool> groups;  // whether a drive on it is not guarded
+    std::map<std::size_t, bool> groups;  // whether a drive on it cannot tolerate another failure
     for (const LogicalDrive& drive : controller.logicalDrives) {
       const bool isUnguarded = JudgeText(kDriveState, drive.state.text).level >= Level::kWarning;
       if (isUnguarded) numbers.insert(controller.number);
@@ -151,7 +150,7 @@ class Examination {
     }
   }
 
-  // Gives each object the findings about it.
+  // Adds to each object the findings about it.
   void Assign(const Findings& findings) {
     for (std::size_t index = 0; index < findings.size(); ++index) {
       const auto& instance = findings[index].instance;
@@ -184,7 +183,7 @@ class Examination {
   }
 
   const InstanceList& instances_;
-  std::vector<Object*> objects_;  // by the place of their instance; null for what is none
+  std::vector<Object*> objects_;  // by the place of their instance; null for instances that are not objects
   std::set<std::size_t> unguarded_;
   std::set<std::size_t> failedSpares_;
 };

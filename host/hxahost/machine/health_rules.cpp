@@ -39,7 +39,7 @@ constexpr WatchedValue kPfaCount = {kDeviceErrorsClass, "PFA", CountWords};
 constexpr std::string_view kAll = "every utility";
 constexpr std::string_view kNewer = "arcconf, hrconf_64";
 
-// What findings mean and what to do.
+// The meanings of findings and their actions.
 constexpr Meaning kNothing = {};
 constexpr Meaning kDataGone = {"its data cannot be reached",
                                "replace the failed disks and restore the logical drive from a backup",

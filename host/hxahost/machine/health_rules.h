@@ -7,12 +7,12 @@
 #include "host/hxahost/machine/finding.h"
 #include "host/hxahost/machine/state_words.h"
 
-// What the words that the utilities print mean for the health of a machine.
+// The meaning of the utilities' words for the health of a machine.
 namespace hxahost {
 
-// A value that tells of health: a property of a class, and how its text is cut into words.
+// A value that health is read from: a property of a class, and how its text is cut into words.
 struct WatchedValue {
-  std::string_view className;  // or kToolRun, kLog, kLeftOut: what is known beside the instances
+  std::string_view className;  // or kToolRun, kLog, kLeftOut: facts that are not instances
   std::string_view property;
   Words (*cut)(std::string_view text);
 };
@@ -28,47 +28,47 @@ inline constexpr WatchedValue kControllerStatus = {"KVRSG_zxSCSIProtocolControll
 inline constexpr WatchedValue kBattery = {"KVRSG_zxSCSIProtocolController", "ControllerBatteryStatus", StateWords};
 inline constexpr WatchedValue kDiskState = {"KVRSG_zxDiskDrive", "State", StateWords};
 inline constexpr WatchedValue kHeat = {"KVRSG_zxSCSIProtocolController", "ControllerTemp", BracketedWords};
-// What is said of a controller that was not published.
+// Why a controller was not published.
 inline constexpr WatchedValue kPresence = {kLeftOut, "ControllerNum", WholeText};
 // How the run of a utility ended.
 inline constexpr WatchedValue kOutcome = {kToolRun, "outcome", WholeText};
-// Controllers that answered against those that were published.
+// The number of controllers that answered, compared with the number published.
 inline constexpr WatchedValue kAnswers = {kToolRun, "controllers", WholeText};
-// What became of an object that was there at the baseline.
+// The state of an object that was there at the baseline.
 inline constexpr WatchedValue kBaselinePresence = {kBaseline, "presence", WholeText};
-// How many there are against how many are expected.
+// The number of objects, compared with the number expected.
 inline constexpr WatchedValue kExpectedNumber = {kExpectation, "number", WholeText};
-// What the plug-in logged.
+// An entry that the plug-in logged.
 inline constexpr WatchedValue kLogText = {kLog, "text", LogHead};
 
-// Where a rule holds.
+// Where a rule applies.
 enum class Where {
   kAnywhere,
   kOnHardDisk,        // not on tapes, enclosures, processors: some of them have no state
-  kWithChannelLine,   // on controllers of utilities that print a status beside the description of the channel
+  kWithChannelLine,   // on controllers of utilities that print a status with the description of the channel
   kOnUnguardedArray,  // on disks of a logical drive that is itself a finding
-  kOnFailedSpares,    // on controllers on which nothing else has failed
-  kOnConfiguration,   // on the answer that says which controllers and drives there are
-  kOnState,           // on answers that states are read from, not on those that are only kept
-  kOnOptional,        // on utilities that nobody expects
+  kOnFailedSpares,    // on controllers without any other failure
+  kOnConfiguration,   // on the answer that lists the controllers and drives
+  kOnState,           // on answers that states are read from, not on those that are only published as raw data
+  kOnOptional,        // on utilities that are not expected
 };
 
-// One word and what it means. The first rule that names the word, or its code, and holds there, counts; a word that no
-// rule names is unknown.
+// One word and its meaning. The first rule that applies and names the word, or its code, is used; a word that no rule
+// names is unknown.
 struct HealthRule {
   const WatchedValue* value;
-  std::string_view word;   // as NormalWord gives it; "": the utility printed nothing
-  std::string_view code;   // the short form that the legacy utility adds; "" where there is none
-  std::string_view tools;  // which print it
+  std::string_view word;   // as NormalWord returns it; "": the utility printed nothing
+  std::string_view code;   // the short form that the legacy utility adds; "" if it has none
+  std::string_view tools;  // that print it
   Level level;
-  Meaning meaning;  // empty where it is fine
+  Meaning meaning;  // empty if the level is fine
   Where where;
 };
 
-// Rules of one value follow each other; what matters most comes first.
+// Rules of one value follow each other; the most important come first.
 std::span<const HealthRule> HealthRules();
 
-// What the logs say of how bad an event is; a word that is not here is unknown.
+// How bad an event is, by the word in the logs; a word that is not here is unknown.
 struct EventSeverity {
   std::string_view word;
   Level level;
@@ -76,7 +76,7 @@ struct EventSeverity {
 
 std::span<const EventSeverity> EventSeverities();
 
-// The rule that names the word of a value; there must be one.
+// The rule for the word of a value; it must exist.
 const HealthRule& RuleFor(const WatchedValue& value, std::string_view word);
 
 }  // namespace hxahost

@@ -35,11 +35,12 @@ std::string ToolHeadline(const Finding& finding) {
                      Printable(text));
 }
 
-// One incident for all that went wrong with a utility: "arcconf: run as administrator".
+// One incident for all failures of a utility: "arcconf: run as administrator".
 void DescribeTool(const Machine& machine, Incident& incident) {
   const auto refused = std::ranges::find_if(incident.findings, [&](std::size_t place) {
     const std::string& text = machine.findings[place].text;
-    return IsRefusalOfUser(text) && !text.starts_with("not started: ");  // that is about a file that is no program
+    return IsRefusalOfUser(text) &&
+           !text.starts_with("not started: ");  // this refusal is about a file that is not a program
   });
   if (refused != incident.findings.end()) {
     incident.headline = machine.findings[*refused].identifier + ": run as administrator";
@@ -62,13 +63,13 @@ constexpr Headline kHeadlines[] = {
     {Effect::kController, "has failed"    },
 };
 
-// The battery is the one part of a controller that is replaced by itself.
+// The battery is the only part of a controller that is replaced separately.
 std::string BatteryPart(const Controller& controller) {
   const std::string fru = controller.units.size() == 1 ? Printable(controller.units.front().battery.fru) : "";
   return fru.empty() ? "" : ", FRU " + fru;
 }
 
-// Of messages that say the same again and again the last one counts.
+// Of repeated messages the last one is shown.
 void DescribeMessage(const Machine& machine, Incident& incident) {
   const Finding& finding = machine.findings[incident.findings.back()];
   incident.headline = fmt::format("{}: \"{}\"", Printable(finding.name), Printable(finding.text));
@@ -97,14 +98,14 @@ struct Part {
   std::string_view name;
 };
 
-// Of a controller, that have incidents of their own.
+// Parts of a controller that have incidents of their own.
 constexpr Part kParts[] = {
     {Effect::kHeat,    " temperature"},
     {Effect::kBattery, " battery"    },
 };
 
-// The identifier of the first logical drive or device; else of what reports it. Values and severities are no part of
-// it: they change while the incident lasts.
+// The identifier of the first logical drive or device, else of the object that reports it. Values and severities are
+// left out: they change while the incident lasts.
 void NameSubject(const Machine& machine, const Cause& cause, Incident& incident) {
   const Finding& finding = machine.findings[cause.findings.front()];
   const auto name = [&](const Object& object) {
@@ -123,7 +124,7 @@ void NameSubject(const Machine& machine, const Cause& cause, Incident& incident)
   if (!head.empty()) incident.subject += " " + head.front();
 }
 
-// What a finding of expectations comes with; null for any other finding.
+// The change that belongs to a finding about expectations; null for any other finding.
 const Incident* ChangeOf(const Machine& machine, const Finding& finding) {
   if (finding.className != kBaseline && finding.className != kExpectation) return nullptr;
   const auto change = std::ranges::find_if(machine.changes, [&](const Incident& each) {
@@ -158,7 +159,7 @@ Incident Describe(const Machine& machine, const Cause& cause) {
   return incident;
 }
 
-// For information: disks of one model that share an array should have one firmware.
+// For information: disks of one model in one array should have the same firmware.
 void AddMixedFirmware(const Machine& machine, Incidents& incidents) {
   for (std::size_t place = 0; place < machine.controllers.size(); ++place) {
     const Controller& controller = machine.controllers[place];

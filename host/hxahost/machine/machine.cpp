@@ -92,7 +92,7 @@ void Describe(Device& device, const TPublishedInstance& instance) {
   device.bytes = ReadBytes(device.size);
 }
 
-// Adds the instances of a class to the list of their controllers, which are made where they are met first.
+// Adds the instances of a class to the lists of their controllers, and creates a controller when it first occurs.
 class Sorter {
  public:
   explicit Sorter(const InstanceList& instances) : instances_(instances), owners_(DeviceOwners(instances)) {}
@@ -126,8 +126,8 @@ class Sorter {
   std::unordered_map<std::string, std::size_t> places_;
 };
 
-// The versions name their controller by its number alone: where two share it, each must have one to tell whose is
-// whose.
+// Versions contain only the number of their controller. If controllers share the number, each must have one version,
+// so that the order decides.
 void FindFirmware(std::vector<Controller>& controllers, const InstanceList& instances) {
   std::unordered_map<std::string, std::vector<std::string>> versions;
   for (const auto& instance : instances) {
@@ -222,7 +222,7 @@ std::optional<std::uint64_t> ReadBytes(std::string_view size) {
   const auto* const unit = std::ranges::find(kUnits, size, &Unit::name);
   if (error != std::errc() || unit == std::end(kUnits) || (slash != size.npos && !size.empty())) return std::nullopt;
   const double bytes = number * (slash == size.npos ? unit->bytes : kSector);
-  if (!(bytes >= 0 && bytes < 1e18)) return std::nullopt;  // an infinite one, too
+  if (!(bytes >= 0 && bytes < 1e18)) return std::nullopt;  // infinity, too
   return static_cast<std::uint64_t>(bytes);
 }
 

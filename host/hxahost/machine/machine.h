@@ -11,11 +11,11 @@
 #include "host/hxahost/machine/incident.h"
 #include "host/hxahost/result/query_result.h"
 
-// A machine as its utilities describe it: the one value that people and monitoring see, each in a form of its own.
-// Texts are bytes as the tools printed them, without the white space at both ends; "" where they printed none.
+// A machine as its utilities describe it: the one value from which all views for people and monitoring are made.
+// Texts are bytes as the tools printed them, without the white space at both ends; "" if they printed none.
 namespace hxahost {
 
-// The text of a state, and what the rules make of it.
+// The text of a state, and its level by the rules.
 struct State {
   std::string_view property;
   std::string text;
@@ -36,7 +36,7 @@ struct Battery {
   State state;
   std::string overTemperature;
   std::string capacity;
-  std::optional<double> percent;  // that the capacity says, where it can be read
+  std::optional<double> percent;  // read from the capacity, if possible
   std::string timeRemaining;
   std::string fru;
 };
@@ -46,8 +46,8 @@ struct Operation {
   std::string name;
   std::string logicalDrive;
   std::string status;
-  std::optional<double> percent;  // that is done; 0 to 100
-  bool isActive = false;          // it runs now; otherwise it was the last one
+  std::optional<double> percent;  // done, 0 to 100
+  bool isActive = false;          // it runs now; otherwise it is the last one that ran
 };
 
 struct ControllerUnit : Object {
@@ -55,7 +55,7 @@ struct ControllerUnit : Object {
   std::string serialNumber;
   std::string firmware;
   State temperature;
-  std::optional<double> celsius;  // that the temperature says, where it can be read
+  std::optional<double> celsius;  // read from the temperature, if possible
   Battery battery;
   std::vector<Operation> operations;
 };
@@ -63,10 +63,10 @@ struct ControllerUnit : Object {
 // Members are places in the controller's lists.
 struct LogicalDrive : Object {
   std::string number;
-  std::string title;      // "Archive"; "" where it has no name
+  std::string title;      // "Archive"; "" if it has no name
   std::string raidLevel;  // "5"
   std::string size;
-  std::optional<std::uint64_t> bytes;       // that the size says, where it can be read
+  std::optional<std::uint64_t> bytes;       // read from the size, if possible
   std::optional<std::uint64_t> badStripes;  // in which data was lost
   std::vector<std::size_t> groups;          // that it is built on
   std::vector<std::size_t> devices;         // that its own lists name
@@ -77,7 +77,7 @@ struct DiskGroup : Object {
   std::vector<std::size_t> devices;
 };
 
-// That its controller counted on a device.
+// The errors that a controller counted on a device.
 struct ErrorCounts {
   std::uint64_t hard = 0;
   std::uint64_t soft = 0;
@@ -92,7 +92,7 @@ struct Device : Object {
   HardwareKind kind = HardwareKind::kOther;
   std::string channel;
   std::string id;
-  std::string location;  // "enclosure 0, slot 8"; else "channel 2, ID 4"; else "device 4"; "" where nothing tells
+  std::string location;  // "enclosure 0, slot 8"; else "channel 2, ID 4"; else "device 4"; "" if none is published
   std::string type;
   std::string vendor;
   std::string model;
@@ -100,42 +100,39 @@ struct Device : Object {
   std::string fru;
   std::string firmware;
   std::string size;
-  std::optional<std::uint64_t> bytes;      // that the size says, where it can be read
-  std::optional<ErrorCounts> errors;       // where its utility counts them
-  std::vector<std::size_t> logicalDrives;  // that it is a member of
+  std::optional<std::uint64_t> bytes;      // read from the size, if possible
+  std::optional<ErrorCounts> errors;       // if its utility counts them
+  std::vector<std::size_t> logicalDrives;  // it is a member of these
 };
 
-// Everything that belongs to one controller. The utilities count their controllers each by itself, so controllers of
-// two of them may share a number.
+// Everything that belongs to one controller. Each utility numbers its own controllers, so controllers of two utilities
+// may have the same number.
 struct Controller {
   std::string number;
   std::string label;                  // the number; "3 (arcconf)" or "3 (tool not known)" where two share it
-  std::string_view tool;              // that described it; "" where nothing tells
-  std::vector<ControllerUnit> units;  // one; none where it was not published; several where nothing tells them apart
+  std::string_view tool;              // that described it; "" if it is unknown
+  std::vector<ControllerUnit> units;  // one; none if it was not published; several if they cannot be told apart
   std::vector<LogicalDrive> logicalDrives;
   std::vector<DiskGroup> groups;
   std::vector<Device> devices;
 };
 
-// The objects, not judged.
-std::vector<Controller> ReadControllers(const InstanceList& instances);
-
-// The objects, not judged.
+// The objects, without levels and findings.
 std::vector<Controller> ReadControllers(const InstanceList& instances);
 
 struct Machine {
-  std::vector<Controller> controllers;        // in the order in which they, or what belongs to them, were published
-  std::vector<std::string_view> absentTools;  // utilities that are not installed, and need not be
-  Incidents changes;                          // of expectations: those with findings, and those for information
-  std::vector<Device> missingDisks;           // that were there at the baseline
-  Findings findings;                          // what is wrong: the worst first, then in the order of the rules
-  Incidents incidents;                        // their causes: the worst first, then in the order of the controllers
+  std::vector<Controller> controllers;        // in the order in which they, or their parts, were published
+  std::vector<std::string_view> absentTools;  // utilities that are not installed and not required
+  Incidents changes;                 // compared with expectations: those with findings, and those for information
+  std::vector<Device> missingDisks;  // they were there at the baseline
+  Findings findings;                 // what is wrong: the worst first, then in the order of the rules
+  Incidents incidents;               // their causes: the worst first, then in the order of the controllers
 };
 
 // The disk of an incident.
 const Device& DeviceOf(const Machine& machine, const DeviceRef& disk);
 
-// Of classes that were not asked for nothing is missed.
+// Classes that were not queried are not reported as missing.
 Machine BuildMachine(const QueryHeader& header, const QueryResult& result);
 
 // The objects of a class, one of the four that a controller holds.
@@ -144,7 +141,7 @@ std::vector<const Object*> ObjectsOf(const Controller& controller, std::string_v
 // How many objects of a class there are.
 std::size_t CountOf(const Machine& machine, std::string_view className);
 
-// What a property says of the object; kUnsaid where no rule reads it.
+// The level of a property of the object; kUnsaid if no rule reads it.
 Level LevelOf(const Machine& machine, const Object& object, std::string_view property);
 
 // "34715/71096320" (MB and sectors of 512 bytes), "70007 MB", "1.5 TB" or "40960" (MB), as the tools print sizes.

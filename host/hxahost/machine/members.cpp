@@ -32,7 +32,7 @@ PlacesByKey DevicesByPlace(const std::vector<Device>& devices) {
   return places;
 }
 
-// A drive's own list and its groups may name a device both.
+// A drive's own list and its groups may both name a device.
 std::vector<std::size_t> AllMembers(const Controller& controller, const LogicalDrive& drive) {
   std::set<std::size_t> members(drive.devices.begin(), drive.devices.end());
   for (const std::size_t group : drive.groups) {
@@ -45,7 +45,7 @@ std::vector<std::size_t> AllMembers(const Controller& controller, const LogicalD
 
 void FindMembers(Controller& controller, const InstanceList& instances) {
   const PlacesByKey devices = DevicesByPlace(controller.devices);
-  PlacesByKey groups;  // by letter, or by the logical drive that one without a letter is for
+  PlacesByKey groups;  // by letter, or by the logical drive of a group without a letter
   for (std::size_t index = 0; index < controller.groups.size(); ++index) {
     DiskGroup& group = controller.groups[index];
     const TPublishedInstance& instance = *instances[group.instance];

@@ -5,13 +5,13 @@
 
 #include "host/hxahost/machine/machine.h"
 
-// Which disks make up a disk group or a logical drive.
+// The disks of disk groups and logical drives.
 namespace hxahost {
 
 // Fills in the members of the controller's groups and logical drives.
 void FindMembers(Controller& controller, const InstanceList& instances);
 
-// The pairs "0,7" (channel and number) in a list of disks, whatever is around them.
+// The pairs "0,7" (channel and number) in a list of disks, with any text between them.
 std::vector<std::string> PlacesIn(const std::string& text);
 
 // "Cntrlr4LogicalDrv2" ties a group without a letter to its logical drive: it is part of the group's identifier,

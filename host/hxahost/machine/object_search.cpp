@@ -25,7 +25,7 @@ using PlaceWords = std::map<std::string_view, std::string>;
 
 struct PlaceWord {
   std::string_view typed;
-  std::string_view meant;  // "" says nothing
+  std::string_view meant;  // "": has no meaning
 };
 
 constexpr PlaceWord kPlaceWords[] = {
@@ -61,7 +61,7 @@ std::vector<std::string> TokensOf(std::string_view text) {
   return tokens;
 }
 
-// Nothing where a word is none of a place, or has no number after it. An array has a letter, too.
+// Returns nothing if a word is not part of a place or has no number after it. An array may have a letter instead.
 std::optional<PlaceWords> ReadPlace(std::string_view text) {
   const std::vector<std::string> tokens = TokensOf(text);
   PlaceWords words;
@@ -76,7 +76,7 @@ std::optional<PlaceWords> ReadPlace(std::string_view text) {
   return words;
 }
 
-// An object with all that it may be asked for by.
+// An object with every name that finds it.
 struct Candidate {
   NamedObject named;
   std::string_view tool;
@@ -84,7 +84,7 @@ struct Candidate {
   std::vector<std::string> names;
 };
 
-// How many of the words the object's place has.
+// How many of the words are part of the object's place.
 std::size_t CountShared(const PlaceWords& asked, const PlaceWords& place) {
   return static_cast<std::size_t>(std::ranges::count_if(asked, [&](const auto& word) {
     const auto found = place.find(word.first);
@@ -96,7 +96,7 @@ bool IsCalled(const Candidate& candidate, std::string_view name) {
   return std::ranges::any_of(candidate.names, [&](const std::string& each) { return Lower(each) == Lower(name); });
 }
 
-// A number alone is a controller's.
+// A number without other words is a controller's.
 bool IsAt(const Candidate& candidate, const PlaceWords& asked) {
   if (asked.empty() || CountShared(asked, candidate.place) < asked.size()) return false;
   return candidate.place.size() == 1 || asked.size() > 1 || !asked.contains("controller");
@@ -146,7 +146,7 @@ class Catalogue {
     std::erase(candidate.names, "");
   }
 
-  // An array has a letter, or is for one logical drive.
+  // An array has a letter, or belongs to one logical drive.
   std::string ArrayOf(const Controller& controller, const DiskGroup& group) const {
     const std::string letter = RawText(*instances_[group.instance], "Array");
     const auto place = static_cast<std::size_t>(&group - controller.groups.data());
@@ -181,7 +181,7 @@ std::vector<NamedObject> Choose(const std::vector<Candidate>& candidates, const 
   return chosen;
 }
 
-// Part of a name, all of a place but one word, or a name with a slip of the finger.
+// Matches part of a name, all words of a place except one, or a name with a typing error.
 std::vector<NamedObject> NearTo(const std::vector<Candidate>& candidates, std::string_view what,
                                 const std::optional<PlaceWords>& place) {
   constexpr std::size_t kFewestLetters = 3;

@@ -6,10 +6,10 @@
 
 #include "host/hxahost/machine/machine.h"
 
-// Objects by what people call them.
+// Finds objects by the names that people use.
 namespace hxahost {
 
-// An object and what it is asked for by: "C4", "C4 LD3", "C4 array A", "C4 enclosure 0, slot 8".
+// An object and the short name that selects it: "C4", "C4 LD3", "C4 array A", "C4 enclosure 0, slot 8".
 struct NamedObject {
   std::string_view className;
   const Object* object = nullptr;
@@ -18,12 +18,12 @@ struct NamedObject {
 
 struct ObjectSearch {
   std::vector<NamedObject> found;
-  std::vector<NamedObject> near;  // where nothing was found: what may have been meant
+  std::vector<NamedObject> near;  // if nothing was found: objects with a similar name
 };
 
-// Finds what is called so, in any case: by its identifier, serial number or name, or by its place on the machine
-// ("C4 slot 8", "controller 4, logical drive 3", "enclosure 0, slot 8"). The tool tells controllers of one number
-// apart: "C3 (arcconf)".
+// Finds the objects with this name, in upper or lower case: an identifier, serial number or name, or a place on the
+// machine ("C4 slot 8", "controller 4, logical drive 3", "enclosure 0, slot 8"). The tool distinguishes controllers
+// with one number: "C3 (arcconf)".
 ObjectSearch FindObjects(const Machine& machine, const InstanceList& instances, std::string_view what);
 
 }  // namespace hxahost

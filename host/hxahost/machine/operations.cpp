@@ -95,7 +95,7 @@ void FindOperations(std::vector<Controller>& controllers, const InstanceList& in
       if (controller.tool == tool && controller.units.size() == 1) units.push_back(&controller.units.front());
     }
     const auto operations = ReportedOperations(instances, tool);
-    if (operations.size() != units.size()) continue;  // nothing tells which belong together
+    if (operations.size() != units.size()) continue;  // the order cannot assign them
     for (std::size_t index = 0; index < units.size(); ++index) {
       if (units[index]->operations.empty()) units[index]->operations = operations[index];
     }

@@ -6,8 +6,8 @@
 
 namespace hxahost {
 
-// Fills in what the controllers do in the background: from the published properties of the legacy ones, from the text
-// of "getstatus" of the others.
+// Fills in the background operations of the controllers: for the legacy utility from published properties, for the
+// others from the text of "getstatus".
 void FindOperations(std::vector<Controller>& controllers, const InstanceList& instances);
 
 }  // namespace hxahost

@@ -17,11 +17,11 @@ namespace hxahost {
 
 namespace {
 
-// Its records are those of the legacy utility alone.
+// Only the legacy utility has records of these classes.
 constexpr std::string_view kLegacyClasses[] = {kDeviceErrorsClass, kTransferClass, "KVRSG_LogRecord_zxDDD",
                                                "KVRSG_LogRecord_SoftEvent", "KVRSG_LogRecord_HardEvent"};
 
-// Each controller has one at most, in the order of the controllers.
+// Each controller has at most one, in the order of the controllers.
 constexpr std::string_view kVersionClasses[] = {kFirmwareClass, "KVRSG_zxBootBlockVersion", "KVRSG_zxBiosVersion"};
 
 template <class Names>
@@ -29,7 +29,7 @@ bool IsAmong(const Names& names, std::string_view className) {
   return std::ranges::find(names, className) != std::end(names);
 }
 
-// "3" of "3-C3 CH0 I00:Controller: 0Device #0", too.
+// The controller's number, also "3" of "3-C3 CH0 I00:Controller: 0Device #0".
 std::string NumberOf(const TPublishedInstance& record) {
   for (const std::string_view property : {"ControllerNum", "Controller"}) {
     if (std::string number = RawText(record, property); !number.empty()) return number;
@@ -38,7 +38,7 @@ std::string NumberOf(const TPublishedInstance& record) {
   return element.substr(0, element.find('-'));
 }
 
-// "C3 CH0 I00:Controller: 0Device #0" of it.
+// The identifier of the device: "C3 CH0 I00:Controller: 0Device #0" in the example above.
 std::string IdentifierOfDevice(const TPublishedInstance& version) {
   const std::string element = RawText(version, "SoftwareElementID");
   const std::size_t dash = element.find('-');
@@ -59,7 +59,7 @@ class OwnerFinder {
     for (const auto& instance : instances) ++counts_[KeyOf(*instance)];
   }
 
-  // To be asked once for each, in their order.
+  // Must be called once for each record, in their order.
   RecordOwner Of(const TPublishedInstance& record) {
     const std::string number = NumberOf(record);
     if (number.empty()) return {};
@@ -76,7 +76,7 @@ class OwnerFinder {
 
   static Key KeyOf(const TPublishedInstance& record) { return {record.Class().name, NumberOf(record)}; }
 
-  // The devices of one identifier in their order: their versions have the same one.
+  // Devices with one identifier are taken in their order, because their versions have the same identifier.
   RecordOwner FirmwareOwner(const std::string& number, const std::string& identifier) {
     const auto named = devices_.find({number, identifier});
     if (identifier.empty() || named == devices_.end() || named->second.empty()) return {};

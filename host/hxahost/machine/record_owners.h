@@ -7,14 +7,14 @@
 
 namespace hxahost {
 
-// What a version, a count or a record of a log is about. The machine must outlive it.
+// The object that a version, a count or a log record is about. The machine must outlive it.
 struct RecordOwner {
-  std::string label;  // as Controller::label; "3 (tool not known)" where nothing tells; "" without a number
-  const Device* device = nullptr;  // of which it is the firmware; none where it is not known
+  std::string label;               // as Controller::label; "3 (tool not known)" if it is ambiguous; "" without a number
+  const Device* device = nullptr;  // whose firmware it is; null if it is not known
 };
 
-// By the place of each instance. Records carry the number of their controller alone, so where controllers share it the
-// class, the device or the order of publication tells whose they are.
+// By the place of each instance. Records contain only the number of their controller. If controllers share the number,
+// the class, the device or the order of publication decides.
 std::vector<RecordOwner> RecordOwners(const Machine& machine, const InstanceList& instances);
 
 }  // namespace hxahost

@@ -20,7 +20,7 @@ namespace hxahost {
 
 namespace {
 
-// A status as a utility printed it, under the command that was run.
+// A status as a utility printed it, and the command that was run.
 struct FailedStatus {
   std::string command;
   std::string text;
@@ -31,7 +31,7 @@ bool IsLowerNumber(const std::string& left, const std::string& right) {
   return std::make_pair(left.size(), left) < std::make_pair(right.size(), right);
 }
 
-// The numbers of controllers that something belongs to but that are not there, from the lowest.
+// The numbers of controllers that are not published although drives, disks or groups name them, lowest first.
 std::vector<std::string> UnpublishedNumbers(const Machine& machine) {
   std::set<std::string> published;
   for (const Controller& controller : machine.controllers) {
@@ -53,7 +53,7 @@ std::string StatusOn(const std::string& line) {
   return std::string(Trim(std::string_view(line).substr(colon + 1)));
 }
 
-// The first status line counts, as it does for the plug-in; the word that it looks for is in this spelling.
+// The plug-in also reads the first status line, and looks for the word in this spelling.
 std::string FailedStatusIn(const std::vector<TCIMValue>& lines) {
   for (const TCIMValue& line : lines) {
     const std::string status = StatusOn(std::string(line));
@@ -100,8 +100,8 @@ Finding FailedFinding(const FailedStatus& failed) {
 
 }  // namespace
 
-// Both lists are in the order of the controllers' numbers. Where they are equally long they speak of the same
-// controllers; otherwise there is no telling which belong together, and each is shown for itself.
+// Both lists are in the order of the controllers' numbers. If they are equally long, they describe the same
+// controllers; otherwise nothing shows which belong together, and each is reported separately.
 Findings SilentControllers(const Machine& machine, const InstanceList& instances) {
   const std::vector<std::string> numbers = UnpublishedNumbers(machine);
   const std::vector<FailedStatus> failed = FailedStatuses(instances);

@@ -4,8 +4,8 @@
 
 namespace hxahost {
 
-// Controllers that are there but were not published, as the plug-in does with one whose status says that it has
-// failed: those that drives, disks or groups name, and those that only the raw answer of a utility shows.
+// Controllers that exist but were not published, as the plug-in leaves out a controller whose status is "Failed":
+// those that drives, disks or groups name, and those that only the raw answer of a utility shows.
 Findings SilentControllers(const Machine& machine, const InstanceList& instances);
 
 }  // namespace hxahost

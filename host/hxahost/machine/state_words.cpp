@@ -16,14 +16,14 @@ void AddWord(Words& words, std::string_view text) {
   if (!word.empty()) words.push_back(std::move(word));
 }
 
-// "Hot Spare for Logical drive 1": the state is what comes before. Other states keep what they are for: "Ready for
-// removal" is not ready.
+// "Hot Spare for Logical drive 1": the state is the part before " for ". Other states keep it: "Ready for removal" is
+// not ready.
 std::string_view WithoutPurpose(std::string_view state) {
   const std::string_view before = state.substr(0, state.find(" for "));
   return NormalWord(before).ends_with("spare") ? before : state;
 }
 
-// A hyphen within a word joins it, one between blanks parts two.
+// A hyphen within a word joins it; a hyphen between blanks separates two words.
 std::string WithCommasForDashes(std::string_view text) {
   std::string converted(text);
   for (std::size_t dash = converted.find(" - "); dash != converted.npos; dash = converted.find(" - ", dash + 1)) {

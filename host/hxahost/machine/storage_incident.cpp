@@ -21,7 +21,7 @@ namespace {
 
 using Places = std::vector<std::size_t>;
 
-// The part of a cause that its texts are made of.
+// The objects of a cause that its texts name.
 struct Situation {
   const Machine& machine;
   const Cause& cause;
@@ -32,7 +32,7 @@ struct Situation {
   std::optional<double> percent;  // of the rebuild
 };
 
-// How many disks a RAID level can lose. Levels of several spans depend on which disks fail: they go by their state.
+// How many disks a RAID level can lose. For levels of several spans it depends on the disks: their state decides.
 std::optional<std::size_t> ToleranceOf(const std::string& raidLevel) {
   struct Level {
     std::string_view name;
@@ -104,7 +104,7 @@ Situation Look(const Machine& machine, const Cause& cause) {
   return situation;
 }
 
-// More of its disks have failed than the drive tolerates.
+// Whether more disks have failed than the drive tolerates.
 bool IsBeyondRepair(const Situation& situation, std::size_t drive) {
   const LogicalDrive& each = situation.controller.logicalDrives[drive];
   const auto tolerance = ToleranceOf(Printable(each.raidLevel));
@@ -171,7 +171,7 @@ struct DiskHeadline {
   std::string_view text;      // {} is the value
 };
 
-// The first one that the disk has.
+// The first row whose effect the disk has is used.
 constexpr DiskHeadline kDiskHeadlines[] = {
     {Effect::kDiskMissing, "",                "is missing"                       },
     {Effect::kDiskFailed,  "",                "has failed"                       },
@@ -184,7 +184,7 @@ constexpr DiskHeadline kDiskHeadlines[] = {
     {Effect::kOther,       "",                "has a state that is not known: {}"},
 };
 
-// The finding that a headline is about; null where there is none.
+// The finding that a headline is about; null if there is none.
 const Finding* FindingFor(const Situation& situation, const DiskHeadline& headline) {
   for (const std::size_t place : situation.cause.findings) {
     const Finding& finding = situation.machine.findings[place];
@@ -244,7 +244,7 @@ std::string RebuildAction(const Situation& situation) {
   return text + (others.empty() ? "; then check again" : "; then PULL " + Described(situation, others));
 }
 
-// A missing disk may have other words in its state, too: "Failed (Missing)".
+// The state of a missing disk may contain other words, too: "Failed (Missing)".
 bool IsMissing(const Situation& situation, std::size_t device) {
   return NormalWord(situation.controller.devices[device].state.text).find("missing") != std::string::npos;
 }
@@ -258,7 +258,7 @@ bool IsDisk(const Situation& situation, std::size_t device) {
   return situation.controller.devices[device].kind == HardwareKind::kDisk;
 }
 
-// What else a person has to know who is about to pull the disks.
+// What a person must also know before pulling the disks.
 std::string PullNote(const Situation& situation) {
   const Controller& controller = situation.controller;
   if (!IsDisk(situation, situation.failed.front())) return "";
@@ -282,7 +282,7 @@ std::string StepFor(const Situation& situation, std::size_t device) {
   return fmt::format("{} {}", IsMissing(situation, device) ? "INSERT a disk at" : "PULL", words);
 }
 
-// Drives that have lost several disks stay readable only while the others are left alone.
+// Drives that have lost several disks stay readable only as long as their other disks stay in place.
 std::string PullAction(const Situation& situation) {
   const bool isMissing =
       std::ranges::all_of(situation.failed, [&](std::size_t device) { return IsMissing(situation, device); });
@@ -294,7 +294,7 @@ std::string PullAction(const Situation& situation) {
   return fmt::format("{}{}", fmt::join(steps, isOneByOne ? "; after the rebuild " : "; "), PullNote(situation));
 }
 
-// A disk that still works in an array that no longer has redundancy must stay until the array is whole.
+// A working disk in an array without redundancy must stay until the array is rebuilt.
 std::string WeakDiskAction(const Situation& situation) {
   const std::size_t place = situation.cause.devices.front();
   const Device& device = situation.controller.devices[place];

@@ -70,7 +70,7 @@ std::vector<Trouble> Troubles(const ToolRunList& runs, const Tools& optional) {
   return troubles;
 }
 
-// Utilities that are expected, but were not run: later queries of one program run none.
+// Utilities that are expected but were not run. Later queries of one program run no utility.
 std::vector<Trouble> NeverRun(const Expectations& expectations, const QueryResult& result) {
   std::vector<Trouble> troubles;
   if (result.number > 1) return troubles;
@@ -95,7 +95,7 @@ Finding AsFinding(const Trouble& trouble) {
           trouble.rule->meaning};
 }
 
-// The controllers that a utility described, by tool and number.
+// The number of controllers that a utility described, by tool and number.
 std::size_t CountAnswers(const ToolRunList& runs) {
   std::set<std::pair<std::string, std::string>> answers;
   for (const ToolRun& run : runs) {
@@ -111,7 +111,7 @@ Finding OfCollection(std::string_view word, std::string text) {
           std::string(kAnswers.property), std::move(text),       rule.meaning};
 }
 
-// Every run was one of a program that is not there.
+// Whether every run was of a program that does not exist.
 bool IsNothingInstalled(const ToolRunList& runs) {
   const auto isMissing = [](const ToolRun& run) { return run.outcome == Outcome::kNotInstalled; };
   return !runs.empty() && std::ranges::all_of(runs, isMissing);
@@ -137,7 +137,7 @@ std::optional<Finding> LogFinding(const std::string& text) {
                  rule->meaning};
 }
 
-// The log may say one thing twice, in a line and in a longer form.
+// The log may contain a fact twice, as a line and in a longer form.
 void AddLogFindings(const std::vector<LoggedEntry>& log, Findings& findings) {
   std::set<std::string> seen;
   for (const LoggedEntry& entry : log) {
@@ -167,7 +167,7 @@ Findings ToolFindings(const Machine& machine, const QueryHeader& header, const Q
   return findings;
 }
 
-// Later queries of one program run no tool.
+// Later queries of one program run no utility.
 Findings AnswerFindings(const QueryResult& result, std::size_t known) {
   const std::size_t answers = CountAnswers(result.runs);
   Findings findings;

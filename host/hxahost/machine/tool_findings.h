@@ -9,14 +9,14 @@
 
 namespace hxahost {
 
-// What is wrong with the collection itself: utilities that could not be run, that hung or whose answers are not whole,
-// and what the plug-in's log says of it.
+// Findings about the collection itself: utilities that could not be run, that hung or whose answers are incomplete,
+// and entries of the plug-in's log.
 Findings ToolFindings(const Machine& machine, const QueryHeader& header, const QueryResult& result);
 
-// The utilities that are not installed although others are, and that nobody expects.
+// The utilities that are not installed and not expected, while others are installed.
 std::vector<std::string_view> OptionalTools(const Expectations& expectations, const ToolRunList& runs);
 
-// Whether as many controllers are known, published or not, as described themselves to the utilities.
+// Compares the number of known controllers, published or not, with the number that answered the utilities.
 Findings AnswerFindings(const QueryResult& result, std::size_t known);
 
 }  // namespace hxahost
