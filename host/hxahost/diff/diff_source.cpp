@@ -19,8 +19,8 @@ namespace {
 
 constexpr int kLimitSeconds = 600;
 
-// Plug-ins collect once in a process, so each bundle is replayed by a process of its own. Its result goes through a
-// file: what a program that is run may print is bounded.
+// A plug-in collects once in a process, so each bundle is replayed by a process of its own. Its result goes through a
+// file, because the output of a child process is limited.
 std::string QueryThatReplays(const std::filesystem::path& bundle, std::uint64_t largest) {
   const PrivateFolder folder;
   const std::filesystem::path output = folder.Path() / "result.json";
@@ -29,7 +29,7 @@ std::string QueryThatReplays(const std::filesystem::path& bundle, std::uint64_t 
       {"query", "--format", "json", "--runs", "--replay", Utf8FromPath(bundle), "--input-limit",
        std::to_string(largest >> 20U), "--output", Utf8FromPath(output)},
       kLimitSeconds);
-  // Without a controller there is a result, too; a line says then why nothing was found.
+  // A query that finds no controller writes a result, too, and a line with the reason.
   if (result.exitStatus == 0 || result.exitStatus == static_cast<int>(ExitStatus::kNothingFound)) {
     return ReadInputFile(output, "a result", std::numeric_limits<std::uint64_t>::max());
   }
@@ -43,7 +43,7 @@ JsonResult ReadResultOrBundle(const std::filesystem::path& file, std::uint64_t l
   const std::string name = Utf8FromPath(file);
   const std::string text = ReadInputFile(file, "a result or a bundle", largest);
   if (!LooksLikeBundle(text)) return ParseJsonResult(text, name);
-  ReadNamedBundle(text, name);  // what is wrong with it is said here, in one line
+  ReadNamedBundle(text, name);  // reports an error in the bundle here, in one line
   return ParseJsonResult(QueryThatReplays(file, largest), name);
 }
 

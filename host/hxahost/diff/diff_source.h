@@ -8,8 +8,8 @@
 
 namespace hxahost {
 
-// A result to be compared: what a file of JSON holds, or what a query gives that replays a bundle. Throws ProgramError
-// (wrong arguments) where the file is neither, or has more bytes than the largest.
+// Reads a result to be compared: the contents of a JSON file, or the result of a query that replays a bundle. Throws
+// ProgramError (wrong arguments) if the file is neither, or is larger than the largest.
 JsonResult ReadResultOrBundle(const std::filesystem::path& file, std::uint64_t largest = kLargestInput);
 
 }  // namespace hxahost

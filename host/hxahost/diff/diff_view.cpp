@@ -33,7 +33,7 @@ std::string QuotedValue(const Json& value) {
   return fmt::format("\"{}\"", EscapeControls(value.is_string() ? value.get<std::string>() : value.dump()));
 }
 
-// What an object is called, and what it is called now.
+// The name of an object, and its name now.
 std::string SubjectOf(const Change& change, bool isVerbose) {
   const bool hasName = !isVerbose && !change.named.name.empty();
   const std::string subject = hasName ? change.named.name : Printable(change.path);
@@ -55,7 +55,7 @@ std::string SerialText(const Json& value) { return value.is_string() ? Printable
 
 using Changes = std::vector<const Change*>;
 
-// The times of collection are always others: how many says enough.
+// Times of collection always differ, so only their number is written.
 void WriteChanges(std::ostream& out, const Changes& changes, bool isVerbose) {
   for (auto first = changes.begin(); first != changes.end();) {
     const ChangeGroup group = (*first)->group;
@@ -66,8 +66,8 @@ void WriteChanges(std::ostream& out, const Changes& changes, bool isVerbose) {
   }
 }
 
-// Takes out of the changes what a disk that was replaced says, and gives a line for each. One utility's disks are known
-// by their place, so another disk there changes its properties; those of the others disappear and appear.
+// Removes the changes that a replaced disk causes, and returns a line for each disk. One utility identifies disks by
+// their place, so another disk there changes its properties; disks of the others disappear and appear.
 std::vector<std::string> TakeReplacedDisks(Changes& changes) {
   std::vector<std::string> lines;
   std::set<const Change*> taken;
@@ -75,7 +75,7 @@ std::vector<std::string> TakeReplacedDisks(Changes& changes) {
     lines.push_back(fmt::format("{}: disk replaced, {} -> {}", SubjectOf(change, false), before, after));
   };
   std::map<std::string, const Change*> gone;
-  std::set<std::string> places;  // of disks that are known by their place
+  std::set<std::string> places;  // of disks that are identified by their place
   for (const Change* const change : changes) {
     if (change->className != kDiskDriveClass || change->named.name.empty()) continue;
     const std::string& serial = change->named.serialNumber;
@@ -100,7 +100,7 @@ std::vector<std::string> TakeReplacedDisks(Changes& changes) {
   return lines;
 }
 
-// What follows from other changes.
+// Whether the change only follows from other changes.
 bool IsDetail(const Change& change) {
   return change.group == ChangeGroup::kLink || change.className == kDiskVersionClass;
 }

@@ -9,12 +9,12 @@ namespace hxahost {
 
 // The two files that are compared.
 struct ComparedFile {
-  std::string name;  // as it was given
+  std::string name;  // as it was passed
   std::string machine;
 };
 
-// For people: what is worst first, and objects as people call them. With isVerbose every change is shown, with the path
-// of its object.
+// For people: the worst change first, objects with the names that people use. With isVerbose every change is shown,
+// with the path of its object.
 void WriteDiffText(std::ostream& out, const ComparedFile& before, const ComparedFile& after, const ResultDiff& diff,
                    bool isVerbose);
 

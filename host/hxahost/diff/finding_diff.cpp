@@ -23,14 +23,14 @@ void AddClasses(std::vector<std::string>& classes, const JsonResult& result) {
   }
 }
 
-// Finding::instance is the place in the result. A result does not tell what was asked for: classes that one of the two
-// has were asked for in both.
+// Finding::instance is the place in the result. A result does not contain the queried classes: a class that one of the
+// two has counts as queried in both.
 Findings FindingsOf(const JsonResult& result, const std::vector<std::string>& classes, bool withRuns) {
   const JsonInstances made = MakeInstances(result, HealthClasses());
   QueryHeader header;
   header.classes = classes;
   QueryResult query;
-  query.number = withRuns ? 1 : 2;  // of a query that is not the first nobody wonders why no tool was run
+  query.number = withRuns ? 1 : 2;  // only the first query reports that no tool was run
   query.instances = made.instances;
   query.log = result.log;
   if (withRuns) query.runs = *result.runs;
@@ -41,10 +41,10 @@ Findings FindingsOf(const JsonResult& result, const std::vector<std::string>& cl
   return findings;
 }
 
-// What makes a finding of one result the same as one of the other: the object and the property; where there is no
-// object, what is said to be wrong.
+// Findings of two results are the same if these agree: the object and the property; without an object, the fault that
+// is reported.
 struct FindingIdentity {
-  const ResultInstance* instance = nullptr;  // of the old result, where both have it
+  const ResultInstance* instance = nullptr;  // of the old result, if both have it
   std::string subject;
   std::string property;
   std::string text;
@@ -67,8 +67,8 @@ bool IsSameFinding(const Finding& left, const Finding& right) {
   return left.severity == right.severity && left.text == right.text && left.meaning == right.meaning;
 }
 
-// What is there comes before what is gone.
-bool StandsBefore(const FindingChange& left, const FindingChange& right) {
+// New and changed findings come before those that are gone.
+bool IsBefore(const FindingChange& left, const FindingChange& right) {
   if (left.after.has_value() != right.after.has_value()) return left.after.has_value();
   return left.after ? IsWorse(left.after->severity, right.after->severity)
                     : IsWorse(left.before->severity, right.before->severity);
@@ -102,7 +102,7 @@ std::vector<FindingChange> CompareFindings(const JsonResult& before, const JsonR
   for (auto& [identity, findings] : gone) {
     for (Finding& finding : findings) changes.push_back({std::move(finding), std::nullopt});
   }
-  std::ranges::stable_sort(changes, StandsBefore);
+  std::ranges::stable_sort(changes, IsBefore);
   return changes;
 }
 

@@ -3,20 +3,20 @@
 #include <optional>
 #include <vector>
 
+#include "host/hxahost/diff/result_matching.h"
 #include "host/hxahost/machine/finding.h"
 #include "host/hxahost/result/json_result.h"
-#include "host/hxahost/diff/result_matching.h"
 
-// What the rules of health find in one of two results and not, or otherwise, in the other.
+// Differences between the findings of two results.
 namespace hxahost {
 
 struct FindingChange {
-  std::optional<Finding> before;  // nothing: it appeared
-  std::optional<Finding> after;   // nothing: it is gone
+  std::optional<Finding> before;  // empty: it appeared
+  std::optional<Finding> after;   // empty: it is gone
 };
 
-// By how bad it is now, the worst first; what is gone comes last. How the runs of the tools went is compared where both
-// results tell it.
+// By their severity now, the worst first; findings that are gone come last. Runs of the tools are compared only if both
+// results contain them.
 std::vector<FindingChange> CompareFindings(const JsonResult& before, const JsonResult& after,
                                            const MatchedInstances& matched);
 

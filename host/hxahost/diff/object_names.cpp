@@ -25,7 +25,7 @@ struct NamePart {
   std::string_view property;
 };
 
-// What a record is called after its controller.
+// The name of a record after its controller.
 struct RecordNaming {
   std::string_view className;
   NamePart parts[3];

@@ -22,7 +22,7 @@ static_assert(std::size(kGroupWords) == static_cast<std::size_t>(ChangeGroup::kT
 constexpr std::string_view kKindWords[] = {"disappeared", "appeared", "changed"};
 static_assert(std::size(kKindWords) == static_cast<std::size_t>(ChangeKind::kChanged) + 1);
 
-// Whether something is in order.
+// Properties that show whether an object is in order.
 constexpr std::string_view kStateProperties[] = {
     "ControllerStatus",
     "ControllerBatteryStatus",
@@ -60,7 +60,7 @@ std::optional<long> NumberOf(const Json& value) {
   return number;
 }
 
-// A count that is smaller than it was has been reset, or belongs to another device.
+// A count that decreased has been reset, or belongs to another device.
 bool HasGrown(const Json& before, const Json& after) {
   const auto from = NumberOf(before);
   const auto to = NumberOf(after);
@@ -97,7 +97,7 @@ ObjectName NameIn(const ObjectNames& names, const ResultInstance& instance) {
   return named == names.end() ? ObjectName() : named->second;
 }
 
-// What a link names is compared where it is published; its own two properties change with the paths alone.
+// The objects of a link are compared themselves; its own two properties change only with the paths.
 void AddProperties(std::vector<Change>& changes, const ResultInstance& old, const ResultInstance& now) {
   if (IsLink(old) && IsLink(now)) return;
   for (const std::string& name : PropertyNames(old, now)) {
@@ -114,9 +114,9 @@ Change ObjectChange(const ResultInstance& instance, ChangeGroup usual, ChangeKin
   return {ObjectGroup(instance, usual), kind, instance.className, instance.path, "", "", {}, {}};
 }
 
-using Lines = std::map<std::string, long>;  // how often each is there
+using Lines = std::map<std::string, long>;  // how often each occurs
 
-// The lines of each command's text, added to what is there.
+// Counts the lines of each command's text.
 void CountRawLines(std::map<std::string, Lines>& texts, const JsonResult& result, long times) {
   for (const ResultInstance& instance : result.instances) {
     if (!IsRawText(instance)) continue;

@@ -11,7 +11,7 @@
 #include "host/hxahost/diff/object_names.h"
 #include "host/hxahost/result/json_result.h"
 
-// What is different between two results, the worst first.
+// The differences between two results, the worst first.
 namespace hxahost {
 
 enum class ChangeGroup {
@@ -19,10 +19,10 @@ enum class ChangeGroup {
   kState,
   kAppeared,
   kProperty,
-  kLogRecord,  // one came or went
-  kLink,       // a link came or went
-  kCounter,    // a count that only grows has grown
-  kTime,       // a time of collection; makes no difference
+  kLogRecord,  // a record appeared or disappeared
+  kLink,       // a link appeared or disappeared
+  kCounter,    // a count that never decreases has grown
+  kTime,       // a time of collection; not a difference
 };
 
 // "disappeared", "state", ...: programs rely on the words.
@@ -35,13 +35,13 @@ struct Change {
   ChangeGroup group = ChangeGroup::kProperty;
   ChangeKind kind = ChangeKind::kChanged;
   std::string className;
-  std::string path;     // in the old result, where it was there
-  std::string newPath;  // where it is another
+  std::string path;     // in the old result, if it is there
+  std::string newPath;  // if it is different
   std::string property;
   nlohmann::ordered_json before;  // null: not there
   nlohmann::ordered_json after;
-  ObjectName named = {};     // in the old result, where it was there
-  std::string newName = {};  // where it is another
+  ObjectName named = {};     // in the old result, if it is there
+  std::string newName = {};  // if it is different
 };
 
 // A command whose raw text is different.
@@ -60,7 +60,7 @@ struct ResultDiff {
 
 ResultDiff CompareResults(const JsonResult& before, const JsonResult& after);
 
-// Whether nothing but times of collection is different.
+// Whether the results are equal except for times of collection.
 bool IsSame(const ResultDiff& diff);
 
 }  // namespace hxahost

@@ -19,9 +19,9 @@ namespace hxahost {
 namespace {
 
 using Instances = std::vector<const ResultInstance*>;
-using Key = std::function<std::string(const ResultInstance&)>;  // "" for none
+using Key = std::function<std::string(const ResultInstance&)>;  // "" if there is none
 
-// The properties that tell an object from others of its class wherever it is found. The first must be there.
+// The properties that identify an object of its class wherever it is found. The first must not be empty.
 struct InstanceIdentity {
   std::string_view className;
   std::string_view properties[3];
@@ -39,7 +39,7 @@ constexpr InstanceIdentity kIdentities[] = {
 
 constexpr std::string_view kLinkProperties[] = {"Antecedent", "Dependent", "ManagedElement", "Stats"};
 
-// The parts of a key are separated by a character that no path has.
+// Separates the parts of a key; no path contains it.
 constexpr char kApart = '\x1f';
 
 std::string IdentityKey(const ResultInstance& instance) {
@@ -61,7 +61,7 @@ std::unordered_map<std::string, std::deque<const ResultInstance*>> ByKey(const I
   return found;
 }
 
-// Moves what has the same key from the two rests to the pairs.
+// Moves instances with equal keys from the two rests to the pairs.
 void Match(MatchedInstances& matched, const Key& oldKey, const Key& newKey, bool isUniqueOnly) {
   auto oldByKey = ByKey(matched.onlyOld, oldKey);
   auto newByKey = ByKey(matched.onlyNew, newKey);
@@ -80,11 +80,11 @@ void Match(MatchedInstances& matched, const Key& oldKey, const Key& newKey, bool
   std::erase_if(matched.onlyNew, isTaken);
 }
 
-// A key that tells an object from the others of its machine. The machine counts for nothing, as it may be renamed.
+// A key that identifies an object within its machine. The machine itself is left out, as it may be renamed.
 bool IsOwnKey(const PropertyDeclaration& declared) { return declared.isKey && !declared.name.starts_with("System"); }
 
-// Names an object by its class and its own keys, as they were published: earlier versions made paths of other keys.
-// Gives the path of a link, and where a key was not published.
+// Identifies an object by its class and its own keys, as they were published: earlier versions made paths of other
+// keys. Returns the path for a link, and if a key was not published.
 std::string ObjectKey(const ResultInstance& instance) {
   const ClassDeclaration* const declaration = FindClass(instance.className);
   if (declaration == nullptr || declaration->isAssociation) return instance.path;

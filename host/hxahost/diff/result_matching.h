@@ -8,7 +8,7 @@
 
 namespace hxahost {
 
-// Which instance of one result is which of another.
+// Pairs the instances of one result with the same objects in another.
 struct MatchedInstances {
   std::vector<std::pair<const ResultInstance*, const ResultInstance*>> pairs;  // old and new, in the old order
   std::vector<const ResultInstance*> onlyOld;
@@ -17,13 +17,13 @@ struct MatchedInstances {
 
 bool IsRawText(const ResultInstance& instance);
 
-// A link between two instances: it has no other properties than the two.
+// A link between two instances: it has only the two properties that name them.
 bool IsLink(const ResultInstance& instance);
 
-// By class and keys first, the several of the same keys in their order. What is left is the same object where class and
-// identity (serial numbers, names) agree and are the only ones on both sides: keys hold controller numbers and
-// versions, which change when a controller is added or updated. Links follow what they link. The results must outlive
-// this; raw texts are left out.
+// Pairs by class and keys first; instances with equal keys are paired in their order. Of the others, two are the same
+// object if class and identity (serial numbers, names) agree and are unique on both sides: keys contain controller
+// numbers and versions, which change when a controller is added or updated. Links follow the objects that they link.
+// The results must outlive this; raw texts are left out.
 MatchedInstances MatchInstances(const JsonResult& before, const JsonResult& after);
 
 }  // namespace hxahost

@@ -99,7 +99,7 @@ std::vector<MovedDisk> Fleet::MovedDisks() const {
   std::vector<MovedDisk> moved;
   for (const auto& [serialNumber, before] : seenBefore_) {
     const auto now = sightings.find(serialNumber);
-    if (now == sightings.end() || now->second.size() != 1) continue;  // gone, or nobody knows which it is
+    if (now == sightings.end() || now->second.size() != 1) continue;  // gone, or ambiguous
     const Sighting& to = now->second.front();
     const Sighting* from = nullptr;
     for (const Sighting& each : before) {

@@ -10,10 +10,10 @@
 
 #include "host/hxahost/fleet/fleet_machine.h"
 
-// Many machines together, and what shows only there. Texts are printable.
+// Many machines together, and the facts that only their comparison shows. Texts are printable.
 namespace hxahost {
 
-// A file, or a part of one, that holds no result.
+// A file, or a part of one, that does not contain a result.
 struct DamagedFile {
   std::string file;
   std::string reason;
@@ -68,25 +68,25 @@ class Fleet {
  public:
   explicit Fleet(const FleetOptions& options) : options_(options) {}
 
-  // Of several results of a machine the newest counts; of those of one time the first.
+  // The newest of several results of a machine counts; of those with the same time, the first.
   void Add(FleetMachine machine);
   void Add(DamagedFile file) { damaged_.push_back(std::move(file)); }
 
   const FleetOptions& Options() const { return options_; }
   const std::vector<DamagedFile>& Damaged() const { return damaged_; }
 
-  // The worst first, of those the stale ones, then by name.
+  // The worst first, among equally bad ones stale ones first, then by name.
   std::vector<const FleetMachine*> Machines() const;
 
-  // Those that have most failed disks first.
+  // The models with the most failed disks first.
   std::vector<DiskModel> DiskModels() const;
   std::vector<ControllerModel> ControllerModels() const;
   std::vector<SharedSerialNumber> SharedSerialNumbers() const;
   std::vector<MovedDisk> MovedDisks() const;
 
-  // How long ago the machine was collected from, in seconds; nothing where it does not say.
+  // Seconds since the collection from the machine; empty if the result contains no time.
   std::optional<std::int64_t> AgeOf(const FleetMachine& machine) const;
-  // It is older than it may be, or does not say how old it is.
+  // Whether the result is older than permitted, or contains no time.
   bool IsStale(const FleetMachine& machine) const;
 
  private:

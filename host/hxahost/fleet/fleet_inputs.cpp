@@ -23,7 +23,7 @@ bool IsResultName(const fs::path& file) {
   return std::ranges::count(kExtensions, Lower(Utf8FromPath(file.extension()))) > 0;
 }
 
-// What cannot be looked into has nothing.
+// A folder that cannot be read counts as empty.
 std::vector<fs::path> FilesIn(const fs::path& folder) {
   std::vector<fs::path> files;
   std::error_code failure;
@@ -37,7 +37,7 @@ std::vector<fs::path> FilesIn(const fs::path& folder) {
 }
 
 bool HoldsLines(const fs::path& file) {
-  if (!fs::is_regular_file(file)) return false;  // to open it may take for ever
+  if (!fs::is_regular_file(file)) return false;  // opening a pipe may block for ever
   std::ifstream stream(file, std::ios::binary);
   std::string line;
   return std::getline(stream, line) && IsInstanceLine(line);

@@ -12,21 +12,21 @@
 
 namespace hxahost {
 
-// What holds one collection.
+// The source of one collection.
 struct FleetInput {
-  std::string name;                      // as messages call it: the file, UTF-8
+  std::string name;                      // for messages: the file, UTF-8
   std::filesystem::path file;            // a JSON result or a bundle
-  std::optional<CollectionLines> lines;  // those of the file that are the collection, where it holds JSON lines
+  std::optional<CollectionLines> lines;  // the lines of the collection, if the file contains JSON lines
 };
 
-// The collections in files and folders, in the order of the names. Of a folder, and those in it, what ends in .json,
-// .jsonl or .bundle counts.
+// The collections in files and folders, in the order of the names. In a folder and its subfolders, only files that end
+// in .json, .jsonl or .bundle are read.
 class FleetInputs {
  public:
-  // Throws ProgramError (wrong arguments) for a path that is not there.
+  // Throws ProgramError (wrong arguments) for a path that does not exist.
   explicit FleetInputs(const std::vector<std::filesystem::path>& paths);
 
-  // Nothing after the last one.
+  // Empty after the last one.
   std::optional<FleetInput> Next();
 
   std::size_t FileCount() const { return files_.size(); }
@@ -40,8 +40,8 @@ class FleetInputs {
   std::optional<CollectionReader> reader_;
 };
 
-// The result that the input holds. A bundle is replayed by a process of its own. Throws ProgramError for what holds
-// none.
+// Reads the result of the input. A bundle is replayed by a process of its own. Throws ProgramError if it does not
+// contain a result.
 JsonResult ReadFleetInput(const FleetInput& input);
 
 }  // namespace hxahost

@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// What WriteFleetJson writes.
+// The JSON that WriteFleetJson writes.
 nlohmann::ordered_json FleetJson(const FleetView& view);
 
 }  // namespace hxahost

@@ -9,7 +9,7 @@
 #include "host/hxahost/fleet/judged_result.h"
 #include "host/hxahost/machine/machine.h"
 
-// What the whole fleet needs to know of one machine. Texts are printable.
+// The part of one machine's result that the whole fleet needs. Texts are printable.
 namespace hxahost {
 
 struct FleetController {
@@ -24,19 +24,19 @@ struct FleetDisk {
   std::string serialNumber;
   std::string place;  // "C4 enclosure 0, slot 8"
   bool isFailed = false;
-  bool isPredicted = false;  // its failure is, and it has not failed yet
+  bool isPredicted = false;  // a failure is predicted, and it has not failed yet
 };
 
 struct FleetMachine {
   std::string name;
-  std::string time;                     // of the collection, in the CIM form; "" where the result does not say
+  std::string time;                     // of the collection, in the CIM form; "" if the result contains none
   std::optional<std::int64_t> seconds;  // the same, since 1970
   std::string source;                   // the file
   Severity state = Severity::kUnknown;
   std::size_t logicalDrives = 0;
   std::vector<FleetController> controllers;
   std::vector<FleetDisk> disks;
-  Machine machine = {};  // where there are incidents, for what shows them; else empty
+  Machine machine = {};  // for the report, if there are incidents; else empty
 };
 
 FleetMachine Summarize(const JudgedResult& judged);

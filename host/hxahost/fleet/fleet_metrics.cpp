@@ -10,7 +10,7 @@ namespace hxahost {
 
 namespace {
 
-// The labels with the machine before them.
+// The labels, preceded by the machine.
 Labels OfMachine(const FleetMachine& machine, Labels labels) {
   labels.insert(labels.begin(), {"machine", machine.name});
   return labels;

@@ -16,13 +16,13 @@ namespace hxahost {
 
 namespace {
 
-// The report of the machine, where there is one.
+// A link to the report of the machine, if there is one.
 std::string LinkTo(const FleetView& view, const FleetMachine& machine) {
   const auto page = view.pages.find(machine.name);
   return page == view.pages.end() ? "#machines" : HtmlText(page->second);
 }
 
-// All machines at a glance; those that are not fine say their names.
+// All machines at a glance; those that are not fine show their names.
 void WriteMachines(std::ostream& out, const FleetView& view) {
   out << "<h3 class=\"unseen\">All machines</h3>\n<div class=\"units\"><ul class=\"disks\">\n";
   for (const FleetMachine* const machine : view.fleet.Machines()) {

@@ -25,7 +25,7 @@ namespace {
 
 constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
 
-// Letters, digits and hyphens: a name on every system, and in a link.
+// Only letters, digits and hyphens: a valid name on every system, and in a link.
 std::string PlainName(const std::string& name) {
   std::string plain = name;
   for (char& character : plain) {
@@ -72,7 +72,7 @@ void WritePages(FleetInputs& inputs, const Limits& limits, const Fleet& fleet, c
     try {
       read = ReadFleetInput(input);
     } catch (const ProgramError&) {
-      return false;  // a damaged file, which the fleet has
+      return false;  // a damaged file, which the fleet lists already
     }
     const auto machine = newest.find(Printable(read.machine));
     const bool isShown = machine != newest.end() && machine->second->time == read.time &&

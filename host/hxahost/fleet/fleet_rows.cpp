@@ -26,7 +26,7 @@ struct Row {
   std::string machine;
   std::string time;
   std::string kind;
-  std::string path;  // what programs recognise it by
+  std::string path;  // programs recognise the object by it
   std::string level;
   std::string controller;
   std::string name;
@@ -50,7 +50,7 @@ struct Column {
   std::string Row::*text;
 };
 
-// The first four are keys of a JSON line, the others its properties.
+// The first four are keys of a JSON line, the others are its properties.
 constexpr std::size_t kKeys = 4;
 constexpr Column kColumns[] = {
     {"machine",      &Row::machine     },
@@ -179,7 +179,7 @@ void WriteCsv(std::ostream& out, const Row& row) {
   WriteCsvCells(out, cells);
 }
 
-// What is empty is left out of the properties.
+// Empty values are left out of the properties.
 void WriteJson(std::ostream& out, const Row& row) {
   Json line;
   Json properties = Json::object();
@@ -221,7 +221,7 @@ void WriteJsonRows(std::ostream& out, const JudgedResult& judged) {
   if (judged.read.isReplayed) begin["replayed"] = true;
   if (judged.read.isMasked) begin["masked"] = true;
   for (const ResultInstance& instance : judged.read.instances) {
-    if (std::ranges::count(kKinds, instance.className) > 0) continue;  // rows that were written before
+    if (std::ranges::count(kKinds, instance.className) > 0) continue;  // already written as rows
     Json line = begin;
     line["class"] = instance.className;
     line["path"] = instance.path;

@@ -5,7 +5,7 @@
 #include "host/hxahost/fleet/fleet.h"
 #include "host/hxahost/fleet/judged_result.h"
 
-// One result, or one damaged file, as lines for programs. Nothing is kept from one to the next.
+// One result, or one damaged file, as lines for programs. Nothing is kept between results.
 namespace hxahost {
 
 // A row for the machine, each incident, controller, logical drive and disk, with the same columns (RFC 4180).

@@ -17,7 +17,7 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::size_t kMostFine = 20;  // machines with nothing wrong that are shown unless all are wanted
+constexpr std::size_t kMostFine = 20;  // machines with nothing wrong that are shown without --all
 constexpr std::size_t kMostNames = 5;  // of machines in a cell
 
 void WriteTitled(std::ostream& out, const FleetView& view, const std::string& title, const Table& table) {
@@ -139,7 +139,7 @@ Table SharedTable(const Fleet& fleet) {
   return table;
 }
 
-// A row for where it was, and one for where it is.
+// A row for the old place, and one for the new.
 Table MovedTable(const Fleet& fleet) {
   Table table;
   table.columns = {

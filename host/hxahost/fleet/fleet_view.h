@@ -19,7 +19,7 @@ struct FleetView {
   std::map<std::string, std::string> pages = {};  // links to the reports, by machine
 };
 
-// For people: the machines, the worst first, their incidents, and what only a fleet shows.
+// For people: the machines, the worst first, their incidents, and the facts that only their comparison shows.
 void WriteFleetTable(std::ostream& out, const FleetView& view);
 
 // For programs, format 1. Keys may be added, nothing else may change.
@@ -31,13 +31,13 @@ void WriteFleetMetrics(std::ostream& out, const FleetView& view);
 // A page for browsers.
 void WriteFleetPage(std::ostream& out, const FleetView& view);
 
-// The worst state of all machines; not known where there is none, or where otherwise fine ones are stale or damaged.
+// The worst state of all machines; unknown without machines, or if otherwise fine ones are stale or files are damaged.
 Severity WorstOf(const Fleet& fleet);
 
 // "200 machines: 3 critical, 1 stale; 1 damaged file"
 std::string VerdictText(const Fleet& fleet);
 
-// "3 d" of an age in seconds; "?" where it is not known.
+// "3 d" for an age in seconds; "?" if it is not known.
 std::string AgeText(const std::optional<std::int64_t>& seconds);
 
 }  // namespace hxahost

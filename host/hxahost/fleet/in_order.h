@@ -8,9 +8,9 @@
 
 namespace hxahost {
 
-// Takes items from next (which ends with an empty optional), works on so many of them at a time, each on a thread of
-// its own, and gives what comes of them to take in the order of the items. Not more than so many results are held. What
-// is thrown passes on.
+// Takes items from next (which ends with an empty optional), works on at most atATime of them at once, each on a thread
+// of its own, and passes the results to take in the order of the items. Holds at most atATime results. Exceptions are
+// passed on.
 template <class Next, class Work, class Take>
 void InOrder(std::size_t atATime, Next next, Work work, Take take) {
   std::deque<std::future<std::invoke_result_t<Work, decltype(*next())>>> running;

@@ -29,7 +29,7 @@ JudgedResult JudgeResult(std::string source, JsonResult read, const Limits& limi
   for (const std::string_view each : classes) {
     if (isWhole || HasClass(judged.read, each)) judged.header.classes.emplace_back(each);
   }
-  // Of a query that is not the first nobody wonders why no tool was run.
+  // Only the first query reports that no tool was run.
   judged.result.number = judged.read.runs ? 1 : 2;
   judged.result.instances = MakeInstances(judged.read, classes).instances;
   judged.result.log = judged.read.log;

@@ -10,7 +10,7 @@
 
 namespace hxahost {
 
-// A result that was read back, with what the rules make of it.
+// A result that was read from a file, with the findings and incidents of the rules.
 struct JudgedResult {
   std::string source;  // the file
   JsonResult read;
@@ -19,12 +19,12 @@ struct JudgedResult {
   Machine machine;
 };
 
-// Judges the instances of the classes. A result does not say what was asked for: where it has raw texts all of it was,
-// else the classes that it has.
+// Judges the instances of the classes. A result does not contain the queried classes: if it has raw texts, every class
+// was queried; otherwise, the classes that it has.
 JudgedResult JudgeResult(std::string source, JsonResult read, const Limits& limits,
                          std::span<const std::string_view> classes);
 
-// The worst of the findings; where nothing was found at all, not known.
+// The worst severity of the findings; unknown if no object was found at all.
 Severity StateOf(const Machine& machine);
 
 }  // namespace hxahost

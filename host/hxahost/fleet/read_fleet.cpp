@@ -14,7 +14,7 @@ namespace hxahost {
 
 namespace {
 
-// What came of one input: one of the two, or, where rows are written, their text.
+// The outcome of one input: a machine or a damaged file; if rows are written, only their text.
 struct Read {
   std::optional<FleetMachine> machine;
   std::optional<DamagedFile> damaged;

@@ -11,17 +11,17 @@
 
 namespace hxahost {
 
-// How many inputs are read at a time.
+// The number of inputs that are read at a time.
 std::size_t Processors();
 
-// What a format writes of each result as it comes; empty where the whole alone counts.
+// Write the rows of each result as soon as it is read; empty for formats that need the whole fleet.
 struct RowWriters {
   void (*result)(std::ostream& out, const JudgedResult& judged) = nullptr;
   void (*damaged)(std::ostream& out, const DamagedFile& file) = nullptr;
 };
 
-// Reads all inputs, one at a time on each processor. Their rows go to out in the order of the inputs; without rows,
-// what the whole needs goes to the fleet. Gives how many results there were. begin is called with each input, on this
+// Reads all inputs, one at a time on each processor. Their rows go to out in the order of the inputs; without rows, the
+// facts about each machine go to the fleet. Returns the number of results. begin is called with each input, on this
 // thread.
 std::size_t ReadFleet(FleetInputs& inputs, const Limits& limits, const RowWriters& rows, std::ostream& out,
                       Fleet& fleet, const std::function<void(const std::string& name)>& begin);

@@ -35,7 +35,7 @@ constexpr RowClass kRowClasses[] = {
     {"KVRSG_LogRecord_RAIDMgrEvent", {},                        "",              kManagerEvents, false},
 };
 
-// "   Logical drive 2 - 3" names its first column; what else a row says is between bars, tabs or labels.
+// "   Logical drive 2 - 3" names its first column; bars, tabs or labels separate the other values of a row.
 std::vector<std::string> RowValues(const std::vector<std::string>& lines, const RawValues& row) {
   const std::string& line = lines[row.firstLine];
   const std::string_view label = kBadStripeLabels[0].label;
@@ -54,7 +54,7 @@ std::string KeyOf(const std::vector<std::string>& values) {
   return key;
 }
 
-// The rows of a text by what they say; rows that say the same are in the order of the text.
+// The rows of a text by their values; rows with equal values are in the order of the text.
 class RowIndex {
  public:
   explicit RowIndex(const std::vector<std::string>& lines) {
@@ -78,10 +78,10 @@ class RowIndex {
   std::unordered_map<std::string, std::vector<std::size_t>> rows_;
 };
 
-// Hands out the blocks of a text, each once: two devices under one number are in the order of the text.
+// Returns each block of a text once: two devices with one number are in the order of the text.
 class BlockList {
  public:
-  // More channels than a controller has: texts in which nothing fits cost no more than others.
+  // More channels than a controller has. It limits the time for texts in which nothing matches.
   static constexpr std::size_t kMostTried = 64;
 
   explicit BlockList(const std::vector<TextBlock>& blocks) {
@@ -110,7 +110,7 @@ bool IsAbout(const ToolText& text, const Controller& controller) {
          (controller.tool.empty() || controller.tool == text.tool->tool.name);
 }
 
-// "Device #4" of one tool is "4" of another; the third names a device by its place alone.
+// "Device #4" of one tool is "4" of another; the third identifies a device only by its place.
 std::string NumberOf(const TPublishedInstance& device) {
   const std::string number = RawText(device, "DeviceNumber");
   return number.empty() ? RawText(device, "ScsiId") : number.substr(number.rfind('#') + 1);
@@ -137,7 +137,7 @@ class PlaceFinder {
     }
   }
 
-  // Of software the number of the controller is all that is published.
+  // Software instances contain only the number of their controller.
   void AddSoftware() {
     for (std::size_t place = 0; place < instances_.size(); ++place) {
       const std::string number = RawText(*instances_[place], "SoftwareElementID");

@@ -9,7 +9,7 @@
 #include "host/hxahost/machine/machine.h"
 #include "host/hxahost/proof/tool_texts.h"
 
-// Which lines of the tools' texts speak of which object.
+// The lines of the tools' texts that describe each object.
 namespace hxahost {
 
 // Lines of one text, [first, end).
@@ -20,19 +20,19 @@ struct Place {
   std::optional<std::size_t> heading = {};
 };
 
-// The lines of each instance, by its place: of drives, groups and devices their own lines, of controllers and their
-// software all texts about the controller, of counters and log records the row (an empty range where none of the rows
-// is theirs). None where there are no such lines. The texts must outlive the result.
+// The lines of each instance, by its place: for drives, groups and devices their own lines; for controllers and their
+// software all texts about the controller; for counters and log records the row (an empty range if no row belongs to
+// them). Empty if there are no such lines. The texts must outlive the result.
 std::vector<std::vector<Place>> FindPlaces(const Machine& machine, const InstanceList& instances,
                                            const std::vector<ToolText>& texts);
 
 // A class whose instances are rows of an answer.
 struct RowClass {
   std::string_view className;
-  ToolCommand command;          // none: the rows are in the log of the RAID manager
-  std::string_view controller;  // the property with its number; "" where the row has the number of the tool itself
+  ToolCommand command;          // empty: the rows are in the log of the RAID manager
+  std::string_view controller;  // the property with its number; "" if the row contains the tool's own number
   std::span<const std::string_view> columns;  // in the order of the row
-  bool isMadeWithoutRows;                     // an answer that lists nothing stands for an instance, too
+  bool isMadeWithoutRows;                     // an answer without rows produces an instance, too
 };
 
 // Null for a class that has no rows.

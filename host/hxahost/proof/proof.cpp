@@ -15,14 +15,14 @@ namespace hxahost {
 
 namespace {
 
-// Lines with a label, and what they say together.
+// Lines with a label, and their value together.
 struct Reading {
   std::vector<std::size_t> lines;
   std::string value;  // with single blanks
   bool isEqual = false;
 };
 
-// A value with single blanks, and whether it may begin with more than the line says.
+// A value with single blanks, and whether it may begin with more text than the line contains.
 struct Sought {
   std::string value;
   bool isIdentifier = false;
@@ -40,8 +40,8 @@ std::optional<std::size_t> FindLine(const Place& place, std::string_view part, s
   return std::nullopt;
 }
 
-// The line that the parsers read: the first with the label, in the section where the label belongs to one. Some words
-// alone need no colon before them.
+// The line that the parsers read: the first with the label, within the section if the label belongs to one. Labels that
+// are whole words need no colon after them.
 std::optional<std::size_t> LineOf(const Place& place, const LabelSource& source) {
   if (source.answers->extent == Extent::kHeading) return place.heading;
   const auto& [start, end] = source.answers->section;
@@ -51,7 +51,7 @@ std::optional<std::size_t> LineOf(const Place& place, const LabelSource& source)
   return line && !end.empty() && !FindLine(place, end, *line) ? std::nullopt : line;
 }
 
-// What follows the colon; a line without one says the label, too: "Device #8".
+// The text after the colon; without a colon, the text that begins with the label: "Device #8".
 std::string ValueOn(const std::string& line, std::string_view label) {
   const std::string_view rest = std::string_view(line).substr(std::min(line.find(label), line.size()));
   const std::size_t colon = rest.find(':');
@@ -76,7 +76,7 @@ bool Says(const Place& place, const LabelSource& source, const Reading& reading,
   return false;
 }
 
-// A list may go on over the lines below, each of which begins with a digit.
+// A list may continue on the next lines, each of which begins with a digit.
 bool SaysOverLines(const Place& place, Reading& reading, const Sought& sought) {
   Reading longer = reading;
   for (std::size_t next = longer.lines.back() + 1; next < place.end; ++next) {
@@ -104,7 +104,7 @@ std::vector<Reading> ReadAll(const Place& place, const std::vector<LabelSource>&
   return readings;
 }
 
-// One line, or two of which the second is appended: "Hot Spare" and, below it, what it is assigned to.
+// One line, or two whose values are joined: "Hot Spare" and, below it, the drive that it is assigned to.
 Reading BestOf(const std::vector<Reading>& readings, const Sought& sought) {
   const auto equal = std::ranges::find(readings, true, &Reading::isEqual);
   if (equal != readings.end()) return *equal;
@@ -151,7 +151,7 @@ std::vector<Proof> Proofs::Of(std::size_t instance) {
   return proofs;
 }
 
-// Looks in all places of the instance; lines that say the value win over lines that differ.
+// Searches all places of the instance; lines that contain the value have priority over lines that differ.
 void Proofs::Find(Proof& proof, std::size_t instance, std::string_view className, const std::string& value,
                   bool isKey) {
   const Sought sought{value, isKey};

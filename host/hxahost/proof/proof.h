@@ -11,28 +11,28 @@
 
 namespace hxahost {
 
-// What a value rests on.
+// The source of a value.
 enum class Evidence {
-  kLine,     // lines of a raw text say it
-  kDiffers,  // the lines that it is read from say something else: the tool has answered differently since
+  kLine,     // lines of a raw text contain it
+  kDiffers,  // the lines that it is read from contain another value: the tool has answered differently since
   kNoLine,   // no line of the object's raw text has its label
-  kMade,     // it is composed, counted or fixed, as the origin tells
+  kMade,     // it is composed, counted or fixed; the origin explains it
 };
 
 // Where the value of one property comes from.
 struct Proof {
   std::string_view property;
   Evidence evidence = Evidence::kMade;
-  std::size_t text = 0;                 // the place of the raw text among the instances: of kLine and kDiffers
+  std::size_t text = 0;                 // for kLine and kDiffers: the place of the raw text among the instances
   std::vector<std::size_t> lines = {};  // their places in it
-  std::string_view origin = {};         // in words; "" where the lines say it all
+  std::string_view origin = {};         // in words; "" if the lines explain everything
 };
 
-// Traces values to the raw texts of the same query. A line is looked for as the parsers do, by its label and within the
+// Traces values to the raw texts of the same query. A line is searched as the parsers do, by its label and within the
 // lines of the object: "State : Online" of one disk proves nothing for another.
 class Proofs {
  public:
-  // The instances must outlive it. The classes of raw text must be among those asked for.
+  // The instances must outlive it. The queried classes must include those of raw text.
   Proofs(const Machine& machine, const InstanceList& instances);
   Proofs(const Proofs&) = delete;
   Proofs& operator=(const Proofs&) = delete;

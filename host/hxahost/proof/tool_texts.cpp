@@ -18,16 +18,16 @@ namespace {
 
 constexpr std::string_view kChannelHead = "Channel #";
 
-// A tool may print none of the parts that are looked for.
+// Whether the line contains the part. A tool that never prints the part has "" for it.
 bool Contains(std::string_view line, std::string_view part) { return !part.empty() && line.find(part) != line.npos; }
 
-// What begins the line of a stripe order.
+// The label of a stripe order.
 std::string_view OrderLabel(const KnownTool& tool) {
   const std::vector<LabelSource> sources = LabelsOf(tool, kDiskGroupClass, "StripeOrder");
   return sources.empty() ? std::string_view() : sources.front().label;
 }
 
-// What ends the lines of an object, beside the next one.
+// Whether the line ends the lines of an object, apart from the heading of the next one.
 bool EndsObject(std::string_view line) {
   return Trim(line).empty() || line.find_first_not_of("- \t") == line.npos || Contains(line, kChannelHead) ||
          Contains(line, kCommandCompleted);
@@ -100,7 +100,7 @@ class BlockFinder {
   std::optional<std::size_t> heading_;
 };
 
-// "zenx//arcconf.exe getconfig 1 al"; nothing where another program ran.
+// "zenx//arcconf.exe getconfig 1 al"; empty if another program ran.
 std::optional<ToolText> ReadText(std::size_t place, const TPublishedInstance& instance) {
   const std::string command = RawText(instance, "Command");
   const std::vector<std::string_view> words = Split(command, " ");
@@ -122,7 +122,7 @@ bool DescribesController(const ToolText& text) {
          std::ranges::any_of(text.lines, [](const std::string& line) { return Contains(line, kControllerHeading); });
 }
 
-// Controllers are numbered on from tool to tool.
+// The plug-in numbers controllers consecutively over all tools.
 void NumberOn(std::vector<ToolText>& texts) {
   int before = 0;
   for (const KnownTool& known : kKnownTools) {

@@ -4,7 +4,7 @@
 
 namespace hxahost {
 
-// The classes that the program looks for, by the names that the plug-in publishes them under.
+// The classes that the program reads, by their published names.
 inline constexpr std::string_view kControllerClass = "KVRSG_zxSCSIProtocolController";
 inline constexpr std::string_view kLogicalDiskClass = "KVRSG_zxLogicalDisk";
 inline constexpr std::string_view kDiskGroupClass = "KVRSG_zxDiskGroup";

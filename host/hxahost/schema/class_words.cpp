@@ -20,7 +20,7 @@ struct PlainWord {
   std::string_view className;
 };
 
-// A word may have several rows.
+// A word may have several rows, one for each class.
 constexpr PlainWord kPlainWords[] = {
     {"controllers", kControllerClass              },
     {"drives",      kLogicalDiskClass             },
@@ -73,7 +73,7 @@ std::vector<std::string> ClassesCalled(std::string_view word) {
     if (row.word == sought) names.emplace_back(row.className);
   }
   if (!names.empty()) return names;
-  // Of two with the same short name the plug-in publishes the first.
+  // If two classes have the same short name, the plug-in publishes the first.
   for (const ClassDeclaration& declaration : PublishedClasses()) {
     if (ShortName(declaration.name) == sought) return {std::string(declaration.name)};
   }

@@ -19,11 +19,11 @@ struct FieldOf<std::variant<std::span<const LabelledField<Records>>...>> {
   using Type = std::variant<std::string Records::*...>;
 };
 
-// A field of any record that labels feed.
+// A field, of any record, that is read from labels.
 using AnyField = FieldOf<AnyLabelTable>::Type;
 
-// A property that is published from what a tool prints, and the field that holds it before. A property that tools feed
-// through several fields has a row for each.
+// A published property, and the record field that it is published from. A property that tools provide in several fields
+// has a row for each.
 struct FedProperty {
   std::string_view property;
   AnyField field;
@@ -181,7 +181,7 @@ constexpr FedClass kClasses[] = {
     {"KVRSG_zxBiosVersion",            kBios        },
 };
 
-// Adds the labels of the tables that feed the field.
+// Adds the labels whose values go to the field.
 template <class Record>
 void AddLabels(std::vector<LabelSource>& sources, std::span<const AnswerLabels> answers, std::string Record::*field) {
   for (const AnswerLabels& each : answers) {
@@ -193,7 +193,7 @@ void AddLabels(std::vector<LabelSource>& sources, std::span<const AnswerLabels> 
   }
 }
 
-// Each label once.
+// Each label once, in quotes.
 std::string InQuotes(const std::vector<LabelSource>& sources) {
   std::string quoted;
   for (auto each = sources.begin(); each != sources.end(); ++each) {
@@ -235,7 +235,7 @@ std::vector<std::string> MappingStrings(std::string_view className, const NKVRHX
   for (const KnownTool& known : kKnownTools) {
     for (const LabelSource& source : LabelsOf(known, className, declaration.name)) {
       const std::string mapping = fmt::format("Label.KVRSG|{}|{}", known.tool.name, source.label);
-      if (std::ranges::count(strings, mapping) == 0) strings.push_back(mapping);  // several answers have one label
+      if (std::ranges::count(strings, mapping) == 0) strings.push_back(mapping);  // several answers contain one label
     }
   }
   if (!declaration.origin.empty()) strings.push_back(fmt::format("Words.KVRSG|{}", declaration.origin));

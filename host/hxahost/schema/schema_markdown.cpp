@@ -47,7 +47,7 @@ do not name the machine; their candidates are derived from classes without keys 
 |---|---|---|
 )";
 
-// A bar ends a cell and a < begins markup; nothing else of Markdown is in these texts.
+// A bar ends a cell and a < begins markup; these texts contain no other Markdown.
 std::string CellText(std::string_view text) {
   std::string cell;
   for (const char character : text) {
@@ -96,7 +96,7 @@ void WriteSuperclasses(std::ostream& out, std::span<const ClassDeclaration> clas
   }
 }
 
-// From the end that is set first to the other one.
+// The arrows begin at the reference that is declared first.
 void WriteDrawing(std::ostream& out, std::span<const ClassDeclaration> classes) {
   out << "\n## Associations\n\n```mermaid\nflowchart LR\n";
   for (const ClassDeclaration& declaration : classes) {

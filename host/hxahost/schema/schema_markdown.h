@@ -7,8 +7,8 @@
 
 namespace hxahost {
 
-// The classes as a page of documentation: a drawing of the associations, the superclasses, whether or not they are
-// asked for, then each class with a table of its properties and where they come from.
+// The classes as a document: a drawing of the associations, the superclasses (always, even if withSuperclasses is
+// false), then each class with a table of its properties and their origins.
 void WriteSchemaMarkdown(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes,
                          bool withSuperclasses);
 

@@ -18,7 +18,7 @@ namespace hxahost {
 
 namespace {
 
-// CIM's own, word for word: a compiler that has no schema yet needs them.
+// CIM's own, word for word: a compiler without a schema needs them.
 constexpr std::string_view kQualifiers =
     "// The qualifiers are CIM's own. Leave their declarations out where the namespace has them already.\n"
     "Qualifier Association : boolean = false, Scope(association), Flavor(DisableOverride);\n"

@@ -42,8 +42,8 @@ struct Derivation {
 };
 
 // A class inherits keys and adds none to them. CIM_StatisticalData, CIM_LogRecord and CIM_SoftwareElement have keys
-// that do not name the machine, so what would be of these is derived from the class above them that has no key. The
-// links to statistics have no superclass, as those of the DMTF need CIM_StatisticalData.
+// that do not name the machine, so our statistics, records and versions are derived from their nearest superclass
+// without a key. The links to statistics have no superclass, as those of the DMTF need CIM_StatisticalData.
 constexpr Derivation kDerivations[] = {
     {"KVRSG_zxManagerRawData",                    "CIM_ManagedElement"             },
     {"KVRSG_zxRawData",                           "CIM_ManagedElement"             },

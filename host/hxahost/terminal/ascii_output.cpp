@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view kEllipsis = "\u2026";
 
-// The bytes up to the next character's first.
+// The number of bytes up to the beginning of the next character.
 std::size_t CharacterLength(std::string_view utf8) {
   std::size_t length = 1;
   while (length < utf8.size() && (static_cast<unsigned char>(utf8[length]) & 0xc0U) == 0x80U) ++length;

@@ -7,10 +7,10 @@
 
 namespace hxahost {
 
-// ASCII that takes as many columns: "~" for an ellipsis, "?" for each column of any other character.
+// Converts to ASCII of the same width: "~" for an ellipsis, "?" for each column of any other character.
 std::string ToAscii(std::string_view utf8);
 
-// Hands on what is written to it, line by line, in ASCII.
+// Passes on the text that is written to it, line by line, in ASCII.
 class TAsciiBuffer final : public std::streambuf {
  public:
   explicit TAsciiBuffer(std::ostream& out) : out_(out) {}

@@ -6,7 +6,7 @@ namespace hxahost {
 
 enum class Colour { kRed, kGreen, kYellow, kMagenta };
 
-// The text between the sequences that give it a colour on a terminal.
+// The text, with the escape sequences for a colour on a terminal around it.
 std::string InColour(const std::string& text, Colour colour);
 
 }  // namespace hxahost

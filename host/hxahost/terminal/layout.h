@@ -4,9 +4,9 @@
 
 namespace hxahost {
 
-// What tables are laid out for.
+// The width and colours for which tables are formatted.
 struct Layout {
-  std::size_t width = 100;  // in columns; fits a mail, and a file that is read anywhere
+  std::size_t width = 100;  // in columns; fits a mail, and a file for any reader
   bool hasColours = false;
 };
 

@@ -9,7 +9,7 @@
 
 namespace hxahost {
 
-// One line on a terminal that says what is running and for how many seconds. It is gone when the object is.
+// One line on a terminal that shows the running command and its seconds. The destructor removes it.
 class Progress {
  public:
   // The terminal's width in columns.
@@ -18,11 +18,11 @@ class Progress {
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  // From here on this runs. So many commands are expected in all, as far as is known by now; 0: nobody knows.
+  // Shows this command from now on. expected: the number of commands known so far; 0: unknown.
   void Begin(const std::string& what, std::size_t expected = 0);
-  // Nothing runs. The line stays until the next begins, so that it does not flicker.
+  // Nothing runs. The line stays until the next command begins, so that it does not flicker.
   void End();
-  // Nothing runs, and the line is gone: others write to the terminal now.
+  // Nothing runs, and the line is removed, because others write to the terminal.
   void Clear();
 
  private:
@@ -31,14 +31,14 @@ class Progress {
 
   std::ostream& terminal_;
   const std::size_t width_;
-  std::mutex mutex_;  // guards all that follows
+  std::mutex mutex_;  // guards the members below
   std::condition_variable changed_;
   std::string what_;  // empty: nothing runs
   std::chrono::steady_clock::time_point since_;
   std::size_t begun_ = 0;
   std::size_t drawnWidth_ = 0;
   bool isOver_ = false;
-  std::thread clock_;  // last: it uses the others
+  std::thread clock_;  // last: it uses the other members
 };
 
 }  // namespace hxahost

@@ -26,7 +26,7 @@ std::string_view Cell(const std::vector<std::string>& row, std::size_t index) {
   return index < row.size() ? std::string_view(row[index]) : std::string_view();
 }
 
-// What three of four cells need: one long cell does not take the room of other columns.
+// The width that three of four cells need, so that one long cell does not take the room of other columns.
 std::size_t UsualWidth(std::vector<std::size_t> widths) {
   const auto usual = widths.begin() + static_cast<std::ptrdiff_t>((widths.size() - 1) * 3 / 4);
   std::ranges::nth_element(widths, usual);
@@ -53,8 +53,8 @@ std::size_t TotalWidth(const std::vector<Shown>& columns, std::size_t Shown::*wi
                          [width](std::size_t sum, const Shown& column) { return sum + column.*width; });
 }
 
-// Leaves out columns until the others fit, as narrow as they may be: what matters least is at the right. One stays,
-// whatever its width. Gives the room of those that stay.
+// Leaves out columns until the others fit at their smallest width, the least important (rightmost) first. One column
+// always stays. Returns the room for the columns that stay.
 std::size_t LeaveOut(std::vector<Shown>& columns, std::size_t width) {
   std::size_t room = width;
   while (columns.size() > 1 && TotalWidth(columns, &Shown::least) > room) {
@@ -65,7 +65,7 @@ std::size_t LeaveOut(std::vector<Shown>& columns, std::size_t width) {
   return room;
 }
 
-// Takes from the widest of the columns that may be narrower.
+// Narrows the widest of the columns that may be narrower.
 void Narrow(std::vector<Shown>& columns, std::size_t width) {
   while (TotalWidth(columns, &Shown::width) > width) {
     const auto widest = std::ranges::max_element(
@@ -75,12 +75,12 @@ void Narrow(std::vector<Shown>& columns, std::size_t width) {
   }
 }
 
-// Gives the text of a cell its colour.
+// Returns the text of a cell with its colour.
 using Painter = std::function<std::string(const std::string& text, std::size_t column)>;
 
 std::string RowText(const std::vector<Shown>& columns, const std::vector<std::string>& row, const Painter& paint) {
   std::string line(kIndentWidth, ' ');
-  std::size_t missing = 0;  // blanks that are owed: none are put at the end of a line
+  std::size_t missing = 0;  // blanks before the next cell: a line must not end with blanks
   for (const Shown& column : columns) {
     const std::string text = CutToWidth(Cell(row, column.index), column.width);
     if (!text.empty()) line.append(missing, ' ').append(paint(text, column.index));

@@ -17,7 +17,7 @@ std::string_view Environment(const char* name) {
   return value == nullptr ? std::string_view() : std::string_view(value);
 }
 
-// A person who sets COLUMNS knows better than the terminal.
+// COLUMNS, set by a person, has priority over the terminal's width.
 std::optional<std::size_t> ColumnsVariable() {
   const std::string_view text = Environment("COLUMNS");
   std::size_t columns = 0;
@@ -32,7 +32,7 @@ std::size_t WidthOf(TerminalStream stream) {
   return std::clamp(width, kNarrowestLayout, kWidestLayout);
 }
 
-// NO_COLOR, set to anything, is the wish of a person for every program; an option is one for this run.
+// NO_COLOR, set to any value, applies to every program; the option applies to this run and has priority.
 bool HasColours(const LayoutWishes& wishes) {
   if (wishes.color != "auto") return wishes.color == "always";
   return Environment("NO_COLOR").empty() && GoesToTerminal(wishes) && TerminalTakesColours();

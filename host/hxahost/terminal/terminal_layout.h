@@ -8,7 +8,7 @@
 
 namespace hxahost {
 
-// What the command line says of how tables are shown.
+// The options of the command line for the layout of tables.
 struct LayoutWishes {
   bool isFile = false;  // they go to a file, not to standard output
   std::optional<std::size_t> width = {};
@@ -16,13 +16,13 @@ struct LayoutWishes {
   bool isAscii = false;
 };
 
-// The layout of the tables: the terminal's where they go to one and no wish says otherwise.
+// The layout of the tables: that of the terminal if they go to one and no option overrides it.
 Layout LayoutFor(const LayoutWishes& wishes);
 
-// Whether the tables are to be ASCII alone: asked for, or the terminal shows nothing else.
+// Whether tables must be ASCII: by an option, or because the terminal shows nothing else.
 bool IsAsciiOnly(const LayoutWishes& wishes);
 
-// The columns of the terminal that standard error goes to.
+// The width in columns of the terminal that standard error goes to.
 std::size_t ProgressWidth();
 
 }  // namespace hxahost

@@ -7,7 +7,7 @@
 
 namespace hxahost {
 
-// The words of UTF-8 text on lines of at most that many columns. A word that is longer has a line of its own.
+// The words of UTF-8 text on lines of at most that many columns. A longer word has a line of its own.
 std::vector<std::string> WrapWords(std::string_view utf8, std::size_t columns);
 
 }  // namespace hxahost

@@ -50,7 +50,7 @@ std::vector<std::string_view> SplitAtAny(std::string_view text, std::string_view
   return pieces;
 }
 
-// "nan" and "inf" would be numbers, too.
+// from_chars also accepts "nan" and "inf".
 std::optional<double> LeadingNumber(std::string_view text) {
   double number = 0;
   const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);

@@ -6,7 +6,7 @@ namespace hxahost {
 
 namespace {
 
-// Marks of scripts whose letters change shape are no such marks here.
+// Marks of scripts whose letters change shape are left out.
 constexpr CodeRange kCombining[] = {
     {0x300,   0x36f  },
     {0x483,   0x489  },

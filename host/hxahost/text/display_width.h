@@ -9,7 +9,7 @@ namespace hxahost {
 // The columns that UTF-8 text takes on a terminal.
 std::size_t DisplayWidth(std::string_view utf8);
 
-// The text, cut to the columns, with an ellipsis as its last character where something is missing.
+// The text, cut to the columns; if it is cut, its last character is an ellipsis.
 std::string CutToWidth(std::string_view utf8, std::size_t columns);
 
 }  // namespace hxahost

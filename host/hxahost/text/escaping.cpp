@@ -11,7 +11,7 @@ namespace hxahost {
 
 namespace {
 
-// C0 and C1 controls, what is invisible or turns the direction of the text around it, and codes that are no character.
+// C0 and C1 controls, invisible characters, those that change the direction of text, and codes that are not characters.
 constexpr CodeRange kUnsafe[] = {
     {0x00,    0x1f   },
     {0x7f,    0x9f   },
@@ -24,7 +24,7 @@ constexpr CodeRange kUnsafe[] = {
     {0xfeff,  0xfeff },
     {0xfff9,  0xfffb },
     {0xfffe,  0xffff },
-    {0xe0000, 0xe007f}, // copies of ASCII that nobody sees
+    {0xe0000, 0xe007f}, // invisible copies of ASCII
 };
 
 // Invisible characters, too; bundles contain them unescaped, as their format is older.
@@ -39,7 +39,7 @@ constexpr CodeRange kInvisible[] = {
     {0xe0080, 0xe0fff},
 };
 
-// More marks on one character than any language puts there are drawn over the lines above and below.
+// No language uses more marks on one character; more are drawn over the lines above and below.
 constexpr std::size_t kMostMarks = 4;
 
 std::string Escaped(char32_t code) {

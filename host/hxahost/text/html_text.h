@@ -5,7 +5,7 @@
 
 namespace hxahost {
 
-// Text for an element or an attribute of HTML: printable, one line, and nothing in it is read as markup.
+// Text for an element or an attribute of HTML: printable, one line, without markup.
 std::string HtmlText(std::string_view bytes);
 
 }  // namespace hxahost

@@ -32,7 +32,7 @@ constexpr MofEscape kMofEscapes[] = {
 // In bytes; the last character may go past it.
 constexpr std::size_t kLongestString = 1000;
 
-// By its UTF-16 code units, each with four digits, so that a digit that follows is no part of it.
+// As UTF-16 code units, each with four digits, so that a digit after them is not read as part of them.
 std::string ByCodeUnits(char32_t code) {
   std::string text;
   for (const char16_t unit : boost::locale::conv::utf_to_utf<char16_t>(&code, &code + 1)) {
@@ -51,7 +51,7 @@ std::string EscapedForMof(char32_t code, std::string_view character) {
 
 std::string MofText(std::string_view bytes, std::string_view indent) {
   std::string text = "\"";
-  std::size_t begin = 0;  // of the string that is being written
+  std::size_t begin = 0;  // of the current string
   ForEachCharacter(AsUtf8(bytes), [&](char32_t code, std::string_view character) {
     if (text.size() - begin > kLongestString) {
       text.append("\"\n").append(indent);

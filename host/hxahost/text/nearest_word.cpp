@@ -8,7 +8,7 @@ namespace hxahost {
 
 namespace {
 
-// Row by row through the letters of one word: how many mistakes lie between the beginnings of the two.
+// The edit distance: row N compares the first N letters typed with every beginning of the word.
 std::size_t Mistakes(std::string_view typed, std::string_view word) {
   std::vector<std::size_t> beforeLast;
   std::vector<std::size_t> last(word.size() + 1);

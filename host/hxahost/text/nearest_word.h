@@ -6,8 +6,8 @@
 
 namespace hxahost {
 
-// The word that somebody meant who typed something else: the one that it begins, or the one with the fewest letters
-// that are missing, too many, wrong or swapped. "" where none is near.
+// The word that was probably meant: the one that begins with the typed letters, or the one with the fewest letters
+// missing, added, wrong or swapped. "" if no word is similar.
 std::string NearestWord(std::string_view typed, const std::vector<std::string>& words);
 
 }  // namespace hxahost

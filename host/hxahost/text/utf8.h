@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-// What tools print is bytes: nothing says in what they are encoded. The program itself works with UTF-8.
+// Tools print bytes in an unknown encoding. The program itself works with UTF-8.
 namespace hxahost {
 
-// The bytes themselves when they are valid UTF-8; otherwise each byte as the ISO 8859-1 character that it is.
+// The bytes unchanged if they are valid UTF-8; otherwise each byte is converted as an ISO 8859-1 character.
 std::string AsUtf8(std::string_view bytes);
 
 // One character of UTF-8 text.
@@ -17,8 +17,8 @@ struct Character {
   std::size_t length = 1;  // in bytes
 };
 
-// The first character of the text, which must not be empty. What cannot be decoded is taken byte by byte, as code 0, so
-// that every loop over characters goes on.
+// The first character of the text, which must not be empty. Invalid bytes are returned one by one, as code 0, so that
+// every loop over characters advances.
 Character NextCharacter(std::string_view utf8);
 
 // Calls back with the code and the bytes of each character.

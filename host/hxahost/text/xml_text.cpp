@@ -6,7 +6,7 @@ namespace hxahost {
 
 namespace {
 
-// A control character that XML knows in no form, as the picture of itself.
+// A control character that XML cannot contain in any form, as its picture.
 std::string ControlPicture(char32_t code) { return {'\xe2', '\x90', static_cast<char>(0x80U + code)}; }
 
 bool IsLegal(char32_t code) { return code >= 0x20 || code == '\t' || code == '\n' || code == '\r'; }

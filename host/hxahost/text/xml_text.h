@@ -5,8 +5,8 @@
 
 namespace hxahost {
 
-// The text in UTF-8 without the characters that XML has no place for: a control character is its picture (U+2400 and
-// what follows), a code that is no character U+FFFD.
+// The text in UTF-8 without characters that XML does not permit: a control character becomes its picture (U+2400 and
+// following), a code that is not a character becomes U+FFFD.
 std::string LegalXmlText(std::string_view bytes);
 
 }  // namespace hxahost
