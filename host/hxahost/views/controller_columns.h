@@ -5,10 +5,10 @@
 
 #include "host/hxahost/views/instance_column.h"
 
-// What a controller's block shows, in its order: what matters first.
+// The contents of a controller's block, in their order: the most important first.
 namespace hxahost {
 
-// A property of the controller and what it is called in its block.
+// A property of the controller and its label in the block.
 struct Fact {
   std::string_view label;
   std::string_view property;

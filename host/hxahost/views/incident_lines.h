@@ -14,16 +14,16 @@ namespace hxahost {
 // "critical "
 inline constexpr std::size_t kIncidentIndent = 9;
 
-// The text in the colour of the level, where the layout has colours.
+// The text in the colour of the level, if the layout has colours.
 std::string Painted(const std::string& text, Level level, const Layout& layout);
 
 // The word in its colour, with blanks up to the indent.
 std::string SeverityHead(std::string_view word, Severity severity, const Layout& layout);
 
-// "4 critical, 1 warning"; "" where nothing is wrong.
+// "4 critical, 1 warning"; "" if nothing is wrong.
 std::string Tally(const Incidents& incidents);
 
-// The headline after its severity, and below it, indented, what to do.
+// The headline after its severity, and below it, indented, the action.
 std::vector<std::string> IncidentLines(const Incident& incident, const Layout& layout);
 
 }  // namespace hxahost

@@ -4,12 +4,12 @@
 
 #include "host/hxahost/result/query_result.h"
 
-// CIM-XML for programs that know CIM: one declaration document with a group of instances for each query, each with its
-// path in the namespace root/cimv2. The log and the runs of the tools are no part of it. A date and time that there is
-// none of has no value there, and comments name the instances that are left out.
+// CIM-XML for programs that read CIM: one declaration document with a group of instances for each query, each with its
+// path in the namespace root/cimv2. It does not contain the log and the runs of the tools. An impossible date and time
+// has no value, and comments name the instances that are left out.
 //
-// XML has no place for some characters (text/xml_text.h). Everything else comes out of an XML parser as it went in,
-// line ends included.
+// XML does not permit some characters (text/xml_text.h). An XML parser returns all other text unchanged, line ends
+// included.
 namespace hxahost {
 
 void BeginCimXml(std::ostream& out, const QueryHeader& header);

@@ -6,7 +6,7 @@
 #include "host/hxacore/value_reader.h"
 #include "host/hxahost/result/query_result.h"
 
-// What CIM-XML and MOF make of an instance.
+// The parts of an instance that CIM-XML and MOF contain.
 namespace hxahost {
 
 // The namespace that the instances belong to, part by part.
@@ -26,8 +26,8 @@ void ForEachExported(const NKVRHXA20::TPublishedInstance& instance, const Call& 
   }
 }
 
-// The text of a date and time that there is none of, such as month 0 or year 123456, which readers of CIM refuse. ""
-// for every other value.
+// The text of an impossible date and time, such as month 0 or year 123456, which readers of CIM reject. "" for every
+// other value.
 std::string ImpossibleTime(const NKVRHXA20::TCIMValue& value);
 
 }  // namespace hxahost
