@@ -32,7 +32,7 @@ constexpr Fact kState[] = {
     {"battery time",             "BatteryTimeRemaining"       },
 };
 
-// What people look for first is at the left, and is kept where space is short.
+// The most important columns are at the left, and are kept if the layout is narrow.
 constexpr InstanceColumn kLogicalDrives[] = {
     {"Drive",        "LogicalDriveNum",    8,  5,  Cell::kProperty, true },
     {"Name",         "LogicalDriveName",   20, 8,  Cell::kProperty, true },

@@ -5,12 +5,12 @@
 
 namespace hxahost {
 
-// What a cell shows.
+// The content of a cell.
 enum class Cell {
   kProperty,
   kState,         // the property, without the short form that the legacy utility adds: "Critical" of "Critical (CRT)"
   kSize,          // in the unit of its column: "36.4 GB"
-  kController,    // that it belongs to: "C3 (arcconf)"
+  kController,    // its controller: "C3 (arcconf)"
   kLocation,      // of the device: "enclosure 0, slot 8"
   kSerialNumber,  // of the device
   kKind,          // "HDD", "tape", "enclosure"
@@ -19,11 +19,11 @@ enum class Cell {
 // A column of a table of instances.
 struct InstanceColumn {
   std::string_view title;
-  std::string_view property;  // under the name under which it is set; "" where the machine model alone knows
+  std::string_view property;  // as it is declared; "" if only the machine model contains the value
   std::size_t widest = 30;
-  std::size_t least = 8;  // what it may be narrowed to
+  std::size_t least = 8;  // the smallest width
   Cell cell = Cell::kProperty;
-  bool isKept = false;  // left out last where space is short
+  bool isKept = false;  // left out last if the layout is too narrow
 };
 
 }  // namespace hxahost

@@ -7,7 +7,7 @@
 
 namespace hxahost {
 
-// Red is critical, yellow a warning, magenta unknown, green all that is fine; none where nothing is said.
+// Red is critical, yellow a warning, magenta unknown, green fine; no colour if no state is known.
 std::optional<Colour> ColourOf(Level level);
 
 }  // namespace hxahost

@@ -27,29 +27,29 @@ constexpr InstanceColumn kVersions[] = {
 
 constexpr InstanceColumn kBadStripes[] = {
     {"Controller",    "ControllerNum", 30, 10, Cell::kController, true },
-    {"Logical drive", "LogicalDrive",  13, 8, Cell::kProperty,   false},
-    {"Bad stripes",   "NumBadStripes", 12, 8, Cell::kProperty,   false},
+    {"Logical drive", "LogicalDrive",  13, 8,  Cell::kProperty,   false},
+    {"Bad stripes",   "NumBadStripes", 12, 8,  Cell::kProperty,   false},
 };
 
 constexpr InstanceColumn kStatistics[] = {
     {"Controller",    "ControllerNum",   30, 10, Cell::kController, true },
-    {"Channel",       "Channel",         8,  8, Cell::kProperty,   false},
-    {"ID",            "ScsiId",          8,  8, Cell::kProperty,   false},
-    {"Hard errors",   "NumHardErrors",   12, 8, Cell::kProperty,   false},
-    {"Soft errors",   "NumSoftErrors",   12, 8, Cell::kProperty,   false},
-    {"Parity errors", "NumParityErrors", 13, 8, Cell::kProperty,   false},
-    {"Misc",          "Misc",            12, 8, Cell::kProperty,   false},
-    {"PFA",           "PFA",             12, 8, Cell::kProperty,   false},
+    {"Channel",       "Channel",         8,  8,  Cell::kProperty,   false},
+    {"ID",            "ScsiId",          8,  8,  Cell::kProperty,   false},
+    {"Hard errors",   "NumHardErrors",   12, 8,  Cell::kProperty,   false},
+    {"Soft errors",   "NumSoftErrors",   12, 8,  Cell::kProperty,   false},
+    {"Parity errors", "NumParityErrors", 13, 8,  Cell::kProperty,   false},
+    {"Misc",          "Misc",            12, 8,  Cell::kProperty,   false},
+    {"PFA",           "PFA",             12, 8,  Cell::kProperty,   false},
 };
 
 constexpr InstanceColumn kSubStatus[] = {
     {"Controller",       "ControllerNum", 30, 10, Cell::kController, true },
-    {"Channel",          "Channel",       8,  8, Cell::kProperty,   false},
-    {"ID",               "ScsiId",        8,  8, Cell::kProperty,   false},
-    {"Parameters",       "Params",        16, 8, Cell::kProperty,   false},
-    {"Req/Off",          "Req_Off",       10, 8, Cell::kProperty,   false},
-    {"Highest transfer", "Max_Txer_P",    18, 8, Cell::kProperty,   false},
-    {"Current transfer", "Cur_Txer_p",    18, 8, Cell::kProperty,   false},
+    {"Channel",          "Channel",       8,  8,  Cell::kProperty,   false},
+    {"ID",               "ScsiId",        8,  8,  Cell::kProperty,   false},
+    {"Parameters",       "Params",        16, 8,  Cell::kProperty,   false},
+    {"Req/Off",          "Req_Off",       10, 8,  Cell::kProperty,   false},
+    {"Highest transfer", "Max_Txer_P",    18, 8,  Cell::kProperty,   false},
+    {"Current transfer", "Cur_Txer_p",    18, 8,  Cell::kProperty,   false},
 };
 
 constexpr InstanceColumn kDdd[] = {
@@ -63,17 +63,17 @@ constexpr InstanceColumn kDdd[] = {
     {"Record",      "RecordID",   8,  8,  Cell::kProperty,   false},
 };
 
-// The logs of soft and hard events give no time: what is published as theirs says nothing.
+// The logs of soft and hard events contain no times: their published times have no meaning.
 constexpr InstanceColumn kSoft[] = {
     {"Controller", "ControllerNum", 30, 10, Cell::kController, true },
-    {"Entries",    "NumEntries",    8,  8, Cell::kProperty,   false},
-    {"Codes",      "HexSoftEvent",  80, 8, Cell::kProperty,   false},
+    {"Entries",    "NumEntries",    8,  8,  Cell::kProperty,   false},
+    {"Codes",      "HexSoftEvent",  80, 8,  Cell::kProperty,   false},
 };
 
 constexpr InstanceColumn kHard[] = {
     {"Controller", "ControllerNum", 30, 10, Cell::kController, true },
-    {"Entries",    "NumEntries",    8,  8, Cell::kProperty,   false},
-    {"Codes",      "HexHardEvent",  80, 8, Cell::kProperty,   false},
+    {"Entries",    "NumEntries",    8,  8,  Cell::kProperty,   false},
+    {"Codes",      "HexHardEvent",  80, 8,  Cell::kProperty,   false},
 };
 
 constexpr InstanceColumn kManager[] = {

@@ -7,7 +7,7 @@
 
 namespace hxahost {
 
-// A table of instances that belong to no controller's block: versions, statistics, logs.
+// A table of instances that are not in a controller's block: versions, statistics, logs.
 struct RecordSection {
   std::string_view heading;
   std::span<const std::string_view> classes;

@@ -22,20 +22,20 @@ namespace hxahost {
 
 namespace {
 
-// Boost's property tree writes the markup: it is there for every compiler that the program is built with, as headers
-// alone, and is kept up together with the rest of Boost. A whole document would take many times the memory of the data,
-// so it is given one instance at a time; the text around the instances is fixed.
+// Boost's property tree writes the markup: it has only headers, works with every compiler of the program, and is
+// maintained with the rest of Boost. A tree of the whole document would take many times the memory of the data, so it
+// contains one instance at a time; the text around the instances is fixed.
 using Tree = boost::property_tree::ptree;
 
-// Names of elements have dots in them, which are no paths here.
+// Names of elements contain dots, which must not be read as paths.
 Tree& Append(Tree& parent, const char* element) { return parent.push_back({element, Tree()})->second; }
 
 void SetAttribute(Tree& element, const char* name, std::string_view value) {
   element.put(std::string("<xmlattr>.") + name, std::string(value));
 }
 
-// Parsers make a line feed of a carriage return that they meet as it is. That and whatever must not reach a terminal is
-// written by its number, which the library does not do.
+// Parsers convert a carriage return to a line feed. It and characters that are unsafe on a terminal are written by
+// their number, which the library does not do.
 void WriteByNumber(std::ostream& out, std::string_view xml) {
   ForEachCharacter(xml, [&out](char32_t code, std::string_view character) {
     if (IsUnsafe(code) && code != '\n' && code != '\t') {
@@ -67,7 +67,7 @@ void AppendReference(Tree& parent, const TCIMValue& value, std::string_view decl
   AppendPath(Append(parent, "VALUE.REFERENCE"), TCIMValueReader::Reference(value), declaredClass);
 }
 
-// The two hyphens that end a comment are set apart.
+// A comment must not contain two hyphens in a row: a blank separates them.
 void AppendComment(Tree& parent, std::string_view text) {
   std::string comment = " ";
   for (const char character : text) {
@@ -91,7 +91,7 @@ void AppendKey(Tree& parent, const TCIMValue& value, std::string_view declaredCl
   key.data() = LegalXmlText(std::string(value));
 }
 
-// A reference that names no class refers to the declared one.
+// A reference without a class name refers to the declared class.
 void AppendName(Tree& parent, const TCIMReference& reference, std::string_view declaredClass) {
   const std::string& own = TCIMReferenceFactory::ClassName(reference);
   const std::string_view className = own.empty() ? declaredClass : own;
@@ -112,7 +112,7 @@ void AppendPath(Tree& parent, const TCIMReference& reference, std::string_view d
   AppendName(path, reference, declaredClass);
 }
 
-// An empty value is one that says so: the element without a value in it.
+// An empty value is an element without a value in it.
 void AppendValue(Tree& parent, const TCIMValue& value, const char* empty) {
   if (TCIMValueReader::Kind(value) != ValueKind::kNone) {
     Append(parent, "VALUE").data() = LegalXmlText(std::string(value));
@@ -157,7 +157,7 @@ Tree ObjectWithPath(const TPublishedInstance& instance) {
   return document;
 }
 
-// Without the line that begins a document, which the library puts before each tree.
+// Leaves out the XML declaration, which the library writes before each tree.
 void WriteTree(std::ostream& out, const Tree& tree) {
   std::ostringstream document;
   boost::property_tree::write_xml(document, tree, boost::property_tree::xml_writer_make_settings<std::string>(' ', 1));

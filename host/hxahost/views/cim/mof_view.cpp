@@ -75,7 +75,7 @@ void WriteInstance(std::ostream& out, const TPublishedInstance& instance, const 
   out << "};\n";
 }
 
-// The paths that references of the query name.
+// The paths that the references of the query name.
 Aliases ReferredPaths(const InstanceList& instances) {
   Aliases aliases;
   for (const auto& instance : instances) {

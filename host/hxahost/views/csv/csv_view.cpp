@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view kClassColumn = "class";
 
-// Properties with one name in several classes share a column.
+// Properties with the same name in several classes share a column.
 std::vector<std::string_view> Columns(const QueryHeader& header) {
   std::vector<std::string_view> columns;
   if (header.classes.size() > 1) columns.push_back(kClassColumn);
@@ -41,7 +41,7 @@ std::string ValueText(const TCIMValue& value) {
   return text;
 }
 
-// White space stays as it is published; nothing else in it acts on a terminal.
+// White space is left as published; all other characters that act on a terminal are escaped.
 std::string SafeText(std::string_view text) {
   std::string safe;
   while (!text.empty()) {
@@ -87,7 +87,7 @@ void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResu
     std::vector<std::string> row(columns.size());
     if (columns.front() == kClassColumn) row.front() = instance->Class().name;
     for (const PublishedProperty& property : instance->Properties()) {
-      // One name is published in another case than it is declared.
+      // One property is published with a letter in another case than declared.
       row[places.at(FindProperty(instance->Class(), property.name)->name)] = ValueText(property.value);
     }
     WriteCsvCells(out, row);

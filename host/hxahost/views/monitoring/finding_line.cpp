@@ -11,7 +11,7 @@ namespace hxahost {
 
 namespace {
 
-// A log entry can be a page; what it says of health is in its beginning.
+// A log entry can be very long; its beginning contains the words about health.
 constexpr std::size_t kWidestText = 160;
 
 }  // namespace

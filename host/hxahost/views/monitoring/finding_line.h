@@ -10,7 +10,7 @@ namespace hxahost {
 // "logical drive 3 (Archive) of controller 4 [Zentraxis4LD3]"
 std::string SubjectText(const Finding& finding);
 
-// The value as the tool printed it, in quotes, cut where it is a page: "\"Degraded\"".
+// The value as the tool printed it, in quotes, a long one cut: "\"Degraded\"".
 std::string QuotedText(const Finding& finding);
 
 // "critical: logical drive 3 (Archive) of controller 4 [Zentraxis4LD3]: LogicalDriveStatus \"Degraded\": replace ..."

@@ -17,7 +17,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// A list of what the function makes of each item.
+// The results of the function for each item, as a list.
 template <class Items, class ToJson>
 Json ListOf(const Items& items, ToJson toJson) {
   Json list = Json::array();
@@ -157,8 +157,8 @@ std::string_view WordOf(Urgency urgency) {
 
 Json ToolJson(const ToolHealth& tool) {
   return {
-      {"tool", tool.tool},
-      {"isUp", tool.isUp},
+      {"tool",        tool.tool       },
+      {"isUp",        tool.isUp       },
       {"isInstalled", tool.isInstalled},
   };
 }

@@ -12,8 +12,8 @@
 #include "host/hxahost/views/monitoring/incident_labels.h"
 #include "host/hxahost/views/monitoring/metric_family.h"
 
-// The labels of a series are what tells objects apart and does not change with their state. What may change is a value,
-// or a text of a series *_info.
+// The labels of a series identify an object and do not change with its state. Changing facts are values, or texts of a
+// series *_info.
 namespace hxahost {
 
 namespace {

@@ -8,21 +8,21 @@
 #include "host/hxahost/machine/machine.h"
 #include "host/hxahost/result/query_result.h"
 
-// How the health of a machine is shown.
+// Writes the health of a machine in several formats.
 namespace hxahost {
 
 struct HealthReport {
   const QueryHeader& header;
   const QueryResult& result;
   Machine machine;
-  double seconds = 0;      // that the collection took
-  bool isVerbose = false;  // the text has the findings below each incident
+  double seconds = 0;      // the duration of the collection
+  bool isVerbose = false;  // the text contains the findings below each incident
 };
 
-// For people: a line that sums up, then each incident with what to do.
+// For people: a summary line, then each incident with its action.
 void WriteHealthText(std::ostream& out, const HealthReport& report);
 
-// The tools that were run, and whether nothing went wrong with them.
+// The tools that were run, and whether all of their runs succeeded.
 struct ToolHealth {
   std::string_view tool;
   bool isUp = false;
@@ -40,11 +40,11 @@ void WriteHealthJson(std::ostream& out, const HealthReport& report);
 // Metrics in the text format of Prometheus, as its node exporter reads them from a file *.prom.
 void WriteHealthMetrics(std::ostream& out, const HealthReport& report);
 
-// For Nagios and its relatives: the first line of at most 200 characters has the worst incident, further lines all of
-// them; numbers follow "|" in the first and after the last.
+// For Nagios and compatible systems: the first line of at most 200 characters has the worst incident, further lines
+// have every incident; numbers follow "|" in the first line and after the last.
 void WriteHealthNagios(std::ostream& out, const HealthReport& report);
 
-// The first line where a failure leaves the health unknown.
+// The first line if a failure leaves the health unknown.
 void WriteNagiosFailure(std::ostream& out, std::string_view message);
 
 // The rules, as a table.

@@ -3,16 +3,16 @@
 #include "host/hxahost/machine/machine.h"
 #include "host/hxahost/views/monitoring/metric_family.h"
 
-// The labels of metrics that several commands write. What tells one series from another does not change with a state.
+// The labels of metrics that several commands write. Labels that identify a series do not change with a state.
 namespace hxahost {
 
-// Controllers of two utilities may share a number: the label of the utility goes with it.
+// Controllers of two utilities may have the same number, so the utility is a label, too.
 Labels ControllerLabels(const Controller& controller);
 
-// What tells an incident from others.
+// The labels that identify an incident.
 Labels IncidentLabels(const Machine& machine, const Incident& incident);
 
-// The same, then what may change: its name, and the first disk to act on.
+// The same, then labels that may change: its name, and the first disk to act on.
 Labels IncidentTexts(const Machine& machine, const Incident& incident);
 
 }  // namespace hxahost

@@ -12,7 +12,7 @@ namespace hxahost {
 
 namespace {
 
-// The format knows three escapes. Other control characters are spelt out, so that the file can be looked at.
+// The format has three escapes. Other control characters are written as text, so that people can read the file.
 std::string LabelValue(const std::string& bytes) {
   std::string value;
   std::istringstream lines(AsUtf8(bytes));

@@ -19,21 +19,21 @@ struct MetricName {
   std::string_view type = "gauge";
 };
 
-// The samples of one metric, written in the text format of Prometheus. A reader refuses the whole file when a sample
-// comes twice: of samples with the same labels the largest counts.
+// The samples of one metric, written in the text format of Prometheus. A reader refuses the whole file if a sample
+// occurs twice: of samples with the same labels only the largest is written.
 class MetricFamily {
  public:
   explicit MetricFamily(const MetricName& name) : name_(name) {}
 
-  // A label without a value is left out: to the reader it is the same.
+  // A label without a value is left out: the reader treats it the same.
   void Add(const Labels& labels, double value);
 
   void Write(std::ostream& out) const;
 
  private:
   MetricName name_;
-  std::vector<std::pair<std::string, double>> samples_;  // labels and value, in the order of their coming
-  std::unordered_map<std::string, std::size_t> places_;  // of the labels among them
+  std::vector<std::pair<std::string, double>> samples_;  // labels and value, as added
+  std::unordered_map<std::string, std::size_t> places_;  // of samples, by labels
 };
 
 }  // namespace hxahost

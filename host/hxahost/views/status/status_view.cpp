@@ -26,7 +26,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr std::size_t kScreen = 24;
-constexpr std::size_t kFewest = 2;  // lines of an incident: its headline and what to do
+constexpr std::size_t kFewest = 2;  // lines of an incident: its headline and its action
 
 // "CRITICAL SAMPLE at 2026-11-21 09:30:00 +01:00: 4 critical, 1 warning"
 std::string Verdict(const HealthReport& report) {
@@ -41,8 +41,8 @@ std::string Verdict(const HealthReport& report) {
                                      : tally);
 }
 
-// How many lines of each incident are shown: all where there is room; else its headline and the beginning of what to
-// do, and what room is left goes line by line to the worst. Incidents past the end are not shown.
+// How many lines of each incident are shown: all if they fit; otherwise its headline and the first line of its action,
+// and the remaining lines of the screen line by line for the worst incidents. Incidents past the end are not shown.
 std::vector<std::size_t> Shares(const std::vector<Lines>& blocks, std::size_t room) {
   const std::size_t shown = blocks.size() * kFewest <= room ? blocks.size() : (room - 1) / kFewest;
   std::vector<std::size_t> shares(shown, kFewest);
@@ -66,7 +66,7 @@ Lines AllIncidents(const HealthReport& report, std::size_t room) {
   for (const Incident& incident : report.machine.incidents) {
     Lines block = IncidentLines(incident, layout);
     wanted += block.size();
-    if (incident.severity == Severity::kFine && wanted > room) break;  // information comes last, and only where it fits
+    if (incident.severity == Severity::kFine && wanted > room) break;  // information comes last, and only if it fits
     blocks.push_back(std::move(block));
   }
   const std::vector<std::size_t> shares = Shares(blocks, room);
@@ -127,13 +127,13 @@ Table ControllerTable(const Machine& machine) {
   return table;
 }
 
-// What answered: the utilities, or those of a bundle.
+// The source of the data: the utilities, or a bundle.
 std::string_view SourceOf(const QueryHeader& header) {
   if (!header.isReplayed) return "Tools";
   return header.isMasked ? "Replayed, masked" : "Replayed";
 }
 
-// Where to look next.
+// The command to run next.
 std::string Hint(const Machine& machine) {
   const auto located = std::ranges::find_if(machine.incidents, [&](const Incident& each) {
     return !each.location.empty() && each.urgency == Urgency::kReplace &&

@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// The verdict on one screen: the incidents with what to do, then one line for each controller.
+// The verdict on one screen: the incidents with their actions, then one line for each controller.
 void WriteStatusText(std::ostream& out, const HealthReport& report);
 
 }  // namespace hxahost

@@ -19,7 +19,7 @@ namespace hxahost {
 
 namespace {
 
-// "serial 123, slot 2, ...": as many facts as fit on a line, and the next line goes on.
+// "serial 123, slot 2, ...": as many facts as fit on a line; the others follow on the next line.
 void WriteFacts(std::ostream& out, const Layout& layout, const TPublishedInstance& controller,
                 std::span<const Fact> facts) {
   constexpr std::string_view kIndent = "  ";
@@ -49,7 +49,7 @@ void WriteController(std::ostream& out, const Layout& layout, const std::string&
   WriteFacts(out, layout, controller, StateFacts());
 }
 
-// The plug-in publishes no controller whose status contains "Failed", but what belongs to it.
+// The plug-in leaves out a controller whose status contains "Failed", but publishes its drives and disks.
 std::string_view WhyWithoutInstance(const QueryHeader& header) {
   return IsAskedFor(header, DeviceKinds().front().className) ? " was not published: its status may say \"Failed\""
                                                              : " (controllers were not asked for)";

@@ -6,8 +6,8 @@
 
 namespace hxahost {
 
-// Writes a block for each controller: what it is, its state, its logical drives, disk groups and disks. What belongs
-// to a controller that has no instance is listed under its number all the same.
+// Writes a block for each controller: model, state, logical drives, disk groups and disks. Objects of a controller
+// without an instance are listed under its number, too.
 void WriteControllerBlocks(std::ostream& out, const QueryHeader& header, const InstanceList& instances,
                            const Machine& machine);
 

@@ -30,7 +30,7 @@ std::string LineNumbers(const Proof& proof) {
   return numbers;
 }
 
-// What the lines say where that is something else.
+// The value in the lines, if it differs.
 std::string SaidInstead(const InstanceList& instances, const Proof& proof) {
   if (proof.evidence != Evidence::kDiffers) return "";
   const std::vector<std::string> lines = RawElements(*instances[proof.text], "RawResults");

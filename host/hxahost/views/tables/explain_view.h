@@ -9,7 +9,7 @@
 
 namespace hxahost {
 
-// An object's values, by the text that each was read from, with the number of its line.
+// An object's values, grouped by the text that each was read from, with the number of its line.
 void WriteExplanation(std::ostream& out, const Layout& layout, const InstanceList& instances, const NamedObject& named,
                       const std::vector<Proof>& proofs);
 

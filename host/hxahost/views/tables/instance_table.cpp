@@ -44,7 +44,7 @@ std::string CellText(const InstanceColumn& column, const InstanceRow& row, std::
   return column.cell == Cell::kState && !isVerbose ? WithoutCode(text) : text;
 }
 
-// Figures are compared by their last digits.
+// Aligned figures are easier to compare.
 void AlignRight(Table& table, std::size_t column) {
   std::size_t widest = 0;
   for (const auto& row : table.rows) widest = std::max(widest, DisplayWidth(row[column]));

@@ -15,7 +15,7 @@
 
 namespace hxahost {
 
-// An instance with what the machine model knows of it. Texts are printable.
+// An instance with its values from the machine model. Texts are printable.
 struct InstanceRow {
   const NKVRHXA20::TPublishedInstance* instance = nullptr;
   std::string controller = {};  // "C3 (arcconf)"
@@ -25,10 +25,10 @@ struct InstanceRow {
   std::optional<std::uint64_t> bytes = {};
 };
 
-// What a property of the instance in a row says: its colour where the layout has colours.
+// The level of a property of the instance in a row: it decides the colour if the layout has colours.
 using CellLevel = std::function<Level(std::size_t row, std::string_view property)>;
 
-// Writes the heading and the rows; nothing at all where there is none.
+// Writes the heading and the rows; nothing if there are no rows.
 void WriteInstances(std::ostream& out, const QueryHeader& header, std::string_view heading,
                     std::span<const InstanceColumn> columns, const std::vector<InstanceRow>& rows,
                     const CellLevel& level = {});

@@ -23,7 +23,7 @@ struct Source {
   std::size_t lines = 0;
 };
 
-// The tool of "zenx//arcconf.exe getconfig 1 al"; of the RAID manager's log the whole path, which may have blanks.
+// The tool of "zenx//arcconf.exe getconfig 1 al"; for the RAID manager's log the whole path, which may contain blanks.
 std::string SourceName(const TPublishedInstance& instance) {
   const std::string command = ShownText(instance, "Command");
   return instance.Class().name == kRawDataClass ? command.substr(0, command.find(' ')) : command;

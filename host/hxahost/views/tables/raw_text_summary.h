@@ -6,8 +6,8 @@
 
 namespace hxahost {
 
-// Writes how many commands each tool was given, how many of them it answered and with how many lines, and how long the
-// RAID manager's log is. The texts themselves are for programs.
+// Writes for each tool the number of commands, of answers and of their lines, and the length of the RAID manager's
+// log. The texts themselves are for programs.
 void WriteRawTextSummary(std::ostream& out, const Layout& layout, const InstanceList& instances);
 
 }  // namespace hxahost

@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// Writes the sections that have an instance: those of events, and the others where all is to be shown.
+// Writes the sections that have an instance: those of events, and with --all the others.
 void WriteRecordSections(std::ostream& out, const QueryHeader& header, const InstanceList& instances,
                          const Machine& machine);
 

@@ -27,10 +27,10 @@ namespace hxahost {
 
 namespace {
 
-// Commands that found nothing leave raw texts all the same.
+// Raw texts exist even if the commands found nothing.
 bool IsFound(const NKVRHXA20::TPublishedInstance& instance) { return instance.Class().name != kRawDataClass; }
 
-// Where nothing was found, the first thing to know is whether anything looked.
+// If nothing was found, first show whether any tool was started.
 void WriteToolsNotStarted(std::ostream& out, const Layout& layout, const QueryResult& result) {
   std::string names;
   std::set<std::string> known;
@@ -49,7 +49,7 @@ void WriteNothingFound(std::ostream& out, const Layout& layout, const QueryResul
   WriteToolsNotStarted(out, layout, result);
 }
 
-// A verdict on less than everything would mislead.
+// A verdict on only some of the classes would mislead.
 bool IsJudged(const QueryHeader& header) {
   return std::ranges::all_of(HealthClasses(), [&](std::string_view name) { return IsAskedFor(header, name); });
 }

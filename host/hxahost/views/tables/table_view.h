@@ -4,8 +4,8 @@
 
 #include "host/hxahost/result/query_result.h"
 
-// Tables for people: what is wrong, then what matters of each controller and event; of all else only on request. JSON
-// has all of it.
+// Tables for people: faults first, then the important properties of controllers, and events; other classes only on
+// request. JSON contains everything.
 namespace hxahost {
 
 void BeginTables(std::ostream& out, const QueryHeader& header);

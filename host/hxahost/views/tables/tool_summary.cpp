@@ -15,11 +15,11 @@ namespace hxahost {
 
 namespace {
 
-constexpr std::size_t kMostTroubles = 6;  // of one utility; a broken machine must not bury the rest
+constexpr std::size_t kMostTroubles = 6;  // of one utility; more would hide everything else
 
 bool IsTrouble(Outcome outcome) { return outcome != Outcome::kOk && outcome != Outcome::kRefused; }
 
-// The controller's number where the run asks for a whole controller.
+// The controller's number, if the run asks about a whole controller.
 std::optional<int> ProbedNumber(const ToolRun& run) {
   if (run.arguments.size() < 2 || run.arguments.front() != "getconfig") return std::nullopt;
   const std::string& text = run.arguments[1];
@@ -87,7 +87,7 @@ std::string ControllersText(const ToolSummary& summary) {
     return fmt::format("{} ({})", Counted(summary.controllers.size(), "controller"),
                        NumbersText(summary.controllers, kNoRanges));
   }
-  // Only a utility that answered, and to every question, proves that there is none.
+  // Only a utility that answered every question proves that there is no controller.
   return summary.troubles.empty() ? "no controller found" : "no controller answered";
 }
 
@@ -97,7 +97,7 @@ std::string RefusedText(const std::vector<int>& refused) {
   return fmt::format(", number{} {} refused", refused.size() == 1 ? "" : "s", NumbersText(refused, kShortestRange));
 }
 
-// What each kind of trouble came to, the worst first: "2 timed out, 1 cut off".
+// The kinds of trouble, the worst first: "2 timed out, 1 cut off".
 std::string TroubleCounts(const ToolSummary& summary) {
   std::map<Outcome, std::size_t, std::greater<>> counts;
   for (const ToolTrouble& trouble : summary.troubles) counts[trouble.outcome] += trouble.times;
@@ -127,7 +127,7 @@ std::string TroubleHead(const ToolTrouble& trouble) {
   return fmt::format("{} ({}):", OutcomeWord(trouble.outcome), which);
 }
 
-// The reason matters most: where the line has no room for all of it, it gets one of its own.
+// The reason matters most: if it does not fit on the line, it is on a line of its own.
 void WriteTrouble(std::ostream& out, const Layout& layout, const ToolTrouble& trouble) {
   constexpr std::size_t kIndent = 4;
   if (kIndent + DisplayWidth(TroubleText(trouble)) <= layout.width) {
@@ -147,7 +147,7 @@ void WriteSummary(std::ostream& out, const Layout& layout, const ToolSummary& su
   }
 }
 
-// What stopped the collection before all tools had their turn.
+// The reason why the collection ended before all tools were run.
 void WriteAbort(std::ostream& out, const Layout& layout, const QueryResult& result) {
   constexpr std::string_view kAborted = "Collection aborted: ";
   for (const LoggedEntry& entry : result.log) {

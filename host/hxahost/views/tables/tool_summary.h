@@ -8,11 +8,10 @@
 #include "host/hxahost/result/query_result.h"
 #include "host/hxahost/result/tool_run.h"
 
-// What the runs of each utility came to, so that a machine without controllers is not taken for one that could not be
-// read.
+// Summaries of each utility's runs, which show whether a machine has no controllers or could not be read.
 namespace hxahost {
 
-// Runs that went wrong in the same way.
+// Runs that failed in the same way.
 struct ToolTrouble {
   Outcome outcome = Outcome::kFailed;
   std::string reason;        // printable
@@ -22,15 +21,15 @@ struct ToolTrouble {
 
 struct ToolSummary {
   std::string tool;
-  std::size_t runs = 0;    // that were made
-  std::size_t reused = 0;  // answers that were given from memory
+  std::size_t runs = 0;    // started
+  std::size_t reused = 0;  // answers taken from memory
   double seconds = 0;
-  std::vector<int> controllers;  // the utility's own numbers that answered to every "getconfig"
-  std::vector<int> refused;      // the numbers that it says it does not have
+  std::vector<int> controllers;  // the utility's own numbers for which every "getconfig" was answered
+  std::vector<int> refused;      // numbers for which it reports no controller
   std::vector<ToolTrouble> troubles;
 };
 
-// One for each utility in the order in which they are run, also for one that was not.
+// One for each utility in the order in which they run, also for one that was not run.
 std::vector<ToolSummary> SummarizeRuns(const ToolRunList& runs);
 
 // "arcconf: 24 runs, 2 controllers (1, 2), numbers 3-8 refused, 3.1 s"

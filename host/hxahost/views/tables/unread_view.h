@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// Counts the unread lines and lists them by command, with their numbers in its text, counted from 1.
+// Writes the number of unread lines, and the lines by command, with their numbers in its text, counted from 1.
 void WriteUnreadLines(std::ostream& out, const Layout& layout, const InstanceList& instances);
 
 }  // namespace hxahost
