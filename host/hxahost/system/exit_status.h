@@ -5,7 +5,7 @@
 
 namespace hxahost {
 
-// What the program ends with. Scripts depend on the numbers. "hxahost health" ends with those of Severity, and with
+// The exit statuses of the program. Scripts depend on the numbers. "hxahost health" returns those of Severity, and
 // kHealthUnknown for every failure.
 enum class ExitStatus {
   kDone = 0,
@@ -14,12 +14,12 @@ enum class ExitStatus {
   kPluginNotLoaded = 3,
   kHealthUnknown = 3,
   kNothingFound = 4,
-  kHungUp = 129,  // and the next two: as shells say of a program that a signal has ended
+  kHungUp = 129,  // this and the next two: as shells report a program that a signal ended
   kInterrupted = 130,
   kTerminated = 143,
 };
 
-// Ends the program with a status. The message is the one line that a person gets: what is wrong and what to do.
+// Ends the program with a status. The message is the one line that the user sees: the fault and what to do.
 class ProgramError : public std::runtime_error {
  public:
   ProgramError(ExitStatus status, const std::string& message) : std::runtime_error(message), status_(status) {}
