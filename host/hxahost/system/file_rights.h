@@ -5,16 +5,16 @@
 
 namespace hxahost {
 
-// Whether somebody other than the administrators and the user of this program may change a file, or what lies in a
-// folder. False where the system does not say.
+// Whether anyone except the administrators and the user of this program may change a file, or the contents of a
+// folder. False if the system does not report it.
 bool OthersMayWrite(const std::filesystem::path& path);
 
-// The folders on the way to where a link leads in which others may exchange the next step, and the one of a program to
-// which they may add: it may load libraries from there. None where the path is no link.
+// Follows a link and returns the folders on the way in which others may replace the next step, and the folder of a
+// program if others may add files to it, as the program may load libraries from there. Empty if the path is not a link.
 std::vector<std::filesystem::path> UnsafeFoldersBehind(const std::filesystem::path& link);
 
-// Gives a file the rights of the one that it replaces, and its owner where the system lets this user do so. Where there
-// is none it stays as it is.
+// Copies the rights of the file that is replaced to the new file, and its owner if the system permits that. Without a
+// file to replace nothing changes.
 void CopyRights(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace hxahost

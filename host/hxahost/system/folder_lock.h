@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// Keeps a folder for one program at a time. It ends with its program, however that ends.
+// Reserves a folder for one program at a time. The lock ends with the program, even if the program is killed.
 class FolderLock {
  public:
   explicit FolderLock(std::filesystem::path folder) : folder_(std::move(folder)) {}
@@ -14,12 +14,12 @@ class FolderLock {
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
-  // False while another program has it. A folder that is missing or cannot be written is had without a lock.
+  // Returns false while another program has the lock. A missing or read-only folder is used without a lock.
   bool Take();
 
  private:
   std::filesystem::path folder_;
-  std::intptr_t handle_ = -1;  // of the system; -1: none
+  std::intptr_t handle_ = -1;  // of the system; -1: not locked
 };
 
 }  // namespace hxahost

@@ -7,14 +7,14 @@
 
 namespace hxahost {
 
-// On a command line, standard input or standard output in the place of a file.
+// On a command line, standard input or standard output instead of a file.
 constexpr std::string_view kStandardStream = "-";
 
-// The bytes of a file that a person named; what it should be is the end of the advice: "a bundle". Throws ProgramError
-// (wrong arguments) for one that cannot be read, that is no ordinary file, or that has more bytes than the largest.
+// Reads the file that the user named; "what" completes the advice in messages: "a bundle". Throws ProgramError (wrong
+// arguments) if it cannot be read, is not an ordinary file, or is larger than the largest.
 std::string ReadInputFile(const std::filesystem::path& file, std::string_view what, std::uint64_t largest);
 
-// All of standard input. Throws ProgramError (wrong arguments) where there are more bytes than the largest.
+// Reads standard input to its end. Throws ProgramError (wrong arguments) if it is larger than the largest.
 std::string ReadStandardInput(std::uint64_t largest);
 
 }  // namespace hxahost

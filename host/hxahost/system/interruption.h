@@ -2,10 +2,10 @@
 
 namespace hxahost {
 
-// From here on the program ends when somebody asks it to, whatever its other threads do: it cleans up in a thread of its
-// own, says so in one line on standard error, and ends with ExitStatus::kInterrupted (SIGINT, Ctrl-C), kTerminated
-// (SIGTERM, log-off) or kHungUp (SIGHUP, a closed console). What its parent has it ignore stays ignored. To be called
-// before other threads begin, which must not take the signals.
+// From now on a request to end the program ends it, whatever its other threads do: it cleans up in a thread of its own,
+// writes one line to standard error, and ends with ExitStatus::kInterrupted (SIGINT, Ctrl-C), kTerminated (SIGTERM,
+// log-off) or kHungUp (SIGHUP, a closed console). Signals that the parent process ignores stay ignored. Call it before
+// other threads begin, because they must not receive the signals.
 void EndWhenAsked(void (*cleanUp)());
 
 }  // namespace hxahost

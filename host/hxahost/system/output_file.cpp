@@ -26,7 +26,7 @@ fs::path WithoutLinks(const fs::path& path) {
 
 constexpr std::string_view kPart = ".part";
 
-// The number of the process that writes what has this name: "result.json.4711.part" of "result.json".
+// The number of the process that writes the file of this name: "result.json.4711.part" of "result.json".
 std::optional<unsigned long> WriterOf(std::string_view name, std::string_view written) {
   if (!name.starts_with(written) || !name.ends_with(kPart)) return std::nullopt;
   const std::size_t begin = written.size() + 1;
@@ -37,7 +37,7 @@ std::optional<unsigned long> WriterOf(std::string_view name, std::string_view wr
   return error == std::errc() && stop == name.data() + end ? std::optional(number) : std::nullopt;
 }
 
-// What programs that were killed have left. Those that still run write theirs.
+// Removes the files that killed programs left, but not those of running programs.
 void RemoveAbandoned(const fs::path& path) {
   const std::string written = Utf8FromPath(path.filename());
   const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";

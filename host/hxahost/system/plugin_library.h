@@ -4,7 +4,7 @@
 
 namespace hxahost {
 
-// Loads a library for good. Throws std::runtime_error with the system's reason.
+// Loads a library permanently. Throws std::runtime_error with the system's reason.
 void LoadPluginLibrary(const std::filesystem::path& file);
 
 }  // namespace hxahost

@@ -7,14 +7,14 @@ namespace fs = std::filesystem;
 
 namespace hxahost {
 
-// A name that is there is somebody else's. On Windows the folder for temporary files belongs to the user alone.
+// An existing name belongs to another program. On Windows only the user can write to the folder for temporary files.
 PrivateFolder::PrivateFolder() {
   std::random_device random;
   do {
     path_ = fs::temp_directory_path() / ("zenx-" + std::to_string(random()) + std::to_string(random()));
   } while (!fs::create_directory(path_));
   fs::permissions(path_, fs::perms::owner_all);
-  // Somebody may have been quicker than the line above.
+  // Another user may have created a file before the line above.
   if (!fs::is_empty(path_)) throw fs::filesystem_error("is not private", path_, {});
 }
 

@@ -4,11 +4,11 @@
 
 namespace hxahost {
 
-// An empty folder for this program's own files, which nobody else may look into; it is gone with all in it when this
-// is.
+// An empty folder for this program's own files, which other users cannot read. The destructor deletes it with its
+// contents.
 class PrivateFolder {
  public:
-  // Throws std::filesystem::filesystem_error where none can be made.
+  // Throws std::filesystem::filesystem_error if it cannot be created.
   PrivateFolder();
   ~PrivateFolder();
   PrivateFolder(const PrivateFolder&) = delete;

@@ -2,8 +2,8 @@
 
 namespace hxahost {
 
-// Makes the program independent of what its parent ignores: ends of children are reported, and output that nobody
-// reads or that has no room is an error of the write.
+// Makes the program independent of the signals that its parent process ignores: ends of children are reported, and a
+// write to a closed pipe or beyond a size limit fails with an error.
 void SetSignals();
 
 }  // namespace hxahost

@@ -2,7 +2,7 @@
 
 namespace hxahost {
 
-// While it lives, standard output takes bytes as they are and a console shows UTF-8.
+// While it exists, standard output passes bytes on unchanged and a console shows UTF-8.
 class StandardStreams {
  public:
   StandardStreams();
@@ -11,7 +11,7 @@ class StandardStreams {
   StandardStreams& operator=(const StandardStreams&) = delete;
 
  private:
-  [[maybe_unused]] unsigned consoleBefore_ = 0;  // the code page of a console that has one
+  [[maybe_unused]] unsigned consoleBefore_ = 0;  // the console's previous code page
 };
 
 }  // namespace hxahost

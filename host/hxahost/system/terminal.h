@@ -8,7 +8,7 @@ namespace hxahost {
 bool StandardErrorIsTerminal();
 bool StandardOutputIsTerminal();
 
-// What the terminal of a stream can show. Asked only where there is one.
+// The abilities of a stream's terminal. Call these only if the stream is a terminal.
 enum class TerminalStream { kOutput, kError };
 std::optional<std::size_t> TerminalWidth(TerminalStream stream);
 bool TerminalShowsUtf8();

@@ -15,7 +15,7 @@ std::filesystem::path ProgramFolder();
 
 unsigned long ProcessId();
 
-// Whether a process of this machine has the number.
+// Whether a process with this number exists on this machine.
 bool IsProcessRunning(unsigned long process);
 
 }  // namespace hxahost

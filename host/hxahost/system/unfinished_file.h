@@ -7,23 +7,23 @@
 
 namespace hxahost {
 
-// A file that is gone with the program, however that ends, unless it was finished. Where the file system cannot do
-// that, a program that is ended by force leaves it under its own name.
+// A file that is deleted when the program ends in any way, unless it was finished. If the file system cannot do that,
+// a killed program leaves it under its own name.
 class UnfinishedFile {
  public:
-  // Begins it, with the rights of the file that it will replace, if that is there.
+  // Begins it, with the rights of the file that it will replace, if there is one.
   UnfinishedFile(std::filesystem::path name, const std::filesystem::path& target);
   ~UnfinishedFile();
   UnfinishedFile(const UnfinishedFile&) = delete;
   UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
-  // Where it is written; null: it cannot be written in that folder.
+  // The buffer to write to; null: the folder does not permit it.
   std::streambuf* Buffer() const { return buffer_.get(); }
 
-  // Why there is no buffer, in the system's words; "" where it does not say.
+  // Why there is no buffer, in the system's words; "" if it reports no reason.
   const std::string& Failure() const { return failure_; }
 
-  // Puts it in the place of the target. False: not all of it could be written, or the target cannot be replaced.
+  // Replaces the target. Returns false if it could not be written completely, or the target cannot be replaced.
   bool Finish();
 
  private:

@@ -14,7 +14,7 @@ namespace {
 
 bool IsOwnedByOthers(const struct stat& file, uid_t user) { return file.st_uid != 0 && file.st_uid != user; }
 
-// What is not there yet may be put there by whoever may write to the folder.
+// Whoever may write to the folder can create an entry that does not exist yet.
 bool OthersMayExchange(const fs::path& entry) {
   struct stat folder {};
   struct stat status {};
@@ -23,7 +23,7 @@ bool OthersMayExchange(const fs::path& entry) {
   return LetsOthersExchange(folder, status, geteuid(), getegid());
 }
 
-// The last step first.
+// Pushes the steps in reverse order, so that the first one is on top.
 void PushSteps(const fs::path& target, std::vector<fs::path>& steps) {
   const std::vector<fs::path> names(target.begin(), target.end());
   steps.insert(steps.end(), names.rbegin(), names.rend());
@@ -49,7 +49,7 @@ bool OthersMayWrite(const std::filesystem::path& path) {
 }
 
 std::vector<fs::path> UnsafeFoldersBehind(const fs::path& link) {
-  constexpr int kMostLinks = 40;  // the system follows no more
+  constexpr int kMostLinks = 40;  // the system's own limit
   std::vector<fs::path> unsafe;
   std::error_code failure;
   if (!fs::is_symlink(link, failure)) return unsafe;
@@ -82,7 +82,7 @@ std::vector<fs::path> UnsafeFoldersBehind(const fs::path& link) {
 void CopyRights(const std::filesystem::path& from, const std::filesystem::path& to) {
   struct stat file {};
   if (stat(from.c_str(), &file) != 0) return;
-  // Before the mode, of which a new owner takes bits away. Most users may give a file to their own groups alone.
+  // Before the mode, as changing the owner clears bits of it. Most users may only give a file to their own groups.
   constexpr auto kSameOwner = static_cast<uid_t>(-1);
   const bool keepsGroup =
       chown(to.c_str(), file.st_uid, file.st_gid) == 0 || chown(to.c_str(), kSameOwner, file.st_gid) == 0;

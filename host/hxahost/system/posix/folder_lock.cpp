@@ -8,7 +8,7 @@
 
 namespace hxahost {
 
-// The folder itself is locked: nothing is left behind in it. The tools do not inherit it.
+// Locks the folder itself, so no file remains in it. The tools do not inherit the lock.
 bool FolderLock::Take() {
   if (handle_ < 0) handle_ = open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   return handle_ < 0 || flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;

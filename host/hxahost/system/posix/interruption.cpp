@@ -25,7 +25,7 @@ constexpr Request kRequests[] = {
     {SIGHUP,  ExitStatus::kHungUp,      "hxahost: Hung up: what ran was ended, and no file was replaced.\n"    },
 };
 
-// A program that is to end does not wait for whoever reads its standard error.
+// Writes only if it does not block, as the program must end even if nobody reads its standard error.
 void Say(std::string_view line) {
   pollfd error{STDERR_FILENO, POLLOUT, 0};
   if (poll(&error, 1, 0) > 0) [[maybe_unused]]

@@ -18,7 +18,7 @@ std::optional<std::size_t> TerminalWidth(TerminalStream stream) {
   return size.ws_col;
 }
 
-// The first of the three that is set decides, also where the system has no locale of that name.
+// The first of the three that is set decides, even if the system has no locale of that name.
 bool TerminalShowsUtf8() {
   for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
     const char* const value = std::getenv(name);

@@ -17,7 +17,7 @@ std::filesystem::path ProgramFolder() { return ProgramFile().parent_path(); }
 
 unsigned long ProcessId() { return static_cast<unsigned long>(getpid()); }
 
-// Numbers that none can have stand for groups of processes in the call.
+// kill reads other numbers as groups of processes.
 bool IsProcessRunning(unsigned long process) {
   if (process == 0 || process > static_cast<unsigned long>(std::numeric_limits<pid_t>::max())) return false;
   return kill(static_cast<pid_t>(process), 0) == 0 || errno != ESRCH;

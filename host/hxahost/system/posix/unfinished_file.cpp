@@ -17,9 +17,9 @@ namespace hxahost {
 
 namespace {
 
-constexpr mode_t kReadAndWrite = 0666;  // without what the user's mask takes away
+constexpr mode_t kReadAndWrite = 0666;  // minus the user's mask
 
-// The file of a descriptor, by a name that the system has for it.
+// The name under which the system lists an open file.
 std::string OpenName(int file) { return "/proc/self/fd/" + std::to_string(file); }
 
 class FileBuffer : public std::filebuf {
@@ -53,7 +53,7 @@ UnfinishedFile::UnfinishedFile(fs::path name, const fs::path& target) : name_(st
 }
 
 UnfinishedFile::~UnfinishedFile() {
-  std::error_code ignored;  // there is nothing left to be done about it
+  std::error_code ignored;  // a destructor cannot report it
   if (isNamed_) fs::remove(name_, ignored);
 }
 
@@ -62,7 +62,7 @@ bool UnfinishedFile::Finish() {
   if (buffer.close() == nullptr) return false;
   std::error_code error;
   if (!isNamed_) {
-    fs::remove(name_, error);  // of a program of the same number, ended between these two
+    fs::remove(name_, error);  // of a killed program with the same number
     isNamed_ = linkat(AT_FDCWD, OpenName(buffer.File()).c_str(), AT_FDCWD, name_.c_str(), AT_SYMLINK_FOLLOW) == 0;
     if (!isNamed_) return false;
   }

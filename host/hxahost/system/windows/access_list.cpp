@@ -6,20 +6,20 @@ namespace hxahost {
 
 namespace {
 
-// Whoever may log on belongs to one of these.
+// Every user who may log on is a member of one of these.
 constexpr WELL_KNOWN_SID_TYPE kOthers[] = {WinWorldSid, WinAuthenticatedUserSid, WinBuiltinUsersSid,
                                            WinBuiltinGuestsSid, WinInteractiveSid};
 
 constexpr DWORD kExchanges = FILE_DELETE_CHILD | DELETE | WRITE_DAC | WRITE_OWNER;
 
-// In a folder the first makes files. Appending is left out: it changes no program, and in a folder, where the same bit
-// makes folders, Windows gives it to everybody from the root of a drive on.
+// In a folder, FILE_WRITE_DATA creates files. FILE_APPEND_DATA is left out: it does not change a program, and in a
+// folder the same bit creates folders, which Windows permits to everybody below the root of a drive.
 constexpr DWORD kChanges = FILE_WRITE_DATA | kExchanges;
 
 bool IsGroup(PSID sid, WELL_KNOWN_SID_TYPE group) { return IsWellKnownSid(sid, group) != 0; }
 
-// What the list gives a group: of each right the first entry that names it decides. What is denied to everyone is
-// denied to the group.
+// The rights that the list gives a group: for each right, the first entry that names it decides. Rights denied to
+// everyone are denied to the group.
 DWORD RightsOf(WELL_KNOWN_SID_TYPE group, ACL& list) {
   GENERIC_MAPPING mapping{FILE_GENERIC_READ, FILE_GENERIC_WRITE, FILE_GENERIC_EXECUTE, FILE_ALL_ACCESS};
   DWORD allowed = 0;

@@ -4,11 +4,11 @@
 
 namespace hxahost {
 
-// Whether an access list of a file or a folder lets any of the groups to which everybody belongs change it. No list at
-// all (null) lets everybody do everything.
+// Whether the access list of a file or a folder lets any of the groups that include everybody change it. No list (null)
+// lets everybody do everything.
 bool LetsOthersWrite(ACL* list);
 
-// Whether the list of a folder lets any of them put something else into the place of what lies in it, or of itself.
+// Whether the list of a folder lets any of them replace an entry of the folder, or the folder itself.
 bool LetsOthersExchange(ACL* list);
 
 }  // namespace hxahost

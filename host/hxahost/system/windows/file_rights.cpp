@@ -20,11 +20,11 @@ struct FreeDescriptor {
 
 using ListReader = bool (*)(ACL* list);
 
-// False where the system does not say.
+// False if the system does not report it.
 bool ListSays(ListReader reader, const fs::path& path) {
   ACL* list = nullptr;
   PSECURITY_DESCRIPTOR descriptor = nullptr;
-  std::wstring name = path.wstring();  // the call takes it without const
+  std::wstring name = path.wstring();  // the call takes a pointer that is not const
   const DWORD failure = GetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
                                               &list, nullptr, &descriptor);
   const std::unique_ptr<void, FreeDescriptor> owned(descriptor);
@@ -36,7 +36,8 @@ bool IsLink(const fs::path& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
 
-// Behind all links; empty where the system does not say. It writes "\\?\C:\tools" and "\\?\UNC\server\share".
+// The path after all links; empty if the system does not report it. It returns "\\?\C:\tools" or
+// "\\?\UNC\server\share".
 fs::path FinalPath(const fs::path& path) {
   constexpr DWORD kAllShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const HANDLE file =
@@ -54,7 +55,7 @@ fs::path FinalPath(const fs::path& path) {
 
 bool OthersMayWrite(const fs::path& path) { return ListSays(LetsOthersWrite, path); }
 
-// The folders of links between the first and the last of a chain are not known.
+// The system does not report the folders of links between the first and the last of a chain.
 std::vector<fs::path> UnsafeFoldersBehind(const fs::path& link) {
   std::vector<fs::path> unsafe;
   if (!IsLink(link)) return unsafe;
@@ -71,7 +72,7 @@ void CopyRights(const std::filesystem::path& from, const std::filesystem::path& 
   PSID owner = nullptr;
   ACL* list = nullptr;
   PSECURITY_DESCRIPTOR descriptor = nullptr;
-  std::wstring name = from.wstring();  // the calls take it without const
+  std::wstring name = from.wstring();  // the calls take a pointer that is not const
   constexpr SECURITY_INFORMATION kOwner = OWNER_SECURITY_INFORMATION;
   const DWORD failure = GetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, kOwner | DACL_SECURITY_INFORMATION, &owner,
                                               nullptr, &list, nullptr, &descriptor);
@@ -84,7 +85,7 @@ void CopyRights(const std::filesystem::path& from, const std::filesystem::path& 
       DACL_SECURITY_INFORMATION | ((control & SE_DACL_PROTECTED) != 0 ? PROTECTED_DACL_SECURITY_INFORMATION
                                                                       : UNPROTECTED_DACL_SECURITY_INFORMATION);
   name = to.wstring();
-  // Another owner may be named by administrators alone.
+  // Only administrators may set another owner.
   if (SetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, kOwner | rights, owner, nullptr, list, nullptr) ==
       ERROR_SUCCESS) {
     return;

@@ -4,7 +4,7 @@
 
 namespace hxahost {
 
-// A file that is opened alone. The system deletes it with its only handle, also when the program is ended by force.
+// A file opened without sharing. The system deletes it with its only handle, even if the program is killed.
 bool FolderLock::Take() {
   const auto file = CreateFileW((folder_ / "hxahost.lock").c_str(), GENERIC_WRITE | DELETE, 0, nullptr, OPEN_ALWAYS,
                                 FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, nullptr);

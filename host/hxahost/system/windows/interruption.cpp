@@ -29,7 +29,7 @@ constexpr Request kRequests[] = {
 
 void (*cleanUpAtEnd)() = nullptr;
 
-// Windows calls it in a thread of its own.
+// Windows calls it in a separate thread.
 BOOL WINAPI End(DWORD event) {
   for (const Request& request : kRequests) {
     if (request.event != event) continue;
@@ -37,7 +37,7 @@ BOOL WINAPI End(DWORD event) {
     DWORD written = 0;
     WriteFile(GetStdHandle(STD_ERROR_HANDLE), request.line.data(), static_cast<DWORD>(request.line.size()), &written,
               nullptr);
-    // Not ExitProcess, which waits for locks of threads that it has ended.
+    // Not ExitProcess, which waits for locks that the ended threads held.
     TerminateProcess(GetCurrentProcess(), static_cast<UINT>(request.status));
   }
   return FALSE;

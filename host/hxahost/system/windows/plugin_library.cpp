@@ -23,11 +23,11 @@ std::string SystemMessage(DWORD error) {
 
 }  // namespace
 
-// What the plug-in needs is found beside it and in the system's folders. The working directory, in which anything may
-// lie, is searched neither now nor for a library that one of these loads later.
+// The libraries of the plug-in are beside it and in the system's folders. The working directory may contain any file,
+// so it is not searched, neither now nor for a library that one of these loads later.
 void LoadPluginLibrary(const std::filesystem::path& file) {
   SetDllDirectoryW(L"");
-  SetErrorMode(SEM_FAILCRITICALERRORS);  // no window that waits for somebody to close it
+  SetErrorMode(SEM_FAILCRITICALERRORS);  // no message box that waits for a click
   const auto library =
       LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS);
   if (library == nullptr) throw std::runtime_error(SystemMessage(GetLastError()));

@@ -14,7 +14,7 @@ bool StandardOutputIsTerminal() {
   return GetConsoleMode(GetStdHandle(STD_OUTPUT_HANDLE), &mode) != 0;
 }
 
-// The window's width: the buffer behind it may be wider.
+// The width of the window: the console's buffer may be wider.
 std::optional<std::size_t> TerminalWidth(TerminalStream stream) {
   CONSOLE_SCREEN_BUFFER_INFO info{};
   const DWORD handle = stream == TerminalStream::kOutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE;
@@ -25,7 +25,7 @@ std::optional<std::size_t> TerminalWidth(TerminalStream stream) {
 
 bool TerminalShowsUtf8() { return GetConsoleOutputCP() == CP_UTF8; }
 
-// Older consoles show escape sequences as text: they must be asked to read them.
+// Older consoles show escape sequences as text unless this mode is set.
 bool TerminalTakesColours() {
   constexpr DWORD kReadSequences = 0x0004;
   const auto output = GetStdHandle(STD_OUTPUT_HANDLE);

@@ -18,7 +18,7 @@ struct FreeArguments {
 
 }  // namespace
 
-// The narrow arguments have lost what the ANSI code page lacks; the command line has all of it.
+// The narrow arguments lack characters that the ANSI code page lacks; the command line has every character.
 std::vector<std::string> ProgramArguments(int, char**) {
   int count = 0;
   const std::unique_ptr<wchar_t*, FreeArguments> wide(CommandLineToArgvW(GetCommandLineW(), &count));
@@ -30,7 +30,7 @@ std::vector<std::string> ProgramArguments(int, char**) {
 }
 
 std::filesystem::path ProgramFile() {
-  std::wstring name(32768, L'\0');  // the longest path that there is
+  std::wstring name(32768, L'\0');  // the longest possible path
   name.resize(GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
   return name;
 }
@@ -39,7 +39,7 @@ std::filesystem::path ProgramFolder() { return ProgramFile().parent_path(); }
 
 unsigned long ProcessId() { return GetCurrentProcessId(); }
 
-// Somebody else's may not be opened.
+// Processes of other users cannot be opened.
 bool IsProcessRunning(unsigned long process) {
   const HANDLE opened = OpenProcess(SYNCHRONIZE, FALSE, process);
   if (opened == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;

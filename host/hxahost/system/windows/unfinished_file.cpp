@@ -14,7 +14,7 @@ namespace hxahost {
 
 namespace {
 
-// A file that Windows deletes with its handle, unless that is taken back.
+// A file that Windows deletes with its handle, unless that is revoked.
 class FileBuffer : public std::streambuf {
  public:
   explicit FileBuffer(const fs::path& name)
@@ -29,7 +29,7 @@ class FileBuffer : public std::streambuf {
 
   bool IsOpen() const { return file_ != INVALID_HANDLE_VALUE; }
 
-  // False where not all of it was written: then it is deleted.
+  // Returns false if it was not written completely: then it is deleted.
   bool Keep() { return sync() == 0 && SetDeletion(false); }
 
   void Close() {
@@ -64,14 +64,14 @@ class FileBuffer : public std::streambuf {
 
 }  // namespace
 
-// Nobody can open it before it is finished, so that its rights can wait until then.
+// Nobody else can open it before it is finished, so its rights can be set then.
 UnfinishedFile::UnfinishedFile(fs::path name, const fs::path& target) : name_(std::move(name)), target_(target) {
   auto buffer = std::make_unique<FileBuffer>(name_);
   if (buffer->IsOpen()) buffer_ = std::move(buffer);
 }
 
 UnfinishedFile::~UnfinishedFile() {
-  std::error_code ignored;  // there is nothing left to be done about it
+  std::error_code ignored;  // a destructor cannot report it
   if (isNamed_) fs::remove(name_, ignored);
 }
 
