@@ -84,7 +84,7 @@ TCIMDateTime::TCIMDateTime(std::uint16_t year, std::uint16_t month, std::uint32_
       utcOffsetMinutes_(utcOffsetMinutes) {}
 
 std::string TCIMDateTime::ToString() const {
-  // Numbers that the form has no room for lengthen it; nothing is cut off.
+  // Numbers that are too large make the text longer; nothing is cut off.
   return fmt::format("{:04}{:02}{:02}{:02}{:02}{:02}.{:06}{:+04}", year_, month_, day_, hour_, minute_, second_,
                      microseconds_, utcOffsetMinutes_);
 }

@@ -11,13 +11,13 @@ namespace NKVRHXA20 {
 
 namespace {
 
-// The log that plug-ins know. Where an entry goes is the services' business.
+// The log of plug-ins, passed on to the current services.
 class TCoreLogger final : public ILogger {
  public:
   void Log(int level, const std::string& message) override { CurrentServices().log(level, message); }
 };
 
-// One of each for the process, as plug-ins reach them through static operations.
+// One of each for the process, because plug-ins call static functions.
 struct HostState {
   HostServices services = RealServices();
   TCoreLogger logger;

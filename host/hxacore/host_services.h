@@ -16,8 +16,8 @@ namespace NKVRHXA20 {
 using SpawnFunction =
     std::function<SpawnResult(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds)>;
 
-// All that plug-ins get from outside comes through one value of this kind. A program replaces it, whole or in part, to
-// script, record or replay.
+// Everything that plug-ins receive from outside comes through one value of this kind. A program replaces it, completely
+// or in part, to script, record or replay.
 struct HostServices {
   SpawnFunction spawn;
   std::function<std::string(const std::string& path)> capture;
@@ -26,14 +26,14 @@ struct HostServices {
   std::function<void(int level, const std::string& message)> log;
 };
 
-// The services of the system: real processes, real files, its clock and name; the log goes nowhere.
+// The services of the system: real processes, real files, its clock and name; log entries are dropped.
 HXACORE_API HostServices RealServices();
 
-// The services in force are RealServices() until they are replaced. Not to be called while a query runs.
+// The current services are RealServices() until they are replaced. Do not call it while a query runs.
 HXACORE_API const HostServices& CurrentServices();
 HXACORE_API void SetServices(HostServices services);
 
-// What TRootObject::GetPluginManager() gives.
+// Sets the value that TRootObject::GetPluginManager() returns.
 HXACORE_API void SetPluginManager(boost::shared_ptr<ICIMNamespace> manager);
 
 }  // namespace NKVRHXA20

@@ -5,7 +5,7 @@
 
 namespace NKVRHXA20 {
 
-// CIM names are ASCII and compare without regard to case, whatever the locale says of a letter.
+// CIM names are ASCII and are compared without regard to case, independent of the locale.
 constexpr char LowerCase(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }

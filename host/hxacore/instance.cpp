@@ -17,7 +17,7 @@ namespace NKVRHXA20 {
 
 namespace {
 
-// The value that the property had when it was asked for.
+// The value of the property at the time of the call.
 class TProperty final : public ICIMProperty {
  public:
   explicit TProperty(TCIMValue value) : value_(std::move(value)) {}
@@ -27,8 +27,8 @@ class TProperty final : public ICIMProperty {
   TCIMValue value_;
 };
 
-// A name as it was set, without a copy of it for every instance. Spellings other than the declared one are few, and
-// kept to the end of the process.
+// A name as it was set, without a copy for every instance. Spellings other than the declared one are rare, and are kept
+// until the process ends.
 std::string_view Spelling(std::string_view declared, const std::string& asSet) {
   if (asSet == declared) return declared;
   static std::mutex mutex;
@@ -84,9 +84,8 @@ void TInstance::SetProperty(const std::string& name, const TCIMValue& value, con
   }
 }
 
-// A reference names no namespace: it stays within its own. With one, a link that the repository keeps would keep the
-// repository. A key that has no value is left out: the path says only what is known. All references to a committed
-// instance share their keys.
+// The reference contains no namespace: with one, a link that the repository keeps would keep the repository. A key
+// without a value is left out. All references to a committed instance share their keys.
 TCIMReference TInstance::Reference() const {
   if (reference_) return *reference_;
   TPropertyMap keys;

@@ -12,13 +12,13 @@
 
 namespace NKVRHXA20 {
 
-// An instance from its creation to what the host keeps of it. Committing hands it to the host; from then on it stays
-// as it is: a second commit and a property that is set later are THXAException.
+// An instance, from its creation on. Committing passes it to the host and makes it immutable: a second commit, or
+// setting a property later, throws THXAException.
 class TInstance final : public ICIMInstance,
                         public TPublishedInstance,
                         public boost::enable_shared_from_this<TInstance> {
  public:
-  // What keeps the instance when it is committed.
+  // Receives the instance when it is committed.
   using TKeep = std::function<void(const boost::shared_ptr<TInstance>&)>;
 
   // The values of the keys that the host adds. All instances of a repository share them.
@@ -41,9 +41,9 @@ class TInstance final : public ICIMInstance,
 
   const ClassDeclaration& declaration_;
   TSystemKeys systemKeys_;
-  TKeep keep_;  // empty once committed, which also lets go of the host's lists
+  TKeep keep_;  // empty once committed, which also releases the host's lists
   std::vector<PublishedProperty> properties_;
-  mutable std::unique_ptr<const TCIMReference> reference_;  // made when first asked for after the commit
+  mutable std::unique_ptr<const TCIMReference> reference_;  // made at the first call after the commit
 };
 
 }  // namespace NKVRHXA20

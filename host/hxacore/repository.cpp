@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kComputerSystem = "KVRSG_ComputerSystem";
 constexpr const char* kOperatingSystem = "KVRSG_OperatingSystem";
 
-// What the repository holds. Classes and instances that are not committed yet share it.
+// The contents of the repository, shared with its classes and uncommitted instances.
 struct Contents {
   std::map<const ClassDeclaration*, std::vector<boost::shared_ptr<TInstance>>> instances;
   std::vector<boost::shared_ptr<const TPublishedInstance>> published;  // by the query, over all classes
@@ -52,7 +52,7 @@ class TClass final : public ICIMClass {
                                          });
   }
 
-  // Over a copy of the list: the callback may commit further instances, which are not part of this enumeration.
+  // Uses a copy of the list: the callback may commit further instances, which are not part of this enumeration.
   void EnumerateInstances(const TCallbackHolder<ICIMInstance>& callback, bool, const TPropertyMap&) override {
     const auto instances = contents_->instances[&declaration_];
     for (const auto& instance : instances) callback.Call(instance);
@@ -100,7 +100,7 @@ class TRepositoryOfInstances final : public TRepository {
   }
 
  private:
-  // Makes the one instance of a class of the host.
+  // Makes the only instance of a class of the host.
   void Keep(const char* className, const TPropertyMap& properties) {
     const auto keep = [this](const boost::shared_ptr<TInstance>& own) { contents_->instances[&own->Class()] = {own}; };
     const auto own = boost::make_shared<TInstance>(Known(className), contents_->systemKeys, keep);

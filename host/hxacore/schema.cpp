@@ -35,19 +35,19 @@ constexpr PropertyDeclaration Key(PropertyDeclaration property) {
   return property;
 }
 
-// The same property, of another origin.
+// The same property with another origin.
 constexpr PropertyDeclaration From(std::string_view origin, PropertyDeclaration property) {
   property.origin = origin;
   return property;
 }
 
-// An end of an association: both ends together name it.
+// An end of an association: both ends together are its key.
 constexpr PropertyDeclaration End(std::string_view name, std::string_view referencedClass, std::string_view description,
                                   std::string_view origin = "") {
   return {name, kCIMReference, false, true, referencedClass, description, origin};
 }
 
-// What several classes have in common, said once.
+// Properties that several classes have.
 constexpr auto kSystemClass =
     Key(Text("SystemCreationClassName", "Class of the computer system that the device is in.", "fixed text"));
 constexpr auto kOwnClass =
@@ -55,7 +55,7 @@ constexpr auto kOwnClass =
 constexpr auto kSystemName =
     Key(Text("SystemName", "Name of the machine that the device is in.", "host: name of the machine"));
 
-// What tells the objects of two machines apart where the plug-in publishes nothing that does.
+// Distinguishes the objects of two machines if no property of the plug-in does.
 constexpr PropertyDeclaration kMachine[] = {
     Key(Text("SystemCreationClassName", "Class of the computer system that the object belongs to.",
              "fixed text, added by the host")),
@@ -295,7 +295,7 @@ constexpr PropertyDeclaration kRaidManagerEvents[] = {
     kOwnClass,
     From("fixed text, with RAIMgr in it, as it has always been", kLogClass),
     kLogName,
-    // No key: the log can give a time that there is none of, and a key needs a value.
+    // Not a key: the log can contain an impossible time, and a key needs a value.
     From("RAID manager's log: first field, with the offset of its zone", kMessageTime),
     From("number of the record, counted on for the life of the process", kRecordId),
     Text("Severity", "How serious the event is, as the RAID manager says.", "RAID manager's log: second field"),
@@ -414,13 +414,13 @@ constexpr PropertyDeclaration kOperatingSystems[] = {
     Number("OSType", "Kind of operating system, by the numbers of CIM_OperatingSystem."),
 };
 
-// A class whose instances need no further key.
+// A class that needs no further key.
 constexpr ClassDeclaration Things(std::string_view name, std::string_view description,
                                   std::span<const PropertyDeclaration> properties) {
   return {name, description, false, properties};
 }
 
-// A class whose instances the host's keys tell from those of another machine.
+// A class to which the host adds keys that distinguish machines.
 constexpr ClassDeclaration OfMachine(std::string_view name, std::string_view description,
                                      std::span<const PropertyDeclaration> properties) {
   return {name, description, false, properties, kMachine};
@@ -485,7 +485,7 @@ const ClassDeclaration* FindClass(std::string_view name) {
 }
 
 const PropertyDeclaration* FindProperty(const ClassDeclaration& declaration, std::string_view name) {
-  // Nearly every name is spelt as it is declared, and texts that are equal are found fastest.
+  // Nearly every name is spelt as declared, and comparing for equality is fastest.
   auto found = std::ranges::find(declaration.properties, name, &PropertyDeclaration::name);
   if (found == declaration.properties.end()) {
     found = std::ranges::find_if(declaration.properties, [&](const PropertyDeclaration& property) {

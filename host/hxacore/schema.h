@@ -14,9 +14,10 @@ struct PropertyDeclaration {
   ECIMType type;
   bool isArray;
   bool isKey;
-  std::string_view referencedClass;  // of a reference; "" otherwise
+  std::string_view referencedClass;  // for references; otherwise ""
   std::string_view description;
-  std::string_view origin = {};  // where the value comes from, in words; "" where the labels of the tools say it all
+  std::string_view origin =
+      {};  // the source of the value in words; "" if the labels of the tools explain it completely
 };
 
 // One class of the repository.
@@ -24,20 +25,20 @@ struct ClassDeclaration {
   std::string_view name;
   std::string_view description;
   bool isAssociation;
-  std::span<const PropertyDeclaration> properties;      // that the plug-in publishes
-  std::span<const PropertyDeclaration> systemKeys = {};  // that the host adds: the machine, where no property is it
+  std::span<const PropertyDeclaration> properties;       // published by the plug-in
+  std::span<const PropertyDeclaration> systemKeys = {};  // added by the host: the machine, if no property identifies it
 };
 
 // The classes that the plug-in publishes, in the order of its catalogue.
 HXACORE_API std::span<const ClassDeclaration> PublishedClasses();
 
-// Those classes and the machine's own, which exports have one instance of.
+// Those classes and the machine's own, of which exports contain one instance.
 HXACORE_API std::span<const ClassDeclaration> ExportedClasses();
 
-// Any class that the repository knows, found without regard to case; null where there is none.
+// Any class of the repository, found without regard to case; null if there is none.
 HXACORE_API const ClassDeclaration* FindClass(std::string_view name);
 
-// A property of a class, none of its system keys, found without regard to case; null where there is none.
+// A property of a class except its system keys, found without regard to case; null if there is none.
 HXACORE_API const PropertyDeclaration* FindProperty(const ClassDeclaration& declaration, std::string_view name);
 
 }  // namespace NKVRHXA20

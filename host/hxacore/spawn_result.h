@@ -10,22 +10,22 @@
 
 namespace NKVRHXA20 {
 
-// How a program ended that somebody else has reaped.
+// The ending of a program whose exit status was collected elsewhere.
 inline constexpr const char* kUnknownEnding = "unknown";
 
-// What is left of a program that was run to its end.
+// The result of a program that ended by itself.
 struct SpawnResult {
   SpawnResult() = default;
-  // A text alone is an answer too: scripts and recordings need not know more.
+  // A text is a result, too: scripts and recordings need no more.
   SpawnResult(std::string text) : output(std::move(text)) {}
 
   std::string output;
-  std::optional<std::int64_t> exitStatus;  // none: not known, or the system ended it
-  std::string ending;                      // how it ended where it has no exit status: "signal 11"
-  double seconds = 0;                      // that it took
+  std::optional<std::int64_t> exitStatus;  // empty: not known, or the system ended it
+  std::string ending;                      // if there is no exit status: "signal 11"
+  double seconds = 0;                      // its duration
 };
 
-// Why a program gave nothing.
+// Why a program returned nothing.
 enum class SpawnFailure {
   kNotInstalled,  // there is no such file
   kNotAsked,      // the host does not run it any more
@@ -34,13 +34,13 @@ enum class SpawnFailure {
   kTooMuchOutput,
 };
 
-// What a spawn service throws: to the plug-in an exception as any other, to the host one with a reason it can tell.
+// The exception of a spawn service: for the plug-in an ordinary exception, for the host one with a reason.
 class HXACORE_API TSpawnException : public THXAException {
  public:
   TSpawnException(SpawnFailure failure, const std::string& message, double seconds = 0);
   ~TSpawnException() override;
   SpawnFailure Failure() const { return failure_; }
-  double Seconds() const { return seconds_; }  // that the run took
+  double Seconds() const { return seconds_; }  // the duration of the run
 
  private:
   SpawnFailure failure_;

@@ -10,8 +10,7 @@ namespace NKVRHXA20 {
 
 enum class ValueKind { kNone, kString, kUInt16, kUInt32, kDateTime, kReference, kArray };
 
-// What the host needs to see of a value to show it. An accessor for another kind than the value's own must not be
-// called.
+// Reads a value for display. Do not call an accessor for another kind than the value's own.
 class HXACORE_API TCIMValueReader {
  public:
   static ValueKind Kind(const TCIMValue& value);
@@ -28,11 +27,11 @@ class HXACORE_API TCIMReferenceFactory {
  public:
   static TCIMReference Make(const boost::shared_ptr<ICIMNamespace>& nameSpace, const std::string& className,
                             const TPropertyMap& keys);
-  static const std::string& ClassName(const TCIMReference& reference);  // "" where only keys were given
+  static const std::string& ClassName(const TCIMReference& reference);  // "" if only keys were given
   static const TPropertyMap& Keys(const TCIMReference& reference);
 
-  // The object path: Class.Key="value",..., keys in order of name, numbers bare, texts and references quoted with
-  // \ and " escaped by a \ before them.
+  // The object path: Class.Key="value",..., keys in order of name, numbers without quotes, texts and references in
+  // quotes with a \ before each \ and ".
   static std::string ObjectPath(const TCIMReference& reference);
 };
 

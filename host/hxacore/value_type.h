@@ -7,8 +7,8 @@
 
 namespace NKVRHXA20 {
 
-// Whether a property may have the value: it has the declared type, or is empty. A reference that names a class names
-// the declared one.
+// Whether a property may have the value: it has the declared type, or is empty. A reference with a class name must name
+// the declared class.
 HXACORE_API bool HasDeclaredType(const TCIMValue& value, const PropertyDeclaration& declared);
 
 // The type's name in CIM: "string", "uint32".

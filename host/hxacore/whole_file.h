@@ -9,18 +9,18 @@
 
 namespace NKVRHXA20 {
 
-// The bytes of a file, or why they are not all of it.
+// The bytes of a file, and the reason if they are incomplete.
 struct WholeFile {
-  std::string bytes;    // as far as it could be read
-  std::string refusal;  // "Permission denied"; of a file that was read to its end, ""
+  std::string bytes;    // as far as they could be read
+  std::string refusal;  // "Permission denied"; "" if the file was read to its end
   bool isTooLarge = false;
 };
 
-// Reads an ordinary file up to where reading finds the end, not up to its size: a log may grow meanwhile, and files of
-// the system have none. What holds more than so many bytes is refused.
+// Reads an ordinary file up to its end, not up to its size: a log may grow during reading, and files of the system have
+// no size. A larger file is rejected.
 HXACORE_API WholeFile ReadWholeFile(const std::filesystem::path& path, std::uint64_t largest = kLargestInput);
 
-// The same of what a plug-in names. Throws THXAException with path and reason.
+// The same for a path from a plug-in. Throws THXAException with path and reason.
 HXACORE_API std::string CaptureFile(const std::string& path, std::uint64_t largest = kLargestInput);
 
 }  // namespace NKVRHXA20

@@ -13,7 +13,7 @@ class TPluginManagerProvider {};
 
 struct TPluginManagerNamespace::TState {
   std::vector<IPluginCallbacks*> plugins;
-  TPluginManagerProvider provider;  // plug-ins do nothing with it
+  TPluginManagerProvider provider;  // plug-ins do not use it
 };
 
 TPluginManagerNamespace::TPluginManagerNamespace() : state_(boost::make_shared<TState>()) {}

@@ -11,13 +11,13 @@ namespace NKVRHXA20 {
 // The host's side of the plug-in manager.
 class PLUGIN_NSP_API TPluginManagerAccess {
  public:
-  // Makes a plug-in manager and makes it the one that TRootObject::GetPluginManager() gives.
+  // Makes a plug-in manager, which TRootObject::GetPluginManager() then returns.
   static boost::shared_ptr<TPluginManagerNamespace> Install();
 
   // The plug-ins in the order in which they registered.
   static const std::vector<IPluginCallbacks*>& Plugins(const TPluginManagerNamespace& manager);
 
-  // Releases every plug-in through its Release operation and forgets it.
+  // Releases every plug-in through its Release operation and removes it from the list.
   static void ReleasePlugins(TPluginManagerNamespace& manager);
 };
 

@@ -12,35 +12,35 @@
 
 namespace NKVRHXA20 {
 
-// A program that was started, below a keeper (see keeper.h), and what the keeper has said of it until now.
+// A program that was started, below a keeper (see keeper.h), and the keeper's reports so far.
 struct ChildProcess {
   pid_t keeper = -1;
-  TDescriptor output;  // where its standard output and standard error arrive
+  TDescriptor output;  // receives its standard output and standard error
   TRunSocket reports;
-  bool isKept = true;  // the keeper has not ended
-  pid_t process = 0;   // 0: not known yet
+  bool isKept = true;  // the keeper is running
+  pid_t process = 0;   // 0: not yet known
   int startFailure = 0;
-  std::optional<int> waitStatus;  // how it ended, as waitpid says; none: it runs, or nobody knows
+  std::optional<int> waitStatus;  // of waitpid; empty: it runs, or its end is unknown
 };
 
-// Starts the program with the null device as standard input, and none of the host's files. Whether that succeeds is
-// known when it has ended. Throws TSpawnException when the system has no room for another process, and when an earlier
-// run of the program goes on that could not be ended.
+// Starts the program with the null device as standard input, and none of the host's files. The success of the start is
+// known when the program has ended. Throws TSpawnException if the system cannot create another process, or if an
+// earlier run of the program could not be ended and still runs.
 ChildProcess StartProcess(const std::string& path, const std::vector<std::string>& arguments);
 
 using Deadline = std::chrono::steady_clock::time_point;
 
-// How reading the output of a program came to its end.
+// Why reading the output of a program ended.
 enum class OutputEnd {
   kComplete,  // the program has ended
   kTooLong,   // the deadline passed
   kTooMuch,   // it wrote more than kOutputLimit bytes
 };
 
-// Appends what the program writes, until it has ended.
+// Appends the output of the program until it ends.
 OutputEnd CollectOutput(ChildProcess& child, Deadline deadline, std::string& output);
 
-// Ends the program and all that it has started. False: the system could not end one of them within some seconds.
+// Ends the program and every process that it started. False: the system could not end one of them within some seconds.
 bool EndProcessTree(ChildProcess& child);
 
 }  // namespace NKVRHXA20

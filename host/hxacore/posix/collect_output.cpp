@@ -24,7 +24,7 @@ milliseconds Remaining(Deadline deadline) {
   return std::clamp(left, milliseconds(0), milliseconds(std::numeric_limits<int>::max()));
 }
 
-// Reads once, what is there or would come next. False: the pipe is at its end.
+// Reads once, waiting if nothing is there. False: the pipe is at its end.
 bool ReadSome(int descriptor, std::string& output, std::size_t atMost) {
   std::array<char, std::size_t{64} << 10U> buffer;
   const ssize_t count = read(descriptor, buffer.data(), std::min(buffer.size(), atMost));
@@ -35,7 +35,7 @@ bool ReadSome(int descriptor, std::string& output, std::size_t atMost) {
 
 bool IsTooMuch(const std::string& output) { return output.size() > kOutputLimit; }
 
-// One report of the keeper's, or its end. A program that was not started ends, too.
+// Reads one report of the keeper, or its end. A program that was not started counts as ended.
 void ReadReport(ChildProcess& child) {
   KeeperReport report{};
   const ssize_t size = recv(child.reports.Get(), &report, sizeof report, 0);
@@ -51,8 +51,8 @@ void ReadReport(ChildProcess& child) {
   }
 }
 
-// The program has ended: all that it wrote lies in the pipe. Only that is read, because what it has started may write
-// for ever.
+// The program has ended: all of its output is in the pipe. Only that is read, because processes that it started may
+// write for ever.
 void TakeTheRest(int descriptor, std::string& output) {
   int waiting = 0;
   ioctl(descriptor, FIONREAD, &waiting);
@@ -70,7 +70,7 @@ OutputEnd CollectOutput(ChildProcess& child, Deadline deadline, std::string& out
     if (left.count() == 0) return OutputEnd::kTooLong;
     pollfd waits[] = {
         {child.reports.Get(),                   POLLIN, 0},
-        {isOpen ? child.output.Get() : int{-1}, POLLIN, 0}  // -1 is passed over
+        {isOpen ? child.output.Get() : int{-1}, POLLIN, 0}  // poll ignores -1
     };
     poll(waits, 2, static_cast<int>(left.count()));
     if (waits[0].revents != 0) {

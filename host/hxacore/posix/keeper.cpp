@@ -29,8 +29,8 @@ void Report(KeeperReport report) {
 
 int AboveStandardFiles(int file) { return file > STDERR_FILENO ? file : fcntl(file, F_DUPFD, STDERR_FILENO + 1); }
 
-// The null device as standard input, the output twice, and the socket. Nothing else of the host's files may live on
-// here: neither a lock nor the end of a pipe that somebody waits for.
+// The null device as standard input, the output twice, and the socket. No other file of the host may stay open here,
+// such as a lock or the end of a pipe that a process waits for.
 void TakeFiles(int output, int host) {
   output = AboveStandardFiles(output);
   host = AboveStandardFiles(host);
@@ -42,8 +42,8 @@ void TakeFiles(int output, int host) {
   closefrom(kHost + 1);
 }
 
-// A group of its own, and signals as at the start of a session: what the host blocks or ignores is its own business.
-// Where somebody ends the keeper, the system ends the program at least.
+// Starts a group of its own and resets signals, independent of those that the host blocks or ignores. If the keeper is
+// killed, the system ends at least the program.
 [[noreturn]] void BecomeProgram(const KeptProgram& program, pid_t keeper) {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (getppid() != keeper) _exit(127);
@@ -58,8 +58,8 @@ void TakeFiles(int output, int host) {
   _exit(127);
 }
 
-// Lets go of those that have ended. The program's number is 0 afterwards where it is one of them: it may come to mean
-// another process. False: nobody is left.
+// Collects children that have ended. If the program is one of them, its number becomes 0, as another process may get
+// the number. False: none is left.
 bool LetGo(pid_t& program) {
   int status = 0;
   for (pid_t ended = waitpid(-1, &status, WNOHANG); ended != 0; ended = waitpid(-1, &status, WNOHANG)) {
@@ -71,7 +71,7 @@ bool LetGo(pid_t& program) {
   return true;
 }
 
-// Waits until a child ends, the host wants the end of all, or the time is over (null: never). Says what the host wants.
+// Waits until a child ends, the host requests the end of all, or the time is over (null: never). Returns the request.
 bool WaitForChange(int host, const timespec* time) {
   sigset_t noChildEnds;
   sigfillset(&noChildEnds);
@@ -80,11 +80,11 @@ bool WaitForChange(int host, const timespec* time) {
   return ppoll(&wait, 1, time, &noChildEnds) > 0;
 }
 
-// Children of this process cannot have been replaced by others: nobody else lets go of them. What they have started
-// become children, too, when they have ended. A kernel without the list ends the program's group.
+// The numbers of this process's children cannot have been reused: only this process collects them. Processes that they
+// started become children when they have ended. On a kernel without the list, the program's group is ended.
 void EndChildren(pid_t program) {
   if (program != 0) kill(-program, endingSignal);
-  std::array<char, 4096> text;  // "417 418 ": should it be too long, the others have their turn later
+  std::array<char, 4096> text;  // "417 418 ": if it is too long, the others follow in the next call
   const int list = open("/proc/thread-self/children", O_RDONLY | O_CLOEXEC);
   const ssize_t size = read(list, text.data(), text.size());
   close(list);
@@ -98,8 +98,8 @@ void EndChildren(pid_t program) {
   }
 }
 
-// As long as one is left, the program's file is locked: it is not run again meanwhile, by whatever host. The system
-// cannot end a process that waits for a broken controller before the controller answers.
+// As long as a process is left, the program's file is locked, so no host runs it again. The system cannot end a process
+// that waits for a broken controller before the controller answers.
 void EndAll(const KeptProgram& program, pid_t process) {
   const int file = open(program.path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   timespec pause{0, 1'000'000};
@@ -114,11 +114,11 @@ void EndAll(const KeptProgram& program, pid_t process) {
 }  // namespace
 
 void Keep(const KeptProgram& program) {
-  setsid();  // no terminal asks it to end
+  setsid();  // no terminal sends it signals
   prctl(PR_SET_CHILD_SUBREAPER, 1);
   prctl(PR_SET_NAME, "zenx-keeper");
   TakeFiles(program.output, program.host);
-  std::signal(SIGCHLD, [](int) {});  // blocked but where it waits for a change
+  std::signal(SIGCHLD, [](int) {});  // blocked except in WaitForChange
   const pid_t keeper = getpid();
   pid_t process = fork();
   if (process == 0) BecomeProgram(program, keeper);

@@ -23,7 +23,7 @@ struct Runs {
   std::set<int> sockets;
 };
 
-// Never destroyed: a run may still go on in a thread when the program ends.
+// Never destroyed: a thread may still be running a program when this process ends.
 Runs& AllRuns() {
   static auto* const runs = new Runs;
   return *runs;
@@ -50,14 +50,14 @@ TRunSocket::~TRunSocket() {
   close(socket_);
 }
 
-// The mutex stays locked: no run begins any more, and none closes a socket that is waited for here.
+// The mutex stays locked: no run begins any more, and no run closes a socket that is waited for here.
 void StopRuns() {
   AllRuns().mutex.lock();
   const auto giveUp = steady_clock::now() + kPatience;
   for (const int socket : AllRuns().sockets) shutdown(socket, SHUT_WR);
   for (const int socket : AllRuns().sockets) {
     const auto left = std::chrono::ceil<milliseconds>(giveUp - steady_clock::now());
-    pollfd keeper{socket, 0, 0};  // closed by the keeper's end
+    pollfd keeper{socket, 0, 0};  // reports the keeper's end
     poll(&keeper, 1, left.count() > 0 ? static_cast<int>(left.count()) : 0);
   }
 }

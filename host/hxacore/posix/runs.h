@@ -2,7 +2,7 @@
 
 namespace NKVRHXA20 {
 
-// The host's end of a socket to a keeper (see keeper.h), known to StopRuns as long as it is open; or none.
+// The host's end of a socket to a keeper (see keeper.h), registered for StopRuns while it is open; or none.
 class TRunSocket {
  public:
   TRunSocket() = default;

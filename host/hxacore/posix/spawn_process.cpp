@@ -22,7 +22,7 @@ void SetEnd(std::optional<int> waitStatus, SpawnResult& result) {
   }
 }
 
-// "No such file" may be about the interpreter of a script, or about what a link leads to.
+// "No such file" may refer to the interpreter of a script, or to the target of a link.
 bool IsThere(const std::string& path) {
   struct stat status {};
   return lstat(path.c_str(), &status) == 0 || errno != ENOENT;

@@ -27,7 +27,7 @@ bool ChoosesLocale(std::string_view variable) {
   return variable.starts_with("LC_") || variable.starts_with("LANG=") || variable.starts_with("LANGUAGE=");
 }
 
-// The host's environment with the C locale, so that the tools answer in the words that the parsers know.
+// The host's environment with the C locale, so that the tools print the words that the parsers expect.
 std::vector<char*> ChildEnvironment() {
   static char cLocale[] = "LC_ALL=C";
   std::vector<char*> variables;
@@ -38,7 +38,7 @@ std::vector<char*> ChildEnvironment() {
   return variables;
 }
 
-// The callee takes the texts as it finds them, without const, and does not write to them.
+// The called function takes the texts without const, but does not write to them.
 std::vector<char*> ArgumentPointers(const std::string& path, const std::vector<std::string>& arguments) {
   std::vector<char*> pointers{const_cast<char*>(path.c_str())};
   for (const std::string& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
@@ -46,13 +46,13 @@ std::vector<char*> ArgumentPointers(const std::string& path, const std::vector<s
   return pointers;
 }
 
-// A keeper that could not end all of an earlier run has the file locked. One of a host that was just killed may be
-// about to end them.
+// A keeper that could not end every process of an earlier run has locked the file. The keeper of a host that was just
+// killed may still be ending them.
 void WaitForEarlierRuns(const std::string& path) {
   constexpr milliseconds kWait{500};
   constexpr milliseconds kAskAgain{5};
   const TDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (file.Get() < 0) return;  // whoever starts it says why
+  if (file.Get() < 0) return;  // starting it will report the reason
   const auto giveUp = steady_clock::now() + kWait;
   while (flock(file.Get(), LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
     if (steady_clock::now() >= giveUp) ThrowNotStarted(path, "an earlier run of it cannot be ended and goes on");
@@ -60,7 +60,7 @@ void WaitForEarlierRuns(const std::string& path) {
   }
 }
 
-// Forks the keeper, which no signal of the host's reaches.
+// Forks the keeper, which receives no signal of the host.
 pid_t StartKeeper(const KeptProgram& program) {
   sigset_t all;
   sigset_t before;

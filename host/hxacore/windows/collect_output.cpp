@@ -19,11 +19,11 @@ bool HasEnded(const ChildProcess& child, DWORD wait) {
 
 bool IsTooMuch(const std::string& output) { return output.size() > kOutputLimit; }
 
-// One read of the pipe at a time, which goes on while we wait for it.
+// One read of the pipe at a time, which runs while the caller waits.
 class TPipeReader {
  public:
   explicit TPipeReader(HANDLE pipe) : pipe_(pipe), arrived_(Owned(CreateEventW(nullptr, TRUE, FALSE, nullptr))) {}
-  // A read that goes on writes to the memory that is about to go.
+  // A running read would write to memory that is about to be freed.
   ~TPipeReader() {
     std::string unwanted;
     Cancel(unwanted);
@@ -31,7 +31,7 @@ class TPipeReader {
   TPipeReader(const TPipeReader&) = delete;
   TPipeReader& operator=(const TPipeReader&) = delete;
 
-  // Signalled when the read is over.
+  // Signalled at the end of the read.
   HANDLE Arrived() const { return arrived_.get(); }
 
   void Start(std::size_t atMost = std::string::npos) {
@@ -52,7 +52,7 @@ class TPipeReader {
     return true;
   }
 
-  // Ends the read, if one goes on; bytes that came before are not lost.
+  // Ends a running read; bytes that it has already received are appended.
   void Cancel(std::string& output) {
     if (!isGoing_) return;
     CancelIoEx(pipe_, &operation_);
@@ -67,8 +67,8 @@ class TPipeReader {
   std::array<char, std::size_t{64} << 10U> buffer_;
 };
 
-// The program has ended: all that it wrote lies in the pipe. Only that is read, because what it has started may write
-// for ever.
+// The program has ended: all of its output is in the pipe. Only that is read, because processes that it started may
+// write for ever.
 OutputEnd TakeTheRest(HANDLE pipe, TPipeReader& reader, std::string& output) {
   reader.Cancel(output);
   DWORD waiting = 0;

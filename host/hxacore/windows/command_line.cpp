@@ -4,8 +4,8 @@
 
 namespace NKVRHXA20 {
 
-// Backslashes stand for themselves, except before a quote: there, and so also before the quote that closes
-// the argument, each is written twice, and a quote that belongs to the argument has one more before it.
+// Backslashes are literal, except before a quote: there, and so also before the closing quote, each is written twice,
+// and a quote that belongs to the argument has one more before it.
 std::wstring QuotedArgument(const std::wstring& argument) {
   if (!argument.empty() && argument.find_first_of(L" \t\n\v\"") == std::wstring::npos) return argument;
   std::wstring quoted = L"\"";
@@ -18,7 +18,7 @@ std::wstring QuotedArgument(const std::wstring& argument) {
   return quoted.append(backslashes, L'\\') += L'"';
 }
 
-// The first word is read by a simpler rule, without escapes; a file name has no quotes.
+// The first word is parsed by a simpler rule, without escapes; a file name contains no quotes.
 std::wstring CommandLine(const std::string& path, const std::vector<std::string>& arguments) {
   std::wstring line = L"\"" + ToWide(path) + L"\"";
   for (const std::string& argument : arguments) line += L" " + QuotedArgument(ToWide(argument));

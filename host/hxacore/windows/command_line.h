@@ -7,8 +7,7 @@
 
 namespace NKVRHXA20 {
 
-// One argument as it is written in a command line, so that CommandLineToArgvW and the C runtimes give it back
-// unchanged.
+// One argument in the form for a command line, so that CommandLineToArgvW and the C runtimes return it unchanged.
 HXACORE_API std::wstring QuotedArgument(const std::wstring& argument);
 
 // The whole command line: the program as given, then the arguments.

@@ -15,7 +15,7 @@ struct FreeStrings {
   void operator()(wchar_t* strings) const { FreeEnvironmentStringsW(strings); }
 };
 
-// Names of variables compare without regard to case.
+// Names of variables are compared without regard to case.
 bool StartsWith(std::wstring_view variable, std::wstring_view name) {
   return variable.size() >= name.size() &&
          CompareStringOrdinal(variable.data(), static_cast<int>(name.size()), name.data(),
@@ -26,7 +26,7 @@ bool ChoosesLocale(std::wstring_view variable) {
   return StartsWith(variable, L"LC_") || StartsWith(variable, L"LANG=") || StartsWith(variable, L"LANGUAGE=");
 }
 
-// Windows wants the variables in this order.
+// Windows requires the variables in this order.
 bool ComesBefore(const std::wstring& one, const std::wstring& other) {
   return CompareStringOrdinal(one.data(), static_cast<int>(one.size()), other.data(), static_cast<int>(other.size()),
                               TRUE) == CSTR_LESS_THAN;

@@ -13,7 +13,7 @@ struct CloseThisHandle {
 // An open handle, or none.
 using UniqueHandle = std::unique_ptr<void, CloseThisHandle>;
 
-// Some calls say "none" by one value, some by the other.
+// Some calls return null for no handle, others INVALID_HANDLE_VALUE.
 inline UniqueHandle Owned(HANDLE handle) { return UniqueHandle(handle == INVALID_HANDLE_VALUE ? nullptr : handle); }
 
 }  // namespace NKVRHXA20

@@ -14,10 +14,10 @@ namespace {
 struct Runs {
   std::mutex mutex;
   std::set<HANDLE> jobs;
-  std::multimap<std::wstring, TRunJob> left;  // by program: what could not be ended
+  std::multimap<std::wstring, TRunJob> left;  // by program: jobs that could not be ended
 };
 
-// Never destroyed: a run may still go on in a thread when the program ends.
+// Never destroyed: a thread may still be running a program when this process ends.
 Runs& AllRuns() {
   static auto* const runs = new Runs;
   return *runs;

@@ -7,8 +7,8 @@
 
 namespace NKVRHXA20 {
 
-// A job for a program and all that it starts, known to StopRuns as long as it is open; or none. Its end, also that of
-// this process, ends them.
+// A job for a program and every process that it starts, registered for StopRuns while it is open; or none. Closing it,
+// also by the end of this process, ends them.
 class HXACORE_API TRunJob {
  public:
   TRunJob() = default;
@@ -19,14 +19,14 @@ class HXACORE_API TRunJob {
 
   HANDLE Get() const { return job_.get(); }
 
-  // Ends its processes and waits until none is left. False: Windows cannot end one of them within some seconds.
+  // Ends its processes and waits until none is left. False: Windows could not end one of them within some seconds.
   bool End() const;
 
  private:
   UniqueHandle job_;
 };
 
-// From here on the program counts as running until nobody of the job is left.
+// From now on the program counts as running until the job is empty.
 void KeepUntilGone(const std::wstring& program, TRunJob job);
 bool IsStillThere(const std::wstring& program);
 

@@ -20,7 +20,7 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr DWORD kPipeSize = DWORD{64} << 10U;
-// Newer than the oldest Windows that this is built for, which refuses it.
+// The oldest supported Windows does not have this attribute and refuses it.
 constexpr DWORD_PTR kJobListAttribute = 0x2000D;
 
 [[noreturn]] void ThrowLastError(const std::string& path) { ThrowNotStarted(path, ErrorText(GetLastError())); }
@@ -44,7 +44,7 @@ struct FreeMemory {
   void operator()(void* memory) const { LocalFree(memory); }
 };
 
-// Lets the user of this process alone open something; null where Windows does not say who that is.
+// Lets only the user of this process open an object; null if Windows does not report the user.
 std::unique_ptr<void, FreeMemory> ForThisUserAlone() {
   HANDLE token = nullptr;
   OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token);
@@ -63,8 +63,8 @@ std::unique_ptr<void, FreeMemory> ForThisUserAlone() {
   return std::unique_ptr<void, FreeMemory>(descriptor);
 }
 
-// A pipe without a name cannot be read overlapped, and only so can one wait for output and for the end at once. Nobody
-// else can foresee the name, or open the pipe before the program has it.
+// A pipe without a name cannot be read overlapped, which waiting for output and for the end at once requires. Nobody
+// else can predict the name, or open the pipe before the program has it.
 UniqueHandle MakePipe(std::wstring& name) {
   std::random_device random;
   name = L"\\\\.\\pipe\\hxacore";
@@ -90,8 +90,8 @@ UniqueHandle MakeJob() {
   return job;
 }
 
-// What the program inherits, whatever else the host holds inheritable, and the job that it begins in. Both must outlive
-// the list.
+// The handles that the program inherits, whatever other handles are inheritable, and the job in which it begins. Both
+// must outlive the list.
 class TAttributeList {
  public:
   TAttributeList(std::vector<HANDLE>& handles, HANDLE& job) {
@@ -129,7 +129,7 @@ PROCESS_INFORMATION CreateSuspended(const std::string& path, const std::vector<s
   std::wstring environment = ChildEnvironment();
   PROCESS_INFORMATION started{};
   // A busy system may fail with an internal error before the program has begun (Wine does, about once in a thousand
-  // runs). It is created suspended, so nothing of it has run, and trying again does no harm.
+  // runs). The program is created suspended, so it has not run, and another try does no harm.
   constexpr int kTries = 5;
   constexpr DWORD kPauseMilliseconds = 50;
   for (int attempt = 1;; ++attempt) {
@@ -164,8 +164,8 @@ ChildProcess StartProcess(const std::string& path, const std::vector<std::string
   const PROCESS_INFORMATION started = CreateSuspended(path, arguments, null.get(), write.get(), child.job.Get());
   child.process = Owned(started.hProcess);
   const UniqueHandle thread = Owned(started.hThread);
-  // Before Windows 10 a program cannot begin in a job. Before Windows 8 a process has one job at most: there, in a host
-  // that has its own, the program runs without one, and what it starts is not ended with it.
+  // Before Windows 10 a program cannot begin in a job. Before Windows 8 a process has at most one job: if the host has
+  // one there, the program runs without one, and the processes that it starts are not ended with it.
   AssignProcessToJobObject(child.job.Get(), child.process.get());
   ResumeThread(thread.get());
   return child;
