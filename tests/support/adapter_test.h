@@ -9,7 +9,7 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/tool_text.h"
 
-// A machine on which a utility answers for none of nine controllers; a test gives it some.
+// A machine on which a utility reports none of nine controllers; a test adds some.
 class AdapterTest : public testing::Test {
  protected:
   AdapterTest(std::string tool, const std::string& noControllers) : tool_(std::move(tool)) {
@@ -25,10 +25,10 @@ class AdapterTest : public testing::Test {
     rawData_ = adapter.GetRawData();
   }
 
-  // What is found in a configuration of controller 1.
+  // The objects in a configuration of controller 1.
   virtual std::string CollectOne(const std::string& config) = 0;
 
-  // LD stands for the begin of a drive's heading.
+  // LD is replaced by the beginning of a drive's heading.
   void ExpectDrives(const char* name, const std::string& section, const std::string& found) {
     EXPECT_EQ(CollectOne(CrLf("Controller information\nLogical drive information\n----\n" +
                               Replaced(section, "LD", "Logical drive"))),

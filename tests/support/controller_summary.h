@@ -4,7 +4,7 @@
 
 #include "collect/records.h"
 
-// What hangs on the controllers, one line each, line ends cut:
+// The records of the controllers, one on each line, line ends cut:
 //   5 SERIAL
 //    drive 1| 100 MB
 //    order 5LogicalDrv1 0,0 0,1

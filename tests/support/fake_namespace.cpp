@@ -33,7 +33,7 @@ std::string RenderedArray(const TCIMValue& array) {
 
 }  // namespace
 
-// Known outside, as a part of what FakeClass is.
+// Not in an unnamed namespace, as FakeClass uses it.
 class FakeInstance final : public ICIMInstance, public boost::enable_shared_from_this<FakeInstance> {
  public:
   using Extent = std::vector<boost::shared_ptr<FakeInstance>>;

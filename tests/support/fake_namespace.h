@@ -10,14 +10,14 @@
 
 class FakeClass;
 
-// A host's namespace that knows every class name, in exact case, and keeps what is committed. An instance is
-// referred to by its class and its place in it: Class.Number="2".
+// A host's namespace that accepts every class name, in exact case, and keeps committed instances. A reference names an
+// instance by its class and its place in it: Class.Number="2".
 class FakeNamespace final : public NKVRHXA20::ICIMNamespace {
  public:
   boost::shared_ptr<NKVRHXA20::ICIMClass> GetClass(const std::string& name,
                                                    const NKVRHXA20::TPropertyMap& context) override;
 
-  // Commits an instance as another program might: its properties, each a name and a value, one after the other.
+  // Commits an instance of another program: properties, each a name and a value, one after the other.
   void Add(const std::string& className, const std::vector<std::string>& namesAndValues);
 
   // The committed instances of a class, each as its properties in the order in which they were set: Name = value.

@@ -19,7 +19,7 @@ namespace {
 
 constexpr const char* kControllerClass = "KVRSG_zxSCSIProtocolController";
 
-// The sample machine's answers, under numbers from which no two controllers get the same one: the legacy utility has 1
+// The sample machine's answers, with numbers that give each controller a number of its own: the legacy utility has 1
 // and 2, hrconf has 2, which becomes 4, and arcconf has 3 and 4, which become 6 and 7.
 constexpr Moved kControllers[] = {
     {"qcmdrun",   1, 1, "1"},
@@ -35,7 +35,7 @@ std::string KeyOf(const std::string& tool, const std::string& words, int number)
   return tool + " " + words.substr(0, blank) + " " + std::to_string(number) + option;
 }
 
-// The commands that a controller of the tool is asked, "getconfig al".
+// The commands for a controller of the tool, "getconfig al".
 Texts WordsOf(const std::string& tool) {
   Texts all;
   for (const auto& [key, answer] : AllAnswersOf(tool)) {
@@ -56,7 +56,7 @@ Machine SampleMachine() {
       }
     }
   }
-  // Otherwise no higher number is asked for.
+  // Without this answer no higher number is requested.
   machine["hrconf_64 getconfig 1 al"] = {"Controllers found: 1\r\nInvalid controller number.\r\n"};
   for (const Moved& controller : kControllers) {
     auto answers = AllAnswersOf(controller.tool);
@@ -86,7 +86,7 @@ Behaviour NotStarted(const Command&, const Machine&) { return {"", "", SpawnFail
 Behaviour TimeLimit(const Command&, const Machine&) { return {"", "", SpawnFailure::kTooLong}; }
 Behaviour Empty(const Command&, const Machine&) { return {}; }
 
-// In the middle of a line, most often.
+// Usually in the middle of a line.
 Behaviour EndedBySignal(const Command& command, const Machine& machine) {
   const std::string text = TextOf(command, machine);
   return {text.substr(0, text.size() / 2), "signal 11", {}};
@@ -105,7 +105,7 @@ Behaviour DoubledCarriageReturns(const Command& command, const Machine& machine)
   return {Replaced(TextOf(command, machine), "\r\n", "\r\r\n")};
 }
 
-// In each value, and where lines begin.
+// In each value, and at the beginning of lines.
 Behaviour NulBytes(const Command& command, const Machine& machine) {
   using namespace std::string_literals;
   return {Replaced(Replaced(TextOf(command, machine), ": ", ": \0"s), "\r\n   ", "\r\n   \0"s)};
@@ -122,14 +122,14 @@ Behaviour HugeLine(const Command&, const Machine&) {
   return {std::string(kSize - 2, 'x') + "\r\n"};
 }
 
-// The next of the same controller.
+// The next command for the same controller.
 Behaviour OtherCommand(const Command& command, const Machine& machine) {
   const Texts all = WordsOf(command.tool);
   const auto next = std::ranges::find(all, command.words) + 1;
   return machine.at(KeyOf(command.tool, next == all.end() ? all.front() : *next, command.number));
 }
 
-// Another that the tool has; hrconf has one alone, so arcconf's, which prints much the same.
+// Another controller of the tool; hrconf has only one, so arcconf's, whose output is similar.
 Behaviour OtherController(const Command& command, const Machine& machine) {
   for (const Moved& other : kControllers) {
     if (other.tool == command.tool && other.to != command.number) {
@@ -154,8 +154,8 @@ constexpr Fault kFaults[] = {
     {"another controller's",      OtherController       },
 };
 
-// What a command feeds, and what each fault costs: several letters where it depends on the controller's answer, or on
-// where it is cut.
+// The classes that a command feeds, and the cost of each fault: several letters if it depends on the controller's
+// answer, or on the place of the cut.
 struct Kind {
   const char* tool;
   const char* words;  // "": any command with a number that has no controller
@@ -163,10 +163,10 @@ struct Kind {
   const char* costs;  // cut off after a line, then as in kFaults
 };
 
-// The legacy utility ends collection where an answer ends before what it lists does; the others end what is being
-// read. Without carriage returns, values that are cut where those stand lose their last character. What is fed by
-// nothing is recorded as raw data alone. Bad stripes that are not reported are published as 0 for each drive; who asks
-// for a controller that does not exist and hears that there are none asks for no further one.
+// If an answer is incomplete, the legacy utility ends the collection and the others end the current object. Without
+// carriage returns, values that are cut at those lose their last character. Commands that feed no class are only
+// recorded as raw data. Bad stripes that are not reported are published as 0 for each drive; after the answer that
+// there are no controllers at all, no further number is requested.
 //
 // cut, cannot be started, signal, time limit, empty, unended, LF, CR CR LF, NUL, high bytes, huge, command, controller
 // clang-format off
@@ -286,7 +286,7 @@ std::string Command::PublishedKey() const {
   return "zenx//" + tool + ".exe" + key.substr(tool.size()) + (words.find(' ') == words.npos ? " nuthin" : "");
 }
 
-// Identifiers, numbers and references say so.
+// Identifiers, numbers and references contain the controller's number.
 bool IsOf(const Instance& instance, const std::string& number) {
   const std::string marks[] = {
       "Zentraxis" + number,
@@ -307,7 +307,7 @@ std::size_t ControllerCount(const std::vector<Instance>& instances) {
 }
 
 Published QueryScripted(const Machine& machine, Read read) {
-  // Or Windows would list the devices of the machine that runs the test for every slot: thousands of times.
+  // Without it, Windows would list the devices of the test's machine for every slot: thousands of times.
   const RecordedSystemSetting system{RecordedSystem()};
   ScriptedServices scripted;
   HostServices services = CurrentServices();
@@ -345,14 +345,14 @@ std::vector<Command> CommandsOf(const Published& published) {
   return commands;
 }
 
-// Of the utilities that have one controller, which are those that can be lost whole.
+// Whether the utility's only controller is missing; utilities with several controllers never lose all.
 bool FaultMatrix::IsWithoutTool(const Published& published, const Command& command) {
   return std::ranges::any_of(kControllers, [&](const Moved& controller) {
     return controller.tool == command.tool && published.instances == WithoutController(controller);
   });
 }
 
-// What it cost, the least first.
+// The lowest cost that matches.
 Cost FaultMatrix::CostOf(const Command& command, const Published& published) {
   const Kind& kind = KindOf(command);
   const std::vector<Instance>& whole = whole_.instances;

@@ -12,22 +12,22 @@
 #include "host/hxacore/host_services.h"
 #include "tests/support/query_host.h"
 
-// Every command of the sample machine, with everything that may go wrong with its answer, in turn: what that costs is
-// said by the tables in fault_matrix.cpp; all else is published as if nothing had happened.
+// Every command of the sample machine, with every possible fault of its answer, one at a time. The tables in
+// fault_matrix.cpp show the cost of each fault; everything else is published unchanged.
 namespace fault_matrix {
 
 using Texts = std::vector<std::string>;
 
-// What a utility does when it is run: says something, or cannot be run.
+// The behaviour of a utility that is run: it prints a text, or cannot be run.
 struct Behaviour {
   std::string text = {};
-  std::string ending = {};  // how it ended where it did not end by itself
+  std::string ending = {};  // if the utility did not end by itself
   std::optional<NKVRHXA20::SpawnFailure> failure = {};
 };
 
 using Machine = std::map<std::string, Behaviour>;  // by tool and arguments, "arcconf getconfig 1 al"
 
-// One published instance, every property in its text: Name = "value" where it is a text or a reference.
+// One published instance, every property in its text: Name = "value" for texts and references.
 struct Instance {
   std::string className;
   std::string text;
@@ -38,32 +38,32 @@ struct Instance {
   }
 };
 
-// What a fault costs. All else is published unchanged, but for the raw data of the command itself, which show what it
-// printed, if anything.
+// The cost of a fault. Everything else is published unchanged, except the raw data of the command itself, which contain
+// its output, if any.
 enum Cost : char {
   kNothing = '.',
-  kOwnValues = 'v',   // of what the command feeds of its controller, instances may be gone or different
-  kOwnClasses = 'x',  // all that the command feeds of its controller is gone
-  kAnyValues = 'w',   // the same as v, of whatever controller the answer names
+  kOwnValues = 'v',   // instances that the command feeds for its controller may be missing or different
+  kOwnClasses = 'x',  // all instances that the command feeds for its controller are missing
+  kAnyValues = 'w',   // the same as v, for every controller that the answer names
   kController = 'C',  // as if the controller were not there
   kTool = 'T',        // as if the utility had no controller
-  kEverything = 'E',  // collection ends, and nothing that the utilities say is published
-  kMore = '+',        // there is one controller more
+  kEverything = 'E',  // collection ends, and no data of the utilities is published
+  kMore = '+',        // there is an additional controller
   kElse = '?',        // none of these; never right
 };
 
 struct Published {
-  std::vector<Instance> instances;       // but for the raw data
+  std::vector<Instance> instances;       // except the raw data
   std::map<std::string, Texts> rawData;  // by their commands
-  Texts runs;                            // commands, where they are listed
-  bool isAborted = false;                // the log says that collection was
+  Texts runs;                            // commands, if they are listed
+  bool isAborted = false;                // the log contains the abort of the collection
 };
 
-// Where instances of this class are not among the others.
+// Used if instances of this class are not among the others.
 constexpr const char* kRawData = "KVRSG_zxRawData";
 constexpr const char* kTools[] = {"qcmdrun", "hrconf_64", "arcconf"};
 
-// A controller of the sample machine, under another number.
+// A controller of the sample machine, with another number.
 struct Moved {
   const char* tool;
   int from;
@@ -76,7 +76,7 @@ std::span<const Moved> Controllers();
 // The sample machine, in which no two controllers get the same number.
 const Machine& WholeMachine();
 
-// The machine, of which a controller is asked for in vain.
+// The machine, in which requests for a controller find none.
 Machine MachineWithout(Machine machine, const Moved& controller);
 
 // A command of the machine.
@@ -90,38 +90,38 @@ struct Command {
   std::string PublishedKey() const;  // "zenx//qcmdrun.exe getevent 1 ddd"
 };
 
-// One thing that goes wrong: what the utility does instead of answering.
+// One fault: what the utility does instead of answering.
 struct Fault {
   const char* name;
   Behaviour (*Make)(const Command& command, const Machine& machine);
 };
 
-// In the order of the table's columns, which begins with texts that are cut off after a line.
+// In the order of the table's columns; the first column cuts texts off after a line.
 std::span<const Fault> Faults();
 constexpr std::size_t kCutOff = 0;
 constexpr std::size_t kFirstFault = 1;
 
-// Queries all classes, once, of utilities that do as the machine says, without any process.
+// Queries all classes, once, of utilities that behave as the machine defines, without any process.
 using Read = void (*)(const QueryHost& host, Published& published);
 Published QueryScripted(const Machine& machine, Read read);
 
-// Holds what is published of machines with a fault against the tables.
+// Compares the published instances of machines with a fault with the tables.
 class FaultMatrix {
  public:
   using Query = std::function<Published(const Machine& machine)>;
 
-  // The query must tell the runs, and read texts as is done for what is held against it.
+  // The query must list the runs, and read texts in the same way for every machine.
   explicit FaultMatrix(Query query) : query_(std::move(query)), whole_(query_(WholeMachine())) {}
 
   const Published& OfWholeMachine() const { return whole_; }
 
-  // What is published of a machine that lacks the controller.
+  // The instances that a machine without the controller publishes.
   const std::vector<Instance>& WithoutController(const Moved& controller);
 
-  // What the fault cost, the least that it can be called.
+  // The cost of the fault: the lowest that matches.
   Cost CostOf(const Command& command, const Published& published);
 
-  // What is wrong where a fault of the command cost something else than its column says; "" where it is right.
+  // Describes a cost of the command's fault that differs from its column; "" if they agree.
   std::string Misfit(const Command& command, std::size_t column, const Published& published);
 
  private:
@@ -132,7 +132,7 @@ class FaultMatrix {
   std::map<const Moved*, std::vector<Instance>> withoutController_;
 };
 
-// Whether the instance is of the controller that is published under the number.
+// Whether the instance belongs to the controller that is published with the number.
 bool IsOf(const Instance& instance, const std::string& number);
 
 std::size_t ControllerCount(const std::vector<Instance>& instances);

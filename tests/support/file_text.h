@@ -5,7 +5,7 @@
 #include <iterator>
 #include <string>
 
-// The bytes of a file; "" where there is none.
+// The bytes of a file; "" if there is no file.
 inline std::string FileText(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

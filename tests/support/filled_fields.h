@@ -5,7 +5,7 @@
 
 #include "tests/support/record_fields.h"
 
-// The fields of a record that hold something, as "Name=value".
+// The fields of a record that are not empty, as "Name=value".
 template <class Record>
 std::set<std::string> FilledFields(const Record& record) {
   std::set<std::string> filled;

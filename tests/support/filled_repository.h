@@ -16,7 +16,7 @@ class FilledRepository {
 
   using Properties = std::vector<std::pair<std::string, NKVRHXA20::TCIMValue>>;
 
-  // Sets the properties in their order, commits, and gives a reference to the instance.
+  // Sets the properties in their order, commits, and returns a reference to the instance.
   NKVRHXA20::TCIMReference Publish(const std::string& className, const Properties& properties) {
     const auto instance = repository_->GetClass(className, {})->CreateInstance({});
     for (const auto& [name, value] : properties) instance->SetProperty(name, value, {});
@@ -24,7 +24,7 @@ class FilledRepository {
     return instance->GetReference({});
   }
 
-  // The same with names and values in turn.
+  // The same with alternating names and values.
   template <class... NamesAndValues>
   NKVRHXA20::TCIMReference Publish(const std::string& className, const std::string& name,
                                    const NamesAndValues&... namesAndValues) {

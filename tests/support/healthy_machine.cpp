@@ -14,7 +14,7 @@ constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
 constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
-// A device with these names and values in turn.
+// A device with these alternating names and values.
 template <class... NamesAndValues>
 HealthyMachine::Device Made(const std::string& className, const NamesAndValues&... namesAndValues) {
   return {className, FilledRepository::InTurn(namesAndValues...)};

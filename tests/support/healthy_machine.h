@@ -8,8 +8,8 @@
 #include "host/hxahost/result/query_result.h"
 #include "tests/support/filled_repository.h"
 
-// What a query gives of a machine on which nothing is wrong, for tests that break one thing: a legacy controller 1 and
-// a newer controller 2, each with a logical drive on two disks and a hot spare, a tape and an enclosure.
+// The result of a query of a machine without a fault, for tests that break one thing: a legacy controller 1 and a newer
+// controller 2, each with a logical drive on two disks and a hot spare, a tape and an enclosure.
 class HealthyMachine {
  public:
   struct Device {
@@ -19,13 +19,13 @@ class HealthyMachine {
 
   HealthyMachine();
 
-  // Sets the property of the first device of the class that has it.
+  // Sets the property in the first device of the class that has it.
   void Set(std::string_view className, std::string_view property, const NKVRHXA20::TCIMValue& value);
 
-  // Sets it in the device that this text identifies: its "DeviceID" or "InstanceID".
+  // Sets it in the device with this identifier: its "DeviceID" or "InstanceID".
   void SetOf(std::string_view identifier, std::string_view property, const NKVRHXA20::TCIMValue& value);
 
-  // Takes every device of a class away.
+  // Removes every device of a class.
   void Remove(std::string_view className);
 
   hxahost::QueryHeader Header() const;

@@ -8,24 +8,24 @@
 
 #include "tests/support/running_program.h"
 
-// The program under test, which lies beside the test program.
+// The program under test, in the folder of the test program.
 std::filesystem::path HxahostPath();
 
-// Runs it to its end.
+// Runs it and waits for its end.
 ProgramResult RunHxahost(const std::vector<std::string>& arguments);
 
 // The sample machine of this build.
 std::filesystem::path SampleMachine();
 
-// The sample machine, queried twice by the real program with real processes, once for all tests of a program.
+// The sample machine, queried twice by the real program with real processes, once for all tests of a test program.
 struct SampleRun {
   nlohmann::ordered_json result;
   std::filesystem::path bundle;
 };
 const SampleRun& RunOfSampleMachine();
 
-// The bundle of that run: quick where it does not matter that tools are run.
+// The bundle of that run: fast, for tests that need no real tools.
 std::string RecordedSampleMachine();
 
-// What "hxahost query" on the sample machine shows as JSON, with the keys in their order. The query must succeed.
+// The JSON of "hxahost query" on the sample machine, with the keys in their order. The query must succeed.
 nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArguments = {});

@@ -7,7 +7,7 @@
 
 #include "collect/ascii_text.h"
 
-// "   Label : v<n>" for the first rows of a parser's table, n being the row.
+// "   Label : v<n>" for the first rows of a parser's table; n is the row.
 template <class Table>
 std::string LabelLines(const Table& table, std::size_t count) {
   std::string lines;
@@ -22,7 +22,7 @@ std::string LabelLines(const Table& table) {
   return LabelLines(table, std::size(table));
 }
 
-// The first rows' fields hold what LabelLines gives them, and those of all other rows nothing.
+// The fields of the first rows contain the values of LabelLines, and those of all other rows are empty.
 template <class Record, class Table>
 void ExpectFilled(const Record& record, const Table& table, std::size_t count) {
   for (std::size_t row = 0; row < std::size(table); ++row) {

@@ -43,7 +43,7 @@ void AddLine(RecordedRun& run, const std::string& line, std::string& lineEnd) {
   }
 }
 
-// The text with the lines between "repeat: 0 199" and "repeat-end" once for each number, which they hold as "{}".
+// The text with the lines between "repeat: 0 199" and "repeat-end" once for each number, which replaces "{}".
 std::string WithRepetitions(const std::string& text) {
   std::string repeated;
   std::istringstream lines(text);
@@ -62,14 +62,14 @@ std::string WithRepetitions(const std::string& text) {
   return repeated;
 }
 
-// What a tool prints where nobody wrote an answer down.
+// The output of a tool if the machine contains no answer.
 std::string UsualAnswer(const Tool& tool, const ToolCommand& command, bool hasControllers) {
   if (command != kGetConfig) return std::string(kCommandCompleted) + ".\r\n";
   return std::string(hasControllers ? tool.notInUse : tool.noneFound) + "\r\n";
 }
 
 void AddRuns(const MachineAnswers& answers, const Tool& tool, unsigned number, Bundle& bundle) {
-  constexpr int kMostTimes = 3;  // a controller's configuration is asked for once, recorded and parsed
+  constexpr int kMostTimes = 3;  // a controller's configuration is requested once, recorded and parsed
   const bool hasControllers = std::ranges::any_of(
       answers.runs, [&](const auto& each) { return each.first.starts_with(std::string(tool.name) + " "); });
   for (const ToolCommand& command : tool.recorded) {

@@ -6,7 +6,7 @@
 
 #include "host/hxahost/bundle/bundle.h"
 
-// A machine as a person writes it down: tests/machines/README.md describes the form.
+// A machine as a person writes it: tests/machines/README.md describes the form.
 struct MachineAnswers {
   std::map<std::string, hxahost::RecordedRun> runs;  // by the command, or by the tool for all of its commands
   std::optional<std::string> raidLog;
@@ -14,5 +14,5 @@ struct MachineAnswers {
 
 MachineAnswers ReadMachineAnswers(const std::string& text);
 
-// The bundle that a collection on the machine would record; each run as often as any collection asks for it.
+// The bundle that a collection on the machine would record; each run as often as any collection requests it.
 hxahost::Bundle BundleOf(const MachineAnswers& answers);

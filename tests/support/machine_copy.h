@@ -18,19 +18,19 @@ class MachineCopy {
 
   void RemoveTool(const std::string& tool) const { std::filesystem::remove(Zenx() / (tool + ".exe")); }
 
-  // A script in the place of a tool.
+  // Replaces a tool by a script.
   void SetTool(const std::string& tool, std::string_view script) const {
     folder_.Write("zenx/" + tool + ".exe", script);
   }
 
-  // From here on the tool has none of its controllers.
+  // From now on the tool has no controllers.
   void RemoveControllers(const std::string& tool) const {
     for (const auto& entry : std::filesystem::directory_iterator(Zenx() / "answers" / tool)) {
       if (entry.is_directory()) std::filesystem::remove_all(entry.path());
     }
   }
 
-  // One tool alone has controllers: the others answer that they have none.
+  // Only one tool has controllers: the others answer that they have none.
   void LeaveOnly(const std::string& tool) const {
     for (const std::string each : {"qcmdrun", "arcconf", "hrconf_64"}) {
       if (each == tool) continue;
@@ -47,7 +47,7 @@ class MachineCopy {
   void SetAnswer(const std::string& name, std::string_view text) const {
     folder_.Write(std::filesystem::relative(AnswerFile(name), folder_.Path()), text);
   }
-  // Puts a text into the place of the first that is like another, which must be there.
+  // Replaces the first occurrence of a text, which must exist.
   void Replace(const std::string& name, const std::string& from, const std::string& to) const {
     std::string text = Answer(name);
     SetAnswer(name, text.replace(text.find(from), from.size(), to));

@@ -21,7 +21,7 @@ using Entries = std::vector<LogEntry>;
 
 // Publishes hand-made records into a fake namespace.
 struct Publishing {
-  // Calls a routine for a class as a query that names the class would.
+  // Calls the routine of a class as a query of the class would.
   void Run(PublishRoutine routine, const std::string& className) {
     ZenxCollectData collector(&log, controllers, rawData);
     CollectRaidMgrData raidManagerLog(&log);
@@ -60,13 +60,13 @@ Record& Add(std::vector<std::shared_ptr<Record>>& records) {
 // A field's own name, in the blanks and line ends that tools put around a value.
 inline std::string AsPrinted(const std::string& name) { return " " + name + " \r\n"; }
 
-// Every text of the record holds its own name, as printed.
+// Sets every text of the record to its own name, as printed.
 template <class Record>
 void NameFields(Record& record) {
   for (const auto& [name, field] : FieldsOf(record)) record.*field = AsPrinted(name);
 }
 
-// A new record at the end of a controller's list, so named.
+// A new record at the end of a controller's list, with its fields named.
 template <class Record>
 Record& AddNamed(std::vector<std::shared_ptr<Record>>& records) {
   Record& record = Add(records);
@@ -74,8 +74,8 @@ Record& AddNamed(std::vector<std::shared_ptr<Record>>& records) {
   return record;
 }
 
-// Whether the only instance of a class has the declared properties in their order, each with its own name for a value,
-// but for the rows that are given.
+// Whether the only instance of a class has the declared properties in their order, each with its own name as value,
+// except the given rows.
 inline testing::AssertionResult IsNamedAfterFields(FakeNamespace& nameSpace, const std::string& className,
                                                    std::string (*form)(const std::string& name),
                                                    const Properties& otherRows) {

@@ -19,10 +19,10 @@ class QueryHost {
 
   void Query(const std::vector<std::string>& classNames);
 
-  // The class names of what the last query published, in order.
+  // The class names of the instances that the last query published, in order.
   std::vector<std::string> PublishedClasses() const;
 
-  // What the last query published of a class: each instance as its properties, Name = value.
+  // The instances of a class that the last query published, each as its properties, Name = value.
   std::vector<std::vector<std::string>> Published(const std::string& className) const;
 
   // One property of each of them.

@@ -18,7 +18,7 @@ class RaidLogMachine {
     services.files[NativePath(LogPath())] = *log;
   }
 
-  // With a backslash at its end, as installers write it.
+  // With a backslash at the end, as installers write it.
   std::string Folder() const { return folder_.Path().string() + "\\"; }
   std::string LogFolder() const { return Folder() + "KVR\\Zentraxis Manager\\"; }
   std::string LogPath() const { return LogFolder() + "RaidEvtA.log"; }

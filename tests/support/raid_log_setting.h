@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-// While it lives, what the system says of the RAID manager's log folder: the value, or that there is none. The system
-// is one of version 6 or later.
+// While it exists, the system reports this log folder of the RAID manager, or none. The system is one of version 6 or
+// later.
 class RaidLogSetting {
  public:
   explicit RaidLogSetting(const std::optional<std::string>& folder);

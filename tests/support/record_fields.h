@@ -14,7 +14,7 @@
 #include "logs/event_records.h"
 #include "logs/statistics_records.h"
 
-// One text of a record, under its own name.
+// One text of a record, with its own name.
 template <class Record>
 struct NamedField {
   const char* name;
@@ -34,13 +34,13 @@ constexpr std::size_t InWholeWords(std::size_t size) {
   return (size + sizeof(void*) - 1) / sizeof(void*) * sizeof(void*);
 }
 
-// What every record has.
+// The members of every record.
 struct EachRecord {
   virtual ~EachRecord() = default;
   HostHandle host;
 };
 
-// Whether these are all: a record is as large as they and its other members, which are given.
+// Whether these are all texts: a record is as large as they and its other members, which are given.
 template <class Record, class... Others>
 constexpr bool ListsAllBeside() {
   return sizeof(Record) == sizeof(EachRecord) + (InWholeWords(sizeof(Others)) + ... + 0) +

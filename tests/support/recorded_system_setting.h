@@ -2,7 +2,7 @@
 
 #include "platform/recorded_system.h"
 
-// While it lives, this system answers in the place of the real one.
+// While it exists, this system answers instead of the real one.
 class RecordedSystemSetting {
  public:
   explicit RecordedSystemSetting(const RecordedSystem& system) { AnswerAs(system); }

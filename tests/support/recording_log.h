@@ -17,7 +17,7 @@ struct LogEntry {
   }
 };
 
-// A log that keeps what it is given.
+// A log that keeps its entries.
 class RecordingLog final : public NKVRHXA20::ILogger {
  public:
   void Log(int level, const std::string& message) override { entries.push_back({level, message}); }

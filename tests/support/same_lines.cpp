@@ -22,7 +22,7 @@ struct Place {
   std::size_t actual;
 };
 
-// The next place at which both have the same line, or both end, with as few lines before it as possible.
+// The next place at which both have the same line, or both end, with the fewest lines before it.
 Place NextSame(const Lines& expected, const Lines& actual, Place from) {
   for (std::size_t lines = 0;; ++lines) {
     for (std::size_t ofExpected = 0; ofExpected <= lines; ++ofExpected) {

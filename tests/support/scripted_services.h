@@ -7,8 +7,8 @@
 #include "host/hxacore/host_services.h"
 #include "tests/support/recording_log.h"
 
-// Replaces the outside while it lives: tools answer from a script, files come from a map, the clock does not move.
-// The real services are back when it is gone.
+// Replaces the services while it exists: tools answer from a script, files come from a map, the clock does not move.
+// The destructor restores the real services.
 class ScriptedServices {
  public:
   ScriptedServices();
@@ -16,17 +16,17 @@ class ScriptedServices {
   ScriptedServices(const ScriptedServices&) = delete;
   ScriptedServices& operator=(const ScriptedServices&) = delete;
 
-  // What a command prints, by tool name and arguments: "qcmdrun getconfig 1 al". A command that is not here cannot be
+  // The output of a command, by tool name and arguments: "qcmdrun getconfig 1 al". A command that is not here cannot be
   // started: THXAException("<path> is not here").
   std::map<std::string, std::string> answers;
 
-  // Files by path, as CaptureFile is asked for them. Any other cannot be read.
+  // Files by the path that CaptureFile receives. Other files cannot be read.
   std::map<std::string, std::string> files;
 
   std::string machineName = "MACHINE";
   NKVRHXA20::TCIMDateTime localTime{2026, 3, 5, 12, 30, 15, 250000, 60};
 
-  // What happened, in order.
+  // The calls so far, in order.
   std::vector<std::string> runs;  // the keys of answers, whether answered or not
   std::vector<LogEntry> log;
 

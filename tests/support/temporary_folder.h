@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-// An empty folder that is gone with all in it when this is.
+// An empty folder, which the destructor deletes with its contents.
 class TemporaryFolder {
  public:
   TemporaryFolder()

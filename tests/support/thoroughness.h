@@ -2,6 +2,6 @@
 
 #include <cstddef>
 
-// Of how many cases a test that has thousands tries one: all of them where the program is a release build, some where
-// sanitizers make each many times slower.
+// A test with thousands of cases tries one of so many: every case in a release build, fewer if sanitizers make each
+// many times slower.
 std::size_t CasesForOneTry();

@@ -45,7 +45,7 @@ void SetVariable(const std::string& name, const std::string& value) { setenv(nam
 
 void LetOthersWrite(const fs::path& path) { fs::permissions(path, fs::perms::others_write, fs::perm_options::add); }
 
-// The sanitizers keep what was freed for a while, so only they know; without them nobody else answers to the name.
+// The sanitizers delay freeing memory, so only they know its size; without them the function does not exist.
 std::size_t MemoryInUse() {
   void* const allocated = dlsym(RTLD_DEFAULT, "__sanitizer_get_current_allocated_bytes");
   return allocated ? reinterpret_cast<std::size_t (*)()>(allocated)() : mallinfo2().uordblks;
@@ -53,7 +53,7 @@ std::size_t MemoryInUse() {
 
 bool UnloadLibrary(const fs::path& file) {
   constexpr int kFlags = RTLD_LAZY | RTLD_NOLOAD;
-  void* const library = dlopen(file.c_str(), kFlags);  // one more reference to it
+  void* const library = dlopen(file.c_str(), kFlags);  // one more reference
   dlclose(library);
   dlclose(library);
   return dlopen(file.c_str(), kFlags) == nullptr;

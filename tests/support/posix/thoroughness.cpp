@@ -1,4 +1,4 @@
 #include "tests/support/thoroughness.h"
 
-// Native tests are built with sanitizers. No divisor of the number of faults, so that each of them has its turn.
+// Native tests run with sanitizers. It does not divide the number of faults, so each fault is tried.
 std::size_t CasesForOneTry() { return 13; }

@@ -42,7 +42,7 @@ std::vector<unsigned long> ProcessesOf(const std::filesystem::path& programs) {
   return processes;
 }
 
-// Handles are small multiples of four. Wine says 0 when it is asked for their number, so they are tried one by one.
+// Handles are small multiples of four. Wine returns 0 for their number, so each is tried.
 std::size_t OpenHandleCount() {
   std::size_t count = 0;
   for (std::uintptr_t value = 4; value < 0x8000; value += 4) {
