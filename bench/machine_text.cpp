@@ -77,7 +77,7 @@ constexpr const char* kDisk = R"(      Device #%n
          PFA                                : No
 )";
 
-// What stands for "%n" (the number), "%s" (with five digits), "%c" (its channel), "%i" (its ID there), "%a" (a letter).
+// Replaces "%n" (the number), "%s" (with five digits), "%c" (its channel), "%i" (its ID there), "%a" (a letter).
 std::string Replacement(char kind, int number) {
   switch (kind) {
     case 'a': return {static_cast<char>('A' + number % 26)};
@@ -100,7 +100,7 @@ void Add(std::string& to, std::string_view text, const std::string& lineEnd, int
   }
 }
 
-// What the utility of the sample machine prints before the first logical drive.
+// The output of the sample machine's utility before the first logical drive.
 void AddHead(std::string& to, const std::string& utility, const std::string& lineEnd) {
   std::ifstream recorded(SampleMachine() / "zenx/answers" / utility / "1/getconfig-al.txt");
   for (std::string line; line != "Logical drive information" && std::getline(recorded, line);) to += line + lineEnd;

@@ -1,5 +1,5 @@
-// Prints one table of what people feel of the program's speed, each row with its limit. The exit status is 1 when a
-// limit is missed.
+// Prints a table of times and sizes that users notice, each row with its limit. The exit status is 1 if a limit is
+// exceeded.
 
 #include <algorithm>
 #include <cmath>
@@ -24,12 +24,12 @@ namespace {
 constexpr int kRounds = 15;                       // of collecting from the sample machine
 constexpr int kSizes[] = {1'024, 4'096, 32'768};  // disks on one controller, for growth
 constexpr int kLogLines = 200'000;
-constexpr double kSteepest = 1.1;  // growth: 1 is with the disks, 2 with their square
+constexpr double kSteepest = 1.1;  // growth: 1 is proportional to the disks, 2 to their square
 
 constexpr const char* kController = "KVRSG_zxSCSIProtocolController";
 constexpr const char* kViews[] = {"table", "json", "html", "cim-xml", "mof"};
 constexpr const char* kHealthViews[] = {"text", "json", "prometheus"};
-// Three links for each disk, and before them what they link.
+// Three links for each disk, and before them the classes that they link.
 constexpr const char* kLinks[] = {"KVRSG_zxSCSIProtocolController", "KVRSG_zxDiskDrive",
                                   "KVRSG_zxDiskDriveVersion",       "KVRSG_zxSCSIDeviceData",
                                   "KVRSG_ElementZxScsiDeviceData",  "KVRSG_zxProtocolControllerForPhysicalDisk",
@@ -58,7 +58,7 @@ double Slope(const std::vector<double>& costs) {
   return (n * xy - x * y) / (n * xx - x * x);
 }
 
-// The rows, and whether all limits are met.
+// The rows, and whether they are all within their limits.
 class Table {
  public:
   Table() { std::printf("%-52s %10s   %s\n", "what", "measured", "limit"); }
@@ -98,7 +98,7 @@ std::vector<Command> CommandsOf(const std::string& program) {
   return commands;
 }
 
-// The program against its tools alone, in rounds of one after the other.
+// Compares the program with running only its tools, in alternating rounds.
 void MeasureCollection(Table& table, const std::string& program) {
   const std::vector<Command> commands = CommandsOf(program);
   std::vector<double> wall;
@@ -119,7 +119,7 @@ void MeasureCollection(Table& table, const std::string& program) {
   table.AtMost(what + "processors", Median(busy), 1.25);
 }
 
-// The sample machine with utilities that take 50 ms for each answer; the working directory until it goes.
+// The sample machine with utilities that take 50 ms for each answer; the working directory while it exists.
 class SlowMachine {
  public:
   SlowMachine() : folder_(fs::temp_directory_path() / "zenx-bench-slow") {
@@ -144,7 +144,7 @@ class SlowMachine {
   fs::path folder_;
 };
 
-// Of utilities that take their time, what counts is how often they are asked.
+// With slow utilities, the number of runs decides the time.
 void MeasureSlowTools(Table& table, const std::string& program) {
   constexpr int kSlowRounds = 5;
   const SlowMachine machine;
@@ -176,7 +176,7 @@ void MeasureTools(Table& table) {
   }
 }
 
-// A machine's folder with one controller of qcmdrun, the working directory until it goes.
+// A machine's folder with one controller of qcmdrun, the working directory while it exists.
 class Machine {
  public:
   explicit Machine(int disks) : folder_(fs::temp_directory_path() / "zenx-bench") {
@@ -202,8 +202,8 @@ class Machine {
 struct Question {
   std::string what;
   Command command;
-  double start = 0;             // seconds where there is no disk
-  std::vector<double> seconds;  // for each number of disks, less those
+  double start = 0;  // seconds without disks
+  std::vector<double> seconds;  // for each number of disks, minus start
 };
 
 std::vector<Question> Questions(const std::string& program) {
@@ -220,7 +220,7 @@ std::vector<Question> Questions(const std::string& program) {
   return questions;
 }
 
-// The cheapest of several runs, of which there are fewer where each is long.
+// The cheapest of several runs; fewer runs if each is long.
 Cost CheapestOf(const Command& command, int disks) {
   const bool isChecked = command[1] == "query";
   Cost best = CostOf(command, isChecked);
@@ -230,7 +230,7 @@ Cost CheapestOf(const Command& command, int disks) {
   return best;
 }
 
-// Each question to machines of several sizes, less what it takes where there is no disk.
+// Each question to machines of several sizes, minus the time without disks.
 void MeasureGrowth(Table& table, const std::string& program) {
   std::vector<Question> questions = Questions(program);
   double peak = 0;
@@ -263,7 +263,7 @@ void MeasureLog(Table& table, const std::string& program) {
                 50'000);
 }
 
-// Results of machines with 16 disks, in a folder that goes with it.
+// Results of machines with 16 disks, in a folder that the destructor deletes.
 class FleetFolder {
  public:
   FleetFolder(const std::string& result, int machines) : folder_(fs::temp_directory_path() / "zenx-bench-fleet") {
@@ -287,7 +287,7 @@ class FleetFolder {
   fs::path folder_;
 };
 
-constexpr int kFleet = 500;  // machines; twice and four times as many take as much longer, and no more memory
+constexpr int kFleet = 500;  // machines; the time grows in proportion to their number, the memory does not
 constexpr int kLargeFleet = 10'000;
 constexpr int kFleetDisks = 16;
 constexpr double kFleetMemory = 1.25;  // the names of the files

@@ -6,16 +6,16 @@
 
 using Command = std::vector<std::string>;  // program and arguments
 
-// What a process and those that it started took from start to end.
+// The resources that a process and those that it started used.
 struct Cost {
   double wall = 0;     // seconds by the clock
   double busy = 0;     // seconds of the processors
-  double peakMiB = 0;  // of the largest of them
+  double peakMiB = 0;  // of the largest process
 };
 
-// Runs the command with its output read and dropped. Throws std::runtime_error when it does not end, or, where
-// isChecked, ends with another status than 0.
+// Runs the command and drops its output. Throws std::runtime_error if it does not end, or, if isChecked, if its exit
+// status is not 0.
 Cost CostOf(const Command& command, bool isChecked);
 
-// The same; gives what it wrote on standard output.
+// The same; returns its standard output.
 std::string OutputOf(const Command& command);

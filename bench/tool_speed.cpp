@@ -39,7 +39,7 @@ Collecting Measure(int disks) {
   for (const auto& [name, text] : answers) collecting.megabytes += static_cast<double>(text.size()) / 1e6;
   for (int run = 0; run < kRuns; ++run) {
     Adapter adapter(TRootObject::GetCoreLogger());
-    // The processor's time, not the wall's: others may be at work on the machine.
+    // Processor time, as other processes may use the machine.
     const std::clock_t begin = std::clock();
     adapter.Collect(0);
     collecting.seconds = std::min(collecting.seconds, static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);

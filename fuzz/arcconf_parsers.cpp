@@ -67,7 +67,7 @@ Command completed successfully.
 )",
 };
 
-// The names of models, and what comes between a spare disk and what it is assigned to.
+// The names of models, and the word between a spare disk and the drive that it is assigned to.
 constexpr std::string_view kOwnWords[] = {
     "Zentraxis", "C5", "C6", "Zentraxis-B3", "Zentraxis-A2", "Unnamed", "HostRAID", "for",
 };

@@ -1,5 +1,5 @@
-// Bundles: the input as the text of one, as it is and with the checksums that it should have; and as what is recorded
-// in one, its texts being those of the machine and then the runs.
+// Bundles: the input is read as the text of one, unchanged and with correct checksums; and as the contents to record, its
+// texts being those of the machine and then the runs.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -41,7 +41,7 @@ void TryEscapes(const std::string& bytes) {
   if (unescaped) Require(EscapeBytes(*unescaped) == bytes, "there is one way to escape a text", bytes);
 }
 
-// "0getconfig\toutput": the first character says how it went.
+// "0getconfig\toutput": the first character decides the outcome.
 RecordedRun RunOf(const std::string& text) {
   const std::vector<std::string> parts = Split(text, '\t');
   const std::string how = parts[0].substr(0, 1);

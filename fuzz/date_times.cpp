@@ -1,4 +1,4 @@
-// Texts of dates and times, and versions: each text of the input is one.
+// Texts of dates and times, and versions: each text of the input is read as one.
 #include <array>
 #include <cstddef>
 #include <string>
@@ -22,11 +22,11 @@ namespace {
 void TryCimText(const std::string& text) {
   try {
     const std::string shown = TCIMDateTime(text).ToString();
-    const bool isMinusNull = text.ends_with("-000");  // is no other time than "+000"
+    const bool isMinusNull = text.ends_with("-000");  // the same time as "+000"
     Require(shown == text || isMinusNull, "a time that is accepted is shown as it came", text);
     Require(TCIMDateTime(shown).ToString() == shown, "what is shown is a time again", text);
   } catch (const NKVRHXA20::THXAException&) {
-    // It is none, and says so.
+    // An invalid text is rejected.
   }
   hxahost::ReadableTime(text);
 }

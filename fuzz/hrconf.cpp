@@ -1,4 +1,4 @@
-// Everything that hrconf may answer, as a whole.
+// Every possible answer of hrconf, as a whole.
 #include <string_view>
 
 #include "fuzz/support/adapter_trial.h"
@@ -6,7 +6,7 @@
 #include "tools/hrconf/hrconf_adapter.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  // The one channel of releases that know of no channels.
+  // The only channel of releases that print no channels.
   static constexpr std::string_view kOwnWords[] = {"0"};
   TryAdapter<HrconfData>(data, size, kHrconf, kOwnWords);
   return 0;

@@ -64,7 +64,7 @@ Command completed successfully.
 )",
 };
 
-// The one channel of releases that know of no channels.
+// The only channel of releases that print no channels.
 constexpr std::string_view kOwnWords[] = {"0"};
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The line scanner and the cuts: the first text of the input says what is done, the second is scanned.
+// The line scanner and the cuts: the first text of the input selects the operations, the second is scanned.
 #include <algorithm>
 #include <stdexcept>
 #include <string>
@@ -16,7 +16,7 @@
 
 namespace {
 
-// The lines as the simplest code cuts them.
+// The lines, cut by the simplest possible code.
 std::vector<std::string> Lines(const std::string& text) {
   std::vector<std::string> lines;
   std::string line;
@@ -31,7 +31,7 @@ std::vector<std::string> Lines(const std::string& text) {
 
 bool IsPart(std::string_view text, std::string_view part) { return part.empty() || text.find(part) != text.npos; }
 
-// The scanner beside a cursor into lines that does the same.
+// Compares the scanner with a cursor into lines that does the same.
 class Comparison {
  public:
   explicit Comparison(const std::string& text) : scanner_(nullptr, text), lines_(Lines(text)) {}
@@ -92,13 +92,13 @@ class Comparison {
   long cursor_ = 0;
 };
 
-// As the simplest code trims.
+// Trims with the simplest possible code.
 std::string WithoutLeadingBlanks(std::string text) {
   while (text.size() > 1 && (text[0] == ' ' || text[0] == '\t' || text[0] == '\n')) text.erase(0, 1);
   return text;
 }
 
-// Every cut gives a part of what it cuts.
+// Every cut returns a part of its text.
 void TryCuts(const std::string& text, const std::string& label, const Section& section) {
   const auto isPart = [&](std::string_view cut) { Require(IsPart(text, cut), "what is cut out is there", cut); };
   isPart(GetSectionValue(label, text, section));

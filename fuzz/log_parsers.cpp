@@ -35,7 +35,7 @@ constexpr Attach kWalks[] = {
     qcmdrun::ReadHardEvents, qcmdrun::ReadSubStats,     qcmdrun::ParseStatus,
 };
 
-// What all walks make of the text.
+// The records of all walks through the text.
 std::shared_ptr<ZenxController> Walk(std::string_view text) {
   auto controller = std::make_shared<ZenxController>(TRootObject::GetCoreLogger());
   controller->ControllerNum = "1";
@@ -59,12 +59,12 @@ void RequirePart(std::string_view text, std::string_view part) {
   Require(text.find(part) != text.npos, "a field is in the answer", part);
 }
 
-// The rest of the line from its first part of that text on; "" where it has none.
+// The rest of the line from the first occurrence of the part on; "" if there is none.
 std::string_view From(std::string_view line, std::string_view part) {
   return line.substr(std::min(line.find(part), line.size()));
 }
 
-// What the first six tokens of a sub-status line give, each searched after the start of the one before it.
+// The values of the first six tokens of a sub-status line, each searched after the beginning of the one before it.
 void RequireTokens(const ZenxSubStatData& record, std::string_view line) {
   const std::string* const fields[] = {&record.ControllerNum, &record.Channel, &record.ScsiId,
                                        &record.Params,        &record.Req_Off, &record.Max_Txer_P};
@@ -87,7 +87,7 @@ void RequireTokens(const ZenxSubStatData& record, std::string_view line) {
           "the identifier is put together of three values", line);
 }
 
-// The columns of a row, as many as a device has counters; leading blanks are dropped but for the last character.
+// The columns of a row, as many as a device has counters; leading blanks are dropped, except the last character.
 void RequireColumns(const ZenxEventData& record, std::string_view line) {
   const std::string* const fields[] = {&record.Channel,       &record.ScsiId,        &record.NumParityErrors,
                                        &record.NumSoftErrors, &record.NumHardErrors, &record.PFA,
@@ -106,7 +106,7 @@ void RequireColumns(const ZenxEventData& record, std::string_view line) {
   }
 }
 
-// What each line gives, beside what it reads.
+// Compares the values of each line with the line itself.
 void InspectLines(std::string_view text) {
   CollectedData scanner(TRootObject::GetCoreLogger(), std::string(text));
   for (auto left = std::ranges::count(text, '\n'); left > 0; --left) {
@@ -190,7 +190,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view text = AsText(data, size);
   const auto controller = Walk(text);
   Inspect(*controller, text);
-  // One of the two for each input: more inputs are worth more than both. Texts of all records take the longest.
+  // Only one of the two for each input: more inputs find more than both checks. Texts of all records take the longest.
   if (size % 4 != 0) {
     InspectLines(text);
   } else {

@@ -31,7 +31,7 @@ constexpr std::size_t kFirstAnswer = 2;
 constexpr std::string_view kDrives = "KVRSG_zxDiskDrive";
 constexpr std::string_view kLogEvents = "KVRSG_LogRecord_RAIDMgrEvent";
 
-// "82 6.1": the type of the operating system and its version. No number: the host cannot tell the type.
+// "82 6.1": the type of the operating system and its version. Without a number, the host does not know the type.
 struct System {
   std::optional<std::uint16_t> type;
   std::string version;
@@ -68,7 +68,7 @@ class PluginRun {
   QueryState state_;
 };
 
-// What a drive's identifier is made of.
+// The fields of a drive's identifier.
 using DriveFields = std::tuple<std::string, int, int, std::string>;
 
 std::vector<DriveFields> FieldsOfDrives(const ControllerList& controllers) {
@@ -82,7 +82,7 @@ std::vector<DriveFields> FieldsOfDrives(const ControllerList& controllers) {
   return fields;
 }
 
-// Two drives have one identifier where, and only where, they have the same fields.
+// Two drives have the same identifier if and only if they have the same fields.
 void RequireUniqueIdentifiers(const hxahost::InstanceList& instances, const ControllerList& controllers) {
   const std::vector<DriveFields> fields = FieldsOfDrives(controllers);
   std::map<std::string, DriveFields> byIdentifier;
@@ -110,7 +110,7 @@ void RequireProvenance(const hxahost::InstanceList& instances, const std::string
   }
 }
 
-// The log is read to its end by the first query.
+// Leaves out log events, because the first query reads the log to its end.
 std::vector<std::string> WithoutLogEvents(const hxahost::InstanceList& instances) {
   hxahost::InstanceList others;
   std::ranges::copy_if(instances, std::back_inserter(others),

@@ -1,4 +1,4 @@
-// Everything that the legacy utility may answer, as a whole.
+// Every possible answer of the legacy utility, as a whole.
 #include <string_view>
 
 #include "fuzz/support/adapter_trial.h"

@@ -15,7 +15,7 @@
 
 namespace {
 
-// Carriage return and line feed count as a line feed.
+// Converts carriage return and line feed to a line feed.
 std::string WithLineFeeds(std::string_view bytes) {
   std::string text;
   for (std::size_t index = 0; index < bytes.size(); ++index) {
@@ -28,7 +28,7 @@ void RequirePart(std::string_view text, std::string_view part) {
   Require(text.find(part) != text.npos, "a field is in the log", part);
 }
 
-// Every record, and as many reads as the text has bytes at most.
+// Every record, with at most as many reads as the text has bytes.
 std::vector<std::string> ReadAll(std::string_view text) {
   unsigned counter = 7;
   CollectRaidMgrData log(NKVRHXA20::TRootObject::GetCoreLogger(), counter);

@@ -1,4 +1,4 @@
-// Text on its way out of the program.
+// Texts in the formats that the program writes.
 #include <cstddef>
 #include <sstream>
 #include <string>
@@ -42,7 +42,7 @@ void TryWidths(std::string_view bytes) {
   Require(ascii.size() == DisplayWidth(text), "ASCII takes as many columns", text);
 }
 
-// What a script reads is the same, and no markup.
+// A script reads the same text, and it contains no markup.
 void TryScriptData(std::string_view bytes) {
   const std::string json = nlohmann::json(AsUtf8(bytes)).dump();
   std::ostringstream page;

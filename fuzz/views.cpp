@@ -1,5 +1,5 @@
-// What is shown of what a plug-in may publish: tables, JSON, the page, health in all its forms. The first text of the
-// input is the machine's name, the others are what was published.
+// All views of published instances: tables, JSON, the HTML report, health in all formats. The first text of the input is
+// the machine's name, the others are the published data.
 #include <algorithm>
 #include <cstddef>
 #include <sstream>
@@ -41,7 +41,7 @@ std::string Shown(std::string_view format, const QueryHeader& header, const Quer
   return out.str();
 }
 
-// JSON is read back as what was published.
+// JSON that is read back equals the published data.
 void CheckJson(const QueryHeader& header, const QueryResult& result) {
   const std::string text = Shown("json", header, result);
   Require(text == Shown("json", header, result), "the same is shown the same way");
@@ -73,8 +73,8 @@ Input ReadInput(const std::string& text) {
   return {HeaderOf(text.substr(0, nameEnd)), ReadPublished(text.substr(std::min(nameEnd + 1, text.size())))};
 }
 
-// Neither ends the script nor begins another element: all markup is the report's own. There is as much of it where the
-// texts have another character, which no rule knows either, in place of the one that begins an element.
+// No text ends the script or begins another element: all markup is the report's own. The number of tags is the same if
+// the texts have another character, which no rule contains either, instead of the one that begins an element.
 void CheckPage(const Input& input, const std::string& text) {
   constexpr char kOther = '^';
   const std::string page = Shown("html", input.header, input.result);
@@ -89,7 +89,7 @@ void CheckPage(const Input& input, const std::string& text) {
   }
 }
 
-// CIM-XML is well-formed, holds every instance, and obeys nobody on a terminal.
+// CIM-XML is well-formed, contains every instance, and does not act on a terminal.
 void CheckCimXml(const QueryHeader& header, const QueryResult& result) {
   const std::string text = Shown("cim-xml", header, result);
   std::string withoutTabs = text;
@@ -105,7 +105,7 @@ void CheckCimXml(const QueryHeader& header, const QueryResult& result) {
   Require(CountOf(text, "<INSTANCE ") == result.instances.size(), "every instance is there once");
 }
 
-// Quotation marks that do not end or begin a string are escaped, so that each line has an even number of others.
+// Quotation marks within strings are escaped, so each line has an even number of unescaped ones.
 void CheckMof(const QueryHeader& header, const QueryResult& result) {
   const std::string text = Shown("mof", header, result);
   RequirePlainLines(text);

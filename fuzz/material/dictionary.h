@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-// The string literals of the sources in the folders and of single files: what they look for in a text.
+// The string literals in the sources, folders or single files: the words that they search for.
 std::set<std::string> LiteralsOf(const std::vector<std::filesystem::path>& sources);
 
-// As libFuzzer reads them, one a line.
+// In the format of libFuzzer, one on each line.
 std::string DictionaryText(const std::set<std::string>& words);

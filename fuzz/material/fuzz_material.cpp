@@ -1,5 +1,5 @@
-// Writes what the fuzzers begin with: fuzz_material SOURCES FOLDER makes FOLDER/NAME/seeds and FOLDER/NAME/dictionary
-// for each of them.
+// Writes the initial material of the fuzzers: fuzz_material SOURCES FOLDER writes FOLDER/NAME/seeds and
+// FOLDER/NAME/dictionary for each of them.
 #include <filesystem>
 #include <iostream>
 #include <set>

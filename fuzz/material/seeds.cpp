@@ -22,7 +22,7 @@ constexpr const char* kAnswers = "samples/machine/zenx/answers";
 
 std::string Answer(const fs::path& file) { return CrLf(FileText(file)); }
 
-// After a separator each, the answers of the utility, of controllers that are kept; the others are not there.
+// The answers of the utility, each after a separator, for the controllers that are kept; the others are missing.
 std::string AnswersOf(const fs::path& answers, const Utility& utility, const std::vector<std::size_t>& kept) {
   const std::string none = Answer(answers / utility.name / "other.txt");
   std::string text;
@@ -108,7 +108,7 @@ std::string InstancePart(const Json& instance) {
   return part;
 }
 
-// What is published of the sample machine: the first two instances of each class.
+// Instances of the sample machine: the first two of each class.
 Json SamplePublished(const fs::path& sources) {
   const Json golden = Json::parse(FileText(sources / "tests/golden/sample-machine.json"));
   Json some = Json::array();
@@ -186,7 +186,7 @@ Seeds SeedMaker::Views() const {
   return seeds;
 }
 
-// The document's example, and the sample machine's texts as those of runs.
+// The document's example, and the sample machine's texts as the output of runs.
 Seeds SeedMaker::Bundles() const {
   const std::string page = FileText(sources_ / "docs/bundles.md");
   const std::size_t begin = page.find("hxahost bundle 1\n");

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-// Inputs to begin with, made of what the sample machine prints and of what is published of it.
+// Initial inputs, made from the outputs and published instances of the sample machine.
 
 using Seeds = std::vector<std::string>;
 
@@ -17,7 +17,7 @@ class SeedMaker {
   Seeds Qcmdrun() const;
   Seeds Hrconf() const;
   Seeds Arcconf() const;
-  // Of one report on a controller each.
+  // Each is a report on one controller.
   Seeds QcmdrunParsers() const;
   Seeds HrconfParsers() const;
   Seeds ArcconfParsers() const;

@@ -27,7 +27,7 @@ class Inspection {
     }
   }
 
-  // "Controller: " and what the device is called, for the newer utilities; what the oldest one prints.
+  // For newer utilities "Controller: " and the device's number; for the oldest one its output.
   void InspectSuffix(const ZenxPhysicalDevice& device) {
     constexpr std::string_view kPrefix = "Controller: ";
     std::string_view suffix = device.DeviceIdSuffix;

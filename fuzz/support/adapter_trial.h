@@ -12,13 +12,13 @@
 #include "fuzz/support/require.h"
 #include "plugin/host_interface/services.h"
 
-// Ends the program unless every field of the records is what the tools printed, but for numbers, identifiers and the
-// given words of the plug-in's own.
+// Ends the program unless every field of the records occurs in the tools' output, except numbers, identifiers and the
+// given words of the plug-in.
 void RequireProvenance(const ControllerList& controllers, const std::string& printed,
                        std::span<const std::string_view> ownWords);
 
-// Collects from an input that answers for one utility, twice: the same comes of it, no utility is run more often than
-// it may be, and nothing but what it printed is in the records. The adapter may throw std::out_of_range alone.
+// Collects twice from an input that answers for one utility: both results are equal, no utility is run more often than
+// allowed, and the records contain only its output. The adapter may throw only std::out_of_range.
 template <class Adapter>
 void TryAdapter(const std::uint8_t* data, std::size_t size, const Utility& utility,
                 std::span<const std::string_view> ownWords) {

@@ -15,7 +15,7 @@ bool IsContent(const std::string& line) {
   return line.starts_with(bundle_format::kLine) || line.starts_with(bundle_format::kUnendedLine);
 }
 
-// The bytes that the lines from there on hold.
+// The bytes in the lines from there on.
 std::string ContentOf(const std::vector<std::string>& lines, std::size_t first) {
   std::string content;
   for (std::size_t index = first; index < lines.size() && IsContent(lines[index]); ++index) {

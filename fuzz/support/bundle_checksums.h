@@ -3,6 +3,6 @@
 #include <string>
 #include <string_view>
 
-// The text of a bundle with the sizes and checksums that belong to its contents, so that a change of it is not
-// refused for them alone.
+// The text of a bundle with correct sizes and checksums for its contents, so that a changed bundle is not refused only
+// because of them.
 std::string WithChecksums(std::string_view text);

@@ -8,12 +8,12 @@
 #include "fuzz/support/sections.h"
 #include "fuzz/support/utilities.h"
 
-// While it lives, utilities answer with the texts of an input, from the given one on, in the order of the utilities;
-// the clock does not move. A utility whose text is missing, or begins with kCannotRun, cannot be run. Others are not
-// there.
+// While it exists, utilities answer with the texts of an input, from the given one on, in the order of the utilities;
+// the clock does not move. A utility whose text is missing, or begins with kCannotRun, cannot be run. Other utilities do
+// not exist.
 class FuzzedMachine {
  public:
-  // Begins a text that is not an answer but the reason why there is none.
+  // Begins a text that is the reason for a missing answer.
   static constexpr char kCannotRun = '\x1f';
 
   FuzzedMachine(const Sections& input, std::size_t firstText, std::vector<Utility> utilities);
@@ -23,10 +23,10 @@ class FuzzedMachine {
 
   // How often a utility was run.
   std::size_t Runs() const { return runs_; }
-  // Until now, by one that answered.
+  // The entries so far, logged by utilities that answered.
   const std::vector<std::pair<int, std::string>>& Log() const { return log_; }
 
-  // How often they are run at most while everything is collected once.
+  // The largest number of runs in one collection.
   std::size_t MostRuns() const;
 
  private:

@@ -11,8 +11,8 @@ const TemporaryFolder& Folder() {
   return folder;
 }
 
-// Systems of version 6 and later keep the log in a sub-folder. A path that does not fit the system finds no log, which
-// is tried as well as one that does.
+// Systems of version 6 and later keep the log in a sub-folder. A path that does not match the system finds no log; both
+// cases are tried.
 constexpr const char* kSubFolder = "KVR/Zentraxis Manager/";
 constexpr const char* kFileName = "RaidEvtA.log";
 

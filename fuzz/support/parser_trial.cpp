@@ -21,7 +21,7 @@ namespace {
 
 using Controller = std::shared_ptr<ZenxController>;
 
-// Parsers log what they pass over; here nobody reads it.
+// Parsers log the text that they skip; it is dropped here.
 class NoLog : public NKVRHXA20::ILogger {
   void Log(int, const std::string&) override {}
 };
@@ -40,7 +40,7 @@ bool AreEqual(const Record& left, const Record& right) {
                              [&](const auto& field) { return left.*field.field == right.*field.field; });
 }
 
-// The last record before the cut may be cut itself.
+// The last record before the cut may be incomplete.
 template <class Record>
 void RequireBeginning(const std::vector<std::shared_ptr<Record>>& cut,
                       const std::vector<std::shared_ptr<Record>>& whole) {
@@ -53,7 +53,7 @@ void RequireBeginning(const std::vector<std::shared_ptr<Record>>& cut,
 void TryCutOff(const ReportParser& parser, std::string_view report, const ZenxController& whole) {
   if (report.empty()) return;
   const auto place = report.size() * static_cast<unsigned char>(report.back()) / 256;
-  const std::string_view beginning = report.substr(0, report.rfind('\n', place) + 1);  // whole lines count
+  const std::string_view beginning = report.substr(0, report.rfind('\n', place) + 1);  // only whole lines count
   if (Contains(beginning, parser.decidingHeading) != Contains(report, parser.decidingHeading)) return;
   const Controller cut = Read(parser, beginning);
   RequireBeginning(cut->LogicalDevices, whole.LogicalDevices);
@@ -61,7 +61,7 @@ void TryCutOff(const ReportParser& parser, std::string_view report, const ZenxCo
   RequireBeginning(cut->StripeOrders, whole.StripeOrders);
 }
 
-// Every label has a letter.
+// Every label contains a letter.
 std::string WithoutLetters(std::string_view text) {
   std::string junk;
   std::ranges::copy_if(text, std::back_inserter(junk),
@@ -98,7 +98,7 @@ void TryParser(const ReportParser& parser, std::string_view report) {
   Require(controller->LogicalDevices.size() <= lines && controller->PhysicalDevices.size() <= lines &&
               controller->StripeOrders.size() <= lines,
           "no line gives two records of a kind");
-  // One of the two for each input: twice as many inputs are worth more than both.
+  // Only one of the two for each input: twice as many inputs find more than both checks.
   return report.size() % 2 == 0 ? TryJunk(parser, report) : TryCutOff(parser, report, *controller);
 }
 

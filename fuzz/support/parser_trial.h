@@ -12,20 +12,20 @@
 struct ReportParser {
   // Fills the controller from the report; the end of the text ends it early.
   void (*read)(ZenxController& controller, std::string_view report);
-  // The sections of a short report, line ends "\n". Between them may be other lines.
+  // The sections of a short report, line ends "\n". Other lines may be between them.
   std::span<const std::string_view> sections;
-  // What the plug-in itself writes into records.
+  // Words that the plug-in itself writes into records.
   std::span<const std::string_view> ownWords;
-  // Counts wherever it is, so that a report that is cut off before it is another one; "": there is none such.
+  // It counts wherever it occurs, so a report that is cut off before it has another meaning; "": there is none.
   std::string_view decidingHeading = {};
 };
 
-// Reads a report whole, cut off, and its bytes as junk around a report. Ends the program unless the records say only
-// what the report says, each heading gives one record at most, a report that is cut off gives the records before the
+// Reads a report whole, cut off, and its bytes as junk around a report. Ends the program unless the records contain only
+// text of the report, each heading produces at most one record, an incomplete report produces the records before the
 // cut, and junk around sections changes nothing.
 void TryParser(const ReportParser& parser, std::string_view report);
 
-// Changes an input: mostly as libFuzzer does, now and then by placing one of the sections between two of its lines.
+// Changes an input: mostly like libFuzzer, sometimes by inserting one of the sections between two of its lines.
 // Returns the new size.
 std::size_t MutateAroundSections(std::uint8_t* data, std::size_t size, std::size_t maxSize, unsigned seed,
                                  std::span<const std::string_view> sections);

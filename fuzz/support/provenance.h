@@ -5,18 +5,18 @@
 #include <string_view>
 #include <unordered_set>
 
-// What the tools printed, to tell it from what they did not.
+// The output of the tools, to detect values that are not part of it.
 class Printed {
  public:
   explicit Printed(std::string text) : text_(std::move(text)) {}
   Printed(const Printed&) = delete;
   Printed& operator=(const Printed&) = delete;
 
-  // Ends the program unless each word of the value, up to a blank, is in what was printed, or is one of the words
-  // that the plug-in itself writes.
+  // Ends the program unless each word of the value, up to a blank, occurs in the output, or is one of the plug-in's own
+  // words.
   void RequireWords(std::string_view name, std::string_view value, std::span<const std::string_view> ownWords);
 
-  // The same for each byte; the plug-in itself writes printable ASCII alone.
+  // The same for each byte; the plug-in itself writes only printable ASCII.
   void RequireBytes(std::string_view name, std::string_view value) const;
 
  private:

@@ -16,7 +16,7 @@ constexpr char kFirstClass = 'A';
 constexpr char kLogEntry = '@';
 constexpr char kToolRun = '?';
 
-// The texts of a part, one after the other, and "" after the last.
+// Returns the texts of a part, one after the other, and "" after the last.
 class Texts {
  public:
   explicit Texts(std::string_view part) : texts_(Split(part, '\n')) {}
@@ -56,7 +56,7 @@ TCIMValue ValueOf(const PropertyDeclaration& property, const std::string& text) 
   return {property.type, 0, elements};
 }
 
-// In the order in which the class declares them; those after the last text are not set.
+// In the order of declaration; properties after the last text are not set.
 void Publish(TRepository& repository, const ClassDeclaration& declaration, Texts texts) {
   const auto instance = repository.GetClass(std::string(declaration.name), {})->CreateInstance({});
   for (const PropertyDeclaration& property : declaration.properties) {

@@ -9,7 +9,7 @@
 
 namespace {
 
-// With its length, so that no two lists of values give the same text.
+// With its length, so that different lists of values produce different texts.
 void Add(std::string& text, std::string_view value) {
   text.append(std::to_string(value.size())).append(":").append(value);
 }

@@ -4,5 +4,5 @@
 
 #include "collect/records.h"
 
-// All that the records hold, as a text that differs where they do.
+// The contents of the records as a text; different records have different texts.
 std::string TextOf(const ControllerList& controllers, const RawDataList& rawData);

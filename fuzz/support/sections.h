@@ -7,21 +7,20 @@
 #include <string_view>
 #include <vector>
 
-// Ends one text of an input and begins the next; the character by which data have always been separated, and which no
-// tool prints.
+// Separates the texts of an input: the ASCII record separator, which no tool prints.
 constexpr char kSeparator = '\x1e';
 
-// An input that holds several texts.
+// An input of several texts.
 class Sections {
  public:
   Sections(const std::uint8_t* data, std::size_t size);
 
   std::size_t Count() const { return texts_.size(); }
 
-  // Nothing where the input has fewer texts.
+  // Empty if the input has fewer texts.
   std::optional<std::string> At(std::size_t index) const;
 
-  // "" where the input has fewer texts.
+  // "" if the input has fewer texts.
   std::string TextAt(std::size_t index) const { return At(index).value_or(""); }
 
  private:
@@ -31,5 +30,5 @@ class Sections {
 // The input as one text.
 std::string_view AsText(const std::uint8_t* data, std::size_t size);
 
-// The text between separators: at least one piece, of "" where the text is empty.
+// The pieces between separators: at least one, which is "" if the text is empty.
 std::vector<std::string> Split(std::string_view text, char separator);

@@ -53,7 +53,7 @@ void TakeLabels(std::string_view& rest, std::string_view line) {
 
 }  // namespace
 
-// The library's own check: it writes no text that is none.
+// Uses the library's own check: it throws for text that is not UTF-8.
 void RequireUtf8(std::string_view text) {
   try {
     Require(!nlohmann::json(text).dump().empty(), "it is written");

@@ -15,7 +15,7 @@ constexpr std::string_view kArcconfCommands[] = {
     "getconfig-al", "getlogs-device", "getlogs-dead", "getlogs-event", "getlogs-uart",
 };
 
-// What is recorded begins with a question whether there is such a controller; what is parsed is asked for again.
+// Recording first requests each controller number; parsing then requests it again.
 constexpr std::size_t kNumbers = 8;
 
 }  // namespace

@@ -6,25 +6,25 @@
 #include <string_view>
 #include <vector>
 
-// The controller utilities, as far as an input that answers for them has to know them.
+// The controller utilities, with the facts that an input needs to answer for them.
 
 // A command and its option as in the name of a file with its answer: "getconfig-al", "getstatus".
 struct Utility {
   std::string_view name;
   std::span<const std::string_view> commands;
-  std::size_t mostRuns;  // what one collection runs at most
+  std::size_t mostRuns;  // the limit of runs for one collection
 };
 
 extern const Utility kQcmdrun;
 extern const Utility kHrconf;
 extern const Utility kArcconf;
 
-// Controllers have the numbers from 1. Those from the last of these on share one set of answers.
+// Controllers are numbered from 1. From the last of these numbers on, they share one set of answers.
 constexpr std::size_t kAnsweredControllers = 4;
 
-// How many texts of an input answer for the utility.
+// The number of texts in an input that answer for the utility.
 std::size_t AnswerCount(const Utility& utility);
 
-// Where among them the answer to a command is: by controllers, then in the order of the commands. Ends the program
-// for a command that the utility is not to be run with.
+// The place of a command's answer among them: by controllers, then in the order of the commands. Ends the program for a
+// command with which the utility must not be run.
 std::size_t AnswerPlace(const Utility& utility, const std::vector<std::string>& arguments);

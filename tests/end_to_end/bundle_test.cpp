@@ -1,7 +1,7 @@
-// Bundles as people use them: the sample machine recorded by the real program with real processes, and replayed.
+// Bundles in use: the sample machine, recorded by the real program with real processes, and replayed.
 //
-// tests/golden/one-controller.bundle keeps bundles of this form readable, and is replayed on both systems. It holds
-// what the Windows build recorded of one of the sample machine's controllers. To renew it run
+// tests/golden/one-controller.bundle makes sure that bundles of this form stay readable, and is replayed on both systems.
+// It contains the recording of the Windows build for one of the sample machine's controllers. To renew it, run
 // RecordsTheBundleThatIsKept on Windows with ZENX_RENEW_GOLDEN=1 in the environment.
 
 #include <gmock/gmock.h>
@@ -40,7 +40,7 @@ class Bundles : public testing::Test {
   std::string Name(const std::string& file) const { return Utf8FromPath(folder_.Path() / file); }
   std::string Text(const std::string& file) const { return FileText(folder_.Path() / file); }
 
-  // Runs the program, which has to end well, and gives what it wrote.
+  // Runs the program, which must succeed, and returns its output.
   static std::string Run(const std::vector<std::string>& arguments) {
     const ProgramResult result = RunHxahost(arguments);
     EXPECT_EQ(result.exitStatus, 0) << result.err;
@@ -54,7 +54,7 @@ class Bundles : public testing::Test {
 std::string Sample() { return Utf8FromPath(SampleMachine()); }
 std::string KeptBundle() { return Utf8FromPath(Golden("one-controller.bundle")); }
 
-// The text without a line that it must have.
+// The text without a line that it must contain.
 std::string WithoutLine(std::string text, const std::string& line) {
   const std::size_t begin = text.find(line + "\n");
   EXPECT_NE(begin, text.npos) << line;
@@ -134,7 +134,7 @@ TEST_F(Bundles, OfTheSampleMachinePublishWhatItPublishes) {
 TEST_F(Bundles, OfWindowsAreReplayedOnEverySystem) {
   const Json replayed = Json::parse(Run({"query", "--format", "json", "--replay", KeptBundle()}));
   const Json golden = Json::parse(FileText(Golden("sample-machine.json")));
-  // All that the sample machine publishes of that controller, in the same order.
+  // Every instance of that controller on the sample machine, in the same order.
   Json expected = Json::array();
   std::set<std::string> paths;
   for (const Json& instance : replayed["queries"][0]["instances"]) paths.insert(instance["path"]);
@@ -148,8 +148,7 @@ TEST_F(Bundles, OfWindowsAreReplayedOnEverySystem) {
               HasSubstr("RAID controllers of SAMPLE on 2026-11-21 09:30:00 +01:00, collected in C:\\sample-machine\n"));
 }
 
-// What is asked for and answered is what was asked for and answered when the kept bundle was recorded; times and
-// folder differ.
+// The requests and answers are the same as in the kept bundle; times and folder differ.
 TEST_F(Bundles, RecordsTheBundleThatIsKept) {
   const RaidLogSetting setting(kRaidLogFolder);
   const MachineCopy machine;
@@ -159,7 +158,7 @@ TEST_F(Bundles, RecordsTheBundleThatIsKept) {
        Name("out"), "--machine-name", "SAMPLE", "--local-time", "20261121093000.000000+060"});
   hxahost::Bundle now = hxahost::ReadBundleFile(folder_.Path() / "m.bundle");
   ASSERT_TRUE(now.raidLog);
-  // As on a Windows machine of no one in particular.
+  // Paths as on any Windows machine.
   now.directory = "C:\\sample-machine";
   std::ranges::replace(now.raidLog->path, '/', '\\');
   if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) {
@@ -181,7 +180,7 @@ TEST_F(Bundles, ThatAreMaskedPublishAsMuchWithTheSameLinks) {
   const Json& first = before["queries"][0]["instances"];
   const Json& second = after["queries"][0]["instances"];
   ASSERT_EQ(first.size(), second.size());
-  // What each path has become: the same in every place, and no two the same.
+  // The new form of each path: the same everywhere, and different for different paths.
   std::map<std::string, std::string> paths;
   std::map<std::string, std::string> back;
   for (std::size_t index = 0; index < first.size(); ++index) {
@@ -232,7 +231,7 @@ TEST_F(Bundles, CanBeComparedWithEachOtherAndWithResults) {
   const std::string bundle = RecordedSampleMachine();
   EXPECT_EQ(RunHxahost({"diff", bundle, bundle}).exitStatus, 0);
   EXPECT_EQ(RunHxahost({"diff", bundle, Utf8FromPath(Golden("sample-machine.json"))}).exitStatus, 0);
-  // The second query, whose result the file has last, does not read the log again.
+  // The second query, which is the last in the file, does not read the log again.
   const auto twice = folder_.Write("twice.json", RunOfSampleMachine().result.dump());
   const ProgramResult result = RunHxahost({"diff", bundle, Utf8FromPath(twice)});
   EXPECT_EQ(result.exitStatus, 1);
@@ -243,7 +242,7 @@ TEST_F(Bundles, CanBeComparedWithEachOtherAndWithResults) {
   }
 }
 
-// A bundle from which something was taken, and that was closed again.
+// A bundle without one of its commands, with a valid closing line.
 std::string Without(const std::string& command) {
   hxahost::Bundle bundle = hxahost::ReadBundleFile(RunOfSampleMachine().bundle);
   std::erase_if(bundle.runs, [&command](const auto& run) { return CommandText(run) == command; });

@@ -1,4 +1,4 @@
-// "hxahost diff" on results of the sample machine: unchanged, and with a disk that failed and one that was taken out.
+// "hxahost diff" on results of the sample machine: unchanged, with a failed disk and with a removed one.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ using testing::StartsWith;
 
 class Diff : public testing::Test {
  protected:
-  // Writes what the machine gives and names the file.
+  // Writes the result of the machine and returns the file's name.
   std::string Collect(const std::string& directory, const std::string& name) const {
     const std::string file = Utf8(name);
     const ProgramResult result =
@@ -108,7 +108,7 @@ TEST_F(Diff, EndsWithStatus2AndOneLineWhereItCannotTell) {
   }
 }
 
-// What a utility may print is bounded; the result of a bundle is not a utility's.
+// The output of a utility is limited; the result of a bundle is not.
 TEST_F(Diff, TakesABundleWhoseResultIsLongerThanAnyUtilityMayPrint) {
   hxahost::Bundle bundle = hxahost::ReadBundleFile(RecordedSampleMachine());
   const auto logs = std::ranges::find_if(bundle.runs, [](const hxahost::RecordedRun& run) {

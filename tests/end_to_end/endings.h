@@ -5,7 +5,7 @@
 
 #include "tests/support/running_program.h"
 
-// A way in which a program can be made to end, and what is seen of that.
+// A way to end a program, and its visible effects.
 struct Ending {
   const char* name;
   EndRequest request;
@@ -13,8 +13,8 @@ struct Ending {
   std::string line;  // on standard error
 };
 
-// Those that the system has.
+// The ways that the system has.
 const std::vector<Ending>& Endings();
 
-// Within this time a collection has started a utility, unless the machine is busy.
+// A collection starts a utility within this time, unless the machine is busy.
 extern const int kLongestStartMilliseconds;

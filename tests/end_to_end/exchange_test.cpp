@@ -1,6 +1,6 @@
-// What the program writes for CIM repositories is the same, byte for byte, on both systems: held against sizes and
-// checksums, as the texts are long. Readers of their own take them apart natively (tests/exchange). To renew the
-// checksums, run this test natively with ZENX_RENEW_GOLDEN=1 in the environment, after those readers have passed.
+// Outputs for CIM repositories are the same, byte for byte, on both systems. They are compared by sizes and checksums, as
+// they are long. Independent readers read them natively (tests/exchange). To renew the checksums, run this test natively
+// with ZENX_RENEW_GOLDEN=1 in the environment, after those readers have passed.
 
 #include <string>
 #include <vector>

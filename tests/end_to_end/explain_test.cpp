@@ -1,4 +1,4 @@
-// "hxahost explain" as people run it: the real program on the recorded sample machine.
+// "hxahost explain" in use: the real program on the recorded sample machine.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -35,7 +35,7 @@ TEST(Explain, ShowsTheLineOfEachValueAndWhatTheOthersAreMadeOf) {
                                           "      DeviceType; fixed text, Channel and ScsiId\n")));
 }
 
-// What the first words of the answer, or the one line of an error, are.
+// Expects the first words of the answer, or the one line of an error.
 TEST(Explain, TakesAnObjectByAnyOfItsNames) {
   struct Case {
     std::string words;
@@ -67,7 +67,7 @@ TEST(Explain, TakesAnObjectByAnyOfItsNames) {
   }
 }
 
-// A tool that is asked for its configuration once more says another state than the first times.
+// At the last request for its configuration a tool reports another state than before.
 std::string BundleOfAChange(const TemporaryFolder& folder) {
   Bundle bundle = ReadBundleFile(RunOfSampleMachine().bundle);
   const std::vector<std::string> arguments = {"getconfig", "1", "al"};

@@ -1,6 +1,5 @@
-// The faults of tests/host/fault_matrix_test.cpp again, some of them, with everything real: the program, and processes
-// that answer wrongly, not at all, or cannot be started. What is published is what is published where the same is
-// played without a process.
+// Some of the faults of tests/host/fault_matrix_test.cpp again, with the real program and real processes that answer
+// wrongly, not at all, or cannot be started. The published instances must equal those without processes.
 
 #include <filesystem>
 #include <fstream>
@@ -33,7 +32,7 @@ Instance InstanceOf(const Json& json) {
   return instance;
 }
 
-// What the JSON of one query says.
+// The contents of the JSON of one query.
 void ReadJson(const Json& json, Published& published) {
   for (const Json& instance : json["queries"][0]["instances"]) {
     const Json& properties = instance["properties"];
@@ -58,7 +57,7 @@ void ReadAsJson(const QueryHost& host, Published& published) {
 
 Published WithoutProcesses(const Machine& machine) { return QueryScripted(machine, ReadAsJson); }
 
-// The machine of the tables, in a folder of its own, with programs for utilities.
+// The machine of the tables, in a folder of its own, with programs as utilities.
 class RealMachine {
  public:
   RealMachine() {
@@ -101,7 +100,7 @@ void ExpectTheSame(const Published& real, const Published& played) {
   EXPECT_EQ(real.isAborted, played.isAborted);
 }
 
-// What real processes do for minutes is cut short.
+// Shortens texts that real processes would write for minutes.
 Behaviour BehaviourOf(const Fault& fault, const Command& command) {
   constexpr std::size_t kMost = std::size_t{1} << 20U;
   Behaviour behaviour = fault.Make(command, WholeMachine());
@@ -109,8 +108,8 @@ Behaviour BehaviourOf(const Fault& fault, const Command& command) {
   return behaviour;
 }
 
-// A process that cannot be started comes to a whole utility, and has a test of its own; spawn_process_test.cpp looks
-// past the time limit.
+// A process that cannot be started affects a whole utility, and has a test of its own; spawn_process_test.cpp tests the
+// time limit.
 TEST(FaultMatrix, OfRealProcessesIsTheSameAsWithoutThem) {
   const RealMachine machine;
   const Published whole = WithoutProcesses(WholeMachine());

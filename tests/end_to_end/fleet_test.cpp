@@ -21,7 +21,7 @@ using testing::Not;
 
 class FleetCommand : public testing::Test {
  protected:
-  // A bundle of a machine of tests/machines under another name.
+  // A bundle of a machine of tests/machines with another name.
   void WriteMachine(const std::string& name, const std::string& answers) const {
     hxahost::Bundle bundle =
         BundleOf(ReadMachineAnswers(FileText(SourceFile("tests/machines/" + answers + ".answers").string())));

@@ -1,5 +1,5 @@
 // "hxahost health" as people and monitoring programs run it: the real program with real processes, on the sample
-// machine and on copies of it in which something was fixed or broken.
+// machine and on copies with one thing fixed or broken.
 
 #include <filesystem>
 #include <iterator>
@@ -40,7 +40,7 @@ TEST(Health, IsFineWhereOneUtilityShowsAControllerInOrderOrEachSaysThatThereIsNo
   EXPECT_EQ(result.out, "OK: no controller on HOST: qcmdrun, hrconf_64, arcconf answered that there is none\n");
 }
 
-// One thing is wrong in what hrconf prints.
+// One thing is wrong in the output of hrconf.
 void ExpectHealth(const std::string& before, const std::string& after, int exitStatus, const std::string& says) {
   const MachineCopy machine;
   machine.LeaveOnly("hrconf_64");

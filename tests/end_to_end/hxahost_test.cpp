@@ -47,7 +47,7 @@ class Hxahost : public testing::Test {
   TemporaryFolder folder_;
 };
 
-// One line: what is wrong and what to do.
+// One line: the fault and what to do.
 void ExpectOneLine(const std::string& err) {
   EXPECT_EQ(std::ranges::count(err, '\n'), 1) << err;
   EXPECT_THAT(err, StartsWith("hxahost: "));
@@ -104,7 +104,7 @@ TEST_F(Hxahost, ShowsEveryClassThatWasAskedForUnderItsDeclaredName) {
                                     "  KVRSG_DiskGroup      0\n"
                                     "  KVRSG_zxLogicalDisk  0\n"));
   EXPECT_THAT(result.out, HasSubstr("Nothing was found"));
-  ExpectOneLine(result.err);  // standard error is no terminal here, so no progress is shown
+  ExpectOneLine(result.err);  // standard error is not a terminal here, so no progress is shown
 }
 
 TEST_F(Hxahost, FindsNothingWithoutTheFolderOfToolsAndNamesTheTools) {

@@ -1,5 +1,5 @@
-// Collections that are ended in the middle: by a signal, by force or by the limit of a run. Nothing may be left of
-// them.
+// Collections that are ended in the middle: by a signal, by force or by the limit of a run. No process and no file may
+// remain.
 
 #include <chrono>
 #include <cstdlib>
@@ -28,7 +28,7 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 using std::chrono::steady_clock;
 
-// A machine whose utilities have families of processes that nobody ends by asking, and sleep.
+// A machine whose utilities start families of processes that ignore requests to end, and sleep.
 class SleepingMachine {
  public:
   SleepingMachine() {
@@ -60,7 +60,7 @@ class SleepingMachine {
     return true;
   }
 
-  // What is left of a collection some seconds after its end, one line for each thing.
+  // The processes and files that remain some seconds after a collection, one on each line.
   std::string Leftovers() const {
     std::string left;
     for (const fs::path& programs : {Zenx(), HxahostPath()}) {
@@ -111,8 +111,7 @@ TEST_P(Interruption, EndsTheUtilityWithItsFamilyAndLeavesNothing) {
 INSTANTIATE_TEST_SUITE_P(By, Interruption, testing::ValuesIn(Endings()),
                          [](const auto& ending) { return std::string(ending.param.name); });
 
-// How many collections the next test ends: as many as ZENX_TEST_INTERRUPTIONS in the environment says, where it is
-// there.
+// How many collections the next test ends: the value of ZENX_TEST_INTERRUPTIONS in the environment, if it is set.
 int CollectionsToEnd() {
   const char* const wanted = std::getenv("ZENX_TEST_INTERRUPTIONS");
   return wanted == nullptr ? 10 : std::stoi(wanted);

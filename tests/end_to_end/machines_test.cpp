@@ -1,4 +1,4 @@
-// Machines in situations that people meet: what the utilities answer there, and what the program has to say of it.
+// Machines in real situations: the answers of the utilities, and the expected output of the program.
 // tests/machines/README.md describes both files.
 
 #include <gtest/gtest.h>
@@ -49,7 +49,7 @@ std::vector<std::string> ArgumentsOf(const std::string& command) {
   return {std::istream_iterator<std::string>(words), {}};
 }
 
-// The commands of the answers that a collection made use of.
+// The commands of the answers that a collection used.
 std::set<std::string> Used(const hxahost::Bundle& recorded) {
   std::set<std::string> used;
   for (const hxahost::RecordedRun& run : recorded.runs) {

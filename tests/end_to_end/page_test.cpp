@@ -1,4 +1,4 @@
-// Tables that go to a file or a pipe: as wide as asked for, in ASCII where asked for, without colours.
+// Tables in a file or a pipe: with the requested width, in ASCII on request, without colours.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

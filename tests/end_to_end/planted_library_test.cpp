@@ -1,4 +1,4 @@
-// Libraries planted where the tools are, which is where the program works, and where somebody may have put anything.
+// Libraries planted in the folder of the tools, the working directory, where anybody may have written files.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 using hxahost::Utf8FromPath;
 
-// All that the program and the plug-in are linked with, on either system.
+// Every library that the program and the plug-in are linked with, on either system.
 constexpr const char* kNames[] = {
     "zenx.pi",        "plugin.nsp",         "hxacore.dll",         "libhxacore.so", "setupapi.dll",
     "cfgmgr32.dll",   "advapi32.dll",       "version.dll",         "shell32.dll",   "libstdc++-6.dll",

@@ -1,4 +1,4 @@
-// The plug-in's own library in this process. What it keeps it keeps for the process, so all of it is one test.
+// The plug-in's own library in this process. It keeps its data until the process ends, so all of this is one test.
 
 #include "host/hxahost/collection/plugin.h"
 
@@ -25,7 +25,7 @@ using hxahost::ProgramError;
 using testing::HasSubstr;
 using testing::ThrowsMessage;
 
-// Tools that say nothing, which takes a while.
+// Slow tools without output.
 class SlowTools {
  public:
   SlowTools() {
@@ -52,7 +52,7 @@ class SlowTools {
   std::atomic<bool> isCrowded_ = false;
 };
 
-// The classes of what a query publishes, into a repository of its own.
+// The classes of the instances that a query publishes into a repository of its own.
 std::vector<std::string> Query(Plugin& plugin) {
   const auto repository = TRepository::Make(std::nullopt);
   std::vector<boost::shared_ptr<ICIMClass>> classes;

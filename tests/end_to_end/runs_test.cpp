@@ -1,4 +1,4 @@
-// What the program tells of the runs of the tools: the sample machine as it is, and a copy in which some fail.
+// The program's list of the runs of the tools: for the sample machine, and for a copy in which some fail.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ Json RunsOf(const std::string& directory) {
   return Json::parse(result.out)["queries"][0]["runs"];
 }
 
-// How often each tool came to each outcome.
+// How often each tool had each outcome.
 std::map<std::string, int> OutcomesOf(const Json& runs) {
   std::map<std::string, int> outcomes;
   for (const Json& run : runs) ++outcomes[std::string(run["command"]) + " " + std::string(run["outcome"])];

@@ -1,6 +1,6 @@
-// The whole sample machine, every class, queried by the real program with real processes: the first query is held
-// against tests/golden/sample-machine.json, and the second against the first. To renew that file, run this test
-// natively with ZENX_RENEW_GOLDEN=1 in the environment, and read the difference line by line before it is committed.
+// The whole sample machine, every class, queried by the real program with real processes: the first query is compared
+// with tests/golden/sample-machine.json, and the second with the first. To renew that file, run this test natively with
+// ZENX_RENEW_GOLDEN=1 in the environment, and read the difference line by line before the commit.
 
 #include <algorithm>
 
@@ -39,7 +39,7 @@ TEST(SampleMachine, PublishesTheSameOnTheSecondQueryWithoutRunningAToolOrReading
   ])"));
 }
 
-// A gap in the legacy numbers: the next utility gives its controller a number that is in use.
+// A gap in the numbers of the legacy utility: the next utility gives its controller a number that is in use.
 TEST(SampleMachineWithAGap, KeepsApartTheControllersThatShareANumber) {
   const fs::path machine = SampleMachine().parent_path() / "sample-machine-with-gap";
   const ProgramResult status = RunHxahost({"status", "--directory", Utf8FromPath(machine), "--width", "80"});

@@ -39,7 +39,7 @@ std::string RunChild(const std::vector<std::string>& arguments, int limitSeconds
   return TOSSpecific::SpawnProcess(ChildPath(), arguments, limitSeconds);
 }
 
-// A file in which a process writes its number, gone afterwards.
+// A file in which a process writes its number; the destructor deletes it.
 class NumberFile {
  public:
   explicit NumberFile(const std::string& furtherName = "")
@@ -106,7 +106,7 @@ TEST(SpawnProcess, GivesArgumentsToTheProgramAsTheyAre) {
   EXPECT_EQ(RunChild(arguments), expected);
 }
 
-// Whatever a shell, the C runtime or the system takes for something else than a letter.
+// Characters that a shell, the C runtime or the system may interpret.
 std::string RandomArgument(std::mt19937& random) {
   constexpr std::string_view kCharacters = "\"\"\"\\\\\\ \t\n\r\v%^&|<>()!'`$;*?[]{,}~=/-#@aZ9";
   const std::string pieces[] = {"%PATH%",           "$HOME",       "$(", "\xC3\xA9", "\xE2\x82\xAC",
@@ -218,7 +218,7 @@ struct ModeCase {
 
 void PrintTo(const ModeCase& mode, std::ostream* out) { *out << mode.name; }
 
-// The program has ended by itself: its output counts, and what it has left ends with the run.
+// The program has ended by itself: its output counts, and processes that it left end with the run.
 class SpawnProcessLeft : public testing::TestWithParam<ModeCase> {};
 
 TEST_P(SpawnProcessLeft, ReturnsTheOutputAndEndsWhatIsLeft) {
@@ -237,7 +237,7 @@ INSTANTIATE_TEST_SUITE_P(What, SpawnProcessLeft,
                                          ModeCase{"WithoutOutputGroupOrParent", "daemon"}),
                          [](const auto& mode) { return mode.param.name; });
 
-// The program runs beyond the limit, and has started something.
+// The program runs beyond the limit, and has started other processes.
 class SpawnProcessTree : public testing::TestWithParam<ModeCase> {};
 
 TEST_P(SpawnProcessTree, EndsWhatTheProgramHasStartedWhenTheLimitPasses) {
@@ -275,13 +275,13 @@ TEST(SpawnProcess, TakesAsMuchOutputAsIsAllowedAndNotAByteMore) {
   EXPECT_THROW(RunChild({"bytes", std::to_string(kMost + 1)}), THXAException);
 }
 
-// How many runs the next test makes: as many as ZENX_TEST_SPAWNS in the environment says, where it is there.
+// How many runs the next test makes: the value of ZENX_TEST_SPAWNS in the environment, if it is set.
 int SpawnsToTry() {
   const char* const wanted = std::getenv("ZENX_TEST_SPAWNS");
   return wanted == nullptr ? kManyRuns : std::stoi(wanted);
 }
 
-// What this process holds.
+// The resources of this process.
 struct Holdings {
   std::size_t handles = OpenHandleCount();
   std::size_t memory = MemoryInUse();
@@ -302,7 +302,7 @@ void RunInThreads(int threadCount, int runs) {
   for (std::future<int>& thread : threads) EXPECT_EQ(thread.get(), runs);
 }
 
-// Four at a time: what one run holds must not get into the program of another either.
+// Four at a time: one run must not inherit the handles of another either.
 TEST(SpawnProcess, ManyRunsLeaveNeitherHandlesNorMemoryNorChildren) {
   constexpr int kThreads = 4;
   RunInThreads(kThreads, 1);

@@ -1,4 +1,4 @@
-// How a run ended, beside what it wrote: real programs, real failures.
+// How a run ended, besides its output: real programs, real failures.
 
 #include "host/hxacore/spawn_result.h"
 
@@ -22,7 +22,7 @@ SpawnResult RunChild(const std::vector<std::string>& arguments) {
   return RealServices().spawn(ChildPath(), arguments, kGenerous);
 }
 
-// The reported reason of a failed run; -1 where it did not fail.
+// The reported reason of a failed run; -1 if it did not fail.
 int FailureOf(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
   try {
     RealServices().spawn(path, arguments, limitSeconds);

@@ -1,5 +1,4 @@
-// The lines of the tools' texts that nothing published shows: on the sample machine, and where a tool changes its
-// words.
+// The lines of the tools' texts that no property shows: on the sample machine, and after a tool changes its words.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -23,7 +22,7 @@ Json UnreadOf(const std::string& machine, const std::string& name) {
   return Json::parse(result.out)["queries"][0]["unread"];
 }
 
-// "command: number text" for each line, blanks as they are.
+// "command: number text" for each line, blanks included.
 std::vector<std::string> Listed(const Json& unread) {
   std::vector<std::string> all;
   for (const Json& text : unread) {

@@ -1,5 +1,5 @@
-// What is typed wrong, and files that cannot be read or written: for every option of every command one line that says
-// what to do, an exit status that scripts can tell apart, and every file as it was before.
+// Wrong arguments, and files that cannot be read or written: for every option of every command one line with advice, an
+// exit status that scripts can distinguish, and unchanged files.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,17 +25,17 @@ using testing::HasSubstr;
 using testing::StartsWith;
 using Texts = std::vector<std::string>;
 
-// Marks in the arguments of a case: files and folders that are there or not.
-constexpr const char* kFile = "<file>";             // with "good" in it
+// Placeholders in the arguments of a case: files and folders that exist or do not.
+constexpr const char* kFile = "<file>";  // contains "good"
 constexpr const char* kFolder = "<folder>";         // empty
-constexpr const char* kMissing = "<missing>";       // in a folder that is there
-constexpr const char* kNowhere = "<nowhere>";       // in a folder that is not there
-constexpr const char* kUnderFile = "<under file>";  // in a file, as if that were a folder
+constexpr const char* kMissing = "<missing>";  // in an existing folder
+constexpr const char* kNowhere = "<nowhere>";  // in a missing folder
+constexpr const char* kUnderFile = "<under file>";  // in a file, as if it were a folder
 
 constexpr const char* kBundle = "<bundle>";  // of the sample machine
 
 struct Case {
-  const char* option;  // that the case is about; "" for operands and the like
+  const char* option;  // tested by the case; "" for operands and others
   Texts arguments;
   int exitStatus;
   const char* says;
@@ -178,7 +178,7 @@ const std::vector<Case> kMaskCases = {
     {"",              {"bundle", "mask", kFile, kMissing},                      2, "is no bundle of"           },
 };
 
-// One file with something good in it and one empty folder.
+// One file with good contents and one empty folder.
 class UsageErrors : public testing::Test {
  protected:
   UsageErrors() {
@@ -225,7 +225,7 @@ class UsageErrors : public testing::Test {
   TemporaryFolder folder_;
 };
 
-// "  -o,--output FILE   Where ..."; the help itself cannot be given wrongly.
+// "  -o,--output FILE   Where ..."; --help itself takes no value.
 std::set<std::string> OptionsOf(Texts command) {
   command.emplace_back("--help");
   std::istringstream help(RunHxahost(command).out);

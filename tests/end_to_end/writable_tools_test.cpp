@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 using testing::AllOf;
 using testing::HasSubstr;
 
-// A machine with tools that cannot be run, which is enough to ask who may change them.
+// A machine with tools that cannot be run: enough to check who may change them.
 class WritableTools : public testing::Test {
  protected:
   WritableTools() {
@@ -27,7 +27,7 @@ class WritableTools : public testing::Test {
 
   fs::path Zenx() const { return folder_.Path() / "zenx"; }
 
-  // What is said on standard error before the line that no tool answered.
+  // Standard error before the line that no tool answered.
   std::string Warning() const {
     const ProgramResult result =
         RunHxahost({"query", "--directory", hxahost::Utf8FromPath(folder_.Path()), "--format", "json"});

@@ -15,7 +15,7 @@ using namespace NKVRHXA20;
 const std::string kNoControllers = CrLf("Controllers found: 0\nCommand completed successfully.\n");
 const std::string kInvalidNumber = CrLf("Controllers found: 2\nInvalid controller number.\n");
 
-// One drive and one device, in the fewest lines that have both.
+// One drive and one device, in as few lines as possible.
 std::string Config(const std::string& serial) {
   return CrLf("Controller information\n   Controller Serial Number : " + serial +
               "\n"
@@ -52,7 +52,7 @@ class ArcconfDataTest : public AdapterTest {
     return Summary(controllers_);
   }
 
-  // D stands for "Device", and what is found for the numbers of the devices.
+  // D is replaced by "Device"; found lists the numbers of the devices.
   void ExpectDevices(const char* name, const std::string& section, const std::string& found) {
     CollectOne(CrLf("Controller information\nPhysical Device information\n----\n" + Replaced(section, "D ", "Device ") +
                     "Command completed successfully.\nDevice #9\n Device is a Hard drive\n"));

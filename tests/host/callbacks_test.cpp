@@ -16,7 +16,7 @@ namespace {
 
 using namespace NKVRHXA20;
 
-// A plug-in manager that lives as long as the test, with the plug-ins that register meanwhile.
+// A plug-in manager that exists as long as the test, with the plug-ins that register in that time.
 class Manager {
  public:
   Manager() : manager_(TPluginManagerAccess::Install()) {}
@@ -64,7 +64,7 @@ TEST(Callbacks, RegisteringRunsNothing) {
   EXPECT_TRUE(services.log.empty());
 }
 
-// The message of the broken invariant that attaching ends in.
+// The message of the broken invariant with which attaching fails.
 std::string BrokenInvariant() {
   try {
     OnLibraryNotification(1);

@@ -17,7 +17,7 @@ namespace {
 using NKVRHXA20::TRootObject;
 using Lines = std::vector<std::string>;
 
-// What was found, recorded and logged, and what was run for it.
+// The controllers, the records, the log and the runs.
 struct Outcome {
   Lines controllers;
   Lines commands;
@@ -88,7 +88,7 @@ TEST(ZenxCollectData, NumberControllersOnFromToolToTool) {
   }
 }
 
-// Numbers go on from the count of controllers before, not from the highest number.
+// Numbers continue from the number of controllers so far, not from the highest number.
 TEST(ZenxCollectData, GiveANumberTwiceWhereALegacyControllerIsMissingBeforeAnother) {
   std::map<std::string, std::string> answers;
   for (auto& [command, answer] : AnswersOf(std::end(kMachines)[-1])) {

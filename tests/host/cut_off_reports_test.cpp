@@ -10,7 +10,7 @@
 #include "tools/arcconf/arcconf_adapter.h"
 #include "tools/hrconf/hrconf_adapter.h"
 
-// Reports of the sample machine, cut off anywhere: what precedes the cut is in the records, and nothing else is.
+// Reports of the sample machine, cut off anywhere: the records contain everything before the cut, and nothing else.
 namespace {
 
 using NKVRHXA20::HostServices;
@@ -58,7 +58,7 @@ std::size_t Count(std::string_view text, std::string_view label) {
   return count;
 }
 
-// A value that goes on over several lines is there up to the cut.
+// A value of several lines is there up to the cut.
 bool BeginsWith(const std::string& full, const std::string& part) {
   const std::size_t last = part.find_last_not_of("\r\n");
   return full.starts_with(part.substr(0, last == part.npos ? 0 : last + 1));
@@ -85,7 +85,7 @@ void ExpectFirstOf(const std::vector<std::shared_ptr<Record>>& full, const std::
   }
 }
 
-// Whether a line begins or ends something, so that all before it is complete.
+// Whether a line begins or ends an object, so that everything before it is complete.
 bool IsBoundary(std::string_view rest) {
   const std::string_view line = rest.substr(0, rest.find('\n') + 1);
   return line.starts_with("\r\n") || line.starts_with("Logical drive number") || line.find("Device #") != line.npos;

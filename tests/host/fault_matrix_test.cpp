@@ -68,7 +68,7 @@ void ExpectOwnRawData(const Command& command, const Behaviour& behaviour, const 
 
 void ExpectRawData(const Command& command, const Behaviour& behaviour, const Published& published) {
   if (command.controller != nullptr) ExpectOwnRawData(command, behaviour, published);
-  // Commands of a number that seems to have a controller now are recorded, too.
+  // If the number now seems to have a controller, its commands are recorded, too.
   const std::string mark = " " + std::to_string(command.number) + " ";
   const auto isOwn = [&](const std::string& recorded) {
     if (command.controller != nullptr) return recorded == command.PublishedKey();
@@ -119,7 +119,7 @@ TEST(FaultMatrix, EveryAnswerCutOffBehindEachOfItsLinesCostsWhatItsColumnSays) {
   EXPECT_GT(number, 1000U);
 }
 
-// Otherwise the tables above would judge by nothing.
+// Otherwise the tables above would be compared with an empty machine.
 TEST(FaultMatrix, TheWholeMachineHasFiveControllersWithNumbersOfTheirOwn) {
   const std::vector<Instance>& whole = Matrix().OfWholeMachine().instances;
   EXPECT_EQ(ControllerCount(whole), Controllers().size());

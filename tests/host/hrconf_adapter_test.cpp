@@ -32,7 +32,7 @@ std::string Config(const std::string& status) {
 std::string GetStatus(unsigned number) { return "hrconf_64 getstatus " + std::to_string(number); }
 std::string GetVersion(unsigned number) { return "hrconf_64 getversion " + std::to_string(number); }
 
-// What is found of a controller made from Config.
+// The expected summary of a controller made from Config.
 std::string Found(unsigned number) {
   return std::to_string(number) + " \n drive 1| 100 MB\n device Controller: 0Device #0|Hard drive| Online\n";
 }
@@ -114,7 +114,7 @@ TEST_F(HrconfDataTest, AsksForNoVersionOnASystemOfVersionSixPointNought) {
   ASSERT_EQ(controllers_.size(), 1u);
   EXPECT_EQ(controllers_[0]->BiosVersion, "");
   EXPECT_EQ(controllers_[0]->DeviceDriverVersion, "");
-  // The answer put in place of the missing one is a proper one, so nothing complains of bad data.
+  // The answer that replaces the missing one is valid, so no error is logged.
   EXPECT_THAT(services_.LogTexts(), testing::Not(testing::Contains(testing::HasSubstr("Bad Data"))));
 }
 
@@ -169,7 +169,7 @@ TEST_F(HrconfDataTest, GoesOnBehindAnAnswerThatIsNoReport) {
     services_.runs.clear();
     Collect();
     EXPECT_EQ(Summary(controllers_), Found(2)) << answer;
-    // The first pass asks for the version whatever the report says, the second only where there is one.
+    // The first pass always requests the version, the second only if there is a report.
     EXPECT_THAT(services_.runs, testing::Contains(GetVersion(1)).Times(1)) << answer;
   }
 }

@@ -1,4 +1,4 @@
-// Every value of the sample machine is traced to the line that it was read from: its own one, not the same words of a
+// Every value of the sample machine is traced to the line that it was read from: its own line, not an equal line of a
 // neighbour.
 #include "host/hxahost/proof/proof.h"
 
@@ -26,7 +26,7 @@ using namespace NKVRHXA20;
 constexpr auto kDisk = kDiskDriveClass;
 constexpr auto kDrive = kLogicalDiskClass;
 
-// What a query publishes of the sample machine.
+// The published instances of the sample machine.
 class SampleMachine {
  public:
   explicit SampleMachine(const std::map<std::string, std::string>& answers = AllAnswers()) {
@@ -50,7 +50,7 @@ class SampleMachine {
     return static_cast<std::size_t>(found - Instances().begin());
   }
 
-  // From here on the instance says something else than the raw text.
+  // Changes the instance so that it differs from the raw text.
   void Set(std::size_t place, const std::string& property, const std::string& value) {
     const auto repository = TRepository::Make(std::nullopt);
     const auto copy = repository->GetClass(std::string(Instances()[place]->Class().name), {})->CreateInstance({});
@@ -74,7 +74,7 @@ std::vector<std::string> LinesOf(const InstanceList& instances, const Proof& pro
   return lines;
 }
 
-// The nearest line above, the line itself included, that contains the text.
+// The nearest line that contains the text, at or above the line.
 std::string Above(const std::vector<std::string>& lines, std::size_t from, std::string_view text) {
   for (std::size_t index = from + 1; index-- > 0;) {
     if (HasPart(lines[index], text)) return lines[index];
@@ -82,7 +82,7 @@ std::string Above(const std::vector<std::string>& lines, std::size_t from, std::
   return "";
 }
 
-// What the report prints at the beginning of the object that a line belongs to.
+// Expects the beginning of the object that a line belongs to.
 void ExpectOwnLine(const InstanceList& instances, const TPublishedInstance& instance, const Proof& proof) {
   const std::vector<std::string> lines = RawElements(*instances[proof.text], "RawResults");
   const std::size_t line = proof.lines.front();
@@ -102,7 +102,7 @@ void ExpectOwnLine(const InstanceList& instances, const TPublishedInstance& inst
   }
 }
 
-// What is taken from the line in other words: part of an identifier, or a model under another name.
+// Whether the value differs from the line: it is part of an identifier, or another name of a model.
 bool IsSaidOtherwise(const Proof& proof, const std::string& said, const std::string& value) {
   if (proof.property == "DeviceID") return value.ends_with(WithSingleBlanks(said.substr(said.find(':') + 1)));
   return said == "Controller type : Zentraxis B3 Ultra2 SCSI" ? value == "Zentraxis-B3"
@@ -127,7 +127,7 @@ void ExpectLabelAndValue(const InstanceList& instances, const TPublishedInstance
   EXPECT_NE(labels, "") << said;
 }
 
-// The second controller of a tool has the number 3, which is also what the next tool's first controller gets.
+// The second controller of a tool has the number 3, which the next tool's first controller also gets.
 std::map<std::string, std::string> AnswersWithGap() {
   std::map<std::string, std::string> answers;
   for (auto& [command, answer] : AllAnswers()) {
@@ -228,7 +228,7 @@ TEST(Proof, FindsDevicesWhoseNumbersAreCut) {
   EXPECT_EQ(LinesOf(machine.Instances(), proof).at(0), "         State                              : Failed");
 }
 
-// The tool is asked twice: what it says the second time is published.
+// The tool is run twice: the second answer is published.
 TEST(Proof, SaysWhereTheRawTextSaysSomethingElse) {
   using enum Evidence;
   constexpr std::string_view kStripes = "KVRSG_BadStripeData";

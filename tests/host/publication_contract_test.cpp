@@ -15,7 +15,7 @@ namespace {
 using namespace NKVRHXA20;
 using Names = std::set<std::string_view>;
 
-// The classes that are recognised and left empty.
+// The classes that are accepted but always empty.
 const Names kEmptyClasses = {"KVRSG_DiskGroup", "KVRSG_zxDriveInDiskGroup", "KVRSG_zxExtenInDiskGroup"};
 
 Names PublishingClasses() {
@@ -41,7 +41,7 @@ struct FullQuery {
   QueryHost host;
 };
 
-// The code of a value's type, of the elements' type for an array.
+// The type of a value, for an array the type of its elements.
 ECIMType TypeOf(const TCIMValue& value) {
   switch (TCIMValueReader::Kind(value)) {
     case ValueKind::kString: return kCIMString;

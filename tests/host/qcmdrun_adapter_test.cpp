@@ -63,7 +63,7 @@ void RejectStatus(ZenxController&, CollectedData&) { throw THXAException("no sta
 
 void RejectBadStripe(ZenxBstData&, const CollectedData&, std::string_view) { throw THXAException("no bad stripe"); }
 
-// A machine whose utility knows controller 1 alone and answers everything for it. Each test changes one thing.
+// A machine whose utility has only controller 1 and answers everything for it. Each test changes one thing.
 class QcmdrunDataTest : public testing::Test {
  protected:
   QcmdrunDataTest() {
@@ -71,7 +71,7 @@ class QcmdrunDataTest : public testing::Test {
     SetController(1);
   }
 
-  // The utility has controllers below this number only.
+  // The utility has only controllers below this number.
   void SetNoneFrom(int first) {
     for (int number = first; number <= 8; ++number) services_.answers[Run("getconfig", number, "al")] = kNoneFound;
   }
@@ -183,7 +183,7 @@ TEST_F(QcmdrunDataTest, SkipsAConfigurationWithoutControllerInformation) {
   EXPECT_EQ(RawCommands().size(), 16u);
 }
 
-// The line feed is missing, so that the line is none for the scanner, while the text has the words.
+// Without the line feed, the scanner does not see the line, but the text contains the words.
 TEST_F(QcmdrunDataTest, SkipsAConfigurationThatEndsInsideItsControllerInformationLine) {
   services_.answers[Run("getconfig", 1, "al")] = "head\r\nController information";
   Collect();
@@ -253,7 +253,7 @@ TEST_F(QcmdrunDataTest, LeavesTheSlotDeviceEmptyWhenNoPresentDeviceHasTheSlotNum
   EXPECT_EQ(controller->SlotDeviceId, "");
 }
 
-// Otherwise than the answers of the other utilities, a list that is cut off ends collection.
+// Unlike the answers of the other utilities, an incomplete list ends the collection.
 TEST_F(QcmdrunDataTest, FailsWhereverTheListsOfDrivesOrDevicesAreCut) {
   const std::string text = SampleAnswer("qcmdrun/1/getconfig-al");
   struct Case {

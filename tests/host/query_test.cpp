@@ -86,7 +86,7 @@ TEST(Query, AnAssociationLinksWhatAnEarlierQueryPublished) {
   host.Query({"KVRSG_zxSCSIProtocolController", kDisk});
   host.Query({kLink});
   EXPECT_THAT(host.PublishedClasses(), ElementsAre(kLink, kLink));
-  // Naming an end again takes its instances away until they are published anew, which is after the association here.
+  // Querying an end again removes its instances until they are published again, here after the association.
   host.Query({kLink, kDisk});
   EXPECT_THAT(host.PublishedClasses(), ElementsAre(kDisk, kDisk));
   host.Query({kDisk, kLink});
@@ -156,7 +156,7 @@ TEST(Query, ACollectionThatFailsIsLoggedAndTheQueryGoesOnWithWhatThereIs) {
   EXPECT_EQ(aborted->level, 3);
   EXPECT_GT(aborted->text.size(), std::string("Collection aborted: inside ZxPlugin").size());
   EXPECT_TRUE(aborted->text.ends_with("inside ZxPlugin")) << aborted->text;
-  // The RAID manager's log is looked for all the same, and the classes are published.
+  // The RAID manager's log is still searched for, and the classes are published.
   EXPECT_EQ(std::vector<LogEntry>(aborted + 1, entries.end()),
             (std::vector<LogEntry>{
                 {3, "Enter CollectRaidMgrData::SetRaidMgrPath()"                         },
@@ -193,7 +193,7 @@ TEST(Query, RunsTheToolsOnceAlsoWhenTheLogCollectorCannotBeMade) {
   EXPECT_THAT(host.PublishedClasses(), SizeIs(6));
 }
 
-// A host whose classes cannot be asked for.
+// A host that refuses requests for classes.
 class RefusingNamespace final : public ICIMNamespace {
  public:
   boost::shared_ptr<ICIMClass> GetClass(const std::string& name, const TPropertyMap&) override {
@@ -212,7 +212,7 @@ TEST(Query, WhatTheHostsOwnOperationsThrowPassesToTheHost) {
                THXAException);
 }
 
-// Hands every operation on, and keeps the context under which classes are asked for.
+// Passes every operation on, and keeps the context of requests for classes.
 class ListeningNamespace final : public ICIMNamespace {
  public:
   explicit ListeningNamespace(ICIMNamespace& nameSpace) : nameSpace_(nameSpace) {}

@@ -13,7 +13,7 @@ namespace {
 
 using NKVRHXA20::TRootObject;
 
-// What an adapter finds where its tool answers so.
+// The controllers that an adapter finds if its tool answers so.
 template <class Adapter>
 ControllerList Collect(const std::map<std::string, std::string>& answers) {
   ScriptedServices services;
@@ -29,7 +29,7 @@ void ExpectTheSameWithLineFeedsAlone(const std::string& tool) {
   const ControllerList usual = Collect<Adapter>(answers);
   for (auto& [command, text] : answers) std::erase(text, '\r');
   const ControllerList found = Collect<Adapter>(answers);
-  // The last letter of a controller's own values takes the place of the carriage return and is cut.
+  // Without a carriage return, the last letter of a controller's own values is cut instead.
   for (const auto& controllers : {usual, found}) {
     for (const auto& controller : controllers) controller->SerialNum = "";
   }

@@ -1,4 +1,4 @@
-// Does what a test asks of a child process: test_child MODE [ARGUMENT]...
+// Acts as a test requires of a child process: test_child MODE [ARGUMENT]...
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -25,7 +25,7 @@ void Print(const std::string& text) {
 
 void Sleep(const std::string& seconds) { std::this_thread::sleep_for(std::chrono::seconds(std::stoi(seconds))); }
 
-// One line an argument: its length, a colon, the argument.
+// One line for each argument: its length, a colon, the argument.
 void PrintArguments(const Texts& arguments) {
   for (const std::string& argument : arguments) Print(std::to_string(argument.size()) + ":" + argument + "\n");
 }
@@ -71,7 +71,7 @@ void WaitForNumber(const std::string& file) {
   while (!(std::ifstream(file) >> number)) std::this_thread::sleep_for(std::chrono::milliseconds(2));
 }
 
-// Ends only when the process left behind is there.
+// Ends only when the process that it leaves behind runs.
 void Leave(Ties ties, Rest rest, const std::string& file) {
   LeaveBehind(ties, rest, file);
   WaitForNumber(file);
@@ -89,7 +89,7 @@ void SleepUnasked(const std::string& file, const std::string& seconds) {
   Sleep(seconds);
 }
 
-// A child, a grandchild in a group of its own, and one without output, group or parent. Nobody ends when asked to.
+// A child, a grandchild in a group of its own, and one without output, group or parent. All ignore requests to end.
 void SleepWithFamily(const std::string& file, const std::string& seconds) {
   Leave(Ties::kAll, Rest::kBreeds, file + "-child");
   Leave(Ties::kNothing, Rest::kSleeps, file + "-daemon");
@@ -130,15 +130,15 @@ const std::map<std::string, std::function<void(const Texts&)>> kModes = {
        Leave(Ties::kNothing, Rest::kSleeps, given.at(0));
        Sleep(given.at(1));
      }                                                                                                 },
- // What Windows starts where other systems fork.
+ // Windows starts these where other systems fork.
     {"rest-sleeps",       [](const Texts& given) { StayBehind(Rest::kSleeps, given.at(0)); }           },
     {"rest-floods",       [](const Texts& given) { StayBehind(Rest::kFloods, given.at(0)); }           },
     {"rest-breeds",       [](const Texts& given) { StayBehind(Rest::kBreeds, given.at(0)); }           },
 };
 
-// Under a utility's name it has a family that nobody ends by asking, and sleeps, where there is a folder "family"
-// beside it: for the numbers of these processes. Else it writes the content of a file beside it, "script/qcmdrun
-// getconfig 1 al", byte for byte. Where there is another of that name, ended by ".crash", it crashes then.
+// With a utility's name: if there is a folder "family" beside it, which receives their numbers, starts a family of
+// processes that ignore requests to end, and sleeps. Otherwise writes the content of a file beside it,
+// "script/qcmdrun getconfig 1 al", byte for byte. If there is another file with ".crash" after that name, it then crashes.
 int AnswerAs(const std::filesystem::path& utility, const Texts& arguments) {
   const std::filesystem::path family = utility.parent_path() / "family";
   if (std::filesystem::exists(family)) SleepWithFamily((family / "number").string(), "300");

@@ -3,25 +3,25 @@
 #include <string>
 #include <vector>
 
-// What the test child needs of the operating system.
+// The calls of the operating system that the test child needs.
 
-// Its arguments, without its name, in UTF-8: what they are in truth, where the C runtime may have lost something.
+// Its exact arguments, without its name, in UTF-8; the C runtime may have lost characters.
 std::vector<std::string> ExactArguments(int argc, char** argv);
 
-// From here on a line feed is written as it is.
+// From now on a line feed is written unchanged.
 void WriteBytesAsTheyAre();
 
 void CloseStandardOutput();
 
-// Asking it to end does not end it.
+// Requests to end do not end it.
 void IgnoreTermination();
 
 unsigned long OwnProcessId();
 
-// Ends as a program does that has crashed.
+// Ends like a program that crashed.
 [[noreturn]] void Crash();
 
-// How a process that the child leaves behind is related to it.
+// How a process that the child leaves is related to it.
 enum class Ties {
   kAll,      // it has the output and is in the same group
   kOutput,   // it has the output, and a group and session of its own
@@ -34,10 +34,10 @@ enum class Rest {
   kBreeds,  // starts one more process in its own group, and sleeps
 };
 
-// Starts a process that stays behind.
+// Starts a process that outlives the child.
 void LeaveBehind(Ties ties, Rest rest, const std::string& file);
 
-// What that process does: writes its number to the file and then rests.
+// The main function of that process: writes its number to the file and then rests.
 void StayBehind(Rest rest, const std::string& file);
 
 // The environment, "NAME=value" each.

@@ -83,7 +83,7 @@ TEST(ArcconfControllerParser, ReadsABatteryStatusAfterTheVitalProductDataAsEmpty
   EXPECT_EQ(Field(status, head + line + data), "Optimal");
   EXPECT_EQ(Field(status, head + data + line), "");
   EXPECT_EQ(Field(status, head + line), "");
-  // The head again further down lets the line count, although it comes after its section.
+  // If the head occurs again, the line counts although it follows its section.
   EXPECT_EQ(Field(status, head + data + line + data), "Optimal");
   EXPECT_EQ(Field(status, "Controller information\n" + line + data), "");
 }

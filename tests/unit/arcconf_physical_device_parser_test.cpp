@@ -30,7 +30,7 @@ TEST(ArcconfPhysicalDeviceParser, ReadsTheLabelsOfItsType) {
   expectRead("a Hard drive", arcconf::kHardDrive);
 }
 
-// One label a line: after a row that is out of order nothing is found.
+// One label on each line: after a row out of order nothing is found.
 TEST(ArcconfPhysicalDeviceParser, ReadsTheLabelsOfAHardDriveAsTheToolOrdersThem) {
   const ZenxPhysicalDevice device = OfType(
       "a Hard drive", CrLf("   State : Online\n   Supported : Yes\n   Transfer Speed : SAS 3.0 Gb/s\n"

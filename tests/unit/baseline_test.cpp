@@ -43,7 +43,7 @@ void RemoveObject(HealthyMachine& machine, const std::string& identifier) {
   ASSERT_EQ(std::erase_if(machine.devices, isIt), 1U) << identifier;
 }
 
-// Sets a property of an object, whether it has it or not.
+// Sets a property of an object, or adds it.
 void Put(HealthyMachine& machine, const std::string& identifier, const std::string& property,
          const std::string& value) {
   for (HealthyMachine::Device& device : machine.devices) {

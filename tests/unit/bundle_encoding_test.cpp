@@ -26,7 +26,7 @@ TEST(BundleEncoding, IsReadable) {
   EXPECT_EQ(EscapeBytes("a \"b\"\r"), "a \"b\"\\r");
   EXPECT_EQ(EscapeBytes("\t\\n\x01\x7f"), "\\t\\\\n\\x01\\x7f");
   EXPECT_EQ(EscapeBytes("K\xc3\xa4se \xe4"), "K\xc3\xa4se \\xe4");
-  EXPECT_EQ(EscapeBytes("\xe2\x80\xae"), "\\xe2\\x80\\xae");  // turns the direction of what follows
+  EXPECT_EQ(EscapeBytes("\xe2\x80\xae"), "\\xe2\\x80\\xae");  // changes the direction of the text after it
   EXPECT_EQ(Quote("a\"b"), "\"a\\\"b\"");
 }
 
@@ -37,7 +37,7 @@ TEST(BundleEncoding, RefusesWhatItDoesNotWrite) {
   for (const char* const text : {"", "\"", "a", "\"a", "a\"", "'a'"}) EXPECT_EQ(Unquote(text), std::nullopt) << text;
 }
 
-// Another way to write the same bytes would be a bundle that is not written again as it was.
+// With a second notation for the same bytes, a bundle would not be written again as it was read.
 TEST(BundleEncoding, RefusesBytesThatAreWrittenInAnotherWay) {
   for (const char* const text : {"\\x41", "\\x0d", "\\x0D", "\\x1B", "\\\"", "\\x22", "K\\xc3\\xa4se", "a\\x5c"}) {
     EXPECT_EQ(UnescapeBytes(text), std::nullopt) << text;

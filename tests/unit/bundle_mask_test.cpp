@@ -50,7 +50,7 @@ TEST(BundleMask, LeavesTheWordsThatTheTextsAreReadBy) {
   EXPECT_THAT(masked.runs[0].result.output, HasSubstr("   Size : 5 MB\n"));
   EXPECT_THAT(masked.runs[0].result.output, HasSubstr("   State : Online\n"));
   EXPECT_THAT(masked.runs[0].result.output, Not(HasSubstr("name : Size")));
-  // Where it is no longer a name it is a word, and a part of one is none.
+  // Outside of names it is an ordinary word, and its parts are not words.
   EXPECT_THAT(masked.runs[1].result.output, HasSubstr(", Sizes\" />\nSize, and "));
   EXPECT_THAT(masked.raidLog->bytes, testing::StartsWith("June 1\tINF\t"));
 }
@@ -76,7 +76,7 @@ TEST(BundleMask, MasksTheFolderOfALogWhoseSlashesAreThoseOfAnotherSystem) {
   EXPECT_EQ(masked.raidLog->path[4], '/');
 }
 
-// Words that are planted where a machine's texts hold names, numbers and addresses, and quoted in other texts.
+// Words in the places where a machine's texts contain names, numbers and addresses, and quoted in other texts.
 Bundle Planted() {
   Bundle bundle = SampleBundle();
   bundle.machine = "GRIMHOLT.vexmoor.example";
@@ -155,7 +155,7 @@ TEST(BundleMask, LeavesModelsStatesAndFixedLines) {
   }
 }
 
-// A name may be a word of the tools: to replace it everywhere would leave nothing to be read.
+// A name may be a word of the tools: replacing it everywhere would make the texts unreadable.
 TEST(BundleMask, KeepsTextsReadableWhateverTheMachineIsCalled) {
   for (const char* const name : {"Controller", "CONTROL", "status", "Serial", "Zentraxis", "Online", "Found", "zenx"}) {
     Bundle bundle = SampleBundle();
@@ -176,7 +176,7 @@ TEST(BundleMask, FindsNamesWithUmlautsInEitherCase) {
   EXPECT_THAT(MaskBundle(bundle, Seeded()).runs[1].result.output, Not(HasSubstr("RENH")));
 }
 
-// How long masking a text takes against one a quarter as long: quadratic work takes sixteen times as long.
+// The time to mask a text divided by that for a quarter of it: quadratic work takes sixteen times as long.
 TEST(BundleMask, TakesTimeInProportionToTheText) {
   const auto secondsFor = [](std::size_t lines) {
     Bundle bundle = SampleBundle();

@@ -15,7 +15,7 @@ namespace {
 using namespace hxahost;
 using namespace NKVRHXA20;
 
-// Asks for all that a bundle holds, once each, in its order.
+// Requests everything that a bundle contains, each once, in its order.
 void AskForAll(const HostServices& services, const Bundle& bundle) {
   services.machineName();
   for (const RecordedTime& time : bundle.localTimes) {
@@ -39,7 +39,7 @@ TEST(BundleRecorder, KeepsAllThatTheServicesSay) {
   AskForAll(recorder.Wrap(replay.Services()), SampleBundle());
   recorder.AddQuery(1.25);
   Bundle recorded = recorder.Recorded();
-  // Where these tests run, the system has a version of its own.
+  // The system of the test has a version of its own.
   recorded.osVersion = SampleBundle().osVersion;
   EXPECT_EQ(WriteBundle(recorded), WriteBundle(SampleBundle()));
 }

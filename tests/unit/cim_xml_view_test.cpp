@@ -45,7 +45,7 @@ TCIMValue NothingEmptyAndBlank() {
   };
 }
 
-// What one value becomes, as a property and as a key.
+// A document with one value, as a property and as a key.
 std::string RawDataWith(const std::string& value) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxRawData", "Command", value, "RawResults", Texts({value}));
@@ -240,7 +240,7 @@ TEST(CimXmlView, HasAGroupForEachQuery) {
   EXPECT_THAT(document, testing::EndsWith("</DECLGROUP.WITHPATH>\n</DECLARATION>\n</CIM>\n"));
 }
 
-// The hostile texts have what else values can be.
+// The other kinds of values are among the hostile texts.
 TEST(CimXmlView, MakesNoMarkupOfAValueAndLosesNothingThatXmlCanHold) {
   struct Case {
     const char* name;

@@ -89,7 +89,7 @@ TEST(CollectRaidMgrData, ReadingWithoutALogUsesUpANumberAndEnds) {
   EXPECT_EQ(missing.log.entries, Entries{});
 }
 
-// The registry value for which the whole path has that many characters.
+// The registry value that makes the whole path that many characters long.
 std::string FolderForPathOf(std::size_t length) {
   const std::size_t rest = std::string("KVR\\Zentraxis Manager\\RaidEvtA.log").size();
   return std::string(length - rest - 1, 'x') + "\\";
@@ -194,7 +194,7 @@ TEST(CollectRaidMgrData, ALineOfMoreThan511CharactersIsReadInPieces) {
   Collected found(start + message + "9 the rest\n");
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kRecord);
   EXPECT_EQ(found.collector.CurrentRecord().Message, message);
-  // The rest is then at the start of a line, and this one begins with a digit.
+  // The rest is then at the beginning of a line, and this one begins with a digit.
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kRecord);
   EXPECT_EQ(found.collector.CurrentRecord().Message, "");
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kEnd);

@@ -76,7 +76,7 @@ TEST(ControllerBlocks, ShowShortFormsOfStatesOnRequestAlone) {
               testing::HasSubstr("  Critical (CRT)          Write back (WB)\n"));
 }
 
-// The unit is that of the smallest, so that figures compare; a size that cannot be read stays as it was printed.
+// The smallest size decides the unit, so that figures can be compared; an unreadable size is shown as printed.
 TEST(ControllerBlocks, ShowSizesInOneUnitForAColumn) {
   struct Case {
     const char* name;

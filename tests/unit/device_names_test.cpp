@@ -10,7 +10,7 @@ constexpr const char* kController = "KVRSG_zxSCSIProtocolController";
 constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
-// Of an instance of controller 1 with these properties: names and values in turn.
+// The name of an instance of controller 1 with these properties: alternating names and values.
 template <class... Properties>
 std::string Name(const std::string& owner, const char* className, const Properties&... properties) {
   FilledRepository repository;

@@ -13,7 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// What tells the controllers of the instances apart.
+// The labels of the instances' controllers.
 std::vector<std::string> Labels(const FilledRepository& repository) {
   std::vector<std::string> labels;
   for (const auto& owner : hxahost::DeviceOwners(repository.Instances())) labels.push_back(owner.label);

@@ -64,7 +64,7 @@ TEST_F(DiffCommand, ShowsTheFindingsBeforeEverythingElse) {
   EXPECT_NE(out_.str().find("  - critical: "), std::string::npos) << out_.str();
 }
 
-// The path of a disk names its place with some utilities, its serial number with others.
+// The path of a disk contains its place with some utilities, its serial number with others.
 TEST_F(DiffCommand, ShowsADiskThatWasReplacedInOneLine) {
   const auto disk = [](const std::string& path, const std::string& serial, const std::string& firmware) {
     return R"({"format": 1, "machine": "M", "queries": [{"instances": [{"class": "KVRSG_zxDiskDrive", "path": ")" +

@@ -28,7 +28,7 @@ TEST(Escaping, LeavesAFewMarksOnACharacterAndEscapesALongRunOfThem) {
             "e\u0301\u0301\u0301\u0301\\u0302\\u0303x\u0301");
 }
 
-// Bundles of older versions have these characters as they are.
+// Bundles of older versions contain these characters unescaped.
 TEST(Escaping, LeavesInvisibleCharactersInBundlesAsTheirFormatHasThem) {
   EXPECT_EQ(PrintableLength("\u3164"), 3U);
   EXPECT_EQ(PrintableLength("\u202e"), 0U);

@@ -6,7 +6,7 @@ namespace {
 
 using namespace hxahost;
 
-// A run that asks for a controller, with what came of it.
+// A run that requests a controller, with its outcome.
 void Add(ToolRunList& runs, const std::string& tool, const std::string& number, Outcome outcome,
          const std::string& failure = "") {
   runs.push_back({

@@ -162,7 +162,7 @@ TEST(Fleet, SaysAgesInTheLargestUnitOfWhichThereAreTwo) {
   EXPECT_EQ(AgeText(9 * 86400), "9 d");
 }
 
-// What "hxahost query --format json" would write, read back.
+// The output of "hxahost query --format json", read back.
 JsonResult ReadBack(const HealthyMachine& machine) {
   std::ostringstream out;
   QueryHeader header = machine.Header();

@@ -40,7 +40,7 @@ HealthyMachine BrokenMachine() {
   return machine;
 }
 
-// What tools print is data: quotes, backslashes, line ends, terminal commands, bytes that are no UTF-8.
+// Hostile output of tools: quotes, backslashes, line ends, terminal commands, bytes that are not UTF-8.
 HealthyMachine HostileMachine() {
   HealthyMachine machine;
   machine.SetOf("Zentraxis2LD1", "LogicalDriveName", "a\"b\\c\nd\x1b[2J\xe4");
@@ -48,7 +48,7 @@ HealthyMachine HostileMachine() {
   return machine;
 }
 
-// The first line is what monitoring programs show.
+// Monitoring programs show only the first line.
 TEST(HealthText, SumsUpInItsFirstLineAndHasEachIncidentWithWhatToDo) {
   EXPECT_TRUE(IsGolden("health.txt", Written(BrokenMachine(), "text")));
 }

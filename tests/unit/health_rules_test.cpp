@@ -31,7 +31,7 @@ constexpr const char* kDisk = "KVRSG_zxDiskDrive";
 constexpr const char* kStripes = "KVRSG_BadStripeData";
 constexpr const char* kCounters = "KVRSG_zxSCSIDeviceData";
 
-// What utilities print and what comes of each on a machine on which nothing else is wrong.
+// A printed value and its level on a machine without other faults.
 struct Case {
   const char* className;
   const char* property;
@@ -106,7 +106,7 @@ const Case kCases[] = {
     {kController, "ControllerBatteryOverTemp", kUnknown,  {"Cold"}                                                 },
 };
 
-// The level of the object whose state it is; nothing for what is no state.
+// The level of the object with this state; empty if the property is not a state.
 std::optional<Level> LevelOfState(const Machine& machine, const Case& each, const std::string& printed) {
   for (const Controller& controller : machine.controllers) {
     for (const Object* const object : ObjectsOf(controller, each.className)) {
@@ -145,7 +145,7 @@ bool IsOfInstances(const HealthRule& rule) {
   return std::ranges::find(kOthers, rule.value->className) == std::end(kOthers);
 }
 
-// A case that prints the rule's word, and the code where it has one.
+// Whether the case prints the rule's word, and its code if it has one.
 bool IsTried(const HealthRule& rule, const char* printed) {
   const Words words = rule.value->cut(printed);
   if (rule.word.empty()) return words.empty();

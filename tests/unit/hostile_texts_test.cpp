@@ -1,6 +1,6 @@
-// The same hostile texts, as names, states, raw texts, log entries and names of machines, in everything that the
-// program writes. Each output is held to the rules of its own format: read back, the texts are what they were, and
-// the output around them is exactly that around harmless ones.
+// The same hostile texts as names, states, raw texts, log entries and names of machines, in every output of the program.
+// Each output is checked by the rules of its own format: read back, the texts are unchanged, and the output around them
+// equals that around harmless texts.
 
 #include <algorithm>
 #include <functional>
@@ -89,7 +89,7 @@ const HostileText kTexts[] = {
     {"name of a prototype",         "__proto__"                                                 },
 };
 
-// A machine that has a text wherever one from outside can be.
+// A machine with one text in every place that can contain a text from outside.
 class Machine {
  public:
   explicit Machine(const std::string& text) : text_(text) {
@@ -125,7 +125,7 @@ class Machine {
     return out.str();
   }
 
-  // With the machine on which nothing is wrong.
+  // Compares it with a machine without a fault.
   std::string Diff(const char* format) const {
     std::ostringstream out;
     const JsonResult before = ParseJsonResult(Machine("Optimal").Query("json"), "");
@@ -181,7 +181,7 @@ std::string Log(const std::string& text) {
   return FileText(folder.Path() / "log").substr(2);
 }
 
-// What acts on a terminal, or shows something else than what is there: nothing of it but the end of a line.
+// Whether the character acts on a terminal, or hides or changes what is shown; a line end does not.
 bool ActsOnATerminal(char32_t code) {
   const auto isIn = [code](char32_t first, char32_t last) { return code >= first && code <= last; };
   if (code == '\n') return false;
@@ -202,7 +202,7 @@ void ExpectSafeOnATerminal(const std::string& written) {
   }
 }
 
-// A bundle has characters that nobody sees as they are: its format is older than their escapes elsewhere.
+// A bundle contains invisible characters unescaped: its format is older than their escapes elsewhere.
 void ExpectPrintable(std::string_view bundle) {
   while (!bundle.empty()) {
     const std::size_t length = bundle.front() == '\n' ? 1 : PrintableLength(bundle);
@@ -213,7 +213,7 @@ void ExpectPrintable(std::string_view bundle) {
 
 auto LineCount(const std::string& written) { return std::ranges::count(written, '\n'); }
 
-// Lines for people: safe, as many as of a harmless text that is as wide, and the text can be recognised.
+// Lines for people: safe, as many as for a harmless text of the same width, and the text can be recognised.
 void ExpectLinesForPeople(const std::string& written, const std::string& text,
                           const std::function<std::string(const std::string&)>& write) {
   ExpectSafeOnATerminal(written);
@@ -242,7 +242,7 @@ TEST(HostileTexts, AreLinesForPeopleWhereverPeopleReadThem) {
   }
 }
 
-// Lines that the text has of itself are shown as lines here.
+// The line ends of the text are shown as such here.
 TEST(HostileTexts, AreSafeOnATerminalAsItemsOfABundle) {
   for (const HostileText& each : kTexts) {
     SCOPED_TRACE(each.name);
@@ -250,7 +250,7 @@ TEST(HostileTexts, AreSafeOnATerminalAsItemsOfABundle) {
   }
 }
 
-// All texts of a JSON, wherever they stand.
+// Every text of a JSON, at any depth.
 void CollectTexts(const Json& json, std::vector<std::string>& texts) {
   if (json.is_string()) texts.push_back(json);
   if (json.is_structured()) {
@@ -258,7 +258,7 @@ void CollectTexts(const Json& json, std::vector<std::string>& texts) {
   }
 }
 
-// The same with the kinds of the values for the values.
+// The same JSON with types instead of values.
 Json Shape(const Json& json) {
   if (json.is_primitive()) return json.type_name();
   Json shape = json;
@@ -266,8 +266,7 @@ Json Shape(const Json& json) {
   return shape;
 }
 
-// The shape of what there is of a harmless text; each text of a harmless one is the same, but for the hostile one in
-// it.
+// The shape equals that of a harmless text; each text equals the harmless one, except for the hostile text in it.
 void ExpectJson(const std::string& written, const std::string& text, const std::string& harmless) {
   ExpectSafeOnATerminal(written);
   const Json json = Json::parse(written);
@@ -291,7 +290,7 @@ TEST(HostileTexts, AreTextsInEveryJsonAndNothingMore) {
   }
 }
 
-// Takes what is between the marks out of the HTML report.
+// Removes the part between the marks from the HTML report and returns it.
 std::string Take(std::string& page, std::string_view begin, std::string_view end) {
   const std::size_t first = page.find(begin) + begin.size();
   const std::size_t length = page.find(end, first) - first;
@@ -300,7 +299,7 @@ std::string Take(std::string& page, std::string_view begin, std::string_view end
   return taken;
 }
 
-// What the tags of HTML begin with: "</p", "<li".
+// The beginnings of the tags of HTML: "</p", "<li".
 std::set<std::string> TagsOf(const std::string& html) {
   std::set<std::string> tags;
   for (std::size_t at = html.find('<'); at != html.npos; at = html.find('<', at + 1)) {
@@ -309,7 +308,7 @@ std::set<std::string> TagsOf(const std::string& html) {
   return tags;
 }
 
-// Takes out what the page holds as HTML of its own: the name, where it comes from, and the summary.
+// Removes the report's own HTML: the title, the origin, and the summary.
 std::string TakeHtml(std::string& page) {
   constexpr std::pair<std::string_view, std::string_view> kParts[] = {
       {"<title>",                                                        "</title>"  },
@@ -403,7 +402,7 @@ struct Mof {
   std::vector<std::string> strings;
 };
 
-// The rest begins after a backslash. A character by its number is one or two code units of UTF-16.
+// The text begins after a backslash. A character written by its number is one or two code units of UTF-16.
 std::string UnescapedMof(std::string_view& rest) {
   constexpr std::string_view kLetters = "btnfr\"\\";
   constexpr std::string_view kMeant = "\b\t\n\f\r\"\\";
@@ -438,7 +437,7 @@ std::string TakeMofString(std::string_view& rest) {
 
 Mof ReadMof(std::string_view rest) {
   Mof mof;
-  bool isContinued = false;  // nothing but blanks since the last string
+  bool isContinued = false;  // only blanks since the last string
   while (!rest.empty()) {
     if (rest.starts_with("//")) {
       rest.remove_prefix(rest.find('\n'));
@@ -476,7 +475,7 @@ TEST(HostileTexts, AreStringsInMofAndNothingMore) {
   }
 }
 
-// A line of metrics without the values of its labels; those are checked and taken apart.
+// A line of metrics without the values of its labels; those are checked and collected.
 std::string MetricShape(std::string_view line, std::vector<std::string>& values) {
   std::string shape;
   while (!line.empty()) {

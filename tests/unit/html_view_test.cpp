@@ -31,7 +31,7 @@ std::string Page(const QueryHeader& header, const std::vector<QueryResult>& resu
   return out.str();
 }
 
-// What a browser hands the script: the text up to the first end of the element.
+// The text that a browser passes to the script: up to the first end of the element.
 std::string DataOf(const std::string& page, const std::string& id) {
   const std::string begin = "<script type=\"application/json\" id=\"" + id + "\">";
   const std::size_t first = page.find(begin) + begin.size();

@@ -23,7 +23,7 @@ class Instance : public testing::Test {
  protected:
   boost::shared_ptr<ICIMInstance> New(const std::string& className) { return NewInstance(*repository, className); }
 
-  // Commits it and gives its names and values as they were set.
+  // Commits the instance and returns its names and values as they were set.
   std::vector<std::pair<std::string, std::string>> Committed(ICIMInstance& instance) {
     instance.Commit({});
     std::vector<std::pair<std::string, std::string>> properties;

@@ -20,7 +20,7 @@ std::string CommandOf(const std::string& path, const std::vector<std::string>& a
   return command;
 }
 
-// Utilities that answer each command with a report, or hang where the test says so.
+// Utilities that answer each command with a report, or hang if the test requires it.
 class LimitedRunsTest : public testing::Test {
  protected:
   LimitedRuns Make(const RunLimits& limits) {
@@ -39,7 +39,7 @@ class LimitedRunsTest : public testing::Test {
     return {spawn, limits, runs_, [this] { return now_; }};
   }
 
-  // What came of "arcconf getconfig 1 al": the message of the exception, "" for an answer.
+  // The outcome of "arcconf getconfig 1 al": the message of the exception, "" for an answer.
   static std::string Ask(LimitedRuns& runs, const std::string& tool, const std::vector<std::string>& arguments) {
     try {
       EXPECT_THAT(runs.Run("zenx//" + tool + ".exe", arguments, kAllowed).output, HasSubstr("completed"));

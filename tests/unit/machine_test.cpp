@@ -26,7 +26,7 @@ constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
 Machine Built(const HealthyMachine& machine) { return BuildMachine(machine.Header(), machine.Result()); }
 
-// The only device of a machine that has these properties: names and values in turn.
+// The only device of a machine that has these properties: alternating names and values.
 template <class... Given>
 Device DeviceWith(const Given&... given) {
   FilledRepository repository;
@@ -77,7 +77,7 @@ TEST(Machine, KeepsApartWhatTwoToolsDescribeUnderOneNumber) {
   EXPECT_THAT(machine.controllers[1].units, IsEmpty());
 }
 
-// Counts name their controller by its number alone.
+// Counts contain only the number of their controller.
 TEST(Machine, GivesCountsToTheLegacyUtilitysControllerWhereTwoShareItsNumber) {
   FilledRepository repository;
   repository.Publish(kLogicalDisk, "ControllerNum", "3", "LogicalDriveNum", "1", "PartOfArray", "A");
@@ -146,7 +146,8 @@ TEST(Machine, ReadsSizes) {
   }
 }
 
-// Of a disk that is being rebuilt. Controller 1: array A is not guarded, B is. Controller 2: drive 1 is not, 2 is.
+// The level of a disk that is being rebuilt. Controller 1: array A cannot tolerate a failure, B can. Controller 2: drive
+// 1 cannot, 2 can.
 template <class... Given>
 Level LevelOfRebuild(const char* controller, const Given&... given) {
   FilledRepository repository;
@@ -194,7 +195,7 @@ TEST(Machine, GivesAnObjectItsFindingsAndTheWorstLevelOfAll) {
   EXPECT_EQ(unit.level, Level::kCritical);
 }
 
-// One classification: what is critical in one place is critical in every other.
+// A value has the same level in every output.
 TEST(Machine, IsJudgedAlikeInTablesReportHealthAndMetrics) {
   struct Case {
     const char* identifier;

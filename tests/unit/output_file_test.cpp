@@ -37,7 +37,7 @@ TEST(OutputFile, LeavesWhatWasThereWhenItIsNotFinished) {
   EXPECT_EQ(FileCount(folder.Path()), 1U);
 }
 
-// No process has that number; the other names are none of this file's.
+// No process has that number; the other names do not belong to this file.
 TEST(OutputFile, RemovesWhatAProgramThatWasKilledHasLeft) {
   const TemporaryFolder folder;
   for (const char* const other :

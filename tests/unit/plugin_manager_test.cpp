@@ -14,7 +14,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::ThrowsMessage;
 
-// Notes its release, in the manner of a plug-in that deletes itself then.
+// Records its release, like a plug-in that then deletes itself.
 class TNamedPlugin final : public IPluginCallbacks {
  public:
   TNamedPlugin(std::string name, std::vector<std::string>& released) : name_(std::move(name)), released_(released) {}

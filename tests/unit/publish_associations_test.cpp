@@ -37,7 +37,7 @@ Instances Associations(Publishing& host, PublishRoutine routine) {
   return host.nameSpace.Published(kAssociation);
 }
 
-// What a controller is linked to, and by which value.
+// The records to which a controller is linked, and the value that links them.
 struct Belonging {
   PublishRoutine routine;
   const char* className;
@@ -66,7 +66,7 @@ TEST(PublishAssociations, LinkEachControllerToWhatCarriesItsNumberInTheOrderOfTh
                                         {property, valueFor(number)}
       });
     }
-    // Controller 3 was not published (it failed), so that nothing is linked to it.
+    // Controller 3 was not published (it failed), so no record is linked to it.
     EXPECT_EQ(Associations(host, routine),
               (Instances{Depends(className, 1, kController, 1), Depends(className, 0, kController, 0),
                          Depends(className, 2, kController, 0)}))

@@ -23,7 +23,7 @@ std::shared_ptr<Log> NamedLog(const std::vector<std::uint32_t>& codes) {
   return log;
 }
 
-// Soft and hard events go by the controller's number; both have the class of soft events in all naming properties.
+// Soft and hard events are linked by the controller's number; both have the class of soft events in all key properties.
 TEST(PublishLogs, PublishEachFieldUnderItsOwnNameAsItWasPrinted) {
   Publishing host;
   ZenxController& controller = host.AddController("3");
@@ -84,7 +84,7 @@ TEST(PublishLogs, ALogWhoseReadsReturn2And1And2And0PublishesExactlyOneInstance) 
   ASSERT_EQ(published.size(), 1U);
   Properties properties = published[0];
   EXPECT_TRUE(properties.at(4).starts_with("RecordID = \""));
-  properties.erase(properties.begin() + 4);  // goes on from what the process has read before
+  properties.erase(properties.begin() + 4);  // continues the count of earlier records in this process
   EXPECT_EQ(properties,
             (Properties{"CreationClassName = \"KVRSG_LogRecord_RAIDMgrEvent\"",
                         "LogCreationClassName = \"KVRSG_LogRecord_RAIMgrEvent\"", "LogName = \"Zentraxis Manager\"",

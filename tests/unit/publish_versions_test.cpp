@@ -11,7 +11,7 @@ constexpr const char* kBootBlock = "KVRSG_zxBootBlockVersion";
 constexpr const char* kBios = "KVRSG_zxBiosVersion";
 constexpr const char* kDriveVersion = "KVRSG_zxDiskDriveVersion";
 
-// An instance as it is published, without what only hard disks have.
+// An instance as it is published, without the properties that only hard disks have.
 Properties Version(const std::string& name, const std::string& version, const std::string& build,
                    const std::string& identifier) {
   return {"Name = \"" + name + "\"",
@@ -75,7 +75,7 @@ TEST(PublishVersions, ATextOfBlanksAndLineEndsIsNoVersion) {
   }
 }
 
-// A drive of that type, with what makes its identifier.
+// A drive of that type, with the fields of its identifier.
 void AddDrive(ZenxController& controller, const std::string& type) {
   ZenxPhysicalDevice& drive = Add(controller.PhysicalDevices);
   drive.DeviceType = type;

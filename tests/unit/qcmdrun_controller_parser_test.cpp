@@ -102,7 +102,7 @@ TEST(QcmdrunControllerParser, MarksAControllerWithInformationAsParsed) {
   EXPECT_EQ(controller.ControllerNum, "12");
 }
 
-// The scanner drops a line that is cut, this parser reads it: half a line must not be taken for a whole value.
+// The scanner drops an incomplete line, this parser reads it: half a line must not become a whole value.
 TEST(QcmdrunControllerParser, ReadsACutOffAnswerUpToItsLastWholeLine) {
   const std::string text = CrLf("Controller information\n") + LabelLines(kController);
   const std::size_t head = text.find('\n') + 1;

@@ -53,7 +53,7 @@ TEST(QcmdrunLogicalDriveParser, LosesTheAdditionalInformationToAMissingStatus) {
   EXPECT_EQ(drive.RaidLevel, " 5\r\n");
 }
 
-// Each label after the missing one takes the line of the one after it.
+// Each label after the missing one consumes the line of the next label.
 TEST(QcmdrunLogicalDriveParser, LosesEveryLineAfterAMissingOneThatIsNotOptional) {
   for (std::size_t missing = 2; missing < std::size(kLogicalDrive) - 1; ++missing) {
     SCOPED_TRACE(kLogicalDrive[missing].label);

@@ -64,7 +64,7 @@ TEST(QcmdrunPhysicalDeviceParser, CutsModelCodeFirmwareAndSerialNumberOutOfAHard
   EXPECT_EQ(device.DeviceSerialNum, "H8B01234");
 }
 
-// Blank and line end count: the value is measured as it is kept.
+// Blank and line end count: the length is that of the untrimmed value.
 TEST(QcmdrunPhysicalDeviceParser, GivesAHardDiskWithAnIdentifierOf27CharactersItsModelAlone) {
   const ZenxPhysicalDevice device = WithIdentifier("Hard disk", " TALVERA T36LW10 S96H8B012");
   ASSERT_EQ(device.DeviceIdSuffix.size(), 27u);
@@ -86,7 +86,7 @@ TEST(QcmdrunPhysicalDeviceParser, TakesAsMuchOfTheModelAsAShortIdentifierHas) {
   EXPECT_EQ(Read("   Device is a Hard disk\r\n").device.Model, "");
 }
 
-// Its type names both: what the tape's step has cut is not that of a disk whose identifier is too short.
+// Its type contains both words: the firmware that the tape's step cut out does not belong to a disk.
 TEST(QcmdrunPhysicalDeviceParser, ClearsTheFirmwareOfATapeThatIsAHardDiskWithAShortIdentifier) {
   RecordingLog log;
   const ZenxPhysicalDevice device = WithIdentifier("Tape and Hard disk", " ORBITEK DAT72LP  A119\r", &log);

@@ -17,7 +17,7 @@ using namespace hxahost;
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-// What shows the queries fails at the second, as a full disk or a broken view would.
+// The output fails at the second query, like a full disk or a broken view.
 TEST(QueryCommand, SaysThatWhatAFailedQueryLeftOnStandardOutputIsNotWhole) {
   const fs::path before = fs::current_path();
   const TemporaryFolder folder;
@@ -43,7 +43,7 @@ TEST(QueryCommand, SaysThatWhatAFailedQueryLeftOnStandardOutputIsNotWhole) {
     EXPECT_EQ(error.Status(), ExitStatus::kQueryFailed);
     failure = error.what();
   }
-  fs::current_path(before);  // the program changes into the folder of the tools
+  fs::current_path(before);  // the program changes to the folder of the tools
   EXPECT_THAT(failure,
               HasSubstr("it broke. --log FILE shows how far it came. What was written before this is not whole."));
   EXPECT_EQ(out.str(), "begin first ") << "and never its end";

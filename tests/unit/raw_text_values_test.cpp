@@ -9,7 +9,7 @@ namespace {
 
 using Values = std::vector<std::string>;
 
-// The values of all data of a text, one after the other.
+// All values of a text, one after the other.
 Values ValuesOf(const std::vector<std::string>& lines) {
   Values all;
   for (const hxahost::RawValues& read : hxahost::ReadRawValues(lines)) {

@@ -13,7 +13,7 @@ namespace {
 using namespace hxahost;
 using testing::HasSubstr;
 
-// Why it is refused; "" where it is taken.
+// Why the text is refused; "" if it is accepted.
 std::string Refusal(const std::string& text) {
   try {
     ReadBundle(text);
@@ -27,7 +27,7 @@ std::string Changed(std::string text, const std::string& from, const std::string
   return text.replace(text.find(from), from.size(), to);
 }
 
-// The same with a closing line that fits: a bundle made on purpose.
+// The same with a valid closing line: a bundle made on purpose.
 std::string Closed(const std::string& text) {
   const std::string body = text.substr(0, text.rfind("end of bundle"));
   return body + "end of bundle, crc32 " + HexText(Crc32(body)) + "\n";

@@ -68,7 +68,7 @@ Versions
 )");
 }
 
-// Each record is the one of its controller, where two share the number, or says that nobody knows.
+// If two controllers share the number, each record shows its own controller, or that it is not known.
 TEST(RecordSections, TellControllersOfOneNumberApart) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "3", "ReadAhead", "On");

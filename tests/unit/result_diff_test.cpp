@@ -19,7 +19,7 @@ void Append(Json& properties, const std::string& name, const Json& value, const 
   Append(properties, more...);
 }
 
-// With its properties, names and values in turn.
+// With its properties, as alternating names and values.
 template <class... Given>
 ResultInstance Instance(const std::string& className, const std::string& path, const Given&... given) {
   Json properties = Json::object();

@@ -41,7 +41,7 @@ TEST(Schema, EveryClassHasAKeyAndAllKeysAreSingleValues) {
   }
 }
 
-// The keys of all other classes are in the paths of what the sample machine publishes.
+// The keys of all other classes occur in the paths of the sample machine.
 TEST(Schema, ClassesThatAreNeverPublishedHaveKeysToo) {
   EXPECT_THAT(KeysOf("KVRSG_DiskGroup"), ElementsAre("InstanceID"));
   EXPECT_THAT(KeysOf("KVRSG_zxDriveInDiskGroup"), ElementsAre("Antecedent", "Dependent"));
@@ -63,7 +63,7 @@ TEST(Schema, DevicesHaveTheKeysOfALogicalDeviceAndDefunctDrivesAreOfAController)
     EXPECT_THAT(KeysOf(device), ElementsAre("CreationClassName", "DeviceID", "SystemCreationClassName", "SystemName"));
   }
   EXPECT_THAT(KeysOf("KVRSG_LogRecord_zxDDD"), Contains("Controller"));
-  // A time of that log can be none, and a key needs a value.
+  // A time of that log can be impossible, and a key needs a value.
   EXPECT_THAT(KeysOf("KVRSG_LogRecord_RAIDMgrEvent"), Not(Contains("MessageTimestamp")));
 }
 

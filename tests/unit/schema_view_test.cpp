@@ -89,7 +89,7 @@ TEST(SchemaView, DerivesTheClassesOnRequestAndLeavesOutTheQualifiersThatTheSuper
   const std::string mof = out.str();
   EXPECT_EQ(mof.find("\nQualifier "), mof.npos);
   EXPECT_NE(mof.find("\nclass KVRSG_zxDiskGroup : CIM_CollectionOfMSEs {\n"), mof.npos);
-  EXPECT_NE(mof.find("\nclass KVRSG_ElementBadStripeData {\n"), mof.npos);  // none fits
+  EXPECT_NE(mof.find("\nclass KVRSG_ElementBadStripeData {\n"), mof.npos);  // it has no superclass
   EXPECT_NE(mof.find("  [Key, Override(\"CollectionID\"), Description("), mof.npos);
   EXPECT_EQ(mof.find("Override(\"StripeOrder\")"), mof.npos);
 }

@@ -163,7 +163,7 @@ TEST_F(SubStatParser, BuildsTheInstanceIdOfALineWithoutTokensFromNothing) {
   EXPECT_EQ(Line("\r\n").InstanceID, "Zentraxis:CS");
 }
 
-// A token is printed one blank after a value; its first occurrence after the previous token counts.
+// A token follows a value after one blank; its first occurrence after the previous token counts.
 TEST_F(SubStatParser, TakesTheFirstOccurrenceOfATokenWhereverItStands) {
   struct Case {
     std::string name;

@@ -15,7 +15,7 @@ std::string_view Column(const std::string& line, int number) {
   return row.NextColumn();
 }
 
-// What follows so many columns.
+// The text after so many columns.
 std::string_view LastColumn(const std::string& line, int number) {
   TableRow row(line);
   for (int passed = 1; passed < number; ++passed) row.NextColumn();

@@ -8,7 +8,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// The lines of a file that holds the bytes.
+// The lines of a file with these bytes.
 Lines Read(std::string_view bytes) {
   const TemporaryFolder folder;
   TextFile file(folder.Write("text", bytes).string());
@@ -80,7 +80,7 @@ TEST(TextFile, AFileThatIsNotThereIsNotOpenAndHasNoLines) {
   EXPECT_EQ(none.ReadLine(), "");
 }
 
-// Where a folder can be opened, the read fails; elsewhere the open does.
+// On systems that can open a folder, the read fails; on others the open does.
 TEST(TextFile, AReadThatFailsIsNoEnd) {
   const TemporaryFolder folder;
   TextFile file(folder.Path().string());

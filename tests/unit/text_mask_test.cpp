@@ -75,7 +75,7 @@ TEST(TextMask, HidesCharactersBeyondAsciiInTheirEncoding) {
   EXPECT_NE(AsUtf8(mask.Mask(latin1)), mask.Mask(latin1));
 }
 
-// No mask may be a word that the tools' texts are read by.
+// No mask may be a word by which the tools' texts are read.
 TEST(TextMask, HasNoVowels) {
   TextMask mask(Seeded(4));
   for (const char* const text : {"BIOS", "State", "Failed", "Target on SCSI ID", "FRU", "PFA"}) {

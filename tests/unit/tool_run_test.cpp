@@ -50,7 +50,7 @@ TEST(ToolRun, KeepsTheExactCommandAndTheSizeOfWhatItWrote) {
   EXPECT_EQ(run.bytes, kWhole.size());
   EXPECT_EQ(OutcomeWord(run.outcome), "ok");
   EXPECT_EQ(run.failure, "");
-  EXPECT_FALSE(run.exitStatus.has_value());  // a text alone says nothing of it
+  EXPECT_FALSE(run.exitStatus.has_value());  // a text without a status
 }
 
 TEST(ToolRun, HandsPathArgumentsAndLimitToTheServiceAndItsResultBack) {

@@ -27,7 +27,7 @@ struct Spawn {
   int limitSeconds = 0;
 };
 
-// Keeps what was spawned, and answers as the test says.
+// Records the command, and answers as the test defines.
 class ToolRunner : public testing::Test {
  protected:
   ToolRunner() {

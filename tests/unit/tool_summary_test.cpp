@@ -31,7 +31,7 @@ ToolRun MakeRun(const std::string& tool, const std::string& command, int number,
   return run;
 }
 
-// What the tool's line says when these were all its runs.
+// The tool's line for these runs.
 std::string TextOf(const ToolRunList& runs) { return SummaryText(SummarizeRuns(runs).back()); }
 
 ToolRun Probe(int number, Outcome outcome) { return MakeRun("arcconf", "getconfig", number, outcome, "why"); }

@@ -14,7 +14,7 @@ using namespace hxahost;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// The first property of each.
+// The first property of each instance.
 std::vector<std::string> Shown(const InstanceList& instances) {
   std::vector<std::string> values;
   for (const auto& instance : instances) values.emplace_back(instance->Properties().front().value);

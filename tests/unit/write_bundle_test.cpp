@@ -12,7 +12,7 @@ namespace {
 
 using namespace hxahost;
 
-// The worked example of the description, the block below the comment "bundle".
+// The example in the document, the block below the comment "bundle".
 std::string DocumentedExample() {
   const std::string page = FileText(SourceFile("docs/bundles.md"));
   constexpr std::string_view kFence = "<!-- bundle -->\n```text\n";

@@ -34,7 +34,7 @@ OutputEnd Collect(ChildProcess& child, milliseconds time = seconds(30)) {
   return CollectOutput(child, steady_clock::now() + time, output);
 }
 
-// The number in a file, as soon as it is there.
+// The number in a file, as soon as it is written.
 pid_t NumberIn(const std::filesystem::path& file) {
   for (int attempt = 0; attempt < 1000; ++attempt) {
     if (std::filesystem::exists(file) && FileText(file).ends_with("\n")) return std::stoi(FileText(file));
@@ -78,7 +78,7 @@ TEST(ChildProcess, EndsWithItsKeeperAndThenNobodyKnowsHow) {
   EXPECT_FALSE(IsRunning(static_cast<unsigned long>(child.process)));
 }
 
-// Ends processes with a signal that they can refuse, as if the system could not end them.
+// Ends processes with a signal that they can ignore, as if the system could not end them.
 class Unending {
  public:
   Unending() { endingSignal = SIGTERM; }

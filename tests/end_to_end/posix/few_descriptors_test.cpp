@@ -1,4 +1,4 @@
-// Systems that let the program open but few files at once.
+// Systems that let the program open only a few files at once.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -33,7 +33,7 @@ class FewDescriptors : public testing::Test {
     machine_.RemoveTool("arcconf");
   }
 
-  // What is shown with so many descriptors is all that is shown with enough, or the program says what is wrong.
+  // With so many descriptors the output is complete, or the program reports the failure.
   void ExpectAllOrAFailure(Texts arguments, const std::string& failure) const {
     arguments.insert(arguments.end(), {"--directory", machine_.Directory(), "--machine-name", "M", "--local-time",
                                        "20260305123015.250000+060"});
@@ -55,11 +55,11 @@ class FewDescriptors : public testing::Test {
   TemporaryFolder folder_;
 
  private:
-  // Times differ, lines do not.
+  // Times differ, the number of lines does not.
   static long Lines(const ProgramResult& result) { return std::ranges::count(result.out, '\n'); }
 };
 
-// What the system says.
+// The message of the system.
 constexpr const char* kReason = "Too many open files|Error 24";
 
 TEST_F(FewDescriptors, LeaveNothingOutOfAQuery) { ExpectAllOrAFailure({"query", "--runs"}, kReason); }
@@ -73,7 +73,7 @@ TEST_F(FewDescriptors, LeaveNothingOutOfARecording) {
   ExpectAllOrAFailure({"query", "--record", bundle, "--log", (folder_.Path() / "log").string()}, kReason);
 }
 
-// A utility of which one run cannot be started.
+// Some of the utility's runs cannot be started.
 TEST_F(FewDescriptors, OrAnotherReasonNotToStartAUtilityAreAFailureOfTheQuery) {
   machine_.SetTool("arcconf", "");
   for (const char* const command : {"query", "status"}) {

@@ -1,5 +1,4 @@
-// Disks without room: "/dev/full" is one that never had any, and a limit on the size of files stands for one that
-// fills up meanwhile.
+// Disks without room: "/dev/full" is always full, and a limit on the size of files acts like a disk that fills up.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +20,7 @@ using hxahost::Utf8FromPath;
 using testing::HasSubstr;
 using Texts = std::vector<std::string>;
 
-// Runs the program from a shell that does something first: "$0" and "$@" are the program and its arguments.
+// Runs the program from a shell that runs a script first: "$0" and "$@" are the program and its arguments.
 ProgramResult RunFromShell(const std::string& script, Texts arguments) {
   arguments.insert(arguments.begin(), {"-c", script, HxahostPath().string()});
   return RunningProgram("/bin/bash", arguments).Wait();
@@ -80,8 +79,8 @@ TEST(FullDisk, IsReportedForFilesThatOptionsName) {
   }
 }
 
-// The limit is 4 blocks of 1024 bytes; what is written is longer. Ignored, the signal becomes a failed write, as on a
-// disk that is full. Counts of lines go to a folder of their own, as they would be written in part.
+// The limit is 4 blocks of 1024 bytes, less than the output. If the signal is ignored, the write fails, as on a full
+// disk. Counts of lines go to a folder of their own, as they would be written partly.
 TEST(FullDisk, LeavesTheGoodResultThatWasThereBefore) {
   const std::string machine = Utf8FromPath(SampleMachine());
   const Case cases[] = {

@@ -1,5 +1,5 @@
-// What is named as a file to be read and is none: a pipe that nobody writes to, a device that never ends. The program
-// runs with little memory and little time, and must not need either.
+// Input files that are not ordinary files: a pipe without a writer, an endless device. The program runs with little
+// memory and little time, and must need neither.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ using testing::HasSubstr;
 using testing::Not;
 using Texts = std::vector<std::string>;
 
-constexpr int kOutOfTime = 124;  // what "timeout" gives
+constexpr int kOutOfTime = 124;  // the exit status of "timeout"
 
 // Runs a line of the shell, in which "$0" is the program and "$@" are the arguments.
 ProgramResult RunFromShell(const std::string& line, Texts arguments) {
@@ -33,7 +33,7 @@ ProgramResult RunFromShell(const std::string& line, Texts arguments) {
 
 ProgramResult RunWithinBounds(const Texts& arguments) { return RunFromShell("timeout 60 \"$0\" \"$@\"", arguments); }
 
-// What is there under a name and is no ordinary file.
+// An entry that is not an ordinary file.
 struct Trap {
   const char* name;
   void (*make)(const fs::path& path);
@@ -149,7 +149,7 @@ TEST(InputFiles, AStreamIsReadUpToTheLimit) {
   EXPECT_THAT(other.err, HasSubstr("Standard input is no bundle"));
 }
 
-// With 300 MB of addresses, the program has room for itself and not for the file. Sanitizers need more for themselves.
+// With 300 MB of address space, the program has room for itself but not for the file. Sanitizers need more.
 #ifndef ZENX_SANITIZED
 TEST(InputFiles, ThatDoNotFitIntoTheMemoryAreAnsweredByOneLineThatSaysWhatToDo) {
   const TemporaryFolder folder;

@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-// A folder "zenx" in "machine" with a link to what lies elsewhere.
+// A folder "zenx" in "machine" with a link to a folder or file elsewhere.
 class LinkedTools : public testing::Test {
  protected:
   LinkedTools() { folder_.Write("machine/zenx/qcmdrun.exe", ""); }
@@ -73,7 +73,7 @@ TEST_F(LinkedTools, ThatAreNotThereYetAreWhatOthersPutThere) {
   ExpectWarningOf(In("elsewhere"));
 }
 
-// In such a folder, as /tmp, nobody replaces what another has put there.
+// In such a folder, like /tmp, nobody can replace the entries of others.
 TEST_F(LinkedTools, BelowAFolderForAllAreSafeWhereOnlyOwnersMayReplace) {
   Write("elsewhere/tools/arcconf");
   Link(In("elsewhere/tools/arcconf"));

@@ -1,4 +1,4 @@
-// Utilities that hang: scripts, which other systems do not run.
+// Utilities that hang: shell scripts, which other systems cannot run.
 
 #include <filesystem>
 #include <string>
@@ -18,7 +18,7 @@ using testing::HasSubstr;
 
 class RunLimits : public testing::Test {
  protected:
-  // Its questions are counted by the lines of a file.
+  // The lines of a file count the requests.
   RunLimits() {
     machine_.LeaveOnly("qcmdrun");
     machine_.SetTool("arcconf", "#!/bin/sh\necho $* >>asked\nexec sleep 60\n");

@@ -1,4 +1,4 @@
-// What the program inherits from its parent: ignored signals and limits.
+// Settings that the program inherits from its parent: ignored signals and limits.
 
 #include <csignal>
 #include <filesystem>
@@ -46,7 +46,7 @@ TEST(Signals, CrashesAreSeenWhereTheParentIgnoresTheEndsOfItsChildren) {
   for (const auto& run : runs) EXPECT_EQ(run["failure"], "it was ended by the system: signal 6");
 }
 
-// The bundle holds what the utilities said, whoever reads the result.
+// The bundle contains the output of the utilities even if nobody reads the result.
 TEST(Signals, ABundleIsSavedWhereNobodyReadsStandardOutput) {
   const TemporaryFolder folder;
   const fs::path bundle = folder.Path() / "kept.bundle";

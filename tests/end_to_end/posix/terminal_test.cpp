@@ -26,7 +26,7 @@ using testing::Not;
 
 using Variables = std::vector<std::string>;  // NAME=value
 
-// In the child: it must not come back.
+// Runs in the child: it must not return.
 [[noreturn]] void RunProgram(const std::vector<std::string>& arguments, const Variables& variables) {
   for (const char* const name : {"COLUMNS", "NO_COLOR", "LC_ALL", "LC_CTYPE"}) unsetenv(name);
   for (const std::string& variable : variables) {
@@ -43,7 +43,7 @@ using Variables = std::vector<std::string>;  // NAME=value
   _exit(127);
 }
 
-// What the program shows on a terminal of this width.
+// The output of the program on a terminal of this width.
 std::string ShownOnTerminal(unsigned short width, const std::vector<std::string>& arguments, Variables variables) {
   variables.insert(variables.begin(), {"TERM=xterm", "LANG=en_US.UTF-8"});
   winsize size{};
@@ -92,7 +92,7 @@ std::size_t WidestLine(const std::string& text) {
 TEST(Terminal, IsFilledByTheTablesAndNeverLeft) {
   struct Case {
     unsigned short width;
-    std::size_t atLeast;  // on 200 columns there is room for all of the widest line
+    std::size_t atLeast;  // 200 columns have room for the widest line
   };
   for (const Case& each : {
            Case{80,  70 },
@@ -134,7 +134,7 @@ TEST(Terminal, ShowsWhichOfHowManyCommandsRuns) {
   EXPECT_THAT(shown, HasSubstr("\rzenx//arcconf.exe getconfig 8 al (80 of about 80)"));
 }
 
-// What the screen shows when all is written: each carriage return goes back to the begin of the line.
+// The screen after all output: each carriage return goes back to the beginning of the line.
 std::vector<std::string> Screen(const std::string& shown) {
   std::vector<std::string> lines(1);
   std::size_t column = 0;
@@ -172,7 +172,7 @@ TEST(Terminal, HasNothingOfTheProgressLeftBesideTheTables) {
   EXPECT_THAT(with, HasSubstr("(1 of about 48)"));
   EXPECT_THAT(with, Not(HasSubstr("\x1b")));
   EXPECT_THAT(without, Not(HasSubstr("of about")));
-  // The last lines tell how many seconds the tools took.
+  // The last lines show how many seconds the tools took.
   const auto tables = [](const std::string& shown) {
     std::vector<std::string> lines = Screen(shown);
     lines.erase(std::ranges::find(lines, "Runs of the tools"), lines.end());

@@ -1,4 +1,4 @@
-// Working directories that are gone, that nobody may write to, and that have no room.
+// Working directories that were deleted, that are read-only, and that have no room.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-// Runs the program from a shell that does something first: "$0" and "$@" are the program and its arguments.
+// Runs the program from a shell that runs a script first: "$0" and "$@" are the program and its arguments.
 ProgramResult RunFromShell(const std::string& script, std::vector<std::string> arguments) {
   arguments.insert(arguments.begin(), {"-c", script, HxahostPath().string()});
   return RunningProgram("/bin/bash", arguments).Wait();
@@ -27,7 +27,7 @@ ProgramResult RunFromShell(const std::string& script, std::vector<std::string> a
 const std::vector<std::string> kFixed = {
     "query", "--format", "json", "--machine-name", "M", "--local-time", "20260305123015.250000+060"};
 
-// The result for a machine at this place, as it is where nothing is wrong.
+// The result for a machine in this folder, if nothing is wrong.
 std::string GoodResult(const MachineCopy& machine) {
   return RunFromShell("cd '" + machine.Directory() + "' && exec \"$0\" \"$@\"", kFixed).out;
 }
@@ -65,7 +65,7 @@ TEST(WorkingDirectory, ThatGoesWhileToolsRunEndsInToolsThatCannotBeStarted) {
   EXPECT_THAT(result.out, HasSubstr("\\\"zenx//arcconf.exe\\\" cannot be started: No such file or directory"));
 }
 
-// To root, everything may be written: what lets it is taken from the program before it starts.
+// Root may write everywhere: the capabilities for that are removed before the program starts.
 TEST(WorkingDirectory, ThatNobodyMayWriteToIsEnough) {
   const MachineCopy machine;
   const std::string expected = GoodResult(machine);
@@ -85,7 +85,7 @@ TEST(WorkingDirectory, ThatNobodyMayWriteToIsEnough) {
   EXPECT_EQ(RunFromShell("chmod -R u+w '" + machine.Directory() + "'", {}).exitStatus, 0);
 }
 
-// Not a byte may be written to a file, by the program or by the tools; counts of lines go to a folder of their own.
+// The program and the tools cannot write a byte to a file; counts of lines go to a folder of their own.
 TEST(WorkingDirectory, WithoutAnyRoomIsEnough) {
   const MachineCopy machine;
   const TemporaryFolder counts;

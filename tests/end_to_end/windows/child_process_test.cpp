@@ -22,7 +22,7 @@ std::wstring NameOf(HANDLE pipe) {
   return {name.FileName, name.FileNameLength / sizeof(wchar_t)};
 }
 
-// The other end of a pipe that can be opened again would be open to whoever knows its name.
+// If another process could open the pipe again, anybody who knows its name could.
 TEST(ChildProcess, HasAPipeThatNobodyElseCanForeseeOrOpen) {
   ChildProcess one = StartProcess(ChildPath(), {"sleep", "300"});
   ChildProcess other = StartProcess(ChildPath(), {"sleep", "300"});

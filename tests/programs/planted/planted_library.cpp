@@ -1,4 +1,4 @@
-// A library under a name that somebody else's library has, where it must not be found. Whoever loads it leaves a trace.
+// A library with the name of another one, where it must not be found. Loading it leaves a trace.
 #include <cstdio>
 #include <cstdlib>
 

@@ -20,7 +20,7 @@ void IgnoreTermination() {
 
 unsigned long OwnProcessId() { return static_cast<unsigned long>(getpid()); }
 
-// A signal of which no image of the process's memory is left behind.
+// A signal that writes no core file.
 void Crash() {
   kill(getpid(), SIGKILL);
   _exit(2);

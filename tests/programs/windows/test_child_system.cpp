@@ -23,8 +23,8 @@ std::string ToUtf8(const wchar_t* wide) {
   return text;
 }
 
-// The library brings half of the desktop with it and takes longer to load than all else that a child does, so it comes
-// only where it is needed.
+// Loading the library takes longer than everything else that a child does, as it depends on half of the desktop, so it is
+// only loaded if it is needed.
 wchar_t** SplitCommandLine(int& count) {
   const HMODULE shell = LoadLibraryW(L"shell32.dll");
   const auto split = reinterpret_cast<decltype(&CommandLineToArgvW)>(
@@ -48,7 +48,7 @@ void WriteBytesAsTheyAre() {
   _setmode(_fileno(stderr), _O_BINARY);
 }
 
-// The C runtime keeps the handles that the process was given apart from its own files.
+// The C runtime and the process have separate handles for standard output.
 void CloseStandardOutput() {
   std::fclose(stdout);
   std::fclose(stderr);
@@ -61,7 +61,7 @@ void IgnoreTermination() {
 
 unsigned long OwnProcessId() { return GetCurrentProcessId(); }
 
-// With the status of a wrong address, which nobody asks about on the screen.
+// With the status of an access violation, but without a message box.
 void Crash() {
   TerminateProcess(GetCurrentProcess(), static_cast<UINT>(STATUS_ACCESS_VIOLATION));
   std::exit(2);

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Systems other than Windows take the version from the environment, so that an old one can be played here.
+// Systems other than Windows read the version from the environment, so the test can set an old one.
 TEST(CollectRaidMgrDataOnOlderSystems, TakesTheRegistryValueAsItStands) {
   for (const char* const version : {"5.2", ""}) {
     const ScriptedServices services;

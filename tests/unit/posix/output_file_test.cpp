@@ -38,7 +38,7 @@ TEST(OutputFilePosix, WritesThroughALinkToTheFileBehindIt) {
 TEST(OutputFilePosix, KeepsModeAndOwnerOfWhatItReplaces) {
   const TemporaryFolder folder;
   const fs::path path = folder.Write("file", "before");
-  // Only root can give a file away.
+  // Only root can change the owner of a file.
   const uid_t owner = geteuid() == 0 ? 1234 : geteuid();
   ASSERT_EQ(chown(path.c_str(), owner, getegid()), 0);
   ASSERT_EQ(chmod(path.c_str(), 0460), 0);

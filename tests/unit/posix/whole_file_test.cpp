@@ -13,7 +13,7 @@ namespace {
 using NKVRHXA20::ReadWholeFile;
 using testing::HasSubstr;
 
-// Opens, and then the system fails to read it, as it does on a broken disk: no memory is at its beginning.
+// Can be opened, but reading fails as on a broken disk: no memory is mapped at its beginning.
 constexpr const char* kBroken = "/proc/self/mem";
 
 TEST(WholeFile, IsWhatTheFileHas) {

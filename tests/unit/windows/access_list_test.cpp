@@ -16,12 +16,12 @@ using hxahost::OthersMayWrite;
 
 struct Case {
   const char* name;
-  const wchar_t* list;  // as the system writes access lists
+  const wchar_t* list;  // in the system's notation
   bool isWritable;
-  bool isExchangeable;  // what lies in the folder
+  bool isExchangeable;  // the entries of the folder
 };
 
-// WD everyone, AU authenticated users, BU users, BG guests, IU who sits at the machine, BA administrators, SY the
+// WD everyone, AU authenticated users, BU users, BG guests, IU users at the machine, BA administrators, SY the
 // system; A allows, D denies; GR, GW, GX, GA and FR, FW, FX, FA read, write, execute and all.
 constexpr Case kCases[] = {
     {"as in the folder of programs",          L"D:(A;OICI;FA;;;SY)(A;OICI;FA;;;BA)(A;OICI;0x1200a9;;;BU)", false, false},

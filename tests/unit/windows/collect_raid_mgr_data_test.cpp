@@ -8,7 +8,7 @@
 
 namespace {
 
-// A text in the registry may lack its end.
+// A text in the registry may lack its terminating null.
 TEST(CollectRaidMgrDataOnWindows, TakesARegistryValueWithoutItsEnd) {
   ScriptedServices services;
   const RaidLogMachine machine(services, "");

@@ -16,7 +16,7 @@ struct Device {
   std::string identifier;
 };
 
-// What the calls below show: they have no argument that could carry it.
+// The data of the calls below, which have no parameter for it.
 std::vector<Device> devices;
 DWORD idSize = 0;
 int openLists = 0;
@@ -47,7 +47,7 @@ WINBOOL WINAPI GetProperty(HDEVINFO, PSP_DEVINFO_DATA device, DWORD property, PD
   return TRUE;
 }
 
-// Fills the buffer to its last character where the identifier is longer.
+// If the identifier is longer, fills the buffer up to its last character.
 CONFIGRET WINAPI GetIdentifier(DEVINST device, PSTR buffer, ULONG size, ULONG) {
   idSize = size;
   const std::string& identifier = devices.at(device).identifier;

@@ -6,7 +6,7 @@
 
 namespace {
 
-// As the streams of Windows have always read text.
+// Text streams of Windows end there, too.
 TEST(TextFileOnWindows, EndsAtTheByteThatEndsTextFiles) {
   const TemporaryFolder folder;
   TextFile file(folder.Write("text", "one\r\ntwo\x1Athree\r\nfour\r\n").string());
