@@ -1,4 +1,4 @@
-// Runs tests one after the other in a real browser, each on a page of its own, and says what failed.
+// Runs tests one after the other in a real browser, each in a tab of its own, and reports failures.
 import { mkdtempSync, rmSync, writeFileSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
@@ -13,12 +13,12 @@ const kMostSeconds = 180; // a test takes
 
 const tests = [];
 
-// run is given (open): open(file, options) gives a page that has drawn the report.
+// run receives (open): open(file, options) returns a tab that has drawn the report.
 export function test(name, run) {
   tests.push({ name, run });
 }
 
-// What a page must never do: complain, ask, or load anything beside itself.
+// The report must never log errors, open dialogs, or load other files.
 function watch(page, file, troubles) {
   page.on("console", (message) => {
     if (message.type() === "error" || message.type() === "warning") troubles.push(`console: ${message.text()}`);
@@ -75,7 +75,7 @@ function writeResults(file, results) {
   writeFileSync(file, `<?xml version="1.0" encoding="UTF-8"?>\n<testsuites ${counts}>\n${suite}</testsuites>\n`);
 }
 
-// Gives the number of failures.
+// Returns the number of failures.
 export async function runTests(resultFile, only) {
   const profile = mkdtempSync(join(tmpdir(), "zenx-browser-"));
   const launch = () => chromium.launch({ executablePath: kBrowser, args: kArguments,
@@ -85,7 +85,7 @@ export async function runTests(resultFile, only) {
   for (const each of tests.filter(({ name }) => !only || name.includes(only))) {
     const began = Date.now();
     let failure = await runOne(browser, each);
-    // A browser that the system ended, for want of memory, says nothing about the page. A page that ends it does so
+    // If the system ended the browser for lack of memory, the report is not at fault. If the report caused it, it happens
     // again.
     if (!browser.isConnected()) {
       console.log(`The browser ended during "${each.name}": once more`);

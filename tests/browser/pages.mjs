@@ -1,4 +1,4 @@
-// The pages that the tests open: of the sample machine, by the program itself, and of machines that a helper makes up.
+// The reports for the tests: of the sample machine, written by the program itself, and of invented machines.
 import { spawnSync } from "node:child_process";
 import { cpSync, mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { join, resolve } from "node:path";
@@ -14,7 +14,7 @@ function run(program, given, expected = 0) {
   throw new Error(`${program} ended with ${result.status ?? result.error}: ${result.stderr}`);
 }
 
-// A copy of its own: other tests collect from the sample machine at the same time.
+// A separate copy: other tests collect from the sample machine at the same time.
 const kMachineFolder = join(kFolder, "machine");
 const kGapFolder = join(kFolder, "machine-with-gap");
 const machineIn = (folder) => ["--directory", folder, "--local-time", "20260305123015.000000+060", "--machine-name",
@@ -57,7 +57,7 @@ export function pageFile(name) {
   return pathToFileURL(join(kFolder, `${name}.html`));
 }
 
-// What the program says as JSON about the same machine.
+// The program's JSON for the same machine.
 export function lastQuery(name) {
   return JSON.parse(readFileSync(join(kFolder, `${name}.json`), "utf8")).queries.at(-1);
 }
@@ -72,13 +72,13 @@ function splitPage(name) {
   return { page, begin, end: page.indexOf("</script>", begin) };
 }
 
-// What the program says of the machine beside the query.
+// The report's data beside the query.
 export function reportData(name) {
   const { page, begin, end } = splitPage(name);
   return JSON.parse(page.slice(begin, end));
 }
 
-// The page of a machine with something else in the data that it has beside the query.
+// The report of a machine with other data beside the query.
 export function pageWith(name, newName, changed) {
   const { page, begin, end } = splitPage(name);
   const data = { ...reportData(name), ...changed };
@@ -89,14 +89,14 @@ export function pageWith(name, newName, changed) {
 
 export const kEveryLevel = ["critical", "warning", "unknown", "busy", "idle", "unsaid", "ok"];
 
-// The page of the sample machine with objects of every level.
+// The report of the sample machine with objects of every level.
 export function pageOfEveryLevel() {
   const withLevel = (object, index) => ({ ...object, level: kEveryLevel[index % kEveryLevel.length] });
   const objects = reportData("sample").objects.map(withLevel);
   return pageWith("sample", "every-level", { objects });
 }
 
-// What "hxahost health" finds on the sample machine.
+// The findings of "hxahost health" on the sample machine.
 export function findings() {
   return JSON.parse(readFileSync(join(kFolder, "health.json"), "utf8")).findings;
 }

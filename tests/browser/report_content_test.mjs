@@ -1,4 +1,4 @@
-// What the page shows, held against the JSON of the same query.
+// Compares the content of the report with the JSON of the same query.
 import assert from "node:assert/strict";
 import { test } from "./harness.mjs";
 import { countOf, findings, kEveryLevel, lastQuery, pageFile, pageOfEveryLevel, pageWith, reportData,
@@ -50,7 +50,7 @@ test("The counts are those of the JSON", async (open) => {
   }
 });
 
-test("The drawing has a box for every device and says its state in words", async (open) => {
+test("The drawing has a box for every device with its state in words", async (open) => {
   const page = await open(pageFile("sample"));
   const boxes = await page.locator(".drawing a[data-object]").evaluateAll((links) =>
     links.map((link) => ({ object: Number(link.dataset.object), text: link.textContent })));
@@ -64,7 +64,7 @@ test("The drawing has a box for every device and says its state in words", async
   }
 });
 
-test("Colours never stand alone: each level has its symbol", async (open) => {
+test("Colours are never the only sign: each level has its symbol", async (open) => {
   const page = await open(pageOfEveryLevel());
   const symbols = await page.locator(".drawing a.box").evaluateAll((links) =>
     links.map((link) => [[...link.classList].find((name) => name.startsWith("level-")),
@@ -74,7 +74,7 @@ test("Colours never stand alone: each level has its symbol", async (open) => {
   assert.ok(kEveryLevel.every((level) => symbols.some(([each]) => each === "level-" + level)));
 });
 
-test("Boxes and states have the levels that the program gives", async (open) => {
+test("Boxes and states have the levels that the program writes", async (open) => {
   const page = await open(pageFile("sample"));
   const objects = new Map(reportData("sample").objects.map((object) => [object.instance, object]));
   const boxes = await page.locator(".drawing a.box").evaluateAll((links) =>
@@ -112,7 +112,7 @@ test("Devices are drawn by enclosure and slot where they are known, else by chan
       Array.from({ length: 11 }, (_, slot) => `enclosure 0, slot ${slot}`));
 });
 
-test("The events of all logs stand in the order of time, those without a time beside them", async (open) => {
+test("The events of all logs are in the order of time, those without a time beside them", async (open) => {
   const page = await open(pageFile("sample"));
   const rows = await cellTexts(page, "Events");
   const times = rows.map((row) => row[0].slice(0, 19));
@@ -127,7 +127,7 @@ test("The events of all logs stand in the order of time, those without a time be
   assert.match(await aside.textContent(), new RegExp("0x" + codes[0].toString(16).padStart(8, "0")));
 });
 
-test("An event with a time that no calendar has comes last and shows what the log says", async (open) => {
+test("An event with an impossible time comes last and shows the text of the log", async (open) => {
   const page = await open(pageFile("hostile"));
   const rows = await cellTexts(page, "Events");
   assert.equal(rows.at(-1)[0], "not readable (2026-00-99 12:00:00 +01:00)");
@@ -160,7 +160,7 @@ test("Verdict, disks and incidents can be read without scripts", async (open) =>
   assert.match(await page.locator("noscript").innerText(), /need the\s+script of this file/);
 });
 
-test("The findings of the rules are worst first, and lead to what they are about", async (open) => {
+test("The findings of the rules are worst first, and link to their objects", async (open) => {
   const page = await open(pageFile("sample"));
   const expected = findings();
   assert.ok(expected.length > 3);
@@ -189,7 +189,7 @@ test("The findings of the rules are worst first, and lead to what they are about
       "the finding colours the disk");
 });
 
-test("A finding is about one object alone, also where two share an identifier", async (open) => {
+test("A finding is about one object only, even if two share an identifier", async (open) => {
   const instances = lastQuery("gap").instances;
   const twins = instances.flatMap(({ properties }, index) => (properties.DeviceID === "Zentraxis3" ? [index] : []));
   assert.equal(twins.length, 2);
@@ -208,7 +208,7 @@ test("Of very many findings the worst are shown until the rest is asked for", as
   assert.equal(await rowCount(page, "Findings"), 300);
 });
 
-test("No findings are good news only where everything was looked at", async (open) => {
+test("No findings mean a healthy machine only if every class was queried", async (open) => {
   const page = await open(pageFile("healthy"));
   assert.equal(await page.locator(".verdict.level-ok").innerText(), "\u2713 OK: no fault found");
   assert.equal(await page.locator('h2:text-is("Findings"), .incident').count(), 0);
@@ -247,20 +247,20 @@ test("The lines of the raw texts that nothing else shows are marked and counted 
   assert.ok((await page.locator(".unread-legend").innerText()).includes(`${total} lines in ${expected.size} texts`));
 });
 
-test("The mark of an unread line is a sign beside it, not its colour alone, and no part of its text", async (open) => {
+test("The mark of an unread line is a sign beside it, not only its colour, and not part of its text", async (open) => {
   const page = await open(pageFile("sample"));
   const line = page.locator("details.raw .unread").first();
   assert.equal(await line.evaluate((each) => getComputedStyle(each, "::before").content), '"\u25b8"');
   assert.ok(!(await line.textContent()).includes("\u25b8"));
 });
 
-test("A page of a few classes marks no line and says why", async (open) => {
+test("A report of a few classes marks no line and shows the reason", async (open) => {
   const page = await open(pageFile("raw"));
   assert.equal(await page.locator(".unread").count(), 0);
   assert.match(await sectionText(page, "Raw texts of the tools"), /listed only if every class was queried/);
 });
 
-test("A query of one class alone gives a page", async (open) => {
+test("A query of only one class produces a report", async (open) => {
   const page = await open(pageFile("disks"));
   assert.equal(await rowCount(page, "Disks"), countOf("disks", "KVRSG_zxDiskDrive"));
   assert.equal(await page.locator(".drawing a.box").count(), countOf("disks", "KVRSG_zxDiskDrive"));
@@ -286,7 +286,7 @@ test("Of several queries the last is shown, with a note", async (open) => {
   assert.doesNotMatch(await (await open(pageFile("sample"))).locator(".summary").innerText(), /queries were made/);
 });
 
-test("A machine with nothing is not shown as a healthy one", async (open) => {
+test("A machine without objects is not shown as a healthy one", async (open) => {
   const page = await open(pageFile("nothing"));
   assert.match(await sectionText(page, "Health"), /Nothing was found/);
   assert.equal(await page.locator(".level-ok").count(), 0);
@@ -322,7 +322,7 @@ test("The details of every hostile object show it literally, too", async (open) 
   assert.ok(objects.length > 50);
 });
 
-test("Nothing but the page's own script runs", async (open, troubles) => {
+test("Only the report's own script runs", async (open, troubles) => {
   const page = await open(pageFile("sample"));
   const ran = await page.evaluate(() => {
     const script = document.createElement("script");

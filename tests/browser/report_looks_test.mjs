@@ -1,11 +1,11 @@
-// How the page looks: light, dark, narrow, on paper, and to a screen reader.
+// The look of the report: light, dark, narrow, on paper, and for a screen reader.
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import { createRequire } from "node:module";
 import { test } from "./harness.mjs";
 import { pageFile, pageOfEveryLevel } from "./pages.mjs";
 
-// The contrast of each element's text with what is behind it, as the accessibility guidelines compute it.
+// The contrast of each element's text with its background, as the accessibility guidelines compute it.
 function lowContrasts(page, selector) {
   return page.locator(selector).evaluateAll((elements) => {
     const channels = (colour) => colour.match(/[\d.]+/g).map(Number);
@@ -59,7 +59,7 @@ test("Boxes differ in their colours from one level to the next, in both schemes"
 });
 
 for (const width of [400, 800, 1280, 1920]) {
-  test(`At ${width} pixels nothing sticks out of the page`, async (open) => {
+  test(`At ${width} pixels nothing extends beyond the report`, async (open) => {
     for (const name of ["sample", "hostile"]) {
       const page = await open(pageFile(name), { viewport: { width, height: 900 } });
       assert.equal(await page.evaluate(() => document.documentElement.scrollWidth), width, name);
@@ -67,7 +67,7 @@ for (const width of [400, 800, 1280, 1920]) {
   });
 }
 
-test("No text sticks out of its box", async (open) => {
+test("No text extends beyond its box", async (open) => {
   const page = await open(pageFile("sample"));
   const wide = await page.locator("a.box").evaluateAll((boxes) => boxes.flatMap((box) => {
     const right = box.getBoundingClientRect().right;
@@ -112,7 +112,7 @@ const kStandards = ["wcag2a", "wcag2aa", "wcag21a", "wcag21aa", "wcag22aa", "bes
 const kChecker = readFileSync(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
 
 async function violations(page) {
-  // What is out of sight is not laid out, and would seem to cover what is after it.
+  // Parts out of sight are not laid out, and would seem to cover the parts after them.
   await page.evaluate(() => document.querySelectorAll(".controller, .sorted-table").forEach((each) => {
     each.style.contentVisibility = "visible";
   }));
@@ -125,7 +125,7 @@ async function violations(page) {
 
 for (const [name, options] of Object.entries({ light: {}, dark: { colorScheme: "dark" },
     narrow: { viewport: { width: 390, height: 844 } } })) {
-  test(`A checker of accessibility finds nothing in the ${name} page`, async (open) => {
+  test(`A checker of accessibility finds no fault in the ${name} report`, async (open) => {
     for (const [file, hash] of [["sample", ""], ["sample", "#object-48"], ["hostile", ""]]) {
       assert.deepEqual(await violations(await open(pageFile(file), { ...options, hash })), [], file + hash);
     }
@@ -165,7 +165,7 @@ test("A printed report has few pages", async (open) => {
   assert.ok(pages >= 5 && pages <= 40, `${pages} pages`);
 });
 
-test("The page has its landmarks, headings in order, and names for all that can be used", async (open) => {
+test("The report has landmarks, headings in order, and names for all controls", async (open) => {
   const page = await open(pageFile("sample"));
   for (const landmark of ["header", "nav", "main", "footer", "aside"]) {
     assert.equal(await page.locator(landmark).count(), 1, landmark);

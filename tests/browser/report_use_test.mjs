@@ -1,4 +1,4 @@
-// What people do with the page: by mouse, by keyboard, and on machines with thousands of disks.
+// The use of the report: by mouse, by keyboard, and on machines with thousands of disks.
 import assert from "node:assert/strict";
 import { test } from "./harness.mjs";
 import { countOf, lastQuery, pageFile } from "./pages.mjs";
@@ -7,7 +7,7 @@ function section(page, heading) {
   return page.locator(`section:has(> h2:text-is("${heading}"))`);
 }
 
-// What is out of sight is not laid out, and is not there for a mouse.
+// Parts out of sight are not laid out, so the mouse cannot reach them.
 async function sectionInSight(page, heading) {
   await section(page, heading).locator(".sorted-table").first().scrollIntoViewIfNeeded();
   return section(page, heading);
@@ -25,7 +25,7 @@ function inOrder(texts) {
   return [...texts].sort(collator.compare);
 }
 
-// The place of the object of the class of which a property says this.
+// The place of the class's object whose property has this value.
 function placeOf(className, value) {
   const isIt = (each) => each.class === className && Object.values(each.properties).includes(value);
   return lastQuery("sample").instances.findIndex(isIt);
@@ -109,7 +109,7 @@ test("The keyboard reaches a disk, its details, and comes back to it", async (op
   await dialog.waitFor();
 });
 
-test("The arrow keys go from row to row and to both ends", async (open) => {
+test("The arrow keys move from row to row and to both ends", async (open) => {
   const page = await open(pageFile("many"));
   await tabTo(page, /^channel 0, ID 0\s/);
   await page.keyboard.press("ArrowDown");
@@ -181,7 +181,7 @@ test("A list over two lines leads to both, and a search leaves them marked", asy
   assert.equal(await page.locator(".followed mark").count(), 1);
 });
 
-test("A value of which the raw text says something else is marked", async (open) => {
+test("A value that differs from the raw text is marked", async (open) => {
   const page = await open(pageFile("sample"));
   await page.evaluate((index) => {
     Object.assign(proofOf(report.model.objects[index]), { differs: ["State"], noLine: ["FRU"] });
@@ -213,7 +213,7 @@ test("A mirror without a stripe order marks its two disks", async (open) => {
   assert.deepEqual(marked, ["enclosure 0, slot 0", "enclosure 0, slot 1"]);
 });
 
-test("The arrow keys go through the disks of the first screen, which lead to their details", async (open) => {
+test("The arrow keys move through the disks of the first screen, which link to their details", async (open) => {
   const page = await open(pageFile("sample"));
   await page.locator(".disk").first().focus();
   for (let press = 0; press < 4; press += 1) await page.keyboard.press("ArrowRight");
@@ -221,7 +221,7 @@ test("The arrow keys go through the disks of the first screen, which lead to the
   await page.getByRole("dialog", { name: "Controller 1, channel 1, ID 4" }).waitFor();
 });
 
-test("The keys N and P go from one unread line to the next and back, round the end", async (open) => {
+test("The keys N and P move to the next and the previous unread line, and from the last to the first", async (open) => {
   const page = await open(pageFile("sample"));
   const place = () =>
       page.evaluate(() => [...document.querySelectorAll("details.raw .unread")].indexOf(document.activeElement));
@@ -240,7 +240,7 @@ test("The keys N and P go from one unread line to the next and back, round the e
   assert.match(await section(page, "Raw texts of the tools").innerText(), new RegExp(`2 of ${total}`));
 });
 
-test("The keys for unread lines are letters while one searches, and pass over what the search left out",
+test("The keys for unread lines type letters in the search, and skip lines that the search hides",
     async (open) => {
   const page = await open(pageFile("sample"));
   const input = page.getByLabel("Search all texts");
