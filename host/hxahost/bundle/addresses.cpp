@@ -18,7 +18,7 @@ bool IsHexPair(std::string_view text, std::size_t place) {
   return place + 1 < text.size() && IsHex(text[place]) && IsHex(text[place + 1]);
 }
 
-// "00:1A:2b:3c:4d:5e", "50-00-c5-00-1a-2b-3c-4d": six pairs or more. 0 for what is none.
+// "00:1A:2b:3c:4d:5e", "50-00-c5-00-1a-2b-3c-4d": the length of six pairs or more; otherwise 0.
 std::size_t PairsLength(std::string_view text, std::size_t place) {
   constexpr std::size_t kFewestPairs = 6;
   constexpr std::size_t kMostPairs = 20;
@@ -34,7 +34,7 @@ std::size_t PairsLength(std::string_view text, std::size_t place) {
   return pairs < kFewestPairs || (end < text.size() && IsWord(text[end])) ? 0 : end - place;
 }
 
-// "5000C5001A2B3C4D": sixteen hexadecimal digits, the first of which says that a maker gave them.
+// "5000C5001A2B3C4D": sixteen hexadecimal digits; the first shows that a maker assigned them.
 std::size_t NameLength(std::string_view text, std::size_t place) {
   constexpr std::size_t kDigits = 16;
   if (text[place] != '5') return 0;
@@ -43,7 +43,7 @@ std::size_t NameLength(std::string_view text, std::size_t place) {
   return digits.size() == kDigits && !goesOn && std::ranges::all_of(digits, IsHex) ? kDigits : 0;
 }
 
-// Of the address around an "@"; no part of one that ends before begin.
+// The address around an "@", but no text before begin.
 Span MailAround(std::string_view text, std::size_t at, std::size_t begin) {
   std::size_t first = at;
   while (first > begin && IsOfUser(text[first - 1])) --first;
@@ -63,7 +63,7 @@ bool BeginsWord(std::string_view text, std::size_t place) {
 
 std::vector<Span> FindAddresses(std::string_view text) {
   std::vector<Span> found;
-  std::size_t begin = 0;  // of what is not in an address yet
+  std::size_t begin = 0;  // of the text after the last address
   for (std::size_t place = 0; place < text.size(); ++place) {
     Span span;
     if (text[place] == '@') {

@@ -7,7 +7,7 @@
 
 namespace hxahost {
 
-// The addresses in a text, known by their form: e-mail addresses, MAC addresses and world-wide names, in their order.
+// Finds addresses by their form: e-mail addresses, MAC addresses and world-wide names, in the order of the text.
 std::vector<Span> FindAddresses(std::string_view text);
 
 }  // namespace hxahost

@@ -14,7 +14,7 @@
 // A bundle: everything that a collection received from the machine, so that it can be repeated anywhere.
 namespace hxahost {
 
-// What a service threw in place of an answer.
+// An exception of a service, instead of an answer.
 enum class FailureKind {
   kNotInstalled,
   kNotAsked,
@@ -35,17 +35,17 @@ struct RecordedRun {
   std::string path;
   std::vector<std::string> arguments;
   int limitSeconds = 0;
-  NKVRHXA20::SpawnResult result;  // its seconds alone where it failed
+  NKVRHXA20::SpawnResult result;  // only its seconds if the run failed
   std::optional<RecordedFailure> failure;
 };
 
-// What the run gave: its result, or what the service threw, with the same message.
+// Returns the result of the run, or throws the recorded exception with the same message.
 NKVRHXA20::SpawnResult Repeat(const RecordedRun& run);
 
-// Throws what the service threw after a run of so many seconds.
+// Throws the exception of a service, after a run of that duration.
 [[noreturn]] void Throw(const RecordedFailure& failure, double seconds = 0);
 
-// "zenx//arcconf.exe getconfig 1 al", as it is.
+// "zenx//arcconf.exe getconfig 1 al", unescaped.
 std::string CommandText(const RecordedRun& run);
 
 // The RAID manager's log, where it was there to be opened.
@@ -55,13 +55,13 @@ struct RecordedLog {
   std::optional<RecordedFailure> failure;  // why it could not be captured, although it could be opened
 };
 
-// What the clock said, and how often in a row: many times are asked for within one of its ticks.
+// A reading of the clock, and how often it occurs in a row: several readings fall within one tick.
 struct RecordedTime {
   NKVRHXA20::TCIMDateTime time;
   std::size_t count = 1;
 };
 
-// All texts are bytes as they were, but for those that say UTF-8.
+// Texts are bytes as received, except those marked UTF-8.
 struct Bundle {
   std::string program;  // the version that recorded it
   bool isMasked = false;
@@ -69,9 +69,9 @@ struct Bundle {
   std::string directory;  // the working directory of the tools, UTF-8
   std::optional<std::uint16_t> osType;
   OsVersion osVersion;
-  std::optional<std::string> raidLogDir;  // nothing: the registry has no such value
-  std::vector<RecordedTime> localTimes;   // what the clock said, in order
-  std::vector<double> querySeconds;       // of each query that came to its end
+  std::optional<std::string> raidLogDir;  // empty: the registry has no such value
+  std::vector<RecordedTime> localTimes;   // the readings of the clock, in order
+  std::vector<double> querySeconds;       // of each query that finished
   std::vector<RecordedRun> runs;          // in the order in which they were started
   std::optional<RecordedLog> raidLog;
 };

@@ -27,7 +27,7 @@ constexpr ByteEscape kByteEscapes[] = {
     {'"',  '"' },
 };
 
-// What a byte is written as; a quotation mark is itself where no text ends at one.
+// The escape of a byte. Quotation marks need one only in quoted texts.
 std::string EscapedByte(char byte) {
   const auto* const escape = std::ranges::find(kByteEscapes, byte, &ByteEscape::byte);
   if (escape != std::end(kByteEscapes)) return {'\\', escape->letter};
@@ -46,7 +46,7 @@ std::string EscapeAll(std::string_view bytes, bool isQuoted) {
   return text;
 }
 
-// Takes an escape, without its backslash, off the front.
+// Removes an escape, without its backslash, from the beginning of the text.
 std::optional<char> TakeEscape(std::string_view& text) {
   if (text.empty()) return std::nullopt;
   const auto* const escape = std::ranges::find(kByteEscapes, text.front(), &ByteEscape::letter);
@@ -63,7 +63,7 @@ std::optional<char> TakeEscape(std::string_view& text) {
   return static_cast<char>(byte);
 }
 
-// The bytes that a text stands for, if that is how they are written: a bundle is written again as it was read.
+// The bytes of a text, if EscapeBytes writes them as this text: a bundle is written again exactly as it was read.
 std::optional<std::string> UnescapeAll(std::string_view text, bool isQuoted) {
   std::string bytes;
   std::string_view rest = text;

@@ -5,13 +5,13 @@
 #include <string>
 #include <string_view>
 
-// Bytes as lines of readable text, and back to the same bytes.
+// Converts bytes to lines of readable text, and back to the same bytes.
 namespace hxahost {
 
-// Printable UTF-8 as it is; \\ for a backslash, \r, \t and \n, and \xHH for each byte of anything else.
+// Printable UTF-8 unchanged; \\ for a backslash, \r, \t and \n, and \xHH for each other byte.
 std::string EscapeBytes(std::string_view bytes);
 
-// Nothing where it is no text that EscapeBytes makes.
+// Returns nothing if EscapeBytes cannot have written the text.
 std::optional<std::string> UnescapeBytes(std::string_view text);
 
 // The same between quotation marks, which are \" inside.

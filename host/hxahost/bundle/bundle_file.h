@@ -9,11 +9,11 @@
 
 namespace hxahost {
 
-// Reads a bundle; "-" is standard input. Throws ProgramError (wrong arguments) for a file that cannot be read, has more
-// bytes than the largest, or is no whole bundle.
+// Reads a bundle; "-" is standard input. Throws ProgramError (wrong arguments) if the file cannot be read, is larger
+// than the largest, or is not a complete bundle.
 Bundle ReadBundleFile(const std::filesystem::path& file, std::uint64_t largest = kLargestInput);
 
-// The same from its text; the name is that of the file, for messages.
+// The same from its text; messages contain the name of the file.
 Bundle ReadNamedBundle(std::string_view text, const std::string& name);
 
 }  // namespace hxahost

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-// What is written and expected of a bundle.
+// The fixed texts of a bundle, for writing and reading.
 namespace hxahost::bundle_format {
 
 constexpr std::string_view kMagic = "hxahost bundle ";

@@ -21,7 +21,7 @@ std::string_view WithoutLastSlashes(std::string_view folder) {
   return folder;
 }
 
-// The parts of a path, or all of what is none.
+// Calls back with each part of a path; a text without slashes is one part.
 template <class Call>
 void ForEachPart(std::string_view path, const Call& call) {
   for (std::size_t begin = 0; begin < path.size();) {
@@ -32,7 +32,7 @@ void ForEachPart(std::string_view path, const Call& call) {
   }
 }
 
-// Secrets by their places and those by their form, in the order of the text. They may overlap.
+// Secrets at their places and addresses by their form, in the order of the text. They may overlap.
 std::vector<Span> SecretSpans(std::string_view text, const SecretPlaces& places) {
   std::vector<Span> spans = FindAddresses(text);
   spans.insert(spans.end(), places.secrets.begin(), places.secrets.end());
@@ -42,7 +42,7 @@ std::vector<Span> SecretSpans(std::string_view text, const SecretPlaces& places)
 
 std::size_t EndOf(const Span& span) { return span.begin + span.length; }
 
-// The first of the spans from here on that does not end before the place.
+// The first of the remaining spans that ends after the place.
 template <class Iterator>
 Iterator SkipBefore(Iterator span, Iterator end, std::size_t place) {
   return std::find_if(span, end, [place](const Span& each) { return EndOf(each) > place; });
@@ -58,7 +58,7 @@ class Masking {
   }
   void LearnToolText(std::string_view text) { Learn(text, FindInToolText(text, scope_)); }
 
-  // The whole and its parts: those that are words of the tools are everywhere.
+  // The folder and its parts, except parts that consist of words of the tools, because these occur everywhere.
   void LearnFolder(std::string_view folder) {
     Learn(WithoutLastSlashes(folder));
     ForEachPart(folder, [&](const Span& part) {
@@ -67,15 +67,15 @@ class Masking {
     });
   }
 
-  // A name with a domain is quoted without it, too.
+  // A name with a domain also occurs without it.
   void LearnMachine(std::string_view machine) {
     Learn(machine);
     Learn(machine.substr(0, machine.find('.')));
   }
 
-  void HaveLearnt() { secrets_.Sort(); }
+  void SortSecrets() { secrets_.Sort(); }
 
-  // Parts of paths are masked each by itself, so that a path goes on as the masked one does.
+  // Masks each part of a path separately, so that longer paths begin with the same masked folder.
   void MaskWhole(std::string& secret) {
     const std::string original = secret;
     ForEachPart(original, [&](const Span& part) {
@@ -111,7 +111,7 @@ class Masking {
   // A sentence of the system or the host.
   void MaskProse(std::string& text) { MaskText(text, {{}, {{0, text.size()}}}); }
 
-  // A path that may begin with the folder, whichever slashes are between its parts.
+  // A path that may begin with the folder, with either kind of slash between its parts.
   void MaskPath(std::string& path, std::string_view folder) {
     const std::string_view start = WithoutLastSlashes(folder);
     const bool isInFolder = FoldCase(path).starts_with(FoldCase(start));
@@ -130,7 +130,7 @@ void LearnAll(const Bundle& bundle, Masking& masking) {
   if (bundle.raidLogDir) masking.LearnFolder(*bundle.raidLogDir);
   for (const RecordedRun& run : bundle.runs) masking.LearnToolText(run.result.output);
   if (bundle.raidLog) masking.Learn(bundle.raidLog->bytes, FindInRaidLog(bundle.raidLog->bytes));
-  masking.HaveLearnt();
+  masking.SortSecrets();
 }
 
 void MaskRun(RecordedRun& run, Masking& masking) {

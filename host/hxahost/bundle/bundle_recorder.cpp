@@ -24,7 +24,7 @@ FailureKind KindOf(SpawnFailure failure) {
   return FailureKind::kTooMuchOutput;
 }
 
-// What is being thrown. Called where it is caught.
+// The exception that is being handled. Call it in a catch block.
 RecordedFailure CurrentFailure() {
   try {
     throw;
@@ -65,7 +65,7 @@ HostServices BundleRecorder::Wrap(HostServices services) {
   return recording;
 }
 
-// A run is kept, in the order of their starts, before it has ended.
+// A run is added when it starts, so runs are in the order of their starts.
 SpawnResult BundleRecorder::Spawn(const SpawnFunction& spawn, RecordedRun started) {
   RecordedRun& run = bundle_.runs.emplace_back(std::move(started));
   try {
@@ -88,7 +88,7 @@ void BundleRecorder::AddNotAsked(const std::string& path, const std::vector<std:
   });
 }
 
-// The only file that plug-ins have the host read is the log.
+// The log is the only file that plug-ins ask the host to read.
 std::string BundleRecorder::Capture(const std::function<std::string(const std::string&)>& capture,
                                     const std::string& path) {
   RecordedLog& log = bundle_.raidLog.emplace();

@@ -49,7 +49,7 @@ std::vector<std::string> BundleReplay::UnusedRuns() const {
   return commands;
 }
 
-// A command that was recorded once may have been answered from memory after that.
+// A command that was recorded once may have been answered from memory afterwards.
 SpawnResult BundleReplay::Spawn(const std::string& path, const std::vector<std::string>& arguments) {
   const auto found = runs_.find(KeyOf(path, arguments));
   if (found == runs_.end()) ThrowMissing(CommandText({path, arguments, 0, {}, {}}));
@@ -76,7 +76,7 @@ TCIMDateTime BundleReplay::LocalTime() {
   return times[time_].time;
 }
 
-// No failure of a tool: it ends the collection at once.
+// Not an exception of a tool, so it ends the collection at once.
 void BundleReplay::ThrowMissing(const std::string& what) {
   if (missing_.empty()) missing_ = what;
   throw std::runtime_error("the bundle does not hold " + what);

@@ -17,18 +17,18 @@ class BundleReplay {
 
   const Bundle& Recorded() const { return bundle_; }
 
-  // This outlives them. The same command again gets what it got when it was run again; asked more often than it
-  // was run, its last answer. So does the clock.
+  // This must outlive them. A repeated command gets its recorded answers in their order, and then the last one again.
+  // The clock does the same.
   NKVRHXA20::HostServices Services();
 
-  // How long a query took, counted from 1; 0 where it did not come to its end.
+  // The duration of a query, counted from 1; 0 if it did not finish.
   double QuerySeconds(unsigned number) const;
 
-  // What was asked for first that the bundle does not hold; "" where it holds all of it. A plug-in goes on where a tool
-  // fails, and publishes the less.
+  // The first request that the bundle has no answer for; "" if there is none. A plug-in continues after the failure of
+  // a tool and publishes less, so this shows that the replay is incomplete.
   const std::string& Missing() const { return missing_; }
 
-  // The recorded commands that nothing has asked for until now.
+  // The recorded commands that were not requested so far.
   std::vector<std::string> UnusedRuns() const;
 
  private:
@@ -46,7 +46,7 @@ class BundleReplay {
   Bundle bundle_;
   std::map<std::vector<std::string>, SameRuns> runs_;  // by path and arguments
   std::size_t time_ = 0;                               // the place of the current time
-  std::size_t timesUsed_ = 0;                          // how often it was given
+  std::size_t timesUsed_ = 0;                          // how often it was returned
   std::string missing_;
 };
 

@@ -38,7 +38,7 @@ constexpr MaskedLabel kLabels[] = {
     {"Device ID",                21, 1, "Hard disk", kNames}, // " TALVERA T36LW10 S96H8B01234"
 };
 
-// What tools print where there is nothing to hide.
+// Values that tools print if there is none.
 constexpr std::string_view kNoValues[] = {"None", "N/A", "Not Available", "Not Applicable", "Unknown"};
 
 constexpr std::string_view kSpaceInLine = " \t\r";
@@ -55,20 +55,20 @@ void ForEachLine(std::string_view text, const Call& call) {
   }
 }
 
-// The span without the white space around it; of no length where nothing is left.
+// The span without the white space around it; its length is 0 if nothing remains.
 Span TrimmedSpan(std::string_view text, std::size_t begin, std::size_t end) {
   while (begin < end && kSpaceInLine.find(text[begin]) != kSpaceInLine.npos) ++begin;
   while (end > begin && kSpaceInLine.find(text[end - 1]) != kSpaceInLine.npos) --end;
   return {begin, end - begin};
 }
 
-// A value that is to be masked, and where its label begins in the line.
+// A value to be masked, and the place of its label in the line.
 struct LabelledValue {
   Span value;
   std::size_t label = 0;
 };
 
-// The value on a line of the tools, by its label; of no length where it is none to be masked.
+// The value of a line to be masked, by its label; its length is 0 if the line has none.
 LabelledValue ValueToMask(std::string_view line, std::string_view deviceType, MaskScope scope) {
   const std::size_t first = line.find_first_not_of(kSpaceInLine);
   const std::size_t colon = line.find(':');
@@ -89,20 +89,20 @@ LabelledValue ValueToMask(std::string_view line, std::string_view deviceType, Ma
 Span WrappedValue(std::string_view line, const LabelledValue& before) {
   const Span value = TrimmedSpan(line, 0, line.size());
   const bool isBelowValue = value.begin >= before.value.begin;
-  const bool isBehindLabel = value.begin > before.label && line.find(':') == line.npos;
-  return before.value.length > 0 && (isBelowValue || isBehindLabel) ? value : Span{};
+  const bool isAfterLabel = value.begin > before.label && line.find(':') == line.npos;
+  return before.value.length > 0 && (isBelowValue || isAfterLabel) ? value : Span{};
 }
 
 bool IsBlankOrEquals(char character) { return character == '=' || character == ' ' || character == '\t'; }
 
-// "serialNumber=", "serialNumber = ": what is before a quotation mark.
+// Whether the text before a quotation mark is "serialNumber=" or "serialNumber = ".
 bool NamesSerial(std::string_view before) {
   constexpr std::string_view kName = "serialnumber";
   while (!before.empty() && IsBlankOrEquals(before.back())) before.remove_suffix(1);
   return before.size() >= kName.size() && FoldCase(before.substr(before.size() - kName.size())) == kName;
 }
 
-// "<deadDrive serialNumber="NV3LE77Q2H" failureReason='device not responding' />": all that is quoted is prose.
+// "<deadDrive serialNumber="NV3LE77Q2H" failureReason='device not responding' />": every quoted text is prose.
 void AddAttributes(std::string_view line, std::size_t begin, SecretPlaces& places) {
   std::size_t quote = line.find_first_of("\"'");
   while (quote != line.npos) {

@@ -18,7 +18,7 @@ namespace {
 
 using namespace bundle_format;
 
-// The whole text is a number.
+// Returns nothing unless the whole text is a number.
 template <class Number>
 std::optional<Number> ReadNumber(std::string_view text, int base = 10) {
   Number number{};
@@ -27,7 +27,7 @@ std::optional<Number> ReadNumber(std::string_view text, int base = 10) {
   return number;
 }
 
-// Written as this program writes it: "7", not "07".
+// As this program writes it: "7", not "07".
 template <class Number>
 std::optional<Number> ReadWhole(std::string_view text) {
   const auto number = ReadNumber<Number>(text);
@@ -42,7 +42,7 @@ std::optional<double> ReadSeconds(std::string_view text) {
   return seconds;
 }
 
-// The lines of a bundle, one after the other. Every line ends in a line feed.
+// Reads the lines of a bundle, one after the other. Every line ends in a line feed.
 class BundleLines {
  public:
   explicit BundleLines(std::string_view text) : rest_(text), size_(text.size()) {}
@@ -53,7 +53,7 @@ class BundleLines {
 
   std::string_view Peek() const { return rest_.substr(0, rest_.find('\n')); }
 
-  // How many bytes stand before the next line.
+  // The number of bytes before the next line.
   std::size_t Position() const { return size_ - rest_.size(); }
 
   bool IsAtEnd() const { return rest_.empty(); }
@@ -71,7 +71,7 @@ class BundleLines {
     return Peek().starts_with(label) && Peek().substr(label.size()).starts_with(": ");
   }
 
-  // The value of the line "label: value", which has to be the next.
+  // The value of the line "label: value", which must be the next.
   std::string_view Value(std::string_view label) {
     const std::string_view line = Take();
     if (!line.starts_with(label) || !line.substr(label.size()).starts_with(": ")) {
@@ -80,7 +80,7 @@ class BundleLines {
     return line.substr(label.size() + 2);
   }
 
-  // The same, read by what gives nothing for a value that cannot be.
+  // The same, converted by a function that returns nothing for an invalid value.
   template <class Read>
   auto Value(std::string_view label, const Read& read) {
     auto value = read(Value(label));
@@ -94,7 +94,7 @@ class BundleLines {
   std::size_t number_ = 0;
 };
 
-// What may be none: nothing for no value, an empty value for none.
+// Reads "none" as an empty value; returns nothing for an invalid one.
 template <class Read>
 auto OrNone(const Read& read) {
   return [read](std::string_view text) {
@@ -195,7 +195,7 @@ void ReadStart(BundleLines& lines) {
   lines.Take();
 }
 
-// Gives how many items there are to be.
+// Returns the number of items that must follow.
 std::size_t ReadHeader(BundleLines& lines, Bundle& bundle) {
   ReadStart(lines);
   bundle.program = lines.Value("program", Unquote);

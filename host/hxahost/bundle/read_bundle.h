@@ -7,15 +7,15 @@
 
 namespace hxahost {
 
-// Why a text is no bundle that can be read: one line, printable, to follow the file's name.
+// Why a text is not a readable bundle: one line, printable, to follow the file's name.
 class BundleError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Throws BundleError for a text that WriteBundle did not write, or that was changed since.
+// Throws BundleError if WriteBundle did not write the text, or it was changed later.
 Bundle ReadBundle(std::string_view text);
 
-// Whether it begins as bundles of every version do.
+// Whether the text begins like a bundle of any version.
 bool LooksLikeBundle(std::string_view text);
 
 }  // namespace hxahost

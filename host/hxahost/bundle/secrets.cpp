@@ -11,11 +11,11 @@ namespace hxahost {
 namespace {
 
 constexpr std::size_t kShortest = 3;
-// From this length on, a secret is looked for inside of words, too.
+// Secrets of at least this length are also found inside words.
 constexpr std::size_t kShortestAnywhere = 6;
-// Shorter numbers are everywhere.
+// Shorter numbers occur everywhere.
 constexpr std::size_t kShortestNumber = 5;
-// Longer ones are looked for in parts, so that the search at one place takes no longer than this.
+// Longer secrets are searched in parts, which limits the time of the search at one place.
 constexpr std::size_t kLongest = 256;
 
 bool IsDigit(char character) { return std::isdigit(static_cast<unsigned char>(character)) != 0; }
@@ -55,8 +55,8 @@ void Secrets::Sort() {
   secrets_.erase(rest, secrets_.end());
 }
 
-// The secrets that begin as the text does follow each other, the shorter before the longer; with each character there
-// are fewer.
+// Secrets with the same beginning are next to each other, the shorter before the longer, so each character leaves fewer
+// of them.
 std::size_t Secrets::LengthAt(std::string_view text, std::string_view folded, std::size_t place, bool isProse) const {
   std::size_t longest = 0;
   auto first = secrets_.begin();

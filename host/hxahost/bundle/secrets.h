@@ -6,27 +6,27 @@
 #include <string_view>
 #include <vector>
 
-// The secrets of a bundle, to be looked for in all of its texts.
+// The secrets of a bundle, searched for in all of its texts.
 namespace hxahost {
 
 class Secrets {
  public:
-  // Texts of fewer than three characters say nothing, and are everywhere.
+  // Ignores texts of fewer than three characters: they identify nothing and occur everywhere.
   void Add(std::string_view secret);
 
-  // To be called when all are there, before they are looked for.
+  // Call it after the last Add and before the first search.
   void Sort();
 
-  // How long the longest secret is that is at this place of the text; 0: there is none. The folded text is that of
-  // FoldCase. In prose, words are names where they equal one.
+  // The length of the longest secret at this place of the text; 0 if there is none. The folded text is that of
+  // FoldCase. In prose, a word that equals a name is masked, too.
   std::size_t LengthAt(std::string_view text, std::string_view folded, std::size_t place, bool isProse) const;
 
  private:
-  // Where a secret counts.
+  // Where a secret is masked.
   enum class Where {
-    kAnywhere,     // no tool has such a word, nor a part of one
-    kAsWholeWord,  // no tool has such a word
-    kInProse,      // a word of the tools, or a short number
+    kAnywhere,     // it is neither a word of the tools nor a part of one
+    kAsWholeWord,  // it is not a word of the tools
+    kInProse,      // it is a word of the tools, or a short number
   };
   struct Secret {
     std::string folded;
@@ -35,7 +35,7 @@ class Secrets {
 
   static Where WhereCounts(std::string_view folded);
 
-  std::vector<Secret> secrets_;  // in their order, after Sort
+  std::vector<Secret> secrets_;  // sorted after Sort
 };
 
 }  // namespace hxahost

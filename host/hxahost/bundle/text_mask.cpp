@@ -16,12 +16,12 @@ bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 char Lower(char character) { return IsUpper(character) ? static_cast<char>(character - 'A' + 'a') : character; }
 char Upper(char character) { return IsLower(character) ? static_cast<char>(character - 'a' + 'A') : character; }
 
-// Without vowels no mask is a word, and so none that the tools' texts are read by ("State", "BIOS", "PFA", "FRU").
+// Without vowels a mask is never a word by which the tools' texts are read ("State", "BIOS", "PFA", "FRU").
 constexpr std::string_view kLetters = "bcdghjklmnpqrstvwxz";
 constexpr std::string_view kEveryLetter = "abcdefghijklmnopqrstuvwxyz";
 constexpr std::string_view kDigits = "0123456789";
 
-// The next text with the same kinds of characters, as an odometer goes on; the first after the last.
+// The next text with the same kinds of characters, like an odometer; the first after the last.
 void GoOn(std::string& text) {
   for (auto character = text.rbegin(); character != text.rend(); ++character) {
     const std::string_view kind = IsDigit(*character) ? kDigits : kEveryLetter;
@@ -34,15 +34,15 @@ void GoOn(std::string& text) {
 
 }  // namespace
 
-// Nothing leads from a mask to its text, whoever knows the other masks: the device is asked for the beginning alone, as
-// it may take long.
+// A mask does not lead to its text, even with knowledge of other masks. The device only provides the seed, as it may be
+// slow.
 RandomSource SystemRandom() {
   std::random_device device;
   std::seed_seq seed{device(), device(), device(), device(), device(), device(), device(), device()};
   return [engine = std::mt19937(seed)]() mutable { return static_cast<std::uint32_t>(engine()); };
 }
 
-// Bytes stay as many, and each at its place. In UTF-8 an upper case letter of ISO 8859-1 is 0xc3 and 0x80 to 0x9e.
+// The number of bytes and their places stay. In UTF-8 an upper case letter of ISO 8859-1 is 0xc3 and 0x80 to 0x9e.
 std::string FoldCase(std::string_view text) {
   std::string folded(text);
   const bool isUtf8 = AsUtf8(text) == text;
@@ -60,7 +60,7 @@ std::string FoldCase(std::string_view text) {
   return folded;
 }
 
-// Characters beyond ASCII become letters beyond ASCII of as many bytes: "e" with an accent in UTF-8, or in ISO 8859-1.
+// Characters beyond ASCII become letters beyond ASCII of the same length: "e" with an accent in UTF-8 or ISO 8859-1.
 std::string TextMask::Draw(std::string_view folded) {
   const bool isUtf8 = AsUtf8(folded) == folded;
   std::string mask;
@@ -75,7 +75,7 @@ std::string TextMask::Draw(std::string_view folded) {
     } else if (!isUtf8) {
       mask += static_cast<char>(0xe0 + random_() % 0x17);
     } else if (byte < 0xc0) {
-      mask += static_cast<char>(0xa0 + random_() % 0x17);  // a middle or last byte that every first byte allows
+      mask += static_cast<char>(0xa0 + random_() % 0x17);  // a middle or last byte that is valid after every first byte
     } else {
       mask += static_cast<char>(byte < 0xe0 ? 0xc3 : byte < 0xf0 ? 0xe5 : 0xf1);
     }
@@ -83,7 +83,7 @@ std::string TextMask::Draw(std::string_view folded) {
   return mask;
 }
 
-// A short text leaves few masks: where chance finds none that is free, the next free one is taken.
+// Short texts have few masks: if chance finds no free one, the next free one is taken.
 std::string TextMask::Choose(std::string_view folded) {
   constexpr int kDraws = 100;
   std::string mask;
@@ -94,7 +94,7 @@ std::string TextMask::Choose(std::string_view folded) {
   const std::string first = mask;
   while (given_.contains(mask)) {
     GoOn(mask);
-    if (mask == first) break;  // more texts than there are masks, as of characters that are all kept
+    if (mask == first) break;  // more texts than masks, as for texts whose characters all stay
   }
   return mask;
 }

@@ -9,15 +9,15 @@
 
 namespace hxahost {
 
-// Any 32 bits.
+// Returns any 32 bits.
 using RandomSource = std::function<std::uint32_t()>;
 
-// The system's own, which nobody can foretell.
+// The system's own, which nobody can predict.
 RandomSource SystemRandom();
 
-// Puts random letters into the place of letters and random digits into the place of digits; length, upper and lower
-// case and all other characters stay. The same text always gets the same mask, letters of either case alike, and two
-// texts never share one. Masks are drawn and not computed: only this knows which text a mask stands for.
+// Replaces letters by random letters and digits by random digits; length, upper and lower case and all other characters
+// stay. A text always gets the same mask, letters of either case alike, and two texts never share a mask. Masks are
+// drawn, not computed: only this object can assign a mask to its text.
 class TextMask {
  public:
   explicit TextMask(RandomSource random) : random_(std::move(random)) {}
@@ -33,7 +33,7 @@ class TextMask {
   std::set<std::string> given_;
 };
 
-// Letters of ASCII and ISO 8859-1 in lower case, backslashes as slashes; all else as it is, and at its place.
+// Letters of ASCII and ISO 8859-1 in lower case, backslashes as slashes; the length and other characters do not change.
 std::string FoldCase(std::string_view text);
 
 }  // namespace hxahost

@@ -12,7 +12,7 @@ namespace hxahost {
 
 namespace {
 
-// What is not in the tables of labels: states, fixed lines, the elements of logs, and folders that every machine has.
+// Words outside the tables of labels: states, fixed lines, the elements of logs, and folders of every machine.
 constexpr std::string_view kFurtherWords =
     "abnormal asleep assigned available backup bad bar battery bios blk blocked boot building busy charged charging "
     "clearing command complete completed configuration controller controllers crm crt csy data dead defunct degraded "

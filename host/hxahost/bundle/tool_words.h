@@ -2,11 +2,11 @@
 
 #include <string_view>
 
-// The words that the tools' texts are read by: of labels, states and fixed lines.
+// The words by which the tools' texts are read: of labels, states and fixed lines.
 namespace hxahost {
 
-// Whether the text, in lower case, consists of such words alone: a name that does says nothing of whose it is, and to
-// replace it everywhere would leave a text that cannot be read.
+// Whether the text, in lower case, consists only of such words: such a name does not identify its owner, and replacing
+// it everywhere would make the text unreadable.
 bool HasToolWordsAlone(std::string_view folded);
 
 // Whether the text, in lower case, is a part of such a word.

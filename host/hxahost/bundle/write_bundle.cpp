@@ -20,7 +20,7 @@ using namespace bundle_format;
 
 static_assert(std::size(kFailureWords) == static_cast<std::size_t>(FailureKind::kOther) + 1);
 
-// Goes out as it is made: the outputs of a collection may fill most of the memory.
+// Writes each part at once: the outputs of a collection may fill most of the memory.
 class BundleText {
  public:
   explicit BundleText(std::ostream& out) : out_(out) {}
