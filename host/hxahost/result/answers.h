@@ -6,16 +6,16 @@
 
 #include "host/hxahost/result/tool_run.h"
 
-// Which utilities answered, and with how many controllers.
+// Summarises the answers of the utilities.
 namespace hxahost {
 
-// What became of each utility: "qcmdrun 2 controllers, hrconf_64 not started, arcconf not run"; "" where none was run.
+// The outcome of each utility: "qcmdrun 2 controllers, hrconf_64 not started, arcconf not run"; "" if none was run.
 std::string AnswersText(const ToolRunList& runs);
 
-// The utilities of which no run found the program.
+// The utilities whose program no run found.
 std::vector<std::string_view> NotInstalled(const ToolRunList& runs);
 
-// Whether a utility answered, be it that it has no controller.
+// Whether a utility answered, even without a controller.
 bool HasAnswer(const ToolRunList& runs);
 
 // Whether a utility described a controller.

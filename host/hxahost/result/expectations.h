@@ -11,10 +11,10 @@ namespace hxahost {
 
 struct JsonResult;
 
-// What a machine must have: less is a fault.
+// The minimum that a machine must have: less is a fault.
 struct Expectations {
   std::vector<std::string> tools;              // utilities that must be installed
-  std::optional<unsigned> controllers;         // at least so many
+  std::optional<unsigned> controllers;         // at least this number
   std::optional<unsigned> disks;               // the same
   std::shared_ptr<const JsonResult> baseline;  // an earlier result of the machine; null: none
 };

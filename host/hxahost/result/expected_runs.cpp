@@ -9,7 +9,7 @@ namespace hxahost {
 
 namespace {
 
-// The answer that said whether there is a controller of this number; null where it is not known yet.
+// The answer that shows whether there is a controller of this number; null if there is none yet.
 const ToolRun* FirstAnswer(const Tool& tool, const ToolRunList& runs, unsigned number) {
   const auto run = std::ranges::find_if(runs, [&](const ToolRun& each) {
     return each.path == tool.path && each.arguments.size() > 1 && each.arguments[0] == kGetConfig.command &&
@@ -18,7 +18,7 @@ const ToolRun* FirstAnswer(const Tool& tool, const ToolRunList& runs, unsigned n
   return run == runs.end() ? nullptr : &*run;
 }
 
-// Each of the two passes asks for a number first.
+// Each of the two passes first requests each number.
 std::size_t RunsByAnswers(const Tool& tool, const ToolRunList& runs) {
   std::size_t expected = 0;
   for (unsigned number = 1; number <= kLastControllerNumber; ++number) {
@@ -43,7 +43,7 @@ std::size_t ExpectedRuns(const ToolRunList& runs) {
     const Tool& tool = known.tool;
     const auto made = static_cast<std::size_t>(std::ranges::count(runs, tool.path, &ToolRun::path));
     counted += made;
-    const bool isDone = counted < runs.size();  // another tool has been run after it
+    const bool isDone = counted < runs.size();  // a later tool has been run
     expected += isDone ? made : std::max(made, RunsByAnswers(tool, runs));
   }
   return expected;

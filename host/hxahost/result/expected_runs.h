@@ -6,8 +6,8 @@
 
 namespace hxahost {
 
-// How many runs of tools a collection will have needed, as far as those show that it has made. A controller number of
-// which nothing is known yet counts as one that is refused, which most are.
+// Estimates the number of runs of a whole collection from the runs so far. A controller number without an answer counts
+// as refused, as most numbers are.
 std::size_t ExpectedRuns(const ToolRunList& runs);
 
 }  // namespace hxahost

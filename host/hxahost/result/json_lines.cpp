@@ -15,8 +15,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// What the line begins with where the program wrote it: by this the lines of a collection are known without reading
-// each of them twice. "" where the line is not whole.
+// The beginning of a line as the program writes it: it identifies the lines of a collection without parsing each line.
+// "" if the line is incomplete.
 std::string HeadOf(std::string_view line) {
   const Json json = Json::parse(line, nullptr, false);
   if (!json.is_object() || !json.contains("machine") || !json.contains("time")) return "";

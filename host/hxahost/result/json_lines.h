@@ -7,7 +7,7 @@
 
 #include "host/hxahost/result/json_result.h"
 
-// Results that "hxahost query --format jsonl" wrote earlier: one instance a line, each with its machine and time.
+// Reads results that "hxahost query --format jsonl" wrote: one instance on each line, with its machine and time.
 namespace hxahost {
 
 // The lines of one collection.
@@ -16,12 +16,12 @@ struct CollectionLines {
   std::size_t first = 1;  // the number of the first one, counted from 1
 };
 
-// Takes the lines of a stream apart: those of one machine and time that follow each other are one collection.
+// Divides a stream into collections: consecutive lines of the same machine and time are one collection.
 class CollectionReader {
  public:
   explicit CollectionReader(std::istream& in) : in_(in) {}
 
-  // Nothing after the last one. A line that is not whole goes with those before it.
+  // Empty after the last one. An incomplete line belongs to the lines before it.
   std::optional<CollectionLines> Next();
 
  private:
@@ -35,8 +35,8 @@ class CollectionReader {
 // Whether it is such a line, not the beginning of another kind of file.
 bool IsInstanceLine(std::string_view line);
 
-// The result that the lines of one collection are. Throws ProgramError (wrong arguments), which names the file and the
-// line, for what is none.
+// Converts the lines of one collection to a result. Throws ProgramError (wrong arguments), which names the file and the
+// line, for an invalid line.
 JsonResult ParseJsonLines(const CollectionLines& lines, const std::string& name);
 
 }  // namespace hxahost

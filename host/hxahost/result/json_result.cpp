@@ -18,7 +18,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// A result nests seven deep. What is done with a value calls itself for each level, and room for that ends somewhere.
+// A result is nested seven deep. Functions that process a value call themselves for each level, and the stack is
+// finite.
 constexpr int kDeepest = 32;
 
 const Json& Member(const Json& object, const char* name) {
@@ -34,10 +35,10 @@ const Json& Member(const Json& object, const char* name, Json::value_t type) {
   return member;
 }
 
-// An object finds a key by looking at all before it. No class has so many properties by far.
+// An object compares a new key with all before it. No class has nearly as many properties.
 constexpr std::size_t kMostKeys = 1000;
 
-// Looks at a text while it is parsed.
+// Checks a text while it is parsed.
 class Bounds {
  public:
   bool operator()(int depth, Json::parse_event_t event, const Json&) {
@@ -78,7 +79,7 @@ ToolRun ReadJsonRun(const Json& json) {
   return run;
 }
 
-// What is in a list of a query that may be missing. Gives whether it was there.
+// Reads a list of a query, which may be missing. Returns whether it exists.
 template <class Items, class Read>
 bool AddItems(Items& items, const Json& query, const char* name, Read read) {
   if (!query.is_object() || !query.contains(name)) return false;

@@ -11,10 +11,10 @@
 
 #include "host/hxahost/result/query_result.h"
 
-// Results that "hxahost query --format json" wrote earlier.
+// Reads results that "hxahost query --format json" wrote.
 namespace hxahost {
 
-// One published instance. Texts are UTF-8, as the file holds them.
+// One published instance. Texts are UTF-8, as in the file.
 struct ResultInstance {
   std::string className;
   std::string path;
@@ -25,31 +25,31 @@ struct JsonResult {
   std::string machine;
   std::vector<ResultInstance> instances;  // of the last query
   std::vector<LoggedEntry> log = {};      // of all queries
-  std::optional<ToolRunList> runs = {};   // of all queries; nothing where the result was written without them
-  std::string time = {};                  // when it was collected, in the CIM form; "" where the result does not say
+  std::optional<ToolRunList> runs = {};   // of all queries; empty if the result was written without them
+  std::string time = {};                  // of the collection, in the CIM form; "" if the result contains none
   bool isReplayed = false;
   bool isMasked = false;
 };
 
-// What JSON lines have as "class" of what is no instance.
+// The "class" of JSON lines that are not instances.
 inline constexpr std::string_view kRunLine = "tool run";
 inline constexpr std::string_view kLogLine = "log";
 
-// Throws ProgramError (wrong arguments) for a file that cannot be read and for one that is no such result.
+// Throws ProgramError (wrong arguments) if the file cannot be read or is not such a result.
 JsonResult ReadJsonResult(const std::filesystem::path& file);
 
-// The same from the text itself, which messages call by the name.
+// The same from the text; messages contain the name.
 JsonResult ParseJsonResult(std::string_view text, const std::string& name);
 
-// Why a text is no result; the text that was read goes before it.
+// Why a text is not a result. Messages begin with the name of the text.
 class NoResult : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Adds what one line of "hxahost query --format jsonl" holds. Throws NoResult for a line that is none.
+// Adds one line of "hxahost query --format jsonl". Throws NoResult for an invalid line.
 void AddJsonLine(JsonResult& result, std::string_view line);
 
-// The property as text; "" where it is not there.
+// The property as text; "" if it is missing.
 std::string ResultText(const ResultInstance& instance, const std::string& property);
 
 }  // namespace hxahost

@@ -5,13 +5,13 @@
 
 namespace hxahost {
 
-// From which value on something that utilities count is a warning; none: never.
+// The value from which on a count is a warning; empty: never.
 struct Limits {
   std::optional<unsigned> hardErrors = 1;
   std::optional<unsigned> softErrors = 10;
   std::optional<unsigned> parityErrors = 10;
-  std::optional<unsigned> slowTransfer = 1;  // how much longer a disk's transfer period is than its shortest
-  std::optional<unsigned> batteryDays = 30;  // that a message about a battery stays a warning
+  std::optional<unsigned> slowTransfer = 1;  // by how much a disk's transfer period exceeds its shortest
+  std::optional<unsigned> batteryDays = 30;  // how long a message about a battery is a warning
 };
 
 struct LimitName {

@@ -6,8 +6,8 @@
 
 namespace hxahost {
 
-// The object path of what the reference refers to, in UTF-8. Each key is read by itself, as the property is that it is
-// the value of: one whose bytes are no UTF-8 changes none of the others.
+// The object path of a reference, in UTF-8. Each key is converted separately, like the property that contains the same
+// value: a key whose bytes are not UTF-8 does not change the others.
 std::string ObjectPathText(const NKVRHXA20::TCIMReference& reference);
 
 }  // namespace hxahost

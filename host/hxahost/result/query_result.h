@@ -16,27 +16,27 @@
 
 namespace hxahost {
 
-// What holds for all queries of one run of the program.
+// The facts that all queries of one program run share.
 struct QueryHeader {
   std::string machine;
   std::string directory;  // the working directory of the tools, in full, UTF-8
   NKVRHXA20::TCIMDateTime time;
-  std::vector<std::string> classes;  // asked for, in their order, under their declared names
+  std::vector<std::string> classes;  // queried, in their order, with their declared names
   unsigned queryCount = 1;
-  bool withRuns = false;          // what programs read has the runs of the tools
+  bool withRuns = false;          // formats for programs contain the runs of the tools
   bool withUnread = false;        // lines of the raw texts that no property shows are listed
   bool isReplayed = false;        // everything comes from a bundle
-  bool isMasked = false;          // and names and serial numbers in that are hidden
+  bool isMasked = false;          // names and serial numbers in the bundle are masked
   bool withSuperclasses = false;  // MOF declares the classes, under those of the DMTF
-  bool showAll = false;           // tables have versions, counts and numbers of instances, too
-  bool isVerbose = false;         // tables have the short forms of states, too
+  bool showAll = false;           // tables contain versions, counts and numbers of instances, too
+  bool isVerbose = false;         // tables contain the short forms of states, too
   Layout layout = {};             // of the tables
-  Limits limits = {};             // of what is counted
+  Limits limits = {};             // of counts
   Expectations expectations = {};
   boost::shared_ptr<const NKVRHXA20::TPublishedInstance> system = {};  // the machine, as exports name it
 };
 
-// A sentence for people where the result is not of the machine as it is now; "" where it is.
+// A sentence for people if the result does not describe the machine as it is now; otherwise "".
 inline std::string_view SourceNote(const QueryHeader& header) {
   if (header.isMasked) return "Replayed from a bundle in which names and serial numbers are masked.";
   return header.isReplayed ? "Replayed from a bundle." : "";
@@ -60,7 +60,7 @@ struct QueryResult {
   InstanceList instances;
   std::vector<LoggedEntry> log;  // since the previous query ended
   ToolRunList runs = {};         // since the previous query ended
-  double seconds = 0;            // that it took
+  double seconds = 0;            // its duration
   std::string notRecorded = {};  // what ended a replay: the bundle does not hold it; "" where it holds all
   InstanceList leftOut = {};     // by a format that has each path once: others have their paths
 };

@@ -40,7 +40,7 @@ Values AttributeValues(std::string_view line) {
   return values;
 }
 
-// "A:1 C:1 I:0 PARAMS:0x1f": each word is a label with its value; one that is not makes it a line of another form.
+// "A:1 C:1 I:0 PARAMS:0x1f": each word is a label with its value; otherwise the line has another form.
 Values PairValues(std::string_view line) {
   Values values;
   const Values words = Pieces(line, " ");
@@ -53,8 +53,8 @@ Values PairValues(std::string_view line) {
   return values;
 }
 
-// "Label : value", "Label = value". The label ends at the first of the two.
-Values ValueBehindLabel(std::string_view line) {
+// "Label : value", "Label = value". The label ends at the first colon or equals sign.
+Values ValueAfterLabel(std::string_view line) {
   const std::size_t end = line.find_first_of(":=");
   if (end == line.npos || IsBlank(line.substr(0, end)) || IsBlank(line.substr(end + 1))) return {};
   return {std::string(Trim(line.substr(end + 1)))};
@@ -78,14 +78,14 @@ Values KindValue(std::string_view line) {
   return {};
 }
 
-// "0000120c": a code alone.
+// "0000120c": a code without other text.
 Values CodeValue(std::string_view line) {
   constexpr std::size_t kDigits = 8;
   if (line.size() != kDigits || line.find_first_not_of("0123456789abcdefABCDEF") != line.npos) return {};
   return {std::string(line)};
 }
 
-// Columns without bars stand apart by two blanks and more.
+// Columns without bars are separated by two or more blanks.
 Values ColumnValues(std::string_view line) {
   constexpr std::size_t kFewest = 3;
   Values values = Pieces(line, "  ");
@@ -104,13 +104,13 @@ Values LineValues(std::string_view line) {
   if (text.starts_with("Command completed") || text.starts_with("Command aborted")) return {};
   if (text.starts_with('<')) return AttributeValues(text);
   if (text.starts_with('|')) return Pieces(text, "|");
-  for (const auto form : {LogValues, PairValues, ValueBehindLabel, CountedValue, KindValue, CodeValue, ColumnValues}) {
+  for (const auto form : {LogValues, PairValues, ValueAfterLabel, CountedValue, KindValue, CodeValue, ColumnValues}) {
     if (Values values = form(text); !values.empty()) return values;
   }
   return {};
 }
 
-// The column in which the value of a labelled line begins; none for a line of another form.
+// The column in which the value of a labelled line begins; empty for a line of another form.
 std::optional<std::size_t> ValueColumn(std::string_view line) {
   const std::size_t colon = line.find(" : ");
   if (colon == line.npos) return std::nullopt;
@@ -124,9 +124,9 @@ bool Continues(std::string_view line, std::size_t column) {
   return begin != line.npos && begin == column && line.find(':') == line.npos;
 }
 
-// The names of a table's columns stand directly above a rule.
+// The names of a table's columns are directly above a rule.
 bool IsHead(std::span<const std::string> lines, std::size_t index) {
-  return index + 1 < lines.size() && IsRule(lines[index + 1]) && ValueBehindLabel(lines[index]).empty() &&
+  return index + 1 < lines.size() && IsRule(lines[index + 1]) && ValueAfterLabel(lines[index]).empty() &&
          (index == 0 || !Trim(lines[index]).starts_with('|') || IsRule(lines[index - 1]));
 }
 

@@ -21,7 +21,7 @@ struct AnswerSign {
   Outcome outcome;
 };
 
-// A driver that is too old for the utility keeps a controller from being read: it is there all the same.
+// If the driver is too old for the utility, a controller exists but cannot be read.
 constexpr AnswerSign kSigns[] = {
     {&Tool::unreadable, Outcome::kFailed },
     {&Tool::noneFound,  Outcome::kRefused},
@@ -30,8 +30,8 @@ constexpr AnswerSign kSigns[] = {
 
 bool Contains(std::string_view text, std::string_view part) { return text.find(part) != text.npos; }
 
-// The beginning of a text, as far as a reader wants it. Some answers are one line of megabytes: no more of it is made
-// printable than may fill the width.
+// The beginning of a text, cut to the width. Some answers are one line of megabytes: only the bytes that may fill the
+// width are made printable.
 std::string BeginningOf(std::string_view text, std::size_t widest) {
   constexpr std::size_t kMostBytesOfColumn = 20;
   return CutToWidth(Printable(text.substr(0, kMostBytesOfColumn * widest)), widest);
@@ -45,14 +45,14 @@ std::string LineAt(std::string_view text, std::size_t place) {
   return BeginningOf(text.substr(first, text.find('\n', place) - first), kWidest);
 }
 
-// Every report begins with the number of controllers, as the text does that says that there are none.
+// Every report begins with the number of controllers, as does the text that there are none.
 bool BeginsAsReport(const Tool& tool, std::string_view output) {
   return Trim(output).starts_with(tool.noneFound.substr(0, tool.noneFound.find('0'))) ||
          Contains(output, kControllerHeading);
 }
 
-// Where a utility refuses users who are no administrators; npos where it does not. No letter of an answer of megabytes
-// past the first few lines counts.
+// The place where a utility refuses users who are not administrators; npos if it does not. Only the first lines are
+// searched, as answers may have megabytes.
 std::size_t PlaceOfRefusal(std::string_view output) {
   constexpr std::size_t kMostBytes = 1000;
   constexpr std::string_view kRefusals[] = {"administrator", "access denied", "access is denied", "permission denied"};
@@ -63,7 +63,7 @@ std::size_t PlaceOfRefusal(std::string_view output) {
   return output.npos;
 }
 
-// An answer that is no report: the words in which it refuses, else its beginning.
+// An answer that is not a report: the words of the refusal, else its beginning.
 ReadAnswer ReadGarbage(std::string_view output) {
   constexpr std::size_t kWidest = 60;
   const std::size_t refusal = PlaceOfRefusal(output);
@@ -71,7 +71,7 @@ ReadAnswer ReadGarbage(std::string_view output) {
   return {Outcome::kFailed, "printed no valid report: " + BeginningOf(output, kWidest)};
 }
 
-// A log may quote any text; a complete answer to another command is no refusal for having it.
+// A log may quote any text, so such a text in a complete answer to another command is not a refusal.
 const AnswerSign* FindSign(const Tool& tool, bool isProbe, std::string_view output) {
   if (!isProbe && Contains(output, kCommandCompleted)) return nullptr;
   for (const AnswerSign& sign : kSigns) {

@@ -14,7 +14,7 @@ namespace hxahost {
 
 namespace {
 
-// A recorded run knows how long it took; its limit was another one.
+// A recorded run contains its duration; its limit may have been different.
 std::string TimeoutText(const TSpawnException& failure, int limitSeconds) {
   const double seconds = std::floor(failure.Seconds());
   const std::string message = Printable(failure.what());
@@ -35,7 +35,7 @@ Outcome OutcomeOf(SpawnFailure failure) {
   return Outcome::kCutOff;
 }
 
-// An answer that looks complete is no success where the program itself says otherwise.
+// The exit status decides even if the answer looks complete.
 void ReadAnswerOf(const SpawnResult& result, ToolRun& run) {
   run.seconds = result.seconds;
   run.exitStatus = result.exitStatus;

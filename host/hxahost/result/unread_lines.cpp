@@ -76,8 +76,8 @@ bool ShownValues::ShowsPieces(std::string_view value) const {
   });
 }
 
-// One word is found in some sentence by chance. Only the texts with the value's rarest word are looked through: values
-// and texts grow in number together.
+// One word occurs in some sentence by chance. Only the texts with the value's rarest word are searched, as the numbers
+// of values and texts grow together.
 bool ShownValues::ShowsWords(const std::string& value) const {
   if (value.find(' ') == value.npos) return false;
   const std::vector<std::size_t>* fewest = nullptr;

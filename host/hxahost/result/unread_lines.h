@@ -9,16 +9,16 @@
 
 #include "host/hxahost/result/query_result.h"
 
-// Lines of the tools' texts whose values no property shows: what a new layout of a tool would lose without a word.
+// Lines of the tools' texts whose values no property shows: the data that a new layout of a tool would lose unnoticed.
 namespace hxahost {
 
-// Everything that the instances show, but for the raw texts themselves.
+// Every value in the instances, except the raw texts themselves.
 class ShownValues {
  public:
   explicit ShownValues(const InstanceList& instances);
 
-  // Blanks at the ends and their number between words do not count. A value is shown as a property or an element of
-  // one, as several of them ("0,8", "34715/71096320"), or, where it is of several words, as whole words of one.
+  // Ignores blanks at the ends and the number of blanks between words. A value is shown as a property or an element of
+  // one, as several of them ("0,8", "34715/71096320"), or, if it has several words, as consecutive words of one.
   bool Shows(std::string_view value) const;
 
  private:
@@ -41,8 +41,8 @@ struct UnreadText {
 // The places of a text's unread lines.
 std::vector<std::size_t> UnreadLines(const std::vector<std::string>& lines, const ShownValues& shown);
 
-// Every raw text that has such lines, in the order of publication. All classes must have been published: what was not
-// asked for is shown by nothing.
+// Every raw text with such lines, in the order of publication. All classes must have been queried, as values of other
+// classes would count as not shown.
 std::vector<UnreadText> FindUnreadLines(const InstanceList& instances);
 
 }  // namespace hxahost
