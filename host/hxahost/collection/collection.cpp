@@ -28,7 +28,7 @@ std::optional<BundleReplay> OpenReplay(const CollectionOptions& options) {
   return BundleReplay(ReadBundleFile(options.replay, options.inputLimit));
 }
 
-// Files that are captured have at most so many bytes.
+// Limits the size of files that are captured.
 HostServices ServicesUpTo(std::uint64_t largestFile) {
   HostServices services = RealServices();
   services.capture = [largestFile](const std::string& path) { return CaptureFile(path, largestFile); };
@@ -97,7 +97,7 @@ QueryResult Collection::Query(const QueryHeader& header, unsigned number) {
   double seconds = std::chrono::duration<double>(Clock::now() - begin).count();
   if (replay_) seconds = replay_->QuerySeconds(number);
   if (recorder_) recorder_->AddQuery(seconds);
-  if (progress_) progress_->Clear();  // or the tables would go on in its line
+  if (progress_) progress_->Clear();  // or the tables would continue its line
   return {number,  repository_->Published(),         log_.Take(), std::exchange(runs_, {}),
           seconds, replay_ ? replay_->Missing() : ""};
 }

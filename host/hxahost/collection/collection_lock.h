@@ -7,8 +7,8 @@
 
 namespace hxahost {
 
-// While it lives, no other program that takes it runs the tools of this folder: two utilities that talk to the same
-// controllers at once can block each other. A folder that is missing or cannot be written is used without a lock.
+// While it exists, no other program with such a lock runs the tools of this folder: two utilities that access the same
+// controllers at once can block each other. A missing or read-only folder is used without a lock.
 class CollectionLock {
  public:
   // Waits until no other program has it, and says so to err before it waits.

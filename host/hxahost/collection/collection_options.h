@@ -14,15 +14,15 @@ namespace hxahost {
 
 // How to collect. An empty path was not given; the others are absolute, but for "-", a standard stream.
 struct CollectionOptions {
-  std::filesystem::path plugin;     // none: zenx.pi beside the program
+  std::filesystem::path plugin;     // empty: zenx.pi beside the program
   std::filesystem::path directory;  // the working directory of the tools
   std::filesystem::path log;
   std::filesystem::path record;              // the bundle to write
-  std::optional<MaskScope> mask;             // what is hidden in it
-  std::filesystem::path replay;              // the bundle to take everything from
+  std::optional<MaskScope> mask;             // hidden in it
+  std::filesystem::path replay;              // the bundle to replay
   std::uint64_t inputLimit = kLargestInput;  // of a file that is read, in bytes
   std::optional<std::uint16_t> osType;
-  bool hasOsType = false;  // it was asked for; none is an answer, too
+  bool hasOsType = false;  // the option was given; it may be "none"
   std::optional<std::string> machineName;
   std::optional<NKVRHXA20::TCIMDateTime> localTime;
   bool showProgress = true;

@@ -12,7 +12,7 @@ namespace hxahost {
 
 namespace {
 
-// Ends what runs however the command ends.
+// Ends the progress of a command, whether it succeeds or throws.
 class RunningCommand {
  public:
   RunningCommand(Progress* progress, const std::string& path, const std::vector<std::string>& arguments,
@@ -40,7 +40,7 @@ CollectionServices::CollectionServices(HostServices services, const CollectionOp
   services.log = [&log](int level, const std::string& text) { log.Add(level, text); };
   if (options.machineName) services.machineName = [name = *options.machineName] { return name; };
   if (options.localTime) services.localTime = [time = *options.localTime] { return time; };
-  if (recorder != nullptr) services = recorder->Wrap(std::move(services));  // what is run, and nothing from memory
+  if (recorder != nullptr) services = recorder->Wrap(std::move(services));  // only real runs, not answers from memory
   const auto limited = std::make_shared<LimitedRuns>(services.spawn, options.limits, runs);
   if (recorder != nullptr) {
     limited->OnRefusal([recorder](const ToolRun& run, const std::string& message) {

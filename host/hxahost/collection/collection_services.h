@@ -9,11 +9,11 @@
 
 namespace hxahost {
 
-// While it lives, plug-ins get these services, with what the options replace, a log that is kept, and their runs of
-// tools kept and shown by a progress line.
+// While it exists, plug-ins use these services: some are replaced by options, log entries are kept, and runs of tools
+// are recorded and shown by a progress line.
 class CollectionServices {
  public:
-  // All outlive it. Progress and recorder, which keeps all that the services say, may be absent.
+  // All must outlive it. The progress and the recorder, which records every answer of the services, may be null.
   CollectionServices(NKVRHXA20::HostServices services, const CollectionOptions& options, QueryLog& log,
                      ToolRunList& runs, Progress* progress, BundleRecorder* recorder);
   ~CollectionServices();

@@ -11,7 +11,7 @@ namespace hxahost {
 
 namespace {
 
-// Hung utilities are given up after so many runs, whatever controllers they were about.
+// A utility is not run any more after so many runs that hung, for any controller.
 constexpr std::size_t kMostTimedOut = 2;
 
 std::vector<std::string> KeyOf(const std::string& path, const std::vector<std::string>& arguments) {
@@ -23,7 +23,7 @@ std::vector<std::string> KeyOf(const std::string& path, const std::vector<std::s
 // "1" of {"getconfig", "1", "al"}.
 std::string ControllerOf(const std::vector<std::string>& arguments) { return arguments.size() > 1 ? arguments[1] : ""; }
 
-// An answer that failed may come the next time.
+// A failed answer may succeed the next time.
 bool IsToBeKept(const ToolRun& run) { return run.outcome == Outcome::kOk || run.outcome == Outcome::kRefused; }
 
 }  // namespace
@@ -74,7 +74,7 @@ void LimitedRuns::CheckMayRun(const std::string& path, const std::vector<std::st
   }
 }
 
-// The run that passes the limit is the last one.
+// The run that exceeds the limit is the last one.
 void LimitedRuns::CheckOutput(SpawnResult& result) {
   outputBytes_ += result.output.size();
   if (outputBytes_ <= limits_.outputBytes) return;
@@ -84,7 +84,7 @@ void LimitedRuns::CheckOutput(SpawnResult& result) {
   throw TSpawnException(SpawnFailure::kTooMuchOutput, reason, result.seconds);
 }
 
-// The first such run of the controller's number; of any number where the utility was given up.
+// The first such run with the controller's number; any such run if the utility is not run any more.
 const LimitedRuns::TimedOut* LimitedRuns::FindTimedOut(const std::string& path,
                                                        const std::vector<std::string>& arguments) const {
   const auto known = timedOut_.find(path);
@@ -96,7 +96,7 @@ const LimitedRuns::TimedOut* LimitedRuns::FindTimedOut(const std::string& path,
   return same == before.end() ? nullptr : &*same;
 }
 
-// How long a run may take, in whole seconds; 0 where the collection's time is over.
+// The time limit of a run in whole seconds; 0 if the collection's time is over.
 int LimitedRuns::SecondsFor(int limitSeconds) const {
   const int limit = limits_.runSeconds ? static_cast<int>(*limits_.runSeconds) : limitSeconds;
   if (!limits_.collectionSeconds) return limit;

@@ -15,21 +15,21 @@ namespace hxahost {
 
 using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
-// The runs of one collection: bounded in time and output, and each command once where that is asked for. A plug-in
-// asks on whatever fails; what it then asks in vain is not run any more.
+// The runs of one collection: limited in time and output, and each command once if the options require it. A plug-in
+// repeats requests after any failure; requests without a chance are not run any more.
 class LimitedRuns {
  public:
-  // Adds every question to the list, which outlives this.
+  // Adds every request to the list, which must outlive this.
   LimitedRuns(NKVRHXA20::SpawnFunction spawn, const RunLimits& limits, ToolRunList& runs,
               Clock clock = std::chrono::steady_clock::now);
 
-  // Calls this for every question that is not asked any more, with the message that the plug-in gets.
+  // Calls this for every request that is not run any more, with the message that the plug-in receives.
   void OnRefusal(std::function<void(const ToolRun& run, const std::string& message)> call) {
     onRefusal_ = std::move(call);
   }
 
-  // What the program says or, where it is asked again, has said. Throws what the service throws; of what is not asked
-  // any more TSpawnException.
+  // Returns the output of the program, or its earlier output if the command is repeated. Throws the exceptions of the
+  // service, and TSpawnException for requests that are not run any more.
   NKVRHXA20::SpawnResult Run(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds);
 
  private:
@@ -38,10 +38,10 @@ class LimitedRuns {
     ToolRun run;
   };
 
-  // A run that met its time limit.
+  // A run that reached its time limit.
   struct TimedOut {
     ToolRun run;
-    std::string message;  // of what the service threw
+    std::string message;  // of the service's exception
   };
 
   NKVRHXA20::SpawnResult RunNow(const std::string& path, const std::vector<std::string>& arguments, int limitSeconds);

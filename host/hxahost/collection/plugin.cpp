@@ -27,7 +27,7 @@ namespace {
 
 }  // namespace
 
-// Loading is all there is to do: the plug-in registers itself with the manager.
+// Loading is enough: the plug-in registers itself with the manager.
 Plugin::Plugin(const std::filesystem::path& file) : manager_(TPluginManagerAccess::Install()) {
   std::error_code unknown;
   if (!std::filesystem::exists(file, unknown)) Refuse(file, "is missing");

@@ -13,23 +13,23 @@
 
 namespace hxahost {
 
-// A plug-in, from its loading to its release. Its library stays loaded: what it keeps for the process may still run.
+// A plug-in, from loading to release. Its library stays loaded, because threads that it keeps may still run.
 class Plugin {
  public:
-  // The file by its absolute path. Throws ProgramError when it cannot be loaded or registers nothing to query.
+  // The absolute path of the file. Throws ProgramError if it cannot be loaded or registers nothing to query.
   explicit Plugin(const std::filesystem::path& file);
   ~Plugin();
   Plugin(const Plugin&) = delete;
   Plugin& operator=(const Plugin&) = delete;
 
-  // Has it take a recorded system's answers for those of this one. Throws ProgramError where it cannot.
+  // Replaces the system's answers for the plug-in by those of a recorded system. Throws ProgramError if that fails.
   void AnswerAs(const RecordedSystem& recorded);
 
-  // The RAID manager's log is read where it has at most so many bytes. Other plug-ins have no limit.
+  // The plug-in reads the RAID manager's log only up to this size. Other plug-ins have no limit.
   void SetLargestRaidLog(std::uint64_t bytes);
 
-  // Has it publish the classes, in their order; plug-ins count on one thread at a time, so further ones wait. What it
-  // throws passes on.
+  // Lets the plug-in publish the classes, in their order. Plug-ins expect one thread at a time, so others wait.
+  // Exceptions of the plug-in are passed on.
   void Query(const boost::shared_ptr<NKVRHXA20::ICIMNamespace>& nameSpace,
              const std::vector<boost::shared_ptr<NKVRHXA20::ICIMClass>>& classes);
 

@@ -9,19 +9,19 @@
 
 namespace hxahost {
 
-// What the plug-in logs: kept for the query that it belongs to and, where a file is named, written as it comes: the
-// level, a tab, the text with its control characters as escapes, so that every entry is one line.
+// The log of the plug-in: kept for its query and, if a file is named, written at once as one line for each entry: the
+// level, a tab, the text with its control characters escaped.
 class QueryLog {
  public:
-  // An empty path: no file. Throws ProgramError when the file cannot be written.
+  // An empty path: no file. Throws ProgramError if the file cannot be written.
   explicit QueryLog(const std::filesystem::path& file);
 
   void Add(int level, const std::string& text);
 
-  // What came since the last time.
+  // The entries since the last call.
   std::vector<LoggedEntry> Take();
 
-  // Throws ProgramError when the file lacks entries.
+  // Throws ProgramError if the file lacks entries.
   void Finish();
 
  private:

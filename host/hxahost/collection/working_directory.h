@@ -4,11 +4,11 @@
 
 namespace hxahost {
 
-// Throws ProgramError where there is no working directory: on some systems a folder can be deleted while a program is
-// in it.
+// Throws ProgramError if the working directory does not exist: on some systems a folder can be deleted while a program
+// uses it.
 void CheckWorkingDirectory();
 
-// Makes the directory the working one; "" leaves it. Throws ProgramError.
+// Changes to the directory; "" changes nothing. Throws ProgramError.
 void EnterDirectory(const std::filesystem::path& directory);
 
 }  // namespace hxahost

@@ -16,14 +16,14 @@ namespace hxahost {
 
 namespace {
 
-// Whoever links a whole file system into the folder does not wait for all of it to be looked at.
+// Limits the time if a link in the folder leads to a whole file system.
 constexpr std::size_t kMostFiles = 10'000;
 
-// The files beside the tools, also in folders below, count as they do: tools load libraries from there.
+// The files beside the tools, in subfolders, too: tools load libraries from there.
 std::vector<fs::path> WhatLiesBelow(const fs::path& top) {
   std::vector<fs::path> found;
   std::vector<fs::path> folders = {top};
-  std::set<fs::path> seen;  // a link may lead back
+  std::set<fs::path> seen;  // a link may form a cycle
   while (!folders.empty() && found.size() <= kMostFiles) {
     const fs::path folder = folders.back();
     folders.pop_back();
@@ -40,7 +40,7 @@ std::vector<fs::path> WhatLiesBelow(const fs::path& top) {
   return found;
 }
 
-// A device that a link leads to is nobody's program.
+// A link to a device is not a program.
 bool IsFileOrFolder(const fs::path& path) {
   std::error_code unknown;
   return fs::is_regular_file(path, unknown) || fs::is_directory(path, unknown);

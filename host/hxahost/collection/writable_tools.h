@@ -6,9 +6,9 @@
 
 namespace hxahost {
 
-// The tools run with the rights of whoever runs this program, an administrator as a rule: who can change them, or the
-// folder that they run in, can have done what an administrator can. Lines that say so of a folder with the folder
-// "zenx" in it, none where nobody else may write there, nor to what links in it lead to.
+// The tools run with the rights of the user of this program, who is usually an administrator: whoever can change the
+// tools, or the folder in which they run, can obtain these rights. Returns warnings for a folder that contains the
+// folder "zenx"; empty if nobody else may write there, nor to the targets of links in it.
 std::vector<std::string> WritableToolsWarnings(const std::filesystem::path& directory);
 
 }  // namespace hxahost
