@@ -25,7 +25,7 @@ namespace {
 struct Item {
   std::string name;
   std::string_view bytes;
-  std::string seconds;  // that it took; "-" for the log
+  std::string seconds;  // its duration; "-" for the log
   std::string outcome;
 };
 
@@ -51,7 +51,7 @@ Item ItemOf(const Bundle& bundle, std::size_t number) {
   return number <= bundle.runs.size() ? RunItem(bundle.runs[number - 1]) : LogItem(*bundle.raidLog);
 }
 
-// Everything that was printed so far, written as the reader of a terminal may have it.
+// Writes bytes in a form that is safe on a terminal.
 void WriteReadable(std::ostream& out, std::string_view bytes) {
   while (!bytes.empty()) {
     const std::size_t end = bytes.find('\n');

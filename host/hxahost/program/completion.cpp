@@ -14,7 +14,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-// Null where the command has none of this name. "help" goes before any command.
+// Null if the command has no such subcommand. "help" may precede any command.
 const CLI::App* NamedCommand(const CLI::App& command, const std::string& name) {
   const auto further = command.get_subcommands({});
   const auto named = std::ranges::find(further, name, [](const CLI::App* each) { return each->get_name(); });
@@ -28,7 +28,7 @@ Words ClassValues() {
   return values;
 }
 
-// "auto|always|never", but not the "N" of "N|none".
+// The values in "auto|always|never", without the "N" of "N|none".
 Words ListedValues(const std::string& typeName) {
   Words values;
   if (typeName.find('|') == typeName.npos) return values;
@@ -61,7 +61,7 @@ std::string Completions(const CLI::App& program, const std::vector<std::string>&
   const CLI::App* command = &program;
   const CLI::Option* awaitsValue = nullptr;
   for (const std::string& word : words) {
-    if (word == "=") continue;  // bash has it as a word of its own
+    if (word == "=") continue;  // bash passes it as a word of its own
     const CLI::Option* const option = awaitsValue == nullptr ? command->get_option_no_throw(word) : nullptr;
     const CLI::App* const named = awaitsValue == nullptr ? NamedCommand(*command, word) : nullptr;
     awaitsValue = option != nullptr && word.starts_with("-") && option->get_type_size() > 0 ? option : nullptr;

@@ -6,8 +6,8 @@
 
 namespace hxahost {
 
-// "hxahost diff": shows what is different between two results. Gives the exit status: 0 nothing, 1 something. Throws
-// ProgramError with status 2 for everything that keeps it from telling.
+// "hxahost diff": writes the differences between two results. Returns the exit status: 0 equal, 1 different. Throws
+// ProgramError with status 2 if the comparison fails.
 int RunDiffCommand(const DiffOptions& options, std::ostream& out);
 
 }  // namespace hxahost

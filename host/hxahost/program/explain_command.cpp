@@ -14,7 +14,7 @@ namespace hxahost {
 
 namespace {
 
-// By their handles; objects that share one, by what names them alone.
+// The objects by their handles; objects that share a handle, by unique names.
 std::string ListOf(const std::vector<NamedObject>& objects) {
   constexpr std::size_t kMost = 5;
   std::string list;

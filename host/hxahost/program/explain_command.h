@@ -7,8 +7,8 @@
 
 namespace hxahost {
 
-// "hxahost explain": collects as a query does and shows where the values of one object come from. Throws ProgramError,
-// with status 2 where nothing or more than one object is called so.
+// "hxahost explain": collects like a query and writes the sources of one object's values. Throws ProgramError, with
+// status 2 if no object or more than one has this name.
 void RunExplainCommand(const QueryOptions& options, const std::string& object, std::ostream& out, std::ostream& err);
 
 }  // namespace hxahost

@@ -19,7 +19,7 @@ namespace hxahost {
 
 namespace {
 
-// The moment from which on ages are counted.
+// The time from which ages are computed.
 std::int64_t Now(const QueryOptions& options) {
   const auto& given = options.collection.localTime;
   return SecondsSince1970((given ? *given : NKVRHXA20::CurrentServices().localTime()).ToString()).value_or(0);
@@ -37,7 +37,7 @@ std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, 
   return ReadFleet(inputs, options.shown.limits, writer.rows, out, fleet, begin);
 }
 
-// Gives the links to them.
+// Returns the links to the reports.
 std::map<std::string, std::string> WriteReports(const FleetCommandOptions& options, const Fleet& fleet) {
   if (options.pages.empty()) return {};
   FleetInputs inputs(options.paths);

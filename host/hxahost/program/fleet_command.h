@@ -7,8 +7,8 @@
 
 namespace hxahost {
 
-// "hxahost fleet": reads results and bundles of many machines and shows them together. Gives kNothingFound where they
-// hold no machine. Throws ProgramError.
+// "hxahost fleet": reads results and bundles of many machines and shows them together. Returns kNothingFound if they
+// contain no machine. Throws ProgramError.
 ExitStatus RunFleetCommand(const FleetCommandOptions& options, std::ostream& out, std::ostream& err);
 
 }  // namespace hxahost

@@ -46,7 +46,7 @@ constexpr Format kFormats[] = {
 
 }  // namespace
 
-// The rows of a command follow each other.
+// The rows of a command are consecutive.
 std::span<const Format> FormatsOf(std::string_view command) {
   const auto isOfCommand = [command](const Format& format) { return format.command == command; };
   const auto* const begin = std::ranges::find_if(kFormats, isOfCommand);

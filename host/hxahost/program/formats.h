@@ -30,14 +30,14 @@ using DiffWriter = void (*)(std::ostream& out, const ComparedFile& before, const
 using SchemaWriter = void (*)(std::ostream& out, std::span<const NKVRHXA20::ClassDeclaration> classes,
                               bool withSuperclasses);
 
-// Shows a fleet: each result as it comes, or the whole at the end.
+// Writes a fleet: each result as soon as it is read, or the whole at the end.
 struct FleetWriter {
   void (*Begin)(std::ostream& out) = nullptr;
   RowWriters rows = {};
   void (*Whole)(std::ostream& out, const FleetView& view) = nullptr;
 };
 
-// A format of a command, and what writes it.
+// A format of a command, and its writer.
 struct Format {
   std::string_view command;
   std::string_view name;
@@ -47,10 +47,10 @@ struct Format {
 // The formats of a command, its default first.
 std::span<const Format> FormatsOf(std::string_view command);
 
-// Null where the command has no such format.
+// Null if the command has no such format.
 const Format* FindFormat(std::string_view command, std::string_view name);
 
-// What writes a format that the command has.
+// The writer of a format that the command has.
 template <class Writer>
 const Writer& WriterOf(std::string_view command, std::string_view name) {
   return std::get<Writer>(FindFormat(command, name)->writer);

@@ -20,11 +20,11 @@ namespace {
 
 struct Verdict {
   Severity severity = Severity::kUnknown;
-  bool isWhole = false;  // every utility said what it knows
+  bool isWhole = false;  // every utility answered completely
   Collected collected;
 };
 
-// The result that --save-baseline asks for.
+// The result for --save-baseline.
 class Baseline {
  public:
   explicit Baseline(const std::filesystem::path& path) {
@@ -39,7 +39,7 @@ class Baseline {
     EndJson(file_->Stream(), header);
   }
 
-  // What is not known now would not be missed later.
+  // Objects that are unknown now would not be missed later, so only a complete result is saved.
   void Finish(bool isWhole, std::ostream& err) {
     if (!file_) return;
     if (isWhole) return file_->Finish();
@@ -85,7 +85,7 @@ Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::o
     if (options.format == "nagios") WriteNagiosFailure(out, kNoMemory);
     throw;
   } catch (const std::exception& failure) {
-    if (options.format == "nagios") WriteNagiosFailure(out, failure.what());  // it reads standard output alone
+    if (options.format == "nagios") WriteNagiosFailure(out, failure.what());  // it reads only standard output
     throw;
   }
 }

@@ -8,11 +8,11 @@
 
 namespace hxahost {
 
-// "hxahost health": collects as a query does, writes what is wrong to the output that the options name (out where they
-// name none) and gives the worst of it. Throws ProgramError.
+// "hxahost health": collects like a query, writes the findings to the output in the options (by default to out) and
+// returns the worst severity. Throws ProgramError.
 Severity RunHealthCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
 
-// "hxahost status": the same for people, on one screen. Gives kNothingFound where no tool described a controller.
+// "hxahost status": the same for people, on one screen. Returns kNothingFound if no tool described a controller.
 ExitStatus RunStatusCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
 
 }  // namespace hxahost

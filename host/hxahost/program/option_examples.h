@@ -1,6 +1,6 @@
 #pragma once
 
-// What the help of the program and of each command closes with.
+// The end of the help of the program and of each command.
 
 namespace hxahost {
 

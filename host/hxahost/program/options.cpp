@@ -19,7 +19,7 @@ namespace hxahost {
 
 namespace {
 
-// What was typed for every command; its meaning is read when all of it is there.
+// The typed options of every command; they are interpreted after parsing.
 struct TypedOptions {
   QueryOptions read;
   std::string repeat = "1";
@@ -46,7 +46,7 @@ struct TypedOptions {
   std::string staleDays;
   BundleOptions bundle;
   std::vector<std::string> bundleItems;
-  std::string mask;  // "true" where it was given alone
+  std::string mask;  // "true" if it was given without a value
   bool masksAll = false;
   std::string schemaFormat = CommandLine().schemaFormat;
   bool withSuperclasses = false;  // of the schema
@@ -60,7 +60,7 @@ std::string FormatNames(std::string_view command) {
   return names;
 }
 
-// "-f,--format", with the formats that the command has.
+// "-f,--format", with the formats of the command.
 void AddFormat(CLI::App& command, std::string& format, const std::string& purposes = "") {
   command.add_option("-f,--format", format, FormatNames(command.get_name()) + purposes)
       ->type_name("FORMAT")
@@ -92,7 +92,7 @@ void AddOutput(CLI::App& command, std::filesystem::path& path, const std::string
       ->type_name("FILE");
 }
 
-// What the utilities may cost.
+// The limits for the utilities.
 void AddRunLimits(CLI::App& command, TypedOptions& typed) {
   command.add_option("--limit", typed.runSeconds, "How long one run of a tool may take (default: 300)")
       ->type_name("SECONDS");
@@ -143,7 +143,7 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
   command.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
 }
 
-// How text for a terminal is laid out.
+// The layout of text for a terminal.
 void AddLayout(CLI::App& command, TypedOptions& typed) {
   command.add_option("--width", typed.width, "Columns of the output, 40 to 1000 (default: the terminal's; else 100)")
       ->type_name("N");
@@ -340,7 +340,7 @@ RunLimits ReadRunLimits(const TypedOptions& typed) {
   return limits;
 }
 
-// What commands share that collect and those that do not.
+// Options that commands with and without a collection share.
 QueryOptions ReadShown(const CLI::App& command, const TypedOptions& typed) {
   RejectEmptyValues(command);
   QueryOptions options = typed.read;
@@ -395,7 +395,7 @@ CommandLine ReadFleetCommand(const CLI::App& fleet, const TypedOptions& typed) {
   return line;
 }
 
-// "hxahost bundle ...": the subcommand that was given decides.
+// "hxahost bundle ...": the subcommand decides.
 CommandLine ReadBundle(const CLI::App& bundle, const TypedOptions& typed) {
   const CLI::App& given = *bundle.get_subcommands().front();
   RejectEmptyValues(given);
@@ -445,7 +445,7 @@ CommandLine ReadHealth(const CLI::App& health, const TypedOptions& typed) {
   return line;
 }
 
-// What is asked for may be several words.
+// The name of the object may consist of several words.
 CommandLine ReadExplain(const CLI::App& explain, const TypedOptions& typed) {
   CommandLine line{Command::kExplain, "", ReadCollecting(explain, typed)};
   for (const std::string& word : typed.object) line.object += (line.object.empty() ? "" : " ") + word;
@@ -481,7 +481,7 @@ struct CommandRow {
 // Asked for by the completion of shells, with the words so far, and by nobody else.
 constexpr std::string_view kCompleteCommand = "complete";
 
-// Help, advice on mistyped words and completion follow from it.
+// Help, advice on mistyped words and completion are made from this table.
 constexpr CommandRow kCommands[] = {
     {"status",  "Show on one screen what is wrong and what to do",         kStatusExamples,  AddStatus,  ReadStatus      },
     {"query",   "Run the controller utilities and show what they say",     kQueryExamples,   AddQuery,   ReadQuery       },
@@ -507,7 +507,7 @@ void AddCommands(CLI::App& program, TypedOptions& typed) {
   }
 }
 
-// Without a command, "status" is meant; what comes first is then one of its options.
+// Without a command, "status" is run; the first argument is then one of its options.
 std::vector<std::string> WithCommand(std::vector<std::string> arguments) {
   constexpr std::string_view kOfProgram[] = {"--help", "-h", "--version", "-V"};
   const bool hasNone = arguments.empty() ||

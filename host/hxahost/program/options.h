@@ -13,10 +13,10 @@
 
 namespace hxahost {
 
-// What "hxahost query" is asked for. Texts are UTF-8; an empty path was not given.
+// The options of "hxahost query". Texts are UTF-8; an empty path was not given.
 struct QueryOptions {
   CollectionOptions collection;
-  std::vector<std::string> classes;  // in the order given; none: every class that the plug-in publishes
+  std::vector<std::string> classes;  // in the order given; empty: every class that the plug-in publishes
   unsigned repeat = 1;
   std::string format = "table";
   std::filesystem::path output;
@@ -29,22 +29,22 @@ struct QueryOptions {
   bool isAscii = false;
   std::string color = "auto";
   Limits limits;
-  Expectations expectations;           // its baseline is read from the next
+  Expectations expectations;           // its baseline is read from the next field
   std::filesystem::path baseline;      // an earlier result or bundle to compare with
-  std::filesystem::path saveBaseline;  // where the result goes that later ones are compared with
+  std::filesystem::path saveBaseline;  // the file for the result, a baseline for later runs
 };
 
-// What "hxahost bundle" is asked for.
+// The options of "hxahost bundle".
 struct BundleOptions {
   std::filesystem::path file;
   std::vector<std::size_t> items;  // to be shown, counted from 1; none: the part before them
   bool isRaw = false;
-  std::filesystem::path output;  // where the items, or the masked bundle, go
+  std::filesystem::path output;  // for the items, or the masked bundle
   MaskScope mask = MaskScope::kNames;
   std::uint64_t inputLimit = kLargestInput;  // in bytes
 };
 
-// What "hxahost diff" is asked for: two results that were written before.
+// The options of "hxahost diff": two results that were written before.
 struct DiffOptions {
   std::string oldFile;
   std::string newFile;
@@ -53,12 +53,12 @@ struct DiffOptions {
   std::uint64_t inputLimit = kLargestInput;  // in bytes
 };
 
-// What "hxahost fleet" is asked for.
+// The options of "hxahost fleet".
 struct FleetCommandOptions {
   std::vector<std::filesystem::path> paths;  // results, bundles and folders of them
   std::optional<unsigned> staleDays;
-  std::filesystem::path pages;  // the folder that the reports of the machines go to
-  QueryOptions shown;           // how
+  std::filesystem::path pages;  // the folder for the reports of the machines
+  QueryOptions shown;           // layout and output
 };
 
 enum class Command {
@@ -80,12 +80,12 @@ enum class Command {
 struct CommandLine {
   Command command = Command::kShowText;
   std::string text;    // to be shown: the help or the version
-  QueryOptions query;  // "hxahost health" takes those of a query that it has a use for
+  QueryOptions query;  // "hxahost health" uses some of them
   DiffOptions diff = {};
   BundleOptions bundle = {};
   FleetCommandOptions fleet = {};
   std::string schemaFormat = "mof";
-  std::string object = {};        // that "hxahost explain" is asked for
+  std::string object = {};        // the argument of "hxahost explain"
   bool withSuperclasses = false;  // of the schema
 };
 

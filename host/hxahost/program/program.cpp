@@ -22,7 +22,7 @@ namespace hxahost {
 
 namespace {
 
-// Gives the exit status.
+// Returns the exit status.
 int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
   int status = static_cast<int>(ExitStatus::kDone);
   switch (commandLine.command) {
@@ -51,8 +51,7 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
   return status;
 }
 
-// To a monitoring program 1 is a warning and 2 a disaster. What keeps "health" from its answer leaves the health
-// unknown.
+// For monitoring programs 1 is a warning and 2 is critical. A failure of "health" means that the health is unknown.
 ExitStatus StatusFor(const std::vector<std::string>& arguments, ExitStatus status) {
   const bool isHealth = !arguments.empty() && arguments.front() == "health";
   return isHealth ? ExitStatus::kHealthUnknown : status;

@@ -33,7 +33,7 @@ namespace hxahost {
 
 namespace {
 
-// The declared names, in the order asked for; all that the plug-in publishes where none was asked for.
+// The declared names, in the order queried; every class that the plug-in publishes if none was named.
 std::vector<std::string> DeclaredNames(const std::vector<std::string>& asked) {
   std::vector<std::string> names;
   for (const std::string& word : asked) std::ranges::copy(ClassesCalled(word), std::back_inserter(names));
@@ -52,7 +52,7 @@ std::shared_ptr<const JsonResult> ReadBaseline(const fs::path& file) {
   return std::make_shared<JsonResult>(ReadResultOrBundle(file));
 }
 
-// Serial numbers that are masked in one of the two have nothing in common with those of the other.
+// Masked serial numbers cannot be compared with those of an unmasked result.
 void CheckBaseline(const QueryHeader& header, const fs::path& file) {
   if (!header.expectations.baseline || header.expectations.baseline->isMasked == header.isMasked) return;
   throw ProgramError(ExitStatus::kWrongArguments,
@@ -61,13 +61,13 @@ void CheckBaseline(const QueryHeader& header, const fs::path& file) {
                          "masked as this collection is.");
 }
 
-// What holds for all queries, as the command line asks for it.
+// The header of all queries, with the options of the command line.
 QueryHeader HeaderOf(const Collection& collection, const QueryOptions& options) {
   QueryHeader header = collection.Header(DeclaredNames(options.classes));
   header.queryCount = options.repeat;
   header.withRuns = options.showRuns;
   header.withUnread = options.showUnread;
-  header.showAll = options.showAll || !options.classes.empty();  // what is named is wanted
+  header.showAll = options.showAll || !options.classes.empty();  // a class that is named is shown
   header.isVerbose = options.isVerbose;
   header.limits = options.limits;
   header.expectations = options.expectations;
@@ -76,7 +76,7 @@ QueryHeader HeaderOf(const Collection& collection, const QueryOptions& options) 
   return header;
 }
 
-// Paths on the command line are relative to where the program was started, not to where the tools run.
+// Paths on the command line are relative to the directory where the program started, not to that of the tools.
 QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
   QueryOptions options = typed;
   CollectionOptions& collection = options.collection;
@@ -99,7 +99,7 @@ QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
   return options;
 }
 
-// A report that is cut off may describe a controller all the same.
+// An incomplete report may describe a controller, too.
 bool HasObject(const InstanceList& instances) {
   return std::ranges::any_of(instances, [](const auto& instance) {
     const std::string_view name = instance->Class().name;
@@ -145,7 +145,7 @@ Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std
   } catch (const std::bad_alloc&) {
     throw;
   } catch (const std::exception& failure) {
-    collection.SaveRecording(out);  // whoever looks for the reason needs it most now
+    collection.SaveRecording(out);  // a failed collection needs the bundle most
     throw ProgramError(ExitStatus::kQueryFailed,
                        "The query failed: " + Printable(failure.what()) + ". --log FILE shows how far it came." +
                            (output.IsFile() ? "" : " What was written before this is not whole."));

@@ -9,7 +9,7 @@
 
 namespace hxahost {
 
-// What shows queries, as a View does; each may keep something of what it sees.
+// Functions that show queries; each may keep data of them.
 struct QueryDisplay {
   std::function<void(std::ostream& out, const QueryHeader& header)> begin;
   std::function<void(std::ostream& out, const QueryHeader& header, const QueryResult& result)> query;
@@ -17,17 +17,17 @@ struct QueryDisplay {
   bool showsPart = false;  // what a replay gave that ended early; otherwise that is a failure
 };
 
-// What came of the queries of one run of the program.
+// The outcome of the queries of one program run.
 struct Collected {
   ToolRunList runs;            // of the tools
-  bool hasController = false;  // a controller was described, or something that belongs to one was published
+  bool hasController = false;  // a controller was described, or a drive or disk of one was published
 };
 
-// Queries as "hxahost query" does, whatever format the options name, and has the display show it.
+// Queries like "hxahost query", with any format in the options, and passes the results to the display.
 Collected RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err);
 
-// What a command ends with: kNothingFound where there is no controller, kQueryFailed where a tool that is there could not
-// be started. A line on err then says what became of the tools, unless out failed: then that is what is said.
+// What a command ends with: kNothingFound where there is no controller, kQueryFailed where a tool that is there could
+// not be started. A line on err then says what became of the tools, unless out failed: then that is what is said.
 ExitStatus StatusOf(const Collected& collected, const std::ostream& out, std::ostream& err);
 
 // "hxahost query": loads the plug-in, queries it, writes what it publishes to the output that the options name (out

@@ -10,14 +10,14 @@
 
 namespace hxahost {
 
-// The layout that the command line asks for.
+// The layout options of the command line.
 LayoutWishes WishesOf(const QueryOptions& options);
 
-// Where a query is shown.
+// The output of a query.
 class QueryOutput {
  public:
-  // To the output that the options name, or to out unless that is taken by the bundle. Throws ProgramError where the
-  // file cannot be written.
+  // The output in the options; otherwise out, unless the bundle is written there. Throws ProgramError if the file
+  // cannot be written.
   QueryOutput(const QueryOptions& options, std::ostream& out);
   QueryOutput(const QueryOutput&) = delete;
   QueryOutput& operator=(const QueryOutput&) = delete;
@@ -25,7 +25,7 @@ class QueryOutput {
   std::ostream& Stream() { return *stream_; }
   bool IsFile() const { return file_.has_value(); }
 
-  // The file takes its place; without this what was there before stays. Throws ProgramError.
+  // Replaces the previous file, which otherwise stays unchanged. Throws ProgramError.
   void Finish();
 
  private:

@@ -19,7 +19,7 @@ const CLI::App& LastGiven(const CLI::App& program) {
 
 bool IsOption(const std::string& argument) { return argument.starts_with("-"); }
 
-// The words that may stand where the argument does.
+// The words that are valid in the place of the argument.
 std::vector<std::string> Candidates(const CLI::App& command, const std::string& argument) {
   std::vector<std::string> words;
   if (IsOption(argument)) {

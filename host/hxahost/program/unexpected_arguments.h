@@ -7,11 +7,11 @@
 
 namespace hxahost {
 
-// The command that was given with the commands it belongs to, as typed: "hxahost bundle show".
+// The command with its parent commands, as typed: "hxahost bundle show".
 std::string GivenCommand(const CLI::App& program);
 
-// Throws ProgramError for the first argument that no command takes, with the one that was probably meant. Returns where
-// all are taken.
+// Throws ProgramError for the first argument that no command accepts, with the word that was probably meant. Returns if
+// all are accepted.
 void RejectUnexpected(const CLI::App& program, const std::vector<std::string>& arguments);
 
 }  // namespace hxahost
