@@ -86,7 +86,7 @@ Json UnreadTextJson(const UnreadText& text) {
   };
 }
 
-// Line feeds within strings are escapes, so each one here ends a line of the layout.
+// Line feeds within strings are escaped, so each one here ends a line of the layout.
 void WriteIndented(std::ostream& out, const Json& json, std::string_view indent) {
   const std::string text = JsonText(json, 2);
   std::string_view lineEnd;
@@ -96,7 +96,7 @@ void WriteIndented(std::ostream& out, const Json& json, std::string_view indent)
   }
 }
 
-// One item is turned into JSON at a time: the text of all of them would take several times the memory of the data.
+// Converts one item at a time: the text of all items would take several times the memory of the data.
 template <class Items, class ToJson>
 void WriteJsonArray(std::ostream& out, std::string_view name, const Items& items, ToJson toJson) {
   out << "      \"" << name << "\": [";

@@ -11,7 +11,7 @@ void BeginJson(std::ostream& out, const QueryHeader& header);
 void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryResult& result);
 void EndJson(std::ostream& out, const QueryHeader& header);
 
-// JSON lines: one instance a line, with the machine and the time, for what reads lines.
+// JSON lines: one instance on each line, with the machine and the time, for line-oriented readers.
 void BeginJsonLines(std::ostream& out, const QueryHeader& header);
 void WriteQueryJsonLines(std::ostream& out, const QueryHeader& header, const QueryResult& result);
 void EndJsonLines(std::ostream& out, const QueryHeader& header);

@@ -14,7 +14,7 @@ namespace hxahost {
 
 namespace {
 
-// The document that "--format json" gives for a program run that made this one query.
+// The document that "--format json" writes for a program run with only this query.
 void WriteResultJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   BeginJson(out, header);
   QueryResult only = result;

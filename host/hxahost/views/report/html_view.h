@@ -4,7 +4,7 @@
 
 #include "host/hxahost/result/query_result.h"
 
-// One page for people: self-contained, with the last query's JSON in it and a script that shows it.
+// One HTML file for people: self-contained, with the last query's JSON in it and a script that shows it.
 namespace hxahost {
 
 void BeginHtml(std::ostream& out, const QueryHeader& header);

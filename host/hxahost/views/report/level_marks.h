@@ -7,7 +7,7 @@
 
 namespace hxahost {
 
-// How a level looks in the HTML report beside its colour.
+// The symbol and words of a level in the HTML report, beside its colour.
 struct LevelMark {
   Level level;
   std::string_view symbol;

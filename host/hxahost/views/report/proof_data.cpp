@@ -15,7 +15,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// null where no line is concerned.
+// null if no line is concerned.
 Json InstanceJson(std::size_t instance, const std::vector<Proof>& proofs) {
   Json json = {
       {"instance", instance      },
@@ -34,7 +34,7 @@ Json InstanceJson(std::size_t instance, const std::vector<Proof>& proofs) {
 
 }  // namespace
 
-// One instance at a time: a machine has thousands.
+// Writes one instance at a time: a machine has thousands.
 void WriteProofData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine) {
   if (!IsAskedFor(header, kRawDataClass)) {
     out << "null";

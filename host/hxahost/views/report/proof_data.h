@@ -7,9 +7,9 @@
 
 namespace hxahost {
 
-// Where the values come from, as JSON: of each instance of which a line says a value, "lines" by property, the place of
-// the raw text's instance first, then those of the lines in it; "differs" has the properties of which these lines say
-// something else, "noLine" those that no line says any more. null where the raw texts were not asked for.
+// The sources of values, as JSON. Each instance with a value that a line contains has "lines" by property: the place of
+// the raw text's instance, then the places of the lines in it. "differs" lists properties whose lines contain another
+// value, "noLine" those whose line is missing. null if the raw texts were not queried.
 void WriteProofData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine);
 
 }  // namespace hxahost

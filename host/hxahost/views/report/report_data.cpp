@@ -58,7 +58,7 @@ Json ColumnsJson(std::span<const InstanceColumn> columns) {
   return json;
 }
 
-// What is in the heading of a controller's block elsewhere is a row here.
+// The facts in the heading of a controller's block, as rows.
 Json ControllerColumns() {
   Json json = Json::array();
   for (const auto facts : {std::span<const Fact>(kControllerNames), IdentityFacts(), StateFacts()}) {
@@ -67,7 +67,7 @@ Json ControllerColumns() {
   return json;
 }
 
-// The same tables as on a terminal: what is added there is added here.
+// The same tables as on a terminal: a table that is added there also appears in the report.
 Json TablesJson() {
   Json tables = Json::array();
   for (const DeviceKind& kind : DeviceKinds()) {
@@ -143,7 +143,7 @@ Json GroupJson(const Controller& controller, const DiskGroup& group) {
   return json;
 }
 
-// What the device is for, short: the drives are in the drawing as well.
+// The use of a device, in a few words, as the drawing also shows the drives.
 std::string UseOf(const Controller& controller, std::size_t place) {
   const Device& device = controller.devices[place];
   if (device.kind != HardwareKind::kDisk) return Printable(device.type);
@@ -163,7 +163,7 @@ Json DeviceJson(const Controller& controller, std::size_t place) {
                  {Joined(Printable(device.model), SizeOf(device)), serial, UseOf(controller, place)});
 }
 
-// By controller, each with what belongs to it. Members are places of instances.
+// The objects of each controller. Members are places of instances.
 Json ObjectsJson(const Machine& machine) {
   Json json = Json::array();
   for (const Controller& controller : machine.controllers) {
@@ -179,7 +179,7 @@ Json ObjectsJson(const Machine& machine) {
   return json;
 }
 
-// In words, where they are more than labels.
+// In words, if they contain more than labels.
 Json OriginsJson(const QueryHeader& header) {
   Json json = Json::object();
   for (const ClassDeclaration& declaration : PublishedClasses()) {

@@ -4,8 +4,8 @@
 
 namespace hxahost {
 
-// The page of the report with its style and script in it; made from report_template.html and report/ when the program
-// is built. "@QUERY_DATA@" and "@REPORT_DATA@" are where the data goes.
+// The HTML of the report with its style and script, made from report_template.html and report/ by the build. The data
+// replaces "@QUERY_DATA@" and "@REPORT_DATA@".
 std::string_view ReportTemplate();
 
 // The page of "hxahost fleet", from fleet/page/ and parts of the report.

@@ -5,8 +5,8 @@
 
 namespace hxahost {
 
-// JSON on its way into a script element of a page: "<" becomes an escape, as it only occurs within JSON's strings. So
-// no text can end the element or begin another one, whatever it contains.
+// Writes JSON into a script element: "<", which occurs only within JSON's strings, becomes an escape. So no text can
+// end the element or begin another one.
 class ScriptData : public std::streambuf {
  public:
   explicit ScriptData(std::ostream& out) : out_(out) {}

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::size_t kMostLinks = 12;  // to the disks of one incident
 
-// What the first printed sheet has room for.
+// What fits on the first printed sheet.
 constexpr std::size_t kMostPrintedDisks = 150;
 constexpr std::size_t kMostPrintedCards = 8;
 constexpr std::size_t kMostPrintedHeadlines = 25;
@@ -34,7 +34,7 @@ std::vector<std::string_view> UnjudgedClasses(const QueryHeader& header) {
   return classes;
 }
 
-// Nothing is fine that nobody looked at.
+// Only a machine whose health was queried can be fine.
 void WriteVerdict(std::ostream& out, const Machine& machine, bool isWhole) {
   const Severity worst = WorstOf(machine.findings);
   if (worst != Severity::kFine) {
@@ -63,7 +63,7 @@ std::string LocationOf(const Device& device) {
   return HtmlText(device.location.empty() ? device.name : device.location);
 }
 
-// A disk that calls for attention, or is at work, says where it is.
+// A disk that needs attention, or is at work, shows its place.
 void WriteDisk(std::ostream& out, const Controller& controller, std::size_t place) {
   const Device& disk = controller.devices[place];
   const std::string state = disk.state.text.empty() ? "state not said" : disk.state.text;
@@ -132,7 +132,7 @@ void WriteIncident(std::ostream& out, const Machine& machine, const Incident& in
   out << "</li>\n";
 }
 
-// The first printed sheet has these in place of the cards, which then begin on the second.
+// The first printed sheet shows these instead of the cards, which begin on the second.
 void WriteHeadlines(std::ostream& out, const Incidents& incidents) {
   out << "<ol class=\"headlines\">\n";
   const std::size_t count = std::min(incidents.size(), kMostPrintedHeadlines);

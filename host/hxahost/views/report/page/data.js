@@ -1,4 +1,4 @@
-// What the program wrote into the report for this script.
+// The data that the program wrote into the report for this script.
 
 function readData(id) {
   return JSON.parse(byId(id).textContent);

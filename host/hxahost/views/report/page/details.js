@@ -1,15 +1,15 @@
-// The details of one object, in a dialog. "#object-17" in the address opens them, so that links, the keyboard and the
-// browser's way back all work by themselves. "#line-3-249" is line 249 of the text that instance 3 holds, from 0.
+// The details of one object, in a dialog. "#object-17" in the address opens them, so links, the keyboard and the
+// browser's Back button need no extra code. "#line-3-249" is line 249 of the text of instance 3, counted from 0.
 
 const kMostRelated = 60;
 
-// What the program says of where the values of an object come from, by the object's place; read when first wanted.
+// The origins of an object's values, by the object's place; parsed at the first use.
 function proofOf(object) {
   if (!report.proofs) report.proofs = new Map((readData("proof-data") || []).map((proof) => [proof.instance, proof]));
   return report.proofs.get(object.index) || { lines: {} };
 }
 
-// Properties are compared without regard to case: one is published with a letter that is declared in another.
+// Properties are compared without regard to case: one is published with a letter in another case than declared.
 function originOf(object, property) {
   const origins = Object.entries(report.data.origins[object.class] || {});
   const found = origins.find(([name]) => name.toLowerCase() === property.toLowerCase());
@@ -21,7 +21,7 @@ function lineWords(model, [text, ...lines]) {
   return `${textOf(model.objects[text], "Command")}, ${lines.length === 1 ? "line" : "lines"} ${numbers}`;
 }
 
-// A value leads to its line; one that no line says tells what it is made of.
+// A value links to its line; a value without a line shows its origin in words.
 function valueParts(model, object, name, text) {
   const proof = proofOf(object);
   const quiet = (words) => make("span", { class: "quiet" }, " " + words);
@@ -106,7 +106,7 @@ function showFromAddress(model) {
 function setUpDetails(model) {
   const dialog = byId("details");
   window.addEventListener("hashchange", () => showFromAddress(model));
-  // The address must change back, or the same link would not be followed a second time.
+  // The address must change back, or the same link would not work a second time.
   dialog.addEventListener("close", () => {
     if (window.location.hash.startsWith("#object-")) window.history.replaceState(null, "", "#");
   });

@@ -1,7 +1,7 @@
 // The drawing of a controller: itself, its arrays with the logical drives on them, and its devices by enclosure and
 // slot, else by channel.
 
-// The title, the state, and what else the program says of the object. The level is in words for who sees no colour.
+// The title, the state, and the object's other lines. The level is in words for people who see no colour.
 function box(model, object) {
   const lines = object.lines.map((line) => make("span", {}, line));
   return make("a", { class: `box level-${object.level}`, href: "#object-" + object.index, "data-object": object.index },
@@ -11,7 +11,7 @@ function box(model, object) {
     ...lines);
 }
 
-// The state; how many findings there are where one of them is worse, and gives the box its colour.
+// The state; the number of findings if one is worse than the state and decides the colour of the box.
 function stateLine(model, object) {
   const state = stateText(object) || "state not said";
   if (model.isPredicted(object)) return `PFA ${textOf(object, "PFA")}, ${state}`;
@@ -92,7 +92,7 @@ function drawController(model, owner) {
   return figure;
 }
 
-// One stop of the Tab key for each group of boxes; the arrow keys go from box to box.
+// The Tab key stops once at each group of boxes; the arrow keys move between boxes.
 function setUpKeys(group) {
   const all = [...group.querySelectorAll("a[data-object]")];
   all.forEach((each, index) => each.setAttribute("tabindex", index === 0 ? "0" : "-1"));
@@ -118,7 +118,7 @@ function boxToGoTo(all, from, key) {
   }
 }
 
-// The nearest box, left to right, of the next row in the direction.
+// The nearest box, left to right, in the next row of that direction.
 function inNextRow(all, from, step) {
   const here = all[from].getBoundingClientRect();
   let best;
@@ -134,7 +134,7 @@ function inNextRow(all, from, step) {
   return best && best.box;
 }
 
-// What belongs to the box under the pointer or in focus is marked in the drawing.
+// Marks the objects in the drawing that belong to the box under the pointer or in focus.
 function setUpMarks(figure, model) {
   const mark = (event) => {
     const target = event.target.closest("a[data-object]");

@@ -1,4 +1,4 @@
-// Elements from text. Nothing here or elsewhere reads text as markup.
+// Makes elements from text. No text is ever read as markup.
 
 const kSvg = "http://www.w3.org/2000/svg";
 
@@ -6,7 +6,7 @@ function fill(element, attributes, children) {
   for (const [name, value] of Object.entries(attributes)) {
     if (value !== null) element.setAttribute(name, value);
   }
-  // One by one: a machine can have more children than a call may have arguments.
+  // One by one: a machine can have more children than a call can have arguments.
   for (const child of children) element.append(child);
   return element;
 }

@@ -1,4 +1,4 @@
-// How levels look: symbol and words go with the colour wherever it is used.
+// The levels: symbol and words accompany the colour wherever it is used.
 const kLevels = Object.fromEntries(report.data.levels.map((each) => [each.level, each]));
 
 const kWorstFirst = report.data.levels.map(({ level }) => level);

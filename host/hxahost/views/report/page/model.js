@@ -1,5 +1,4 @@
-// What the query published, as objects that know each other: by what the program says of the machine's objects, and by
-// associations.
+// The instances of the query as linked objects: linked by the data about the machine's objects, and by associations.
 
 const kControllers = "KVRSG_zxSCSIProtocolController";
 const kLogicalDrives = "KVRSG_zxLogicalDisk";
@@ -39,7 +38,7 @@ class Model {
     this.links = this.findLinks();
   }
 
-  // Adds what the program says of an object; the owners keep their objects by class.
+  // Adds the data about an object; the owners keep their objects by class.
   addObject({ instance, owner, groups = [], devices = [], title = "", lines = [], ...levels }) {
     const object = Object.assign(this.objects[instance], levels, { owner: "Controller " + printable(owner),
       groups: groups.map((index) => this.objects[index]), devices: devices.map((index) => this.objects[index]),
@@ -53,7 +52,7 @@ class Model {
     return this.byClass.get(className) || [];
   }
 
-  // What associations link, by the index of the object at either end.
+  // The links of associations, by the index of the object at either end.
   findLinks() {
     const links = new Map();
     for (const object of this.objects) {
@@ -86,7 +85,7 @@ class Model {
     return [...new Set(lists.flatMap((each) => each.devices))];
   }
 
-  // The arrays and logical drives by disk, found once: a machine has thousands of disks.
+  // The arrays and logical drives of each disk, computed once: a machine has thousands of disks.
   membersByDisk() {
     if (!this.members) {
       this.members = new Map();
@@ -99,7 +98,7 @@ class Model {
     return this.members;
   }
 
-  // Everything that belongs to an object, each thing once, in the order published.
+  // Everything that belongs to an object, each object once, in the order published.
   related(object) {
     const isOwned = (each) => each.owner === undefined || object.owner === undefined || each.owner === object.owner;
     const found = new Set((this.links.get(object.index) || []).filter(isOwned));
@@ -126,12 +125,12 @@ class Model {
     return this.findingsByObject.get(object.index) || [];
   }
 
-  // A disk that predicts its failure is not fine, whatever its state.
+  // A disk that predicts its failure is not fine, even if its state is.
   isPredicted(object) {
     return this.findingsOf(object).some((finding) => finding.property === "PFA");
   }
 
-  // What the state and, of a disk, its prediction come to.
+  // The words for the state and, for a disk, its prediction.
   stateWords(object) {
     const state = stateText(object) || "not said";
     return this.isPredicted(object) ? { words: `${state}, PFA ${textOf(object, "PFA")}`, level: object.level }
@@ -154,7 +153,7 @@ function stateText(object) {
   return property ? textOf(object, property) : "";
 }
 
-// An array has a letter, or is for one logical drive, whose number ends the identifier's first word.
+// An array has a letter, or belongs to one logical drive, whose number ends the identifier's first word.
 function arrayName(array) {
   const letter = textOf(array, "Array");
   if (letter !== "") return "Array " + letter;
@@ -162,7 +161,7 @@ function arrayName(array) {
   return found ? "Array of drive " + found[1] : "Array " + textOf(array, "CollectionID");
 }
 
-// What people call it; the class and the keys where there is no such name.
+// The name for people; the class and the keys if there is no such name.
 function nameOf(object) {
   switch (object.class) {
     case kControllers: return object.owner;

@@ -1,4 +1,4 @@
-// The page: its sections in their order. A section that cannot be drawn says so in its place and affects no other.
+// The sections of the report in their order. A section that fails shows an error in its place and affects no other.
 
 function findingBadge(finding) {
   return badge(finding.severity, finding.severity);
@@ -8,7 +8,7 @@ function findingWords(finding) {
   return `${finding.property} "${printable(finding.text)}": ${finding.meaning}`;
 }
 
-// More of them would push everything else out of sight.
+// More findings would hide the rest of the report.
 const kMostFindings = 50;
 
 function severityCell(finding) {

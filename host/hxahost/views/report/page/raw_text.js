@@ -1,9 +1,9 @@
-// The raw text of every command, folded; a search opens what has the words and marks them. Lines whose values no
-// property shows are marked in the margin: where a tool has a new layout, they grow in number.
+// The raw text of every command, folded; a search opens the texts that contain the words and marks them. Lines whose
+// values no property shows are marked in the margin: their number grows if a tool changes its layout.
 
 const kMostMarks = 2000;
 
-// Places of unread lines by the index of their text; null where nobody can tell.
+// Places of unread lines by the index of their text; null if they are not known.
 function unreadPlaces(unread) {
   return unread === null ? null : new Map(unread.map(({ instance, lines }) => [instance, new Set(lines)]));
 }
@@ -20,8 +20,8 @@ function rawTexts(model, unread) {
   });
 }
 
-// The text cut where marked lines begin and end; each unread line, and each that a value was followed to, is a part of
-// its own, without its line end.
+// The text, cut where marked lines begin and end. Each unread line, and each line that a link leads to, is a separate
+// part, without its line end.
 function partsOf(lines, marked, followed = new Set()) {
   const parts = [{ begin: 0, end: 0 }];
   let begin = 0;
@@ -58,7 +58,7 @@ function matchesIn(text, words) {
   return matches.map((match) => ({ begin: match.index, end: match.index + match[0].length }));
 }
 
-// From begin to end, with what of the matches lies there marked.
+// The text from begin to end, with the parts of matches in it marked.
 function markedPart(text, begin, end, matches) {
   const content = document.createDocumentFragment();
   let done = begin;
@@ -114,7 +114,7 @@ function markFollowed(raw, lines) {
   raw.body.replaceChildren(markedText(raw));
 }
 
-// Goes to the lines that the address names: those of the text that an instance holds.
+// Goes to the lines of an instance's text that the address names.
 function showLinesFromAddress() {
   const found = /^#line-(\d+)((?:-\d+)+)$/.exec(window.location.hash);
   const raw = found ? (report.rawTexts || []).find((each) => each.index === Number(found[1])) : undefined;
@@ -141,7 +141,7 @@ function unfoldButton(words, raws, isOpen) {
   return commandButton(words, () => raws.forEach((raw) => { raw.element.open = isOpen; }));
 }
 
-// Goes from one unread line to the next or the one before, round the end, among the texts that the search left.
+// Moves to the next or previous unread line, from the last to the first, within the texts that the search shows.
 class UnreadWalk {
   constructor(section) {
     this.section = section;
@@ -161,11 +161,11 @@ class UnreadWalk {
     this.at.closest("details").open = true;
     this.at.focus({ preventScroll: true });
     this.at.scrollIntoView({ block: "center", inline: "nearest" });
-    this.at.closest("pre").scrollLeft = 0;  // a long line would push its mark out of sight
+    this.at.closest("pre").scrollLeft = 0;  // a long line would move its mark out of sight
     this.place.textContent = `${to + 1} of ${lines.length}`;
   }
 
-  // Letters alone, and only where no text is typed and the section has the focus.
+  // Letters without modifier keys, and only if the section has the focus and no text is typed.
   onKey(event) {
     if (event.ctrlKey || event.altKey || event.metaKey || event.target.closest("input")) return;
     const step = { n: 1, p: -1 }[event.key];

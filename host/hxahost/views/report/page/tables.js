@@ -1,12 +1,12 @@
-// Tables that sort and filter. Rows are kept as texts; of a long table only the first ones become elements until
-// somebody asks for the rest, or prints.
+// Tables that sort and filter. Rows are kept as texts; of a long table only the first rows become elements until
+// somebody asks for the others, or prints.
 
 const kMostRows = 2500;
 
-// More columns than paper can hold side by side: each row is printed as a block of its own.
+// Paper has no room for more columns side by side: each row is printed as a block of its own.
 const kMostPrintedColumns = 14;
 
-// columns: {title, cell}; cell gives {text, node} of an object, node where more than text is shown.
+// columns: {title, cell}; cell returns {text, node} for an object, node if more than text is shown.
 class SortedTable {
   constructor(caption, columns, objects, most = kMostRows) {
     this.rows = objects.map((object) => columns.map((column) => column.cell(object)));
@@ -21,7 +21,7 @@ class SortedTable {
     this.order = this.rows.map((_, index) => index);
     this.element = this.build();
     this.refill();
-    // The line of the filter is as wide as the table may be, and no higher or lower for what the table becomes.
+    // The filter's line is as wide as the table may be, and its height does not depend on the table.
     new ResizeObserver(() => this.fit()).observe(this.input.closest(".tools"));
   }
 
@@ -54,7 +54,7 @@ class SortedTable {
     this.sortColumn = index;
     const sign = this.isDescending ? -1 : 1;
     const text = (row) => this.rows[row][index].sortText ?? this.rows[row][index].text;
-    // Rows that are equal keep the order in which they were published.
+    // Equal rows keep the order in which they were published.
     this.order.sort((one, other) => sign * compareTexts(text(one), text(other)) || one - other);
     this.heads.forEach((head, each) => {
       if (each === index) head.setAttribute("aria-sort", this.isDescending ? "descending" : "ascending");
@@ -82,7 +82,7 @@ class SortedTable {
     this.fit();
   }
 
-  // Where the columns do not fit side by side, each row becomes a block.
+  // If the columns do not fit side by side, each row becomes a block.
   fit() {
     const table = this.body.parentElement;
     this.element.classList.remove("stacked");
@@ -90,8 +90,8 @@ class SortedTable {
   }
 }
 
-// Where rows are shown as blocks the title goes with the cell, and an empty cell takes no place. The roles say what it
-// is there too, where browsers would forget that it is a table.
+// In rows shown as blocks each cell has its title, and empty cells are hidden. The roles keep the table readable for
+// screen readers, as browsers would otherwise no longer treat it as a table.
 function tableCell(cell, title) {
   return make("td", { role: "cell", "data-title": title, class: cell.text === "" ? "empty" : null },
       cell.node ? cell.node() : cell.text);

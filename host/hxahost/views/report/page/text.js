@@ -1,10 +1,10 @@
-// Text of tools on the page. It becomes text nodes and nothing else; what would be invisible or would turn the
-// direction of the text around it is shown as an escape, as in the tables of the terminal.
+// Shows the text of tools. It becomes text nodes only; characters that are invisible or change the direction of the
+// text are shown as escapes, as in the tables of the terminal.
 
 const kUnsafeCharacters = new RegExp("[\\u0000-\\u0008\\u000b\\u000c\\u000e-\\u001f\\u007f-\\u009f\\u00ad\\u061c" +
   "\\u034f\\u115f\\u1160\\u17b4\\u17b5\\u180e\\u200b-\\u200f\\u2028-\\u202e\\u2060-\\u206f\\u2800\\u3164\\ufeff\\uffa0" +
   "\\ufff9-\\ufffb\\u{1d173}-\\u{1d17a}\\u{e0000}-\\u{e0fff}]", "gu");
-// More marks on one character than any language puts there are drawn over the lines above and below.
+// No language uses more marks on one character; more are drawn over the lines above and below.
 const kFurtherMarks = new RegExp("(?<=\\p{Mn}{4})\\p{Mn}", "gu");
 
 const kLineCharacters = { "\t": "\\t", "\r": "\\r", "\n": "\\n" };
@@ -15,7 +15,7 @@ function escapedCharacter(character) {
   return code.length <= 2 ? "\\x" + code.padStart(2, "0") : "\\u" + code.padStart(4, "0");
 }
 
-// Tabs and line ends stay: for text that is shown in lines of its own.
+// Keeps tabs and line ends, for text that is shown as lines.
 function visibleLines(text) {
   return text.replace(kUnsafeCharacters, escapedCharacter).replace(kFurtherMarks, escapedCharacter);
 }
@@ -61,7 +61,7 @@ function counted(count, one, many) {
   return `${count.toLocaleString("en-US")} ${count === 1 ? one : many}`;
 }
 
-// Numbers within texts count as numbers: "ID 9" comes before "ID 10".
+// Numbers within texts are sorted by value: "ID 9" comes before "ID 10".
 const kCollator = new Intl.Collator("en", { numeric: true, sensitivity: "base" });
 
 function compareTexts(one, other) {

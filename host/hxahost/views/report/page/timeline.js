@@ -1,4 +1,4 @@
-// The events of all logs that have a time, in one order, and beside them the logs that have none.
+// The events of all logs that contain times, in one order, and the logs without times.
 
 const kBins = 120;
 
@@ -8,7 +8,7 @@ function dddEvent(object) {
     level: levelOfEvent("DDD"), text: `${place}, reason ${textOf(object, "Reason")}: ${textOf(object, "Descrip")}` };
 }
 
-// What a log says, "__proto__" for one, must find nothing but the levels that there are.
+// A text of a log, such as "__proto__", must not match anything except the levels.
 function levelOfEvent(severity) {
   return Object.hasOwn(report.data.eventLevels, severity) ? report.data.eventLevels[severity] : "unknown";
 }
@@ -19,15 +19,15 @@ function managerEvent(object) {
     text: textOf(object, "Message"), machine: textOf(object, "MachineName") };
 }
 
-// The parts of a time that a calendar has; null for a time that the log did not say or that is in no calendar.
+// The parts of a calendar time; null if the log contains no time or an impossible one.
 function eventMoment(event) {
   const parts = timeParts(String(event.object.properties.MessageTimestamp ?? ""));
   const milliseconds = parts ? Date.parse(`${parts.date}T${parts.clock}Z`) : NaN;
   return Number.isNaN(milliseconds) ? null : { ...parts, milliseconds };
 }
 
-// By the clock of the log, not by the zone: the log of defunct drives names no zone, and its clock shows what the
-// clock of the RAID manager shows.
+// Sorted by the clock of the log, without the zone: the log of defunct drives contains no zone, and its clock shows the
+// same time as that of the RAID manager.
 function timedEvents(model) {
   const events = [...model.all(kDddEvents).map(dddEvent), ...model.all(kManagerEvents).map(managerEvent)];
   for (const event of events) event.moment = eventMoment(event);
@@ -58,7 +58,7 @@ function eventTable(events) {
   return newTable("Events by time", columns, events);
 }
 
-// How many events of a log fell into each part of the time, as bars; the table says the same in words.
+// The events of a log in each part of the time, as bars; the table contains the same in words.
 function laneBars(events, first, span) {
   const bins = new Map();
   for (const event of events) {
