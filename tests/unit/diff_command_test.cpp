@@ -58,7 +58,7 @@ TEST_F(DiffCommand, ShowsTheFindingsBeforeEverythingElse) {
   out_.str("");
   RunDiffCommand(Options(strange.c_str(), failed.c_str()), out_);
   EXPECT_NE(out_.str().find("  ! unknown -> critical: "), std::string::npos) << out_.str();
-  EXPECT_NE(out_.str().find("replace it (was \"Strange\\x07\")\n"), std::string::npos) << out_.str();
+  EXPECT_NE(out_.str().find("it has failed (was \"Strange\\x07\")\n"), std::string::npos) << out_.str();
   out_.str("");
   RunDiffCommand(Options(failed.c_str(), online.c_str()), out_);
   EXPECT_NE(out_.str().find("  - critical: "), std::string::npos) << out_.str();

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/text/ascii.h"
 
 namespace {
 
@@ -151,8 +152,8 @@ TEST(Options, ShowHelpWithDefaultsAndExamples) {
     EXPECT_THAT(help.text, HasSubstr("Exit status:"));
   }
   const std::string help = Parse("query --help").text;
-  for (const char* const said : {"zenx.pi beside this program", "--repeat N=1", "--format FORMAT=table",
-                                 "--os-type N|none=none", "--no-progress"}) {
+  for (const char* const said : {"--repeat N", "(default: 1)", "--format FORMAT",
+                                 "--os-type N|none", "--no-progress"}) {
     EXPECT_THAT(help, HasSubstr(said));
   }
 }
@@ -165,6 +166,35 @@ TEST(Options, ShowExamplesOfEachCommandInItsOwnHelp) {
     const std::string other = command == "query" ? "  hxahost health" : "  hxahost query";
     EXPECT_EQ(help.find(other, examples), std::string::npos) << help;
   }
+}
+
+TEST(Options, ShowHelpIn80Columns) {
+  const std::string commands = Parse("complete").text;
+  std::vector<std::vector<std::string>> helps = {
+      {"--help" },
+      { "bundle", "list", "--help"},
+      { "bundle", "show", "--help"}
+  };
+  for (const std::string_view word : Split(commands, "\n")) {
+    if (!word.empty() && word.front() != '-') helps.push_back({std::string(word), "--help"});
+  }
+  EXPECT_EQ(helps.size(), 13U) << commands;
+  for (const std::vector<std::string>& arguments : helps) {
+    const std::string help = ParseCommandLine(arguments).text;
+    for (const std::string_view line : Split(help, "\n")) EXPECT_LE(line.size(), 80U) << line;
+  }
+}
+
+TEST(Options, DescribeEachOptionOnceInTheManualPage) {
+  const std::string page = Parse("manual").text;
+  for (const std::string item :
+       {".Ss bundle show\n", ".It Fl -width Ar N\n", ".It Fl -output Ar FILE , Fl o\n", ".It Fl -record Ar BUNDLE\n",
+        ".It Ar WHAT\n", ".It Li hxahost explain C4 slot 8\n", ".It Fl -repeat Ar N\n", ".It Fl -help , Fl h\n"}) {
+    const std::size_t place = page.find(item);
+    EXPECT_NE(place, page.npos) << item;
+    EXPECT_EQ(page.find(item, place + 1), page.npos) << item;
+  }
+  EXPECT_NE(page.find(".It Li hxahost query \\-\\-directory C:\\etools\n"), page.npos);
 }
 
 TEST(Options, ShowTheVersionOfTheBuild) {
@@ -264,8 +294,8 @@ TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
       {"repeat half",               {"query", "--repeat", "1.5"},                           "from 1 on"               },
       {"repeat blank",              {"query", "--repeat", " 1"},                            "from 1 on"               },
       {"repeat too often",          {"query", "--repeat", "4294967296"},                    "from 1 on"               },
-      {"format unknown",            {"query", "--format", "xml"},                           "table or json"           },
-      {"format in capitals",        {"query", "--format", "JSON"},                          "table or json"           },
+      {"format unknown",            {"query", "--format", "xml"},                           "give table, json"           },
+      {"format in capitals",        {"query", "--format", "JSON"},                          "give table, json"           },
       {"OS type too high",          {"query", "--os-type", "65536"},                        "0 to 65535, or none"     },
       {"OS type less",              {"query", "--os-type=-1"},                              "0 to 65535, or none"     },
       {"OS type word",              {"query", "--os-type", "windows"},                      "0 to 65535, or none"     },

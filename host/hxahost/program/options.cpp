@@ -1,13 +1,16 @@
 #include "host/hxahost/program/options.h"
 
 #include <algorithm>
+#include <memory>
 #include <string_view>
 
 #include <CLI/CLI.hpp>
 
+#include "host/hxahost/program/command_texts.h"
 #include "host/hxahost/program/completion.h"
 #include "host/hxahost/program/formats.h"
-#include "host/hxahost/program/option_examples.h"
+#include "host/hxahost/program/help_layout.h"
+#include "host/hxahost/program/manual_page.h"
 #include "host/hxahost/program/option_values.h"
 #include "host/hxahost/program/unexpected_arguments.h"
 #include "host/hxahost/system/exit_status.h"
@@ -56,7 +59,11 @@ struct TypedOptions {
 
 std::string FormatNames(std::string_view command) {
   std::string names;
-  for (const Format& format : FormatsOf(command)) names += (names.empty() ? "" : " or ") + std::string(format.name);
+  const std::span<const Format> formats = FormatsOf(command);
+  for (const Format& format : formats) {
+    const bool isLast = &format == &formats.back();
+    names += (names.empty() ? "" : isLast ? " or " : ", ") + std::string(format.name);
+  }
   return names;
 }
 
@@ -84,35 +91,47 @@ CLI::Option* AddPath(CLI::App& command, const std::string& name, const std::stri
 }
 
 // "-" is standard output, as without the option.
-void AddOutput(CLI::App& command, std::filesystem::path& path, const std::string& purpose = "") {
+void AddOutput(CLI::App& command, std::filesystem::path& path) {
   const auto read = [&path](const std::string& text) { path = text == "-" ? "" : PathFromUtf8(text); };
   command
-      .add_option_function<std::string>("-o,--output", read,
-                                        "Where to write (default, and -: standard output)" + purpose)
+      .add_option_function<std::string>(
+          "-o,--output", read,
+          "Write to this file; it is replaced only when the output is complete (default, and -: standard output)")
       ->type_name("FILE");
 }
 
 // The limits for the utilities.
 void AddRunLimits(CLI::App& command, TypedOptions& typed) {
-  command.add_option("--limit", typed.runSeconds, "How long one run of a tool may take (default: 300)")
+  command
+      .add_option("--limit", typed.runSeconds,
+                  "Limit for one run of a tool (default: 300). After a run reached it, nothing more is asked about "
+                  "this controller; after a second one, nothing more of this tool")
       ->type_name("SECONDS");
-  command.add_option("--deadline", typed.collectionSeconds, "How long all runs together may take (default: any time)")
+  command.add_option("--deadline", typed.collectionSeconds, "Limit for all runs together (default: none)")
       ->type_name("SECONDS");
-  command.add_option("--output-limit", typed.outputMebibytes, "How much all runs together may print (default: 512)")
+  command
+      .add_option("--output-limit", typed.outputMebibytes, "Limit for the output of all runs together (default: 512)")
       ->type_name("MIB");
-  command.add_flag("--ask-once", typed.asksOnce,
-                   "Answer a repeated command of a tool from memory (default of status and health)");
-  command.add_flag("--ask-again", typed.asksAgain, "Run it as often as it is asked for (default of query and explain)");
+  command.add_flag(
+      "--ask-once", typed.asksOnce,
+      "Run each command of a tool once and answer repeated ones from memory (default of status and health)");
+  command.add_flag(
+      "--ask-again", typed.asksAgain,
+      "Run a command as often as the plug-in asks, as the diagnostics host does (default of query and explain)");
 }
 
 void AddLocalTime(CLI::App& command, TypedOptions& typed) {
-  command.add_option("--local-time", typed.localTime, "CIM date and time to use (default: the clock)")
+  command
+      .add_option(
+          "--local-time", typed.localTime,
+          "Use this time, as yyyymmddhhmmss.mmmmmmsutc with the offset from UTC in minutes (default: the clock)")
       ->type_name("CIMDATETIME");
 }
 
 void AddInputLimit(CLI::App& command, TypedOptions& typed) {
   command
-      .add_option("--input-limit", typed.inputLimit, "Largest file to read, 1 to 65536 MiB; larger ones are refused")
+      .add_option("--input-limit", typed.inputLimit,
+                  "Refuse to read larger files, 1 to 65536 MiB; this includes the RAID manager's log")
       ->type_name("MIB")
       ->capture_default_str();
 }
@@ -120,16 +139,19 @@ void AddInputLimit(CLI::App& command, TypedOptions& typed) {
 // The options of every command that collects.
 void AddCollecting(CLI::App& command, TypedOptions& typed) {
   CollectionOptions& read = typed.read.collection;
-  AddPath(command, "--plugin", "FILE", read.plugin, "The plug-in to load (default: zenx.pi beside this program)");
-  AddPath(command, "--directory", "DIR", read.directory, "Where the folder zenx with the tools is (default: here)");
-  AddOutput(command, typed.read.output, "; complete or not at all");
-  AddPath(command, "--log", "FILE", read.log, "Write the log there: one line for an entry, its level first");
+  AddPath(command, "--plugin", "FILE", read.plugin, "Load this plug-in (default: zenx.pi beside this program)");
+  AddPath(command, "--directory", "DIR", read.directory,
+          "The folder that contains the folder zenx with the tools (default: the working directory)");
+  AddOutput(command, typed.read.output);
+  AddPath(command, "--log", "FILE", read.log,
+          "Write the log of the plug-in to this file: one line per entry, its level first");
   AddPath(command, "--record", "BUNDLE", read.record,
-          "Keep all that the collection was told in a bundle, to be replayed (of a query -: standard output)");
+          "Write everything that the collection receives to this bundle, for --replay (query: - is standard output)");
   command.add_flag(
       "--mask", typed.mask,
-      "Hide machine name, serial numbers and given names in that bundle; FRU part numbers, too: --mask=all");
-  AddPath(command, "--replay", "BUNDLE", read.replay, "Run no tool: take everything from a bundle (-: standard input)");
+      "Mask the machine's name, serial numbers and given names in that bundle; --mask=all also FRU part numbers");
+  AddPath(command, "--replay", "BUNDLE", read.replay,
+          "Run no tool and take all answers from this bundle (-: standard input)");
   AddInputLimit(command, typed);
   AddRunLimits(command, typed);
   command
@@ -137,23 +159,22 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
                   "CIM \"OSType\" that is passed to the plug-in, 0 to 65535; 82 makes it leave out hrconf_64")
       ->type_name("N|none")
       ->capture_default_str();
-  command.add_option("--machine-name", typed.machineName, "What the machine is called (default: its own name)")
+  command.add_option("--machine-name", typed.machineName, "Use this name of the machine (default: its own)")
       ->type_name("NAME");
   AddLocalTime(command, typed);
-  command.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which command is running");
+  command.add_flag("--no-progress", typed.noProgress, "Do not show the running command on a terminal");
 }
 
 // The layout of text for a terminal.
 void AddLayout(CLI::App& command, TypedOptions& typed) {
-  command.add_option("--width", typed.width, "Columns of the output, 40 to 1000 (default: the terminal's; else 100)")
+  command
+      .add_option("--width", typed.width, "Columns of the output, 40 to 1000 (default: those of the terminal, or 100)")
       ->type_name("N");
-  command.add_flag("--ascii", typed.read.isAscii,
-                   "Output in ASCII alone (default where the terminal shows nothing else)");
+  command.add_flag("--ascii", typed.read.isAscii, "Write only ASCII (default on terminals that show only ASCII)");
 }
 
 void AddColour(CLI::App& command, TypedOptions& typed) {
-  command
-      .add_option("--color", typed.read.color, "State words in colour (auto: on a terminal, where NO_COLOR is not set)")
+  command.add_option("--color", typed.read.color, "Show states in colour; auto: on a terminal, if NO_COLOR is not set")
       ->type_name("auto|always|never")
       ->capture_default_str();
 }
@@ -161,7 +182,7 @@ void AddColour(CLI::App& command, TypedOptions& typed) {
 void AddLimits(CLI::App& command, TypedOptions& typed) {
   command
       .add_option("--warn", typed.limits,
-                  "Warn from this value on; may be given again. NAME: " + LimitNames() + "; N: a number or \"off\"")
+                  "Warn from this value on; may be repeated. NAME: " + LimitNames() + "; N: a number or \"off\"")
       ->type_name("NAME=N")
       ->allow_extra_args(false);
 }
@@ -170,19 +191,21 @@ void AddExpectations(CLI::App& command, TypedOptions& typed) {
   Expectations& expected = typed.read.expectations;
   command
       .add_option("--expect", expected.tools,
-                  "Utilities that must be installed: " + ToolNames() + "; several with commas; may be given again")
+                  "These utilities must be installed, or the health is unknown: " + ToolNames() +
+                      "; separated by commas; may be repeated")
       ->type_name("TOOL")
       ->delimiter(',')
       ->allow_extra_args(false);
-  command.add_option("--expect-controllers", typed.expectedControllers, "Fewer controllers are critical")
+  command.add_option("--expect-controllers", typed.expectedControllers, "Fewer controllers than this are critical")
       ->type_name("N");
-  command.add_option("--expect-disks", typed.expectedDisks, "Fewer disks are critical")->type_name("N");
+  command.add_option("--expect-disks", typed.expectedDisks, "Fewer disks than this are critical")->type_name("N");
   AddPath(command, "--baseline", "FILE", typed.read.baseline,
-          "Compare with this JSON result or bundle: what was there and is missing is critical");
+          "Compare with this JSON result or bundle: a controller, logical drive or disk that is missing now is "
+          "critical; a new or moved one and more errors are information");
 }
 
 void AddStatus(CLI::App& status, TypedOptions& typed) {
-  AddFormat(status, typed.statusFormat, ": one screen for people, JSON for programs");
+  AddFormat(status, typed.statusFormat, ": text is one screen, json is for programs");
   AddLimits(status, typed);
   AddExpectations(status, typed);
   AddLayout(status, typed);
@@ -191,11 +214,13 @@ void AddStatus(CLI::App& status, TypedOptions& typed) {
 }
 
 void AddHealth(CLI::App& health, TypedOptions& typed) {
-  AddFormat(health, typed.healthFormat, ": lines for people, for Nagios, for programs, metrics");
-  health.add_flag("-v,--verbose", typed.read.isVerbose, "Show below each incident the findings that it sums up");
+  AddFormat(health, typed.healthFormat,
+            ": text is for people, nagios for Nagios and compatible programs, json for programs, prometheus for the "
+            "textfile collector of the node exporter");
+  health.add_flag("-v,--verbose", typed.read.isVerbose, "Show the findings of each incident");
   AddPath(health, "--save-baseline", "FILE", typed.read.saveBaseline,
-          "Write the JSON result that later ones can be compared with; complete or not at all");
-  health.add_flag("--rules", typed.healthRules, "Show the rules that findings are made by, and end");
+          "Write a JSON result for later use with --baseline; nothing is written if a utility did not answer");
+  health.add_flag("--rules", typed.healthRules, "Show the rules for findings, and exit");
   AddLimits(health, typed);
   AddExpectations(health, typed);
   AddLayout(health, typed);
@@ -217,25 +242,29 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
   QueryOptions& read = typed.read;
   query
       .add_option("--class", read.classes,
-                  "Classes to ask for: names, with or without KVRSG_ and zx, or controllers, drives, groups, disks, "
-                  "events, versions; several with commas, the order counts (default: all)")
+                  "Query only these classes, in this order: names with or without KVRSG_ and zx, or controllers, "
+                  "drives, groups, disks, events, versions; separated by commas. For associations, name the classes "
+                  "that they link first (default: all)")
       ->type_name("NAME")
       ->delimiter(',')
       ->allow_extra_args(false);
-  query.add_option("--repeat", typed.repeat, "How often to query; the tools are run by the first query alone")
+  query.add_option("--repeat", typed.repeat, "Query so many times in one process; only the first query runs the tools")
       ->type_name("N")
       ->capture_default_str();
   AddFormat(query, read.format,
-            ": tables for a terminal, JSON for programs (jsonl: an instance a line), CSV for spreadsheets, "
-            "a page for browsers, instances for CIM repositories");
-  query.add_flag("--runs", read.showRuns, "Put every run of a tool into the JSON, with what came of it");
-  query.add_flag("--unread", read.showUnread, "List the lines of the tools' texts whose values nothing shows");
-  query.add_flag("--all", read.showAll, "Tables: also versions, statistics and numbers of instances");
-  query.add_flag("-v,--verbose", read.isVerbose, "Tables: also the short forms of states, as in \"Critical (CRT)\"");
+            ": table is for people, json for programs, jsonl has one instance per line, csv is for spreadsheets, html "
+            "is a report for browsers, cim-xml and mof are for CIM repositories");
+  query.add_flag("--runs", read.showRuns, "Add every run of a tool and its outcome to the JSON");
+  query.add_flag("--unread", read.showUnread,
+                 "List the lines of the tools' texts whose values no property shows; needs all classes");
+  query.add_flag("--all", read.showAll, "Add versions, statistics and numbers of instances to the tables");
+  query.add_flag("-v,--verbose", read.isVerbose,
+                 "Keep the short forms of states in the tables, as in \"Critical (CRT)\"");
   AddLimits(query, typed);
   AddExpectations(query, typed);
-  query.add_flag("--superclasses", read.withSuperclasses,
-                 "Declare the classes in the MOF, derived from the DMTF's, for repositories that have its schema");
+  query.add_flag(
+      "--superclasses", read.withSuperclasses,
+      "Declare the classes in the MOF, derived from those of the DMTF's schema, for repositories that contain it");
   AddLayout(query, typed);
   AddColour(query, typed);
   AddCollecting(query, typed);
@@ -243,11 +272,11 @@ void AddQuery(CLI::App& query, TypedOptions& typed) {
 
 void AddDiff(CLI::App& diff, TypedOptions& typed) {
   DiffOptions& read = typed.diff;
-  diff.add_option("OLD", read.oldFile, "What \"hxahost query --format json --output OLD\" wrote first, or a bundle")
-      ->required();
-  diff.add_option("NEW", read.newFile, "What it wrote later")->required();
+  diff.add_option("OLD", read.oldFile, "The older result of \"hxahost query --format json\", or a bundle")->required();
+  diff.add_option("NEW", read.newFile, "The newer one")->required();
   AddFormat(diff, read.format);
-  diff.add_flag("-v,--verbose", read.isVerbose, "Show every change, with the path of its object");
+  diff.add_flag("-v,--verbose", read.isVerbose,
+                "Show every change with the path of its object, and each changed link, version and raw text");
   AddInputLimit(diff, typed);
 }
 
@@ -257,15 +286,15 @@ void AddFleet(CLI::App& fleet, TypedOptions& typed) {
                   "Results (JSON, JSON lines), bundles, and folders with files *.json, *.jsonl and *.bundle")
       ->required();
   AddFormat(fleet, typed.fleet.shown.format,
-            ": tables for people; objects for programs (jsonl: a line each), spreadsheets; a page; metrics");
-  fleet.add_option("--stale", typed.staleDays, "List machines that were last collected from more than N days ago")
-      ->type_name("DAYS");
-  fleet.add_flag("--all", typed.read.showAll, "Tables: also all machines with nothing wrong");
-  AddOutput(fleet, typed.read.output, "; complete or not at all");
+            ": table is for people, json for programs, jsonl for databases (one object per line), csv for "
+            "spreadsheets, html for browsers, prometheus for the textfile collector of the node exporter");
+  fleet.add_option("--stale", typed.staleDays, "List machines whose newest result is older")->type_name("DAYS");
+  fleet.add_flag("--all", typed.read.showAll, "List all machines in the tables, also those with nothing wrong");
+  AddOutput(fleet, typed.read.output);
   AddPath(fleet, "--pages", "DIR", typed.fleet.pages,
-          "Write the report of each machine there, for the page to link to");
+          "With --format html, write the report of each machine to this folder and link to it");
   AddLocalTime(fleet, typed);
-  fleet.add_flag("--no-progress", typed.noProgress, "Do not show on a terminal which file is read");
+  fleet.add_flag("--no-progress", typed.noProgress, "Do not show the current file on a terminal");
   AddLimits(fleet, typed);
   AddLayout(fleet, typed);
   AddColour(fleet, typed);
@@ -274,30 +303,32 @@ void AddFleet(CLI::App& fleet, TypedOptions& typed) {
 void AddBundle(CLI::App& bundle, TypedOptions& typed) {
   bundle.require_subcommand(1);
   BundleOptions& read = typed.bundle;
-  CLI::App* const list = bundle.add_subcommand("list", "One line for each command, and for the log");
+  CLI::App* const list = bundle.add_subcommand("list", "List the commands and the log");
   AddPath(*list, "FILE", "TEXT", read.file, "The bundle")->required();
-  CLI::App* const show = bundle.add_subcommand("show", "What a command printed, or what holds for all of them");
+  CLI::App* const show =
+      bundle.add_subcommand("show", "Show outputs, or the values before the commands");
   AddPath(*show, "FILE", "TEXT", read.file, "The bundle")->required();
-  show->add_option("ITEM", typed.bundleItems, "Numbers of the list (default: the part before the items)");
-  show->add_flag("--raw", read.isRaw, "The bytes themselves, for a file or another program");
+  show->add_option("ITEM", typed.bundleItems, "Numbers of bundle list (default: the values before the commands)");
+  show->add_flag("--raw", read.isRaw, "Write the bytes of the items unchanged");
   AddOutput(*show, read.output);
-  CLI::App* const mask = bundle.add_subcommand("mask", "Hide machine name, serial numbers and given names");
+  CLI::App* const mask =
+      bundle.add_subcommand("mask", "Mask names and serial numbers in a copy");
   AddPath(*mask, "IN", "TEXT", read.file, "The bundle")->required();
-  AddPath(*mask, "OUT", "TEXT", read.output, "The masked one")->required();
-  mask->add_flag("--all", typed.masksAll, "Hide FRU part numbers, too");
+  AddPath(*mask, "OUT", "TEXT", read.output, "The masked copy")->required();
+  mask->add_flag("--all", typed.masksAll, "Mask FRU part numbers, too");
   for (CLI::App* const command : {list, show, mask}) AddInputLimit(*command, typed);
 }
 
 void AddNothing(CLI::App&, TypedOptions&) {}
 
 void AddSchema(CLI::App& schema, TypedOptions& typed) {
-  AddFormat(schema, typed.schemaFormat, ": to be compiled, or to be read");
+  AddFormat(schema, typed.schemaFormat, ": mof is for CIM repositories, markdown for people");
   schema.add_flag("--superclasses", typed.withSuperclasses,
-                  "Derive the classes from the DMTF's, for repositories that have its schema");
+                  "In MOF, derive the classes from those of the DMTF's schema, for repositories that contain it");
 }
 
 void AddHelp(CLI::App& help, TypedOptions& typed) {
-  help.add_option("COMMAND", typed.helpOf, "The command, as it is typed (default: the program)");
+  help.add_option("COMMAND", typed.helpOf, "The command, or command and subcommand (default: the program)");
 }
 
 void RejectEmptyValues(const CLI::App& query) {
@@ -472,37 +503,39 @@ CommandLine ReadHelp(const CLI::App&, const TypedOptions& typed) {
 
 struct CommandRow {
   const char* name;
-  const char* description;
-  const char* examples;
   void (*add)(CLI::App& command, TypedOptions& typed);  // its options
   CommandLine (*read)(const CLI::App& command, const TypedOptions& typed);
 };
 
-// Asked for by the completion of shells, with the words so far, and by nobody else.
+// For the completion of shells, with the words so far, and for the manual page; people do not need them.
 constexpr std::string_view kCompleteCommand = "complete";
+constexpr std::string_view kManualCommand = "manual";
 
 // Help, advice on mistyped words and completion are made from this table.
 constexpr CommandRow kCommands[] = {
-    {"status",  "Show on one screen what is wrong and what to do",         kStatusExamples,  AddStatus,  ReadStatus      },
-    {"query",   "Run the controller utilities and show what they say",     kQueryExamples,   AddQuery,   ReadQuery       },
-    {"health",  "Say what is wrong with the controllers and their drives", kHealthExamples,  AddHealth,  ReadHealth      },
-    {"explain", "Show which line each value of an object comes from",      kExplainExamples, AddExplain, ReadExplain     },
-    {"diff",    "Show what is different between two JSON results",         kDiffExamples,    AddDiff,    ReadDiff        },
-    {"fleet",   "Show results of many machines together",                  kFleetExamples,   AddFleet,   ReadFleetCommand},
-    {"bundle",  "Look into what \"hxahost query --record\" wrote",         kBundleExamples,  AddBundle,  ReadBundle      },
-    {"classes", "List the classes that the plug-in publishes",             kClassesExamples, AddNothing, ReadClasses     },
-    {"schema",  "Show these classes with their properties",                kSchemaExamples,  AddSchema,  ReadSchema      },
-    {"help",    "Show what the program, or one of its commands, takes",    kHelpExamples,    AddHelp,    ReadHelp        },
+    {"status",  AddStatus,  ReadStatus      },
+    {"query",   AddQuery,   ReadQuery       },
+    {"health",  AddHealth,  ReadHealth      },
+    {"explain", AddExplain, ReadExplain     },
+    {"diff",    AddDiff,    ReadDiff        },
+    {"fleet",   AddFleet,   ReadFleetCommand},
+    {"bundle",  AddBundle,  ReadBundle      },
+    {"classes", AddNothing, ReadClasses     },
+    {"schema",  AddSchema,  ReadSchema      },
+    {"help",    AddHelp,    ReadHelp        },
 };
 
 void AddCommands(CLI::App& program, TypedOptions& typed) {
+  program.set_help_flag("-h,--help", "Show this help and exit");
   program.allow_windows_style_options(false);  // the same command line on every system
-  program.set_version_flag("-V,--version", "hxahost " ZENX_VERSION, "Show the version");
+  program.set_version_flag("-V,--version", "hxahost " ZENX_VERSION, "Show the version and exit");
   program.require_subcommand(1);
-  program.footer(kExamples);
+  program.formatter(std::make_shared<HelpLayout>());
+  program.footer(HelpFooter(CommandTextOf("")));
   for (const CommandRow& row : kCommands) {
-    CLI::App* const command = program.add_subcommand(row.name, row.description);
-    command->footer(row.examples);  // its own commands have the same
+    const CommandText& text = CommandTextOf(row.name);
+    CLI::App* const command = program.add_subcommand(row.name, std::string(text.description));
+    command->footer(HelpFooter(text));  // its subcommands inherit it
     row.add(*command, typed);
   }
 }
@@ -520,12 +553,13 @@ std::vector<std::string> WithCommand(std::vector<std::string> arguments) {
 
 CommandLine ParseCommandLine(const std::vector<std::string>& typed) {
   const std::vector<std::string> arguments = WithCommand(typed);
-  CLI::App program("hxahost - loads the collector plug-in, queries it and shows what it publishes", "hxahost");
+  CLI::App program(std::string(CommandTextOf("").description), "hxahost");
   TypedOptions options;
   AddCommands(program, options);
   if (arguments.front() == kCompleteCommand) {
     return {Command::kShowText, Completions(program, {arguments.begin() + 1, arguments.end()}), {}};
   }
+  if (arguments.front() == kManualCommand) return {Command::kShowText, ManualPage(program), {}};
   try {
     program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::CallForVersion& version) {
