@@ -109,6 +109,20 @@ test("The keyboard reaches a disk, its details, and comes back to it", async (op
   await dialog.waitFor();
 });
 
+test("A link that is followed while its details are closing opens them again", async (open) => {
+  const page = await open(pageFile("sample"));
+  const link = page.locator(".drawing a.frame", { hasText: "Array B, 2 disks" }).first();
+  await link.click();
+  // The close event comes after the click.
+  await link.evaluate((element) => {
+    document.querySelector("dialog").close();
+    element.click();
+  });
+  await page.waitForTimeout(100);
+  assert.equal(await page.locator("dialog").evaluate((dialog) => dialog.open), true);
+  assert.match(page.url(), /#object-\d+$/);
+});
+
 test("The arrow keys move from row to row and to both ends", async (open) => {
   const page = await open(pageFile("many"));
   await tabTo(page, /^channel 0, ID 0\s/);

@@ -106,9 +106,13 @@ function showFromAddress(model) {
 function setUpDetails(model) {
   const dialog = byId("details");
   window.addEventListener("hashchange", () => showFromAddress(model));
-  // The address must change back, or the same link would not work a second time.
+  // The address changes back, so that the same link works again. It may be followed before this event.
   dialog.addEventListener("close", () => {
-    if (window.location.hash.startsWith("#object-")) window.history.replaceState(null, "", "#");
+    if (!dialog.open && window.location.hash.startsWith("#object-")) window.history.replaceState(null, "", "#");
+  });
+  document.addEventListener("click", (event) => {
+    const link = event.target.closest("a[href^='#object-']");
+    if (link && !dialog.open && link.getAttribute("href") === window.location.hash) showFromAddress(model);
   });
   dialog.addEventListener("click", (event) => {
     if (event.target === dialog) dialog.close();
