@@ -83,7 +83,7 @@ TEST_P(Machines, ShowWhatIsWrongAndWhatToDo) {
   const MachineAnswers answers = ReadMachineAnswers(FileText(file.string() + ".answers"));
   const fs::path bundle = folder_.Write("machine.bundle", WriteBundle(BundleOf(answers)));
   const std::vector<std::string> commands = CommandsIn(FileText(file.string() + ".expected"));
-  ASSERT_FALSE(commands.empty()) << "write down what the program should say";
+  ASSERT_FALSE(commands.empty()) << "write down the expected output of the program";
   std::string shown;
   for (const std::string& command : commands) shown += Run(command, bundle);
   EXPECT_TRUE(IsGolden("../machines/" + GetParam() + ".expected", shown));

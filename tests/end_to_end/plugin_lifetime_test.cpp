@@ -76,11 +76,11 @@ TEST(PluginLifetime, QueriesWaitForEachOtherAndTheLibraryWorksAgainOnlyWhereItWa
     auto other = std::async(std::launch::async, [&plugin] { return Query(plugin); });
     published = Query(plugin);
     EXPECT_EQ(other.get(), published);
-    EXPECT_FALSE(published.empty()) << "commands that said nothing";
+    EXPECT_FALSE(published.empty()) << "commands without output";
     EXPECT_FALSE(tools.WereCrowded()) << "two collections at once";
     runs = tools.TakeRuns();
     EXPECT_EQ(Query(plugin), published);
-    EXPECT_EQ(tools.TakeRuns(), 0) << "what was collected stays for the process";
+    EXPECT_EQ(tools.TakeRuns(), 0) << "the collected data stays until the process ends";
   }
   const auto loadAgain = [&file] { const Plugin again(file); };
   EXPECT_THAT(loadAgain, ThrowsMessage<ProgramError>(HasSubstr("loads a plug-in once")))

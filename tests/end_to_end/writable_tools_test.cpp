@@ -32,7 +32,7 @@ class WritableTools : public testing::Test {
     const ProgramResult result =
         RunHxahost({"query", "--directory", hxahost::Utf8FromPath(folder_.Path()), "--format", "json"});
     EXPECT_EQ(result.exitStatus, 4);
-    EXPECT_EQ(result.out.front(), '{') << "the warning is no part of the result";
+    EXPECT_EQ(result.out.front(), '{') << "the warning is not part of the result";
     return result.err.substr(0, result.err.find("hxahost: No tool answered"));
   }
 

@@ -241,7 +241,7 @@ TEST_F(QcmdrunDataTest, LeavesBadStripesAndGoesOnWhenOneIsRejected) {
 TEST_F(QcmdrunDataTest, LetsTheFailureOfACutOffAnswerPass) {
   Answer("getsubstat", "device", "A:1 C:1 I:0 PARAMS:0 \n");
   EXPECT_THROW(Collect(), std::out_of_range);
-  EXPECT_EQ(ControllerNumbers(), (Texts{"1"})) << "what was complete before stays";
+  EXPECT_EQ(ControllerNumbers(), (Texts{"1"})) << "complete objects before it stay";
 }
 
 TEST_F(QcmdrunDataTest, LeavesTheSlotDeviceEmptyWhenNoPresentDeviceHasTheSlotNumber) {

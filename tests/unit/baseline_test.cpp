@@ -199,7 +199,7 @@ TEST(Baseline, SaysHowFastErrorsGrowAndWarnsFromTheLimitOn) {
               ElementsAre("warning: C1 disk at channel 1, ID 0 reports soft errors: 12, 10 more since 2026-11-19 "
                           "09:30:00 +01:00 (5.0 a day)"));
   EXPECT_EQ(machine.findings.size(), 2U) << "the count and its growth have one cause";
-  EXPECT_THAT(HeadlinesOf(Compare(now, before)), IsEmpty()) << "counters may be set back";
+  EXPECT_THAT(HeadlinesOf(Compare(now, before)), IsEmpty()) << "counters may be reset";
 }
 
 TEST(Expectations, MissControllersAndDisksThatAreFewerThanExpected) {

@@ -111,7 +111,7 @@ TEST_F(DiffCommand, IsInTroubleWhereTheOutputCannotBeWritten) {
   out_.setstate(std::ios::badbit);
   try {
     RunDiffCommand(Options(kEmpty, kEmpty), out_);
-    ADD_FAILURE() << "it said that nothing is different";
+    ADD_FAILURE() << "it reported no difference";
   } catch (const ProgramError& error) {
     EXPECT_EQ(static_cast<int>(error.Status()), 2);
   }

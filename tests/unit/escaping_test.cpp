@@ -13,13 +13,13 @@ TEST(Escaping, EscapesWhatWouldActOnATerminal) {
   EXPECT_EQ(EscapeControls("a\0b"s), "a\\x00b");
   EXPECT_EQ(EscapeControls("\x9bJ"), "\\x9bJ") << "a single byte starts a command, too";
   EXPECT_EQ(EscapeControls("\xc2\x9b"), "\\x9b");
-  EXPECT_EQ(EscapeControls("a\xe2\x80\xae."), "a\\u202e.") << "turns the direction of the text";
+  EXPECT_EQ(EscapeControls("a\xe2\x80\xae."), "a\\u202e.") << "changes the direction of the text";
   EXPECT_EQ(EscapeControls("\xef\xbf\xbe\xef\xbf\xbf"), "\\ufffe\\uffff") << "no characters";
   EXPECT_EQ(EscapeControls("a\xf3\xa0\x81\x81\xe1\xa0\x8e."), "a\\U000e0041\\u180e.") << "an invisible letter";
   EXPECT_EQ(EscapeControls("a\u034f\u115f\u1160\u17b4\u2800\u3164\uffa0\U0001d173\U000e0100\U000e01ef."),
             "a\\u034f\\u115f\\u1160\\u17b4\\u2800\\u3164\\uffa0\\U0001d173\\U000e0100\\U000e01ef.")
-      << "characters that nobody sees";
-  EXPECT_EQ(EscapeControls("C:\\zenx"), "C:\\zenx") << "a path stays as it is";
+      << "invisible characters";
+  EXPECT_EQ(EscapeControls("C:\\zenx"), "C:\\zenx") << "a path does not change";
 }
 
 TEST(Escaping, LeavesAFewMarksOnACharacterAndEscapesALongRunOfThem) {

@@ -19,7 +19,7 @@ TEST(ExpectedRuns, FollowFromTheAnswersSoFar) {
   ToolRunList runs;
   EXPECT_EQ(ExpectedRuns(runs), 48U) << "two passes over eight numbers of three tools";
   Add(runs, "qcmdrun", "1", Outcome::kOk);
-  EXPECT_EQ(ExpectedRuns(runs), 48U + 8 + 7) << "what is recorded and what is parsed of a controller";
+  EXPECT_EQ(ExpectedRuns(runs), 48U + 8 + 7) << "the recorded and the parsed commands of a controller";
   Add(runs, "qcmdrun", "2", Outcome::kRefused, "Command aborted");
   EXPECT_EQ(ExpectedRuns(runs), 63U);
   Add(runs, "qcmdrun", "3", Outcome::kRefused, "Found 0 KVR Zentraxis controller(s)");

@@ -146,7 +146,7 @@ TEST(Fleet, FindsDisksThatMovedFromTheirLastPlace) {
   fleet.Add(WithDisk(WithDisk(MachineOf("B", 9), "S1", "C1 slot 3"), "S2", "C1 slot 4"));
   fleet.Add(WithDisk(MachineOf("B", 8), "S2", "C1 slot 4"));
   const auto moved = fleet.MovedDisks();
-  ASSERT_EQ(moved.size(), 1U) << "S2 stayed where it was";
+  ASSERT_EQ(moved.size(), 1U) << "S2 did not move";
   EXPECT_EQ(moved[0].from.place, "C1 slot 2");
   EXPECT_EQ(moved[0].from.machine, "A");
   EXPECT_EQ(moved[0].to.machine, "B");

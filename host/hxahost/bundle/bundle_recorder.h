@@ -19,7 +19,7 @@ class BundleRecorder {
   // UTF-8.
   BundleRecorder(std::optional<std::uint16_t> osType, std::string directory);
 
-  // The services, with all that they say taken down; this outlives them.
+  // The services, with every answer recorded; this must outlive them.
   NKVRHXA20::HostServices Wrap(NKVRHXA20::HostServices services);
 
   // A command that was not run any more, and what the plug-in received instead of an answer.

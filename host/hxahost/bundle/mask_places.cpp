@@ -19,10 +19,10 @@ struct MaskedLabel {
 constexpr auto kNames = MaskScope::kNames;
 constexpr auto kAll = MaskScope::kAll;
 
-// What names a thing for good, or was chosen by people. Left as they are: vendors, models, sizes, states, versions
-// ("EC Version#" too), part numbers of whole controllers, slots, channels, and the letters of arrays, which are the
-// tool's own. In the identifier of a hard disk the serial number follows model and firmware; its first character
-// is the last of the firmware's, and left. Other devices have no serial number there.
+// Values that name an object permanently, or that people chose. Not masked: vendors, models, sizes, states, versions
+// ("EC Version#" too), part numbers of whole controllers, slots, channels, and the letters of arrays, which the tool
+// assigns. In the identifier of a hard disk the serial number follows model and firmware; its first character is the
+// last one of the firmware, and is not masked. Other devices have no serial number there.
 constexpr MaskedLabel kLabels[] = {
     {"Controller Serial Number", 0,  1, "",          kNames},
     {"Serial",                   0,  1, "",          kNames}, // number
@@ -34,7 +34,7 @@ constexpr MaskedLabel kLabels[] = {
     {"Controller name",          0,  1, "",          kNames},
     {"Logical drive name",       0,  1, "",          kNames},
     {"Array name",               0,  1, "",          kNames},
-    {"Enclosure ID",             0,  5, "",          kNames}, // "0" is a place, "5000F0A0001B4000" a name for good
+    {"Enclosure ID",             0,  5, "",          kNames}, // "0" is a place, "5000F0A0001B4000" a permanent name
     {"Device ID",                21, 1, "Hard disk", kNames}, // " TALVERA T36LW10 S96H8B01234"
 };
 

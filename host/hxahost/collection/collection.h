@@ -21,10 +21,10 @@
 
 namespace hxahost {
 
-// One collection in the working directory: all that a query needs, in the order in which it is set up.
+// One collection in the working directory: everything that a query needs, in the order of its setup.
 class Collection {
  public:
-  // Waits until no other program collects there; what a person should know meanwhile goes to err. Throws ProgramError.
+  // Waits until no other program collects there; messages for people go to err. Throws ProgramError.
   Collection(const CollectionOptions& options, std::ostream& err);
   Collection(const Collection&) = delete;
   Collection& operator=(const Collection&) = delete;
@@ -36,15 +36,15 @@ class Collection {
   // throws passes on.
   QueryResult Query(const QueryHeader& header, unsigned number);
 
-  // No query follows. Throws ProgramError where the log lacks entries.
+  // Call it after the last query. Throws ProgramError if the log lacks entries.
   void Finish();
 
-  // Writes what was recorded, also of a query that failed; to out where no file but "-" is named. Throws ProgramError.
+  // Writes the recording, also of a failed query; to out if the file is "-". Throws ProgramError.
   void SaveRecording(std::ostream& out);
 
  private:
   std::string ToolDirectory() const;
-  // As late as can be: who waits for the lock waits for long.
+  // Called as late as possible, because waiting for the lock may take minutes.
   void WarnOfWritableTools();
 
   std::ostream& err_;

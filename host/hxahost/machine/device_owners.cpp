@@ -64,7 +64,7 @@ constexpr OwnerSign kOwnerSigns[] = {
 };
 
 struct Owner {
-  std::string_view tool;  // empty: nothing tells
+  std::string_view tool;  // empty: unknown
   Certainty certainty = Certainty::kLikely;
 };
 
