@@ -1,5 +1,5 @@
-// Bundles: the input is read as the text of one, unchanged and with correct checksums; and as the contents to record, its
-// texts being those of the machine and then the runs.
+// Bundles: the input is read as the text of one, unchanged and with correct checksums; and as the contents to record,
+// its texts being those of the machine and then the runs.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -25,18 +25,18 @@ void TryText(std::string_view text) {
   try {
     const Bundle bundle = ReadBundle(text);
     Require(WriteBundle(bundle) == text, "a bundle that is read is written the same way");
-    Require(LooksLikeBundle(text), "a bundle looks like one");
+    Require(LooksLikeBundle(text), "a bundle is recognised");
   } catch (const BundleError& error) {
     RequirePlainLines(error.what());
-    Require(std::string_view(error.what()).find('\n') == std::string_view::npos, "a reason is one line", error.what());
+    Require(std::string_view(error.what()).find('\n') == std::string_view::npos, "a reason has one line", error.what());
   }
 }
 
 void TryEscapes(const std::string& bytes) {
   const std::string escaped = EscapeBytes(bytes);
   RequirePlainLines(escaped);
-  Require(UnescapeBytes(escaped) == bytes, "what is escaped comes back", escaped);
-  Require(Unquote(Quote(bytes)) == bytes, "what is quoted comes back", escaped);
+  Require(UnescapeBytes(escaped) == bytes, "unescaping returns the same bytes", escaped);
+  Require(Unquote(Quote(bytes)) == bytes, "unquoting returns the same bytes", escaped);
   const auto unescaped = UnescapeBytes(bytes);
   if (unescaped) Require(EscapeBytes(*unescaped) == bytes, "there is one way to escape a text", bytes);
 }
@@ -77,17 +77,18 @@ void TryRoundTrip(const Bundle& bundle) {
   RequirePlainLines(text);
   Require(WithChecksums(text) == text, "checksums are those of the text");
   const Bundle read = ReadBundle(text);
-  Require(WriteBundle(read) == text, "a bundle comes back as it was");
-  Require(read.machine == bundle.machine && read.runs.size() == bundle.runs.size(), "a bundle comes back whole");
+  Require(WriteBundle(read) == text, "reading a bundle returns the one that was written");
+  Require(read.machine == bundle.machine && read.runs.size() == bundle.runs.size(),
+          "reading a bundle returns all of its runs");
   for (std::size_t index = 0; index < read.runs.size(); ++index) {
-    Require(read.runs[index].result.output == bundle.runs[index].result.output, "an output comes back as it was");
+    Require(read.runs[index].result.output == bundle.runs[index].result.output, "an output is read back unchanged");
   }
 }
 
 void TryMask(const Bundle& bundle) {
   std::uint32_t number = 1;
   const Bundle masked = MaskBundle(bundle, [&number] { return number = number * 1664525U + 1013904223U; });
-  Require(masked.isMasked, "a masked bundle says so");
+  Require(masked.isMasked, "a masked bundle is marked as masked");
   Require(ItemCount(masked) == ItemCount(bundle), "masking leaves every item");
   for (std::size_t index = 0; index < masked.runs.size(); ++index) {
     Require(masked.runs[index].result.output.size() == bundle.runs[index].result.output.size(),

@@ -23,8 +23,8 @@ void TryCimText(const std::string& text) {
   try {
     const std::string shown = TCIMDateTime(text).ToString();
     const bool isMinusNull = text.ends_with("-000");  // the same time as "+000"
-    Require(shown == text || isMinusNull, "a time that is accepted is shown as it came", text);
-    Require(TCIMDateTime(shown).ToString() == shown, "what is shown is a time again", text);
+    Require(shown == text || isMinusNull, "a valid time is shown unchanged", text);
+    Require(TCIMDateTime(shown).ToString() == shown, "a shown time is valid", text);
   } catch (const NKVRHXA20::THXAException&) {
     // An invalid text is rejected.
   }
@@ -40,8 +40,8 @@ void TryLogLine(const std::string& line) {
   const auto fields = SplitFields(line);
   const auto time = ReadEventTime(line, fields.front());
   const auto again = ReadEventTime(line, fields.front());
-  Require(time.has_value() == again.has_value(), "the same line gives the same time");
-  if (time) Require(time->ToString() == again->ToString(), "the same line gives the same time", line);
+  Require(time.has_value() == again.has_value(), "the same line produces the same time");
+  if (time) Require(time->ToString() == again->ToString(), "the same line produces the same time", line);
   Require(fields.front() == FirstField(line), "the first field ends at the first tab or NUL");
   std::size_t length = fields.size() - 1;
   for (const std::string_view field : fields) {
@@ -54,7 +54,7 @@ void TryLogLine(const std::string& line) {
   Require(line.find(parts.version) != line.npos, "a version is part of its text", line);
   Require(line.find(parts.build) != line.npos, "a build is part of its text", line);
   const int hours = HoursFromUtc(line);
-  Require(hours >= -12 && hours <= 14, "no zone is further away", line);
+  Require(hours >= -12 && hours <= 14, "no zone is further from UTC", line);
 }
 
 }  // namespace

@@ -60,9 +60,9 @@ class Comparison {
   void Read(const Reader& read, long index) {
     try {
       const std::string_view line = read();
-      Require(IsLine(index) && line == Line(index), "the line is the one that the cursor is on", line);
+      Require(IsLine(index) && line == Line(index), "the scanner has the line of the cursor", line);
     } catch (const std::out_of_range&) {
-      Require(!IsLine(index), "a line that is there can be read");
+      Require(!IsLine(index), "an existing line can be read");
     }
   }
 
@@ -74,9 +74,9 @@ class Comparison {
       const std::string& line = Line(index);
       const bool hasValue = line.find(label) != line.npos && line.find(':') != line.npos;
       const std::string expected = hasValue ? line.substr(line.find(':') + 1) : "";
-      Require(value == expected, "a line with the label has what follows its first colon", value);
+      Require(value == expected, "a line with the label has the value after its first colon", value);
     } catch (const std::out_of_range&) {
-      Require(!IsLine(index), "a line that is there can be read");
+      Require(!IsLine(index), "an existing line can be read");
     }
   }
 
@@ -100,7 +100,7 @@ std::string WithoutLeadingBlanks(std::string text) {
 
 // Every cut returns a part of its text.
 void TryCuts(const std::string& text, const std::string& label, const Section& section) {
-  const auto isPart = [&](std::string_view cut) { Require(IsPart(text, cut), "what is cut out is there", cut); };
+  const auto isPart = [&](std::string_view cut) { Require(IsPart(text, cut), "a cut is a part of the text", cut); };
   isPart(GetSectionValue(label, text, section));
   isPart(CollectedData::TrimLeft(text));
   Require(CollectedData::TrimLeft(text) == WithoutLeadingBlanks(text), "leading blanks are dropped", text);
@@ -116,7 +116,7 @@ void TryCuts(const std::string& text, const std::string& label, const Section& s
   if (Contains(text, label)) isPart(CutLogicalDriveNumber(text, label));
   std::string joined = text;
   Join(joined, " ", label);
-  Require(joined.size() <= text.size() + 1 + label.size(), "joining adds a blank alone", joined);
+  Require(joined.size() <= text.size() + 1 + label.size(), "joining adds only a blank", joined);
   LeadingNumber(text);
 }
 

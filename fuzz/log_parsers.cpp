@@ -52,7 +52,7 @@ std::shared_ptr<ZenxController> Walk(std::string_view text) {
 
 void RequireTime(const NKVRHXA20::TCIMDateTime& time) {
   const std::string text = time.ToString();
-  Require(NKVRHXA20::TCIMDateTime(text).ToString() == text, "the time of an event is one", text);
+  Require(NKVRHXA20::TCIMDateTime(text).ToString() == text, "the time of an event is valid", text);
 }
 
 void RequirePart(std::string_view text, std::string_view part) {
@@ -141,8 +141,8 @@ void Inspect(const ZenxController& controller, std::string_view text) {
       RequirePart(text, field);
     }
   }
-  if (controller.SoftEvents) Require(controller.SoftEvents->Codes.size() < lines, "no line gives two codes");
-  if (controller.HardEvents) Require(controller.HardEvents->Codes.size() < lines, "no line gives two codes");
+  if (controller.SoftEvents) Require(controller.SoftEvents->Codes.size() < lines, "no line produces two codes");
+  if (controller.HardEvents) Require(controller.HardEvents->Codes.size() < lines, "no line produces two codes");
 }
 
 constexpr std::string_view kSections[] = {
@@ -194,7 +194,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (size % 4 != 0) {
     InspectLines(text);
   } else {
-    Require(TextOf({controller}, {}) == TextOf({Walk(text)}, {}), "the same answers give the same records");
+    Require(TextOf({controller}, {}) == TextOf({Walk(text)}, {}), "the same answers produce the same records");
   }
   return 0;
 }

@@ -90,7 +90,7 @@ void RequireUniqueIdentifiers(const hxahost::InstanceList& instances, const Cont
   std::size_t drive = 0;
   for (const auto& instance : instances) {
     if (instance->Class().name != kDrives) continue;
-    Require(drive < fields.size(), "no more drives are published than there are");
+    Require(drive < fields.size(), "no more drives are published than exist");
     const std::string identifier = instance->Properties()[1].value;
     Require(byIdentifier.emplace(identifier, fields[drive]).first->second == fields[drive],
             "an identifier tells drives apart", identifier);
@@ -129,17 +129,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   PluginRun run(system);
   const hxahost::InstanceList first = run.Query();
   const std::size_t runs = machine.Runs();
-  Require(runs <= machine.MostRuns(), "the utilities are run as often as they may be at most");
+  Require(runs <= machine.MostRuns(), "the utilities are not run more often than permitted");
   RequireUniqueIdentifiers(first, run.Controllers());
   RequireProvenance(first, std::string(AsText(data, size)));
 
   const hxahost::InstanceList second = run.Query();
-  Require(machine.Runs() == runs, "a second query runs nothing");
+  Require(machine.Runs() == runs, "a second query runs no utility");
   Require(WithoutLogEvents(first) == WithoutLogEvents(second), "a second query publishes the same");
   Require(WithoutLogEvents(second) == InstanceTexts(second), "a second query finds no new event");
 
   const std::vector<std::string> texts = InstanceTexts(first);
   PluginRun again(system);
-  Require(InstanceTexts(again.Query()) == texts, "the same machine gives the same instances");
+  Require(InstanceTexts(again.Query()) == texts, "the same machine produces the same instances");
   return 0;
 }

@@ -32,13 +32,13 @@ void RequirePart(std::string_view text, std::string_view part) {
 std::vector<std::string> ReadAll(std::string_view text) {
   unsigned counter = 7;
   CollectRaidMgrData log(NKVRHXA20::TRootObject::GetCoreLogger(), counter);
-  Require(log.LogAvailable(), "a log that is there is found");
+  Require(log.LogAvailable(), "an existing log is found");
   std::vector<std::string> records;
   for (unsigned reads = 1;; ++reads) {
     const RaidMgrRead read = log.ReadNextRecord();
     Require(counter == 7 + reads, "each read uses up a number");
     if (read == RaidMgrRead::kEnd) break;
-    Require(reads <= text.size(), "each read but the last goes on");
+    Require(reads <= text.size(), "each read except the last advances");
     const RaidMgrEvent& event = log.CurrentRecord();
     if (read == RaidMgrRead::kOtherLine) continue;
     Require(event.RecordID == std::to_string(counter - 1), "a record has the number of its read",
@@ -60,6 +60,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       "C:\\", std::string(bytes)
   });
   const std::string text = WithLineFeeds(bytes);
-  Require(ReadAll(text) == ReadAll(text), "the same log gives the same records");
+  Require(ReadAll(text) == ReadAll(text), "the same log produces the same records");
   return 0;
 }

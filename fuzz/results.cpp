@@ -43,13 +43,13 @@ void Compare(const JsonResult& before, const JsonResult& after) {
   const ResultDiff back = CompareResults(after, before);
   Require(CountOf(there, ChangeKind::kAppeared) == CountOf(back, ChangeKind::kDisappeared),
           "what appears one way disappears the other way");
-  Require(IsSame(there) == IsSame(back), "two results are the same both ways");
+  Require(IsSame(there) == IsSame(back), "two results are equal in both directions");
   CheckViews(before, after, there);
 }
 
 void CompareWithItself(const JsonResult& result) {
   const ResultDiff diff = CompareResults(result, result);
-  Require(IsSame(diff) && diff.changes.empty() && diff.rawTexts.empty(), "a result is no different from itself");
+  Require(IsSame(diff) && diff.changes.empty() && diff.rawTexts.empty(), "a result equals itself");
 }
 
 }  // namespace

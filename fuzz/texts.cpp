@@ -27,8 +27,8 @@ void TryEscapes(std::string_view bytes) {
   RequireUtf8(AsUtf8(bytes));
   const std::string escaped = EscapeControls(bytes);
   RequirePlainLines(escaped);
-  Require(escaped.find('\n') == escaped.npos, "what is printable is one line", escaped);
-  Require(EscapeControls(escaped) == escaped, "what is printable stays as it is", escaped);
+  Require(escaped.find('\n') == escaped.npos, "printable text is one line", escaped);
+  Require(EscapeControls(escaped) == escaped, "printable text does not change again", escaped);
 }
 
 void TryWidths(std::string_view bytes) {
@@ -39,7 +39,7 @@ void TryWidths(std::string_view bytes) {
     RequireUtf8(cut);
   }
   const std::string ascii = ToAscii(text);
-  Require(ascii.size() == DisplayWidth(text), "ASCII takes as many columns", text);
+  Require(ascii.size() == DisplayWidth(text), "ASCII has the same width", text);
 }
 
 // A script reads the same text, and it contains no markup.
@@ -52,7 +52,7 @@ void TryScriptData(std::string_view bytes) {
     data << json;
   }
   Require(page.str().find('<') == std::string::npos, "no element begins in a script's data", page.str());
-  Require(nlohmann::json::parse(page.str()) == nlohmann::json::parse(json), "a script reads what was written", json);
+  Require(nlohmann::json::parse(page.str()) == nlohmann::json::parse(json), "a script reads the written text", json);
 }
 
 void TryAnswers(const std::string& text) {
@@ -60,13 +60,13 @@ void TryAnswers(const std::string& text) {
   std::size_t last = 0;
   for (const RawValues& values : ReadRawValues(lines)) {
     Require(values.firstLine >= last && values.firstLine + values.lineCount <= lines.size(), "lines come in order");
-    Require(!values.values.empty(), "lines that give values give one");
+    Require(!values.values.empty(), "lines with values have at least one");
     last = values.firstLine + values.lineCount;
   }
   for (const std::string_view tool : KnownTools()) {
     for (const char* const command : {"getconfig", "getlogs", "getstatus"}) {
       const ReadAnswer answer = ReadToolAnswer(tool, {command, "1", "al"}, text);
-      Require((answer.outcome == Outcome::kOk) == answer.reason.empty(), "what is not right has a reason", text);
+      Require((answer.outcome == Outcome::kOk) == answer.reason.empty(), "every outcome except kOk has a reason", text);
       RequirePlainLines(answer.reason);
     }
   }

@@ -1,5 +1,5 @@
-// All views of published instances: tables, JSON, the HTML report, health in all formats. The first text of the input is
-// the machine's name, the others are the published data.
+// All views of published instances: tables, JSON, the HTML report, health in all formats. The first text of the input
+// is the machine's name, the others are the published data.
 #include <algorithm>
 #include <cstddef>
 #include <sstream>
@@ -44,7 +44,7 @@ std::string Shown(std::string_view format, const QueryHeader& header, const Quer
 // JSON that is read back equals the published data.
 void CheckJson(const QueryHeader& header, const QueryResult& result) {
   const std::string text = Shown("json", header, result);
-  Require(text == Shown("json", header, result), "the same is shown the same way");
+  Require(text == Shown("json", header, result), "the same result is written the same way twice");
   const Json json = Json::parse(text);
   Require(json["machine"] == AsUtf8(header.machine), "the machine's name is read back");
   const Json& query = json["queries"][0];
@@ -60,7 +60,7 @@ void CheckJson(const QueryHeader& header, const QueryResult& result) {
     Require(query["log"][index]["text"] == AsUtf8(result.log[index].text), "every log entry is read back");
   }
   const JsonResult read = ParseJsonResult(text, "result");
-  Require(IsSame(CompareResults(read, read)), "a result is no different from itself");
+  Require(IsSame(CompareResults(read, read)), "a result equals itself");
 }
 
 struct Input {
@@ -102,14 +102,14 @@ void CheckCimXml(const QueryHeader& header, const QueryResult& result) {
   } catch (const boost::property_tree::xml_parser_error& error) {
     Require(false, "XML is well-formed", error.what());
   }
-  Require(CountOf(text, "<INSTANCE ") == result.instances.size(), "every instance is there once");
+  Require(CountOf(text, "<INSTANCE ") == result.instances.size(), "every instance occurs once");
 }
 
 // Quotation marks within strings are escaped, so each line has an even number of unescaped ones.
 void CheckMof(const QueryHeader& header, const QueryResult& result) {
   const std::string text = Shown("mof", header, result);
   RequirePlainLines(text);
-  Require(CountOf(text, "\ninstance of ") == result.instances.size(), "every instance is there once");
+  Require(CountOf(text, "\ninstance of ") == result.instances.size(), "every instance occurs once");
   for (const std::string& line : Split(text, '\n')) {
     if (line.starts_with("//")) continue;
     bool isInString = false;

@@ -36,8 +36,8 @@ void TryAdapter(const std::uint8_t* data, std::size_t size, const Utility& utili
     }
     controllers = adapter.GetControllers();
     text += TextOf(controllers, adapter.GetRawData());
-    Require(machine.Runs() - runsBefore <= utility.mostRuns, "a utility is run as often as it may be at most");
+    Require(machine.Runs() - runsBefore <= utility.mostRuns, "a utility is not run more often than permitted");
   }
-  Require(texts[0] == texts[1], "the same answers give the same records");
+  Require(texts[0] == texts[1], "the same answers produce the same records");
   RequireProvenance(controllers, std::string(AsText(data, size)), ownWords);
 }

@@ -44,9 +44,9 @@ bool AreEqual(const Record& left, const Record& right) {
 template <class Record>
 void RequireBeginning(const std::vector<std::shared_ptr<Record>>& cut,
                       const std::vector<std::shared_ptr<Record>>& whole) {
-  Require(cut.size() <= whole.size(), "a report that is cut off gives no more records");
+  Require(cut.size() <= whole.size(), "an incomplete report produces no more records");
   for (std::size_t index = 0; index + 1 < cut.size(); ++index) {
-    Require(AreEqual(*cut[index], *whole[index]), "a record before the cut is what it is without the cut");
+    Require(AreEqual(*cut[index], *whole[index]), "a record before the cut does not change");
   }
 }
 
@@ -86,7 +86,7 @@ void TryJunk(const ReportParser& parser, std::string_view text) {
   static const std::string alone = TextOf({Read(parser, Between("", sections))}, {});
   const std::string junk = WithoutLetters(text.substr(0, 256)) + "\r\n";
   const Controller controller = Read(parser, Between(junk, sections));
-  Require(TextOf({controller}, {}) == alone, "sections between junk read as they do alone", junk);
+  Require(TextOf({controller}, {}) == alone, "junk around sections does not change their records", junk);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ void Printed::RequireWords(std::string_view name, std::string_view value, std::s
     if (std::ranges::find(ownWords, word) != ownWords.end()) continue;
     const std::size_t printed = text_.find(word);
     if (printed == text_.npos) {
-      Require(false, "a value is what a tool printed", std::string(name) + " = " + std::string(value));
+      Require(false, "a value occurs in the output of a tool", std::string(name) + " = " + std::string(value));
     }
     known_.insert(std::string_view(text_).substr(printed, word.size()));
   }
@@ -23,6 +23,6 @@ void Printed::RequireBytes(std::string_view name, std::string_view value) const 
   for (const char byte : value) {
     if (byte >= ' ' && byte <= '~') continue;
     if (text_.find(byte) != text_.npos) continue;
-    Require(false, "a byte is one that a tool printed", std::string(name) + " = " + std::string(value));
+    Require(false, "a byte occurs in the output of a tool", std::string(name) + " = " + std::string(value));
   }
 }

@@ -56,7 +56,7 @@ void TakeLabels(std::string_view& rest, std::string_view line) {
 // Uses the library's own check: it throws for text that is not UTF-8.
 void RequireUtf8(std::string_view text) {
   try {
-    Require(!nlohmann::json(text).dump().empty(), "it is written");
+    Require(!nlohmann::json(text).dump().empty(), "the text is valid UTF-8");
   } catch (const nlohmann::json::exception&) {
     Require(false, "it is UTF-8", text);
   }
@@ -67,7 +67,7 @@ void RequirePlainLines(std::string_view text) {
   for (std::size_t index = 0; index < text.size(); ++index) {
     const auto byte = static_cast<unsigned char>(text[index]);
     const bool isC1 = byte == 0xc2 && index + 1 < text.size() && static_cast<unsigned char>(text[index + 1]) < 0xa0;
-    Require((byte >= ' ' && byte != 0x7f && !isC1) || byte == '\n', "no control character gets out",
+    Require((byte >= ' ' && byte != 0x7f && !isC1) || byte == '\n', "no control character is written",
             text.substr(0, index));
   }
 }
@@ -80,7 +80,7 @@ void RequireMetrics(std::string_view text) {
     std::string_view rest = line;
     Require(!TakeName(rest).empty(), "a sample has a name", line);
     TakeLabels(rest, line);
-    Require(samples.insert(line.substr(0, line.size() - rest.size())).second, "no sample comes twice", line);
+    Require(samples.insert(line.substr(0, line.size() - rest.size())).second, "no sample occurs twice", line);
     Take(rest, ' ', line);
     Require(!rest.empty() && rest.find_first_not_of("0123456789.-+e") == rest.npos, "a sample is a number", line);
   }

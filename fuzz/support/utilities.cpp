@@ -32,7 +32,7 @@ std::size_t AnswerPlace(const Utility& utility, const std::vector<std::string>& 
   const auto place = std::ranges::find(utility.commands, command);
   Require(place != utility.commands.end(), "a utility is run with its own commands", command);
   const std::size_t number = std::stoul(arguments[1]);
-  Require(number >= 1 && number <= kNumbers, "controllers are asked for by the numbers 1 to 8", arguments[1]);
+  Require(number >= 1 && number <= kNumbers, "controllers are requested by the numbers 1 to 8", arguments[1]);
   const std::size_t controller = std::min(number, kAnsweredControllers) - 1;
   return controller * utility.commands.size() + static_cast<std::size_t>(place - utility.commands.begin());
 }
