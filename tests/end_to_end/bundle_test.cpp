@@ -1,7 +1,7 @@
 // Bundles in use: the sample machine, recorded by the real program with real processes, and replayed.
 //
-// tests/golden/one-controller.bundle makes sure that bundles of this form stay readable, and is replayed on both systems.
-// It contains the recording of the Windows build for one of the sample machine's controllers. To renew it, run
+// tests/golden/one-controller.bundle makes sure that bundles of this form stay readable, and is replayed on both
+// systems. It contains the recording of the Windows build for one of the sample machine's controllers. To renew it, run
 // RecordsTheBundleThatIsKept on Windows with ZENX_RENEW_GOLDEN=1 in the environment.
 
 #include <gmock/gmock.h>
@@ -124,7 +124,7 @@ TEST_F(Bundles, AreTheSameWhenTheyAreRecordedFromAReplay) {
   EXPECT_TRUE(FileText(Golden("one-controller.bundle")) == Text("n.bundle"));
 }
 
-TEST_F(Bundles, OfTheSampleMachinePublishWhatItPublishes) {
+TEST_F(Bundles, OfTheSampleMachinePublishTheSameAsTheMachine) {
   const std::string json = Run({"query", "--format", "json", "--repeat", "2", "--replay", RecordedSampleMachine()});
   Json replayed = Json::parse(json);
   replayed.erase("replayed");
@@ -258,7 +258,7 @@ TEST_F(Bundles, ThatLackACommandAreAnErrorThatNamesIt) {
   EXPECT_FALSE(fs::exists(folder_.Path() / "out"));
 }
 
-TEST_F(Bundles, ThatLackACommandGiveAVerdictThatSaysSo) {
+TEST_F(Bundles, ThatLackACommandReportItInTheVerdict) {
   const std::string lacking = Utf8FromPath(folder_.Write("l.bundle", Without("zenx//qcmdrun.exe getconfig 1 al")));
   const ProgramResult health = RunHxahost({"health", "--replay", lacking});
   EXPECT_EQ(health.exitStatus, 3);

@@ -44,7 +44,7 @@ TEST_F(CaptureFile, ReadsAFileThatItsOwnerHasOpen) {
   EXPECT_EQ(TOSSpecific::CaptureFile(path), "so far");
 }
 
-TEST_F(CaptureFile, SaysInOneLineWhichFileCannotBeReadAndWhy) {
+TEST_F(CaptureFile, ReportsInOneLineWhichFileCannotBeReadAndWhy) {
   for (const std::string& unreadable : {path + ".missing", ProgramFolder().string(), std::string()}) {
     EXPECT_THAT([&] { TOSSpecific::CaptureFile(unreadable); },
                 ThrowsMessage<THXAException>(AllOf(StartsWith("\"" + unreadable + "\" cannot be read: "),

@@ -23,7 +23,7 @@ ProgramResult Explain(std::vector<std::string> words) {
   return RunHxahost(words);
 }
 
-TEST(Explain, ShowsTheLineOfEachValueAndWhatTheOthersAreMadeOf) {
+TEST(Explain, ShowsTheLineOfEachValueOrItsOrigin) {
   const ProgramResult result = Explain({"enclosure", "0,", "slot", "8"});
   EXPECT_EQ(result.exitStatus, 0) << result.err;
   EXPECT_THAT(result.out, AllOf(HasSubstr("enclosure 0, slot 8: Hard drive at channel 0, ID 8 of controller "),
@@ -80,7 +80,7 @@ std::string BundleOfAChange(const TemporaryFolder& folder) {
   return Utf8FromPath(folder.Write("changed.bundle", WriteBundle(bundle)));
 }
 
-TEST(Explain, SaysWhereTheToolAnsweredDifferently) {
+TEST(Explain, ShowsValuesThatTheToolLaterAnsweredDifferently) {
   const TemporaryFolder folder;
   const ProgramResult result =
       RunHxahost({"explain", "--replay", BundleOfAChange(folder), "NV3LE77Q2H", "--width", "80"});

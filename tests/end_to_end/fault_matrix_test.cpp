@@ -168,7 +168,7 @@ Machine WithoutTool(const std::string& tool) {
   return machine;
 }
 
-TEST(FaultMatrix, AUtilityThatCannotBeStartedCostsItsControllersAlone) {
+TEST(FaultMatrix, AUtilityThatCannotBeStartedCostsOnlyItsControllers) {
   const RealMachine machine;
   std::size_t number = 0;
   for (const char* const tool : kTools) {

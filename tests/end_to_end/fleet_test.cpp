@@ -60,7 +60,7 @@ TEST_F(FleetCommand, ShowsTheWorstMachineFirstAndADamagedFileInOneLine) {
   EXPECT_THAT(result.out, Not(HasSubstr("notes.txt")));
 }
 
-TEST_F(FleetCommand, SaysTheSameOfBundlesOfTheirResultsAndOfTheirLines) {
+TEST_F(FleetCommand, WritesTheSameForBundlesTheirResultsAndTheirLines) {
   WriteMachine("DB01", "arcconf-newer-healthy");
   WriteMachine("DB02", "arcconf-newer-tool-refuses");
   const std::string bundles = Run({Folder()}).out;
@@ -76,7 +76,7 @@ TEST_F(FleetCommand, SaysTheSameOfBundlesOfTheirResultsAndOfTheirLines) {
   EXPECT_EQ(Run({hxahost::Utf8FromPath(folder_.Write("all.lines", lines))}).out, bundles);
 }
 
-TEST_F(FleetCommand, WritesForProgramsWhatItShows) {
+TEST_F(FleetCommand, WritesTheSameDataForPrograms) {
   WriteMachine("DB01", "arcconf-newer-healthy");
   WriteMachine("DB02", "arcconf-newer-failed-disk");
   const Json json = Json::parse(Run({"--format", "json", "--stale", "0", Folder()}).out);
@@ -124,7 +124,7 @@ TEST_F(FleetCommand, EndsWithStatus4WhereNothingHoldsAMachine) {
   EXPECT_THAT(result.err, HasSubstr("hxahost: No machine was found"));
 }
 
-TEST_F(FleetCommand, SaysWhichArgumentIsWrong) {
+TEST_F(FleetCommand, ReportsWhichArgumentIsWrong) {
   EXPECT_THAT(Run({File("nowhere")}).err,
               HasSubstr("hxahost: " + File("nowhere") + " is not there: name results, bundles or folders of them."));
   EXPECT_EQ(Run({File("nowhere")}).exitStatus, 2);

@@ -28,7 +28,7 @@ ProgramResult HealthOf(const MachineCopy& machine, std::vector<std::string> furt
   return RunHxahost(arguments);
 }
 
-TEST(Health, IsFineWhereOneUtilityShowsAControllerInOrderOrEachSaysThatThereIsNone) {
+TEST(Health, IsFineIfAUtilityShowsAHealthyControllerOrAllReportNone) {
   const MachineCopy machine;
   machine.LeaveOnly("hrconf_64");
   ProgramResult result = HealthOf(machine);
@@ -145,7 +145,7 @@ TEST(Health, SavesNoBaselineWhereAUtilityDidNotAnswer) {
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 1);
 }
 
-TEST(Health, TellsNagiosOfItsOwnFailureOnStandardOutput) {
+TEST(Health, ReportsItsOwnFailureToNagiosOnStandardOutput) {
   const ProgramResult result = HealthOf(MachineCopy(), {"--format", "nagios", "--plugin", "missing.pi"});
   EXPECT_EQ(result.exitStatus, 3);
   EXPECT_THAT(result.out, AllOf(StartsWith("ZENX UNKNOWN - "), HasSubstr("missing.pi is missing")));

@@ -149,7 +149,7 @@ TEST_F(Hxahost, NamesTheClassesThatMustComeBefore) {
   EXPECT_THAT(result.err, HasSubstr("--class KVRSG_zxSCSIProtocolController --class KVRSG_zxBiosVersion before it"));
 }
 
-TEST_F(Hxahost, WaitsForAnotherCollectionInTheSameFolderAndSaysSo) {
+TEST_F(Hxahost, WaitsForAnotherCollectionInTheSameFolderAndReportsIt) {
   fs::create_directory(folder_.Path() / "zenx");
   const std::vector<std::string> arguments = {"query", "--directory", Utf8FromPath(folder_.Path())};
   auto other = std::make_unique<hxahost::FolderLock>(folder_.Path() / "zenx");

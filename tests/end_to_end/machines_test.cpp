@@ -78,7 +78,7 @@ class Machines : public testing::TestWithParam<std::string> {
   TemporaryFolder folder_;
 };
 
-TEST_P(Machines, ShowWhatIsWrongAndWhatToDo) {
+TEST_P(Machines, ShowTheFaultsAndTheActions) {
   const fs::path file = SourceFile("tests/machines") / GetParam();
   const MachineAnswers answers = ReadMachineAnswers(FileText(file.string() + ".answers"));
   const fs::path bundle = folder_.Write("machine.bundle", WriteBundle(BundleOf(answers)));

@@ -31,7 +31,7 @@ nlohmann::ordered_json QueryData(const std::string& page) {
   return nlohmann::ordered_json::parse(page.substr(first, page.find("</script>", first) - first));
 }
 
-TEST(Report, HoldsWhatTheJsonSaysOfTheSampleMachine) {
+TEST(Report, ContainsTheJsonOfTheSampleMachine) {
   const ProgramResult result = WriteReport({});
   ASSERT_EQ(result.exitStatus, 0) << result.err;
   EXPECT_THAT(result.out, StartsWith("<!DOCTYPE html>\n"));

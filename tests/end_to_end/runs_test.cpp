@@ -81,7 +81,7 @@ TEST(Runs, TellAMissingToolACutAnswerAndAnEmptyAnswerApart) {
               HasSubstr("    failed (35 runs, the first getconfig 2 al): printed no valid report: Something new\n"));
 }
 
-TEST(Runs, SayThatNoControllerIsThereOnlyWhereEachToolSaysSo) {
+TEST(Runs, ReportNoControllerOnlyIfEachToolDoes) {
   const MachineCopy machine;
   for (const char* const tool : {"qcmdrun", "hrconf_64", "arcconf"}) machine.RemoveControllers(tool);
   const ProgramResult result = RunHxahost({"query", "--directory", machine.Directory()});

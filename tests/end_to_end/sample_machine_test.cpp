@@ -18,7 +18,7 @@ using hxahost::Utf8FromPath;
 using testing::HasSubstr;
 using Json = nlohmann::ordered_json;
 
-TEST(SampleMachine, PublishesWhatItHasAlwaysPublishedOnBothSystems) {
+TEST(SampleMachine, PublishesTheGoldenInstancesOnBothSystems) {
   Json first = RunOfSampleMachine().result;
   first["queries"].erase(1);
   EXPECT_TRUE(IsGolden("sample-machine.json", first.dump(1) + "\n"));
@@ -50,7 +50,7 @@ TEST(SampleMachineWithAGap, KeepsApartTheControllersThatShareANumber) {
   }
 }
 
-TEST(Status, FitsOneScreenWithWhatToDoForEveryCause) {
+TEST(Status, FitsOneScreenWithAnActionForEveryCause) {
   const ProgramResult status = RunHxahost({"--replay", RecordedSampleMachine(), "--width", "80"});
   EXPECT_TRUE(IsGolden("sample-machine-status.txt", status.out));
   EXPECT_LE(std::ranges::count(status.out, '\n'), 24);

@@ -138,7 +138,7 @@ TEST(SpawnProcess, KeepsStandardOutputAndStandardErrorInTheOrderWritten) {
   EXPECT_EQ(RunChild({"both", "6"}), "out 0\nerr 1\nout 2\nerr 3\nout 4\nerr 5\n");
 }
 
-TEST(SpawnProcess, ReturnsTheOutputWhateverTheExitStatus) {
+TEST(SpawnProcess, ReturnsTheOutputForAnyExitStatus) {
   EXPECT_EQ(RunChild({"exit", "0"}), "done\n");
   EXPECT_EQ(RunChild({"exit", "77"}), "done\n");
 }
@@ -149,7 +149,7 @@ TEST(SpawnProcess, ReturnsEveryByteOfAnOutputThatNoPipeHolds) {
   }
 }
 
-TEST(SpawnProcess, GivesTheNullDeviceAsStandardInput) { EXPECT_EQ(RunChild({"input"}), "0 bytes\n"); }
+TEST(SpawnProcess, UsesTheNullDeviceAsStandardInput) { EXPECT_EQ(RunChild({"input"}), "0 bytes\n"); }
 
 TEST(SpawnProcess, PutsTheCLocaleIntoTheEnvironmentAndNoOther) {
   for (const char* const name : {"LANG", "LANGUAGE", "LC_MESSAGES", "LC_ALL"}) SetVariable(name, "xx_XX.UTF-8");
@@ -173,7 +173,7 @@ TEST(SpawnProcess, TakesARelativePathFromTheWorkingDirectoryWithOneSlashOrTwo) {
   EXPECT_EQ(TOSSpecific::SpawnProcess("test_child.exe", {"exit", "0"}, kGenerous), "done\n");
 }
 
-TEST(SpawnProcess, SaysInOneLineWhichProgramCannotBeStartedAndWhy) {
+TEST(SpawnProcess, ReportsInOneLineWhichProgramCannotBeStartedAndWhy) {
   const auto isOneLine = AllOf(Not(HasSubstr("\n")), Not(HasSubstr("\r")), Not(EndsWith(": ")));
   EXPECT_THAT([] { TOSSpecific::SpawnProcess("zenx//missing.exe", {}, kGenerous); },
               ThrowsMessage<THXAException>(AllOf(StartsWith("\"zenx//missing.exe\" cannot be started: "), isOneLine)));
@@ -221,7 +221,7 @@ void PrintTo(const ModeCase& mode, std::ostream* out) { *out << mode.name; }
 // The program has ended by itself: its output counts, and processes that it left end with the run.
 class SpawnProcessLeft : public testing::TestWithParam<ModeCase> {};
 
-TEST_P(SpawnProcessLeft, ReturnsTheOutputAndEndsWhatIsLeft) {
+TEST_P(SpawnProcessLeft, ReturnsTheOutputAndEndsRemainingProcesses) {
   const NumberFile file;
   const auto begin = steady_clock::now();
   const std::string output = RunChild({GetParam().mode, file.Path()});
@@ -240,7 +240,7 @@ INSTANTIATE_TEST_SUITE_P(What, SpawnProcessLeft,
 // The program runs beyond the limit, and has started other processes.
 class SpawnProcessTree : public testing::TestWithParam<ModeCase> {};
 
-TEST_P(SpawnProcessTree, EndsWhatTheProgramHasStartedWhenTheLimitPasses) {
+TEST_P(SpawnProcessTree, EndsTheProcessesOfTheProgramAtTheLimit) {
   const NumberFile file;
   EXPECT_THROW(RunChild({GetParam().mode, file.Path(), kForLong}, 3), THXAException);
   ASSERT_NE(file.Number(), 0U);

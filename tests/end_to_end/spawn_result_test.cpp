@@ -41,12 +41,12 @@ TEST(SpawnResult, HasTheExitStatusOfTheProgram) {
   }
 }
 
-TEST(SpawnResult, TellsAProgramThatCannotBeStartedFromOneThatTakesTooLong) {
+TEST(SpawnResult, DistinguishesAProgramThatCannotBeStartedFromASlowOne) {
   EXPECT_EQ(FailureOf("zenx//missing.exe", {}, kGenerous), static_cast<int>(SpawnFailure::kNotInstalled));
   EXPECT_EQ(FailureOf(ChildPath(), {"sleep", "300"}, 1), static_cast<int>(SpawnFailure::kTooLong));
 }
 
-TEST(SpawnResult, SaysHowLongTheRunTookAlsoWhereItFailed) {
+TEST(SpawnResult, ContainsTheDurationAlsoOfAFailedRun) {
   const SpawnResult result = RunChild({"sleep-silently", "1"});
   EXPECT_GE(result.seconds, 1);
   EXPECT_LT(result.seconds, kGenerous);

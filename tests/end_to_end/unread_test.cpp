@@ -33,7 +33,7 @@ std::vector<std::string> Listed(const Json& unread) {
   return all;
 }
 
-TEST(Unread, ListsOfTheSampleMachineWhatIsReallyNotPublished) {
+TEST(Unread, ListsTheUnpublishedLinesOfTheSampleMachine) {
   std::vector<std::string> commands;
   std::size_t lines = 0;
   for (const Json& text : UnreadOf("--replay", RecordedSampleMachine())) {

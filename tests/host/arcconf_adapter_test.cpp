@@ -70,7 +70,7 @@ TEST_F(ArcconfDataTest, AsksTwiceAndFindsNothingOnAMachineWithoutControllers) {
   EXPECT_TRUE(rawData_.empty());
 }
 
-TEST_F(ArcconfDataTest, EndsAtTheFirstNumberThatSaysThereAreNoControllers) {
+TEST_F(ArcconfDataTest, EndsAtTheFirstNumberWithTheAnswerThatThereAreNoControllers) {
   AddController(1, "A");
   AddController(3, "C");
   Collect();
@@ -103,7 +103,7 @@ TEST_F(ArcconfDataTest, TakesNoControllersForStrongerThanADriverMismatchAndThatF
   EXPECT_EQ(services_.log.back().level, 101);
 }
 
-TEST_F(ArcconfDataTest, GoesOnBehindAnAnswerThatIsNoReport) {
+TEST_F(ArcconfDataTest, ContinuesAfterAnAnswerThatIsNotAReport) {
   AddController(2, "B");
   for (const std::string& answer :
        {std::string(), std::string("nonsense\r\n"), std::string("Controller information")}) {
@@ -190,7 +190,7 @@ TEST_F(ArcconfDataTest, TakesTwelveCharactersAsTheDevicesName) {
   EXPECT_EQ(controllers_[0]->PhysicalDevices[1]->DeviceIdSuffix, "Controller: Device #123 ");
 }
 
-TEST_F(ArcconfDataTest, EndsABlockQuietlyAtTheEndOfTheTextAndReadsTheBlocksBehindIt) {
+TEST_F(ArcconfDataTest, EndsABlockQuietlyAtTheEndOfTheTextAndReadsTheBlocksAfterIt) {
   const std::string devices =
       "Physical Device information\n----\n   Device #0\n   Device is a Hard drive\n   State : Online\n";
   const std::string drives = "Logical drive information\n----\nLogical drive number 1\n   Size : 100 MB\n";

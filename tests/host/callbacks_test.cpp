@@ -33,7 +33,7 @@ class Manager {
   boost::shared_ptr<TPluginManagerNamespace> manager_;
 };
 
-TEST(Callbacks, ProcessAttachRegistersOnePlugInThatSaysWhoItIs) {
+TEST(Callbacks, ProcessAttachRegistersOnePlugInWithItsName) {
   const Manager manager;
   EXPECT_EQ(OnLibraryNotification(1), 1);
   ASSERT_EQ(manager.Plugins().size(), 1U);

@@ -100,7 +100,7 @@ TEST(ZenxCollectData, GiveANumberTwiceWhereALegacyControllerIsMissingBeforeAnoth
   EXPECT_EQ(Collect<ZenxCollectData>(answers, false).controllers, (Lines{"1", "3", "3", "4", "5"}));
 }
 
-TEST(ZenxCollectData, RunRecordAndLogWhatTheThreeToolsDoOneAfterTheOther) {
+TEST(ZenxCollectData, RunRecordAndLogTheThreeToolsOneAfterTheOther) {
   for (const Machine& machine : kMachines) {
     const auto answers = AnswersOf(machine);
     Outcome expected = Collect<QcmdrunData>(answers, 0u);

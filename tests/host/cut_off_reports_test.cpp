@@ -91,7 +91,7 @@ bool IsBoundary(std::string_view rest) {
   return line.starts_with("\r\n") || line.starts_with("Logical drive number") || line.find("Device #") != line.npos;
 }
 
-TEST_P(CutOffReport, HasWhatStandsBeforeTheCutBehindEachOfItsLines) {
+TEST_P(CutOffReport, ContainsEverythingBeforeACutAfterEachLine) {
   ASSERT_EQ(full_.size(), 1u);
   const ZenxController& whole = *full_[0];
   ASSERT_EQ(whole.LogicalDevices.size(), Count(text_, "Logical drive number"));
@@ -117,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(SampleMachine, CutOffReport,
                                          Report{"arcconf/2/getconfig-al", Collect<ArcconfData>},
                                          Report{"hrconf_64/1/getconfig-al", Collect<HrconfData>}));
 
-TEST(CutOffVersions, GiveWhatStandsBeforeTheCut) {
+TEST(CutOffVersions, ContainEverythingBeforeTheCut) {
   const std::string config = SampleAnswer("hrconf_64/1/getconfig-al");
   const std::string answer = SampleAnswer("hrconf_64/1/getversion");
   const std::size_t bios = answer.find('\n', answer.find("BIOS"));

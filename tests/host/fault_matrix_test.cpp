@@ -94,7 +94,7 @@ void ExpectCost(const Command& command, std::size_t column, const Behaviour& beh
   }
 }
 
-TEST(FaultMatrix, EveryFaultOfEveryCommandCostsWhatItsColumnSays) {
+TEST(FaultMatrix, EveryFaultOfEveryCommandHasTheCostInItsColumn) {
   std::size_t number = 0;
   for (const Command& command : Commands()) {
     for (std::size_t column = 0; column < Faults().size(); ++column) {
@@ -106,7 +106,7 @@ TEST(FaultMatrix, EveryFaultOfEveryCommandCostsWhatItsColumnSays) {
   EXPECT_EQ(number, Commands().size() * Faults().size());
 }
 
-TEST(FaultMatrix, EveryAnswerCutOffBehindEachOfItsLinesCostsWhatItsColumnSays) {
+TEST(FaultMatrix, EveryAnswerCutOffAfterEachLineHasTheCostInItsColumn) {
   std::size_t number = 0;
   for (const Command& command : Commands()) {
     const std::string text = WholeMachine().at(command.Key()).text;

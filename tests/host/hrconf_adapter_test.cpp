@@ -131,7 +131,7 @@ TEST_F(HrconfDataTest, AsksForTheSystemsVersionOnceForEachControllerInEachPass) 
   EXPECT_EQ(asked, 5);
 }
 
-TEST_F(HrconfDataTest, GoesOnWhereTheSystemCannotTellItsVersion) {
+TEST_F(HrconfDataTest, ContinuesIfTheSystemReportsNoVersion) {
   AddController(1);
   Collect(0, []() -> OsVersion { throw std::runtime_error("no version"); });
   EXPECT_EQ(Summary(controllers_), Found(1));
@@ -161,7 +161,7 @@ TEST_F(HrconfDataTest, KeepsAControllerWhoseVersionAnswerIsCutOff) {
   EXPECT_THAT(services_.LogTexts(), testing::Contains(testing::StartsWith("Bad Data From Getversion output: ")));
 }
 
-TEST_F(HrconfDataTest, GoesOnBehindAnAnswerThatIsNoReport) {
+TEST_F(HrconfDataTest, ContinuesAfterAnAnswerThatIsNotAReport) {
   AddController(2);
   for (const std::string& answer :
        {std::string(), std::string("nonsense\r\n"), std::string("Controller information")}) {
@@ -235,7 +235,7 @@ TEST_F(HrconfDataTest, SetsTheNumberAndTheIdentifierOfADevice) {
                                    "DeviceIdSuffix=Controller: 1Device #12 f"}));
 }
 
-TEST_F(HrconfDataTest, EndsABlockQuietlyAtTheEndOfTheTextAndReadsTheBlocksBehindIt) {
+TEST_F(HrconfDataTest, EndsABlockQuietlyAtTheEndOfTheTextAndReadsTheBlocksAfterIt) {
   const std::string devices =
       "Physical drive information\n----\n   Device #0\n   Device is a Hard drive\n   State : Online\n";
   const std::string drives = "Logical drive information\n----\nLogical drive number 1\n   Size : 100 MB\n";

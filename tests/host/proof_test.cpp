@@ -210,7 +210,7 @@ TEST(Proof, GivesTheLineOfAValue) {
 
 TEST(Proof, FindsTheObjectsOwnLineWithLabelAndValueForEachValueOfTheSampleMachine) { ExpectProofs(SampleMachine()); }
 
-TEST(Proof, TellsControllersOfOneNumberApart) {
+TEST(Proof, DistinguishesControllersWithOneNumber) {
   const SampleMachine machine(AnswersWithGap());
   const Machine built = machine.Build();
   EXPECT_EQ(std::ranges::count(built.controllers, "3", &Controller::number), 2);
@@ -229,7 +229,7 @@ TEST(Proof, FindsDevicesWhoseNumbersAreCut) {
 }
 
 // The tool is run twice: the second answer is published.
-TEST(Proof, SaysWhereTheRawTextSaysSomethingElse) {
+TEST(Proof, ReportsARawTextThatDiffers) {
   using enum Evidence;
   constexpr std::string_view kStripes = "KVRSG_BadStripeData";
   struct Case {

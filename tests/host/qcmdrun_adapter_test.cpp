@@ -137,7 +137,7 @@ class QcmdrunDataTest : public testing::Test {
   QcmdrunData data_{TRootObject::GetCoreLogger()};
 };
 
-TEST_F(QcmdrunDataTest, NumbersControllers1And3As5And7Behind4ButTheirRawRecords1And3) {
+TEST_F(QcmdrunDataTest, NumbersControllers1And3As5And7After4ButTheirRawRecords1And3) {
   services_.answers[Run("getconfig", 2, "al")] = kAborted;
   SetController(3);
   Collect(4);
@@ -156,7 +156,7 @@ TEST_F(QcmdrunDataTest, NumbersControllers1And3As5And7Behind4ButTheirRawRecords1
   EXPECT_EQ(RawCommands().size(), 16u);
 }
 
-TEST_F(QcmdrunDataTest, RecordsTheTextForAFailedRunAndGoesOnWithoutAController) {
+TEST_F(QcmdrunDataTest, RecordsTheTextForAFailedRunAndContinuesWithoutAController) {
   services_.answers.erase(Run("getconfig", 1, "al"));
   Collect();
   EXPECT_EQ(ControllerNumbers(), Texts{});
@@ -226,7 +226,7 @@ TEST_F(QcmdrunDataTest, EndsCollectionAndDropsTheControllerWhenItsStatusIsReject
   EXPECT_EQ(RawCommands().size(), 24u);
 }
 
-TEST_F(QcmdrunDataTest, LeavesBadStripesAndGoesOnWhenOneIsRejected) {
+TEST_F(QcmdrunDataTest, LeavesBadStripesAndContinuesWhenOneIsRejected) {
   QcmdrunParsers parsers;
   parsers.badStripe = RejectBadStripe;
   data_ = QcmdrunData(TRootObject::GetCoreLogger(), parsers);

@@ -50,7 +50,7 @@ TEST(Query, TheThreeClassesThatAreLeftEmptyYieldNoInstanceAndNoMessage) {
   EXPECT_THAT(host.log.entries, IsEmpty());
 }
 
-TEST(Query, AClassNameThatDiffersInCaseAloneMatchesNothing) {
+TEST(Query, AClassNameThatDiffersOnlyInCaseMatchesNothing) {
   const ScriptedServices services;
   QueryHost host;
   host.Hold({ControllerWithEverything(&host.log, "1")});
@@ -75,7 +75,7 @@ TEST(Query, AnEmptyListPublishesNothingAndStillCollects) {
   EXPECT_EQ(host.state.callCounter, 1U);
 }
 
-TEST(Query, AnAssociationLinksWhatAnEarlierQueryPublished) {
+TEST(Query, AnAssociationLinksInstancesOfAnEarlierQuery) {
   constexpr const char* kDisk = "KVRSG_zxLogicalDisk";
   constexpr const char* kLink = "KVRSG_zxProtocolControllerForUnit";
   const ScriptedServices services;
@@ -122,7 +122,7 @@ bool RunsHrconf(std::optional<std::uint16_t> osType) {
   return std::ranges::any_of(services.runs, [](const std::string& run) { return run.starts_with("hrconf"); });
 }
 
-TEST(Query, AnOsTypeOf82AloneSkipsHrconf) {
+TEST(Query, OnlyAnOsTypeOf82SkipsHrconf) {
   EXPECT_FALSE(RunsHrconf(82));
   EXPECT_TRUE(RunsHrconf(83));
   EXPECT_TRUE(RunsHrconf(0));
@@ -141,7 +141,7 @@ TEST(Query, AnOperatingSystemInstanceWithoutAnOsTypeSkipsNothing) {
   EXPECT_THAT(services.runs, Contains(StartsWith("hrconf")));
 }
 
-TEST(Query, ACollectionThatFailsIsLoggedAndTheQueryGoesOnWithWhatThereIs) {
+TEST(Query, AFailedCollectionIsLoggedAndTheQueryContinuesWithItsRecords) {
   ScriptedServices services;
   const RaidLogSetting noLog(std::nullopt);
   services.answers = AllAnswers();
@@ -201,7 +201,7 @@ class RefusingNamespace final : public ICIMNamespace {
   }
 };
 
-TEST(Query, WhatTheHostsOwnOperationsThrowPassesToTheHost) {
+TEST(Query, ExceptionsOfTheHostsOperationsPassToTheHost) {
   const ScriptedServices services;
   QueryHost host;
   RefusingNamespace refusing;

@@ -37,7 +37,7 @@ void ExpectTheSameWithLineFeedsAlone(const std::string& tool) {
   EXPECT_NE(Summary(usual), "");
 }
 
-TEST(SampleControllers, AreTheSameWithLineFeedsAlone) {
+TEST(SampleControllers, AreTheSameWithOnlyLineFeeds) {
   ExpectTheSameWithLineFeedsAlone<ArcconfData>("arcconf");
   ExpectTheSameWithLineFeedsAlone<HrconfData>("hrconf_64");
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(ArcconfDriverMismatch, SaysItInOneLineWithSevenTabsAndInFullWithTwentyFourBlanks) {
+TEST(ArcconfDriverMismatch, IsLoggedInOneLineWithSevenTabsAndInFullWithTwentyFourBlanks) {
   const std::string tabs(7, '\t');
   const std::string indent = "\n" + std::string(24, ' ');
   const std::string present =

@@ -71,7 +71,7 @@ TEST(ArcconfPhysicalDeviceParser, ChoosesTheLabelsByTheFirstTypeThatFits) {
   }
 }
 
-TEST(ArcconfPhysicalDeviceParser, StaysOnALineThatTellsNoType) {
+TEST(ArcconfPhysicalDeviceParser, StaysOnALineWithoutAType) {
   CollectedData text(nullptr, CrLf("Device #3\n   State : Online\n   Vendor : V\n"));
   ZenxPhysicalDevice device(nullptr);
   arcconf::ParsePhysicalDevice(device, text, "5", "", "Device #3\r\n");
@@ -80,7 +80,7 @@ TEST(ArcconfPhysicalDeviceParser, StaysOnALineThatTellsNoType) {
   EXPECT_EQ(text.CurrentLine(), "   State : Online\r\n");
 }
 
-TEST(ArcconfPhysicalDeviceParser, PutsWhatASpareIsForBehindItsState) {
+TEST(ArcconfPhysicalDeviceParser, AppendsTheAssignmentOfASpareToItsState) {
   const std::string type = "   Device is a Hard drive\n";
   const auto stateOf = [&](const std::string& lines) { return Parse(CrLf(type + lines + "end\n")).State; };
   EXPECT_EQ(stateOf("   State : Hot Spare \n   Assigned Spare for :  Logical drive 1\n"),
@@ -89,7 +89,7 @@ TEST(ArcconfPhysicalDeviceParser, PutsWhatASpareIsForBehindItsState) {
   EXPECT_EQ(stateOf("   Assigned Spare for : Logical drive 1\n"), " for Logical drive 1\r\n");
 }
 
-TEST(ArcconfPhysicalDeviceParser, ReadsOnBehindASpareAssignmentAndWithoutOne) {
+TEST(ArcconfPhysicalDeviceParser, ContinuesAfterASpareAssignmentAndWithoutOne) {
   const std::string type = "   Device is a Hard drive\n   State : Hot Spare\n";
   const std::string rest = "   Supported : Yes\nend\n";
   EXPECT_EQ(Parse(CrLf(type + rest)).Supported, " Yes\r\n");

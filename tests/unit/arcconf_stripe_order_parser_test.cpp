@@ -42,7 +42,7 @@ TEST(ArcconfStripeOrderParser, LeavesAThirdLineUnread) {
   EXPECT_EQ(result.nextLine, "   0,2\r\n");
 }
 
-TEST(ArcconfStripeOrderParser, SetsTheControllerAloneWhereNoChannelsAndDevicesAreListed) {
+TEST(ArcconfStripeOrderParser, SetsOnlyTheControllerIfNoChannelsAndDevicesAreListed) {
   const Result result = Parse("   Stripe order   : 0,0\n   0,1\n");
   EXPECT_EQ(result.fields, (std::set<std::string>{"ControllerNum=5"}));
   EXPECT_EQ(result.nextLine, "   0,1\r\n");

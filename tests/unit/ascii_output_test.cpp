@@ -18,7 +18,7 @@ TEST(AsciiOutput, TakesAsManyColumnsAsTheCharacters) {
   EXPECT_EQ(ToAscii(""), "");
 }
 
-TEST(AsciiOutput, StaysAsciiWhateverTheBytesAre) {
+TEST(AsciiOutput, StaysAsciiForAnyBytes) {
   for (int first = 0; first < 256; ++first) {
     for (const int second : {0x0a, 0x41, 0x80, 0xbf, 0xe2, 0xff}) {
       const std::string bytes = {static_cast<char>(first), static_cast<char>(second)};
@@ -43,7 +43,7 @@ TEST(AsciiOutput, ConvertsACharacterThatIsWrittenInPieces) {
   EXPECT_EQ(out.str(), "a~b\nrest!");
 }
 
-TEST(AsciiOutput, FailsWhereTheOutputBehindItFails) {
+TEST(AsciiOutput, FailsIfItsOutputFails) {
   std::ostringstream out;
   TAsciiBuffer buffer(out);
   std::ostream ascii(&buffer);

@@ -25,7 +25,7 @@ TEST(Ascii, IsSplitAtASeparatorWithEmptyPieces) {
   EXPECT_THAT(SplitAtAny("", ","), ElementsAre(""));
 }
 
-TEST(Ascii, IsANumberWhereItHasDigitsAlone) {
+TEST(Ascii, IsANumberIfItHasOnlyDigits) {
   EXPECT_TRUE(IsDigits("0190"));
   for (const char* const text : {"", "-1", "1 ", "0x1", "1.5"}) EXPECT_FALSE(IsDigits(text)) << text;
 }

@@ -21,7 +21,7 @@ TEST(AssertionFailed, FollowingANullPointerIsABrokenInvariantWithTheTextPxIsNotN
   EXPECT_THAT([&] { static_cast<void>(*none); }, ThrowsMessage<TBrokenInvariant>(HasSubstr("px != 0")));
 }
 
-TEST(AssertionFailed, SaysWhatDidNotHoldAndWhere) {
+TEST(AssertionFailed, NamesTheConditionAndItsPlace) {
   const bool isSorted = false;
   EXPECT_THAT([&] { BOOST_ASSERT(isSorted); },
               ThrowsMessage<TBrokenInvariant>(AllOf(HasSubstr("isSorted"), HasSubstr("assertion_failed_test.cpp:"))));
@@ -29,7 +29,7 @@ TEST(AssertionFailed, SaysWhatDidNotHoldAndWhere) {
               ThrowsMessage<TBrokenInvariant>(HasSubstr("isSorted (by name)")));
 }
 
-TEST(AssertionFailed, IsNotWhatAFailedServiceThrows) {
+TEST(AssertionFailed, IsNotTheExceptionOfAService) {
   EXPECT_THROW(ReportBrokenInvariant("x", "f", "file", 1), std::logic_error);
 }
 

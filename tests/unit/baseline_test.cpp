@@ -138,7 +138,7 @@ TEST(Baseline, MissesALogicalDrive) {
   EXPECT_THAT(HeadlinesOf(Compare(now, Numbered())), ElementsAre("info: C1 logical drive 1 (RAID 1) is new"));
 }
 
-TEST(Baseline, MissesAControllerWithAllThatBelongsToItOnce) {
+TEST(Baseline, ReportsAMissingControllerWithItsObjectsOnce) {
   HealthyMachine now = Numbered();
   RemoveControllerTwo(now);
   const Machine machine = Compare(Numbered(), now);
@@ -175,7 +175,7 @@ TEST(Baseline, TakesNoControllerForAnotherThatGotItsNumber) {
   EXPECT_THAT(headlines, testing::Not(testing::Contains(HasSubstr("was moved"))));
 }
 
-TEST(Baseline, DoesNotCallMissingWhatAUtilityDescribesThatDidNotAnswer) {
+TEST(Baseline, DoesNotReportObjectsOfASilentUtilityAsMissing) {
   HealthyMachine now = Numbered();
   RemoveControllerTwo(now);
   now.runs.push_back(RunOf("arcconf", {"getconfig", "1", "al"}, Outcome::kTimedOut, "it did not answer within 60 s"));
@@ -185,7 +185,7 @@ TEST(Baseline, DoesNotCallMissingWhatAUtilityDescribesThatDidNotAnswer) {
                           "unknown: arcconf did not answer within 60 s"));
 }
 
-TEST(Baseline, SaysHowFastErrorsGrowAndWarnsFromTheLimitOn) {
+TEST(Baseline, ShowsHowFastErrorsGrowAndWarnsFromTheLimitOn) {
   HealthyMachine before = Numbered();
   HealthyMachine now = Numbered();
   Put(before, kErrors, "NumSoftErrors", "2");

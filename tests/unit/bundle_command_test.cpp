@@ -56,7 +56,7 @@ TEST_F(BundleCommand, ListsOneLineForEachItem) {
             "    4        26         -  C:\\ZXM\\RaidEvtA.log (ok)\n");
 }
 
-TEST_F(BundleCommand, ShowsWhatHoldsForAllItems) {
+TEST_F(BundleCommand, ShowsTheHeaderOfAllItems) {
   EXPECT_THAT(Shown(), StartsWith("hxahost bundle 1\nprogram: \"1.0.0\"\nmasked: no\nmachine: \"DBSERVER\"\n"));
   EXPECT_THAT(Shown(), testing::EndsWith("\nitems: 4\n"));
 }
@@ -94,7 +94,7 @@ TEST_F(BundleCommand, MasksABundleIntoAnother) {
   EXPECT_THAT(masked.runs[0].result.output, Not(HasSubstr("AB12CD34")));
 }
 
-TEST_F(BundleCommand, RefusesWhatIsNoWholeBundleInOneLine) {
+TEST_F(BundleCommand, RefusesAnIncompleteBundleInOneLine) {
   std::ostringstream out;
   const std::string damaged = WriteBundle(SampleBundle()).substr(0, 300);
   for (const auto& [name, text] : {std::pair("foreign", std::string("{}")), std::pair("damaged", damaged)}) {

@@ -30,7 +30,7 @@ TEST(BundleEncoding, IsReadable) {
   EXPECT_EQ(Quote("a\"b"), "\"a\\\"b\"");
 }
 
-TEST(BundleEncoding, RefusesWhatItDoesNotWrite) {
+TEST(BundleEncoding, RefusesTextsThatItDoesNotWrite) {
   for (const char* const text : {"\\", "\\x", "\\x1", "\\xg1", "\\u0041", "\r", "\xff", "\x1b", "a\\"}) {
     EXPECT_EQ(UnescapeBytes(text), std::nullopt) << text;
   }

@@ -99,7 +99,8 @@ Bundle Planted() {
   bundle.raidLog->bytes =
       "day\tINF\tMUMBLEBY\tBrindlesop of PLIMSOL, s96h8b01234 without 8b01234\r\n"
       "2007/03/06 08:00:01 PST INF GRIMHOLT the agent of mumbleby: 5000f0a1 by ombersley@grimholt\r\n";
-  bundle.raidLog->failure = RecordedFailure{FailureKind::kHost, "\"D:\\WEXLOGS\\RaidEvtA.log\" is in use by jo zandrik"};
+  bundle.raidLog->failure =
+      RecordedFailure{FailureKind::kHost, "\"D:\\WEXLOGS\\RaidEvtA.log\" is in use by jo zandrik"};
   return bundle;
 }
 
@@ -156,7 +157,7 @@ TEST(BundleMask, LeavesModelsStatesAndFixedLines) {
 }
 
 // A name may be a word of the tools: replacing it everywhere would make the texts unreadable.
-TEST(BundleMask, KeepsTextsReadableWhateverTheMachineIsCalled) {
+TEST(BundleMask, KeepsTextsReadableForAnyMachineName) {
   for (const char* const name : {"Controller", "CONTROL", "status", "Serial", "Zentraxis", "Online", "Found", "zenx"}) {
     Bundle bundle = SampleBundle();
     bundle.machine = name;

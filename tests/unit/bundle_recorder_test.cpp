@@ -32,7 +32,7 @@ void AskForAll(const HostServices& services, const Bundle& bundle) {
   EXPECT_EQ(services.capture(bundle.raidLog->path), bundle.raidLog->bytes);
 }
 
-TEST(BundleRecorder, KeepsAllThatTheServicesSay) {
+TEST(BundleRecorder, KeepsEveryAnswerOfTheServices) {
   const RaidLogSetting setting("C:\\ZXM\\");
   BundleReplay replay(SampleBundle());
   BundleRecorder recorder(18, "C:\\tools");
@@ -44,7 +44,7 @@ TEST(BundleRecorder, KeepsAllThatTheServicesSay) {
   EXPECT_EQ(WriteBundle(recorded), WriteBundle(SampleBundle()));
 }
 
-TEST(BundleRecorder, NotesWhatThePlugInIsToldOfTheSystem) {
+TEST(BundleRecorder, RecordsTheSystemThatThePlugInSees) {
   {
     const RaidLogSetting setting("D:\\");
     const BundleRecorder recorder(std::nullopt, "");
@@ -56,7 +56,7 @@ TEST(BundleRecorder, NotesWhatThePlugInIsToldOfTheSystem) {
   EXPECT_EQ(BundleRecorder(std::nullopt, "").Recorded().raidLogDir, std::nullopt);
 }
 
-TEST(BundleRecorder, PassesOnWhatIsThrownAndKeepsItsKind) {
+TEST(BundleRecorder, PassesOnExceptionsAndKeepsTheirKind) {
   BundleRecorder recorder(std::nullopt, "");
   HostServices services = RealServices();
   services.spawn = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {

@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 constexpr const char* kArcconf = "zenx//arcconf.exe";
 
-TEST(BundleReplay, GivesWhatTheToolsGave) {
+TEST(BundleReplay, ReturnsTheAnswersOfTheTools) {
   BundleReplay replay(SampleBundle());
   const HostServices services = replay.Services();
   const SpawnResult result = services.spawn(kArcconf, {"getconfig", "1", "al"}, 300);

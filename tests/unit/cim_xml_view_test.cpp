@@ -146,7 +146,7 @@ TEST(CimXmlView, IsADeclarationWithAPathForEachInstance) {
 )");
 }
 
-TEST(CimXmlView, NestsThePathOfWhatAnAssociationRefersTo) {
+TEST(CimXmlView, NestsThePathsOfAnAssociation) {
   FilledRepository repository;
   const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
   repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
@@ -178,7 +178,7 @@ TEST(CimXmlView, GivesAReferenceWithoutAClassTheDeclaredOne) {
               AllOf(HasSubstr("<INSTANCENAME CLASSNAME=\"KVRSG_zxDiskGroup\"/>"), Not(HasSubstr("CLASSNAME=\"\""))));
 }
 
-TEST(CimXmlView, TellsNoValueFromAnEmptyOne) {
+TEST(CimXmlView, DistinguishesNoValueFromAnEmptyOne) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "", "Array", TCIMValue());
   repository.Publish("KVRSG_zxRawData", "RawResults", Texts({}));
@@ -210,7 +210,7 @@ TEST(CimXmlView, HasNoValueForATimeThatThereIsNoneOf) {
   }
 }
 
-TEST(CimXmlView, NamesWhatIsLeftOutInCommentsThatNoPathEnds) {
+TEST(CimXmlView, NamesOmittedInstancesInCommentsThatNoPathEnds) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a--->b");
   QueryResult result;

@@ -33,7 +33,7 @@ TEST(ClassDependencies, AreAllMetByTheOrderOfTheCatalogue) {
   EXPECT_THAT(MissingDependencies(catalogue), IsEmpty());
 }
 
-TEST(ClassDependencies, NameWhatIsMissingOrComesTooLate) {
+TEST(ClassDependencies, NameClassesThatAreMissingOrTooLate) {
   EXPECT_THAT(MissingDependencies({"KVRSG_zxDiskDrive"}), IsEmpty());
   EXPECT_THAT(MissingDependencies({"KVRSG_BadStripeData"}),
               ElementsAre("KVRSG_BadStripeData is built from other instances: give --class KVRSG_zxLogicalDisk before "

@@ -32,7 +32,7 @@ Texts Fields(const RaidMgrEvent& event) {
   return {event.RecordID, event.MessageTimestamp.ToString(), event.Severity, event.MachineName, event.Message};
 }
 
-TEST(CollectRaidMgrData, FindsTheLogThroughTheRegistryAndSaysSo) {
+TEST(CollectRaidMgrData, FindsTheLogThroughTheRegistryAndLogsIt) {
   const Collected found(kLine);
   EXPECT_TRUE(found.collector.LogAvailable());
   EXPECT_EQ(found.log.entries, (Entries{
@@ -148,7 +148,7 @@ TEST(CollectRaidMgrData, TheSeverityLosesTrailingBlanksTabsAndLineFeedsOnly) {
   EXPECT_EQ(found.collector.CurrentRecord().Severity, " INF");
 }
 
-TEST(CollectRaidMgrData, AMalformedLineIsReportedAndChangesTheNumberAlone) {
+TEST(CollectRaidMgrData, AMalformedLineIsReportedAndChangesOnlyTheNumber) {
   Collected found(std::string(kLine) + "---\tERR\tOTHER\tText\n" + kLine);
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kRecord);
   Texts expected = Fields(found.collector.CurrentRecord());

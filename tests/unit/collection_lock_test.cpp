@@ -37,7 +37,7 @@ TEST(CollectionLock, MakesTheSecondWaitForTheFirstAndSaySoOnce) {
   EXPECT_EQ(said.str(), "hxahost: another program collects from this folder zenx: waiting until it is done.\n");
 }
 
-TEST(CollectionLock, IsFreeAgainAfterItsEndAndLeavesNothingBehind) {
+TEST(CollectionLock, IsFreeAgainAfterItsEndAndLeavesNoFile) {
   const TemporaryFolder folder;
   TakeWithoutWait(folder.Path());
   TakeWithoutWait(folder.Path());

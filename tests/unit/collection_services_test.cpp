@@ -23,7 +23,7 @@ class CollectionServicesTest : public testing::Test {
   ToolRunList runs_;
 };
 
-TEST_F(CollectionServicesTest, GiveWhatTheOptionsReplace) {
+TEST_F(CollectionServicesTest, AreReplacedByOptions) {
   CollectionOptions options;
   options.machineName = "OTHER";
   options.localTime = TCIMDateTime("20260305123015.250000+060");

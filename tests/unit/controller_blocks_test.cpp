@@ -26,7 +26,7 @@ std::string Blocks(const FilledRepository& repository, const std::vector<std::st
   return out.str();
 }
 
-TEST(ControllerBlocks, ShowAControllerWithAllThatHangsOnIt) {
+TEST(ControllerBlocks, ShowAControllerWithAllOfItsObjects) {
   FilledRepository repository;
   repository.Publish(kController, "ControllerNum", "1", "ControllerType", "Zentraxis-6M", "ControllerStatus", "Okay",
                      "SerialNum", "8A1234", "ControllerSlotInfo", "3", "DefunctDiskDriveCnt", "1",
@@ -58,7 +58,7 @@ Controller 1: Zentraxis-6M - Okay
 )");
 }
 
-TEST(ControllerBlocks, ShowShortFormsOfStatesOnRequestAlone) {
+TEST(ControllerBlocks, ShowShortFormsOfStatesOnlyOnRequest) {
   FilledRepository repository;
   const auto publish = [&](const char* state, const char* cache) {
     repository.Publish(kLogicalDisk, "ControllerNum", "1", "LogicalDriveStatus", state, "WriteCacheStatus", cache);
@@ -103,7 +103,7 @@ TEST(ControllerBlocks, CallEachKindOfDeviceByOneShortWord) {
   EXPECT_THAT(Blocks(repository), testing::HasSubstr("  Type\n  HDD\n  tape\n  enclosure\n  Processor device\n"));
 }
 
-TEST(ControllerBlocks, ShowWhatHangsOnAControllerThatHasNoInstance) {
+TEST(ControllerBlocks, ShowTheObjectsOfAControllerWithoutAnInstance) {
   FilledRepository repository;
   repository.Publish(kDiskDrive, "ControllerNum", "2", "Channel", "1");
   repository.Publish(kController, "ControllerNum", "1");

@@ -38,7 +38,7 @@ struct RejectedCase {
   const char* reason;
 };
 
-TEST(DateTime, RejectsATextThatIsNoDateAndTimeAndSaysWhy) {
+TEST(DateTime, RejectsATextThatIsNotADateAndTimeWithAReason) {
   constexpr RejectedCase kRejected[] = {
       {"",                           "25 characters"       },
       {"20260305123015.250000+06",   "25 characters"       },

@@ -25,7 +25,7 @@ std::string Identifier(const char* className, const Properties&... properties) {
   return hxahost::IdentifierOf(*repository.Instances().front());
 }
 
-TEST(DeviceNames, AreWhatPeopleCallTheDevices) {
+TEST(DeviceNames, AreNamesForPeople) {
   EXPECT_EQ(Name("", kController, "ControllerType", "Zentraxis C5"), "controller 1 (Zentraxis C5)");
   EXPECT_EQ(Name("", kController), "controller 1");
   EXPECT_EQ(Name("", kLogicalDisk, "LogicalDriveNum", "2", "LogicalDriveName", " Data "),
@@ -41,13 +41,13 @@ TEST(DeviceNames, AreWhatPeopleCallTheDevices) {
   EXPECT_EQ(Name("", "KVRSG_zxDiskGroup"), "");
 }
 
-TEST(DeviceNames, SayWhatTellsTheControllerFromAnotherOfItsNumber) {
+TEST(DeviceNames, DistinguishControllersWithOneNumber) {
   EXPECT_EQ(Name("3 (arcconf)", kController, "ControllerType", "C6"), "controller 3 (arcconf, C6)");
   EXPECT_EQ(Name("3 (arcconf)", kController), "controller 3 (arcconf)");
   EXPECT_EQ(Name("3 (arcconf)", kLogicalDisk, "LogicalDriveNum", "1"), "logical drive 1 of controller 3 (arcconf)");
 }
 
-TEST(DeviceNames, AreOfWhatTheirIdentifierIdentifies) {
+TEST(DeviceNames, NameTheObjectOfTheIdentifier) {
   EXPECT_EQ(Identifier(kController, "DeviceID", "Zentraxis1"), "Zentraxis1");
   EXPECT_EQ(Identifier("KVRSG_BadStripeData", "InstanceID", "B"), "B");
   EXPECT_EQ(Identifier("KVRSG_zxRawData", "Command", "C"), "");

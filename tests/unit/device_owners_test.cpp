@@ -25,7 +25,7 @@ constexpr const char* kLogicalDisk = "KVRSG_zxLogicalDisk";
 constexpr const char* kDiskGroup = "KVRSG_zxDiskGroup";
 constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 
-TEST(DeviceOwners, AreNumbersAloneWhereEachIsOfOneTool) {
+TEST(DeviceOwners, AreOnlyNumbersIfEachBelongsToOneTool) {
   FilledRepository repository;
   repository.Publish(kController, "ControllerNum", "1", "ReadAhead", "On");
   repository.Publish(kDiskDrive, "ControllerNum", "1", "ScsiId", "0");

@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(EndOfText, EndsAPartQuietlyAndKeepsWhatWasRead) {
+TEST(EndOfText, EndsAPartQuietlyAndKeepsTheValuesSoFar) {
   CollectedData text(nullptr, "head\nfirst\n");
   std::string first;
   std::string second = "as it was";

@@ -7,7 +7,7 @@ namespace {
 using namespace hxahost;
 using namespace std::string_literals;
 
-TEST(Escaping, EscapesWhatWouldActOnATerminal) {
+TEST(Escaping, EscapesCharactersThatActOnATerminal) {
   EXPECT_EQ(EscapeControls("a\tb\r\n"), "a\\tb\\r\\n");
   EXPECT_EQ(EscapeControls("\x1b[2J\x7f"), "\\x1b[2J\\x7f");
   EXPECT_EQ(EscapeControls("a\0b"s), "a\\x00b");

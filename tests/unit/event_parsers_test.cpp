@@ -41,7 +41,7 @@ TEST(EventParsers, MakeTheTimeStampOutOfDateAndTime) {
   EXPECT_EQ(Row(RowAt("03/15/2005", "14:02:33")).MessageTimestamp.ToString(), "20050315140233.000000+000");
 }
 
-TEST(EventParsers, TakeDateAndTimeByPositionWhateverStandsBetween) {
+TEST(EventParsers, TakeDateAndTimeByPositionWithAnyTextBetween) {
   EXPECT_EQ(Row(RowAt("03-15-2005 Tue", "14.02.33 UTC")).MessageTimestamp.ToString(), "20050315140233.000000+000");
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 using namespace hxahost;
 
-TEST(ExplainView, ShowsWhatALineSaysInstead) {
+TEST(ExplainView, ShowsTheDifferentValueOfALine) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskDrive", "DeviceID", "C1", "State", "Online\r", "PFA", "No", "SystemName", "HOST");
   repository.Publish("KVRSG_zxRawData", "Command", "tool", "RawResults", Texts({"   State   : Failed", "PFA : No"}));

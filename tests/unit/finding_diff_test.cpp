@@ -57,12 +57,12 @@ std::vector<std::string> Changes(const JsonResult& before, const JsonResult& aft
   return texts;
 }
 
-TEST(FindingDiff, SaysNothingOfFindingsThatStayAsTheyAre) {
+TEST(FindingDiff, LeavesOutUnchangedFindings) {
   const JsonResult machine = Machine({Controller("1", "Optimal"), Disk("d", "7", "Failed")});
   EXPECT_THAT(Changes(machine, machine), IsEmpty());
 }
 
-TEST(FindingDiff, ShowsWhatAppearedChangedAndIsGone) {
+TEST(FindingDiff, ShowsNewChangedAndDisappearedFindings) {
   const auto machine = [](const char* first, const char* second, const char* third) {
     return Machine({Disk("a", "1", first), Disk("b", "2", second), Disk("c", "3", third)});
   };
@@ -71,7 +71,7 @@ TEST(FindingDiff, ShowsWhatAppearedChangedAndIsGone) {
                           "critical c Failed => -"));
 }
 
-TEST(FindingDiff, PutsWhatIsWorstNowFirstAndWhatIsGoneLast) {
+TEST(FindingDiff, PutsTheWorstFirstAndDisappearedFindingsLast) {
   const JsonResult before = Machine(
       {Disk("a", "1", "Strange"), Disk("b", "2", "Failed"), Disk("c", "3", "Online"), Disk("d", "4", "Online")});
   const JsonResult after = Machine(
@@ -84,13 +84,13 @@ TEST(FindingDiff, FollowsADiskToItsNewPlace) {
   EXPECT_THAT(Changes(Machine({Disk("old", "7", "Failed")}), Machine({Disk("new", "7", "Failed")})), IsEmpty());
 }
 
-TEST(FindingDiff, TellsTwoDisksOfOneIdentifierApart) {
+TEST(FindingDiff, DistinguishesTwoDisksWithOneIdentifier) {
   EXPECT_THAT(Changes(Machine({Disk("d", "1", "Failed"), Disk("d", "2", "Online")}),
                       Machine({Disk("d", "1", "Online"), Disk("d", "2", "Failed")})),
               ElementsAre("- => critical d Failed", "critical d Failed => -"));
 }
 
-TEST(FindingDiff, NoticesTheOneControllerThatIsGoneAlthoughItsDisksAreThere) {
+TEST(FindingDiff, ReportsAMissingControllerWhoseDisksAreThere) {
   const std::vector<std::string> changes =
       Changes(Machine({Controller("1", "Optimal"), Disk("d", "7", "Online")}), Machine({Disk("d", "7", "Online")}));
   EXPECT_THAT(changes, ElementsAre(testing::StartsWith("- => critical Zentraxis1")));

@@ -23,7 +23,7 @@ TEST(FindingText, IsOneLineThatNamesTheObjectBothWays) {
       "critical: Hard disk at channel 1, ID 0 [C1 I00]: State \"Defunct (DDD)\": Replace it: the disk has failed");
 }
 
-TEST(FindingText, NamesOnceWhatHasOneName) {
+TEST(FindingText, NamesAnObjectWithOneNameOnce) {
   EXPECT_EQ(SubjectText({Severity::kWarning, "", "the log", "the log", "", "", {}}), "the log");
   EXPECT_EQ(SubjectText({Severity::kWarning, "", "", "the log", "", "", {}}), "the log");
 }

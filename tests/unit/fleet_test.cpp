@@ -152,7 +152,7 @@ TEST(Fleet, FindsDisksThatMovedFromTheirLastPlace) {
   EXPECT_EQ(moved[0].to.machine, "B");
 }
 
-TEST(Fleet, SaysAgesInTheLargestUnitOfWhichThereAreTwo) {
+TEST(Fleet, ShowsAgesInTheLargestUnitWithAtLeastTwo) {
   EXPECT_EQ(AgeText(std::nullopt), "?");
   EXPECT_EQ(AgeText(-5), "0 s");
   EXPECT_EQ(AgeText(1), "1 s");

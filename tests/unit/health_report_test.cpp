@@ -49,7 +49,7 @@ HealthyMachine HostileMachine() {
 }
 
 // Monitoring programs show only the first line.
-TEST(HealthText, SumsUpInItsFirstLineAndHasEachIncidentWithWhatToDo) {
+TEST(HealthText, SumsUpInItsFirstLineAndHasEachIncidentWithItsAction) {
   EXPECT_TRUE(IsGolden("health.txt", Written(BrokenMachine(), "text")));
 }
 
@@ -62,12 +62,12 @@ TEST(HealthText, HasEachFindingOnceBelowItsIncidentWhereItIsVerbose) {
   EXPECT_TRUE(IsGolden("health-verbose.txt", out.str()));
 }
 
-TEST(HealthText, SaysThatNothingIsWrong) {
+TEST(HealthText, ReportsThatNothingIsWrong) {
   EXPECT_EQ(Written(HealthyMachine(), "text"),
             "OK: nothing is wrong on HOST (2 controllers, 2 logical drives, 9 devices)\n");
 }
 
-TEST(HealthText, SaysWhoSaidThatThereIsNoController) {
+TEST(HealthText, NamesTheUtilitiesThatReportedNoController) {
   HealthyMachine machine;
   machine.devices.clear();
   machine.runs = {RunOf("qcmdrun", {"getconfig", "1", "al"}, Outcome::kRefused),
@@ -108,14 +108,14 @@ TEST(HealthJson, HasAnEmptyListWhereNothingIsWrong) {
   EXPECT_TRUE(json["findings"].empty());
 }
 
-TEST(HealthJson, HoldsWhatAToolPrintsByteForByteAndReadsBadUtf8AsLatin1) {
+TEST(HealthJson, ContainsTheOutputOfAToolUnchangedAndReadsBadUtf8AsLatin1) {
   const auto json = nlohmann::json::parse(Written(HostileMachine(), "json"));
   EXPECT_EQ(json["findings"][0]["text"], "<b>\"Odd\"\\\n\xc3\xa4\x1b]0;x\x07");
 }
 
 TEST(HealthMetrics, HaveTheAgreedForm) { EXPECT_TRUE(IsGolden("health.prom", Written(BrokenMachine(), "prometheus"))); }
 
-TEST(HealthMetrics, EscapeWhatToolsPrint) {
+TEST(HealthMetrics, EscapeTheTextsOfTools) {
   const std::string text = Written(HostileMachine(), "prometheus");
   EXPECT_THAT(text, HasSubstr("name=\"a\\\"b\\\\c\\nd\\\\x1b[2J\xc3\xa4\""));
   EXPECT_EQ(text.find('\x1b'), text.npos);
@@ -180,7 +180,7 @@ std::pair<std::string, std::string> FirstLine(const HealthyMachine& machine) {
 
 TEST(HealthNagios, HasTheAgreedForm) { EXPECT_TRUE(IsGolden("health.nagios", Written(BrokenMachine(), "nagios"))); }
 
-TEST(HealthNagios, SaysThatNothingIsWrong) {
+TEST(HealthNagios, ReportsThatNothingIsWrong) {
   const auto [text, figures] = FirstLine(HealthyMachine());
   EXPECT_EQ(text, "ZENX OK - no fault found: 2 controllers, 2 logical drives, 9 devices");
   EXPECT_EQ(figures, "critical=0 warning=0 unknown=0 controllers=2");
@@ -203,8 +203,7 @@ TEST(HealthRulesText, ShowsEachRule) {
   std::ostringstream out;
   WriteHealthRules(out);
   EXPECT_THAT(out.str(), HasSubstr("KVRSG_zxLogicalDisk, LogicalDriveStatus\n"));
-  EXPECT_THAT(out.str(),
-              HasSubstr("  critical \"offline\" (ofl), printed by every utility: Replace the failed disks"));
+  EXPECT_THAT(out.str(), HasSubstr("  critical \"offline\" (ofl), printed by every utility: Replace the failed disks"));
   EXPECT_THAT(
       out.str(),
       HasSubstr("  warning  \"rebuild\" (rbl) in a logical drive that is not guarded, printed by every utility"));

@@ -181,7 +181,7 @@ TEST(HealthRules, NameWordsInTheFormInWhichTheyAreCompared) {
   }
 }
 
-TEST(HealthRules, SayWhatItMeansWhereItIsNotFineAndWhoPrintsIt) {
+TEST(HealthRules, HaveAMeaningUnlessFineAndNameTheTools) {
   for (const HealthRule& rule : HealthRules()) {
     EXPECT_EQ(rule.meaning.what.empty(), SeverityOf(rule.level) == Severity::kFine)
         << rule.value->property << " " << rule.word;
@@ -189,7 +189,7 @@ TEST(HealthRules, SayWhatItMeansWhereItIsNotFineAndWhoPrintsIt) {
   }
 }
 
-TEST(HealthRules, OfOneValueStandTogether) {
+TEST(HealthRules, OfOneValueAreConsecutive) {
   std::set<const WatchedValue*> done;
   const WatchedValue* current = nullptr;
   for (const HealthRule& rule : HealthRules()) {

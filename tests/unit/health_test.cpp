@@ -135,7 +135,7 @@ TEST(Health, MissesNoControllerWhereNoneWasAskedFor) {
   EXPECT_TRUE(BuildMachine(header, machine.Result()).findings.empty());
 }
 
-TEST(Health, TellsWhatWentWrongWithTheTools) {
+TEST(Health, ReportsTheFailuresOfTheTools) {
   struct Case {
     ToolRun run;
     const char* finding;
@@ -217,7 +217,7 @@ TEST(Health, IsUnknownWhereAControllerAnsweredThatIsNotPublished) {
               ElementsAre("unknown: collection, controllers \"3 controllers answered, 2 are known\""));
 }
 
-TEST(Health, ReadsTheLogForWhatEndedTheCollection) {
+TEST(Health, FindsTheReasonForAnAbortInTheLog) {
   struct Case {
     const char* text;
     const char* severity;

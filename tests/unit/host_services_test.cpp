@@ -15,7 +15,7 @@ namespace {
 using namespace NKVRHXA20;
 using testing::ElementsAre;
 
-TEST(HostServices, AreWhatPlugInsReachThroughTheHostsOperations) {
+TEST(HostServices, AreCalledByTheHostsOperations) {
   ScriptedServices services;
   services.answers["tool getconfig 1"] = "answer";
   services.files["log"] = "contents";

@@ -28,7 +28,7 @@ TEST(HrconfControllerParser, TakesEveryLabelIntoItsFieldInAnyOrder) {
   EXPECT_EQ(controller.ChannelDescription, "");
 }
 
-TEST(HrconfControllerParser, TakesTheFirstLineThatHasTheLabelAndThatLineAlone) {
+TEST(HrconfControllerParser, TakesOnlyTheFirstLineThatHasTheLabel) {
   EXPECT_EQ(Parsed(CrLf("   Boot ROM : 1\n   Boot Flash : 2\n")).BootBlockVersion, " 1\r\n");
   EXPECT_EQ(Parsed(CrLf("   Boot ROM\n   Other : 2\n")).BootBlockVersion, "");
 }

@@ -34,7 +34,7 @@ TEST(HrconfPhysicalDeviceParser, ReadsTheLabelsOfItsType) {
   expectRead("a Hard drive", kHardDrive);
 }
 
-TEST(HrconfPhysicalDeviceParser, KeepsTheTypeAloneOfOtherDevices) {
+TEST(HrconfPhysicalDeviceParser, KeepsOnlyTheTypeOfOtherDevices) {
   const ZenxPhysicalDevice tape = OfType("a Tape drive", LabelLines(kHardDrive));
   EXPECT_EQ(tape.DeviceType, "Tape drive");
   ExpectFilled(tape, kHardDrive, 0);
@@ -46,7 +46,7 @@ TEST(HrconfPhysicalDeviceParser, DoesNotSplitTheReportedChannel) {
   EXPECT_EQ(drive.ScsiId, "");
 }
 
-TEST(HrconfPhysicalDeviceParser, LooksForTheTypeOnTheNextLineAlone) {
+TEST(HrconfPhysicalDeviceParser, LooksForTheTypeOnlyOnTheNextLine) {
   ExpectFilled(Parsed(CrLf("\n   Device is a Hard drive\n   State : Online\nend\n")), kHardDrive, 0);
 }
 

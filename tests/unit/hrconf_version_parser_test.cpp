@@ -61,11 +61,11 @@ TEST(HrconfVersionParser, LeavesBothVersionsEmptyWhereNoControllersAreFound) {
   EXPECT_EQ(versions.log, std::vector<LogEntry>());
 }
 
-TEST(HrconfVersionParser, LooksForThatAnswerOnTheFirstLineAlone) {
+TEST(HrconfVersionParser, LooksForThatAnswerOnlyOnTheFirstLine) {
   EXPECT_EQ(Parse("1\nControllers found: 0\n3\n4\nBIOS : b\nDriver : d\n").bios, " b\r\n");
 }
 
-TEST(HrconfVersionParser, LogsAnAnswerThatIsTooShortAndKeepsWhatWasRead) {
+TEST(HrconfVersionParser, LogsAShortAnswerAndKeepsTheValuesSoFar) {
   const std::string lines[] = {"1\n", "2\n", "3\n", "4\n", "BIOS : b\n", "Driver : d\n"};
   std::string answer;
   for (std::size_t count = 0; count <= std::size(lines); ++count) {

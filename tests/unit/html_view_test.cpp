@@ -62,7 +62,7 @@ TEST(HtmlView, HoldsTheJsonOfTheQuery) {
   EXPECT_THAT(page, HasSubstr(" in /tools</p>"));
 }
 
-TEST(HtmlView, MakesNoMarkupOfWhatToolsAndOptionsSay) {
+TEST(HtmlView, MakesNoMarkupOfTextsOfToolsAndOptions) {
   const std::string hostile(kHostile);
   const std::string page = Page({hostile, hostile, {}, {hostile}, 1}, {HostileResult()});
   EXPECT_THAT(page, Not(HasSubstr("alert(1)</script>")));
@@ -72,7 +72,7 @@ TEST(HtmlView, MakesNoMarkupOfWhatToolsAndOptionsSay) {
   EXPECT_EQ(ordered_json::parse(DataOf(page, "query-data"))["machine"], hostile);
 }
 
-TEST(HtmlView, ShowsTheLastOfSeveralQueriesAndSaysHowManyThereWere) {
+TEST(HtmlView, ShowsTheLastOfSeveralQueriesAndTheirNumber) {
   const QueryHeader header{"MACHINE", "", {}, {}, 3};
   const auto result = [](unsigned number) { return QueryResult{number, {}, {{3, "query " + std::to_string(number)}}}; };
   EXPECT_THAT(Page(header, {result(1), result(2)}), IsEmpty());

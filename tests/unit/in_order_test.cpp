@@ -17,7 +17,7 @@ auto Numbers(int count) {
   return [count, next = 0]() mutable { return next < count ? std::optional<int>(next++) : std::nullopt; };
 }
 
-TEST(InOrder, GivesResultsInTheOrderOfTheItemsWhateverEndsFirst) {
+TEST(InOrder, PassesResultsInTheOrderOfTheItemsWhicheverEndsFirst) {
   std::vector<int> taken;
   const auto work = [](int number) {
     if (number % 3 == 0) std::this_thread::sleep_for(std::chrono::milliseconds(5));
@@ -42,7 +42,7 @@ TEST(InOrder, HoldsNoMoreResultsThanItWorksOnAtATime) {
   EXPECT_LE(most, 4);
 }
 
-TEST(InOrder, PassesOnWhatIsThrown) {
+TEST(InOrder, PassesOnExceptions) {
   const auto work = [](int number) { return number == 2 ? throw std::runtime_error("two") : number; };
   EXPECT_THROW(hxahost::InOrder(2, Numbers(5), work, [](int) {}), std::runtime_error);
 }

@@ -114,7 +114,7 @@ TEST_F(Instance, StaysAsItWasCommitted) {
   EXPECT_EQ(std::string(disk->GetProperty("DeviceID", {})->GetValue({})), "1");
 }
 
-TEST_F(Instance, NamesALinkByWhatItLinks) {
+TEST_F(Instance, NamesALinkByItsEnds) {
   disk->SetProperty("DeviceID", "a\"b\\c", {});
   const auto link = New("KVRSG_ElementBadStripeData");
   link->SetProperty("ManagedElement", disk->GetReference({}), {});

@@ -38,7 +38,7 @@ TEST(JsonInstances, AreThoseOfTheClassesAskedForWithTheirPlaces) {
   EXPECT_EQ(std::string(made.instances[0]->Properties()[0].value), "Online");
 }
 
-TEST(JsonInstances, LeaveOutWhatTheSchemaDoesNotKnowOrKnowsOtherwise) {
+TEST(JsonInstances, LeaveOutPropertiesThatTheSchemaLacksOrDeclaresDifferently) {
   struct Case {
     const char* name;
     Json properties;

@@ -77,7 +77,7 @@ TEST(JsonLinesReader, GivesTheInstancesTheRunsAndTheLog) {
   EXPECT_EQ(result.log[0].text, "t");
 }
 
-TEST(JsonLinesReader, KnowsItsLinesFromOtherFiles) {
+TEST(JsonLinesReader, RecognisesItsLines) {
   EXPECT_TRUE(IsInstanceLine(Line("A", "1", "p")));
   EXPECT_FALSE(IsInstanceLine("{"));
   EXPECT_FALSE(IsInstanceLine(""));

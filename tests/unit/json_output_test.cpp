@@ -9,7 +9,7 @@ namespace {
 using namespace hxahost;
 using Json = nlohmann::ordered_json;
 
-TEST(JsonOutput, EscapesWhatMustNotReachATerminalAndIsTheSameJson) {
+TEST(JsonOutput, EscapesUnsafeCharactersAndIsTheSameJson) {
   struct Case {
     const char* name;
     std::string text;

@@ -30,7 +30,7 @@ TEST(JsonResult, ReadsTheInstancesOfTheLastQuery) {
   EXPECT_EQ(ResultText(result.instances[0], "Other"), "");
 }
 
-TEST(JsonResult, SaysWhenItWasCollectedWhereTheResultDoes) {
+TEST(JsonResult, HasTheTimeOfCollectionIfTheFileHas) {
   const TemporaryFolder folder;
   EXPECT_EQ(ReadJsonResult(folder.Write("r.json", kWhole)).time, "");
   const JsonResult dated = ReadJsonResult(folder.Write("d.json", R"({"format": 1, "machine": "M",
@@ -85,7 +85,7 @@ void ExpectRejections(std::span<const RejectedCase> cases) {
   }
 }
 
-TEST(JsonResult, RejectsWhatIsNoResultAndSaysWhy) {
+TEST(JsonResult, RejectsATextThatIsNotAResultWithAReason) {
   const RejectedCase cases[] = {
       {"nothing",           "",                                                "damaged"               },
       {"no JSON",           "<html>",                                          "damaged"               },
@@ -98,7 +98,7 @@ TEST(JsonResult, RejectsWhatIsNoResultAndSaysWhy) {
   ExpectRejections(cases);
 }
 
-TEST(JsonResult, RejectsAQueryThatIsNoneAndSaysWhy) {
+TEST(JsonResult, RejectsAnInvalidQueryWithAReason) {
   const auto result = [](const std::string& query) {
     return R"({"format": 1, "machine": "M", "queries": [)" + query + "]}";
   };

@@ -135,7 +135,7 @@ TEST(JsonView, KeepsNamesAsTheyWereSet) {
   EXPECT_EQ(Properties(repository).dump(), R"({"CreationClassname":"KVRSG_zxDiskDrive"})");
 }
 
-TEST(JsonView, ShowsAReferenceAsTheObjectPathOfWhatItRefersTo) {
+TEST(JsonView, ShowsAReferenceAsAnObjectPath) {
   FilledRepository repository;
   const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
   repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);

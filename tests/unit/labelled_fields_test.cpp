@@ -35,11 +35,11 @@ Disk InOrder(std::string_view lines, LabelTable<Disk> table = kDisk) {
   return disk;
 }
 
-TEST(LabelledFields, ReadsTheLinesBehindTheCurrentOneInTheOrderOfTheTable) {
+TEST(LabelledFields, ReadsTheLinesAfterTheCurrentOneInTheOrderOfTheTable) {
   EXPECT_EQ(InOrder("head\nName : a\nSize : 1\nState : ok\n"), (Disk{" a\n", " 1\n", " ok\n"}));
 }
 
-TEST(LabelledFields, EmptiesTheFieldOfAMissAndReplacesWhatAnotherHeld) {
+TEST(LabelledFields, EmptiesTheFieldOfAMissAndReplacesOtherValues) {
   CollectedData text(nullptr, "head\nSize : 2\nend of the lines\n");
   Disk disk{"name", "size", "state"};
   ReadInOrder(text, disk, kDisk);
@@ -70,21 +70,21 @@ TEST(LabelledFields, EndsOnTheLastLineRead) {
   EXPECT_EQ(text.CurrentLine(), "Name : a\n");
 }
 
-TEST(LabelledFields, FailsWhereTheTextEndsAndKeepsWhatWasRead) {
+TEST(LabelledFields, FailsAtTheEndOfTheTextAndKeepsTheValuesSoFar) {
   CollectedData text(nullptr, "head\nName : a\n");
   Disk disk;
   EXPECT_THROW(ReadInOrder(text, disk, kDisk), std::out_of_range);
   EXPECT_EQ(disk.Name, " a\n");
 }
 
-TEST(LabelledFields, ReadsTheFirstLineOfEachLabelWhereverItStands) {
+TEST(LabelledFields, ReadsTheFirstLineOfEachLabelAnywhere) {
   CollectedData text(nullptr, "State : ok\nName : a\nSize : 1\nName : b\n");
   Disk disk;
   ReadAnywhere<Disk>(text, disk, kDisk);
   EXPECT_EQ(disk, (Disk{" a\n", " 1\n", " ok\n"}));
 }
 
-TEST(LabelledFields, LeavesAFieldEmptyWhoseLabelStandsNowhere) {
+TEST(LabelledFields, LeavesAFieldEmptyWithoutItsLabel) {
   CollectedData text(nullptr, "Size : 1\n");
   Disk disk;
   ReadAnywhere<Disk>(text, disk, kDisk);

@@ -64,7 +64,7 @@ class LimitedRunsTest : public testing::Test {
   std::chrono::steady_clock::time_point now_;
 };
 
-TEST_F(LimitedRunsTest, AllowARunWhatThePluginAllowsOrTheLimit) {
+TEST_F(LimitedRunsTest, UseTheLimitOfThePluginOrOfTheOptions) {
   LimitedRuns plain = Make({});
   Ask(plain, "arcconf", {"getconfig", "1", "al"});
   RunLimits limits;
@@ -98,7 +98,7 @@ TEST_F(LimitedRunsTest, AskNothingMoreOfAUtilityAfterTwoRunsMetTheirLimit) {
   EXPECT_THAT(Outcomes(), ElementsAre("timed out", "ok", "timed out", "not asked", "ok"));
 }
 
-TEST_F(LimitedRunsTest, GiveTheLastRunWhatIsLeftOfTheCollectionsTimeAndAskNothingAfterIt) {
+TEST_F(LimitedRunsTest, GiveTheLastRunTheRemainingTimeAndStartNoneAfterIt) {
   RunLimits limits;
   limits.collectionSeconds = 5;
   LimitedRuns runs = Make(limits);
@@ -140,7 +140,7 @@ TEST_F(LimitedRunsTest, AskEachCommandOnceWhereThatIsAskedFor) {
   EXPECT_EQ(asked_.size(), 5U);
 }
 
-TEST_F(LimitedRunsTest, AskAgainWhatFailed) {
+TEST_F(LimitedRunsTest, RepeatFailedRuns) {
   RunLimits limits;
   limits.asksOnce = true;
   answer_ = "Driver Update Required\n";

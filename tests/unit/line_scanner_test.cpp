@@ -85,7 +85,7 @@ TEST(CollectedData, StepsOutsideTheTextLeadBackInside) {
   EXPECT_EQ(text.CurrentLine(), "a\n");
 }
 
-TEST(CollectedData, SaysTheSameOnEverySystemWhereThereIsNoLine) {
+TEST(CollectedData, ThrowsTheSameOnEverySystemWithoutALine) {
   const CollectedData none(nullptr, "no line feed");
   try {
     none.CurrentLine();
@@ -95,7 +95,7 @@ TEST(CollectedData, SaysTheSameOnEverySystemWhereThereIsNoLine) {
   }
 }
 
-TEST(CollectedData, FindsNoLabelThatGoesOnBehindALineFeed) {
+TEST(CollectedData, FindsNoLabelThatContinuesAfterALineFeed) {
   CollectedData text(nullptr, "one\ntwo\nthree");
   EXPECT_EQ(text.FindLine("e\nt"), "");
   EXPECT_EQ(text.CurrentLine(), "one\n");

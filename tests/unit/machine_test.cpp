@@ -34,7 +34,7 @@ Device DeviceWith(const Given&... given) {
   return BuildMachine({}, {2, repository.Instances(), {}}).controllers.at(0).devices.at(0);
 }
 
-TEST(Machine, HasItsControllersWithWhatBelongsToThem) {
+TEST(Machine, HasItsControllersWithTheirObjects) {
   const Machine machine = Built(HealthyMachine());
   ASSERT_EQ(machine.controllers.size(), 2U);
   const Controller& controller = machine.controllers[1];
@@ -55,7 +55,7 @@ TEST(Machine, HasItsControllersWithWhatBelongsToThem) {
   EXPECT_THAT(machine.findings, IsEmpty());
 }
 
-TEST(Machine, KnowsTheDisksOfADriveByTheLetterOfItsArray) {
+TEST(Machine, FindsTheDisksOfADriveByTheLetterOfItsArray) {
   const Machine machine = Built(HealthyMachine());
   const Controller& controller = machine.controllers[0];
   EXPECT_THAT(controller.logicalDrives[0].groups, ElementsAre(0));
@@ -63,7 +63,7 @@ TEST(Machine, KnowsTheDisksOfADriveByTheLetterOfItsArray) {
   EXPECT_THAT(controller.groups[0].devices, ElementsAre(0, 1));
 }
 
-TEST(Machine, KeepsApartWhatTwoToolsDescribeUnderOneNumber) {
+TEST(Machine, SeparatesTheControllersOfTwoToolsWithOneNumber) {
   FilledRepository repository;
   repository.Publish(kLogicalDisk, "ControllerNum", "3", "DriveList", "0,1", "PartOfArray", "A");
   repository.Publish(kLogicalDisk, "ControllerNum", "3", "DriveList", "0,1", "NumOfChunks", "2");
@@ -114,14 +114,14 @@ TEST(Machine, DescribesADevice) {
   EXPECT_EQ(device.bytes, 70007ULL * 1024 * 1024);
 }
 
-TEST(Machine, LocatesADeviceByWhatThereIs) {
+TEST(Machine, LocatesADeviceByTheBestProperty) {
   EXPECT_EQ(DeviceWith("Channel", "2", "ScsiId", "4").location, "channel 2, ID 4");
   EXPECT_EQ(DeviceWith("Channel", "0", "ReportedChannel", "0,7").location, "channel 0, ID 7");
   EXPECT_EQ(DeviceWith("DeviceNumber", "Device #4").location, "device 4");
   EXPECT_EQ(DeviceWith("DeviceType", "Tape drive").location, "");
 }
 
-TEST(Machine, KnowsWhatAControllerIsDoing) {
+TEST(Machine, ReadsTheOperationsOfAController) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxSCSIProtocolController", "Current_MostRecentOperation", "Rebuild", "Logical_Drive", "3",
                      "LastCmdStatus", "In progress", "LogicalDriveSizeInStripes", "4442880", "NumberOfRemainingStripes",
@@ -146,8 +146,8 @@ TEST(Machine, ReadsSizes) {
   }
 }
 
-// The level of a disk that is being rebuilt. Controller 1: array A cannot tolerate a failure, B can. Controller 2: drive
-// 1 cannot, 2 can.
+// The level of a disk that is being rebuilt. Controller 1: array A cannot tolerate a failure, B can. Controller 2:
+// drive 1 cannot, 2 can.
 template <class... Given>
 Level LevelOfRebuild(const char* controller, const Given&... given) {
   FilledRepository repository;

@@ -14,7 +14,7 @@ TEST(ModelTable, TakesTheFirstRowWhoseSearchTextIsInTheModel) {
   EXPECT_EQ(NameOfModel("KVR X1 SCSI", kModels), "Model X1");
 }
 
-TEST(ModelTable, KeepsAModelThatNoRowKnows) {
+TEST(ModelTable, KeepsAModelWithoutARow) {
   EXPECT_EQ(NameOfModel("KVR x1", kModels), "KVR x1");
   EXPECT_EQ(NameOfModel("", kModels), "");
 }

@@ -9,7 +9,7 @@ namespace {
 using namespace hxahost;
 using namespace std::string_literals;
 
-TEST(MofString, EscapesWhatMofGivesAMeaningAndWhatMustNotReachATerminal) {
+TEST(MofString, EscapesCharactersWithAMeaningInMofAndUnsafeOnes) {
   struct Case {
     const char* name;
     std::string text;

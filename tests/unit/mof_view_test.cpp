@@ -83,7 +83,7 @@ instance of KVRSG_zxRawData {
 )");
 }
 
-TEST(MofView, GivesWhatAReferenceNamesAnAliasBeforeTheReferenceHasIt) {
+TEST(MofView, DeclaresAnAliasBeforeTheReferenceThatUsesIt) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "no link names it");
   const TCIMReference group = repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a");
@@ -107,7 +107,7 @@ instance of KVRSG_zxStripeOrderForController {
 )"));
 }
 
-TEST(MofView, ShowsAReferenceToWhatTheQueryHasNotAsItsObjectPath) {
+TEST(MofView, ShowsAReferenceToAnUnqueriedInstanceAsItsObjectPath) {
   FilledRepository repository;
   const TCIMReference group = FilledRepository().Publish("KVRSG_zxDiskGroup", "CollectionID", "a\"b\\c");
   repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", group);
@@ -123,7 +123,7 @@ TEST(MofView, HasNoValueForATimeThatThereIsNoneOf) {
   EXPECT_THAT(Mof(repository), HasSubstr("\n  MessageTimestamp = NULL;  // published: 123450005010203.000000-060\n"));
 }
 
-TEST(MofView, NamesWhatIsLeftOutInComments) {
+TEST(MofView, NamesOmittedInstancesInComments) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\n};");
   QueryResult result;

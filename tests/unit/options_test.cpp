@@ -82,7 +82,7 @@ TEST(Options, TakeBundlesToRecordAndToReplay) {
   EXPECT_EQ(Parse("health --replay old").query.collection.replay, "old");
 }
 
-TEST(Options, SelectWhatIsDoneWithABundle) {
+TEST(Options, SelectTheOperationOnABundle) {
   const CommandLine list = Parse("bundle list f");
   EXPECT_EQ(list.command, Command::kBundleList);
   EXPECT_EQ(list.bundle.file, "f");
@@ -133,7 +133,7 @@ TEST(Options, TakeTheFormatOfTheSchema) {
   EXPECT_THROW(ParseCommandLine({"schema", "--format", ""}), ProgramError);
 }
 
-TEST(Options, TakeSuperclassesWithMofAlone) {
+TEST(Options, TakeSuperclassesOnlyWithMof) {
   EXPECT_FALSE(Parse("schema").withSuperclasses);
   EXPECT_TRUE(Parse("schema --superclasses").withSuperclasses);
   EXPECT_TRUE(Parse("query --format mof --superclasses").query.withSuperclasses);
@@ -259,7 +259,7 @@ TEST(Options, AreCompletedAsTheCommandsHaveThem) {
   }
 }
 
-TEST(Options, RejectWrongOnesInOneLineThatSaysWhatToDo) {
+TEST(Options, RejectWrongOnesInOneLineWithAdvice) {
   struct Case {
     const char* name;
     std::vector<std::string> arguments;
@@ -346,7 +346,7 @@ TEST(Options, AskOnceForHealthAndStatusAndAsOftenAsThePluginForTheRest) {
   EXPECT_TRUE(asksOnce("query --ask-once"));
 }
 
-TEST(Options, BoundWhatUtilitiesMayCost) {
+TEST(Options, LimitTheRunsOfUtilities) {
   const RunLimits plain = Parse("health").query.collection.limits;
   EXPECT_EQ(plain.runSeconds, std::nullopt);
   EXPECT_EQ(plain.collectionSeconds, std::nullopt);
@@ -357,7 +357,7 @@ TEST(Options, BoundWhatUtilitiesMayCost) {
   EXPECT_EQ(limits.outputBytes, 8 * kMebibyte);
 }
 
-TEST(Options, SayWhatAMachineMustHave) {
+TEST(Options, SetTheExpectationsForAMachine) {
   const QueryOptions options =
       Parse(
           "health --expect arcconf,qcmdrun --expect hrconf_64 --expect-controllers 5 --expect-disks 30 "

@@ -28,7 +28,7 @@ TEST(OutputFile, IsThereWhenItIsFinished) {
   EXPECT_EQ(FileCount(folder.Path()), 1U);
 }
 
-TEST(OutputFile, LeavesWhatWasThereWhenItIsNotFinished) {
+TEST(OutputFile, LeavesTheOldFileUnlessItIsFinished) {
   const TemporaryFolder folder;
   const fs::path path = folder.Path() / "out.json";
   WriteFileText(path, "before");
@@ -38,7 +38,7 @@ TEST(OutputFile, LeavesWhatWasThereWhenItIsNotFinished) {
 }
 
 // No process has that number; the other names do not belong to this file.
-TEST(OutputFile, RemovesWhatAProgramThatWasKilledHasLeft) {
+TEST(OutputFile, RemovesTheFilesOfKilledPrograms) {
   const TemporaryFolder folder;
   for (const char* const other :
        {"out.json.part", "out.json.x.part", "out.json.9999999990x.part", "other.999999999.part"}) {
@@ -51,7 +51,7 @@ TEST(OutputFile, RemovesWhatAProgramThatWasKilledHasLeft) {
   EXPECT_EQ(FileCount(folder.Path()), 5U);
 }
 
-TEST(OutputFile, ReplacesWhatWasThere) {
+TEST(OutputFile, ReplacesTheOldFile) {
   const TemporaryFolder folder;
   const fs::path path = folder.Path() / "out.json";
   WriteFileText(path, "before, and longer");

@@ -9,7 +9,7 @@ namespace {
 
 using namespace hxahost;
 
-TEST(Program, WritesWhatItIsAskedForToOut) {
+TEST(Program, WritesItsOutputToOut) {
   std::ostringstream out;
   std::ostringstream err;
   EXPECT_EQ(RunProgram({"classes"}, out, err), 0);
@@ -25,7 +25,7 @@ TEST(Program, PutsItsNameBeforeAnError) {
   EXPECT_EQ(err.str(), "hxahost: --repeat \"0\": give a whole number from 1 on.\n");
 }
 
-TEST(Program, LeavesTheHealthUnknownWhateverKeepsItFromItsAnswer) {
+TEST(Program, LeavesTheHealthUnknownAfterAnyFailure) {
   std::ostringstream out;
   std::ostringstream err;
   EXPECT_EQ(RunProgram({"health", "--format", "html"}, out, err), 3);

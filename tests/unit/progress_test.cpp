@@ -36,7 +36,7 @@ TEST(Progress, CountsTheSecondsOfALongCommand) {
   EXPECT_TRUE(terminal.str().ends_with("\r        \r")) << "erased";
 }
 
-TEST(Progress, SaysWhichOfHowManyCommandsRuns) {
+TEST(Progress, ShowsTheNumberOfTheCommandAndTheTotal) {
   std::ostringstream terminal;
   {
     Progress progress(terminal, 80);

@@ -40,7 +40,7 @@ const Part kPart{"\tpart ", TCIMDateTime(2005, 3, 15, 14, 2, 33, 0, 0)};
 
 using Instances = std::vector<std::vector<std::string>>;
 
-TEST(PropertyTable, PublishesEachKindOfSourceInTheOrderOfTheRowsAndTrimsFieldsAlone) {
+TEST(PropertyTable, PublishesEachKindOfSourceInRowOrderAndTrimsOnlyFields) {
   FakeNamespace nameSpace;
   PublishTrimmed(*nameSpace.GetClass("Class", {}), kRows, kOwner, kPart);
   EXPECT_EQ(nameSpace.Published("Class"),

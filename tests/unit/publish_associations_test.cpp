@@ -56,7 +56,7 @@ constexpr Belonging kBelongings[] = {
     {PublishControllerToBios,         "KVRSG_zxBiosVersion",      "Name",              BiosName  },
 };
 
-TEST(PublishAssociations, LinkEachControllerToWhatCarriesItsNumberInTheOrderOfTheRecords) {
+TEST(PublishAssociations, LinkEachControllerToRecordsWithItsNumberInTheirOrder) {
   for (const auto& [routine, className, property, valueFor] : kBelongings) {
     Publishing host;
     for (const char* const number : {"2", "1", "3"}) host.AddController(number);
@@ -83,7 +83,7 @@ TEST(PublishAssociations, OfTwoControllersUnderOneNumberTheFirstIsLinked) {
   EXPECT_EQ(Associations(host, PublishControllerToLogicalDisks), Instances{Depends(kLogicalDisk, 0, kController, 0)});
 }
 
-TEST(PublishAssociations, DiskDrivesAreLinkedToTheirControllerWhateverTheirType) {
+TEST(PublishAssociations, DiskDrivesOfAnyTypeAreLinkedToTheirController) {
   Publishing host;
   host.AddController("1");
   host.nameSpace.Add(kController, {"ControllerNum", "1"});
@@ -166,7 +166,7 @@ TEST(PublishAssociations, BadStripesAreFoundByTheTwoNumbersRunTogether) {
                        Describes(kBadStripe, 0, kLogicalDisk, 2)}));
 }
 
-TEST(PublishAssociations, EachDriveInOrderIsLinkedToAllThatHasItsKeyInOrder) {
+TEST(PublishAssociations, EachDriveInOrderIsLinkedToAllRecordsWithItsKeyInOrder) {
   Publishing host;
   for (const char* const number : {"2", "1", "2"}) {
     host.nameSpace.Add(kDiskDrive, {"ControllerNum", number, "Channel", "0", "ScsiId", "3", "DeviceID", "ID",

@@ -14,7 +14,7 @@ constexpr const char* kDiskDrive = "KVRSG_zxDiskDrive";
 // Blanks and line ends are cut.
 std::string Cut(const std::string& name) { return name; }
 
-TEST(PublishDevices, PublishEachFieldUnderItsOwnNameWithoutWhatIsPrintedAroundIt) {
+TEST(PublishDevices, PublishEachFieldTrimmedUnderItsOwnName) {
   Publishing host;
   ZenxController& controller = host.AddController("");
   NameFields(controller);

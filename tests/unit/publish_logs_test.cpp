@@ -66,7 +66,7 @@ TEST(PublishLogs, ALogWithoutCodesIsPublishedAndAMissingLogIsNot) {
   EXPECT_EQ(host.log.entries, Entries{});
 }
 
-TEST(PublishLogs, DddRowsStandControllerByControllerInListOrder) {
+TEST(PublishLogs, DddRowsAreGroupedByControllerInListOrder) {
   Publishing host;
   for (const char* const number : {"2", "1"}) {
     ZenxController& controller = host.AddController(number);

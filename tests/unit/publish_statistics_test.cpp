@@ -43,7 +43,7 @@ void AddLogicalDisk(Publishing& host, const std::string& controller, const std::
   host.nameSpace.Add(kLogicalDisk, {"ControllerNum", controller, "LogicalDriveNum", drive});
 }
 
-TEST(PublishStatistics, AControllerWhoseBadStripesAllSay0PublishesThemAndTellsNobody) {
+TEST(PublishStatistics, AControllerWhoseBadStripesAreAll0PublishesThemWithoutALogEntry) {
   Publishing host;
   ZenxController& controller = host.AddController("1");
   AddBadStripes(controller, "1", "0");
@@ -53,7 +53,7 @@ TEST(PublishStatistics, AControllerWhoseBadStripesAllSay0PublishesThemAndTellsNo
   EXPECT_EQ(host.log.entries, Entries{});
 }
 
-TEST(PublishStatistics, ACountOf3IsToldOnceHoweverManySuchRecordsThereAre) {
+TEST(PublishStatistics, ACountOf3IsLoggedOnceForAnyNumberOfSuchRecords) {
   Publishing host;
   for (const char* const number : {"1", "2"}) {
     ZenxController& controller = host.AddController(number);

@@ -95,7 +95,7 @@ TEST(PublishVersions, ADriveVersionIsCutBeforeTheBuildAndKeepsTheBlank) {
   EXPECT_EQ(host.nameSpace.Published(kDriveVersion), Instances{expected});
 }
 
-TEST(PublishVersions, TheTypeDecidesWhatIsPublished) {
+TEST(PublishVersions, TheTypeDecidesWhichPropertiesArePublished) {
   struct Case {
     const char* type;
     Properties names;

@@ -34,7 +34,7 @@ TEST(QcmdrunControllerParser, ReadsEveryLabelIntoItsFieldInAnyOrder) {
   EXPECT_EQ(controller.SerialNum, "");
 }
 
-TEST(QcmdrunControllerParser, DropsTheBlankBehindTheColonAndTheCarriageReturn) {
+TEST(QcmdrunControllerParser, DropsTheBlankAfterTheColonAndTheCarriageReturn) {
   EXPECT_EQ(Parsed("Controller information\r\nController name :  DB SERVER \r\n").ControllerName, " DB SERVER ");
 }
 
@@ -55,7 +55,7 @@ TEST(QcmdrunControllerParser, TakesTheFirstOfTwoOccurrencesOfALabel) {
   EXPECT_EQ(Parsed("Controller information\r\nStripe-unit size : 8\r\nStripe-unit size : 16\r\n").StripeUnitSize, "8");
 }
 
-TEST(QcmdrunControllerParser, FindsTheInitiatorIdsWithWhateverElseIsInTheirParentheses) {
+TEST(QcmdrunControllerParser, FindsTheInitiatorIdsWithAnyTextInTheirParentheses) {
   EXPECT_EQ(Parsed("Controller information\r\nInitiator IDs (Channel/SCSI ID) : 1/7\r\n").InitiatorChannelScsiId,
             "1/7");
   EXPECT_EQ(Parsed("Controller information\r\nInitiator IDs (Channel/SCSI ID/LUN) : 1/7/0\r\n").InitiatorChannelScsiId,
@@ -89,7 +89,7 @@ TEST(QcmdrunControllerParser, NamesTheModelByTheFirstRowThatItsTypeContains) {
 
 TEST(QcmdrunControllerParser, NeverTakesAC6eForAC6) { EXPECT_EQ(TypeOf("Zentraxis C6-e"), "Zentraxis C6-e"); }
 
-TEST(QcmdrunControllerParser, SetsTheNumberAloneWithoutTheControllerInformationLine) {
+TEST(QcmdrunControllerParser, SetsOnlyTheNumberWithoutTheControllerInformationLine) {
   const ZenxController controller = Parsed("Controller type : Zentraxis C4\r\n", 5);
   EXPECT_EQ(controller.ControllerNum, "5");
   EXPECT_EQ(controller.ControllerType, "");

@@ -65,7 +65,7 @@ TEST(QcmdrunPhysicalDeviceParser, CutsModelCodeFirmwareAndSerialNumberOutOfAHard
 }
 
 // Blank and line end count: the length is that of the untrimmed value.
-TEST(QcmdrunPhysicalDeviceParser, GivesAHardDiskWithAnIdentifierOf27CharactersItsModelAlone) {
+TEST(QcmdrunPhysicalDeviceParser, GivesAHardDiskWithAnIdentifierOf27CharactersOnlyItsModel) {
   const ZenxPhysicalDevice device = WithIdentifier("Hard disk", " TALVERA T36LW10 S96H8B012");
   ASSERT_EQ(device.DeviceIdSuffix.size(), 27u);
   EXPECT_EQ(device.Model, " TALVERA T36LW10");
@@ -105,7 +105,7 @@ TEST(QcmdrunPhysicalDeviceParser, TakesFourCharactersBeforeTheLineEndForATapesFi
   }));
 }
 
-TEST(QcmdrunPhysicalDeviceParser, TakesWhatAShortTapeIdentifierHasOfTheFirmware) {
+TEST(QcmdrunPhysicalDeviceParser, TakesTheFirmwareOfAShortTapeIdentifierAsFarAsItGoes) {
   struct Case {
     std::string identifier;
     std::string firmware;

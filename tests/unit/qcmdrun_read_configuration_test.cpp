@@ -78,7 +78,7 @@ TEST_F(QcmdrunReadConfiguration, AttachesDrivesForAsLongAsLinesWithANumberFollow
   }));
 }
 
-TEST_F(QcmdrunReadConfiguration, UsesTheNumberBeforeForALineWithoutABlankBehindTheLabel) {
+TEST_F(QcmdrunReadConfiguration, UsesThePreviousNumberForALineWithoutABlankAfterTheLabel) {
   ReadLogicalDrives("Logical drive information\n-----\nLogical drive number: 9\n" + kDrive +
                     "Logical drive number 4\n" + kDrive + "Logical drive number: 5\n" + kDrive + "-----\n");
   EXPECT_EQ(DriveNumbers(), (std::vector<std::string>{"", "4", "4"}));
@@ -179,7 +179,7 @@ TEST_F(QcmdrunReadConfiguration, WalksOverStrayLinesOneByOne) {
   }
 }
 
-TEST_F(QcmdrunReadConfiguration, SaysWhenThereIsNoDeviceSection) {
+TEST_F(QcmdrunReadConfiguration, LogsAMissingDeviceSection) {
   EXPECT_FALSE(ReadPhysicalDevices("Channel #1:\nInitiator\n" + Device("0") + kEnd));
   EXPECT_TRUE(controller_.PhysicalDevices.empty());
 }

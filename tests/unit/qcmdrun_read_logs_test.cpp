@@ -84,7 +84,7 @@ TEST_F(QcmdrunReadLogs, ReadsBadStripesForAsLongAsLinesHaveADash) {
   EXPECT_EQ(controller_.BadStripes[0]->ControllerNum, "3");
 }
 
-TEST_F(QcmdrunReadLogs, ReadsNoBadStripesWithoutTheirTitleOrWithAnotherLineBehindIt) {
+TEST_F(QcmdrunReadLogs, ReadsNoBadStripesWithoutTheirTitleOrWithAnotherLineAfterIt) {
   EXPECT_EQ(BadStripes("Logical drive 1 - 0\nend\n"), Texts{});
   EXPECT_EQ(BadStripes("Get bad stripe information\nNone\nLogical drive 1 - 0\nend\n"), Texts{});
   EXPECT_EQ(BadStripes(""), Texts{});
@@ -104,7 +104,7 @@ const std::string kTable = "Device event table:\n+---+\n| heads |\n+---+\n";
 const std::string kRows = "| 1 | 0 | 0 |\n| 1 | 1 | 0 |\n";
 const std::string kEnd = "Command completed successfully.\n";
 
-TEST_F(QcmdrunReadLogs, ReadsDeviceEventsFromTheThirdLineBehindTheTitleToTheEnd) {
+TEST_F(QcmdrunReadLogs, ReadsDeviceEventsFromTheThirdLineAfterTheTitleToTheEnd) {
   EXPECT_EQ(DeviceEvents(kTable + kRows + "+---+\n| 2 | 0 | 0 |\n" + kEnd + "| 9 | 9 | 9 |\n"),
             (Texts{"1/0", "1/1", "2/0"}));
   EXPECT_EQ(controller_.DeviceEvents[0]->ControllerNum, "3");
@@ -114,7 +114,7 @@ TEST_F(QcmdrunReadLogs, EndsDeviceEventsAtTheNextControllersHeading) {
   EXPECT_EQ(DeviceEvents(kTable + kRows + "Controller 2\n| 2 | 0 | 0 |\n" + kEnd), (Texts{"1/0", "1/1"}));
 }
 
-TEST_F(QcmdrunReadLogs, GoesOnWithDeviceEventsBehindALineThatNamesControllersWithoutABlank) {
+TEST_F(QcmdrunReadLogs, ContinuesWithDeviceEventsAfterALineThatNamesControllersWithoutABlank) {
   EXPECT_EQ(DeviceEvents(kTable + "| 1 | 0 | Controllers: |\n" + kEnd), (Texts{"1/0"}));
 }
 
@@ -182,14 +182,14 @@ TEST_F(QcmdrunReadLogs, MakesASubStatusOfEveryLineUpToTheEnd) {
   EXPECT_EQ(SubStats("A:1 C:1 I:0 PARAMS:0\n\n" + kEnd), (Texts{"Zentraxis:1C1S0", "Zentraxis:CS"}));
 }
 
-TEST_F(QcmdrunReadLogs, GoesOnBehindALineThatHasLettersOfTheEndAlone) {
+TEST_F(QcmdrunReadLogs, ContinuesAfterALineWithOnlyLettersOfTheEnd) {
   EXPECT_EQ(DeviceEvents(kTable + "| 1 | 0 | C |\n| y | 1 | Command |\n" + kEnd), (Texts{"1/0", "y/1"}));
   EXPECT_EQ(SubStats("A:1 C:1 I:0 y\nA:1 C:1 I:1 Command completed successfull\n" + kEnd),
             (Texts{"Zentraxis:1C1S0", "Zentraxis:1C1S1"}));
   EXPECT_EQ(DddEvents("+---+\n| 01/15/2005 | 14:02:33 | 1 | 4 | 07 | by hand\n" + kEnd), (Texts{"0001:4"}));
 }
 
-TEST_F(QcmdrunReadLogs, EndsAtTheEndWhereverItStandsInItsLine) {
+TEST_F(QcmdrunReadLogs, EndsAtTheEndAnywhereInItsLine) {
   EXPECT_EQ(DeviceEvents(kTable + kRows + "| - Controller 1: " + kEnd + kRows), (Texts{"1/0", "1/1"}));
   EXPECT_EQ(SubStats("A:1 C:1 I:0\nA:1 C:1 I:1 " + kEnd + "A:1 C:1 I:2\n"), (Texts{"Zentraxis:1C1S0"}));
 }

@@ -30,7 +30,7 @@ TEST(QcmdrunStripeOrderParser, NamesTheCollectionAfterControllerAndArray) {
   EXPECT_TRUE(order.Members.empty());
 }
 
-TEST(QcmdrunStripeOrderParser, PutsASecondLineThatBeginsWithADigitBehindTheFirst) {
+TEST(QcmdrunStripeOrderParser, AppendsASecondLineThatBeginsWithADigit) {
   const Block block = Read("A stripe order (Channel/SCSI ID) : 1,0 1,1 \r\n    \t 2,0 2,1\r\nnext\r\n");
   EXPECT_EQ(block.order.StripeOrder, " 1,0 1,1 2,0 2,1\r\n");
   EXPECT_EQ(block.order.CollectionID, "Zentraxis3ArrayA");

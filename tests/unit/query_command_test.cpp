@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 using testing::HasSubstr;
 
 // The output fails at the second query, like a full disk or a broken view.
-TEST(QueryCommand, SaysThatWhatAFailedQueryLeftOnStandardOutputIsNotWhole) {
+TEST(QueryCommand, ReportsThatTheOutputOfAFailedQueryIsIncomplete) {
   const fs::path before = fs::current_path();
   const TemporaryFolder folder;
   QueryOptions options;

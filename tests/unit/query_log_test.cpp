@@ -23,7 +23,7 @@ TEST(QueryLog, WritesEntriesAsTheyComeOneLineEach) {
   EXPECT_EQ(FileText(path), "3\t blanks stay \n100\ttwo\\nlines\\x1b\n");
 }
 
-TEST(QueryLog, GivesEachQueryWhatCameSinceTheOneBefore) {
+TEST(QueryLog, GivesEachQueryTheEntriesSinceTheOneBefore) {
   QueryLog log({});
   log.Add(3, "one");
   log.Add(2, "two\n");

@@ -9,7 +9,7 @@
 
 namespace {
 
-TEST(RaidMgrMonths, AreToldByTheLettersThatDiffer) {
+TEST(RaidMgrMonths, AreRecognisedByTheLettersThatDiffer) {
   unsigned month = 0;
   for (const std::string_view name : {"January", "February", "March", "April", "May", "June", "July", "August",
                                       "September", "October", "November", "December"}) {
@@ -85,7 +85,7 @@ TEST(RaidMgrEventTime, YearFirst) {
   ExpectTimes(kCases);
 }
 
-TEST(RaidMgrEventTime, WhatIsMissingCountsAsZero) {
+TEST(RaidMgrEventTime, MissingPartsCountAsZero) {
   constexpr Case kCases[] = {
       {"20070305",                     "00000020070305000000.000000+000"  },
       {"99999999999999999999",         "0000002147483647000000.000000+000"},

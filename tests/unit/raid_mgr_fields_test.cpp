@@ -7,7 +7,7 @@ namespace {
 using namespace std::string_view_literals;
 using Fields = std::array<std::string_view, 4>;
 
-TEST(RaidMgrFields, AreWhatTabsAndNulsDivide) {
+TEST(RaidMgrFields, AreSeparatedByTabsAndNuls) {
   struct Case {
     const char* name;
     std::string_view line;

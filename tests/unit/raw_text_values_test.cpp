@@ -18,7 +18,7 @@ Values ValuesOf(const std::vector<std::string>& lines) {
   return all;
 }
 
-TEST(RawTextValues, TellsDataFromTheRest) {
+TEST(RawTextValues, SeparatesDataFromOtherLines) {
   struct Case {
     const char* name;
     std::vector<std::string> lines;

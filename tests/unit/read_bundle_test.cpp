@@ -33,7 +33,7 @@ std::string Closed(const std::string& text) {
   return body + "end of bundle, crc32 " + HexText(Crc32(body)) + "\n";
 }
 
-TEST(ReadBundle, GivesBackAllThatWasWritten) {
+TEST(ReadBundle, ReturnsEverythingThatWasWritten) {
   const Bundle bundle = ReadBundle(WriteBundle(SampleBundle()));
   EXPECT_EQ(WriteBundle(bundle), WriteBundle(SampleBundle()));
   EXPECT_EQ(bundle.program, "1.0.0");
@@ -117,7 +117,7 @@ TEST(ReadBundle, RefusesABundleThatLacksALineOrHasOneTwice) {
   }
 }
 
-TEST(ReadBundle, SaysInOneLineWhatIsWrong) {
+TEST(ReadBundle, ReportsAnErrorInOneLine) {
   const std::string text = WriteBundle(SampleBundle());
   struct Case {
     const char* name;

@@ -69,7 +69,7 @@ Versions
 }
 
 // If two controllers share the number, each record shows its own controller, or that it is not known.
-TEST(RecordSections, TellControllersOfOneNumberApart) {
+TEST(RecordSections, DistinguishControllersWithOneNumber) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "3", "ReadAhead", "On");
   repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "3", "VPD", "7");

@@ -36,7 +36,7 @@ TEST(ZenxRawData, KeepsNoLineOfAnOutputWithoutACarriageReturn) {
   EXPECT_EQ(RawResults(""), Lines{});
 }
 
-TEST(ZenxRawData, DropsTheCharacterBehindACarriageReturnWhateverItIs) {
+TEST(ZenxRawData, DropsAnyCharacterAfterACarriageReturn) {
   EXPECT_EQ(RawResults("one\rtwo\r\n"), (Lines{"one", "wo"}));
   EXPECT_EQ(RawResults("one\r\r\ntwo\r\n"), (Lines{"one", "\ntwo"}));
 }

@@ -89,7 +89,7 @@ TEST(ReportData, MakesTheFactsOfAControllerColumns) {
   EXPECT_EQ(Texts(json["tables"][0]["columns"], "property"), properties);
 }
 
-TEST(ReportData, HasTheFindingsWithThePlacesOfWhatTheyAreAbout) {
+TEST(ReportData, HasTheFindingsWithThePlacesOfTheirObjects) {
   HealthyMachine machine;
   EXPECT_EQ(ReportData(machine.Header(), machine.Result())["findings"], ordered_json::array());
   machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", "Degraded");
@@ -104,7 +104,7 @@ TEST(ReportData, HasTheFindingsWithThePlacesOfWhatTheyAreAbout) {
   EXPECT_FALSE(findings[1].contains("instance"));
 }
 
-TEST(ReportData, TellsUnreadLinesWhereEveryClassWasAskedFor) {
+TEST(ReportData, ListsUnreadLinesIfEveryClassWasQueried) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxLogicalDisk", "Size", "5 MB");
   repository.Publish("KVRSG_zxRawData", "Command", "tool", "RawResults", ::Texts({"Size : 5 MB", "New : new"}));

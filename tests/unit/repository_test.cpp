@@ -88,7 +88,7 @@ TEST_F(Repository, EnumeratesNothingThatIsNotCommitted) {
   EXPECT_THAT(repository->Published(), IsEmpty());
 }
 
-TEST_F(Repository, AQueryDropsWhatWasPublishedOfAllTheClassesThatItNamesAndOfNoOther) {
+TEST_F(Repository, AQueryDropsTheInstancesOfItsClassesAndOfNoOther) {
   Publish(*repository, kDisk, "DeviceID", "old");
   Publish(*repository, kGroup, "CollectionID", "old");
   Publish(*repository, "KVRSG_zxRawData", "Command", "kept");

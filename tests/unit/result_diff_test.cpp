@@ -88,26 +88,26 @@ TEST(ResultDiff, TakesACountThatFellForMoreThanACount) {
   EXPECT_EQ(Changes(Result({data("5")}), Result({data("")}))[0].substr(0, 8), "property");
 }
 
-TEST(ResultDiff, CallsResultsTheSameThatDifferInTimesOfCollectionAlone) {
+TEST(ResultDiff, TreatsResultsAsEqualThatDifferOnlyInTimesOfCollection) {
   const auto data = [](const char* time) { return Instance("KVRSG_zxSCSIDeviceData", "s", "StatisticTime", time); };
   const ResultDiff diff = CompareResults(Result({data("1")}), Result({data("2")}));
   EXPECT_EQ(diff.changes.size(), 1U);
   EXPECT_TRUE(IsSame(diff));
 }
 
-TEST(ResultDiff, TellsAPropertyThatIsNotThereFromAnEmptyOne) {
+TEST(ResultDiff, DistinguishesAMissingPropertyFromAnEmptyOne) {
   const auto disk = [](const auto&... given) { return Instance("KVRSG_zxDiskDrive", "d", given...); };
   EXPECT_EQ(Changes(Result({disk("Size", "", "Old", "1")}), Result({disk("New", "")})),
             (Texts{"property changed d Size \"\" null", "property changed d Old \"1\" null",
                    "property changed d New null \"\""}));
 }
 
-TEST(ResultDiff, KnowsADiskByItsSerialNumberWhereItsPathChanged) {
+TEST(ResultDiff, RecognisesADiskByItsSerialNumberIfItsPathChanged) {
   EXPECT_EQ(Changes(Result({Disk("C1 I00", "7")}), Result({Disk("C2 I00", "7", "Failed")})),
             Texts{"state changed C1 I00=C2 I00 State \"Online\" \"Failed\""});
 }
 
-TEST(ResultDiff, KnowsNothingByASerialNumberThatIsEmptyOrThereTwice) {
+TEST(ResultDiff, IgnoresSerialNumbersThatAreEmptyOrOccurTwice) {
   EXPECT_EQ(Changes(Result({Disk("a", "")}), Result({Disk("b", "")})),
             (Texts{"disappeared disappeared a", "appeared appeared b"}));
   EXPECT_EQ(Changes(Result({Disk("a", "7")}), Result({Disk("b", "7"), Disk("c", "7")})).size(), 3U);
@@ -122,14 +122,14 @@ TEST(ResultDiff, ShowsAnUpdateOfFirmwareAsAChangeAlthoughThePathHasTheVersion) {
             Texts{"property changed F1=F2 Version \"1\" \"2\""});
 }
 
-TEST(ResultDiff, LetsLinksFollowWhatTheyLink) {
+TEST(ResultDiff, LetsLinksFollowTheirObjects) {
   EXPECT_TRUE(Changes(Result({Disk("a", "7"), Link("a", "x")}), Result({Disk("b", "7"), Link("b", "x")})).empty());
   EXPECT_EQ(Changes(Result({Disk("a", "7"), Link("a", "x")}), Result({Disk("b", "7"), Link("a", "x")})), Texts{});
   EXPECT_EQ(Changes(Result({Link("a", "x")}), Result({Link("b", "x")})),
             (Texts{"link disappeared ax", "link appeared bx"}));
 }
 
-TEST(ResultDiff, KnowsObjectsByTheirKeysWhereAnotherVersionMadeThePathsOfOthers) {
+TEST(ResultDiff, RecognisesObjectsByTheirKeysIfAnotherVersionMadePathsOfOthers) {
   const auto disk = [](const char* path, const char* id, const char* state) {
     return Instance("KVRSG_zxDiskDrive", path, "CreationClassname", "c", "DeviceID", id, "SystemName", "M", "State",
                     state);

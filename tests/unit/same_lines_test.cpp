@@ -9,7 +9,7 @@ TEST(SameLines, AreTheSameLinesInTheSameOrder) {
   EXPECT_TRUE(SameLines({}, {}));
 }
 
-TEST(SameLines, ShowThoseThatDifferAlone) {
+TEST(SameLines, ShowOnlyThoseThatDiffer) {
   struct Case {
     const char* name;
     Lines expected;

@@ -81,7 +81,7 @@ TEST(Schema, NoTwoNamesDifferOnlyInCase) {
   }
 }
 
-TEST(Schema, SaysInOneLineWhatEachClassAndPropertyIs) {
+TEST(Schema, DescribesEachClassAndPropertyInOneLine) {
   const auto isOneSentence = [](std::string_view text) {
     return text.size() > 10 && text.ends_with('.') && text.find_first_of("\r\n\t") == text.npos && text.size() <= 100;
   };

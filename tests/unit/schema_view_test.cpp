@@ -63,7 +63,7 @@ TEST(SchemaView, DeclaresEachQualifierBeforeTheClassesHaveIt) {
   }
 }
 
-TEST(SchemaView, SaysWhereAPropertyComesFrom) {
+TEST(SchemaView, ShowsTheOriginOfAProperty) {
   std::ostringstream out;
   WriteSchemaMof(out, ExportedClasses(), false);
   EXPECT_NE(out.str().find(R"(

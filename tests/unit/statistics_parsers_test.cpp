@@ -86,7 +86,7 @@ TEST_F(DeviceEventParser, LeavesTheFieldsOfMissingColumnsEmpty) {
   EXPECT_EQ(Columns("\r\n"), std::vector<std::string>(7));
 }
 
-TEST_F(DeviceEventParser, TakesNothingOfColumnsBehindTheSeventh) {
+TEST_F(DeviceEventParser, IgnoresColumnsAfterTheSeventh) {
   EXPECT_EQ(Columns("| 1 | 2 | 3 | 4 | 5 | 6 | 7 | 8 | 9 |\r\n"),
             (std::vector<std::string>{"1", "2", "3", "4", "5", "6", "7"}));
 }
@@ -143,7 +143,7 @@ TEST_F(SubStatParser, FindsNoTokenBeforeTheOneThatPrecedesIt) {
             (std::vector<std::string>{"1", "2", "", "p", "8", "40", "20"}));
 }
 
-TEST_F(SubStatParser, TakesAValueWithoutABlankBehindItToTheLineEnd) {
+TEST_F(SubStatParser, TakesAValueWithoutABlankAfterItToTheLineEnd) {
   EXPECT_EQ(Values("A:1 C:2 I:5\r\n"), (std::vector<std::string>{"1", "2", "5", "", "", "", ""}));
   EXPECT_EQ(Values("A:1 C:2 I:5\n"), (std::vector<std::string>{"1", "2", "5", "", "", "", ""}));
 }
@@ -164,7 +164,7 @@ TEST_F(SubStatParser, BuildsTheInstanceIdOfALineWithoutTokensFromNothing) {
 }
 
 // A token follows a value after one blank; its first occurrence after the previous token counts.
-TEST_F(SubStatParser, TakesTheFirstOccurrenceOfATokenWhereverItStands) {
+TEST_F(SubStatParser, TakesTheFirstOccurrenceOfATokenAnywhere) {
   struct Case {
     std::string name;
     std::string line;

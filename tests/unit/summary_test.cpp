@@ -32,7 +32,7 @@ TEST(Summary, CallsAMachineFineOnlyWhereEverythingWasLookedAt) {
   EXPECT_THAT(Summary(machine.Header(), {}), HasSubstr("verdict level-unknown"));
 }
 
-TEST(Summary, SaysWhereItComesFrom) {
+TEST(Summary, ShowsItsOrigin) {
   QueryHeader header = HealthyMachine().Header();
   header.directory = "C:\\<tools>";
   std::ostringstream out;
@@ -43,7 +43,7 @@ TEST(Summary, SaysWhereItComesFrom) {
   EXPECT_THAT(out.str(), HasSubstr(SourceNote(header)));
 }
 
-TEST(Summary, SaysOfAnIncidentWhatToDoAndLeadsToTheDisk) {
+TEST(Summary, ShowsTheActionOfAnIncidentAndLinksToTheDisk) {
   HealthyMachine machine;
   machine.SetOf("C2 CH0 I00:Controller: Device #0", "State", "Failed");
   const std::string summary = Summary(machine);
@@ -55,7 +55,7 @@ TEST(Summary, SaysOfAnIncidentWhatToDoAndLeadsToTheDisk) {
   EXPECT_THAT(summary, HasSubstr("<a class=\"disk level-critical\" href=\"#object-12\""));
 }
 
-TEST(Summary, MakesNoMarkupOfWhatToolsSay) {
+TEST(Summary, MakesNoMarkupOfTextsOfTools) {
   HealthyMachine machine;
   const std::string hostile = "\"><img src=x onerror='alert(1)'>&amp;\x1b[31m";
   for (HealthyMachine::Device& device : machine.devices) {

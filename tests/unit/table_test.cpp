@@ -86,7 +86,7 @@ TEST(Table, NarrowsTheWidestColumnsThatMayBeNarrower) {
                 std::string(40, 'b') + "  " + std::string(26, 'c') + "\u2026\n");
 }
 
-TEST(Table, LeavesOutColumnsFromTheRightWhenTheyCannotBeNarrowedAndSaysSo) {
+TEST(Table, LeavesOutColumnsFromTheRightWithAnEllipsisIfTheyCannotBeNarrowed) {
   const std::vector<TableColumn> columns = {
       {"A", 60, 40},
       {"B", 60, 40},
@@ -152,7 +152,7 @@ TEST(Table, UsesTheWidthOfTheLayout) {
   }
 }
 
-TEST(Table, ColoursCellsWithoutMovingWhatFollowsThem) {
+TEST(Table, ColoursCellsWithoutMovingTheNextOnes) {
   const Table table{
       {{"State"},               {"Size"}                  },
       { {"Online", "1"},    {"Failed now", "2"},               {"New", "3"}},

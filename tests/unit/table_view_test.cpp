@@ -29,7 +29,7 @@ std::string Tables(const QueryHeader& header, const std::vector<QueryResult>& re
   return out.str();
 }
 
-TEST(TableView, SaysWhatWhereAndWhenThenTheBlocksThenTheSectionsThenTheCounts) {
+TEST(TableView, BeginsWithMachineAndTimeThenBlocksSectionsAndCounts) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxFirmwareVersion", "Name", "Zentraxis1 Firmware");
   repository.Publish("KVRSG_zxSCSIProtocolController", "ControllerNum", "1", "ControllerStatus", "Okay");
@@ -56,7 +56,7 @@ Runs of the tools
 )");
 }
 
-TEST(TableView, BeginsWithWhatIsWrongAndLeavesOutWhatMattersLittle) {
+TEST(TableView, BeginsWithTheFaultsAndLeavesOutUnimportantClasses) {
   HealthyMachine machine;
   const std::string healthy = Tables(machine.Header(), {machine.Result()});
   EXPECT_THAT(healthy, HasSubstr("\n\nOK       no fault found\n\nController 1"));
@@ -69,7 +69,7 @@ TEST(TableView, BeginsWithWhatIsWrongAndLeavesOutWhatMattersLittle) {
   EXPECT_THAT(Tables(withoutDisks, {machine.Result()}), Not(HasSubstr("CRITICAL"))) << "a verdict on less misleads";
 }
 
-TEST(TableView, SaysWhenNothingWasFoundAndWhichToolsCouldNotBeRun) {
+TEST(TableView, ReportsThatNothingWasFoundAndWhichToolsCouldNotBeRun) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxRawData", "Command", "zenx//hrconf_64.exe getversion  nuthin");
   ToolRun run;

@@ -31,7 +31,7 @@ void ExpectAnswer(std::string_view tool, const std::vector<std::string>& argumen
   }
 }
 
-TEST(ToolAnswer, TellsWhatAnAnswerAmountsTo) {
+TEST(ToolAnswer, JudgesAnswers) {
   ExpectAnswer("arcconf", kProbe, kWhole, Outcome::kOk, "");
   ExpectAnswer("arcconf", kLog, "x\nCommand completed successfully.\n", Outcome::kOk, "");
   ExpectAnswer("arcconf", kProbe, "Controllers found: 0\n", Outcome::kRefused, "Controllers found: 0");

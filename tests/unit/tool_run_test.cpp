@@ -43,7 +43,7 @@ ToolRun RecordFailure(SpawnFailure failure) {
   });
 }
 
-TEST(ToolRun, KeepsTheExactCommandAndTheSizeOfWhatItWrote) {
+TEST(ToolRun, KeepsTheExactCommandAndTheSizeOfItsOutput) {
   const ToolRun run = RecordResult(kWhole);
   EXPECT_EQ(run.path, "zenx//arcconf.exe");
   EXPECT_EQ(run.arguments, kArguments);
@@ -61,7 +61,7 @@ TEST(ToolRun, HandsPathArgumentsAndLimitToTheServiceAndItsResultBack) {
   EXPECT_EQ(SpawnAndRecord(spawn, "tool", kArguments, kLimit, runs).output, "tool getconfig 300");
 }
 
-TEST(ToolRun, TakesAsLongAsTheServiceSays) {
+TEST(ToolRun, HasTheDurationOfTheService) {
   SpawnResult result(kWhole);
   result.seconds = 1.5;
   EXPECT_EQ(RecordResult(result).seconds, 1.5);
@@ -71,7 +71,7 @@ TEST(ToolRun, TakesAsLongAsTheServiceSays) {
   EXPECT_EQ(RecordOne(tooLong).seconds, 300.5);
 }
 
-TEST(ToolRun, SaysHowLongARunHadToAnswer) {
+TEST(ToolRun, NamesTheLimitOfARun) {
   EXPECT_EQ(RecordFailure(SpawnFailure::kTooLong).failure, "it did not answer within 300 s");
   const auto recorded = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
     throw TSpawnException(SpawnFailure::kTooLong, "reason", 60.02);
@@ -99,13 +99,13 @@ TEST(ToolRun, CallsACompleteAnswerOfAProgramThatASignalEndedFailed) {
   EXPECT_EQ(run.failure, "it was ended by the system: signal 11");
 }
 
-TEST(ToolRun, LeavesARefusalARefusalWhateverTheExitStatus) {
+TEST(ToolRun, LeavesARefusalARefusalForAnyExitStatus) {
   SpawnResult result(std::string("Controllers found: 0\r\n"));
   result.exitStatus = 1;
   EXPECT_EQ(OutcomeWord(RecordResult(result).outcome), "refused");
 }
 
-TEST(ToolRun, TellsTheWaysApartInWhichNothingCame) {
+TEST(ToolRun, DistinguishesTheWaysOfFailing) {
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotInstalled).outcome), "not installed");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotStarted).outcome), "not started");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kTooLong).outcome), "timed out");
@@ -122,7 +122,7 @@ TEST(ToolRun, TakesAnyOtherFailureForARunThatWasNotStarted) {
   EXPECT_EQ(run.failure, "no \\x1b such file");
 }
 
-TEST(ToolRun, LetsWhatTheServiceThrowsGoOnAsItIs) {
+TEST(ToolRun, PassesOnExceptionsOfTheServiceUnchanged) {
   ToolRunList runs;
   const auto failing = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
     throw TSpawnException(SpawnFailure::kTooLong, "reason");

@@ -50,7 +50,7 @@ TEST(ToolSummary, CountsRunsControllersAndRefusedNumbers) {
   EXPECT_EQ(TextOf(runs), "arcconf: 6 runs, 2 controllers (1, 2), numbers 3-5, 8 refused, 3.0 s");
 }
 
-TEST(ToolSummary, TellsTheWaysApartInWhichNoControllerIsSeen) {
+TEST(ToolSummary, DistinguishesTheWaysToSeeNoController) {
   struct Case {
     const char* name;
     Outcome outcome;
@@ -85,11 +85,11 @@ TEST(ToolSummary, HasALineForAToolThatWasNotRun) {
   EXPECT_EQ(SummaryText(summaries[1]), "hrconf_64: not run");
 }
 
-TEST(ToolSummary, PutsAToolThatItDoesNotKnowBehindTheOthers) {
+TEST(ToolSummary, PutsAnUnknownToolAfterTheOthers) {
   EXPECT_EQ(TextOf({MakeRun("new\x1b", "getconfig", 1, Outcome::kOk)}), "new\\x1b: 1 run, 1 controller (1), 0.5 s");
 }
 
-TEST(ToolSummary, GoesOnWhereANumberIsNone) {
+TEST(ToolSummary, ContinuesAfterAnInvalidNumber) {
   ToolRun run = Probe(1, Outcome::kOk);
   run.arguments = {"getconfig", "x1"};
   ToolRun bare = run;
@@ -97,7 +97,7 @@ TEST(ToolSummary, GoesOnWhereANumberIsNone) {
   EXPECT_EQ(TextOf({run, bare}), "arcconf: 2 runs, no controller found, 1.0 s");
 }
 
-TEST(ToolSummary, SaysOncePerReasonWhatWentWrongAndWithWhichCommandFirst) {
+TEST(ToolSummary, ReportsEachReasonOnceWithItsFirstCommand) {
   QueryResult result;
   result.runs = {MakeRun("qcmdrun", "getconfig", 1, Outcome::kNotStarted, "no such file"),
                  MakeRun("qcmdrun", "getconfig", 2, Outcome::kNotStarted, "no such file"),
@@ -115,7 +115,7 @@ TEST(ToolSummary, GivesALongReasonALineOfItsOwn) {
   EXPECT_THAT(Written(result), HasSubstr("    timed out (getconfig 1 al):\n      " + reason + "\n"));
 }
 
-TEST(ToolSummary, SaysWhereToolsBelongOnlyWhereOneIsMissing) {
+TEST(ToolSummary, NamesTheFolderOfToolsOnlyIfOneIsMissing) {
   QueryResult result;
   result.runs = {Probe(1, Outcome::kTimedOut)};
   EXPECT_THAT(Written(result), Not(HasSubstr("Tools belong")));
@@ -132,7 +132,7 @@ TEST(ToolSummary, ShowsSixTroublesOfAToolAndCountsTheRest) {
   EXPECT_THAT(text, Not(HasSubstr("reason 7")));
 }
 
-TEST(ToolSummary, SaysThatTheCollectionWasAborted) {
+TEST(ToolSummary, ReportsAnAbortedCollection) {
   QueryResult result;
   result.log = {
       {3, "Collection aborted: out of range inside ZxPlugin"}
@@ -141,7 +141,7 @@ TEST(ToolSummary, SaysThatTheCollectionWasAborted) {
                                          "    Collection aborted: out of range inside ZxPlugin\n"));
 }
 
-TEST(ToolSummary, SaysThatALaterQueryRanNoTool) {
+TEST(ToolSummary, ReportsThatALaterQueryRanNoTool) {
   QueryResult result;
   result.number = 2;
   EXPECT_EQ(Written(result), "\nRuns of the tools\n  none: the answers are those of the first query\n");

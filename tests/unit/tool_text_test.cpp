@@ -31,7 +31,7 @@ TEST(ToolText, CutsALogicalDriveNumberUpToTheLineEnd) {
   }
 }
 
-TEST(ToolText, CutsADeviceTypeBehindItsArticle) {
+TEST(ToolText, CutsADeviceTypeAfterItsArticle) {
   const std::vector<Case> cases = {
       {"a",                  "   Device is a Hard drive\r\n",                 "Hard drive"               },
       {"an, for enclosures", "   Device is an Enclosure services device\r\n", "Enclosure services device"},
@@ -43,7 +43,7 @@ TEST(ToolText, CutsADeviceTypeBehindItsArticle) {
   for (const Case& textCase : cases) EXPECT_EQ(CutDeviceType(textCase.text), textCase.expected) << textCase.name;
 }
 
-TEST(ToolText, JoinsPartsWithTheSeparatorAlone) {
+TEST(ToolText, JoinsPartsWithOnlyTheSeparator) {
   struct JoinCase {
     std::string name;
     std::string text;
@@ -67,7 +67,7 @@ TEST(ToolText, JoinsPartsWithTheSeparatorAlone) {
   }
 }
 
-TEST(ToolText, TellsALineThatBeginsWithADigit) {
+TEST(ToolText, RecognisesALineThatBeginsWithADigit) {
   EXPECT_TRUE(BeginsWithDigit("0,1"));
   EXPECT_TRUE(BeginsWithDigit("9"));
   EXPECT_FALSE(BeginsWithDigit(" 1"));

@@ -69,7 +69,7 @@ TEST(UnreadLines, AreNotShownByTheRawTextsThemselves) {
   EXPECT_EQ(FindUnreadLines(repository.Instances()).size(), 1U);
 }
 
-TEST(UnreadLines, AreAllLinesOfAValueThatGoesOn) {
+TEST(UnreadLines, AreAllLinesOfAContinuedValue) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxRawData", "Command", "c", "RawResults", Texts({"Order : 0,2", "        0,3"}));
   EXPECT_EQ(FindUnreadLines(repository.Instances()).at(0).unread, (std::vector<std::size_t>{0, 1}));

@@ -30,7 +30,7 @@ struct TextCase {
   const char* text;
 };
 
-TEST(Value, KnowsItsKindAndItsText) {
+TEST(Value, HasAKindAndAText) {
   const TCIMDateTime time("20260305010203.000004+000");
   const TextCase cases[] = {
       {"nothing",       TCIMValue(),                        ValueKind::kNone,      ""                         },
@@ -78,7 +78,7 @@ TEST(Value, ConvertsToANumberThatFitsOrZero) {
   }
 }
 
-TEST(Value, AnArrayCarriesItsElementsWhateverTheCountSays) {
+TEST(Value, AnArrayContainsItsElementsWithAnyCount) {
   TCIMValue value = "before";
   value.Set(TCIMValue::TCIMType(kCIMString), 0, {"a", "b", "c"});
   ASSERT_EQ(TCIMValueReader::Kind(value), ValueKind::kArray);
@@ -87,7 +87,7 @@ TEST(Value, AnArrayCarriesItsElementsWhateverTheCountSays) {
   EXPECT_EQ(TCIMValueReader::Text(TCIMValueReader::Elements(value)[2]), "c");
 }
 
-TEST(Value, ACopyIsNotTouchedByWhatBecomesOfTheOriginal) {
+TEST(Value, ACopyDoesNotChangeWithTheOriginal) {
   TCIMValue value = Codes();
   const TCIMValue copy = value;
   value = "other";
@@ -123,7 +123,7 @@ TEST(ObjectPath, NamesKeysInTheirOrderWithQuotesAndBackslashesEscaped) {
   }
 }
 
-TEST(ObjectPath, OfAReferenceMadeOfKeysAloneHasNoClass) {
+TEST(ObjectPath, OfAReferenceWithOnlyKeysHasNoClass) {
   const TCIMReference reference(nullptr, {
                                              {"k", "v"}
   });

@@ -22,7 +22,7 @@ std::string DocumentedExample() {
 
 TEST(WriteBundle, WritesTheExampleOfTheDescription) { EXPECT_EQ(WriteBundle(SampleBundle()), DocumentedExample()); }
 
-TEST(WriteBundle, WritesWhatIsAbsentAsNone) {
+TEST(WriteBundle, WritesAbsentValuesAsNone) {
   const std::string text = WriteBundle({});
   EXPECT_NE(text.find("\nos-type: none\nos-version: none\nraid-log-dir: none\nitems: 0\n\nend of bundle"), text.npos)
       << text;

@@ -29,7 +29,7 @@ TEST(WriteTemplate, FillsSlotsAtBothEnds) {
   EXPECT_EQ(Filled("@ONE@@TWO@", {Slot("@ONE@", "1"), Slot("@TWO@", "")}), "1");
 }
 
-TEST(WriteTemplate, DoesNotReadWhatItPutsIn) {
+TEST(WriteTemplate, DoesNotSearchTheReplacements) {
   EXPECT_EQ(Filled("a @ONE@ b @TWO@ c", {Slot("@ONE@", "@TWO@ @ONE@"), Slot("@TWO@", "2")}), "a @TWO@ @ONE@ b 2 c");
 }
 

@@ -65,7 +65,7 @@ TEST(ChildProcess, AFamilyIsEndedWhileOtherProcessesComeAndGo) {
   isDone = true;
 }
 
-TEST(ChildProcess, EndsWithItsKeeperAndThenNobodyKnowsHow) {
+TEST(ChildProcess, EndsWithItsKeeperInAnUnknownWay) {
   ChildProcess child = StartProcess(ChildPath(), {"sleep", "300"});
   EXPECT_EQ(Collect(child, milliseconds(500)), OutputEnd::kTooLong);
   kill(child.keeper, SIGKILL);

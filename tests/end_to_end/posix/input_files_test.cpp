@@ -59,7 +59,7 @@ TEST(InputFiles, ARaidManagersLogThatIsNoFileIsNamedAndTheRestIsShown) {
   }
 }
 
-TEST(InputFiles, WhatIsNoFileIsRefusedInOneLineByEveryCommand) {
+TEST(InputFiles, ThatAreNotOrdinaryAreRefusedInOneLineByEveryCommand) {
   for (const Trap& trap : kTraps) {
     const TemporaryFolder folder;
     const std::string named = Utf8FromPath(folder.Path() / "named");
@@ -151,7 +151,7 @@ TEST(InputFiles, AStreamIsReadUpToTheLimit) {
 
 // With 300 MB of address space, the program has room for itself but not for the file. Sanitizers need more.
 #ifndef ZENX_SANITIZED
-TEST(InputFiles, ThatDoNotFitIntoTheMemoryAreAnsweredByOneLineThatSaysWhatToDo) {
+TEST(InputFiles, ThatDoNotFitIntoTheMemoryAreRefusedInOneLineWithAdvice) {
   const TemporaryFolder folder;
   const fs::path large = folder.Write("large", "");
   fs::resize_file(large, std::uintmax_t{250} << 20U);

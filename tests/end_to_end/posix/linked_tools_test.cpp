@@ -65,7 +65,7 @@ TEST_F(LinkedTools, IncludeEachLinkOnTheWay) {
   ExpectWarningOf(In("between"));
 }
 
-TEST_F(LinkedTools, ThatAreNotThereYetAreWhatOthersPutThere) {
+TEST_F(LinkedTools, ThatDoNotExistYetMayBeCreatedByOthers) {
   fs::create_directories(In("elsewhere"));
   Link(In("elsewhere/arcconf"));
   ExpectNoWarning();
@@ -90,7 +90,7 @@ TEST_F(LinkedTools, BesideWhichOthersMayPutLibrariesAreNamed) {
   ExpectWarningOf(In("elsewhere"));
 }
 
-TEST_F(LinkedTools, IncludeWhatLiesInAFolderThatALinkLeadsTo) {
+TEST_F(LinkedTools, IncludeTheContentsOfALinkedFolder) {
   Write("elsewhere/lib/storelib.so");
   fs::create_directory_symlink(In("elsewhere/lib"), Zenx() / "lib");
   ExpectNoWarning();

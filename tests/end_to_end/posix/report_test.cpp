@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(Report, SaysThatADiskIsFull) {
+TEST(Report, ReportsAFullDisk) {
   const ProgramResult result = RunHxahost(
       {"query", "--directory", hxahost::Utf8FromPath(SampleMachine()), "--format", "html", "--output", "/dev/full"});
   EXPECT_EQ(result.exitStatus, 1);

@@ -59,7 +59,7 @@ TEST(Signals, ABundleIsSavedWhereNobodyReadsStandardOutput) {
   EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 1);
 }
 
-TEST(Signals, AFileThatMayNotGrowIsAnErrorAndLeavesNothingBehind) {
+TEST(Signals, AFileThatMayNotGrowIsAnErrorAndLeavesNoFile) {
   const TemporaryFolder folder;
   const std::string output = (folder.Path() / "out.json").string();
   const std::string query = HxahostPath().string() + " query --format json --replay " + RecordedSampleMachine();

@@ -32,7 +32,7 @@ std::string GoodResult(const MachineCopy& machine) {
   return RunFromShell("cd '" + machine.Directory() + "' && exec \"$0\" \"$@\"", kFixed).out;
 }
 
-TEST(WorkingDirectory, ThatIsGoneIsReportedInOneLine) {
+TEST(WorkingDirectory, ThatWasDeletedIsReportedInOneLine) {
   const TemporaryFolder folder;
   const std::string place = (folder.Path() / "gone").string();
   const std::string goneThen =

@@ -33,7 +33,7 @@ TEST(ChildProcess, HasAPipeThatNobodyElseCanForeseeOrOpen) {
   for (ChildProcess* const child : {&one, &other}) EndProcessTree(ChildPath(), *child);
 }
 
-TEST(ChildProcess, HasAPipeThatItsUserAloneMayOpen) {
+TEST(ChildProcess, HasAPipeThatOnlyItsUserMayOpen) {
   ChildProcess child = StartProcess(ChildPath(), {"sleep", "300"});
   ACL* list = nullptr;
   PSECURITY_DESCRIPTOR descriptor = nullptr;

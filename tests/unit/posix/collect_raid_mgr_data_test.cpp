@@ -11,7 +11,7 @@
 namespace {
 
 // Systems other than Windows read the version from the environment, so the test can set an old one.
-TEST(CollectRaidMgrDataOnOlderSystems, TakesTheRegistryValueAsItStands) {
+TEST(CollectRaidMgrDataOnOlderSystems, TakesTheRegistryValueUnchanged) {
   for (const char* const version : {"5.2", ""}) {
     const ScriptedServices services;
     const TemporaryFolder folder;

@@ -34,7 +34,7 @@ TEST(EnvironmentAnswers, ReadTheVersion) {
   EXPECT_FALSE(GetOsVersion().isWindowsNt);
 }
 
-TEST(EnvironmentAnswers, HaveTheLogsFolderAloneAndOnlyWhereItFits) {
+TEST(EnvironmentAnswers, ContainOnlyTheLogsFolderAndOnlyIfItFits) {
   const RaidLogSetting setting("12345");
   EXPECT_EQ(ReadLocalMachineText(kRaidManagerKey, "LogDir", 6), "12345");
   EXPECT_EQ(ReadLocalMachineText(kRaidManagerKey, "LogDir", 5), std::nullopt);

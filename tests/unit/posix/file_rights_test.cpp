@@ -67,7 +67,7 @@ constexpr EntryCase kEntryCases[] = {
     {"in another user's folder, which he may open up", 0755,  1001,  0,     true },
 };
 
-TEST(FileRights, ToExchangeFollowFromTheFolderAndTheOwnerOfWhatLiesInIt) {
+TEST(FileRights, ToExchangeFollowFromTheFolderAndTheOwnersOfItsEntries) {
   for (const EntryCase& each : kEntryCases) {
     struct stat folder {};
     folder.st_mode = each.folderMode;
@@ -79,7 +79,7 @@ TEST(FileRights, ToExchangeFollowFromTheFolderAndTheOwnerOfWhatLiesInIt) {
   }
 }
 
-TEST(FileRights, AreReadFromTheFileAndFromWhatALinkPointsTo) {
+TEST(FileRights, AreReadFromTheFileAndFromTheTargetOfALink) {
   const TemporaryFolder folder;
   const fs::path file = folder.Write("tool", "");
   fs::create_symlink(file, folder.Path() / "link");
@@ -91,6 +91,6 @@ TEST(FileRights, AreReadFromTheFileAndFromWhatALinkPointsTo) {
   EXPECT_TRUE(OthersMayWrite(folder.Path() / "link"));
 }
 
-TEST(FileRights, OfWhatIsNotThereAreNone) { EXPECT_FALSE(OthersMayWrite("/nothing/there")); }
+TEST(FileRights, OfAMissingFileAreNone) { EXPECT_FALSE(OthersMayWrite("/nothing/there")); }
 
 }  // namespace

@@ -16,7 +16,7 @@ namespace {
 using namespace hxahost;
 namespace fs = std::filesystem;
 
-TEST(OutputFilePosix, LeavesWhatAProgramThatStillRunsIsWriting) {
+TEST(OutputFilePosix, LeavesTheFilesOfRunningPrograms) {
   const TemporaryFolder folder;
   const fs::path theirs = folder.Write("out.json." + std::to_string(getppid()) + ".part", "half");
   OutputFile file(folder.Path() / "out.json");
@@ -24,7 +24,7 @@ TEST(OutputFilePosix, LeavesWhatAProgramThatStillRunsIsWriting) {
   EXPECT_EQ(FileText(theirs), "half");
 }
 
-TEST(OutputFilePosix, WritesThroughALinkToTheFileBehindIt) {
+TEST(OutputFilePosix, WritesThroughALinkToItsTarget) {
   const TemporaryFolder folder;
   WriteFileText(folder.Path() / "file", "before");
   fs::create_symlink(folder.Path() / "file", folder.Path() / "link");
@@ -35,7 +35,7 @@ TEST(OutputFilePosix, WritesThroughALinkToTheFileBehindIt) {
   EXPECT_EQ(FileText(folder.Path() / "file"), "after");
 }
 
-TEST(OutputFilePosix, KeepsModeAndOwnerOfWhatItReplaces) {
+TEST(OutputFilePosix, KeepsModeAndOwnerOfTheReplacedFile) {
   const TemporaryFolder folder;
   const fs::path path = folder.Write("file", "before");
   // Only root can change the owner of a file.

@@ -16,7 +16,7 @@ using testing::HasSubstr;
 // Can be opened, but reading fails as on a broken disk: no memory is mapped at its beginning.
 constexpr const char* kBroken = "/proc/self/mem";
 
-TEST(WholeFile, IsWhatTheFileHas) {
+TEST(WholeFile, ContainsTheBytesOfTheFile) {
   const TemporaryFolder folder;
   for (const std::size_t size : {0U, 1U, 4095U, 4096U, 4097U, 10000U}) {
     const std::string written(size, 'x');
@@ -46,7 +46,7 @@ std::string Complaint(const Read& read) {
   return "none";
 }
 
-TEST(WholeFile, ThatCannotBeReadIsNamedWithWhatToDo) {
+TEST(WholeFile, ThatCannotBeReadIsNamedWithAdvice) {
   EXPECT_THAT(Complaint([] { hxahost::ReadJsonResult(kBroken); }),
               HasSubstr("/proc/self/mem cannot be read (Input/output error): name a"));
   EXPECT_THAT(Complaint([] { hxahost::ReadBundleFile(kBroken); }),

@@ -16,7 +16,7 @@ TEST(WideText, ReadsUtf8) {
   EXPECT_EQ(ToWide(""), L"");
 }
 
-TEST(WideText, ReadsWhatIsNotUtf8InTheSystemsCodePage) {
+TEST(WideText, ReadsOtherBytesInTheSystemsCodePage) {
   const std::string text =
       "Gr\xF6"
       "e";
@@ -26,7 +26,7 @@ TEST(WideText, ReadsWhatIsNotUtf8InTheSystemsCodePage) {
   EXPECT_EQ(ToWide(text).size(), 4U);
 }
 
-TEST(WideText, SaysAnErrorInOneLineWithoutItsEnd) {
+TEST(WideText, FormatsAnErrorInOneLineWithoutItsEnd) {
   const std::string text = ErrorText(ERROR_FILE_NOT_FOUND);
   EXPECT_GT(text.size(), 5U);
   EXPECT_EQ(text.find_first_of("\r\n"), std::string::npos) << text;
