@@ -202,7 +202,7 @@ class Machine {
 struct Question {
   std::string what;
   Command command;
-  double start = 0;  // seconds without disks
+  double start = 0;             // seconds without disks
   std::vector<double> seconds;  // for each number of disks, minus start
 };
 

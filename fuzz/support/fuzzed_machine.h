@@ -9,8 +9,8 @@
 #include "fuzz/support/utilities.h"
 
 // While it exists, utilities answer with the texts of an input, from the given one on, in the order of the utilities;
-// the clock does not move. A utility whose text is missing, or begins with kCannotRun, cannot be run. Other utilities do
-// not exist.
+// the clock does not move. A utility whose text is missing, or begins with kCannotRun, cannot be run. Other utilities
+// do not exist.
 class FuzzedMachine {
  public:
   // Begins a text that is the reason for a missing answer.

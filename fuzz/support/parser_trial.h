@@ -20,9 +20,9 @@ struct ReportParser {
   std::string_view decidingHeading = {};
 };
 
-// Reads a report whole, cut off, and its bytes as junk around a report. Ends the program unless the records contain only
-// text of the report, each heading produces at most one record, an incomplete report produces the records before the
-// cut, and junk around sections changes nothing.
+// Reads a report whole, cut off, and its bytes as junk around a report. Ends the program unless the records contain
+// only text of the report, each heading produces at most one record, an incomplete report produces the records before
+// the cut, and junk around sections changes nothing.
 void TryParser(const ReportParser& parser, std::string_view report);
 
 // Changes an input: mostly like libFuzzer, sometimes by inserting one of the sections between two of its lines.

@@ -1,6 +1,6 @@
-// Outputs for CIM repositories are the same, byte for byte, on both systems. They are compared by sizes and checksums, as
-// they are long. Independent readers read them natively (tests/exchange). To renew the checksums, run this test natively
-// with ZENX_RENEW_GOLDEN=1 in the environment, after those readers have passed.
+// Outputs for CIM repositories are the same, byte for byte, on both systems. They are compared by sizes and checksums,
+// as they are long. Independent readers read them natively (tests/exchange). To renew the checksums, run this test
+// natively with ZENX_RENEW_GOLDEN=1 in the environment, after those readers have passed.
 
 #include <string>
 #include <vector>

@@ -26,10 +26,10 @@ using testing::StartsWith;
 using Texts = std::vector<std::string>;
 
 // Placeholders in the arguments of a case: files and folders that exist or do not.
-constexpr const char* kFile = "<file>";  // contains "good"
+constexpr const char* kFile = "<file>";             // contains "good"
 constexpr const char* kFolder = "<folder>";         // empty
-constexpr const char* kMissing = "<missing>";  // in an existing folder
-constexpr const char* kNowhere = "<nowhere>";  // in a missing folder
+constexpr const char* kMissing = "<missing>";       // in an existing folder
+constexpr const char* kNowhere = "<nowhere>";       // in a missing folder
 constexpr const char* kUnderFile = "<under file>";  // in a file, as if it were a folder
 
 constexpr const char* kBundle = "<bundle>";  // of the sample machine

@@ -138,7 +138,8 @@ const std::map<std::string, std::function<void(const Texts&)>> kModes = {
 
 // With a utility's name: if there is a folder "family" beside it, which receives their numbers, starts a family of
 // processes that ignore requests to end, and sleeps. Otherwise writes the content of a file beside it,
-// "script/qcmdrun getconfig 1 al", byte for byte. If there is another file with ".crash" after that name, it then crashes.
+// "script/qcmdrun getconfig 1 al", byte for byte. If there is another file with ".crash" after that name, it then
+// crashes.
 int AnswerAs(const std::filesystem::path& utility, const Texts& arguments) {
   const std::filesystem::path family = utility.parent_path() / "family";
   if (std::filesystem::exists(family)) SleepWithFamily((family / "number").string(), "300");

@@ -1,6 +1,6 @@
-// The same hostile texts as names, states, raw texts, log entries and names of machines, in every output of the program.
-// Each output is checked by the rules of its own format: read back, the texts are unchanged, and the output around them
-// equals that around harmless texts.
+// The same hostile texts as names, states, raw texts, log entries and names of machines, in every output of the
+// program. Each output is checked by the rules of its own format: read back, the texts are unchanged, and the output
+// around them equals that around harmless texts.
 
 #include <algorithm>
 #include <functional>

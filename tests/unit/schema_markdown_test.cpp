@@ -1,5 +1,5 @@
-// docs/classes.md contains the output of WriteSchemaMarkdown. To renew it, run this test with ZENX_RENEW_GOLDEN=1 in the
-// environment, and read the difference before the commit.
+// docs/classes.md contains the output of WriteSchemaMarkdown. To renew it, run this test with ZENX_RENEW_GOLDEN=1 in
+// the environment, and read the difference before the commit.
 
 #include "host/hxahost/schema/schema_markdown.h"
 

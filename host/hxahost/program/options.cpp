@@ -305,14 +305,12 @@ void AddBundle(CLI::App& bundle, TypedOptions& typed) {
   BundleOptions& read = typed.bundle;
   CLI::App* const list = bundle.add_subcommand("list", "List the commands and the log");
   AddPath(*list, "FILE", "TEXT", read.file, "The bundle")->required();
-  CLI::App* const show =
-      bundle.add_subcommand("show", "Show outputs, or the values before the commands");
+  CLI::App* const show = bundle.add_subcommand("show", "Show outputs, or the values before the commands");
   AddPath(*show, "FILE", "TEXT", read.file, "The bundle")->required();
   show->add_option("ITEM", typed.bundleItems, "Numbers of bundle list (default: the values before the commands)");
   show->add_flag("--raw", read.isRaw, "Write the bytes of the items unchanged");
   AddOutput(*show, read.output);
-  CLI::App* const mask =
-      bundle.add_subcommand("mask", "Mask names and serial numbers in a copy");
+  CLI::App* const mask = bundle.add_subcommand("mask", "Mask names and serial numbers in a copy");
   AddPath(*mask, "IN", "TEXT", read.file, "The bundle")->required();
   AddPath(*mask, "OUT", "TEXT", read.output, "The masked copy")->required();
   mask->add_flag("--all", typed.masksAll, "Mask FRU part numbers, too");

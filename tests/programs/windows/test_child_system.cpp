@@ -23,8 +23,8 @@ std::string ToUtf8(const wchar_t* wide) {
   return text;
 }
 
-// Loading the library takes longer than everything else that a child does, as it depends on half of the desktop, so it is
-// only loaded if it is needed.
+// Loading the library takes longer than everything else that a child does, as it depends on half of the desktop, so it
+// is only loaded if it is needed.
 wchar_t** SplitCommandLine(int& count) {
   const HMODULE shell = LoadLibraryW(L"shell32.dll");
   const auto split = reinterpret_cast<decltype(&CommandLineToArgvW)>(
