@@ -96,11 +96,11 @@ TEST(Callbacks, TwoPlugInObjectsOfAProcessCollectOnceBetweenThem) {
     ASSERT_NE(query, nullptr);
     query->Query(repository, {repository->GetClass("KVRSG_zxManagerRawData", {})});
   }
-  const auto isTold = [](const LogEntry& entry) {
+  const auto isLogged = [](const LogEntry& entry) {
     return entry == LogEntry{3, "RaidMgrLog does not exist: inside ZxPlugin"};
   };
   const auto isLookedFor = [](const LogEntry& entry) { return entry.text.starts_with("Enter CollectRaidMgrData"); };
-  EXPECT_EQ(std::ranges::count_if(services.log, isTold), 2);
+  EXPECT_EQ(std::ranges::count_if(services.log, isLogged), 2);
   EXPECT_EQ(std::ranges::count_if(services.log, isLookedFor), 1);
 }
 

@@ -103,7 +103,7 @@ void ExpectOwnLine(const InstanceList& instances, const TPublishedInstance& inst
 }
 
 // Whether the value differs from the line: it is part of an identifier, or another name of a model.
-bool IsSaidOtherwise(const Proof& proof, const std::string& said, const std::string& value) {
+bool IsInOtherWords(const Proof& proof, const std::string& said, const std::string& value) {
   if (proof.property == "DeviceID") return value.ends_with(WithSingleBlanks(said.substr(said.find(':') + 1)));
   return said == "Controller type : Zentraxis B3 Ultra2 SCSI" ? value == "Zentraxis-B3"
                                                               : said == "Controller Model : Tolvar 4800X";
@@ -114,7 +114,7 @@ void ExpectLabelAndValue(const InstanceList& instances, const TPublishedInstance
   for (const std::string& line : LinesOf(instances, proof)) said += " " + line;
   said = WithSingleBlanks(said);
   const std::string value = WithSingleBlanks(RawText(instance, proof.property));
-  EXPECT_TRUE(HasPart(said, value) || IsSaidOtherwise(proof, said, value) ||
+  EXPECT_TRUE(HasPart(said, value) || IsInOtherWords(proof, said, value) ||
               HasPart(said, value.substr(0, value.find(" for "))))
       << said;
   if (FindRowClass(instance.Class().name) != nullptr) return;

@@ -39,8 +39,8 @@ std::size_t NameLength(std::string_view text, std::size_t place) {
   constexpr std::size_t kDigits = 16;
   if (text[place] != '5') return 0;
   const std::string_view digits = text.substr(place, kDigits);
-  const bool goesOn = place + kDigits < text.size() && IsWord(text[place + kDigits]);
-  return digits.size() == kDigits && !goesOn && std::ranges::all_of(digits, IsHex) ? kDigits : 0;
+  const bool continues = place + kDigits < text.size() && IsWord(text[place + kDigits]);
+  return digits.size() == kDigits && !continues && std::ranges::all_of(digits, IsHex) ? kDigits : 0;
 }
 
 // The address around an "@", but no text before begin.

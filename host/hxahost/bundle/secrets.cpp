@@ -21,14 +21,14 @@ constexpr std::size_t kLongest = 256;
 bool IsDigit(char character) { return std::isdigit(static_cast<unsigned char>(character)) != 0; }
 bool IsLetter(char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; }
 
-bool GoesOn(char before, char after) {
+bool IsSameWord(char before, char after) {
   return (IsDigit(before) && IsDigit(after)) || (IsLetter(before) && IsLetter(after));
 }
 
 bool IsWholeWord(std::string_view text, std::size_t begin, std::size_t length) {
   const std::size_t end = begin + length;
-  return !(begin > 0 && GoesOn(text[begin - 1], text[begin])) &&
-         !(end < text.size() && GoesOn(text[end - 1], text[end]));
+  return !(begin > 0 && IsSameWord(text[begin - 1], text[begin])) &&
+         !(end < text.size() && IsSameWord(text[end - 1], text[end]));
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ namespace {
 constexpr std::size_t kMostFiles = 10'000;
 
 // The files beside the tools, in subfolders, too: tools load libraries from there.
-std::vector<fs::path> WhatLiesBelow(const fs::path& top) {
+std::vector<fs::path> EntriesBelow(const fs::path& top) {
   std::vector<fs::path> found;
   std::vector<fs::path> folders = {top};
   std::set<fs::path> seen;  // a link may form a cycle
@@ -47,14 +47,14 @@ bool IsFileOrFolder(const fs::path& path) {
 }
 
 // In the order of the paths, each once.
-std::vector<fs::path> WhatOthersMayChange(const std::vector<fs::path>& paths) {
+std::vector<fs::path> ChangeableByOthers(const std::vector<fs::path>& paths) {
   std::vector<fs::path> unsafe;
   const auto add = [&unsafe](const fs::path& path) {
     if (std::ranges::find(unsafe, path) == unsafe.end()) unsafe.push_back(path);
   };
   for (const fs::path& path : paths) {
     if (IsFileOrFolder(path) && OthersMayWrite(path)) add(path);
-    std::ranges::for_each(UnsafeFoldersBehind(path), add);
+    std::ranges::for_each(UnsafeFoldersOfLink(path), add);
   }
   return unsafe;
 }
@@ -64,14 +64,14 @@ std::vector<fs::path> WhatOthersMayChange(const std::vector<fs::path>& paths) {
 std::vector<std::string> WritableToolsWarnings(const fs::path& directory) {
   std::error_code unknown;
   if (!fs::is_directory(directory / "zenx", unknown)) return {};
-  std::vector<fs::path> paths = WhatLiesBelow(directory / "zenx");
+  std::vector<fs::path> paths = EntriesBelow(directory / "zenx");
   std::vector<std::string> warnings;
   if (paths.size() > kMostFiles) {
     warnings.push_back(fmt::format(
         "there are more than {} files in zenx: who may write to the others was not looked at.", kMostFiles));
   }
   paths.insert(paths.begin(), {directory, directory / "zenx"});
-  const std::vector<fs::path> unsafe = WhatOthersMayChange(paths);
+  const std::vector<fs::path> unsafe = ChangeableByOthers(paths);
   if (unsafe.empty()) return warnings;
   const std::string more = unsafe.size() > 1 ? fmt::format(" and {} more", unsafe.size() - 1) : "";
   warnings.push_back(fmt::format(

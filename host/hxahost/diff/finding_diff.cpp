@@ -55,8 +55,9 @@ using Partners = std::unordered_map<const ResultInstance*, const ResultInstance*
 
 FindingIdentity IdentityOf(const Finding& finding, const JsonResult& result, const Partners& oldOfNew) {
   if (!finding.instance) {
-    const bool isTold = finding.className == kToolRun || finding.className == kLog;
-    return {nullptr, finding.className + " " + finding.identifier, finding.property, isTold ? finding.text : ""};
+    const bool isFromRunOrLog = finding.className == kToolRun || finding.className == kLog;
+    return {nullptr, finding.className + " " + finding.identifier, finding.property,
+            isFromRunOrLog ? finding.text : ""};
   }
   const ResultInstance* const instance = &result.instances[*finding.instance];
   const auto old = oldOfNew.find(instance);

@@ -81,7 +81,7 @@ constexpr Meaning kBatteryHot = {"the battery is too hot", "check the cooling", 
 constexpr Meaning kWeakBattery = {"cached data is lost when the power fails", "replace the battery", Effect::kBattery};
 constexpr Meaning kNoState = {"the utility printed no state"};
 constexpr Meaning kNoCount = {"the utility printed no count"};
-constexpr Meaning kSaidNothing = {"it reported no controllers", "run the utility by hand"};
+constexpr Meaning kReportedNone = {"it reported no controllers", "run the utility by hand"};
 constexpr Meaning kMaybeWrong = {"its report may be incomplete", "run the utility by hand"};
 constexpr Meaning kCutOff = {"its report is incomplete", "run the utility by hand"};
 constexpr Meaning kHung = {"its controllers are not shown", "check whether the controller still responds"};
@@ -227,7 +227,7 @@ constexpr HealthRule kRules[] = {
 
     {&kOutcome,          "ok",                      "",    kAll,     kFine,     kNothing,           kAnywhere        },
     {&kOutcome,          "refused",                 "",    kAll,     kFine,     kNothing,           kAnywhere        },
-    {&kOutcome,          "empty",                   "",    kAll,     kUnknown,  kSaidNothing,       kOnConfiguration },
+    {&kOutcome,          "empty",                   "",    kAll,     kUnknown,  kReportedNone,      kOnConfiguration },
     {&kOutcome,          "empty",                   "",    kAll,     kFine,     kNothing,           kAnywhere        },
     {&kOutcome,          "failed",                  "",    kAll,     kUnknown,  kMaybeWrong,        kOnState         },
     {&kOutcome,          "failed",                  "",    kAll,     kFine,     kNothing,           kAnywhere        },

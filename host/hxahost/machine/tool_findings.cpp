@@ -28,7 +28,7 @@ std::string_view CommandOf(const ToolRun& run) {
 
 using Tools = std::vector<std::string_view>;
 
-bool HoldsOfRun(Where where, const ToolRun& run, const Tools& optional) {
+bool AppliesToRun(Where where, const ToolRun& run, const Tools& optional) {
   switch (where) {
     case Where::kOnOptional: return std::ranges::find(optional, ToolName(run.path)) != optional.end();
     case Where::kOnConfiguration: return CommandOf(run) == kConfiguration;
@@ -39,7 +39,7 @@ bool HoldsOfRun(Where where, const ToolRun& run, const Tools& optional) {
 
 const HealthRule& RuleForRun(const ToolRun& run, const Tools& optional) {
   return *std::ranges::find_if(HealthRules(), [&](const HealthRule& rule) {
-    return rule.value == &kOutcome && rule.word == OutcomeWord(run.outcome) && HoldsOfRun(rule.where, run, optional);
+    return rule.value == &kOutcome && rule.word == OutcomeWord(run.outcome) && AppliesToRun(rule.where, run, optional);
   });
 }
 

@@ -63,7 +63,7 @@ bool IsModel(const KnownTool& tool, const std::string& said, const std::string& 
       tool.models, [&](const ModelName& model) { return model.name == name && Contains(said, model.search); });
 }
 
-bool Says(const Place& place, const LabelSource& source, const Reading& reading, const Sought& sought) {
+bool ContainsValue(const Place& place, const LabelSource& source, const Reading& reading, const Sought& sought) {
   if (reading.value == sought.value) return true;
   if (sought.isIdentifier && !reading.value.empty() && sought.value.ends_with(reading.value)) return true;
   const std::string& line = place.text->lines[reading.lines.front()];
@@ -77,7 +77,7 @@ bool Says(const Place& place, const LabelSource& source, const Reading& reading,
 }
 
 // A list may continue on the next lines, each of which begins with a digit.
-bool SaysOverLines(const Place& place, Reading& reading, const Sought& sought) {
+bool ContainsOverLines(const Place& place, Reading& reading, const Sought& sought) {
   Reading longer = reading;
   for (std::size_t next = longer.lines.back() + 1; next < place.end; ++next) {
     const std::string words = WithSingleBlanks(place.text->lines[next]);
@@ -98,7 +98,7 @@ std::vector<Reading> ReadAll(const Place& place, const std::vector<LabelSource>&
     const auto line = LineOf(place, source);
     if (!line) continue;
     Reading reading{{*line}, ValueOn(place.text->lines[*line], source.label)};
-    reading.isEqual = Says(place, source, reading, sought) || SaysOverLines(place, reading, sought);
+    reading.isEqual = ContainsValue(place, source, reading, sought) || ContainsOverLines(place, reading, sought);
     readings.push_back(std::move(reading));
   }
   return readings;

@@ -72,10 +72,10 @@ class BlockFinder {
     const bool isOfDrive = open_ == &text_.drives;
     const std::size_t label = line.find(orderLabel_);
     std::size_t end = index + 1;
-    const auto goesOn = [this](std::string_view below) {
+    const auto continues = [this](std::string_view below) {
       return !EndsObject(below) && !Contains(below, ":") && !Contains(below, orderLabel_);
     };
-    while (end < text_.lines.size() && goesOn(text_.lines[end])) ++end;
+    while (end < text_.lines.size() && continues(text_.lines[end])) ++end;
     text_.groups.push_back(
         {index,
          end,

@@ -23,12 +23,12 @@ class LinkedTools : public testing::Test {
   void Write(const fs::path& relative) const { folder_.Write(relative, ""); }
   void Link(const fs::path& target) const { fs::create_symlink(target, Zenx() / "arcconf.exe"); }
 
-  std::string Said() const {
+  std::string Warnings() const {
     return RunHxahost({"query", "--directory", In("machine").string(), "--format", "json"}).err;
   }
-  void ExpectNoWarning() const { EXPECT_THAT(Said(), Not(HasSubstr("others may write"))); }
+  void ExpectNoWarning() const { EXPECT_THAT(Warnings(), Not(HasSubstr("others may write"))); }
   void ExpectWarningOf(const fs::path& path) const {
-    EXPECT_THAT(Said(), HasSubstr("others may write to " + path.string() + ", and"));
+    EXPECT_THAT(Warnings(), HasSubstr("others may write to " + path.string() + ", and"));
   }
 
  private:
@@ -114,9 +114,9 @@ TEST_F(LinkedTools, MayLeadInCircles) {
   ExpectNoWarning();
 }
 
-TEST_F(LinkedTools, TooManyToLookAtAreSaid) {
+TEST_F(LinkedTools, TooManyToCheckAreReported) {
   fs::create_directory_symlink("/", Zenx() / "everything");
-  EXPECT_THAT(Said(), HasSubstr("more than 10000 files"));
+  EXPECT_THAT(Warnings(), HasSubstr("more than 10000 files"));
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ bool OthersMayWrite(const std::filesystem::path& path) {
   return stat(path.c_str(), &file) == 0 && LetsOthersWrite(file, geteuid(), getegid());
 }
 
-std::vector<fs::path> UnsafeFoldersBehind(const fs::path& link) {
+std::vector<fs::path> UnsafeFoldersOfLink(const fs::path& link) {
   constexpr int kMostLinks = 40;  // the system's own limit
   std::vector<fs::path> unsafe;
   std::error_code failure;

@@ -56,7 +56,7 @@ fs::path FinalPath(const fs::path& path) {
 bool OthersMayWrite(const fs::path& path) { return ListSays(LetsOthersWrite, path); }
 
 // The system does not report the folders of links between the first and the last of a chain.
-std::vector<fs::path> UnsafeFoldersBehind(const fs::path& link) {
+std::vector<fs::path> UnsafeFoldersOfLink(const fs::path& link) {
   std::vector<fs::path> unsafe;
   if (!IsLink(link)) return unsafe;
   const fs::path final = FinalPath(link);

@@ -31,7 +31,7 @@ std::string LineNumbers(const Proof& proof) {
 }
 
 // The value in the lines, if it differs.
-std::string SaidInstead(const InstanceList& instances, const Proof& proof) {
+std::string DifferentText(const InstanceList& instances, const Proof& proof) {
   if (proof.evidence != Evidence::kDiffers) return "";
   const std::vector<std::string> lines = RawElements(*instances[proof.text], "RawResults");
   std::string said;
@@ -51,7 +51,7 @@ void WriteText(std::ostream& out, const Layout& layout, const InstanceList& inst
   for (const Proof& proof : proofs) {
     if (proof.lines.empty() || proof.text != text) continue;
     table.rows.push_back({std::string(proof.property), ShownText(instance, proof.property), LineNumbers(proof),
-                          SaidInstead(instances, proof)});
+                          DifferentText(instances, proof)});
   }
   out << '\n';
   WriteLine(out, layout, ShownText(*instances[text], "Command"));

@@ -180,8 +180,8 @@ function keyHint(key) {
 }
 
 function unreadTools(section, raws, unread) {
-  const whyNot = "Lines that no property shows are listed only if every class was queried.";
-  if (unread === null) return [make("p", { class: "quiet" }, whyNot)];
+  const reason = "Lines that no property shows are listed only if every class was queried.";
+  if (unread === null) return [make("p", { class: "quiet" }, reason)];
   const texts = raws.filter((raw) => raw.unreadCount > 0);
   const total = texts.reduce((sum, raw) => sum + raw.unreadCount, 0);
   if (total === 0) return [make("p", { class: "quiet" }, "The value of every line is shown by some property.")];
