@@ -102,7 +102,7 @@ TEST_F(Bundles, GiveTheSameHealthAgain) {
   }
 }
 
-TEST_F(Bundles, GiveFailuresOfToolsAgainAndThatThereIsNoLog) {
+TEST_F(Bundles, ReplayFailuresOfToolsAndAMissingLog) {
   const MachineCopy machine;
   machine.RemoveTool("qcmdrun");
   machine.SetAnswer("arcconf/1/getconfig-al", machine.Answer("arcconf/1/getconfig-al").substr(0, 9000));
@@ -269,7 +269,7 @@ TEST_F(Bundles, ThatLackACommandReportItInTheVerdict) {
   EXPECT_THAT(RunHxahost({"health", "--format", "nagios", "--replay", lacking}).out, StartsWith("ZENX UNKNOWN - "));
 }
 
-TEST_F(Bundles, OfACollectionThatAsksOnceHoldEachAnswerOnceAndReplayInBothModes) {
+TEST_F(Bundles, OfACollectionThatRunsCommandsOnceReplayInBothModes) {
   const RaidLogSetting setting(kRaidLogFolder);
   const std::vector<std::string> time = {"--local-time", "20261121093000.000000+060"};
   Run({"query", "--ask-once", "--format", "json", "--directory", Sample(), "--record", Name("m.bundle"), "--output",

@@ -30,7 +30,7 @@ class CaptureFile : public testing::Test {
   std::string path = (ProgramFolder() / "capture_file_test.log").string();
 };
 
-TEST_F(CaptureFile, GivesEveryByteAsItIs) {
+TEST_F(CaptureFile, ReturnsEveryByteUnchanged) {
   std::string bytes = "line\r\nline\n\x1A\xFF";
   for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
   EXPECT_EQ(Captured(bytes), bytes);

@@ -33,7 +33,7 @@ class Diff : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(Diff, EndsWithStatus0WhereOnlyTimeHasPassed) {
+TEST_F(Diff, EndsWithStatus0IfOnlyTimesDiffer) {
   const std::string first = Collect(hxahost::Utf8FromPath(SampleMachine()), "1.json");
   const std::string second = Collect(hxahost::Utf8FromPath(SampleMachine()), "2.json");
   const ProgramResult result = RunHxahost({"diff", first, second});
@@ -81,7 +81,7 @@ TEST_F(Diff, ShowsAFailedDiskAndALostOneFirst) {
   EXPECT_EQ(json["rawTexts"].size(), 2U);
 }
 
-TEST_F(Diff, EndsWithStatus2AndOneLineWhereItCannotTell) {
+TEST_F(Diff, EndsWithStatus2AndOneLineIfTheComparisonFails) {
   const std::string foreign = hxahost::Utf8FromPath(folder_.Write("foreign.json", "{\"format\": \"other\"}"));
   const std::string damaged = hxahost::Utf8FromPath(folder_.Write("damaged.json", "{\"format\": 1, "));
   struct Case {

@@ -118,7 +118,7 @@ TEST_F(FleetCommand, WritesAPageThatLinksToTheNewestReportOfEachMachine) {
               HasSubstr("hxahost: --pages is for what --format html links to: give that, or leave it out."));
 }
 
-TEST_F(FleetCommand, EndsWithStatus4WhereNothingHoldsAMachine) {
+TEST_F(FleetCommand, EndsWithStatus4WithoutMachines) {
   const ProgramResult result = Run({Folder()});
   EXPECT_EQ(result.exitStatus, 4);
   EXPECT_THAT(result.err, HasSubstr("hxahost: No machine was found"));

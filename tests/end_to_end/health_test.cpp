@@ -60,7 +60,7 @@ TEST(Health, IsAsBadAsTheOneThingThatIsWrong) {
   ExpectHealth("Command completed successfully.", "", 3, "unknown  hrconf_64 cut off");
 }
 
-TEST(Health, IsInformationWhereAUtilityIsNotInstalledAndUnknownWhereItIsExpectedOrNoneIs) {
+TEST(Health, ReportsAMissingUtilityAsInformationOrAsUnknownIfItIsExpectedOrNoneIsInstalled) {
   const MachineCopy machine;
   machine.LeaveOnly("hrconf_64");
   machine.RemoveTool("arcconf");
@@ -80,7 +80,7 @@ TEST(Health, IsInformationWhereAUtilityIsNotInstalledAndUnknownWhereItIsExpected
                                 HasSubstr("not installed are qcmdrun, hrconf_64, arcconf")));
 }
 
-TEST(Health, IsUnknownWhereAUtilityIsThereButCannotBeRun) {
+TEST(Health, IsUnknownIfAnInstalledUtilityCannotBeRun) {
   const MachineCopy machine;
   machine.LeaveOnly("hrconf_64");
   machine.RemoveTool("arcconf");
@@ -90,7 +90,7 @@ TEST(Health, IsUnknownWhereAUtilityIsThereButCannotBeRun) {
   EXPECT_THAT(result.out, HasSubstr("unknown  arcconf not started: \"zenx//arcconf.exe\" cannot be started: "));
 }
 
-TEST(Health, ReplaysAUtilityThatIsNotInstalledAsIt) {
+TEST(Health, ReplaysAUtilityThatIsNotInstalledAsMissing) {
   const MachineCopy machine;
   machine.LeaveOnly("hrconf_64");
   machine.RemoveTool("arcconf");
@@ -134,7 +134,7 @@ TEST(Health, ComparesWithABaselineThatWasSavedBefore) {
                     HasSubstr("critical 2 of 5 controllers are there"), HasSubstr(" of 30 disks are there")));
 }
 
-TEST(Health, SavesNoBaselineWhereAUtilityDidNotAnswer) {
+TEST(Health, SavesNoBaselineIfAUtilityDidNotAnswer) {
   const MachineCopy machine;
   machine.SetAnswer("hrconf_64/other", "Something new\n");
   const TemporaryFolder folder;

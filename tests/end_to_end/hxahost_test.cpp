@@ -79,7 +79,7 @@ TEST_F(Hxahost, EndsWithStatus3WhenThePluginCannotBeLoaded) {
   EXPECT_THAT(FilesInFolder(), testing::ElementsAre("text.pi")) << "no output, and no half of one";
 }
 
-TEST_F(Hxahost, FindsThePluginBesideItselfWhereverTheToolsAre) {
+TEST_F(Hxahost, FindsThePluginBesideItselfForAnyFolderOfTools) {
   EXPECT_EQ(Query({}).exitStatus, kNothingFound);
   EXPECT_EQ(Query({"--plugin", Utf8FromPath(hxahost::ProgramFolder() / "zenx.pi")}).exitStatus, kNothingFound);
 }

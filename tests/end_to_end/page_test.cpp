@@ -25,7 +25,7 @@ TEST(PageOfAPipe, IsAHundredColumnsWideAndWithoutColours) {
   EXPECT_THAT(result.out, HasSubstr("Failed"));
 }
 
-TEST(PageOfAPipe, HasColoursAndAsciiWhereAskedFor) {
+TEST(PageOfAPipe, HasColoursAndAsciiOnRequest) {
   const ProgramResult result = Tables({"--color", "always", "--ascii", "--width", "80"});
   EXPECT_THAT(result.out, HasSubstr("\x1b[31mFailed\x1b[0m"));
   for (const char character : result.out) ASSERT_LT(static_cast<unsigned char>(character), 0x80U) << result.out;

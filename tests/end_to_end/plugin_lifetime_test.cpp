@@ -66,7 +66,7 @@ std::vector<std::string> Query(Plugin& plugin) {
   return published;
 }
 
-TEST(PluginLifetime, QueriesWaitForEachOtherAndTheLibraryWorksAgainOnlyWhereItWasUnloaded) {
+TEST(PluginLifetime, QueriesWaitForEachOtherAndTheLibraryWorksAgainOnlyAfterUnloading) {
   const auto file = ProgramFolder() / "zenx.pi";
   SlowTools tools;
   std::vector<std::string> published;

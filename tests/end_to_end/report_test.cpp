@@ -49,7 +49,7 @@ TEST(Report, NeedsNoFileBesideTheProgramAndIsWrittenByteForByte) {
   EXPECT_EQ(page.find('\r'), page.npos);
 }
 
-TEST(Report, IsNotWrittenWhereTheQueryCannotBeMade) {
+TEST(Report, IsNotWrittenIfTheQueryFails) {
   const TemporaryFolder folder;
   const auto file = folder.Path() / "report.html";
   const ProgramResult result = WriteReport({"--output", Utf8FromPath(file), "--plugin", "no such plug-in"});

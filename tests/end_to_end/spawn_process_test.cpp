@@ -75,7 +75,7 @@ class WorkingDirectory {
   fs::path before_ = fs::current_path();
 };
 
-TEST(SpawnProcess, GivesArgumentsToTheProgramAsTheyAre) {
+TEST(SpawnProcess, PassesArgumentsUnchanged) {
   const std::vector<std::string> cases = {
       "plain",
       "two words",
@@ -120,7 +120,7 @@ std::string RandomArgument(std::mt19937& random) {
   return argument;
 }
 
-TEST(SpawnProcess, GivesListsOfRandomArgumentsToTheProgramAsTheyAre) {
+TEST(SpawnProcess, PassesListsOfRandomArgumentsUnchanged) {
   constexpr int kArguments = 100;
   std::mt19937 random(20260305);
   for (int run = 0; run < kManyRuns / 50; ++run) {
@@ -143,7 +143,7 @@ TEST(SpawnProcess, ReturnsTheOutputForAnyExitStatus) {
   EXPECT_EQ(RunChild({"exit", "77"}), "done\n");
 }
 
-TEST(SpawnProcess, ReturnsEveryByteOfAnOutputThatNoPipeHolds) {
+TEST(SpawnProcess, ReturnsEveryByteOfAnOutputLargerThanAnyPipe) {
   for (const std::size_t count : {0U, 1U, 65535U, 65536U, 65537U, 5000000U}) {
     EXPECT_EQ(RunChild({"bytes", std::to_string(count)}), std::string(count, 'x'));
   }
@@ -156,7 +156,7 @@ TEST(SpawnProcess, PutsTheCLocaleIntoTheEnvironmentAndNoOther) {
   EXPECT_EQ(RunChild({"locale"}), "LC_ALL=C\n");
 }
 
-TEST(SpawnProcess, GivesTheProgramTheRestOfTheEnvironment) {
+TEST(SpawnProcess, PassesOnTheRestOfTheEnvironment) {
   SetVariable("ZENX_TEST_VARIABLE", "one two");
   EXPECT_EQ(RunChild({"variable", "ZENX_TEST_VARIABLE"}), "one two\n");
 }
@@ -252,7 +252,7 @@ INSTANTIATE_TEST_SUITE_P(What, SpawnProcessTree,
                                          ModeCase{"WithoutOutputGroupOrParent", "daemon-sleep"}),
                          [](const auto& mode) { return mode.param.name; });
 
-TEST(SpawnProcess, EndsAFamilyInWhichNobodyEndsWhenAskedTo) {
+TEST(SpawnProcess, EndsAFamilyOfProcessesThatIgnoreRequests) {
   const NumberFile itself;
   const NumberFile child("-child");
   const NumberFile grandchild("-child-child");

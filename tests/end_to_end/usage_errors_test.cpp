@@ -270,7 +270,7 @@ TEST_F(UsageErrors, AreTestedForEveryOptionThatTheHelpNames) {
   EXPECT_EQ(OptionsOf({"bundle", "list"}), std::set<std::string>{"--input-limit"}) << "tested with show";
 }
 
-TEST_F(UsageErrors, LeaveAGoodResultWhereItIs) {
+TEST_F(UsageErrors, LeaveAGoodResultUnchanged) {
   for (const Texts& arguments : {
            Texts{"query",  "--output", kFile, "--plugin",    kMissing       },
            Texts{"query",  "--output", kFile, "--directory", kMissing       },

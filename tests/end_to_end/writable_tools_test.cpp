@@ -46,7 +46,7 @@ void ExpectOneLineAbout(const std::string& what, const std::string& err) {
                          HasSubstr("let only administrators write there")));
 }
 
-TEST_F(WritableTools, AreNoMatterWhereNobodyElseMayWrite) { EXPECT_EQ(Warning(), ""); }
+TEST_F(WritableTools, AreNotReportedIfOthersCannotWrite) { EXPECT_EQ(Warning(), ""); }
 
 TEST_F(WritableTools, AreNamedInOneLineWhenAnybodyMayChangeThem) {
   LetOthersWrite(Zenx() / "qcmdrun.exe");

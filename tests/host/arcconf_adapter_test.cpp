@@ -63,7 +63,7 @@ class ArcconfDataTest : public AdapterTest {
   }
 };
 
-TEST_F(ArcconfDataTest, AsksTwiceAndFindsNothingOnAMachineWithoutControllers) {
+TEST_F(ArcconfDataTest, RequestsTwiceAndFindsNothingOnAMachineWithoutControllers) {
   Collect();
   EXPECT_EQ(services_.runs, (std::vector<std::string>{GetConfig(1), GetConfig(1)}));
   EXPECT_TRUE(controllers_.empty());
@@ -94,7 +94,7 @@ TEST_F(ArcconfDataTest, EndsParsingAtADriverMismatchAndKeepsTheRecord) {
   EXPECT_EQ(std::count_if(services_.log.begin(), services_.log.end(), isMismatch), 2);
 }
 
-TEST_F(ArcconfDataTest, TakesNoControllersForStrongerThanADriverMismatchAndThatForStrongerThanAnInvalidNumber) {
+TEST_F(ArcconfDataTest, PrefersNoControllersToADriverMismatchAndThatToAnInvalidNumber) {
   services_.answers[GetConfig(1)] = "Driver Update Required\r\n" + kNoControllers;
   Collect();
   EXPECT_EQ(services_.log.back().level, 3);

@@ -89,7 +89,7 @@ TEST(ZenxCollectData, NumberControllersOnFromToolToTool) {
 }
 
 // Numbers continue from the number of controllers so far, not from the highest number.
-TEST(ZenxCollectData, GiveANumberTwiceWhereALegacyControllerIsMissingBeforeAnother) {
+TEST(ZenxCollectData, UseANumberTwiceIfALegacyControllerIsMissingBeforeAnother) {
   std::map<std::string, std::string> answers;
   for (auto& [command, answer] : AnswersOf(std::end(kMachines)[-1])) {
     std::string swapped = command;
@@ -113,7 +113,7 @@ TEST(ZenxCollectData, RunRecordAndLogTheThreeToolsOneAfterTheOther) {
   }
 }
 
-TEST(ZenxCollectData, RunNoHrconfCommandWhereItIsSkippedAndStartArcconfAtTheLegacyCount) {
+TEST(ZenxCollectData, RunNoSkippedHrconfCommandAndStartArcconfAtTheLegacyCount) {
   const Machine& all = std::end(kMachines)[-1];
   const Outcome outcome = Collect<ZenxCollectData>(AnswersOf(all), true);
   EXPECT_EQ(outcome.controllers, (Lines{"1", "2", "3", "4"}));
@@ -156,7 +156,7 @@ TEST(ZenxCollectData, LetsAFailurePassAndRunsNoFurtherTool) {
   EXPECT_TRUE(data.GetRawData().empty());
 }
 
-TEST(ZenxCollectData, StartsWithTheRecordsThatItIsGivenAndGivesCopiesOfItsLists) {
+TEST(ZenxCollectData, StartsWithTheGivenRecordsAndReturnsCopiesOfItsLists) {
   const ScriptedServices services;
   const auto controller = std::make_shared<ZenxController>(TRootObject::GetCoreLogger());
   const ZenxCollectData data(TRootObject::GetCoreLogger(), {controller});

@@ -80,7 +80,7 @@ class HrconfDataTest : public AdapterTest {
   }
 };
 
-TEST_F(HrconfDataTest, AsksTwiceAndFindsNothingOnAMachineWithoutControllers) {
+TEST_F(HrconfDataTest, RequestsTwiceAndFindsNothingOnAMachineWithoutControllers) {
   Collect();
   EXPECT_EQ(services_.runs, (std::vector<std::string>{GetConfig(1), GetConfig(1)}));
   EXPECT_TRUE(controllers_.empty());
@@ -215,7 +215,7 @@ TEST_F(HrconfDataTest, WalksDevicesWithAndWithoutChannels) {
   ExpectPlaces("no device", "Channel #1:\n", "");
 }
 
-TEST_F(HrconfDataTest, TakesThePhysicalDrivesWhereBothHeadsAreThere) {
+TEST_F(HrconfDataTest, TakesThePhysicalDrivesIfBothHeadsOccur) {
   CollectOne(
       CrLf("Controller information\nPhysical Device information\n----\nDevice #1\n type\nend\n"
            "Physical drive information\n----\nDevice #2\n type\nend\n"));

@@ -177,7 +177,7 @@ std::vector<std::string> WordsOf(const SampleMachine& machine, std::size_t place
   return lines;
 }
 
-TEST(Proof, GivesTheLineOfAValue) {
+TEST(Proof, FindsTheLineOfAValue) {
   struct Case {
     std::string_view className;
     const char* key;

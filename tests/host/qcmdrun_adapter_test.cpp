@@ -254,7 +254,7 @@ TEST_F(QcmdrunDataTest, LeavesTheSlotDeviceEmptyWhenNoPresentDeviceHasTheSlotNum
 }
 
 // Unlike the answers of the other utilities, an incomplete list ends the collection.
-TEST_F(QcmdrunDataTest, FailsWhereverTheListsOfDrivesOrDevicesAreCut) {
+TEST_F(QcmdrunDataTest, FailsAtAnyCutInTheListsOfDrivesOrDevices) {
   const std::string text = SampleAnswer("qcmdrun/1/getconfig-al");
   struct Case {
     const char* before;

@@ -64,7 +64,7 @@ TEST(ArcconfControllerParser, NamesModelsByTheirTable) {
   for (const auto& [model, name] : rows) EXPECT_EQ(TypeOf("   Controller Model : " + model + "\n"), name) << model;
 }
 
-TEST(ArcconfControllerParser, TakesTheTypeOnlyWhereThereIsNoModel) {
+TEST(ArcconfControllerParser, TakesTheTypeOnlyWithoutAModel) {
   EXPECT_EQ(TypeOf("   Controller type : C6-e HostRAID\n"), "C6-e HostRAID");
   EXPECT_EQ(TypeOf("   Controller type : HostRAID\n   Controller Model : C6-e\n"), "Zentraxis C6-e");
   EXPECT_EQ(TypeOf("   Controller Model : Odd\n   Controller type : HostRAID\n"), "Odd");

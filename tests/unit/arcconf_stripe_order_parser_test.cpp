@@ -53,7 +53,7 @@ TEST(ArcconfStripeOrderParser, TakesAListThatBeginsOnTheSecondLine) {
   EXPECT_EQ(Parse("   Stripe order (Channel,Device)\n   0,1\n").fields, Order(" 0,1\r\n"));
 }
 
-TEST(ArcconfStripeOrderParser, IsCompleteAsFarAsItWasReadWhereTheTextEnds) {
+TEST(ArcconfStripeOrderParser, KeepsTheLinesBeforeTheEndOfTheText) {
   CollectedData text(nullptr, "   Stripe order (Channel,Device)   : 0,0\r\n   0,");
   ArrayStripeOrder order(nullptr);
   arcconf::ParseStripeOrder(order, text, "5", "2");

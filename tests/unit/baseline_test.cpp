@@ -87,7 +87,7 @@ std::vector<std::string> HeadlinesOf(const Machine& machine) {
   return headlines;
 }
 
-TEST(Baseline, FindsNothingWhereNothingChanged) {
+TEST(Baseline, FindsNothingWithoutAChange) {
   EXPECT_THAT(HeadlinesOf(Compare(Numbered(), Numbered())), IsEmpty());
   EXPECT_THAT(HeadlinesOf(Compare(HealthyMachine(), HealthyMachine())), IsEmpty()) << "also without serial numbers";
 }

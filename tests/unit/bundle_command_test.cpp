@@ -71,7 +71,7 @@ TEST_F(BundleCommand, ShowsAnItemWithoutSendingAControlToTheTerminal) {
   EXPECT_THAT(shown, Not(HasSubstr("\x1b")));
 }
 
-TEST_F(BundleCommand, GivesTheBytesOfAnItemToAFile) {
+TEST_F(BundleCommand, WritesTheBytesOfAnItemToAFile) {
   options_.items = {1};
   options_.isRaw = true;
   options_.output = folder_.Path() / "raw";

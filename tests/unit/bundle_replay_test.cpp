@@ -34,7 +34,7 @@ TEST(BundleReplay, ReturnsTheAnswersOfTheTools) {
   EXPECT_EQ(replay.Missing(), "");
 }
 
-TEST(BundleReplay, ThrowsEachKindOfFailureAsItWas) {
+TEST(BundleReplay, ThrowsEachKindOfFailureUnchanged) {
   const auto thrown = [](FailureKind kind) {
     Bundle bundle = SampleBundle();
     bundle.runs[2].failure->kind = kind;
@@ -77,7 +77,7 @@ TEST(BundleReplay, NamesACommandThatItDoesNotHold) {
   EXPECT_EQ(replay.Missing(), "zenx//arcconf.exe getconfig 2 al");
 }
 
-TEST(BundleReplay, GivesTheTimesInTheirOrderAndThenTheLast) {
+TEST(BundleReplay, ReturnsTheTimesInTheirOrderAndThenTheLast) {
   BundleReplay replay(SampleBundle());
   const HostServices services = replay.Services();
   std::vector<std::string> seconds;
@@ -88,7 +88,7 @@ TEST(BundleReplay, GivesTheTimesInTheirOrderAndThenTheLast) {
   EXPECT_EQ(replay.QuerySeconds(2), 0);
 }
 
-TEST(BundleReplay, GivesTheLogOrTheReasonWhyItCouldNotBeCaptured) {
+TEST(BundleReplay, ReturnsTheLogOrTheReasonWhyItCouldNotBeCaptured) {
   BundleReplay replay(SampleBundle());
   EXPECT_EQ(replay.Services().capture("any"), SampleBundle().raidLog->bytes);
   Bundle locked = SampleBundle();

@@ -171,7 +171,7 @@ TEST(CimXmlView, NestsThePathsOfAnAssociation) {
 )"));
 }
 
-TEST(CimXmlView, GivesAReferenceWithoutAClassTheDeclaredOne) {
+TEST(CimXmlView, UsesTheDeclaredClassForAReferenceWithoutOne) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxStripeOrderForController", "Dependent", TCIMReference());
   EXPECT_THAT(Document(repository),
@@ -241,7 +241,7 @@ TEST(CimXmlView, HasAGroupForEachQuery) {
 }
 
 // The other kinds of values are among the hostile texts.
-TEST(CimXmlView, MakesNoMarkupOfAValueAndLosesNothingThatXmlCanHold) {
+TEST(CimXmlView, MakesNoMarkupOfAValueAndKeepsAllCharactersThatXmlPermits) {
   struct Case {
     const char* name;
     std::string value;

@@ -35,7 +35,7 @@ TEST(ClassWords, MeanClasses) {
   }
 }
 
-TEST(ClassWords, AreAnsweredWithTheNearestWhereTheyAreNotKnown) {
+TEST(ClassWords, AreCorrectedToTheNearestKnownWord) {
   const std::pair<const char*, const char*> cases[] = {
       {"disk",       "--class disk is not known: did you mean disks? \"hxahost classes\" lists what there is."},
       {"logicldisk", "did you mean logicaldisk?"                                                              },

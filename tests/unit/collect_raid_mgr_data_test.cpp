@@ -51,13 +51,13 @@ TEST(CollectRaidMgrData, KeepsTheWholeLogAsOneRawRecord) {
   EXPECT_EQ(rawData[0]->RawResults, (Texts{"first", "second"}));
 }
 
-TEST(CollectRaidMgrData, AnEmptyLogIsThereAndGivesNoRawRecord) {
+TEST(CollectRaidMgrData, AnEmptyLogIsFoundWithoutARawRecord) {
   const Collected found("");
   EXPECT_TRUE(found.collector.LogAvailable());
   EXPECT_TRUE(found.collector.GetRawData().empty());
 }
 
-TEST(CollectRaidMgrData, WithoutTheRegistryValueThereIsNoLogAndNoMessageButTheFirst) {
+TEST(CollectRaidMgrData, WithoutTheRegistryValueThereIsNoLogAndOnlyTheFirstMessage) {
   const ScriptedServices services;
   const RaidLogSetting none(std::nullopt);
   RecordingLog log;

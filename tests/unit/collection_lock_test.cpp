@@ -52,7 +52,7 @@ TEST(CollectionLock, IsOneForEachFolder) {
   TakeWithoutWait(two.Path());
 }
 
-TEST(CollectionLock, IsDoneWithoutWhereTheFolderIsMissing) {
+TEST(CollectionLock, IsNotNeededForAMissingFolder) {
   const TemporaryFolder folder;
   std::ostringstream said;
   const CollectionLock first(folder.Path() / "zenx", said);

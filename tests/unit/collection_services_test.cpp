@@ -44,7 +44,7 @@ TEST_F(CollectionServicesTest, KeepTheLogWhileTheyLive) {
   EXPECT_EQ(entries[0].text, "text");
 }
 
-TEST_F(CollectionServicesTest, LeaveNameAndClockOfTheSystemWhereNothingReplacesThem) {
+TEST_F(CollectionServicesTest, UseNameAndClockOfTheSystemByDefault) {
   const CollectionServices services = Make();
   EXPECT_EQ(TOSSpecific::GetMachineName(), RealServices().machineName());
   EXPECT_EQ(TOSSpecific::GetLocalTime().ToString().substr(0, 8), RealServices().localTime().ToString().substr(0, 8));

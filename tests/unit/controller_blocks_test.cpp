@@ -153,7 +153,7 @@ Controller \x1b[1m: \x1b[2m - \x07
 )");
 }
 
-TEST(ControllerBlocks, AreTwoWhereTwoToolsGiveOneNumber) {
+TEST(ControllerBlocks, AreTwoIfTwoToolsUseOneNumber) {
   FilledRepository repository;
   repository.Publish(kController, "ControllerNum", "3", "ReadAhead", "On", "ControllerType", "Legacy");
   repository.Publish(kController, "ControllerNum", "3", "ChannelDescription", "SAS", "ControllerStatus", "Optimal");

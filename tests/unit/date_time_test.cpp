@@ -14,14 +14,14 @@ using testing::HasSubstr;
 using testing::StartsWith;
 using testing::ThrowsMessage;
 
-TEST(DateTime, GivesBackTheTextThatItWasMadeOf) {
+TEST(DateTime, ReturnsTheTextThatItWasMadeFrom) {
   for (const char* const text : {"20260305123015.250000+060", "00000101000000.000000+000", "99991231235959.999999-999",
                                  "20240229000000.000000-300", "20000229000000.000000+000"}) {
     EXPECT_EQ(TCIMDateTime(text).ToString(), text);
   }
 }
 
-TEST(DateTime, WritesNumbersAsTheyAreAlsoWhereNoCalendarHasThem) {
+TEST(DateTime, WritesImpossibleNumbersUnchanged) {
   EXPECT_EQ(TCIMDateTime(2026, 3, 5, 12, 30, 15, 250000, 60).ToString(), "20260305123015.250000+060");
   EXPECT_EQ(TCIMDateTime(2026, 0, 0, 0, 0, 0, 0, -300).ToString(), "20260000000000.000000-300");
   EXPECT_EQ(TCIMDateTime(2026, 13, 32, 25, 61, 61, 0, 0).ToString(), "20261332256161.000000+000");

@@ -34,7 +34,7 @@ TEST(DeviceOwners, AreOnlyNumbersIfEachBelongsToOneTool) {
   EXPECT_THAT(Labels(repository), ElementsAre("1", "1", "2", ""));
 }
 
-TEST(DeviceOwners, NameTheToolWhereTwoShareANumber) {
+TEST(DeviceOwners, NameTheToolIfTwoShareANumber) {
   struct Case {
     const char* name;
     const char* className;

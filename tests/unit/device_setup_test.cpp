@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(DeviceSetup, FindsNothingInASlotThatNoPresentDeviceIsIn) {
+TEST(DeviceSetup, FindsNothingInASlotWithoutAPresentDevice) {
   RecordingLog log;
   EXPECT_EQ(LookupSlotDevice(&log, 1987654321), "");
   EXPECT_EQ(log.entries, std::vector<LogEntry>{});

@@ -29,7 +29,7 @@ class DiffCommand : public testing::Test {
   std::ostringstream out_;
 };
 
-TEST_F(DiffCommand, GivesStatus0ForTheSameAnd1ForADifference) {
+TEST_F(DiffCommand, ReturnsStatus0ForEqualResultsAnd1ForADifference) {
   EXPECT_EQ(RunDiffCommand(Options(kEmpty, kEmpty), out_), 0);
   EXPECT_EQ(RunDiffCommand(Options(kEmpty, kOneDisk), out_), 1);
 }
@@ -96,7 +96,7 @@ TEST_F(DiffCommand, ShowsADiskThatWasReplacedInOneLine) {
   EXPECT_EQ(out_.str().find("replaced"), std::string::npos) << "a number that was not read before: " << out_.str();
 }
 
-TEST_F(DiffCommand, GivesProgramsBothSidesOfAFinding) {
+TEST_F(DiffCommand, WritesBothSidesOfAFindingForPrograms) {
   DiffOptions options = Options(kEmpty, kOneDisk);
   options.format = "json";
   RunDiffCommand(options, out_);
@@ -107,7 +107,7 @@ TEST_F(DiffCommand, GivesProgramsBothSidesOfAFinding) {
   EXPECT_EQ(json["findings"][0]["new"]["severity"], "unknown");
 }
 
-TEST_F(DiffCommand, IsInTroubleWhereTheOutputCannotBeWritten) {
+TEST_F(DiffCommand, FailsIfTheOutputCannotBeWritten) {
   out_.setstate(std::ios::badbit);
   try {
     RunDiffCommand(Options(kEmpty, kEmpty), out_);

@@ -96,11 +96,11 @@ TEST(FindingDiff, ReportsAMissingControllerWhoseDisksAreThere) {
   EXPECT_THAT(changes, ElementsAre(testing::StartsWith("- => critical Zentraxis1")));
 }
 
-TEST(FindingDiff, MissesNoControllerWhereNobodyAskedForControllers) {
+TEST(FindingDiff, ReportsNoMissingControllersIfTheyWereNotQueried) {
   EXPECT_THAT(Changes(Machine({Disk("d", "7", "Online")}), Machine({Disk("d", "7", "Online")})), IsEmpty());
 }
 
-TEST(FindingDiff, ComparesTheRunsOfTheToolsWhereBothResultsTellThem) {
+TEST(FindingDiff, ComparesTheRunsOfTheToolsIfBothResultsHaveThem) {
   JsonResult before = Machine({});
   JsonResult after = Machine({});
   after.runs = ToolRunList{Failed("exit status 5")};

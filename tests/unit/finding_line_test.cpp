@@ -28,7 +28,7 @@ TEST(FindingText, NamesAnObjectWithOneNameOnce) {
   EXPECT_EQ(SubjectText({Severity::kWarning, "", "", "the log", "", "", {}}), "the log");
 }
 
-TEST(FindingText, SendsNothingToTheTerminalThatIsNoText) {
+TEST(FindingText, SendsOnlyTextToTheTerminal) {
   const Finding finding{Severity::kUnknown, "", "i\x1b", "n\x07", "p\x1b", "a\nb\x1b", {"m"}};
   EXPECT_EQ(FindingText(finding), "unknown: n\\x07 [i\\x1b]: p\\x1b \"a\\nb\\x1b\": m");
 }

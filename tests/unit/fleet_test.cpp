@@ -77,7 +77,7 @@ TEST(Fleet, IsStaleFromTheFirstSecondPastTheDays) {
   EXPECT_FALSE(Fleet({10 * kDay, {}}).IsStale(machine)) << "nobody asked";
 }
 
-TEST(Fleet, IsNotKnownToBeFineWhereMachinesAreStaleOrFilesDamaged) {
+TEST(Fleet, IsUnknownIfMachinesAreStaleOrFilesDamaged) {
   Fleet fleet({10 * kDay, 7});
   EXPECT_EQ(WorstOf(fleet), Severity::kUnknown) << "no machine";
   fleet.Add(MachineOf("A", 9));
@@ -189,7 +189,7 @@ TEST(JudgedResult, IsJudgedAsTheMachineItself) {
   EXPECT_EQ(summary.machine.incidents.size(), judged.machine.incidents.size());
 }
 
-TEST(JudgedResult, IsNotKnownWhereNothingWasFound) {
+TEST(JudgedResult, IsUnknownIfNothingWasFound) {
   JsonResult nothing;
   nothing.machine = "M";
   EXPECT_EQ(StateOf(JudgeResult("f", nothing, {}, HealthClasses()).machine), Severity::kUnknown);
@@ -232,7 +232,7 @@ TEST(FleetPages, HaveNamesThatDifferOnEverySystem) {
   EXPECT_EQ(names.at("a:b"), "machine-a_b-2.html");
 }
 
-TEST(FleetPages, AreLinkedToFromWhereThePageIs) {
+TEST(FleetPages, AreLinkedFromTheFolderOfThePage) {
   EXPECT_EQ(LinkBetween("out", "out/pages"), "pages");
   EXPECT_EQ(LinkBetween("out", "all pages"), "../all%20pages");
   EXPECT_EQ(LinkBetween("", "pages"), "pages");
@@ -247,7 +247,7 @@ TEST(FleetPage, ShowsNamesAsTextOnly) {
   EXPECT_THAT(out.str(), HasSubstr("&lt;script&gt;alert(1)"));
 }
 
-TEST(FleetTable, SumsUpMachinesWithNothingWrongUnlessAllAreWanted) {
+TEST(FleetTable, SumsUpHealthyMachinesUnlessAllAreRequested) {
   Fleet fleet({10 * kDay, {}});
   for (int number = 100; number < 130; ++number) fleet.Add(MachineOf("M" + std::to_string(number), 9));
   fleet.Add(MachineOf("bad", 9, Severity::kCritical));

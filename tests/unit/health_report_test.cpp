@@ -53,7 +53,7 @@ TEST(HealthText, SumsUpInItsFirstLineAndHasEachIncidentWithItsAction) {
   EXPECT_TRUE(IsGolden("health.txt", Written(BrokenMachine(), "text")));
 }
 
-TEST(HealthText, HasEachFindingOnceBelowItsIncidentWhereItIsVerbose) {
+TEST(HealthText, HasEachFindingOnceBelowItsIncidentIfVerbose) {
   const HealthyMachine machine = BrokenMachine();
   const QueryHeader header = machine.Header();
   const QueryResult result = machine.Result();
@@ -85,7 +85,7 @@ TEST(HealthText, CountsOneOfAKindInTheSingular) {
   EXPECT_THAT(Written(machine, "text"), HasSubstr("(1 controller, 0 logical drives, 0 devices)"));
 }
 
-TEST(HealthText, LetsNothingThatAToolPrintsReachTheTerminal) {
+TEST(HealthText, EscapesTheTextsOfToolsForTheTerminal) {
   const std::string text = Written(HostileMachine(), "text");
   EXPECT_THAT(text, HasSubstr("\"a\"b\\c\\nd\\x1b[2J\xc3\xa4\" (RAID 5) is <b>"));
   EXPECT_EQ(text.find('\x1b'), text.npos);
@@ -101,7 +101,7 @@ TEST(HealthText, CutsALogEntryToItsBeginning) {
 
 TEST(HealthJson, HasTheAgreedForm) { EXPECT_TRUE(IsGolden("health.json", Written(BrokenMachine(), "json"))); }
 
-TEST(HealthJson, HasAnEmptyListWhereNothingIsWrong) {
+TEST(HealthJson, HasAnEmptyListWithoutFaults) {
   const auto json = nlohmann::json::parse(Written(HealthyMachine(), "json"));
   EXPECT_EQ(json["status"], "ok");
   EXPECT_TRUE(json["findings"].is_array());

@@ -44,7 +44,7 @@ HealthyMachine WithRun(const ToolRun& run) {
 
 TEST(Health, FindsNothingOnAHealthyMachine) { EXPECT_THAT(FindingsOf(HealthyMachine()), IsEmpty()); }
 
-TEST(Health, GivesEverythingThatThereIsToSayOfAFinding) {
+TEST(Health, ContainsEveryFactAboutAFinding) {
   HealthyMachine machine;
   machine.SetOf("Zentraxis2LD1", "LogicalDriveStatus", " Degraded \r\n");
   const Findings findings = BuildMachine(machine.Header(), machine.Result()).findings;
@@ -127,7 +127,7 @@ TEST(Health, FindsAControllerThatItsDrivesNameButThatIsNotThere) {
   EXPECT_THAT(FindingsOf(machine), ElementsAre("critical: Zentraxis2, ControllerNum \"\""));
 }
 
-TEST(Health, MissesNoControllerWhereNoneWasAskedFor) {
+TEST(Health, ReportsNoMissingControllerIfNoneWasQueried) {
   HealthyMachine machine;
   machine.Remove(kController);
   QueryHeader header = machine.Header();
@@ -155,7 +155,7 @@ TEST(Health, ReportsTheFailuresOfTheTools) {
   for (const Case& each : cases) EXPECT_THAT(FindingsOf(WithRun(each.run)), ElementsAre(each.finding));
 }
 
-TEST(Health, IsUnknownWhereNoToolCanBeRun) {
+TEST(Health, IsUnknownIfNoToolCanBeRun) {
   HealthyMachine machine;
   machine.devices.clear();
   machine.runs.clear();
@@ -167,7 +167,7 @@ TEST(Health, IsUnknownWhereNoToolCanBeRun) {
   EXPECT_EQ(WorstOf(findings), Severity::kUnknown);
 }
 
-TEST(Health, IsUnknownWhereNoToolIsInstalled) {
+TEST(Health, IsUnknownIfNoToolIsInstalled) {
   HealthyMachine machine;
   machine.devices.clear();
   machine.runs = {RunOf("qcmdrun", {"getconfig", "1", "al"}, Outcome::kNotInstalled, "no such file"),
@@ -176,7 +176,7 @@ TEST(Health, IsUnknownWhereNoToolIsInstalled) {
               ElementsAre("unknown: collection, controllers \"found no utility: not installed are qcmdrun, arcconf\""));
 }
 
-TEST(Health, MissesAUtilityThatIsNotInstalledOnlyWhereItIsExpectedOrWasThere) {
+TEST(Health, ReportsAMissingUtilityOnlyIfItIsExpectedOrWasInstalled) {
   HealthyMachine machine = WithoutRunsOf("hrconf_64");
   machine.runs.push_back(RunOf("hrconf_64", {"getconfig", "1", "al"}, Outcome::kNotInstalled, "no such file"));
   EXPECT_THAT(FindingsOf(machine), IsEmpty());
@@ -196,7 +196,7 @@ TEST(Health, MissesAnExpectedUtilityThatWasNotRun) {
   EXPECT_EQ(Brief(findings[0]), "unknown: hrconf_64, outcome \"not asked: it was not run\"");
 }
 
-TEST(Health, IsUnknownWhereNoToolWasRunAtAll) {
+TEST(Health, IsUnknownIfNoToolWasRun) {
   HealthyMachine machine;
   machine.devices.clear();
   machine.runs.clear();
@@ -211,7 +211,7 @@ TEST(Health, OfALaterQueryNeedsNoRun) {
   EXPECT_TRUE(BuildMachine(machine.Header(), result).findings.empty());
 }
 
-TEST(Health, IsUnknownWhereAControllerAnsweredThatIsNotPublished) {
+TEST(Health, IsUnknownIfAControllerAnsweredThatIsNotPublished) {
   const HealthyMachine machine = WithRun(RunOf("arcconf", {"getconfig", "2", "al"}, Outcome::kOk));
   EXPECT_THAT(FindingsOf(machine),
               ElementsAre("unknown: collection, controllers \"3 controllers answered, 2 are known\""));

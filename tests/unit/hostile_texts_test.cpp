@@ -222,7 +222,7 @@ void ExpectLinesForPeople(const std::string& written, const std::string& text,
   EXPECT_THAT(written, testing::HasSubstr(printable.substr(0, 12)));
 }
 
-TEST(HostileTexts, AreLinesForPeopleWhereverPeopleReadThem) {
+TEST(HostileTexts, AreSafeLinesInEveryFormatForPeople) {
   struct Output {
     const char* name;
     std::string (*Write)(const std::string& text);

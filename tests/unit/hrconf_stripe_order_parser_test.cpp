@@ -44,13 +44,13 @@ TEST(HrconfStripeOrderParser, JoinsAListOfSeveralLinesWithSingleBlanks) {
   }
 }
 
-TEST(HrconfStripeOrderParser, TakesOnlyTheFollowingLinesWhereNoChannelsAndDevicesAreListed) {
+TEST(HrconfStripeOrderParser, TakesOnlyTheFollowingLinesIfNoChannelsAndDevicesAreListed) {
   EXPECT_EQ(Parse("Stripe order : 0,0\n   0,1\n").fields, Order(" 0,1\r\n"));
   EXPECT_EQ(Parse("Stripe order : 0,0\n").fields,
             (std::set<std::string>{"ControllerNum=5", "CollectionID=ZentraxisCntrlr5LogicalDrv2"}));
 }
 
-TEST(HrconfStripeOrderParser, IsCompleteAsFarAsItWasReadWhereTheTextEnds) {
+TEST(HrconfStripeOrderParser, KeepsTheLinesBeforeTheEndOfTheText) {
   CollectedData text(nullptr, "Stripe order (Channel,Device) : 0,0\r\n   0,1\r\n   0,");
   ArrayStripeOrder order(nullptr);
   hrconf::ParseStripeOrder(order, text, "5", "2");

@@ -54,7 +54,7 @@ TEST(HrconfVersionParser, LeavesAVersionOnAnotherLineEmpty) {
   }
 }
 
-TEST(HrconfVersionParser, LeavesBothVersionsEmptyWhereNoControllersAreFound) {
+TEST(HrconfVersionParser, LeavesBothVersionsEmptyIfNoControllersAreFound) {
   const Versions versions = Parse("Controllers found: 0                           \n2\n3\n4\nBIOS : b\nDriver : d\n");
   EXPECT_EQ(versions.bios, "");
   EXPECT_EQ(versions.driver, "");

@@ -52,7 +52,7 @@ QueryResult HostileResult() {
   return {1, repository.Instances(), {{3, std::string(kHostile)}}};
 }
 
-TEST(HtmlView, HoldsTheJsonOfTheQuery) {
+TEST(HtmlView, ContainsTheJsonOfTheQuery) {
   const QueryHeader header{"MACHINE", "/tools", {}, {"KVRSG_zxRawData"}, 1};
   const QueryResult result = HostileResult();
   const std::string page = Page(header, {result});

@@ -56,7 +56,7 @@ TEST_F(Instance, NamesItselfByTheDeclaredKeysHoweverTheyWereSpelledWhenSet) {
             "SystemName=\"SERVER\"");
 }
 
-TEST_F(Instance, BelongsToTheMachineOfItsRepositoryWhereNoPropertyNamesOne) {
+TEST_F(Instance, BelongsToTheMachineOfItsRepositoryUnlessAPropertyNamesOne) {
   repository = TRepository::Make({}, "SERVER");
   const auto group = New("KVRSG_zxDiskGroup");
   group->SetProperty("CollectionID", "A", {});
@@ -81,11 +81,11 @@ TEST_F(Instance, LeavesAKeyWithoutAValueOutOfItsName) {
   EXPECT_EQ(Path(*New("KVRSG_zxLogicalDisk")), "KVRSG_zxLogicalDisk");
 }
 
-TEST_F(Instance, GivesAPropertyThatWasNeverSetAsAnEmptyValue) {
+TEST_F(Instance, ReturnsAnEmptyValueForAPropertyThatWasNeverSet) {
   EXPECT_EQ(TCIMValueReader::Kind(disk->GetProperty("Size", {})->GetValue({})), ValueKind::kNone);
 }
 
-TEST_F(Instance, GivesThePropertyAsItWasWhenAskedForWithoutRegardToCase) {
+TEST_F(Instance, ReturnsTheValueAtTheTimeOfTheCallWithoutRegardToCase) {
   disk->SetProperty("Size", "1", {});
   const auto size = disk->GetProperty("SIZE", {});
   disk->SetProperty("Size", "2", {});
@@ -99,13 +99,13 @@ TEST_F(Instance, RefusesPropertiesThatItsClassDoesNotDeclare) {
   EXPECT_THAT([&] { disk->GetProperty("Colour", {}); }, ThrowsMessage<THXAException>(names));
 }
 
-TEST_F(Instance, RefusesAValueOfAnotherTypeAndStaysAsItWas) {
+TEST_F(Instance, RefusesAValueOfAnotherTypeAndDoesNotChange) {
   EXPECT_THAT([&] { disk->SetProperty("size", 5U, {}); },
               ThrowsMessage<THXAException>("\"KVRSG_zxLogicalDisk.Size\" is string, which the value set is not."));
   EXPECT_THAT(Committed(*disk), ElementsAre());
 }
 
-TEST_F(Instance, StaysAsItWasCommitted) {
+TEST_F(Instance, DoesNotChangeAfterTheCommit) {
   disk->SetProperty("DeviceID", "1", {});
   disk->Commit({});
   EXPECT_THROW(disk->SetProperty("DeviceID", "2", {}), THXAException);

@@ -57,7 +57,7 @@ TEST(JsonResult, HasTheLogsAndTheRunsOfAllQueries) {
   EXPECT_EQ(result.runs->front().failure, "why");
 }
 
-TEST(JsonResult, HasNoRunsWhereAQueryWasWrittenWithoutThem) {
+TEST(JsonResult, HasNoRunsIfAQueryWasWrittenWithoutThem) {
   const TemporaryFolder folder;
   EXPECT_FALSE(ReadJsonResult(folder.Write("r.json", kWhole)).runs.has_value());
 }

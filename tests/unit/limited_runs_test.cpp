@@ -74,7 +74,7 @@ TEST_F(LimitedRunsTest, UseTheLimitOfThePluginOrOfTheOptions) {
   EXPECT_THAT(allowed_, ElementsAre(kAllowed, 20));
 }
 
-TEST_F(LimitedRunsTest, AskNothingMoreAboutAControllerAfterARunMetItsLimit) {
+TEST_F(LimitedRunsTest, RunNoMoreCommandsForAControllerAfterATimeout) {
   LimitedRuns runs = Make({});
   hanging_ = {"arcconf getconfig 1 al"};
   EXPECT_EQ(Ask(runs, "arcconf", {"getconfig", "1", "al"}), "arcconf getconfig 1 al hangs");
@@ -87,7 +87,7 @@ TEST_F(LimitedRunsTest, AskNothingMoreAboutAControllerAfterARunMetItsLimit) {
   EXPECT_EQ(runs_[1].failure, "getconfig 1 al was not answered");
 }
 
-TEST_F(LimitedRunsTest, AskNothingMoreOfAUtilityAfterTwoRunsMetTheirLimit) {
+TEST_F(LimitedRunsTest, RunAUtilityNoMoreAfterTwoTimeouts) {
   LimitedRuns runs = Make({});
   hanging_ = {"arcconf getconfig 1 al", "arcconf getlogs 2 uart"};
   Ask(runs, "arcconf", {"getconfig", "1", "al"});
@@ -109,7 +109,7 @@ TEST_F(LimitedRunsTest, GiveTheLastRunTheRemainingTimeAndStartNoneAfterIt) {
   EXPECT_THAT(Outcomes(), ElementsAre("ok", "ok", "not asked"));
 }
 
-TEST_F(LimitedRunsTest, AskNothingMoreAfterAllRunsTogetherWroteTooMuch) {
+TEST_F(LimitedRunsTest, RunNothingMoreAfterTooMuchOutput) {
   RunLimits limits;
   limits.outputBytes = kMebibyte;
   answer_.assign(kMebibyte / 2, 'x');
@@ -120,7 +120,7 @@ TEST_F(LimitedRunsTest, AskNothingMoreAfterAllRunsTogetherWroteTooMuch) {
   EXPECT_THAT(Outcomes(), ElementsAre("ok", "cut off", "not asked"));
 }
 
-TEST_F(LimitedRunsTest, AskEachCommandOnceWhereThatIsAskedFor) {
+TEST_F(LimitedRunsTest, RunEachCommandOnceOnRequest) {
   RunLimits limits;
   limits.asksOnce = true;
   LimitedRuns runs = Make(limits);

@@ -78,7 +78,7 @@ TEST(Machine, SeparatesTheControllersOfTwoToolsWithOneNumber) {
 }
 
 // Counts contain only the number of their controller.
-TEST(Machine, GivesCountsToTheLegacyUtilitysControllerWhereTwoShareItsNumber) {
+TEST(Machine, AssignsCountsToTheLegacyUtilitysControllerIfTwoShareItsNumber) {
   FilledRepository repository;
   repository.Publish(kLogicalDisk, "ControllerNum", "3", "LogicalDriveNum", "1", "PartOfArray", "A");
   repository.Publish(kLogicalDisk, "ControllerNum", "3", "LogicalDriveNum", "1", "NumOfChunks", "2");
@@ -177,7 +177,7 @@ TEST(Machine, WarnsOfARebuildOnDrivesThatAreNotGuarded) {
   EXPECT_EQ(LevelOfRebuild("3", "Channel", "0", "ScsiId", "1"), Level::kBusy) << "of another controller";
 }
 
-TEST(Machine, GivesAnObjectItsFindingsAndTheWorstLevelOfAll) {
+TEST(Machine, AssignsFindingsToTheirObjectsWithTheWorstLevel) {
   HealthyMachine broken;
   broken.SetOf("C1 CH1 I01:B", "PFA", "Yes");
   broken.SetOf("Zentraxis2", "DefunctDiskDriveCnt", "1");

@@ -50,7 +50,7 @@ TEST(MaskPlaces, AreTheValuesOfTheLabelsThatAreSecret) {
   for (const Case& each : cases) EXPECT_EQ(Secrets(each.text), each.secrets) << each.name;
 }
 
-TEST(MaskPlaces, AreThePartNumbersOfFrusWhereAllIsAskedFor) {
+TEST(MaskPlaces, IncludeThePartNumbersOfFrusOnRequest) {
   for (const std::string label : {"FRU and part number", "Controller FRU#", "Battery FRU#"}) {
     const std::string line = "   " + label + " : 61K4431\r\n";
     EXPECT_THAT(Secrets(line), IsEmpty());

@@ -34,7 +34,7 @@ TEST(MofString, EscapesCharactersWithAMeaningInMofAndUnsafeOnes) {
   for (const Case& each : cases) EXPECT_EQ(MofText(each.text), each.expected) << each.name;
 }
 
-TEST(MofString, IsSeveralStringsWhereItIsLong) {
+TEST(MofString, IsSeveralStringsIfItIsLong) {
   EXPECT_EQ(MofText(std::string(1000, 'x'), "  "), '"' + std::string(1000, 'x') + '"');
   EXPECT_EQ(MofText(std::string(2500, 'x'), "  "), '"' + std::string(1000, 'x') + "\"\n  \"" + std::string(1000, 'x') +
                                                        "\"\n  \"" + std::string(500, 'x') + '"');

@@ -132,7 +132,7 @@ TEST(MofView, NamesOmittedInstancesInComments) {
                                        "KVRSG_zxDiskGroup.CollectionID=\"a\\n};\","));
 }
 
-TEST(MofView, DeclaresTheClassesBeforeTheInstancesWhereSuperclassesAreAskedFor) {
+TEST(MofView, DeclaresTheClassesBeforeTheInstancesWithSuperclasses) {
   QueryHeader header;
   header.withSuperclasses = true;
   std::ostringstream out;

@@ -11,7 +11,7 @@ TCIMReference To(const std::string& className, const TPropertyMap& keys) {
   return TCIMReferenceFactory::Make(nullptr, className, keys);
 }
 
-TEST(ObjectPath, IsThatOfTheReferenceWhereEverythingIsUtf8) {
+TEST(ObjectPath, IsThatOfTheReferenceIfAllTextsAreUtf8) {
   const TPropertyMap keys = {
       {"Name",  "K\xc3\xa4se \"x\""                      },
       {"State", static_cast<unsigned short>(3)           },

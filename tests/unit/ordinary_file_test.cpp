@@ -18,7 +18,7 @@ TEST(OrdinaryFile, HasAtMostSoManyBytes) {
             "it is larger than 1 MiB");
 }
 
-TEST(OrdinaryFile, IsNoFolderAndNothingThatIsNotThere) {
+TEST(OrdinaryFile, IsNeitherAFolderNorAMissingFile) {
   const TemporaryFolder folder;
   const OrdinaryFile opened = OpenOrdinaryFile(folder.Path(), "rb", kLargestInput);
   EXPECT_FALSE(opened.stream);

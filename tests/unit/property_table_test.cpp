@@ -51,7 +51,7 @@ TEST(PropertyTable, PublishesEachKindOfSourceInRowOrderAndTrimsOnlyFields) {
   }));
 }
 
-TEST(PropertyTable, PublishesFieldsAsHeldWhereThatIsAskedFor) {
+TEST(PropertyTable, PublishesUntrimmedFieldsOnRequest) {
   FakeNamespace nameSpace;
   PublishAsHeld(*nameSpace.GetClass("Class", {}), kRows, kOwner, kPart);
   EXPECT_EQ(nameSpace.Published("Class").at(0).at(2), "OfOwner = \" owner\r\n\"");

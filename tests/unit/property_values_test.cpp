@@ -30,7 +30,7 @@ TEST(PropertyValues, ShowsEveryKindOfValue) {
   EXPECT_THAT(ShownText(*instances[4], "Dependent"), testing::StartsWith("KVRSG_zxDiskGroup.CollectionID=\"G1\","));
 }
 
-TEST(PropertyValues, ShowsATimeThatHasNoSuchFormAsItIs) {
+TEST(PropertyValues, ShowsATimeOfAnotherFormUnchanged) {
   EXPECT_EQ(ReadableTime("20261121070000.000000+000"), "2026-11-21 07:00:00 +00:00");
   EXPECT_EQ(ReadableTime("20260021070000.000000+840"), "2026-00-21 07:00:00 +14:00");
   EXPECT_EQ(ReadableTime("2026112107000000.000000+000"), "2026112107000000.000000+000");

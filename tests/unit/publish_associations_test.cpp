@@ -93,7 +93,7 @@ TEST(PublishAssociations, DiskDrivesOfAnyTypeAreLinkedToTheirController) {
   EXPECT_EQ(Associations(host, PublishControllerToDiskDrives).size(), 4U);
 }
 
-TEST(PublishAssociations, AnEndWithoutInstancesGivesNoAssociationAndNoMessage) {
+TEST(PublishAssociations, AnEndWithoutInstancesHasNoAssociationAndNoMessage) {
   for (const PublishRoutine routine :
        {PublishControllerToLogicalDisks, PublishControllerToDiskDrives, PublishControllerToDiskGroups,
         PublishControllerToFirmware, PublishControllerToBootBlock, PublishControllerToBios, PublishDiskDriveToFirmware,
@@ -131,7 +131,7 @@ TEST(PublishAssociations, TheFirmwareOfADriveHangsOnItsIdentifierAndItsType) {
   }
 }
 
-TEST(PublishAssociations, TheStatisticsOfADriveHangOnControllerChannelAndTargetAndItsType) {
+TEST(PublishAssociations, TheStatisticsOfADriveAreLinkedByControllerChannelTargetAndType) {
   constexpr std::pair<const char*, bool> kCases[] = {
       {"Hard disk",        true },
       {"a Hard drive",     true },

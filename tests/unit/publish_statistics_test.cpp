@@ -75,7 +75,7 @@ TEST(PublishStatistics, ACountOtherThanTheText0CountsAsBad) {
   }
 }
 
-TEST(PublishStatistics, AControllerWithoutBadStripesGets0ForEachOfItsLogicalDisksAndOneWithThemGetsNone) {
+TEST(PublishStatistics, OnlyAControllerWithoutBadStripesPublishes0ForEachLogicalDisk) {
   Publishing host;
   host.AddController("1");
   AddBadStripes(host.AddController("2"), "1", "0");

@@ -46,7 +46,7 @@ TEST(PublishVersions, EachClassReadsItsOwnText) {
   EXPECT_EQ(host.nameSpace.Published(kBios), Instances{Version("Zentraxis1 BIOS", "B (3)", "3", "1")});
 }
 
-TEST(PublishVersions, AnOpeningParenthesisWithoutAClosingOneGivesTheWholeTextAsBuildNumber) {
+TEST(PublishVersions, AnOpeningParenthesisWithoutAClosingOneMakesTheWholeTextTheBuildNumber) {
   Publishing host;
   ZenxController& controller = host.AddController("1");
   controller.BiosVersion = "1.0 (abc\r\n";
@@ -60,7 +60,7 @@ TEST(PublishVersions, AnOpeningParenthesisWithoutAClosingOneGivesTheWholeTextAsB
             Instances{Version("Unknown ", "1.0 (abc", "1.0 (abc", "1-C1 CH0 I00:")});
 }
 
-TEST(PublishVersions, ATextOfBlanksAndLineEndsIsNoVersion) {
+TEST(PublishVersions, ATextOfBlanksAndLineEndsIsNotAVersion) {
   for (const char* const text : {"", " ", "\r\n", " \t\r\n"}) {
     Publishing host;
     ZenxController& controller = host.AddController("1");

@@ -38,7 +38,7 @@ TEST(QcmdrunControllerParser, DropsTheBlankAfterTheColonAndTheCarriageReturn) {
   EXPECT_EQ(Parsed("Controller information\r\nController name :  DB SERVER \r\n").ControllerName, " DB SERVER ");
 }
 
-TEST(QcmdrunControllerParser, GivesAnEmptyValueForALabelWithNothingAfterItsColon) {
+TEST(QcmdrunControllerParser, ReturnsAnEmptyValueForALabelWithoutTextAfterItsColon) {
   EXPECT_EQ(Parsed("Controller information\r\nPart number :\r\nController name : A\r\n").PartNum, "");
 }
 

@@ -64,7 +64,7 @@ TEST(QcmdrunLogicalDriveParser, LosesEveryLineAfterAMissingOneThatIsNotOptional)
   }
 }
 
-TEST(QcmdrunLogicalDriveParser, FailsWhereTheTextEndsInsideTheBlock) {
+TEST(QcmdrunLogicalDriveParser, FailsIfTheTextEndsInsideTheBlock) {
   for (std::size_t count = 0; count < std::size(kLogicalDrive) - 1; ++count) {
     CollectedData text(nullptr, "Logical drive number 7\r\n" + LabelLines(kLogicalDrive, count));
     ZenxLogicalDevice drive(nullptr);

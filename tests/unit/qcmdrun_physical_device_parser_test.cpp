@@ -65,7 +65,7 @@ TEST(QcmdrunPhysicalDeviceParser, CutsModelCodeFirmwareAndSerialNumberOutOfAHard
 }
 
 // Blank and line end count: the length is that of the untrimmed value.
-TEST(QcmdrunPhysicalDeviceParser, GivesAHardDiskWithAnIdentifierOf27CharactersOnlyItsModel) {
+TEST(QcmdrunPhysicalDeviceParser, ReadsOnlyTheModelFromAnIdentifierOf27Characters) {
   const ZenxPhysicalDevice device = WithIdentifier("Hard disk", " TALVERA T36LW10 S96H8B012");
   ASSERT_EQ(device.DeviceIdSuffix.size(), 27u);
   EXPECT_EQ(device.Model, " TALVERA T36LW10");
@@ -95,7 +95,7 @@ TEST(QcmdrunPhysicalDeviceParser, ClearsTheFirmwareOfATapeThatIsAHardDiskWithASh
   EXPECT_EQ(device.DeviceSerialNum, "");
 }
 
-TEST(QcmdrunPhysicalDeviceParser, TakesFourCharactersBeforeTheLineEndForATapesFirmwareAndLogsThem) {
+TEST(QcmdrunPhysicalDeviceParser, TakesATapesFirmwareFromTheLastFourCharactersAndLogsIt) {
   RecordingLog log;
   const ZenxPhysicalDevice device = WithIdentifier("Tape", " ORBITEK DAT72LP  A119\r", &log);
   EXPECT_EQ(device.Model, " ORBITEK DAT72LP  A119\r\n");
@@ -133,7 +133,7 @@ TEST(QcmdrunPhysicalDeviceParser, CutsNothingOutOfTheIdentifierOfOtherDevices) {
   EXPECT_EQ(device.DeviceSerialNum, "");
 }
 
-TEST(QcmdrunPhysicalDeviceParser, FailsWhereTheTextEndsInsideTheBlock) {
+TEST(QcmdrunPhysicalDeviceParser, FailsIfTheTextEndsInsideTheBlock) {
   for (std::size_t count = 0; count <= std::size(qcmdrun::kDevice); ++count) {
     CollectedData text(nullptr, "Target\r\nDevice is a Changer\r\n" + LabelLines(qcmdrun::kDevice, count));
     ZenxPhysicalDevice device(nullptr);

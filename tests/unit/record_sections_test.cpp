@@ -38,7 +38,7 @@ TEST(RecordSections, NamePropertiesThatOneOfTheirClassesDeclares) {
   }
 }
 
-TEST(RecordSections, AndControllerBlocksShowEveryClassButThoseThatAreOnlyCounted) {
+TEST(RecordSections, AndControllerBlocksShowEveryClassExceptThoseThatAreOnlyCounted) {
   std::multiset<std::string_view> shown;
   for (const DeviceKind& kind : DeviceKinds()) shown.insert(kind.className);
   for (const RecordSection& section : RecordSections()) shown.insert(section.classes.begin(), section.classes.end());

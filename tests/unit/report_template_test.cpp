@@ -32,7 +32,7 @@ TEST(ReportTemplate, IsAWholePageWithOnePlaceForEachKindOfData) {
   EXPECT_LT(page.find("@REPORT_DATA@"), page.find("@PROOF_DATA@"));
 }
 
-TEST(ReportTemplate, HoldsItsStyleAndItsScript) {
+TEST(ReportTemplate, ContainsItsStyleAndItsScript) {
   const std::string page(ReportTemplate());
   EXPECT_THAT(page, HasSubstr("<style>:root {"));
   EXPECT_THAT(page, HasSubstr("<script>\"use strict\";\n"));

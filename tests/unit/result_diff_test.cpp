@@ -113,7 +113,7 @@ TEST(ResultDiff, IgnoresSerialNumbersThatAreEmptyOrOccurTwice) {
   EXPECT_EQ(Changes(Result({Disk("a", "7")}), Result({Disk("b", "7"), Disk("c", "7")})).size(), 3U);
 }
 
-TEST(ResultDiff, ShowsAnUpdateOfFirmwareAsAChangeAlthoughThePathHasTheVersion) {
+TEST(ResultDiff, ShowsAnUpdateOfFirmwareAsAChangeAlthoughItsPathChanged) {
   const auto firmware = [](const std::string& version) {
     return Instance("KVRSG_zxFirmwareVersion", "F" + version, "Name", "Zentraxis1 Firmware", "Version", version,
                     "SoftwareElementID", "1");

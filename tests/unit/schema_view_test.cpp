@@ -83,7 +83,7 @@ TEST(SchemaView, NamesTheNamespaceFirst) {
   }
 }
 
-TEST(SchemaView, DerivesTheClassesOnRequestAndLeavesOutTheQualifiersThatTheSuperclassesBring) {
+TEST(SchemaView, DerivesTheClassesOnRequestWithoutTheQualifiersOfTheSuperclasses) {
   std::ostringstream out;
   WriteSchemaMof(out, ExportedClasses(), true);
   const std::string mof = out.str();

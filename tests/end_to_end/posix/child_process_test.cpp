@@ -85,7 +85,7 @@ class Unending {
   ~Unending() { endingSignal = SIGKILL; }
 };
 
-TEST(ChildProcess, ThatCannotBeEndedIsNamedAndItsProgramNotStartedAgainUntilItIsGone) {
+TEST(ChildProcess, ThatCannotBeEndedIsNamedAndItsProgramIsNotStartedAgainBeforeItEnds) {
   const TemporaryFolder folder;
   const std::filesystem::path program = folder.Path() / "test_child.exe";
   std::filesystem::copy(ChildPath(), program);

@@ -45,7 +45,7 @@ constexpr Trap kTraps[] = {
     {"a folder",                    [](const fs::path& path) { fs::create_directory(path); }           },
 };
 
-TEST(InputFiles, ARaidManagersLogThatIsNoFileIsNamedAndTheRestIsShown) {
+TEST(InputFiles, ARaidManagersLogThatIsNotAFileIsNamedAndTheRestIsShown) {
   const RaidLogSetting setting("raid-manager\\");
   for (const Trap& trap : kTraps) {
     const MachineCopy machine;

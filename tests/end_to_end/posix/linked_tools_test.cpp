@@ -35,7 +35,7 @@ class LinkedTools : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(LinkedTools, AreSafeWhereNobodyElseMayExchangeThem) {
+TEST_F(LinkedTools, AreSafeIfOthersCannotReplaceThem) {
   Write("elsewhere/tools/arcconf");
   Link(In("elsewhere/tools/arcconf"));
   ExpectNoWarning();
@@ -74,7 +74,7 @@ TEST_F(LinkedTools, ThatDoNotExistYetMayBeCreatedByOthers) {
 }
 
 // In such a folder, like /tmp, nobody can replace the entries of others.
-TEST_F(LinkedTools, BelowAFolderForAllAreSafeWhereOnlyOwnersMayReplace) {
+TEST_F(LinkedTools, BelowAStickyFolderAreSafe) {
   Write("elsewhere/tools/arcconf");
   Link(In("elsewhere/tools/arcconf"));
   fs::permissions(In("elsewhere"), fs::perms::all | fs::perms::sticky_bit);

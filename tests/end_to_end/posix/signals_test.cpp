@@ -35,7 +35,7 @@ class CrashingMachine {
   TemporaryFolder folder_;
 };
 
-TEST(Signals, CrashesAreSeenWhereTheParentIgnoresTheEndsOfItsChildren) {
+TEST(Signals, CrashesAreReportedIfTheParentIgnoresTheEndsOfItsChildren) {
   const CrashingMachine machine;
   std::signal(SIGCHLD, SIG_IGN);
   RunningProgram program(HxahostPath(), {"query", "--format", "json", "--runs", "--directory", machine.Path()});
@@ -47,7 +47,7 @@ TEST(Signals, CrashesAreSeenWhereTheParentIgnoresTheEndsOfItsChildren) {
 }
 
 // The bundle contains the output of the utilities even if nobody reads the result.
-TEST(Signals, ABundleIsSavedWhereNobodyReadsStandardOutput) {
+TEST(Signals, ABundleIsSavedIfNobodyReadsStandardOutput) {
   const TemporaryFolder folder;
   const fs::path bundle = folder.Path() / "kept.bundle";
   const std::string query = HxahostPath().string() + " query --format json --replay " + RecordedSampleMachine() +

@@ -106,20 +106,20 @@ TEST(Terminal, IsFilledByTheTablesAndNeverLeft) {
   }
 }
 
-TEST(Terminal, GivesWayToColumnsAndToTheOption) {
+TEST(Terminal, YieldsToTheVariableColumnsAndToTheOption) {
   EXPECT_LE(WidestLine(Tables(200, {"COLUMNS=80"})), 80U);
   EXPECT_LE(WidestLine(Tables(200, {"COLUMNS=90"}, {"--width", "70"})), 70U);
   EXPECT_GT(WidestLine(Tables(80, {"COLUMNS=none"})), 60U);
 }
 
-TEST(Terminal, HasNoColourWhereAPersonWantsNone) {
+TEST(Terminal, HasNoColourOnRequest) {
   EXPECT_THAT(Tables(100, {"NO_COLOR=1"}), Not(HasSubstr("\x1b")));
   EXPECT_THAT(Tables(100, {"TERM=dumb"}), Not(HasSubstr("\x1b")));
   EXPECT_THAT(Tables(100, {}, {"--color", "never"}), Not(HasSubstr("\x1b")));
   EXPECT_THAT(Tables(100, {"NO_COLOR=1"}, {"--color", "always"}), HasSubstr("\x1b"));
 }
 
-TEST(Terminal, ShowsAsciiWhereItsLocaleHasNothingElse) {
+TEST(Terminal, ShowsAsciiInALocaleWithoutUtf8) {
   const std::string shown = Tables(80, {"LC_ALL=C"});
   EXPECT_THAT(shown, HasSubstr("~"));
   for (const char character : shown) ASSERT_LT(static_cast<unsigned char>(character), 0x80U) << shown;
@@ -158,7 +158,7 @@ std::vector<std::string> Screen(const std::string& shown) {
   return lines;
 }
 
-TEST(Terminal, HasNothingOfTheProgressLeftBesideTheTables) {
+TEST(Terminal, ShowsNoRestOfTheProgressBesideTheTables) {
   const std::string machine = hxahost::Utf8FromPath(SampleMachine());
   const std::vector<std::string> fixed = {"query",   "--directory",       machine,
                                           "--class", "KVRSG_zxDiskGroup", "--machine-name",

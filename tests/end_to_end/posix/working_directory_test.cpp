@@ -66,7 +66,7 @@ TEST(WorkingDirectory, ThatGoesWhileToolsRunEndsInToolsThatCannotBeStarted) {
 }
 
 // Root may write everywhere: the capabilities for that are removed before the program starts.
-TEST(WorkingDirectory, ThatNobodyMayWriteToIsEnough) {
+TEST(WorkingDirectory, ThatIsReadOnlyIsEnough) {
   const MachineCopy machine;
   const std::string expected = GoodResult(machine);
   const std::string take = geteuid() == 0 ? "setpriv --bounding-set=-dac_override,-dac_read_search " : "";

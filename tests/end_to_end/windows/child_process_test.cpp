@@ -23,7 +23,7 @@ std::wstring NameOf(HANDLE pipe) {
 }
 
 // If another process could open the pipe again, anybody who knows its name could.
-TEST(ChildProcess, HasAPipeThatNobodyElseCanForeseeOrOpen) {
+TEST(ChildProcess, HasAPipeThatOthersCannotPredictOrOpen) {
   ChildProcess one = StartProcess(ChildPath(), {"sleep", "300"});
   ChildProcess other = StartProcess(ChildPath(), {"sleep", "300"});
   const std::wstring name = NameOf(one.output.get());

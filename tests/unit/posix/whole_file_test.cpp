@@ -27,7 +27,7 @@ TEST(WholeFile, ContainsTheBytesOfTheFile) {
   }
 }
 
-TEST(WholeFile, IsNotThereWhereTheSystemFailsToReadIt) {
+TEST(WholeFile, IsEmptyIfTheSystemFailsToReadIt) {
   const TemporaryFolder folder;
   for (const std::filesystem::path& path : {std::filesystem::path(kBroken), folder.Path(), folder.Path() / "none"}) {
     const NKVRHXA20::WholeFile read = ReadWholeFile(path);
