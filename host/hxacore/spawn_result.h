@@ -13,7 +13,7 @@ namespace NKVRHXA20 {
 // The ending of a program whose exit status was collected elsewhere.
 inline constexpr const char* kUnknownEnding = "unknown";
 
-// The result of a program that ended by itself.
+// The result of a program that was run to its end.
 struct SpawnResult {
   SpawnResult() = default;
   // A text is a result, too: scripts and recordings need no more.

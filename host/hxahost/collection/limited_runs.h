@@ -16,7 +16,7 @@ namespace hxahost {
 using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
 // The runs of one collection: limited in time and output, and each command once if the options require it. A plug-in
-// repeats requests after any failure; requests without a chance are not run any more.
+// repeats requests after any failure; requests that would fail again are not run any more.
 class LimitedRuns {
  public:
   // Adds every request to the list, which must outlive this.

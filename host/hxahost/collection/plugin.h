@@ -13,7 +13,8 @@
 
 namespace hxahost {
 
-// A plug-in, from loading to release. Its library stays loaded, because threads that it keeps may still run.
+// A plug-in, from loading to release. Its library stays loaded, because code that it keeps for the process may still
+// run.
 class Plugin {
  public:
   // The absolute path of the file. Throws ProgramError if it cannot be loaded or registers nothing to query.

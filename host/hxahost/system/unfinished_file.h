@@ -17,7 +17,7 @@ class UnfinishedFile {
   UnfinishedFile(const UnfinishedFile&) = delete;
   UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
-  // The buffer to write to; null: the folder does not permit it.
+  // The buffer to write to; null: it cannot be written in that folder.
   std::streambuf* Buffer() const { return buffer_.get(); }
 
   // Why there is no buffer, in the system's words; "" if it reports no reason.

@@ -18,7 +18,7 @@ class Progress {
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  // Shows this command from now on. expected: the number of commands known so far; 0: unknown.
+  // Shows this command from now on. expected: the total number of commands, as far as it is known; 0: unknown.
   void Begin(const std::string& what, std::size_t expected = 0);
   // Nothing runs. The line stays until the next command begins, so that it does not flicker.
   void End();
