@@ -51,7 +51,7 @@ class Collection {
   std::optional<MaskScope> mask_;
   std::optional<BundleReplay> replay_;
   std::optional<std::uint16_t> osType_;
-  std::optional<OutputFile> recordFile_;  // none where it goes to standard output
+  std::optional<OutputFile> recordFile_;  // empty for standard output
   std::unique_ptr<BundleRecorder> recorder_;
   QueryLog log_;
   ToolRunList runs_;

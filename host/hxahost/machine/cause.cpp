@@ -106,7 +106,7 @@ class Subjects {
   std::unordered_map<std::string, Subject> names_;    // by the numbers in counters
 };
 
-// The logical drives and devices of a controller, joined where they have one cause. A node is a drive; devices follow
+// The logical drives and devices of a controller, joined if they have one cause. A node is a drive; devices follow
 // the drives.
 class Joints {
  public:

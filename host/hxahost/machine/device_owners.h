@@ -11,7 +11,7 @@ namespace hxahost {
 // The controller that an instance belongs to.
 struct DeviceOwner {
   std::string number;
-  std::string label;      // the number; "3 (arcconf)" or "3 (tool not known)" where controllers of two tools share it
+  std::string label;      // the number; "3 (arcconf)" or "3 (tool not known)" if controllers of two tools share it
   std::string_view tool;  // that described the instance; "" if it is unknown
 };
 

@@ -8,7 +8,7 @@
 // Objects as people at the machine call them. Texts are printable.
 namespace hxahost {
 
-// "C4"; "C3 (arcconf)" where two share the number.
+// "C4"; "C3 (arcconf)" if two share the number.
 std::string ShortName(const Controller& controller);
 
 // "\"Archive\" (RAID 5)", or "logical drive 3 (RAID 5)" if it has no name.

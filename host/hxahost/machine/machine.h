@@ -109,7 +109,7 @@ struct Device : Object {
 // may have the same number.
 struct Controller {
   std::string number;
-  std::string label;                  // the number; "3 (arcconf)" or "3 (tool not known)" where two share it
+  std::string label;                  // the number; "3 (arcconf)" or "3 (tool not known)" if two share it
   std::string_view tool;              // that described it; "" if it is unknown
   std::vector<ControllerUnit> units;  // one; none if it was not published; several if they cannot be told apart
   std::vector<LogicalDrive> logicalDrives;

@@ -26,13 +26,13 @@ struct Collected {
 // Queries like "hxahost query", with any format in the options, and passes the results to the display.
 Collected RunQueries(const QueryOptions& options, const QueryDisplay& display, std::ostream& out, std::ostream& err);
 
-// What a command ends with: kNothingFound where there is no controller, kQueryFailed where a tool that is there could
-// not be started. A line on err then says what became of the tools, unless out failed: then that is what is said.
+// The exit status of a command: kNothingFound if there is no controller, kQueryFailed if an installed tool could not be
+// started. A line on err then reports the outcome of each tool, unless out failed, which the caller reports.
 ExitStatus StatusOf(const Collected& collected, const std::ostream& out, std::ostream& err);
 
-// "hxahost query": loads the plug-in, queries it, writes what it publishes to the output that the options name (out
-// where they name none) and what a person should know meanwhile to err. Changes the working directory. Gives
-// kNothingFound where there is no controller. Throws ProgramError.
+// "hxahost query": loads the plug-in, queries it, writes the published instances to the output in the options (by
+// default to out) and messages for people to err. Changes the working directory. Returns kNothingFound if there is no
+// controller. Throws ProgramError.
 ExitStatus RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err);
 
 }  // namespace hxahost

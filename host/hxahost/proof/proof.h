@@ -19,7 +19,7 @@ enum class Evidence {
   kMade,     // it is composed, counted or fixed; the origin explains it
 };
 
-// Where the value of one property comes from.
+// The source of the value of one property.
 struct Proof {
   std::string_view property;
   Evidence evidence = Evidence::kMade;

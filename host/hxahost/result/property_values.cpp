@@ -67,7 +67,7 @@ std::size_t ElementCount(const TPublishedInstance& instance, std::string_view pr
 }
 
 std::string ReadableTime(const std::string& cimDateTime) {
-  // yyyymmddhhmmss.mmmmmmsutc; numbers that do not fit lengthen it, and then it is shown as it is.
+  // yyyymmddhhmmss.mmmmmmsutc; numbers that are too large make it longer, and then it is shown unchanged.
   if (cimDateTime.size() != 25) return cimDateTime;
   const auto part = [&](std::size_t begin, std::size_t length) { return cimDateTime.substr(begin, length); };
   const int offset = std::atoi(part(22, 3).c_str());

@@ -52,7 +52,7 @@ function machineSection() {
   ], kFleet.machines, 200);
 }
 
-// Nothing where there are no rows.
+// Returns nothing if there are no rows.
 function tableOf(title, rows, columns) {
   return { title, content: () => (rows.length === 0 ? null : newTable(title, columns, rows, 200)) };
 }
