@@ -30,7 +30,7 @@ TEST(Program, LeavesTheHealthUnknownAfterAnyFailure) {
   std::ostringstream err;
   EXPECT_EQ(RunProgram({"health", "--format", "html"}, out, err), 3);
   EXPECT_EQ(out.str(), "");
-  EXPECT_EQ(err.str(), "hxahost: --format \"html\": give text or nagios or json or prometheus.\n");
+  EXPECT_EQ(err.str(), "hxahost: --format \"html\": give text, nagios, json or prometheus.\n");
   out.setstate(std::ios::badbit);
   EXPECT_EQ(RunProgram({"health", "--rules"}, out, err), 3);
 }
