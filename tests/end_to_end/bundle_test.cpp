@@ -258,13 +258,26 @@ TEST_F(Bundles, ThatLackACommandAreAnErrorThatNamesIt) {
   EXPECT_FALSE(fs::exists(folder_.Path() / "out"));
 }
 
+TEST_F(Bundles, ThatLackACommandReportNothingElse) {
+  for (const std::string command :
+       {"zenx//qcmdrun.exe getconfig 1 al", "zenx//hrconf_64.exe getconfig 1 al", "zenx//arcconf.exe getlogs 2 uart"}) {
+    const std::string lacking = Utf8FromPath(folder_.Write("l.bundle", Without(command)));
+    const auto health = nlohmann::json::parse(RunHxahost({"health", "--format", "json", "--replay", lacking}).out);
+    std::vector<std::string> unknown;
+    for (const auto& incident : health.at("incidents")) {
+      if (incident.at("severity") == "unknown") unknown.push_back(incident.at("headline"));
+    }
+    EXPECT_THAT(unknown, testing::ElementsAre("collection replay ended: the bundle does not hold " + command));
+  }
+}
+
 TEST_F(Bundles, ThatLackACommandReportItInTheVerdict) {
   const std::string lacking = Utf8FromPath(folder_.Write("l.bundle", Without("zenx//qcmdrun.exe getconfig 1 al")));
   const ProgramResult health = RunHxahost({"health", "--replay", lacking});
   EXPECT_EQ(health.exitStatus, 3);
   EXPECT_EQ(health.err, "");
-  EXPECT_THAT(health.out,
-              AllOf(StartsWith("UNKNOWN: "), HasSubstr("the bundle does not hold zenx//qcmdrun.exe getconfig 1 al\n")));
+  EXPECT_THAT(health.out, AllOf(StartsWith("UNKNOWN: 1 unknown "),
+                                HasSubstr("the bundle does not hold zenx//qcmdrun.exe getconfig 1 al\n")));
   EXPECT_THAT(RunHxahost({"status", "--replay", lacking}).out, HasSubstr("the bundle does not hold zenx//qcmdrun.exe"));
   EXPECT_THAT(RunHxahost({"health", "--format", "nagios", "--replay", lacking}).out, StartsWith("ZENX UNKNOWN - "));
 }

@@ -119,7 +119,7 @@ hxahost::QueryHeader HealthyMachine::Header() const {
 hxahost::QueryResult HealthyMachine::Result() const {
   FilledRepository repository;
   for (const Device& device : devices) repository.Publish(device.className, device.properties);
-  return {1, repository.Instances(), log, runs};
+  return {1, repository.Instances(), log, runs, 0, notRecorded};
 }
 
 hxahost::ToolRun RunOf(const std::string& tool, const std::vector<std::string>& arguments, hxahost::Outcome outcome,

@@ -34,6 +34,7 @@ class HealthyMachine {
   std::vector<Device> devices;
   hxahost::ToolRunList runs;
   std::vector<hxahost::LoggedEntry> log;
+  std::string notRecorded;  // what ended the replay
 };
 
 // A run of a utility: "arcconf", {"getconfig", "1", "al"}.

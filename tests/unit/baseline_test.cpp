@@ -185,6 +185,16 @@ TEST(Baseline, DoesNotReportObjectsOfASilentUtilityAsMissing) {
                           "unknown: arcconf did not answer within 60 s"));
 }
 
+TEST(Baseline, DoesNotReportObjectsThatAReplayThatEndedEarlyDoesNotShow) {
+  HealthyMachine now = Numbered();
+  RemoveControllerTwo(now);
+  now.notRecorded = "zenx//hrconf_64.exe getconfig 1 al";
+  const Machine machine = Compare(Numbered(), now);
+  EXPECT_THAT(HeadlinesOf(machine),
+              ElementsAre("unknown: C2 with 1 logical drive and 3 disks is not shown: arcconf did not answer",
+                          "unknown: collection replay ended: the bundle does not hold " + now.notRecorded));
+}
+
 TEST(Baseline, ShowsHowFastErrorsGrowAndWarnsFromTheLimitOn) {
   HealthyMachine before = Numbered();
   HealthyMachine now = Numbered();

@@ -1,7 +1,6 @@
 #include "host/hxahost/bundle/bundle_replay.h"
 
 #include <algorithm>
-#include <stdexcept>
 #include <utility>
 
 using namespace NKVRHXA20;
@@ -79,7 +78,7 @@ TCIMDateTime BundleReplay::LocalTime() {
 // Not an exception of a tool, so it ends the collection at once.
 void BundleReplay::ThrowMissing(const std::string& what) {
   if (missing_.empty()) missing_ = what;
-  throw std::runtime_error("the bundle does not hold " + what);
+  throw NotRecorded("the bundle does not hold " + what);
 }
 
 }  // namespace hxahost

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,12 @@
 #include "host/hxahost/bundle/bundle.h"
 
 namespace hxahost {
+
+// Ends a replay: what was asked for is not in the bundle.
+class NotRecorded : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
 
 // Answers as a machine did when a bundle was recorded on it.
 class BundleReplay {

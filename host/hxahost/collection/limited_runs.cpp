@@ -5,6 +5,8 @@
 
 #include <fmt/core.h>
 
+#include "host/hxahost/bundle/bundle_replay.h"
+
 using namespace NKVRHXA20;
 
 namespace hxahost {
@@ -54,6 +56,9 @@ SpawnResult LimitedRuns::RunNow(const std::string& path, const std::vector<std::
     return SpawnAndRecord(spawn_, path, arguments, limitSeconds, runs_);
   } catch (const TSpawnException& failure) {
     if (failure.Failure() == SpawnFailure::kTooLong) timedOut_[path].push_back({runs_.back(), failure.what()});
+    throw;
+  } catch (const NotRecorded&) {
+    runs_.pop_back();  // nothing was run, now or then
     throw;
   }
 }

@@ -66,9 +66,11 @@ class Comparison {
   }
 
  private:
-  // If the utility did not answer, the state of its objects is unknown.
+  // If the utility did not answer, or the collection as a whole failed, the state of its objects is unknown.
   Severity SeverityOfMissing(const Controller& controller) const {
-    const auto isAboutTool = [&](const Finding& finding) { return finding.identifier == controller.tool; };
+    const auto isAboutTool = [&](const Finding& finding) {
+      return finding.identifier == controller.tool || finding.identifier == kCollection;
+    };
     const bool isAbsent = std::ranges::find(machine_.absentTools, controller.tool) != machine_.absentTools.end();
     const bool isUp = !isAbsent && std::ranges::none_of(aboutTools_, isAboutTool);
     return isUp || controller.tool.empty() ? Severity::kCritical : Severity::kUnknown;

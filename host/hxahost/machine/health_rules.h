@@ -18,6 +18,7 @@ struct WatchedValue {
 };
 
 inline constexpr std::string_view kToolRun = "tool run";
+inline constexpr std::string_view kCollection = "collection";  // the object of a finding that is about all runs
 inline constexpr std::string_view kLog = "log";
 inline constexpr std::string_view kLeftOut = "left out";
 inline constexpr std::string_view kBaseline = "baseline";

@@ -107,7 +107,7 @@ std::size_t CountAnswers(const ToolRunList& runs) {
 
 Finding OfCollection(std::string_view word, std::string text) {
   const HealthRule& rule = RuleFor(kAnswers, word);
-  return {SeverityOf(rule.level),         std::string(kToolRun), "collection", "the collection",
+  return {SeverityOf(rule.level),         std::string(kToolRun), std::string(kCollection), "the collection",
           std::string(kAnswers.property), std::move(text),       rule.meaning};
 }
 
@@ -158,17 +158,20 @@ Tools OptionalTools(const Expectations& expectations, const ToolRunList& runs) {
 Findings ToolFindings(const Machine& machine, const QueryHeader& header, const QueryResult& result) {
   if (IsNothingInstalled(result.runs)) return {NothingInstalled(result.runs)};
   Findings findings;
-  if (!result.notRecorded.empty()) {
-    findings.push_back(OfCollection("not recorded", "replay ended: the bundle does not hold " + result.notRecorded));
-  }
   for (const Trouble& trouble : Troubles(result.runs, machine.absentTools)) findings.push_back(AsFinding(trouble));
+  if (!result.notRecorded.empty()) {
+    // What the log says then, and what was not run, follows from it.
+    findings.push_back(OfCollection("not recorded", "replay ended: the bundle does not hold " + result.notRecorded));
+    return findings;
+  }
   for (const Trouble& trouble : NeverRun(header.expectations, result)) findings.push_back(AsFinding(trouble));
   AddLogFindings(result.log, findings);
   return findings;
 }
 
-// Later queries of one program run no utility.
+// Later queries of one program run no utility. A replay that ended early publishes less than its answers contain.
 Findings AnswerFindings(const QueryResult& result, std::size_t known) {
+  if (!result.notRecorded.empty()) return {};
   const std::size_t answers = CountAnswers(result.runs);
   Findings findings;
   if (answers > known) {
