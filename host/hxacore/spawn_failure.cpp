@@ -22,7 +22,7 @@ void ThrowNotStarted(const std::string& path, const std::string& reason, bool is
 }
 
 void ThrowTooLong(const std::string& path, int limitSeconds, long process) {
-  throw TSpawnException(SpawnFailure::kTooLong,
+  throw TSpawnException(process == 0 ? SpawnFailure::kTooLong : SpawnFailure::kNotEnded,
                         fmt::format("\"{}\" {}: it ran longer than {} seconds", path, EndText(process), limitSeconds));
 }
 

@@ -31,6 +31,7 @@ enum class SpawnFailure {
   kNotAsked,      // the host does not run it any more
   kNotStarted,
   kTooLong,
+  kNotEnded,  // it took too long, and the system cannot end it
   kTooMuchOutput,
 };
 

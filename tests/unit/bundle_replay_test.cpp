@@ -44,6 +44,7 @@ TEST(BundleReplay, ThrowsEachKindOfFailureUnchanged) {
   EXPECT_THROW(thrown(FailureKind::kNotInstalled), TSpawnException);
   EXPECT_THROW(thrown(FailureKind::kNotAsked), TSpawnException);
   EXPECT_THROW(thrown(FailureKind::kNotStarted), TSpawnException);
+  EXPECT_THROW(thrown(FailureKind::kNotEnded), TSpawnException);
   EXPECT_THROW(thrown(FailureKind::kTooMuchOutput), TSpawnException);
   EXPECT_THROW(thrown(FailureKind::kHost), THXAException);
   EXPECT_THROW(

@@ -79,6 +79,14 @@ TEST(ToolRun, NamesTheLimitOfARun) {
   EXPECT_EQ(RecordOne(recorded).failure, "it did not answer within 60 s") << "in a replay the limit was another one";
 }
 
+TEST(ToolRun, NamesTheProcessOfARunThatCannotBeEndedAndOfNoOther) {
+  const auto ended = [](const std::string&, const std::vector<std::string>&, int) -> SpawnResult {
+    throw TSpawnException(SpawnFailure::kTooLong, "\"cannot be ended/arcconf.exe\" was ended", 300.5);
+  };
+  EXPECT_EQ(RecordOne(ended).failure, "it did not answer within 300 s");
+  EXPECT_EQ(RecordFailure(SpawnFailure::kNotEnded).failure, "it did not answer within 300 s: reason");
+}
+
 TEST(ToolRun, CallsACompleteAnswerWithAnExitStatusFailed) {
   SpawnResult result(kWhole);
   result.exitStatus = 0;
@@ -109,6 +117,7 @@ TEST(ToolRun, DistinguishesTheWaysOfFailing) {
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotInstalled).outcome), "not installed");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotStarted).outcome), "not started");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kTooLong).outcome), "timed out");
+  EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotEnded).outcome), "timed out");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kTooMuchOutput).outcome), "cut off");
   EXPECT_EQ(OutcomeWord(RecordFailure(SpawnFailure::kNotAsked).outcome), "not asked");
   EXPECT_EQ(RecordFailure(SpawnFailure::kTooMuchOutput).failure, "reason");

@@ -12,6 +12,7 @@ void Throw(const RecordedFailure& failure, double seconds) {
     case FailureKind::kNotAsked: throw TSpawnException(SpawnFailure::kNotAsked, failure.message, seconds);
     case FailureKind::kNotStarted: throw TSpawnException(SpawnFailure::kNotStarted, failure.message, seconds);
     case FailureKind::kTooLong: throw TSpawnException(SpawnFailure::kTooLong, failure.message, seconds);
+    case FailureKind::kNotEnded: throw TSpawnException(SpawnFailure::kNotEnded, failure.message, seconds);
     case FailureKind::kTooMuchOutput: throw TSpawnException(SpawnFailure::kTooMuchOutput, failure.message, seconds);
     case FailureKind::kHost: throw THXAException(failure.message);
     case FailureKind::kOther: break;

@@ -20,6 +20,7 @@ enum class FailureKind {
   kNotAsked,
   kNotStarted,
   kTooLong,
+  kNotEnded,
   kTooMuchOutput,
   kHost,   // any other failure of the host's own kind, which plug-ins expect
   kOther,  // what no plug-in expects, such as no memory

@@ -19,6 +19,7 @@ FailureKind KindOf(SpawnFailure failure) {
     case SpawnFailure::kNotAsked: return FailureKind::kNotAsked;
     case SpawnFailure::kNotStarted: return FailureKind::kNotStarted;
     case SpawnFailure::kTooLong: return FailureKind::kTooLong;
+    case SpawnFailure::kNotEnded: return FailureKind::kNotEnded;
     case SpawnFailure::kTooMuchOutput: break;
   }
   return FailureKind::kTooMuchOutput;

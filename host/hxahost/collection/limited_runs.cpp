@@ -55,7 +55,7 @@ SpawnResult LimitedRuns::RunNow(const std::string& path, const std::vector<std::
   try {
     return SpawnAndRecord(spawn_, path, arguments, limitSeconds, runs_);
   } catch (const TSpawnException& failure) {
-    if (failure.Failure() == SpawnFailure::kTooLong) timedOut_[path].push_back({runs_.back(), failure.what()});
+    if (runs_.back().outcome == Outcome::kTimedOut) timedOut_[path].push_back({runs_.back(), failure.what()});
     throw;
   } catch (const NotRecorded&) {
     runs_.pop_back();  // nothing was run, now or then

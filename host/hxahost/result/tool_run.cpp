@@ -17,11 +17,10 @@ namespace {
 // A recorded run contains its duration; its limit may have been different.
 std::string TimeoutText(const TSpawnException& failure, int limitSeconds) {
   const double seconds = std::floor(failure.Seconds());
-  const std::string message = Printable(failure.what());
-  const bool isGone = message.find("cannot be ended") == std::string::npos;
+  const bool isGone = failure.Failure() == SpawnFailure::kTooLong;
   return fmt::format("it did not answer within {:.0f} s{}",
                      seconds > 0 ? std::min<double>(seconds, limitSeconds) : limitSeconds,
-                     isGone ? "" : ": " + message);
+                     isGone ? "" : ": " + Printable(failure.what()));
 }
 
 Outcome OutcomeOf(SpawnFailure failure) {
@@ -29,7 +28,8 @@ Outcome OutcomeOf(SpawnFailure failure) {
     case SpawnFailure::kNotInstalled: return Outcome::kNotInstalled;
     case SpawnFailure::kNotAsked: return Outcome::kNotAsked;
     case SpawnFailure::kNotStarted: return Outcome::kNotStarted;
-    case SpawnFailure::kTooLong: return Outcome::kTimedOut;
+    case SpawnFailure::kTooLong:
+    case SpawnFailure::kNotEnded: return Outcome::kTimedOut;
     case SpawnFailure::kTooMuchOutput: break;
   }
   return Outcome::kCutOff;
