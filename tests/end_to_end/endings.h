@@ -5,7 +5,7 @@
 
 #include "tests/support/running_program.h"
 
-// A way to end a program, and its visible effects.
+// A way to end a program from outside, and its visible effects.
 struct Ending {
   const char* name;
   EndRequest request;

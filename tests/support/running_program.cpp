@@ -5,8 +5,9 @@
 
 #include "tests/support/file_text.h"
 
-RunningProgram::RunningProgram(const std::filesystem::path& program, const std::vector<std::string>& arguments)
-    : process_(StartProcess(program, arguments, folder_.Path() / "out", folder_.Path() / "err")) {}
+RunningProgram::RunningProgram(const std::filesystem::path& program, const std::vector<std::string>& arguments,
+                               Console console)
+    : process_(StartProcess(program, arguments, folder_.Path() / "out", folder_.Path() / "err", console)) {}
 
 RunningProgram::~RunningProgram() {
   if (isRunning_) WaitForProcess(process_);

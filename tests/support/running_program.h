@@ -15,12 +15,22 @@ struct ProgramResult {
 };
 
 // The ways to end a program.
-enum class EndRequest { kInterrupt, kTerminate, kHangUp, kKill };
+enum class EndRequest {
+  kInterrupt,  // Ctrl-C
+  kTerminate,  // on Windows: the user logs off
+  kHangUp,     // on Windows: the console is closed
+  kKill,
+  kBreak,  // Ctrl-Break, only on Windows
+};
+
+// Whether the program has a console of its own. On Windows, Ctrl-C reaches all programs of a console.
+enum class Console { kNone, kOwn };
 
 // A program that runs beside the test. It writes to files, so that it never waits for a reader.
 class RunningProgram {
  public:
-  RunningProgram(const std::filesystem::path& program, const std::vector<std::string>& arguments);
+  RunningProgram(const std::filesystem::path& program, const std::vector<std::string>& arguments,
+                 Console console = Console::kNone);
   // Waits for the program unless Wait was called.
   ~RunningProgram();
   RunningProgram(const RunningProgram&) = delete;
@@ -41,8 +51,8 @@ class RunningProgram {
 
 // The system's part. Throws std::runtime_error if the program cannot be started.
 std::intptr_t StartProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments,
-                           const std::filesystem::path& out, const std::filesystem::path& err);
+                           const std::filesystem::path& out, const std::filesystem::path& err, Console console);
 // Throws std::runtime_error if the system has no such request.
 void AskProcessToEnd(std::intptr_t process, EndRequest request);
-// The exit status; 256 and more if the program was ended by force.
+// The exit status; 256 and more if the program was ended by force, which this function does after ten minutes.
 int WaitForProcess(std::intptr_t process);

@@ -14,8 +14,7 @@ enum class ExitStatus {
   kPluginNotLoaded = 3,
   kHealthUnknown = 3,
   kNothingFound = 4,
-  kHungUp = 129,  // this and the next two: as shells report a program that a signal ended
-  kInterrupted = 130,
+  kInterrupted = 130,  // this and the next: as shells report a program that a signal ended
   kTerminated = 143,
 };
 

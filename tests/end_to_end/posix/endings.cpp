@@ -6,7 +6,7 @@ const std::vector<Ending>& Endings() {
        "hxahost: Interrupted: what ran was ended, and no file was replaced.\n"                                      },
       {"Terminate", EndRequest::kTerminate, 143,
        "hxahost: Terminated: what ran was ended, and no file was replaced.\n"                                       },
-      {"HangUp",    EndRequest::kHangUp,    129, "hxahost: Hung up: what ran was ended, and no file was replaced.\n"},
+      {"HangUp",    EndRequest::kHangUp,    143, "hxahost: Hung up: what ran was ended, and no file was replaced.\n"},
       {"Kill",      EndRequest::kKill,      265, ""                                                                 },
   };
   return endings;

@@ -1,8 +1,10 @@
 #include "tests/support/running_program.h"
 
+#include <chrono>
 #include <csignal>
 #include <cstring>
 #include <stdexcept>
+#include <thread>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -10,7 +12,7 @@
 #include <unistd.h>
 
 std::intptr_t StartProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments,
-                           const std::filesystem::path& out, const std::filesystem::path& err) {
+                           const std::filesystem::path& out, const std::filesystem::path& err, Console) {
   std::vector<std::string> texts = {program.string()};
   texts.insert(texts.end(), arguments.begin(), arguments.end());
   std::vector<char*> pointers;
@@ -32,11 +34,15 @@ std::intptr_t StartProcess(const std::filesystem::path& program, const std::vect
 
 void AskProcessToEnd(std::intptr_t process, EndRequest request) {
   const int signals[] = {SIGINT, SIGTERM, SIGHUP, SIGKILL};
-  kill(static_cast<pid_t>(process), signals[static_cast<int>(request)]);
+  kill(static_cast<pid_t>(process), signals[static_cast<std::size_t>(request)]);
 }
 
 int WaitForProcess(std::intptr_t process) {
+  const auto giveUp = std::chrono::steady_clock::now() + std::chrono::minutes(10);
   int status = 0;
-  waitpid(static_cast<pid_t>(process), &status, 0);
+  while (waitpid(static_cast<pid_t>(process), &status, WNOHANG) == 0) {
+    if (std::chrono::steady_clock::now() >= giveUp) AskProcessToEnd(process, EndRequest::kKill);
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
   return WIFEXITED(status) ? WEXITSTATUS(status) : 256 + WTERMSIG(status);
 }

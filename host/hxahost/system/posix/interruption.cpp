@@ -22,7 +22,7 @@ struct Request {
 constexpr Request kRequests[] = {
     {SIGINT,  ExitStatus::kInterrupted, "hxahost: Interrupted: what ran was ended, and no file was replaced.\n"},
     {SIGTERM, ExitStatus::kTerminated,  "hxahost: Terminated: what ran was ended, and no file was replaced.\n" },
-    {SIGHUP,  ExitStatus::kHungUp,      "hxahost: Hung up: what ran was ended, and no file was replaced.\n"    },
+    {SIGHUP,  ExitStatus::kTerminated,  "hxahost: Hung up: what ran was ended, and no file was replaced.\n"    },
 };
 
 // Writes only if it does not block, as the program must end even if nobody reads its standard error.

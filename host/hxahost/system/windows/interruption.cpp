@@ -22,7 +22,7 @@ constexpr std::string_view kTerminatedLine = "hxahost: Terminated: what ran was 
 constexpr Request kRequests[] = {
     {CTRL_C_EVENT,        ExitStatus::kInterrupted, kInterruptedLine},
     {CTRL_BREAK_EVENT,    ExitStatus::kInterrupted, kInterruptedLine},
-    {CTRL_CLOSE_EVENT,    ExitStatus::kHungUp,      kTerminatedLine },
+    {CTRL_CLOSE_EVENT,    ExitStatus::kTerminated,  kTerminatedLine },
     {CTRL_LOGOFF_EVENT,   ExitStatus::kTerminated,  kTerminatedLine },
     {CTRL_SHUTDOWN_EVENT, ExitStatus::kTerminated,  kTerminatedLine },
 };
