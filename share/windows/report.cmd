@@ -19,7 +19,8 @@ rem Without PowerShell the date as this user writes it.
 if not defined now set "now=%DATE:/=-%"
 set "report=%CD%\report-%COMPUTERNAME%-%now%.html"
 echo Collecting. This takes some minutes.
-hxahost query --format html --output "%report%"
+rem The task that collects for monitoring may take that long.
+hxahost query --wait 900 --format html --output "%report%"
 set status=%ERRORLEVEL%
 if %status%==0 goto open
 if %status%==4 goto nothing

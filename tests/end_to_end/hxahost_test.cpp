@@ -2,28 +2,36 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <memory>
+#include <regex>
 #include <string>
+#include <thread>
 #include <vector>
 
+#include "host/hxacore/host_services.h"
 #include "host/hxacore/schema.h"
+#include "host/hxahost/result/property_values.h"
 #include "host/hxahost/system/folder_lock.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/file_text.h"
 #include "tests/support/hxahost_run.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/test_system.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using hxahost::Utf8FromPath;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
 constexpr int kNothingFound = 4;
+constexpr int kBusy = 5;
 
 // A machine without any tool.
 class Hxahost : public testing::Test {
@@ -161,6 +169,40 @@ TEST_F(Hxahost, WaitsForAnotherCollectionInTheSameFolderAndReportsIt) {
   EXPECT_EQ(result.exitStatus, kNothingFound);
   EXPECT_EQ(std::ranges::count(result.err, '\n'), 2) << result.err;
   EXPECT_THAT(result.out, HasSubstr("Nothing was found"));
+}
+
+TEST_F(Hxahost, EndsWithStatus5WhereAnotherCollectionGoesOnAndNamesIt) {
+  fs::create_directory(folder_.Path() / "zenx");
+  hxahost::FolderLock other(folder_.Path() / "zenx");
+  ASSERT_TRUE(other.Take());
+  for (const std::string wait : {"--no-wait", "--wait=1"}) {
+    const ProgramResult result = Query({wait});
+    EXPECT_EQ(result.exitStatus, kBusy);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(std::ranges::count(result.err, '\n'), wait == "--no-wait" ? 1 : 2) << result.err;
+    std::smatch holder;
+    // Linux keeps the first 15 characters of a name.
+    const std::regex pattern(
+        "Nothing was collected: another program collects from this folder zenx "
+        "\\(end_to_end_tests?, process ([0-9]+), since [0-9]{4}-[0-9]{2}-[0-9]{2} "
+        "[0-9]{2}:[0-9]{2}:[0-9]{2} ([+-][0-9]{2}:[0-9]{2})\\)\\. Try again later");
+    ASSERT_TRUE(std::regex_search(result.err, holder, pattern)) << result.err;
+    EXPECT_THAT(ProcessesOf(ProgramFolder()), testing::Contains(std::stoul(holder[1])));
+    const std::string now = hxahost::ReadableTime(NKVRHXA20::CurrentServices().localTime().ToString());
+    EXPECT_THAT(now, testing::EndsWith(holder[2].str()));
+  }
+  EXPECT_EQ(RunHxahost({"health", "--no-wait", "--directory", Utf8FromPath(folder_.Path())}).exitStatus, 3);
+}
+
+TEST_F(Hxahost, BeginsToCountItsDeadlineWhenTheWaitIsOver) {
+  fs::create_directory(folder_.Path() / "zenx");
+  auto other = std::make_unique<hxahost::FolderLock>(folder_.Path() / "zenx");
+  ASSERT_TRUE(other->Take());
+  RunningProgram waiting(HxahostPath(), {"status", "--deadline", "1", "--directory", Utf8FromPath(folder_.Path())});
+  EXPECT_TRUE(waiting.SaysOnStandardError("waiting"));
+  std::this_thread::sleep_for(std::chrono::seconds(2));
+  other.reset();
+  EXPECT_THAT(waiting.Wait().out, AllOf(HasSubstr("not installed"), Not(HasSubstr("not asked"))));
 }
 
 TEST_F(Hxahost, LeavesNothingInTheFolderOfTheTools) {

@@ -357,6 +357,12 @@ TEST(Options, LimitTheRunsOfUtilities) {
   EXPECT_EQ(limits.outputBytes, 8 * kMebibyte);
 }
 
+TEST(Options, LimitTheWaitForAnotherCollection) {
+  EXPECT_EQ(Parse("query").query.collection.longestWait, std::chrono::seconds(240));
+  EXPECT_EQ(Parse("health --wait 30").query.collection.longestWait, std::chrono::seconds(30));
+  EXPECT_EQ(Parse("status --no-wait").query.collection.longestWait, std::chrono::seconds(0));
+}
+
 TEST(Options, SetTheExpectationsForAMachine) {
   const QueryOptions options =
       Parse(

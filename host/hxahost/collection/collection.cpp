@@ -40,6 +40,12 @@ std::optional<OutputFile> OpenRecord(const fs::path& bundle) {
   return std::optional<OutputFile>(std::in_place, bundle, "--record");
 }
 
+// A replay runs no tool.
+std::optional<CollectionLock> TakeLock(const CollectionOptions& options, std::ostream& err) {
+  if (!options.replay.empty()) return std::nullopt;
+  return std::optional<CollectionLock>(std::in_place, "zenx", options.longestWait, err);
+}
+
 }  // namespace
 
 Collection::Collection(const CollectionOptions& options, std::ostream& err)
@@ -50,6 +56,7 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
       recordFile_(OpenRecord(options.record)),
       recorder_(!options.record.empty() ? std::make_unique<BundleRecorder>(osType_, ToolDirectory()) : nullptr),
       log_(options.log),
+      lock_(TakeLock(options, err)),
       progress_(options.showProgress && StandardErrorIsTerminal() ? std::make_unique<Progress>(err, ProgressWidth())
                                                                   : nullptr),
       services_(replay_ ? replay_->Services() : ServicesUpTo(options.inputLimit), options, log_, runs_, progress_.get(),
@@ -61,7 +68,6 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
     return;
   }
   plugin_.SetLargestRaidLog(options.inputLimit);
-  lock_.emplace("zenx", err);
 }
 
 // Where the tools are run, or were when they were recorded.

@@ -55,11 +55,11 @@ class Collection {
   std::unique_ptr<BundleRecorder> recorder_;
   QueryLog log_;
   ToolRunList runs_;
+  std::optional<CollectionLock> lock_;  // before the time of the collection begins
   std::unique_ptr<Progress> progress_;
   CollectionServices services_;
   Plugin plugin_;
   boost::shared_ptr<NKVRHXA20::TRepository> repository_;
-  std::optional<CollectionLock> lock_;
 };
 
 }  // namespace hxahost

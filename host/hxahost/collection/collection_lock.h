@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <ostream>
 
@@ -11,8 +12,9 @@ namespace hxahost {
 // controllers at once can block each other. A missing or read-only folder is used without a lock.
 class CollectionLock {
  public:
-  // Waits until no other program has it, and says so to err before it waits.
-  CollectionLock(const std::filesystem::path& folder, std::ostream& err);
+  // Waits until no other program has it, and says so to err before it waits. Throws ProgramError when that takes
+  // longer.
+  CollectionLock(const std::filesystem::path& folder, std::chrono::seconds longestWait, std::ostream& err);
 
  private:
   FolderLock lock_;

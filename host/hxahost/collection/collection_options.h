@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -11,6 +12,9 @@
 #include "plugin/host_interface/date_time.h"
 
 namespace hxahost {
+
+// More time than most collections take, and less than five minutes, the time between two jobs of a timer.
+inline constexpr std::chrono::seconds kUsualWait{240};
 
 // How to collect. An empty path was not given; the others are absolute, but for "-", a standard stream.
 struct CollectionOptions {
@@ -26,6 +30,7 @@ struct CollectionOptions {
   std::optional<std::string> machineName;
   std::optional<NKVRHXA20::TCIMDateTime> localTime;
   bool showProgress = true;
+  std::chrono::seconds longestWait = kUsualWait;  // for another program that collects
   RunLimits limits = {};
 };
 

@@ -94,18 +94,20 @@ constexpr Example kHelp[] = {
 
 constexpr CommandText kTexts[] = {
     {"",        "Tells which RAID disk to replace, and shows the tool output that proves it", kProgram,
-     "0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded, 4 nothing was found."      },
+     "0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded, 4 nothing was found, "
+     "5 another program collects."                                                                                 },
     {"status",  "Show on one screen what is wrong and what to do",                            kStatus,
      "0 shown, whatever is wrong (for an exit status use hxahost health), 1 the collection failed, 2 wrong arguments, "
-     "3 the plug-in could not be loaded, 4 no controller was found."                                               },
+     "3 the plug-in could not be loaded, 4 no controller was found, 5 another program collects."                   },
     {"query",   "Run the controller utilities and show all instances",                        kQuery,
-     "0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded, 4 no controller was found."},
+     "0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded, 4 no controller was found, "
+     "5 another program collects."                                                                                 },
     {"health",  "Show what is wrong, worst first, and what to do",                            kHealth,
      "0 nothing is wrong, 1 warning, 2 critical, 3 unknown. The worst finding decides: critical over warning over "
      "unknown. Every failure of the command itself is 3, too."                                                     },
     {"explain", "Show the tool output that each value comes from",       kExplain,
      "0 done, 1 the query failed, 2 wrong arguments, or no object or several objects match, 3 the plug-in could not be "
-     "loaded."                                                                                                     },
+     "loaded, 5 another program collects."                                                                         },
     {"diff",    "Show the differences between two results",                                   kDiff,
      "0 nothing differs except times of collection, 1 something differs, 2 the comparison failed."                 },
     {"fleet",   "Show the results of many machines together",                                 kFleet,

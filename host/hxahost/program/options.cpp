@@ -1,6 +1,7 @@
 #include "host/hxahost/program/options.h"
 
 #include <algorithm>
+#include <chrono>
 #include <memory>
 #include <string_view>
 
@@ -36,6 +37,8 @@ struct TypedOptions {
   std::string runSeconds;
   std::string collectionSeconds;
   std::string outputMebibytes;
+  std::string waitSeconds;
+  bool waitsNot = false;
   bool asksOnce = false;
   bool asksAgain = false;
   std::string expectedControllers;
@@ -120,6 +123,17 @@ void AddRunLimits(CLI::App& command, TypedOptions& typed) {
       "Run a command as often as the plug-in asks, as the diagnostics host does (default of query and explain)");
 }
 
+// The wait for another program: two never collect at once.
+void AddWaiting(CLI::App& command, TypedOptions& typed) {
+  command
+      .add_option(
+          "--wait", typed.waitSeconds,
+          "Limit for the wait until another program that collects has ended (default: 240). After it, nothing is "
+          "collected, and the exit status is 5, of health 3")
+      ->type_name("SECONDS");
+  command.add_flag("--no-wait", typed.waitsNot, "Do not wait for another program that collects");
+}
+
 void AddLocalTime(CLI::App& command, TypedOptions& typed) {
   command
       .add_option(
@@ -154,6 +168,7 @@ void AddCollecting(CLI::App& command, TypedOptions& typed) {
           "Run no tool and take all answers from this bundle (-: standard input)");
   AddInputLimit(command, typed);
   AddRunLimits(command, typed);
+  AddWaiting(command, typed);
   command
       .add_option("--os-type", typed.osType,
                   "CIM \"OSType\" that is passed to the plug-in, 0 to 65535; 82 makes it leave out hrconf_64")
@@ -353,8 +368,18 @@ void CheckBundles(const std::string& command, const CollectionOptions& options) 
   }
 }
 
+constexpr unsigned kMostSeconds = 86400;
+
+std::chrono::seconds ReadWait(const TypedOptions& typed) {
+  if (typed.waitsNot && !typed.waitSeconds.empty()) {
+    throw ProgramError(ExitStatus::kWrongArguments, "--wait and --no-wait: leave one of them out.");
+  }
+  if (typed.waitsNot) return std::chrono::seconds(0);
+  const auto seconds = ReadNumber("--wait", typed.waitSeconds, kMostSeconds);
+  return seconds ? std::chrono::seconds(*seconds) : kUsualWait;
+}
+
 RunLimits ReadRunLimits(const TypedOptions& typed) {
-  constexpr unsigned kMostSeconds = 86400;
   constexpr unsigned kMostMebibytes = 1U << 20U;
   if (typed.asksOnce && typed.asksAgain) {
     throw ProgramError(ExitStatus::kWrongArguments, "--ask-once and --ask-again: leave one of them out.");
@@ -391,6 +416,7 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   collection.mask = ReadMask(typed.mask);
   collection.inputLimit = ReadInputLimit(typed.inputLimit);
   collection.limits = ReadRunLimits(typed);
+  collection.longestWait = ReadWait(typed);
   options.expectations.controllers = ReadNumber("--expect-controllers", typed.expectedControllers);
   options.expectations.disks = ReadNumber("--expect-disks", typed.expectedDisks);
   CheckTools(options.expectations.tools);

@@ -14,6 +14,7 @@ enum class ExitStatus {
   kPluginNotLoaded = 3,
   kHealthUnknown = 3,
   kNothingFound = 4,
+  kBusy = 5,
   kInterrupted = 130,  // this and the next: as shells report a program that a signal ended
   kTerminated = 143,
 };
