@@ -25,6 +25,7 @@
 #include "host/hxahost/collection/query_log.h"
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/program/bundle_command.h"
+#include "host/hxahost/program/fleet_command.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/result/json_result.h"
 #include "host/hxahost/terminal/layout.h"
@@ -46,6 +47,15 @@ std::string EveryByte() {
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
   return bytes;
+}
+
+// On a Latin and on a Thai letter.
+std::string LongRunsOfMarks() {
+  std::string text = "a";
+  for (int mark = 0; mark < 50; ++mark) text += "\u0301";
+  text += "\u0e01";
+  for (int mark = 0; mark < 50; ++mark) text += "\u0e49";
+  return text + "z";
 }
 
 struct HostileText {
@@ -81,6 +91,7 @@ const HostileText kTexts[] = {
     {"invisible",                   "a\u200b\u00ad\ufeff\u2060b"                                },
     {"invisible copies of letters", "a\u180e\U000e0041\U000e007fb"                              },
     {"nothing to be seen",          "a\u034f\u115f\u1160\u2800\u3164\uffa0\U000e0100\U000e01efb"},
+    {"long runs of marks",          LongRunsOfMarks()                                           },
     {"no characters",               "a\ufffe\uffffb"                                            },
     {"NUL",                         "a\0b"s                                                     },
     {"no UTF-8",                    "a\xff\xfe\xc3\x28\xf8z"                                    },
@@ -122,6 +133,26 @@ class Machine {
   std::string Health(const char* format) const {
     std::ostringstream out;
     WriterOf<HealthWriter>("health", format)(out, {header_, result_, BuildMachine(header_, result_), 1});
+    return out.str();
+  }
+
+  std::string Status(const char* format) const {
+    std::ostringstream out;
+    WriterOf<HealthWriter>("status", format)(out, {header_, result_, BuildMachine(header_, result_), 1});
+    return out.str();
+  }
+
+  // With a file beside its result that holds none.
+  std::string Fleet(const char* format) const {
+    const TemporaryFolder folder;
+    folder.Write("damaged.json", "{");
+    folder.Write("result.json", Query("json"));
+    FleetCommandOptions options;
+    options.paths = {folder.Path()};
+    options.shown.format = format;
+    std::ostringstream out;
+    std::ostringstream err;
+    EXPECT_EQ(RunFleetCommand(options, out, err), ExitStatus::kDone) << err.str();
     return out.str();
   }
 
@@ -191,13 +222,19 @@ bool ActsOnATerminal(char32_t code) {
          code == 0xffa0;
 }
 
+bool IsMark(char32_t code) { return (code >= 0x300 && code <= 0x36f) || (code >= 0xe47 && code <= 0xe4e); }
+
 void ExpectSafeOnATerminal(const std::string& written) {
+  constexpr int kMostMarks = 4;
   std::string_view rest = written;
+  int marks = 0;
   while (!rest.empty()) {
     const Character character = NextCharacter(rest);
     const std::size_t at = written.size() - rest.size();
-    ASSERT_FALSE(ActsOnATerminal(character.code)) << std::hex << static_cast<unsigned>(character.code) << " in "
-                                                  << EscapeControls(written.substr(at < 50 ? 0 : at - 50, 100));
+    marks = IsMark(character.code) ? marks + 1 : 0;
+    ASSERT_FALSE(ActsOnATerminal(character.code) || marks > kMostMarks)
+        << std::hex << static_cast<unsigned>(character.code) << " in "
+        << EscapeControls(written.substr(at < 50 ? 0 : at - 50, 100));
     rest.remove_prefix(character.length);
   }
 }
@@ -238,6 +275,33 @@ TEST(HostileTexts, AreSafeLinesInEveryFormatForPeople) {
     for (const HostileText& each : kTexts) {
       SCOPED_TRACE(output.name + ": "s + each.name);
       ExpectLinesForPeople(output.Write(each.bytes), each.bytes, output.Write);
+    }
+  }
+}
+
+// Tabs and the ends of lines are data of CSV.
+TEST(HostileTexts, AreSafeOnATerminalInEveryFormatOfEveryCommand) {
+  struct Written {
+    const char* command;
+    std::string (Machine::*Write)(const char* format) const;
+  };
+  constexpr Written kCommands[] = {
+      {"query",  &Machine::Query },
+      {"health", &Machine::Health},
+      {"status", &Machine::Status},
+      {"diff",   &Machine::Diff  },
+      {"fleet",  &Machine::Fleet },
+  };
+  std::string texts;  // one after the other
+  for (const HostileText& each : kTexts) texts += AsUtf8(each.bytes) + ' ';
+  const Machine machine(texts);
+  for (const Written& each : kCommands) {
+    for (const Format& format : FormatsOf(each.command)) {
+      SCOPED_TRACE(each.command + " "s + std::string(format.name));
+      std::string written = (machine.*each.Write)(std::string(format.name).c_str());
+      const bool hasTabs = format.name == "csv" || format.name == "cim-xml";
+      if (hasTabs) std::erase_if(written, [](char character) { return character == '\t' || character == '\r'; });
+      ExpectSafeOnATerminal(written);
     }
   }
 }

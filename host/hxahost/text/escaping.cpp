@@ -54,14 +54,16 @@ std::string Escaped(char32_t code) {
 
 }  // namespace
 
-bool IsUnsafe(char32_t code) { return IsIn(code, kUnsafe) || IsIn(code, kInvisible); }
+bool UnsafeCharacters::Has(char32_t next) {
+  marks_ = IsCombining(next) ? marks_ + 1 : 0;
+  return marks_ > kMostMarks || IsIn(next, kUnsafe) || IsIn(next, kInvisible);
+}
 
 std::string EscapeControls(std::string_view bytes) {
   std::string printable;
-  std::size_t marks = 0;
+  UnsafeCharacters unsafe;
   ForEachCharacter(AsUtf8(bytes), [&](char32_t code, std::string_view character) {
-    marks = IsCombining(code) ? marks + 1 : 0;
-    IsUnsafe(code) || marks > kMostMarks ? printable += Escaped(code) : printable += character;
+    unsafe.Has(code) ? printable += Escaped(code) : printable += character;
   });
   return printable;
 }

@@ -7,12 +7,18 @@
 // Converts text to a form that is safe on a terminal.
 namespace hxahost {
 
-// Whether a character is unsafe on a terminal: a control character, an invisible one, one that changes the direction of
-// the text around it, or a code that is not a character.
-bool IsUnsafe(char32_t code);
+// Finds the characters of a text that are unsafe to show, one after the other: control characters, invisible ones, those
+// that change the direction of the text around them, codes that are not characters, and more marks on one character than
+// any language needs.
+class UnsafeCharacters {
+ public:
+  bool Has(char32_t next);
 
-// UTF-8 with escapes (\t, \r, \n, \x1b, \u202e) for control characters and characters that change the direction of
-// text: one line, without commands for a terminal.
+ private:
+  std::size_t marks_ = 0;  // on the current character
+};
+
+// UTF-8 with escapes (\t, \r, \n, \x1b, \u202e) for unsafe characters: one line, without commands for a terminal.
 std::string EscapeControls(std::string_view bytes);
 
 // The same for people, without the white space at both ends.

@@ -41,16 +41,17 @@ std::string ByCodeUnits(char32_t code) {
   return text;
 }
 
-std::string EscapedForMof(char32_t code, std::string_view character) {
+std::string EscapedForMof(char32_t code, std::string_view character, bool isUnsafe) {
   const auto* const escape = std::ranges::find(kMofEscapes, code, &MofEscape::code);
   if (escape != std::end(kMofEscapes)) return escape->text;
-  return IsUnsafe(code) ? ByCodeUnits(code) : std::string(character);
+  return isUnsafe ? ByCodeUnits(code) : std::string(character);
 }
 
 }  // namespace
 
 std::string MofText(std::string_view bytes, std::string_view indent) {
   std::string text = "\"";
+  UnsafeCharacters unsafe;
   std::size_t begin = 0;  // of the current string
   ForEachCharacter(AsUtf8(bytes), [&](char32_t code, std::string_view character) {
     if (text.size() - begin > kLongestString) {
@@ -58,7 +59,7 @@ std::string MofText(std::string_view bytes, std::string_view indent) {
       begin = text.size();
       text += '"';
     }
-    text += EscapedForMof(code, character);
+    text += EscapedForMof(code, character, unsafe.Has(code));
   });
   return text += '"';
 }

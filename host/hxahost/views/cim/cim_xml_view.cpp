@@ -37,8 +37,9 @@ void SetAttribute(Tree& element, const char* name, std::string_view value) {
 // Parsers convert a carriage return to a line feed. It and characters that are unsafe on a terminal are written by
 // their number, which the library does not do.
 void WriteByNumber(std::ostream& out, std::string_view xml) {
-  ForEachCharacter(xml, [&out](char32_t code, std::string_view character) {
-    if (IsUnsafe(code) && code != '\n' && code != '\t') {
+  UnsafeCharacters unsafe;
+  ForEachCharacter(xml, [&](char32_t code, std::string_view character) {
+    if (unsafe.Has(code) && code != '\n' && code != '\t') {
       out << fmt::format("&#{};", static_cast<unsigned>(code));
     } else {
       out << character;
