@@ -263,6 +263,34 @@ void MeasureLog(Table& table, const std::string& program) {
                 50'000);
 }
 
+// Masking a bundle against masking one with half as many lines: each of them has names, and all are one text.
+void MeasureMasking(Table& table, const std::string& program) {
+  constexpr int kLines = 200'000;
+  const fs::path folder = fs::temp_directory_path() / "zenx-bench-mask";
+  std::vector<double> seconds;
+  for (const int lines : {0, kLines, 2 * kLines}) {
+    const Machine machine(0);
+    fs::create_directories(folder);
+    setenv("ZENX_RAID_LOG_DIR", (folder.string() + "/").c_str(), 1);
+    {
+      std::ofstream log(folder / "RaidEvtA.log", std::ios::binary);
+      for (int line = 0; line < lines; ++line) log << "day\tINF\tDBSERVER\tEvent of DBSERVER, 10.20.30.40\r\n";
+    }
+    const std::string bundle = (folder / "m.bundle").string();
+    OutputOf({program, "query", "--class", kController, "--record", bundle});
+    const std::string masked = (folder / "masked.bundle").string();
+    std::vector<double> runs;
+    for (int round = 0; round < 3; ++round) {
+      fs::remove(masked);
+      runs.push_back(CostOf({program, "bundle", "mask", bundle, masked}, true).busy);
+    }
+    seconds.push_back(Median(runs));
+  }
+  fs::remove_all(folder);
+  table.AtMost("masking: twice the text: processors", (seconds[2] - seconds[0]) / (seconds[1] - seconds[0]),
+               2 * kSteepest);
+}
+
 // Results of machines with 16 disks, in a folder that the destructor deletes.
 class FleetFolder {
  public:
@@ -327,6 +355,7 @@ int main() {
     MeasureTools(table);
     MeasureGrowth(table, program);
     MeasureLog(table, program);
+    MeasureMasking(table, program);
     MeasureFleet(table, program);
     return table.IsMet() ? 0 : 1;
   } catch (const std::exception& failure) {
