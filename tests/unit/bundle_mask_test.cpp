@@ -3,8 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <random>
 #include <string>
+#include <utility>
 
 #include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/sample_bundle.h"
@@ -92,12 +94,18 @@ Bundle Planted() {
       "<event text=\"GRIMHOLT asks Trundlewick, 81730946 and 5000c5001a2b3c4e\" />\n"
       "[00001] 0000:00:00:00 Boot of grimholt, drive ORFELIUS, S/N81730946, qz73x9 lost, call zed.ax@vexmoor.example\n"
       "| 06/14/2005 | 09:12:05 | 1 | 4 | 0x07 | Removed by snorbitz on Grimholt: 81730946, vault of xTRUNDLEWICKx\n"
-      "phy 00:1b:21:AA:BB:CC and 00-1b-21-aa-bb-cd, 0x5000C5001A2B3C4F\n";
-  bundle.runs[2].failure->message = "\"D:/Wexlogs/x\": c:\\QUIBBLEDIR\\jo zandrik is gone, wrote GRIMHOLT to krumpet1";
+      "[00002] SERIALNUMBER='mizzlethwaite' at 192.168.7.9, Serial of 0X5000C5001A2B3C50\n"
+      "<event text='from 2001:DB8:0:0:0:8A2E:370:7334' SerialNumber=\"Nurdleby\" />\n"
+      "phy 00:1b:21:AA:BB:CC and 00-1b-21-aa-bb-cd, 0x5000C5001A2B3C4F, 001B.21aa.bbce\n"
+      "naa.600508B1001C79A1600508B1001C79A2\n"
+      "   Firmware : 4.2.10.1\n   Device driver version : 4.2.10.2\n[00003] BIOS 4.2.10.3/4.2.10.4, not 1.4.2.10.5\n";
+  bundle.runs[2].failure->message =
+      "\"D:/Wexlogs/x\": c:\\QUIBBLEDIR\\jo zandrik is gone, wrote GRIMHOLT to krumpet1 (172.16.5.4)";
   bundle.raidLog->path = "d:\\wexlogs\\RaidEvtA.log";
   bundle.raidLog->bytes =
       "day\tINF\tMUMBLEBY\tBrindlesop of PLIMSOL, s96h8b01234 without 8b01234\r\n"
-      "2007/03/06 08:00:01 PST INF GRIMHOLT the agent of mumbleby: 5000f0a1 by ombersley@grimholt\r\n";
+      "2007/03/06 08:00:01 PST INF GRIMHOLT the agent of mumbleby: 5000f0a1 by ombersley@grimholt\r\n"
+      "day\tINF\tMUMBLEBY\tVersion 5.2.0.15611 asked 10.20.30.40, fe80::21b:21FF:feaa:bbcf: no answer\r\n";
   bundle.raidLog->failure =
       RecordedFailure{FailureKind::kHost, "\"D:\\WEXLOGS\\RaidEvtA.log\" is in use by jo zandrik"};
   return bundle;
@@ -124,6 +132,16 @@ TEST(BundleMask, LeavesNoNameNumberOrAddressOfAnyFieldAnywhere) {
       "qz73x9",
       "50:00:c5:00:1a:2b:3c:4d",
       "8b01234",
+      "mizzlethwaite",
+      "nurdleby",
+      "5000c5001a2b3c50",
+      "001b.21aa.bbce",
+      "600508b1001c79a1600508b1001c79a2",
+      "10.20.30.40",
+      "172.16.5.4",
+      "192.168.7.9",
+      "fe80::21b:21ff:feaa:bbcf",
+      "2001:db8:0:0:0:8a2e:370:7334",
       "krumpet1",
       "brindlesop",
       "5000c5001a2b3c4e",
@@ -146,11 +164,34 @@ TEST(BundleMask, LeavesNoNameNumberOrAddressOfAnyFieldAnywhere) {
   EXPECT_EQ(after.size(), before.size() + 1) << "\"yes\" is longer than \"no\"";
 }
 
+// The words again, in capital and in small letters, in each of the texts.
+TEST(BundleMask, LeavesNoNameInEitherCaseInAnyText) {
+  constexpr const char* kWords[] = {"GRIMHOLT",    "quibbledir", "WEXLOGS",  "81730946", "Plimsol",       "ORFELIUS",
+                                    "trundlewick", "Vault",      "snorbitz", "5000F0A1", "Qz73x9",        "KRUMPET1",
+                                    "Brindlesop",  "Jo ZANDRIK", "mumbleby", "8B01234",  "of: Ombersley", "nurdleby"};
+  std::string everyCase;
+  for (const std::string word : kWords) everyCase += " " + word + ", " + FoldCase(word);
+  std::string capital = everyCase;
+  for (char& character : capital) character = static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
+  everyCase += capital;
+  Bundle bundle = Planted();
+  for (RecordedRun& run : bundle.runs) {
+    if (run.failure) run.failure->message += everyCase;
+    run.result.output += "[00009]" + everyCase + "\n";
+  }
+  bundle.raidLog->bytes += "day\tINF\tMUMBLEBY\t" + everyCase + "\r\n";
+  bundle.raidLog->failure->message += everyCase;
+  const std::string after = FoldCase(WriteBundle(MaskBundle(std::move(bundle), Seeded())));
+  for (const std::string word : kWords) EXPECT_THAT(after, Not(HasSubstr(FoldCase(word))));
+}
+
 TEST(BundleMask, LeavesModelsStatesAndFixedLines) {
   const std::string text = WriteBundle(MaskBundle(Planted(), Seeded()));
   for (const char* const kept :
        {"Device ID : TALVERA T36LW10 S96H", "   RAID level : 5\n", "<deadDrive serialNumber='", "| 0x07 | Removed by ",
-        "[00001] 0000:00:00:00 Boot of ", "zenx//arcconf.exe", "RaidEvtA.log", "2007/03/06 08:00:01 PST INF "}) {
+        "[00001] 0000:00:00:00 Boot of ", "zenx//arcconf.exe", "RaidEvtA.log", "Firmware : 4.2.10.1\n",
+        "version : 4.2.10.2\n", "BIOS 4.2.10.3/4.2.10.4, not 1.4.2.10.5\n", "Version 5.2.0.15611 asked ",
+        "2007/03/06 08:00:01 PST INF "}) {
     EXPECT_THAT(text, HasSubstr(kept));
   }
 }

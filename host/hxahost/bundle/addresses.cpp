@@ -2,12 +2,17 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
+#include <system_error>
+
+#include "host/hxahost/bundle/text_mask.h"
 
 namespace hxahost {
 
 namespace {
 
 bool IsHex(char character) { return std::isxdigit(static_cast<unsigned char>(character)) != 0; }
+bool IsLetter(char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; }
 bool IsWord(char character) { return std::isalnum(static_cast<unsigned char>(character)) != 0; }
 bool IsOfUser(char character) {
   return IsWord(character) || std::string_view("._%+-").find(character) != std::string_view::npos;
@@ -34,13 +39,83 @@ std::size_t PairsLength(std::string_view text, std::size_t place) {
   return pairs < kFewestPairs || (end < text.size() && IsWord(text[end])) ? 0 : end - place;
 }
 
-// "5000C5001A2B3C4D": sixteen hexadecimal digits; the first shows that a maker assigned them.
+// How many hexadecimal digits there are, up to one more than wanted.
+std::size_t HexDigits(std::string_view text, std::size_t place, std::size_t wanted) {
+  const std::string_view digits = text.substr(std::min(place, text.size()), wanted + 1);
+  return static_cast<std::size_t>(std::ranges::find_if_not(digits, IsHex) - digits.begin());
+}
+
+// "5000C5001A2B3C4D", "600508B1001C79A1600508B1001C79A2": the first digit says that a maker gave them, and how many.
 std::size_t NameLength(std::string_view text, std::size_t place) {
-  constexpr std::size_t kDigits = 16;
-  if (text[place] != '5') return 0;
-  const std::string_view digits = text.substr(place, kDigits);
-  const bool continues = place + kDigits < text.size() && IsWord(text[place + kDigits]);
-  return digits.size() == kDigits && !continues && std::ranges::all_of(digits, IsHex) ? kDigits : 0;
+  const std::size_t digits = text[place] == '5' ? 16 : text[place] == '6' ? 32 : 0;
+  const bool continues = place + digits < text.size() && IsWord(text[place + digits]);
+  return !continues && HexDigits(text, place, digits) == digits ? digits : 0;
+}
+
+// "001b.21aa.bbcc"; with digits alone it would be a number.
+std::size_t DottedPairsLength(std::string_view text, std::size_t place) {
+  constexpr std::size_t kLength = 14;
+  const std::string_view address = text.substr(place, kLength);
+  const bool continues = place + kLength < text.size() && IsWord(text[place + kLength]);
+  if (address.size() < kLength || continues || address[4] != '.' || address[9] != '.') return 0;
+  const bool isHex =
+      HexDigits(text, place, 4) == 4 && HexDigits(text, place + 5, 4) == 4 && HexDigits(text, place + 10, 4) == 4;
+  return isHex && std::ranges::any_of(address, IsLetter) ? kLength : 0;
+}
+
+// Whether the word before the place, on its line, says that a version follows.
+bool IsAfterVersionWord(std::string_view text, std::size_t place) {
+  constexpr std::string_view kWords[] = {"version", "versions", "firmware", "bios", "driver",   "boot", "block",
+                                         "flash",   "build",    "release",  "rev",  "revision", "ver",  "v"};
+  constexpr std::size_t kFarthest = 60;
+  const std::size_t begin = place > kFarthest ? place - kFarthest : 0;
+  std::string_view before = text.substr(begin, place - begin);
+  if (const std::size_t line = before.rfind('\n'); line != before.npos) before.remove_prefix(line + 1);
+  while (!before.empty() && !IsLetter(before.back())) before.remove_suffix(1);
+  std::size_t letters = 0;
+  while (letters < before.size() && IsLetter(before[before.size() - 1 - letters])) ++letters;
+  return std::ranges::count(kWords, FoldCase(before.substr(before.size() - letters))) > 0;
+}
+
+// "10.20.30.40": four numbers up to 255.
+std::size_t Ip4Length(std::string_view text, std::size_t place) {
+  constexpr std::size_t kParts = 4;
+  constexpr unsigned kGreatest = 255;
+  if (place >= 2 && text[place - 1] == '.' && IsWord(text[place - 2])) return 0;  // the end of something longer
+  const char* end = text.data() + place;
+  const char* const last = text.data() + text.size();
+  for (std::size_t part = 0; part < kParts; ++part) {
+    if (part > 0 && (end == last || *end++ != '.')) return 0;
+    unsigned number = 0;
+    const auto [next, failure] = std::from_chars(end, last, number);
+    if (failure != std::errc() || number > kGreatest || next - end > 3) return 0;
+    end = next;
+  }
+  const bool continues = end != last && (IsWord(*end) || (*end == '.' && end + 1 != last && IsWord(end[1])));
+  return continues || IsAfterVersionWord(text, place) ? 0 : static_cast<std::size_t>(end - text.data()) - place;
+}
+
+// "fe80::21b:21ff:feaa:bbcc": eight groups of up to four hexadecimal digits, or fewer with "::" for the others.
+std::size_t Ip6Length(std::string_view text, std::size_t place) {
+  constexpr std::size_t kGroups = 8;
+  constexpr std::size_t kDigits = 4;
+  if (place >= 2 && text[place - 1] == ':' && IsHex(text[place - 2])) return 0;  // the end of something longer
+  std::size_t groups = 0;
+  std::size_t end = place;
+  bool isShort = false;
+  for (std::size_t next = place; HexDigits(text, next, kDigits) > 0 && groups <= kGroups; ++groups) {
+    end = next + HexDigits(text, next, kDigits);
+    if (end - next > kDigits || !text.substr(end).starts_with(':')) {
+      next = text.size();
+    } else {
+      const bool isDouble = text.substr(end).starts_with("::");
+      isShort = isShort || isDouble;
+      next = end + (isDouble ? 2 : 1);
+    }
+  }
+  const bool continues = end < text.size() && IsWord(text[end]);
+  const bool isWhole = isShort ? groups >= 2 && groups < kGroups : groups == kGroups;
+  return isWhole && !continues ? end - place : 0;
 }
 
 // The address around an "@", but no text before begin.
@@ -56,7 +131,7 @@ Span MailAround(std::string_view text, std::size_t at, std::size_t begin) {
 bool BeginsWord(std::string_view text, std::size_t place) {
   if (!IsWord(text[place])) return false;
   if (place == 0 || !IsWord(text[place - 1])) return true;
-  return place >= 2 && text[place - 1] == 'x' && text[place - 2] == '0';  // 0x5000...
+  return place >= 2 && (text[place - 1] == 'x' || text[place - 1] == 'X') && text[place - 2] == '0';  // 0x5000...
 }
 
 }  // namespace
@@ -69,7 +144,8 @@ std::vector<Span> FindAddresses(std::string_view text) {
     if (text[place] == '@') {
       span = MailAround(text, place, begin);
     } else if (BeginsWord(text, place)) {
-      span = {place, std::max(PairsLength(text, place), NameLength(text, place))};
+      span = {place, std::max({PairsLength(text, place), NameLength(text, place), DottedPairsLength(text, place),
+                               Ip4Length(text, place), Ip6Length(text, place)})};
     }
     if (span.length == 0) continue;
     found.push_back(span);

@@ -7,7 +7,8 @@
 
 namespace hxahost {
 
-// Finds addresses by their form: e-mail addresses, MAC addresses and world-wide names, in the order of the text.
+// Finds addresses by their form, in the order of the text: e-mail addresses, IP addresses, MAC addresses and world-wide
+// names. Four numbers are a version, and no IPv4 address, if the word before them says so.
 std::vector<Span> FindAddresses(std::string_view text);
 
 }  // namespace hxahost

@@ -125,8 +125,8 @@ SecretPlaces FindInToolText(std::string_view text, MaskScope scope) {
     if (const std::size_t type = line.find(kDeviceType); type != line.npos) deviceType = line.substr(type);
     const std::size_t first = line.find_first_not_of(kSpaceInLine);
     const char start = first == line.npos ? ' ' : line[first];
-    if (start == '<' || start == 's') AddAttributes(line, begin, places);
     if (start == kLogEntry) places.prose.push_back({begin, line.size()});
+    if (start == '<' || start == 's' || start == kLogEntry) AddAttributes(line, begin, places);
     const LabelledValue labelled = ValueToMask(line, deviceType, scope);
     const Span value = labelled.value.length > 0 ? labelled.value : WrappedValue(line, before);
     if (value.length > 0 && start != '<') places.secrets.push_back({begin + value.begin, value.length});
