@@ -27,6 +27,7 @@ constexpr int kLogLines = 200'000;
 constexpr double kSteepest = 1.1;  // growth: 1 is proportional to the disks, 2 to their square
 
 constexpr const char* kController = "KVRSG_zxSCSIProtocolController";
+constexpr const char* kLogRecord = "KVRSG_LogRecord_RAIDMgrEvent";
 constexpr const char* kViews[] = {"table", "json", "html", "cim-xml", "mof"};
 constexpr const char* kHealthViews[] = {"text", "json", "prometheus"};
 // Three links for each disk, and before them the classes that they link.
@@ -250,7 +251,7 @@ void MeasureGrowth(Table& table, const std::string& program) {
 void MeasureLog(Table& table, const std::string& program) {
   const Machine machine(0);
   setenv("ZENX_RAID_LOG_DIR", (fs::current_path().string() + "/").c_str(), 1);
-  const Command command = {program, "query", "--format", "json", "--class", "KVRSG_LogRecord_RAIDMgrEvent"};
+  const Command command = {program, "query", "--format", "json", "--class", kLogRecord};
   const double without = CostOf(command, true).busy;
   {
     std::ofstream log("RaidEvtA.log", std::ios::binary);
@@ -277,7 +278,7 @@ void MeasureMasking(Table& table, const std::string& program) {
       for (int line = 0; line < lines; ++line) log << "day\tINF\tDBSERVER\tEvent of DBSERVER, 10.20.30.40\r\n";
     }
     const std::string bundle = (folder / "m.bundle").string();
-    OutputOf({program, "query", "--class", kController, "--record", bundle});
+    OutputOf({program, "query", "--class", kLogRecord, "--record", bundle});
     const std::string masked = (folder / "masked.bundle").string();
     std::vector<double> runs;
     for (int round = 0; round < 3; ++round) {
