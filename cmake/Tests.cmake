@@ -98,8 +98,3 @@ if(NOT CMAKE_CROSSCOMPILING)
   add_test(NAME browser COMMAND node ${CMAKE_SOURCE_DIR}/tests/browser/run.mjs ${CMAKE_BINARY_DIR})
   set_tests_properties(browser PROPERTIES TIMEOUT 900)
 endif()
-
-# Limits of addresses are not for sanitizers.
-if(ZENX_SANITIZE)
-  set_source_files_properties(tests/end_to_end/posix/input_files_test.cpp PROPERTIES COMPILE_DEFINITIONS ZENX_SANITIZED)
-endif()

@@ -149,31 +149,4 @@ TEST(InputFiles, AStreamIsReadUpToTheLimit) {
   EXPECT_THAT(other.err, HasSubstr("Standard input is no bundle"));
 }
 
-// With 300 MB of address space, the program has room for itself but not for the file. Sanitizers need more.
-#ifndef ZENX_SANITIZED
-TEST(InputFiles, ThatDoNotFitIntoTheMemoryAreRefusedInOneLineWithAdvice) {
-  const TemporaryFolder folder;
-  const fs::path large = folder.Write("large", "");
-  fs::resize_file(large, std::uintmax_t{250} << 20U);
-  const std::string named = Utf8FromPath(large);
-  const Texts commands[] = {
-      {"query",  "--replay", named},
-      {"status", "--replay", named},
-      {"diff",   named,      named},
-      {"bundle", "list",     named},
-  };
-  for (const Texts& arguments : commands) {
-    const ProgramResult result = RunFromShell("ulimit -v 300000; exec \"$0\" \"$@\"", arguments);
-    EXPECT_GE(result.exitStatus, 1) << arguments.front();
-    EXPECT_LE(result.exitStatus, 3) << arguments.front();
-    EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << arguments.front() << result.err;
-    EXPECT_THAT(result.err, HasSubstr("There is not enough memory: ")) << arguments.front();
-  }
-  const ProgramResult nagios =
-      RunFromShell("ulimit -v 300000; exec \"$0\" \"$@\"", {"health", "--format", "nagios", "--replay", named});
-  EXPECT_EQ(nagios.exitStatus, 3);
-  EXPECT_THAT(nagios.out, HasSubstr("There is not enough memory: "));
-}
-#endif
-
 }  // namespace
