@@ -132,6 +132,15 @@ std::string WithValue(const std::string& value) {
 }
 
 // Comparing each key with all others takes a minute for a hundred thousand keys.
+TEST(JsonResult, RejectsAMachineWhoseNameIsTooLong) {
+  const auto read = [](std::size_t length) {
+    return hxahost::ParseJsonResult(
+        R"({"format": 1, "machine": ")" + std::string(length, 'm') + R"(", "queries": [{"instances": []}]})", "r");
+  };
+  EXPECT_EQ(read(1000).machine.size(), 1000U);
+  EXPECT_THROW(read(1001), hxahost::ProgramError);
+}
+
 TEST(JsonResult, RejectsAnObjectWithMoreKeysThanAnyResultHas) {
   const auto result = [](int keys) {
     std::string properties;

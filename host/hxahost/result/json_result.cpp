@@ -87,6 +87,14 @@ bool AddItems(Items& items, const Json& query, const char* name, Read read) {
   return true;
 }
 
+// Some formats repeat the name on each line: a long one multiplies the size of the output.
+std::string ReadMachineName(const Json& json) {
+  constexpr std::size_t kLongest = 1000;
+  std::string name = Member(json, "machine", Json::value_t::string);
+  if (name.size() > kLongest) throw NoResult(fmt::format("the machine's name has more than {} bytes", kLongest));
+  return name;
+}
+
 JsonResult ReadWholeResult(const Json& json) {
   if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
   const Json& format = Member(json, "format", Json::value_t::number_unsigned);
@@ -94,7 +102,7 @@ JsonResult ReadWholeResult(const Json& json) {
   const Json& queries = Member(json, "queries", Json::value_t::array);
   if (queries.empty()) throw NoResult("it has no query");
   JsonResult result;
-  result.machine = Member(json, "machine", Json::value_t::string);
+  result.machine = ReadMachineName(json);
   if (json.contains("time")) result.time = Member(json, "time", Json::value_t::string);
   result.isReplayed = json.contains("replayed");
   result.isMasked = json.contains("masked");
@@ -132,7 +140,7 @@ JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
 void AddJsonLine(JsonResult& result, std::string_view line) {
   const Json json = Json::parse(line, Bounds(), false);
   if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
-  result.machine = Member(json, "machine", Json::value_t::string);
+  result.machine = ReadMachineName(json);
   result.time = Member(json, "time", Json::value_t::string);
   result.isReplayed = json.contains("replayed");
   result.isMasked = json.contains("masked");
