@@ -116,7 +116,7 @@ class Machine {
         {1, text}
     };
     header_ = machine_.Header();
-    header_.machine = text;
+    header_.machine = text.substr(0, 400);  // a longer name is refused when it is read
     header_.layout.width = kWidestLayout;
     result_ = machine_.Result();
   }

@@ -8,8 +8,8 @@
 #include "host/hxahost/system/this_program.h"
 
 int main(int argc, char** argv) {
+  const hxahost::StandardStreams streams;
   hxahost::SetSignals();
   hxahost::EndWhenAsked(NKVRHXA20::StopRuns);
-  const hxahost::StandardStreams streams;
   return hxahost::RunProgram(hxahost::ProgramArguments(argc, argv), std::cout, std::cerr);
 }

@@ -1,4 +1,4 @@
-// Settings that the program inherits from its parent: ignored signals and limits.
+// Settings that the program inherits from its parent: ignored signals, limits, and closed streams.
 
 #include <csignal>
 #include <filesystem>
@@ -44,6 +44,35 @@ TEST(Signals, CrashesAreReportedIfTheParentIgnoresTheEndsOfItsChildren) {
   const auto runs = nlohmann::json::parse(result.out)["queries"][0]["runs"];
   EXPECT_GT(runs.size(), 0U);
   for (const auto& run : runs) EXPECT_EQ(run["failure"], "it was ended by the system: signal 6");
+}
+
+// A file that the program opens must not get the number of a closed stream: what goes to the stream would go there.
+TEST(Signals, NoFileReceivesWhatGoesToAClosedStream) {
+  struct Case {
+    const char* closing;
+    int exitStatus;
+  };
+  constexpr Case kCases[] = {
+      {"",               0},
+      {"0<&-",           0},
+      {"1>&-",           1},
+      {"2>&-",           0},
+      {"0<&- 1>&- 2>&-", 1},
+  };
+  const TemporaryFolder folder;
+  std::string whole;  // the log with all streams open
+  for (const auto& [closing, exitStatus] : kCases) {
+    SCOPED_TRACE(closing);
+    const std::string query = "exec \"$0\" query --replay '" + RecordedSampleMachine() + "' --log '" +
+                              (folder.Path() / "log").string() + "' --record '" + (folder.Path() / "b").string() +
+                              "' " + closing;
+    EXPECT_EQ(RunningProgram("/bin/sh", {"-c", query, HxahostPath().string()}).Wait().exitStatus, exitStatus);
+    const std::string log = FileText(folder.Path() / "log");
+    if (whole.empty()) whole = log;
+    EXPECT_EQ(log, whole);
+    EXPECT_EQ(RunHxahost({"bundle", "list", (folder.Path() / "b").string()}).exitStatus, 0);
+  }
+  EXPECT_FALSE(whole.empty());
 }
 
 // The bundle contains the output of the utilities even if nobody reads the result.

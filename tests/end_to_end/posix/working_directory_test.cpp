@@ -32,6 +32,14 @@ std::string GoodResult(const MachineCopy& machine) {
   return RunFromShell("cd '" + machine.Directory() + "' && exec \"$0\" \"$@\"", kFixed).out;
 }
 
+TEST(TemporaryFolders, ThatAreMissingAreReportedWithAdvice) {
+  const ProgramResult result =
+      RunFromShell("TMPDIR=/nothing exec \"$0\" \"$@\"", {"diff", RecordedSampleMachine(), RecordedSampleMachine()});
+  EXPECT_EQ(result.exitStatus, 2);
+  EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << result.err;
+  EXPECT_THAT(result.err, HasSubstr("set TMPDIR"));
+}
+
 TEST(WorkingDirectory, ThatWasDeletedIsReportedInOneLine) {
   const TemporaryFolder folder;
   const std::string place = (folder.Path() / "gone").string();
