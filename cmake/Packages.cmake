@@ -47,9 +47,8 @@ else()
   install(FILES ${documents} DESTINATION share/doc/zenx/docs)
   install(DIRECTORY docs/images DESTINATION share/doc/zenx/docs)
   install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME zenx)
-  add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/hxahost.1
-    COMMAND hxahost manual > ${CMAKE_BINARY_DIR}/hxahost.1 DEPENDS hxahost VERBATIM)
-  add_custom_target(manual ALL DEPENDS ${CMAKE_BINARY_DIR}/hxahost.1)
+  add_custom_command(TARGET hxahost POST_BUILD VERBATIM
+    COMMAND hxahost manual > ${CMAKE_BINARY_DIR}/hxahost.1 BYPRODUCTS ${CMAKE_BINARY_DIR}/hxahost.1)
   install(CODE "set(zipped_texts \"${CMAKE_BINARY_DIR}/hxahost.1=share/man/man1/hxahost.1;\
 ${CMAKE_SOURCE_DIR}/CHANGELOG.md=share/doc/zenx/changelog\")
     set(licences share/doc/zenx/licences)
