@@ -8,7 +8,7 @@ using namespace hxahost;
 
 Findings Of(std::initializer_list<Severity> severities) {
   Findings findings;
-  for (const Severity severity : severities) findings.push_back({severity, "", "", "", "", "", ""});
+  for (const Severity severity : severities) findings.push_back({severity, "", "", "", "", "", {}});
   return findings;
 }
 

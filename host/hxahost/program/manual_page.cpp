@@ -203,17 +203,26 @@ std::string Section(const ManualCommand& command, const std::vector<ManualComman
   for (const CLI::Option* const option : OptionsOf(*command.app, false)) {
     if (CommandsWith(*option, commands).size() == 1) items += OptionItem(*option);
   }
-  text += List(items);
-  if (command.name.find(' ') != std::string::npos) return text;  // the command above has the examples
-  const CommandText& words = CommandTextOf(command.name);
-  if (!words.exitStatus.empty()) text += ".Pp\n" + Paragraph(fmt::format("Exit status: {}", words.exitStatus));
-  return text;
+  return text + List(items);
+}
+
+// Subcommands have the exit status and the examples of their command.
+bool IsSubcommand(const ManualCommand& command) { return command.name.find(' ') != std::string::npos; }
+
+std::string ExitStatuses(const std::vector<ManualCommand>& commands) {
+  std::string items;
+  for (const ManualCommand& command : commands) {
+    if (IsSubcommand(command)) continue;
+    const std::string_view text = CommandTextOf(command.name).exitStatus;
+    if (!text.empty()) items += ".It Cm " + command.name + "\n" + Paragraph(text);
+  }
+  return ".Sh EXIT STATUS\n" + List(items);
 }
 
 std::string Examples(const std::vector<ManualCommand>& commands) {
   std::string items;
   for (const ManualCommand& command : commands) {
-    if (command.name.find(' ') != std::string::npos) continue;
+    if (IsSubcommand(command)) continue;
     for (const Example& example : CommandTextOf(command.name).examples) {
       items += fmt::format(".It Li {}\n{}\n", Escaped(example.command), Escaped(example.purpose));
     }
@@ -228,7 +237,7 @@ std::string ManualPage(const CLI::App& program) {
   AddCommandsOf(program, "", commands);
   std::string page = std::string(kBegin) + Synopsis(commands) + std::string(kDescription) + ".Sh COMMANDS\n";
   for (const ManualCommand& command : commands) page += Section(command, commands);
-  return page + CommonOptions(commands) + std::string(kEnd) + Examples(commands);
+  return page + CommonOptions(commands) + std::string(kEnd) + ExitStatuses(commands) + Examples(commands);
 }
 
 }  // namespace hxahost
