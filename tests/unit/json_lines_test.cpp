@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 #include <vector>
 
@@ -17,9 +18,9 @@ std::string Line(const std::string& machine, const std::string& time, const std:
          R"(","properties":{}})" + "\n";
 }
 
-std::vector<CollectionLines> Collections(const std::string& text) {
+std::vector<CollectionLines> Collections(const std::string& text, std::uint64_t largest = kLargestInput) {
   std::istringstream in(text);
-  CollectionReader reader(in);
+  CollectionReader reader(in, largest);
   std::vector<CollectionLines> collections;
   while (auto lines = reader.Next()) collections.push_back(std::move(*lines));
   return collections;
@@ -55,6 +56,21 @@ TEST(JsonLinesReader, LeavesALineThatIsCutOffWithThoseBeforeIt) {
     EXPECT_STREQ(error.what(),
                  "f.jsonl line 2 is no line of \"hxahost query --format jsonl\": it is damaged, or no JSON at all.");
   }
+}
+
+TEST(JsonLinesReader, HoldsAResultUpToALimitAndReadsTheNextOne) {
+  const std::string line = Line("A", "1", "a");
+  const std::string longLine = Line("B", "1", std::string(1000, 'x'));
+  for (const std::string& large : {line + line + line, longLine, line + longLine.substr(0, 900)}) {
+    const auto collections = Collections(large + "\n" + Line("C", "1", "c") + Line("C", "1", "d"), 2 * line.size());
+    ASSERT_GE(collections.size(), 1U);
+    const auto tooLarge = std::ranges::find(collections, true, &CollectionLines::isTooLarge);
+    ASSERT_NE(tooLarge, collections.end()) << large;
+    EXPECT_EQ(tooLarge->text, "");
+    EXPECT_THROW(ParseJsonLines(*tooLarge, "f.jsonl"), ProgramError);
+  }
+  EXPECT_EQ(Collections(line + line + line + Line("C", "1", "c"), 2 * line.size()).back().text, Line("C", "1", "c"));
+  EXPECT_FALSE(Collections(line + line, 2 * line.size()).front().isTooLarge);
 }
 
 TEST(JsonLinesReader, GivesTheInstancesTheRunsAndTheLog) {

@@ -36,16 +36,16 @@ std::vector<fs::path> FilesIn(const fs::path& folder) {
   return files;
 }
 
-bool HoldsLines(const fs::path& file) {
+bool HoldsLines(const fs::path& file, std::uint64_t largest) {
   if (!fs::is_regular_file(file)) return false;  // opening a pipe may block for ever
   std::ifstream stream(file, std::ios::binary);
   std::string line;
-  return std::getline(stream, line) && IsInstanceLine(line);
+  return ReadLineUpTo(stream, largest, line) && line.size() <= largest && IsInstanceLine(line);
 }
 
 }  // namespace
 
-FleetInputs::FleetInputs(const std::vector<fs::path>& paths) {
+FleetInputs::FleetInputs(const std::vector<fs::path>& paths, std::uint64_t largest) : largest_(largest) {
   for (const fs::path& path : paths) {
     if (!fs::exists(path)) {
       throw ProgramError(ExitStatus::kWrongArguments,
@@ -63,7 +63,7 @@ std::optional<FleetInput> FleetInputs::NextLines() {
   if (reader_) {
     if (auto lines = reader_->Next()) {
       const fs::path& file = files_[next_ - 1];
-      return FleetInput{Utf8FromPath(file), file, std::move(lines)};
+      return FleetInput{Utf8FromPath(file), file, std::move(lines), largest_};
     }
   }
   reader_.reset();
@@ -74,14 +74,14 @@ std::optional<FleetInput> FleetInputs::Next() {
   if (auto lines = NextLines()) return lines;
   if (next_ == files_.size()) return std::nullopt;
   const fs::path& file = files_[next_++];
-  if (!HoldsLines(file)) return FleetInput{Utf8FromPath(file), file, std::nullopt};
+  if (!HoldsLines(file, largest_)) return FleetInput{Utf8FromPath(file), file, std::nullopt, largest_};
   lines_ = std::ifstream(file, std::ios::binary);
-  reader_.emplace(lines_);
+  reader_.emplace(lines_, largest_);
   return NextLines();
 }
 
 JsonResult ReadFleetInput(const FleetInput& input) {
-  return input.lines ? ParseJsonLines(*input.lines, input.name) : ReadResultOrBundle(input.file);
+  return input.lines ? ParseJsonLines(*input.lines, input.name) : ReadResultOrBundle(input.file, input.largest);
 }
 
 }  // namespace hxahost

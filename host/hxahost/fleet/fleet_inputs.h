@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -9,6 +10,7 @@
 
 #include "host/hxahost/result/json_lines.h"
 #include "host/hxahost/result/json_result.h"
+#include "platform/ordinary_file.h"
 
 namespace hxahost {
 
@@ -17,14 +19,16 @@ struct FleetInput {
   std::string name;                      // for messages: the file, UTF-8
   std::filesystem::path file;            // a JSON result or a bundle
   std::optional<CollectionLines> lines;  // the lines of the collection, if the file contains JSON lines
+  std::uint64_t largest = kLargestInput;  // bytes of the file that are read at most
 };
 
 // The collections in files and folders, in the order of the names. In a folder and its subfolders, only files that end
 // in .json, .jsonl or .bundle are read.
 class FleetInputs {
  public:
-  // Throws ProgramError (wrong arguments) for a path that does not exist.
-  explicit FleetInputs(const std::vector<std::filesystem::path>& paths);
+  // Reads at most so many bytes of a file, and of each collection in a file of JSON lines. Throws ProgramError (wrong
+  // arguments) for a path that does not exist.
+  FleetInputs(const std::vector<std::filesystem::path>& paths, std::uint64_t largest);
 
   // Empty after the last one.
   std::optional<FleetInput> Next();
@@ -34,6 +38,7 @@ class FleetInputs {
  private:
   std::optional<FleetInput> NextLines();
 
+  std::uint64_t largest_;
   std::vector<std::filesystem::path> files_;
   std::size_t next_ = 0;  // place of the next file
   std::ifstream lines_;   // the file before it, while it has lines

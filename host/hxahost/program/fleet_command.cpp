@@ -27,7 +27,7 @@ std::int64_t Now(const QueryOptions& options) {
 
 std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, std::ostream& out, std::ostream& err,
                  Fleet& fleet) {
-  FleetInputs inputs(options.paths);
+  FleetInputs inputs(options.paths, options.shown.collection.inputLimit);
   const auto progress = options.shown.collection.showProgress && StandardErrorIsTerminal()
                             ? std::make_unique<Progress>(err, ProgressWidth())
                             : nullptr;
@@ -40,7 +40,7 @@ std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, 
 // Returns the links to the reports.
 std::map<std::string, std::string> WriteReports(const FleetCommandOptions& options, const Fleet& fleet) {
   if (options.pages.empty()) return {};
-  FleetInputs inputs(options.paths);
+  FleetInputs inputs(options.paths, options.shown.collection.inputLimit);
   WritePages(inputs, options.shown.limits, fleet, options.pages);
   const std::filesystem::path& page = options.shown.output;
   const std::string folder = LinkBetween(page.empty() ? "." : page.parent_path(), options.pages);

@@ -309,6 +309,7 @@ void AddFleet(CLI::App& fleet, TypedOptions& typed) {
   AddPath(fleet, "--pages", "DIR", typed.fleet.pages,
           "With --format html, write the report of each machine to this folder and link to it");
   AddLocalTime(fleet, typed);
+  AddInputLimit(fleet, typed);
   fleet.add_flag("--no-progress", typed.noProgress, "Do not show the current file on a terminal");
   AddLimits(fleet, typed);
   AddLayout(fleet, typed);
@@ -437,6 +438,7 @@ CommandLine ReadFleetCommand(const CLI::App& fleet, const TypedOptions& typed) {
   line.fleet = typed.fleet;
   line.fleet.shown = ReadShown(fleet, typed);
   line.fleet.shown.format = typed.fleet.shown.format;
+  line.fleet.shown.collection.inputLimit = ReadInputLimit(typed.inputLimit);
   CheckFormat("fleet", line.fleet.shown.format);
   if (!line.fleet.pages.empty() && line.fleet.shown.format != "html") {
     throw ProgramError(ExitStatus::kWrongArguments,

@@ -26,7 +26,7 @@ std::string HeadOf(std::string_view line) {
 }  // namespace
 
 bool CollectionReader::ReadLine() {
-  while (std::getline(in_, line_)) {
+  while (ReadLineUpTo(in_, largest_, line_)) {
     ++number_;
     if (!Trim(line_).empty()) return true;
   }
@@ -36,15 +36,33 @@ bool CollectionReader::ReadLine() {
 
 std::optional<CollectionLines> CollectionReader::Next() {
   if (line_.empty() && !ReadLine()) return std::nullopt;
-  CollectionLines lines{line_ + "\n", number_};
-  const std::string head = HeadOf(line_);
+  CollectionLines lines{"", number_, largest_};
+  AddTo(lines);
+  const std::string head = lines.isTooLarge ? "" : HeadOf(line_);
   while (ReadLine()) {
-    const bool isNext = !head.empty() && !line_.starts_with(head);
+    const bool isTooLong = line_.size() > largest_;
+    const bool isNext = !head.empty() && !isTooLong && !line_.starts_with(head);
     const std::string other = isNext ? HeadOf(line_) : head;
     if (isNext && !other.empty() && other != head) return lines;
-    lines.text += line_ + "\n";
+    AddTo(lines);
   }
   return lines;
+}
+
+void CollectionReader::AddTo(CollectionLines& lines) const {
+  lines.isTooLarge = lines.isTooLarge || lines.text.size() + line_.size() > largest_;
+  lines.text = lines.isTooLarge ? "" : std::move(lines.text) + line_ + "\n";
+}
+
+bool ReadLineUpTo(std::istream& in, std::uint64_t largest, std::string& line) {
+  using Traits = std::istream::traits_type;
+  line.clear();
+  int next = in.rdbuf()->sbumpc();
+  if (next == Traits::eof()) return false;
+  for (; next != Traits::eof() && next != '\n'; next = in.rdbuf()->sbumpc()) {
+    if (line.size() <= largest) line += Traits::to_char_type(next);
+  }
+  return true;
 }
 
 bool IsInstanceLine(std::string_view line) {
@@ -52,6 +70,11 @@ bool IsInstanceLine(std::string_view line) {
 }
 
 JsonResult ParseJsonLines(const CollectionLines& lines, const std::string& name) {
+  if (lines.isTooLarge) {
+    throw ProgramError(ExitStatus::kWrongArguments,
+                       fmt::format("{} line {}: the result that begins there is {}: allow more with --input-limit.",
+                                   Printable(name), lines.first, LargerThan(lines.largest)));
+  }
   JsonResult result;
   std::size_t number = lines.first;
   for (const std::string_view line : Split(std::string_view(lines.text).substr(0, lines.text.size() - 1), "\n")) {
