@@ -57,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const FuzzedMachine machine(nothing, 0, {});
   AnswerAs(RecordedSystem{
       {.isWindowsNt = true, .major = 6, .minor = 1},
-      "C:\\", std::string(bytes)
+      "C:\\", std::make_shared<const std::string>(bytes)
   });
   const std::string text = WithLineFeeds(bytes);
   Require(ReadAll(text) == ReadAll(text), "the same log produces the same records");

@@ -19,7 +19,6 @@ namespace {
 
 constexpr const char* kSubFolder = "KVR\\Zentraxis Manager\\";
 constexpr const char* kFileName = "RaidEvtA.log";
-constexpr const char* kNotRead = "RAID manager log not read: ";
 
 }  // namespace
 
@@ -77,7 +76,8 @@ bool CollectRaidMgrData::OpenRaidMgrLog() {
   const RecordedSystem* const recorded = AnswersInPlace();
   file_ = recorded != nullptr ? TextFile(recorded->raidLog) : TextFile(nativePath, LargestRaidLog());
   if (!file_.IsOpen()) {
-    if (!file_.Refusal().empty()) Log(host_, kLogProblem, kNotRead + path_ + ": " + file_.Refusal() + ".");
+    const std::string& refusal = recorded != nullptr ? recorded->raidLogRefusal : file_.Refusal();
+    if (!refusal.empty()) Log(host_, kLogProblem, kRaidLogNotRead + path_ + ": " + refusal + ".");
     // The path ends in the file's name already: it is twice in this line.
     Log(host_, kLogRoutine, path_ + kFileName + " not found.");
     return false;

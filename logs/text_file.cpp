@@ -10,9 +10,7 @@ TextFile::TextFile(const std::string& nativePath, std::uint64_t largest) {
   if (!opened.isMissing) refusal_ = opened.refusal;
 }
 
-TextFile::TextFile(const std::optional<std::string>& recorded) {
-  if (recorded) recorded_.emplace(*recorded);
-}
+TextFile::TextFile(std::shared_ptr<const std::string> recorded) : recorded_(std::move(recorded)) {}
 
 std::string TextFile::ReadLine() {
   std::string line = Gets();
@@ -47,12 +45,16 @@ std::string TextFile::Gets() {
   return line;
 }
 
-int TextFile::GetNext() { return file_ ? std::getc(file_.get()) : recorded_->get(); }
+int TextFile::GetNext() {
+  if (file_) return std::getc(file_.get());
+  hasMetEnd_ = next_ == recorded_->size();
+  return hasMetEnd_ ? EOF : static_cast<unsigned char>((*recorded_)[next_++]);
+}
 
 void TextFile::PutBack(int character) {
   if (file_) {
     std::ungetc(character, file_.get());
   } else if (character != EOF) {
-    recorded_->unget();
+    --next_;
   }
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <optional>
-#include <sstream>
+#include <memory>
 #include <string>
 
 #include "platform/ordinary_file.h"
@@ -21,8 +21,8 @@ class TextFile {
   // Open if the system opens the path for reading and finds an ordinary file of at most so many bytes there.
   explicit TextFile(const std::string& nativePath, std::uint64_t largest = kLargestInput);
 
-  // What a file held when it was recorded; not open where there was none.
-  explicit TextFile(const std::optional<std::string>& recorded);
+  // What a file held when it was recorded; null, and not open, where there was none.
+  explicit TextFile(std::shared_ptr<const std::string> recorded);
 
   bool IsOpen() const { return file_ || recorded_; }
 
@@ -30,7 +30,7 @@ class TextFile {
   const std::string& Refusal() const { return refusal_; }
 
   // Whether a read has run into the end. True only after it has: not yet when a read stopped just before.
-  bool HasMetEnd() const { return file_ ? std::feof(file_.get()) != 0 : recorded_ && recorded_->eof(); }
+  bool HasMetEnd() const { return file_ ? std::feof(file_.get()) != 0 : recorded_ && hasMetEnd_; }
 
   // The next line with its line feed. "" when there is nothing left, when the file cannot be read further, and when it
   // is not open.
@@ -43,5 +43,7 @@ class TextFile {
 
   UniqueStream file_;
   std::string refusal_;
-  std::optional<std::istringstream> recorded_;  // read as a file is
+  std::shared_ptr<const std::string> recorded_;  // read as a file is
+  std::size_t next_ = 0;                         // of its bytes
+  bool hasMetEnd_ = false;
 };

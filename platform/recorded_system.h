@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -8,9 +9,14 @@
 // What the system of a machine answered when a collection was recorded on it.
 struct RecordedSystem {
   OsVersion version;
-  std::optional<std::string> raidLogDir;  // the registry's value; nothing: it has none
-  std::optional<std::string> raidLog;     // the bytes of the RAID manager's log; nothing: it cannot be opened
+  std::optional<std::string> raidLogDir;       // the registry's value; nothing: it has none
+  std::shared_ptr<const std::string> raidLog;  // the bytes of the RAID manager's log; null: it cannot be opened
+  std::string raidLogRefusal = {};             // why it is not opened although it is there; "" where it is not there, too
 };
+
+// Begins the log's entry on a RAID manager's log that is there and is not opened; ": ", the reason and a full stop follow
+// its path.
+inline constexpr const char* kRaidLogNotRead = "RAID manager log not read: ";
 
 // From here on it answers in the place of the system, to all that this library asks; nothing: the system answers.
 void AnswerAs(std::optional<RecordedSystem> recorded);

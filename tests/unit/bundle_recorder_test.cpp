@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <new>
+#include <sstream>
 
 #include "host/hxahost/bundle/bundle_replay.h"
+#include "host/hxahost/bundle/read_bundle.h"
 #include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/raid_log_setting.h"
 #include "tests/support/sample_bundle.h"
@@ -42,6 +44,32 @@ TEST(BundleRecorder, KeepsEveryAnswerOfTheServices) {
   // The system of the test has a version of its own.
   recorded.osVersion = SampleBundle().osVersion;
   EXPECT_EQ(WriteBundle(recorded), WriteBundle(SampleBundle()));
+}
+
+TEST(BundleRecorder, WritesTheSameBundleWithoutHoldingItInMemory) {
+  BundleReplay replay(SampleBundle());
+  BundleRecorder recorder(18, "C:\\tools");
+  const HostServices services = recorder.Wrap(replay.Services());
+  AskForAll(services, SampleBundle());
+  std::ostringstream out;
+  recorder.Write(out);
+  EXPECT_EQ(out.str(), WriteBundle(recorder.Recorded()));
+  EXPECT_EQ(recorder.Recorded().runs[0].result.output, SampleBundle().runs[0].result.output);
+}
+
+TEST(BundleRecorder, NotesALogThatThePlugInDoesNotOpen) {
+  BundleRecorder recorder(std::nullopt, "");
+  const HostServices services = recorder.Wrap(RealServices());
+  services.log(3, "RAID manager log not read");
+  services.log(3, "C:\\RaidEvtA.log not found.");
+  EXPECT_FALSE(recorder.Recorded().raidLog);
+  services.log(1, "RAID manager log not read: C:\\RaidEvtA.log: it is larger than 256 MiB.");
+  const Bundle bundle = recorder.Recorded();
+  ASSERT_TRUE(bundle.raidLog);
+  EXPECT_EQ(bundle.raidLog->path, "C:\\RaidEvtA.log");
+  EXPECT_EQ(bundle.raidLog->failure->kind, FailureKind::kNotOpened);
+  EXPECT_EQ(bundle.raidLog->failure->message, "it is larger than 256 MiB");
+  EXPECT_EQ(ReadBundle(WriteBundle(bundle)).raidLog->failure->message, "it is larger than 256 MiB");
 }
 
 TEST(BundleRecorder, RecordsTheSystemThatThePlugInSees) {

@@ -79,7 +79,7 @@ TEST(ReadBundle, BringsBackOutputsOfAllBytes) {
 TEST(ReadBundle, BringsBackEveryKindOfFailure) {
   constexpr FailureKind kKinds[] = {FailureKind::kNotInstalled, FailureKind::kNotAsked, FailureKind::kNotStarted,
                                     FailureKind::kTooLong,      FailureKind::kNotEnded, FailureKind::kTooMuchOutput,
-                                    FailureKind::kHost,         FailureKind::kOther};
+                                    FailureKind::kNotOpened,    FailureKind::kHost,     FailureKind::kOther};
   for (const FailureKind kind : kKinds) {
     Bundle bundle = SampleBundle();
     bundle.runs[2].failure->kind = kind;

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
+
 #include "host/hxahost/bundle/bundle.h"
 #include "logs/collect_raid_mgr_data.h"
 #include "platform/device_setup.h"
@@ -23,7 +26,7 @@ TEST(RecordedSystem, AnswersInThePlaceOfTheRealOneAndOnlyWhileItIsSet) {
   {
     const RecordedSystemSetting system({
         {true, 5, 2},
-        "", std::nullopt
+        "", nullptr
     });
     EXPECT_TRUE(GetOsVersion().isWindowsNt);
     EXPECT_EQ(GetOsVersion().major, 5U);
@@ -41,12 +44,12 @@ TEST(RecordedSystem, AnswersInThePlaceOfTheRealOneAndOnlyWhileItIsSet) {
 TEST(RecordedSystem, IsNoWindowsAndHasNoLogWhereThatWasRecorded) {
   ScriptedServices services;
   const RaidLogMachine machine(services, "here is one\n");
-  const RecordedSystemSetting system(SystemOf(hxahost::Bundle()));
+  const RecordedSystemSetting system(SystemOf(std::make_shared<const hxahost::Bundle>()));
   EXPECT_FALSE(GetOsVersion().isWindowsNt);
   EXPECT_EQ(LogDir(), std::nullopt);
   const RecordedSystemSetting withFolder({
       {true, 6, 1},
-      machine.Folder(), std::nullopt
+      machine.Folder(), nullptr
   });
   RecordingLog log;
   unsigned counter = 0;
@@ -55,7 +58,7 @@ TEST(RecordedSystem, IsNoWindowsAndHasNoLogWhereThatWasRecorded) {
 
 TEST(RecordedSystem, HasTheLogUnderThePathThatItHadThere) {
   ScriptedServices services;
-  const RecordedSystemSetting system(SystemOf(SampleBundle()));
+  const RecordedSystemSetting system(SystemOf(std::make_shared<const hxahost::Bundle>(SampleBundle())));
   const std::string path = "C:\\ZXM\\KVR\\Zentraxis Manager\\RaidEvtA.log";
   services.files[NativePath(path)] = SampleBundle().raidLog->bytes;
   RecordingLog log;
@@ -68,6 +71,19 @@ TEST(RecordedSystem, HasTheLogUnderThePathThatItHadThere) {
   EXPECT_EQ(collector.ReadNextRecord(), RaidMgrRead::kRecord);
   EXPECT_EQ(collector.CurrentRecord().Message, "message\n");
   EXPECT_EQ(collector.ReadNextRecord(), RaidMgrRead::kEnd);
+}
+
+TEST(RecordedSystem, RefusesTheLogThatWasRefusedThereWithTheSameWords) {
+  hxahost::Bundle bundle = SampleBundle();
+  bundle.raidLog->bytes = "";
+  bundle.raidLog->failure = hxahost::RecordedFailure{hxahost::FailureKind::kNotOpened, "it is no ordinary file"};
+  const RecordedSystemSetting system(SystemOf(std::make_shared<const hxahost::Bundle>(bundle)));
+  RecordingLog log;
+  unsigned counter = 0;
+  EXPECT_FALSE(CollectRaidMgrData(&log, counter).LogAvailable());
+  const std::string said =
+      "RAID manager log not read: C:\\ZXM\\KVR\\Zentraxis Manager\\RaidEvtA.log: it is no ordinary file.";
+  EXPECT_EQ(std::ranges::count(log.entries, said, &LogEntry::text), 1);
 }
 
 }  // namespace

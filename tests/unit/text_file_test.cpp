@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -16,7 +18,7 @@ Lines Read(std::string_view bytes) {
   Lines lines;
   for (std::string line = file.ReadLine(); !line.empty(); line = file.ReadLine()) lines.push_back(line);
   EXPECT_TRUE(file.HasMetEnd());
-  TextFile recorded{std::optional<std::string>(bytes)};
+  TextFile recorded(std::make_shared<const std::string>(bytes));
   for (const std::string& line : lines) {
     EXPECT_FALSE(recorded.HasMetEnd());
     EXPECT_EQ(recorded.ReadLine(), line);

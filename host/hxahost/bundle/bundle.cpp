@@ -14,6 +14,7 @@ void Throw(const RecordedFailure& failure, double seconds) {
     case FailureKind::kTooLong: throw TSpawnException(SpawnFailure::kTooLong, failure.message, seconds);
     case FailureKind::kNotEnded: throw TSpawnException(SpawnFailure::kNotEnded, failure.message, seconds);
     case FailureKind::kTooMuchOutput: throw TSpawnException(SpawnFailure::kTooMuchOutput, failure.message, seconds);
+    case FailureKind::kNotOpened:
     case FailureKind::kHost: throw THXAException(failure.message);
     case FailureKind::kOther: break;
   }
@@ -31,9 +32,15 @@ std::string CommandText(const RecordedRun& run) {
   return text;
 }
 
-RecordedSystem SystemOf(const Bundle& bundle) {
-  RecordedSystem system{bundle.osVersion, bundle.raidLogDir, std::nullopt};
-  if (bundle.raidLog) system.raidLog = bundle.raidLog->bytes;
+RecordedSystem SystemOf(const std::shared_ptr<const Bundle>& bundle) {
+  RecordedSystem system{bundle->osVersion, bundle->raidLogDir, nullptr};
+  if (!bundle->raidLog) return system;
+  const std::optional<RecordedFailure>& failure = bundle->raidLog->failure;
+  if (failure && failure->kind == FailureKind::kNotOpened) {
+    system.raidLogRefusal = failure->message;
+  } else {
+    system.raidLog = {bundle, &bundle->raidLog->bytes};
+  }
   return system;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,8 +23,9 @@ enum class FailureKind {
   kTooLong,
   kNotEnded,
   kTooMuchOutput,
-  kHost,   // any other failure of the host's own kind, which plug-ins expect
-  kOther,  // what no plug-in expects, such as no memory
+  kNotOpened,  // a file
+  kHost,       // any other failure of the host's own kind, which plug-ins expect
+  kOther,      // what no plug-in expects, such as no memory
 };
 
 struct RecordedFailure {
@@ -49,11 +51,11 @@ NKVRHXA20::SpawnResult Repeat(const RecordedRun& run);
 // "zenx//arcconf.exe getconfig 1 al", unescaped.
 std::string CommandText(const RecordedRun& run);
 
-// The RAID manager's log, where it was there to be opened.
+// The RAID manager's log, where it was there.
 struct RecordedLog {
   std::string path;
   std::string bytes;
-  std::optional<RecordedFailure> failure;  // why it could not be captured, although it could be opened
+  std::optional<RecordedFailure> failure;  // why it was not opened, or could not be captured although it was
 };
 
 // A reading of the clock, and how often it occurs in a row: several readings fall within one tick.
@@ -77,8 +79,8 @@ struct Bundle {
   std::optional<RecordedLog> raidLog;
 };
 
-// What is passed to the plug-in about the system in a replay.
-RecordedSystem SystemOf(const Bundle& bundle);
+// What is passed to the plug-in about the system in a replay. The bytes of the log stay in the bundle.
+RecordedSystem SystemOf(const std::shared_ptr<const Bundle>& bundle);
 
 // The items of a bundle are counted from 1: the runs, then the log.
 std::size_t ItemCount(const Bundle& bundle);

@@ -1,10 +1,13 @@
 #include "host/hxahost/bundle/bundle_recorder.h"
 
 #include <exception>
+#include <string_view>
 #include <utility>
 
 #include "host/hxacore/whole_file.h"
+#include "host/hxahost/bundle/write_bundle.h"
 #include "platform/raid_manager_key.h"
+#include "platform/recorded_system.h"
 #include "platform/registry.h"
 
 using namespace NKVRHXA20;
@@ -38,7 +41,9 @@ RecordedFailure CurrentFailure() {
 
 }  // namespace
 
-BundleRecorder::BundleRecorder(std::optional<std::uint16_t> osType, std::string directory) {
+BundleRecorder::BundleRecorder(std::optional<std::uint16_t> osType, std::string directory,
+                               const std::filesystem::path& scratchFolder)
+    : scratch_(scratchFolder) {
   bundle_.program = ZENX_VERSION;
   bundle_.directory = std::move(directory);
   bundle_.osType = osType;
@@ -55,6 +60,10 @@ HostServices BundleRecorder::Wrap(HostServices services) {
   recording.capture = [this, capture = std::move(services.capture)](const std::string& path) {
     return Capture(capture, path);
   };
+  recording.log = [this, log = std::move(services.log)](int level, const std::string& text) {
+    ReadLogEntry(text);
+    log(level, text);
+  };
   recording.machineName = [this, machineName = std::move(services.machineName)] {
     return bundle_.machine = machineName();
   };
@@ -68,9 +77,15 @@ HostServices BundleRecorder::Wrap(HostServices services) {
 
 // A run is added when it starts, so runs are in the order of their starts.
 SpawnResult BundleRecorder::Spawn(const SpawnFunction& spawn, RecordedRun started) {
+  outputs_.emplace_back();
   RecordedRun& run = bundle_.runs.emplace_back(std::move(started));
   try {
-    return run.result = spawn(run.path, run.arguments, run.limitSeconds);
+    SpawnResult result = spawn(run.path, run.arguments, run.limitSeconds);
+    outputs_.back() = scratch_.Append(result.output);
+    std::string output = std::exchange(result.output, {});
+    run.result = result;
+    result.output = std::move(output);
+    return result;
   } catch (const TSpawnException& failure) {
     run.failure = {KindOf(failure.Failure()), failure.what()};
     run.result.seconds = failure.Seconds();
@@ -83,6 +98,7 @@ SpawnResult BundleRecorder::Spawn(const SpawnFunction& spawn, RecordedRun starte
 
 void BundleRecorder::AddNotAsked(const std::string& path, const std::vector<std::string>& arguments,
                                  const std::string& message) {
+  outputs_.emplace_back();
   bundle_.runs.push_back({
       path, arguments, 0, {       },
          RecordedFailure{ FailureKind::kNotAsked, message}
@@ -95,13 +111,39 @@ std::string BundleRecorder::Capture(const std::function<std::string(const std::s
   RecordedLog& log = bundle_.raidLog.emplace();
   log.path = path;
   try {
-    log.bytes = capture(path);
+    std::string bytes = capture(path);
+    log_ = scratch_.Append(bytes);
+    return bytes;
   } catch (...) {
     log.failure = CurrentFailure();
-    log.bytes = ReadWholeFile(path).bytes;  // the plug-in reads it all the same, as far as it can
+    log_ = scratch_.Append(ReadWholeFile(path).bytes);  // the plug-in reads it all the same, as far as it can
     throw;
   }
-  return log.bytes;
+}
+
+Bundle BundleRecorder::Recorded() const {
+  Bundle bundle = bundle_;
+  for (std::size_t run = 0; run < outputs_.size(); ++run) bundle.runs[run].result.output = scratch_.Read(outputs_[run]);
+  if (bundle.raidLog) bundle.raidLog->bytes = scratch_.Read(log_);
+  return bundle;
+}
+
+void BundleRecorder::Write(std::ostream& out) const {
+  WriteBundle(
+      out, bundle_, [this](std::size_t run) { return scratch_.Read(outputs_[run]); },
+      [this] { return scratch_.Read(log_); });
+}
+
+// A log that the plug-in does not open passes through no service: all that it says of it is this entry.
+void BundleRecorder::ReadLogEntry(const std::string& text) {
+  constexpr std::string_view kColon = ": ";
+  const std::size_t path = std::string_view(kRaidLogNotRead).size();
+  const std::size_t colon = text.rfind(kColon);
+  if (!text.starts_with(kRaidLogNotRead) || !text.ends_with('.') || colon < path) return;
+  const std::size_t reason = colon + kColon.size();
+  RecordedLog& log = bundle_.raidLog.emplace();
+  log.path = text.substr(path, colon - path);
+  log.failure = {FailureKind::kNotOpened, text.substr(reason, text.size() - 1 - reason)};
 }
 
 void BundleRecorder::AddTime(const TCIMDateTime& time) {

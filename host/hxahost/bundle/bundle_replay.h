@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -22,7 +23,8 @@ class BundleReplay {
  public:
   explicit BundleReplay(Bundle bundle);
 
-  const Bundle& Recorded() const { return bundle_; }
+  const Bundle& Recorded() const { return *bundle_; }
+  const std::shared_ptr<const Bundle>& SharedBundle() const { return bundle_; }
 
   // This must outlive them. A repeated command gets its recorded answers in their order, and then the last one again.
   // The clock does the same.
@@ -50,7 +52,7 @@ class BundleReplay {
   NKVRHXA20::TCIMDateTime LocalTime();
   [[noreturn]] void ThrowMissing(const std::string& what);
 
-  Bundle bundle_;
+  std::shared_ptr<const Bundle> bundle_;
   std::map<std::vector<std::string>, SameRuns> runs_;  // by path and arguments
   std::size_t time_ = 0;                               // the place of the current time
   std::size_t timesUsed_ = 0;                          // how often it was returned

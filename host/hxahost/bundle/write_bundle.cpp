@@ -79,7 +79,7 @@ void AddHeader(BundleText& text, const Bundle& bundle) {
   Add(text, "items", std::to_string(ItemCount(bundle)));
 }
 
-void AddRun(BundleText& text, const RecordedRun& run) {
+void AddRun(BundleText& text, const RecordedRun& run, const std::string& output) {
   Add(text, "path", Quote(run.path));
   for (const std::string& argument : run.arguments) Add(text, "argument", Quote(argument));
   Add(text, "limit", std::to_string(run.limitSeconds));
@@ -87,28 +87,35 @@ void AddRun(BundleText& text, const RecordedRun& run) {
   if (run.failure) return AddFailure(text, *run.failure);
   Add(text, "exit-status", run.result.exitStatus ? std::to_string(*run.result.exitStatus) : std::string(kNone));
   Add(text, "ending", Quote(run.result.ending));
-  AddBytes(text, "output", run.result.output);
+  AddBytes(text, "output", output);
 }
 
-void AddLog(BundleText& text, const RecordedLog& log) {
+void AddLog(BundleText& text, const RecordedLog& log, const std::string& bytes) {
   Add(text, "path", Quote(log.path));
   if (log.failure) AddFailure(text, *log.failure);
-  AddBytes(text, "content", log.bytes);
+  AddBytes(text, "content", bytes);
 }
 
 }  // namespace
 
 void WriteBundle(std::ostream& out, const Bundle& bundle) {
+  WriteBundle(
+      out, bundle, [&](std::size_t run) { return bundle.runs[run].result.output; },
+      [&] { return bundle.raidLog->bytes; });
+}
+
+void WriteBundle(std::ostream& out, const Bundle& bundle, const std::function<std::string(std::size_t run)>& output,
+                 const std::function<std::string()>& log) {
   BundleText text(out);
   AddHeader(text, bundle);
   std::size_t number = 0;
   for (const RecordedRun& run : bundle.runs) {
     text += fmt::format("\nrun {}\n", ++number);
-    AddRun(text, run);
+    AddRun(text, run, output(number - 1));
   }
   if (bundle.raidLog) {
     text += fmt::format("\nraid-log {}\n", ++number);
-    AddLog(text, *bundle.raidLog);
+    AddLog(text, *bundle.raidLog, log());
   }
   text += "\n";
   out << kEnd << HexText(text.Crc()) << '\n';

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <ostream>
 #include <string>
 
@@ -9,6 +11,10 @@ namespace hxahost {
 
 // A bundle as one file of text: docs/bundles.md describes it.
 void WriteBundle(std::ostream& out, const Bundle& bundle);
+
+// The same of a bundle whose outputs, by the places of their runs, and bytes of the log are elsewhere.
+void WriteBundle(std::ostream& out, const Bundle& bundle, const std::function<std::string(std::size_t run)>& output,
+                 const std::function<std::string()>& log);
 std::string WriteBundle(const Bundle& bundle);
 
 }  // namespace hxahost

@@ -46,6 +46,14 @@ std::optional<CollectionLock> TakeLock(const CollectionOptions& options, std::os
   return std::optional<CollectionLock>(std::in_place, "zenx", options.longestWait, err);
 }
 
+// Beside the bundle, where there is room for it; the system's folder where it is written to no file.
+fs::path ScratchFolder(const fs::path& bundle) {
+  std::error_code ignored;
+  const bool isFile =
+      bundle != kStandardStream && (!fs::exists(bundle, ignored) || fs::is_regular_file(bundle, ignored));
+  return isFile ? bundle.parent_path() : fs::temp_directory_path();
+}
+
 }  // namespace
 
 Collection::Collection(const CollectionOptions& options, std::ostream& err)
@@ -54,7 +62,7 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
       replay_(OpenReplay(options)),
       osType_(replay_ && !options.hasOsType ? replay_->Recorded().osType : options.osType),
       recordFile_(OpenRecord(options.record)),
-      recorder_(!options.record.empty() ? std::make_unique<BundleRecorder>(osType_, ToolDirectory()) : nullptr),
+      recorder_(MakeRecorder(options)),
       log_(options.log),
       lock_(TakeLock(options, err)),
       progress_(options.showProgress && StandardErrorIsTerminal() ? std::make_unique<Progress>(err, ProgressWidth())
@@ -64,10 +72,15 @@ Collection::Collection(const CollectionOptions& options, std::ostream& err)
       plugin_(options.plugin.empty() ? ProgramFolder() / "zenx.pi" : options.plugin),
       repository_(TRepository::Make(osType_, CurrentServices().machineName())) {
   if (replay_) {
-    plugin_.AnswerAs(SystemOf(replay_->Recorded()));
+    plugin_.AnswerAs(SystemOf(replay_->SharedBundle()));
     return;
   }
   plugin_.SetLargestRaidLog(options.inputLimit);
+}
+
+std::unique_ptr<BundleRecorder> Collection::MakeRecorder(const CollectionOptions& options) const {
+  if (options.record.empty()) return nullptr;
+  return std::make_unique<BundleRecorder>(osType_, ToolDirectory(), ScratchFolder(options.record));
 }
 
 // Where the tools are run, or were when they were recorded.
@@ -92,12 +105,13 @@ void Collection::WarnOfWritableTools() {
   for (const std::string& line : WritableToolsWarnings(fs::current_path())) err_ << "hxahost: " << line << std::endl;
 }
 
-QueryResult Collection::Query(const QueryHeader& header, unsigned number) {
+QueryResult Collection::Query(const QueryHeader& header, unsigned number, TRepository::TKeeps keeps) {
   if (lock_ && number == 1) WarnOfWritableTools();
   using Clock = std::chrono::steady_clock;
   std::vector<boost::shared_ptr<ICIMClass>> classes;
   for (const std::string& name : header.classes) classes.push_back(repository_->GetClass(name, {}));
   repository_->BeginQuery(classes);
+  repository_->OnCommit(std::move(keeps));
   const auto begin = Clock::now();
   plugin_.Query(repository_, classes);
   double seconds = std::chrono::duration<double>(Clock::now() - begin).count();
@@ -115,7 +129,13 @@ void Collection::Finish() {
 
 void Collection::SaveRecording(std::ostream& out) {
   if (!recorder_) return;
-  Bundle bundle = recorder_->TakeRecorded();
+  std::ostream& written = recordFile_ ? recordFile_->Stream() : out;
+  if (!replay_ && !mask_) {
+    recorder_->Write(written);
+    if (recordFile_) recordFile_->Finish();
+    return;
+  }
+  Bundle bundle = recorder_->Recorded();
   if (replay_) {
     // The system and the log are those of the machine that was recorded.
     const Bundle& played = replay_->Recorded();
@@ -125,7 +145,7 @@ void Collection::SaveRecording(std::ostream& out) {
     bundle.isMasked = played.isMasked;
   }
   if (mask_) bundle = MaskBundle(std::move(bundle), SystemRandom(), *mask_);
-  WriteBundle(recordFile_ ? recordFile_->Stream() : out, bundle);
+  WriteBundle(written, bundle);
   if (recordFile_) recordFile_->Finish();
 }
 

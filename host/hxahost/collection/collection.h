@@ -32,9 +32,10 @@ class Collection {
   // What holds for all queries of these classes.
   QueryHeader Header(std::vector<std::string> classes) const;
 
-  // Has the plug-in publish the classes of the header. Queries are counted from 1. What the plug-in
-  // throws passes on.
-  QueryResult Query(const QueryHeader& header, unsigned number);
+  // Has the plug-in publish the classes of the header. Queries are counted from 1. Each instance is shown to keeps, where
+  // that is not empty, as it is published; the result has those that it gives true for. What the plug-in throws passes
+  // on.
+  QueryResult Query(const QueryHeader& header, unsigned number, NKVRHXA20::TRepository::TKeeps keeps);
 
   // Call it after the last query. Throws ProgramError if the log lacks entries.
   void Finish();
@@ -44,6 +45,7 @@ class Collection {
 
  private:
   std::string ToolDirectory() const;
+  std::unique_ptr<BundleRecorder> MakeRecorder(const CollectionOptions& options) const;
   // Called as late as possible, because waiting for the lock may take minutes.
   void WarnOfWritableTools();
 
