@@ -24,7 +24,10 @@ namespace {
 constexpr int kRounds = 15;                       // of collecting from the sample machine
 constexpr int kSizes[] = {1'024, 4'096, 32'768};  // disks on one controller, for growth
 constexpr int kLogLines = 200'000;
-constexpr double kSteepest = 1.1;  // growth: 1 is proportional to the disks, 2 to their square
+constexpr int kManyLogLines = 1'000'000;
+constexpr double kMebibyte = 1U << 20U;
+constexpr double kFixedMemory = 64;  // MiB, whatever the log
+constexpr double kSteepest = 1.1;    // growth: 1 is proportional to the disks, 2 to their square
 
 constexpr const char* kController = "KVRSG_zxSCSIProtocolController";
 constexpr const char* kLogRecord = "KVRSG_LogRecord_RAIDMgrEvent";
@@ -248,20 +251,44 @@ void MeasureGrowth(Table& table, const std::string& program) {
   table.AtMost("peak memory in MiB, 32,768 disks", peak, 1024);
 }
 
+// Gives the size in MiB.
+double WriteLog(int lines) {
+  std::ofstream log("RaidEvtA.log", std::ios::binary);
+  for (int line = 0; line < lines; ++line) {
+    log << "2007/03/" << 10 + line % 20 << " 08:" << 10 + line % 50 << ":09 PST\tINF\tSERVER\tEvent " << line
+        << " of controller 3, channel 1, SCSI ID 4.\r\n";
+  }
+  return static_cast<double>(log.tellp()) / kMebibyte;
+}
+
+// The worst of what people and programs ask of a machine with a long log: the memory above a fixed part, as a multiple
+// of the text.
+void MeasureLogMemory(Table& table, const std::string& program) {
+  const double text = WriteLog(kManyLogLines);
+  const std::string bundle = (fs::current_path() / "log.bundle").string();
+  double worst = 0;
+  const auto measure = [&](Command command) {
+    command.insert(command.begin(), program);
+    worst = std::max(worst, (CostOf(command, false).peakMiB - kFixedMemory) / text);
+  };
+  measure({"query", "--format", "jsonl", "--record", bundle});
+  for (const std::string view : {"table", "json", "jsonl", "csv", "html", "cim-xml"}) {
+    measure({"query", "--format", view});
+    measure({"query", "--format", view, "--replay", bundle});
+  }
+  for (const std::string command : {"status", "health"}) measure({command});
+  table.AtMost("RAID manager log, 1,000,000 lines: memory / text", worst, 4);
+}
+
 void MeasureLog(Table& table, const std::string& program) {
   const Machine machine(0);
   setenv("ZENX_RAID_LOG_DIR", (fs::current_path().string() + "/").c_str(), 1);
   const Command command = {program, "query", "--format", "json", "--class", kLogRecord};
   const double without = CostOf(command, true).busy;
-  {
-    std::ofstream log("RaidEvtA.log", std::ios::binary);
-    for (int line = 0; line < kLogLines; ++line) {
-      log << "2007/03/" << 10 + line % 20 << " 08:" << 10 + line % 50 << ":09 PST\tINF\tSERVER\tEvent " << line
-          << " of controller 3, channel 1, SCSI ID 4.\r\n";
-    }
-  }
+  WriteLog(kLogLines);
   table.AtLeast("RAID manager log: lines/s, read and shown", kLogLines / (CostOf(command, true).busy - without),
                 50'000);
+  MeasureLogMemory(table, program);
 }
 
 // Masking a bundle against masking one with half as many lines: each of them has names, and all are one text.

@@ -22,6 +22,7 @@ struct Contents {
   std::map<const ClassDeclaration*, std::vector<boost::shared_ptr<TInstance>>> instances;
   std::vector<boost::shared_ptr<const TPublishedInstance>> published;  // by the query, over all classes
   TInstance::TSystemKeys systemKeys;
+  TRepository::TKeeps keeps;
 };
 
 bool IsOfHost(const ClassDeclaration& declaration) {
@@ -47,6 +48,7 @@ class TClass final : public ICIMClass {
     }
     return boost::make_shared<TInstance>(declaration_, contents_->systemKeys,
                                          [contents = contents_](const boost::shared_ptr<TInstance>& committed) {
+                                           if (contents->keeps && !contents->keeps(committed)) return;
                                            contents->instances[&committed->Class()].push_back(committed);
                                            contents->published.push_back(committed);
                                          });
@@ -92,6 +94,8 @@ class TRepositoryOfInstances final : public TRepository {
       if (!IsOfHost(declaration)) contents_->instances.erase(&declaration);
     }
   }
+
+  void OnCommit(TKeeps keeps) override { contents_->keeps = std::move(keeps); }
 
   std::vector<boost::shared_ptr<const TPublishedInstance>> Published() const override { return contents_->published; }
 

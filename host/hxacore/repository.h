@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -43,7 +44,11 @@ class HXACORE_API TRepository : public ICIMNamespace, public boost::enable_share
   // Begins a query of these classes: removes the instances of all of them that were published before.
   virtual void BeginQuery(const std::vector<boost::shared_ptr<ICIMClass>>& classes) = 0;
 
-  // The instances committed since, in order, with or without equal keys; not the host's own instances.
+  // Shows each instance to this when it is committed; false: it is not kept. Without it, all are kept.
+  using TKeeps = std::function<bool(const boost::shared_ptr<const TPublishedInstance>& committed)>;
+  virtual void OnCommit(TKeeps keeps) = 0;
+
+  // The instances committed since and kept, in order, with or without equal keys; not the host's own instances.
   virtual std::vector<boost::shared_ptr<const TPublishedInstance>> Published() const = 0;
 
   // The host's own "KVRSG_ComputerSystem" instance.

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/result/unique_paths.h"
 #include "tests/support/filled_repository.h"
 
 namespace {
@@ -214,7 +215,7 @@ TEST(CimXmlView, NamesOmittedInstancesInCommentsThatNoPathEnds) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a--->b");
   QueryResult result;
-  result.leftOut = repository.Instances();
+  result.leftOut = {LeftOutText(*repository.Instances().front())};
   const std::string document = Document({result});
   EXPECT_THAT(document, HasSubstr("<DECLGROUP.WITHPATH>\n<!-- Left out, as another instance has its path: "
                                   "KVRSG_zxDiskGroup.CollectionID=\"a- - ->b\","));

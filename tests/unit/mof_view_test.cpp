@@ -7,6 +7,7 @@
 #include <string>
 
 #include "host/hxacore/value_reader.h"
+#include "host/hxahost/result/unique_paths.h"
 #include "tests/support/filled_repository.h"
 
 namespace {
@@ -127,7 +128,7 @@ TEST(MofView, NamesOmittedInstancesInComments) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "a\n};");
   QueryResult result;
-  result.leftOut = repository.Instances();
+  result.leftOut = {LeftOutText(*repository.Instances().front())};
   EXPECT_THAT(Mof({result}), HasSubstr("\n// Left out, as another instance has its path: "
                                        "KVRSG_zxDiskGroup.CollectionID=\"a\\n};\","));
 }

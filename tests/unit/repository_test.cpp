@@ -106,6 +106,23 @@ TEST_F(Repository, ShowsAsPublishedOnlyWhatTheQueryCommitted) {
   EXPECT_EQ(Enumerate(*repository, kDisk).size(), 1U);
 }
 
+TEST_F(Repository, ShowsEachInstanceWhenItIsCommittedAndKeepsThoseThatAreWanted) {
+  std::vector<std::string> shown;
+  repository->OnCommit([&shown](const boost::shared_ptr<const TPublishedInstance>& committed) {
+    shown.emplace_back(committed->Class().name);
+    return committed->Class().name != kGroup;
+  });
+  Publish(*repository, kDisk, "DeviceID", "kept");
+  Publish(*repository, kGroup, "CollectionID", "not kept");
+  EXPECT_THAT(shown, ElementsAre(kDisk, kGroup));
+  EXPECT_EQ(Enumerate(*repository, kDisk).size(), 1U);
+  EXPECT_THAT(Enumerate(*repository, kGroup), IsEmpty());
+  EXPECT_EQ(repository->Published().size(), 1U);
+  repository->OnCommit({});
+  Publish(*repository, kGroup, "CollectionID", "kept");
+  EXPECT_EQ(Enumerate(*repository, kGroup).size(), 1U);
+}
+
 TEST_F(Repository, FindsClassesWithoutRegardToCaseAndGivesTheDeclaredName) {
   EXPECT_EQ(repository->GetClass("kvrsg_ZXLOGICALDISK", {})->GetName({}), kDisk);
   Publish(*repository, "kvrsg_zxlogicaldisk", "deviceid", "1");

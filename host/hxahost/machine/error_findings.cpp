@@ -102,17 +102,22 @@ bool IsRecent(const std::string& event, const std::string& now, std::optional<un
 void AddBatteryMessage(const InstanceList& instances, std::size_t place, const QueryHeader& header,
                        Findings& findings) {
   const TPublishedInstance& event = *instances[place];
-  const std::string message = RawText(event, "Message");
-  if (RawText(event, "Severity") == "INF" || Lower(message).find("battery") == message.npos) return;
+  if (!IsBatteryMessage(header, event)) return;
   const std::string time = ShownText(event, "MessageTimestamp");
-  if (!IsRecent(time, ReadableTime(header.time.ToString()), header.limits.batteryDays)) return;
-  Finding finding = OfInstance(instances, place, "Message", message, kBatteryMessage);
+  Finding finding = OfInstance(instances, place, "Message", RawText(event, "Message"), kBatteryMessage);
   finding.identifier = RawText(event, "RecordID");
   finding.name = "RAID manager, " + time.substr(0, time.find(' '));
   findings.push_back(std::move(finding));
 }
 
 }  // namespace
+
+bool IsBatteryMessage(const QueryHeader& header, const TPublishedInstance& event) {
+  if (RawText(event, "Severity") == "INF") return false;
+  if (Lower(RawText(event, "Message")).find("battery") == std::string::npos) return false;
+  return IsRecent(ShownText(event, "MessageTimestamp"), ReadableTime(header.time.ToString()),
+                  header.limits.batteryDays);
+}
 
 Findings ErrorFindings(const QueryHeader& header, const InstanceList& instances) {
   Findings findings;

@@ -14,12 +14,16 @@
 
 namespace hxahost {
 
-// Shows queries. A query is written as soon as it is done, so that only one is held at a time.
+// Shows queries. A query is written as it comes, or as soon as it is done, so that only one is held at a time.
 struct QueryWriter {
   void (*Begin)(std::ostream& out, const QueryHeader& header);
   void (*Query)(std::ostream& out, const QueryHeader& header, const QueryResult& result);
   void (*End)(std::ostream& out, const QueryHeader& header);
-  bool hasUniquePaths = false;  // each path is shown once
+  bool hasUniquePaths = false;     // each path is shown once
+  bool showsNewestEvents = false;  // of the RAID manager's log; for people
+  // Writes an instance as soon as it is published, before Query writes the rest; none: Query writes all.
+  void (*Instance)(std::ostream& out, const QueryHeader& header, const NKVRHXA20::TPublishedInstance& instance,
+                   const InstancePlace& place) = nullptr;
 };
 
 using HealthWriter = void (*)(std::ostream& out, const HealthReport& report);

@@ -8,6 +8,7 @@
 
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/machine/health_rules.h"
+#include "host/hxahost/machine/kept_events.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_command.h"
 #include "host/hxahost/system/no_memory.h"
@@ -31,11 +32,20 @@ class Baseline {
     if (!path.empty()) file_.emplace(std::filesystem::absolute(path), "--save-baseline");
   }
 
-  void Write(QueryHeader header, const QueryResult& result) {
+  void Add(const QueryHeader& header, const NKVRHXA20::TPublishedInstance& instance) {
+    if (!file_) return;
+    if (written_ == 0) BeginJson(file_->Stream(), header);
+    WriteInstanceJson(file_->Stream(), header, instance, {1, written_++});
+  }
+
+  void End(QueryHeader header, const QueryResult& result) {
     if (!file_) return;
     header.withRuns = true;
-    BeginJson(file_->Stream(), header);
-    WriteQueryJson(file_->Stream(), header, result);
+    if (written_ == 0) BeginJson(file_->Stream(), header);
+    QueryResult rest = result;
+    rest.instances.clear();
+    rest.written = written_;
+    WriteQueryJson(file_->Stream(), header, rest);
     EndJson(file_->Stream(), header);
   }
 
@@ -48,6 +58,7 @@ class Baseline {
 
  private:
   std::optional<OutputFile> file_;
+  std::size_t written_ = 0;
 };
 
 bool IsWhole(const Machine& machine) {
@@ -62,12 +73,18 @@ Verdict Examine(std::string_view command, const QueryOptions& options, std::ostr
   Verdict verdict;
   QueryDisplay display;
   display.begin = [](std::ostream&, const QueryHeader&) {};
-  display.query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
+  KeptEvents events(0);
+  display.instance = [&](std::ostream&, const QueryHeader& header, const auto& instance, unsigned) {
+    saved.Add(header, *instance);
+    return !events.Take(header, instance);
+  };
+  display.query = [&](std::ostream& shown, const QueryHeader& header, QueryResult& result) {
+    events.PutInto(result);
     const HealthReport report{header, result, BuildMachine(header, result), result.seconds, query.isVerbose};
     verdict.severity = WorstOf(report.machine.findings);
     verdict.isWhole = IsWhole(report.machine);
     write(shown, report);
-    saved.Write(header, result);
+    saved.End(header, result);
   };
   display.end = [](std::ostream&, const QueryHeader&) {};
   display.showsPart = true;

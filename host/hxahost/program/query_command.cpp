@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <exception>
 #include <filesystem>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <new>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/hxacore/schema.h"
@@ -14,6 +16,7 @@
 #include "host/hxahost/collection/collection.h"
 #include "host/hxahost/collection/working_directory.h"
 #include "host/hxahost/diff/diff_source.h"
+#include "host/hxahost/machine/kept_events.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
 #include "host/hxahost/result/answers.h"
@@ -107,6 +110,64 @@ bool HasObject(const InstanceList& instances) {
   });
 }
 
+// What the display sees of each instance.
+TRepository::TKeeps Watch(const QueryDisplay& display, std::ostream& out, const QueryHeader& header, unsigned number) {
+  if (!display.instance) return {};
+  return [&display, &out, &header, number](const auto& instance) {
+    return display.instance(out, header, instance, number);
+  };
+}
+
+// Has each instance written as soon as it is published, if the format can do that; each path once where it wants that.
+class InstanceStream {
+ public:
+  InstanceStream(const QueryWriter& writer, std::ostream& err) : writer_(writer), err_(err) {}
+
+  bool Take(std::ostream& out, const QueryHeader& header,
+            const boost::shared_ptr<const TPublishedInstance>& instance, unsigned query) {
+    Begin(out, header, query);
+    Add(out, header, instance, query);
+    return instance->Class().name != kEventClass;  // there may be millions of them, and nothing refers to one
+  }
+
+  void End(std::ostream& out, const QueryHeader& header, QueryResult& result) {
+    Begin(out, header, result.number);
+    QueryResult rest = result;
+    rest.instances = std::exchange(held_, {});
+    rest.written = std::exchange(written_, 0);
+    rest.leftOut = std::exchange(leftOut_, {});
+    hasBegun_ = false;
+    writer_.Query(out, header, rest);
+  }
+
+ private:
+  using Instance = boost::shared_ptr<const TPublishedInstance>;
+
+  void Begin(std::ostream& out, const QueryHeader& header, unsigned query) {
+    if (!std::exchange(hasBegun_, true) && writer_.hasUniquePaths && header.system) Add(out, header, header.system, query);
+  }
+
+  void Add(std::ostream& out, const QueryHeader& header, const Instance& instance, unsigned query) {
+    const auto path = writer_.hasUniquePaths ? paths_.Add(*instance) : UniquePaths::Path::kNew;
+    if (path == UniquePaths::Path::kTaken) {
+      leftOut_.push_back(LeftOutText(*instance));
+      err_ << "hxahost: " << leftOut_.back() << std::endl;
+    } else if (path == UniquePaths::Path::kNew && writer_.Instance != nullptr) {
+      writer_.Instance(out, header, *instance, {query, written_++});
+    } else if (path == UniquePaths::Path::kNew) {
+      held_.push_back(instance);
+    }
+  }
+
+  const QueryWriter& writer_;
+  std::ostream& err_;
+  UniquePaths paths_;
+  bool hasBegun_ = false;
+  std::size_t written_ = 0;
+  InstanceList held_;
+  std::vector<std::string> leftOut_;
+};
+
 [[noreturn]] void RejectBundle(const std::string& missing) {
   throw ProgramError(ExitStatus::kQueryFailed,
                      "The bundle does not hold what the plug-in asks for: " + Printable(missing) +
@@ -131,7 +192,7 @@ Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std
     CheckBaseline(header, typed.baseline);
     display.begin(output.Stream(), header);
     for (unsigned number = 1; number <= header.queryCount; ++number) {
-      const QueryResult result = collection.Query(header, number);
+      QueryResult result = collection.Query(header, number, Watch(display, output.Stream(), header, number));
       if (!result.notRecorded.empty() && !display.showsPart) RejectBundle(result.notRecorded);
       display.query(output.Stream(), header, result);
       collected.runs.insert(collected.runs.end(), result.runs.begin(), result.runs.end());
@@ -176,14 +237,23 @@ ExitStatus StatusOf(const Collected& collected, const std::ostream& out, std::os
 
 ExitStatus RunQueryCommand(const QueryOptions& options, std::ostream& out, std::ostream& err) {
   const auto& writer = WriterOf<QueryWriter>("query", options.format);
-  UniquePaths paths;
-  const auto query = [&](std::ostream& shown, const QueryHeader& header, const QueryResult& result) {
-    if (!writer.hasUniquePaths) return writer.Query(shown, header, result);
-    const QueryResult unique = paths.Of(header, result);
-    for (const auto& instance : unique.leftOut) err << "hxahost: " << LeftOutText(*instance) << std::endl;
-    writer.Query(shown, header, unique);
-  };
-  return StatusOf(RunQueries(options, {writer.Begin, query, writer.End}, out, err), out, err);
+  QueryDisplay display{writer.Begin, writer.Query, writer.End};
+  InstanceStream stream(writer, err);
+  KeptEvents events(kNewestEvents);
+  const bool needsAll = options.showUnread;  // which lines no property shows, all instances tell together
+  if (writer.hasUniquePaths || (writer.Instance != nullptr && !needsAll)) {
+    display.instance = std::bind_front(&InstanceStream::Take, &stream);
+    display.query = std::bind_front(&InstanceStream::End, &stream);
+  } else if (writer.showsNewestEvents && !needsAll) {
+    display.instance = [&](std::ostream&, const QueryHeader& header, const auto& instance, unsigned) {
+      return !events.Take(header, instance);
+    };
+    display.query = [&](std::ostream& shown, const QueryHeader& header, QueryResult& result) {
+      events.PutInto(result);
+      writer.Query(shown, header, result);
+    };
+  }
+  return StatusOf(RunQueries(options, display, out, err), out, err);
 }
 
 }  // namespace hxahost

@@ -12,8 +12,13 @@ namespace hxahost {
 // Functions that show queries; each may keep data of them.
 struct QueryDisplay {
   std::function<void(std::ostream& out, const QueryHeader& header)> begin;
-  std::function<void(std::ostream& out, const QueryHeader& header, const QueryResult& result)> query;
+  std::function<void(std::ostream& out, const QueryHeader& header, QueryResult& result)> query;
   std::function<void(std::ostream& out, const QueryHeader& header)> end;
+  // Sees each instance as it is published, before the query as a whole; what it gives true for the query holds. None:
+  // the query holds them all.
+  std::function<bool(std::ostream& out, const QueryHeader& header,
+                     const boost::shared_ptr<const NKVRHXA20::TPublishedInstance>& instance, unsigned query)>
+      instance = {};
   bool showsPart = false;  // what a replay gave that ended early; otherwise that is a failure
 };
 

@@ -177,7 +177,7 @@ class PlaceFinder {
       RowIndex& index = rows_.try_emplace(&text, text.lines).first->second;
       const auto line = index.Take(key);
       if (line) return places_[place].assign(1, {&text, *line, *line + 1, {}});
-      if (!index.IsEmpty()) places_[place].assign(1, {&text, 0, 0, {}});
+      if (!index.IsEmpty() || !rows.isMadeWithoutRows) places_[place].assign(1, {&text, 0, 0, {}});
     }
   }
 

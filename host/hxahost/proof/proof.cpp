@@ -115,10 +115,11 @@ Reading BestOf(const std::vector<Reading>& readings, const Sought& sought) {
   return both;
 }
 
-void FindRow(Proof& proof, const RowClass& rows, const std::vector<Place>& places) {
-  if (places.empty() && rows.isMadeWithoutRows) return;
+// Without a text that could say it, nothing is claimed.
+void FindRow(Proof& proof, const std::vector<Place>& places) {
+  if (places.empty()) return;
   proof.evidence = Evidence::kNoLine;
-  if (places.empty() || places.front().first == places.front().end) return;
+  if (places.front().first == places.front().end) return;
   proof.evidence = Evidence::kLine;
   proof.text = places.front().text->instance;
   proof.lines = {places.front().first};
@@ -142,7 +143,7 @@ std::vector<Proof> Proofs::Of(std::size_t instance) {
     if (declared != nullptr) proof.origin = declared->origin;
     if (rows != nullptr) {
       const bool isColumn = std::ranges::find(rows->columns, property.name) != rows->columns.end();
-      if (isColumn) FindRow(proof, *rows, places_[instance]);
+      if (isColumn) FindRow(proof, places_[instance]);
       continue;
     }
     const std::string value = WithSingleBlanks(RawText(published, property.name));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,6 +55,12 @@ struct LoggedEntry {
 
 using InstanceList = std::vector<boost::shared_ptr<const NKVRHXA20::TPublishedInstance>>;
 
+// Which instance of which query: the query is counted from 1, the instance from 0.
+struct InstancePlace {
+  unsigned query = 1;
+  std::size_t instance = 0;
+};
+
 // What one query gave.
 struct QueryResult {
   unsigned number = 1;  // counted from 1
@@ -62,7 +69,9 @@ struct QueryResult {
   ToolRunList runs = {};         // since the previous query ended
   double seconds = 0;            // its duration
   std::string notRecorded = {};  // what ended a replay: the bundle does not hold it; "" where it holds all
-  InstanceList leftOut = {};     // by a format that has each path once: others have their paths
+  std::vector<std::string> leftOut = {};  // in words, by a format that has each path once: others have their paths
+  std::size_t written = 0;       // how many instances were written as they came; they are not in the list
+  std::size_t events = 0;        // of the RAID manager's log that were published, where the list has but some of them
 };
 
 }  // namespace hxahost

@@ -1,6 +1,7 @@
 #include "host/hxahost/result/unique_paths.h"
 
-#include <algorithm>
+#include <boost/uuid/name_generator_sha1.hpp>
+#include <boost/uuid/nil_generator.hpp>
 
 #include "host/hxacore/value_reader.h"
 #include "host/hxahost/result/object_path.h"
@@ -13,36 +14,36 @@ namespace hxahost {
 
 namespace {
 
-bool IsEqual(const TCIMValue& left, const TCIMValue& right) {
-  const ValueKind kind = TCIMValueReader::Kind(left);
-  if (kind != TCIMValueReader::Kind(right)) return false;
-  if (kind != ValueKind::kArray) return std::string(left) == std::string(right);
-  return std::ranges::equal(TCIMValueReader::Elements(left), TCIMValueReader::Elements(right), IsEqual);
+using Digest = boost::uuids::uuid;
+
+// Of what was taken before, and of a text.
+Digest With(const Digest& before, const std::string& text) { return boost::uuids::name_generator_sha1(before)(text); }
+
+Digest With(const Digest& before, const TCIMValue& value) {
+  const ValueKind kind = TCIMValueReader::Kind(value);
+  Digest digest = With(before, std::to_string(static_cast<int>(kind)));
+  if (kind != ValueKind::kArray) return With(digest, std::string(value));
+  for (const TCIMValue& element : TCIMValueReader::Elements(value)) digest = With(digest, element);
+  return digest;
 }
 
-bool HasSameProperties(const TPublishedInstance& left, const TPublishedInstance& right) {
-  return std::ranges::equal(left.Properties(), right.Properties(), [](const auto& one, const auto& other) {
-    return one.name == other.name && IsEqual(one.value, other.value);
-  });
+Digest OfProperties(const TPublishedInstance& instance) {
+  Digest digest = boost::uuids::nil_uuid();
+  for (const PublishedProperty& property : instance.Properties()) {
+    digest = With(With(digest, std::string(property.name)), property.value);
+  }
+  return digest;
 }
 
 }  // namespace
 
-QueryResult UniquePaths::Of(const QueryHeader& header, const QueryResult& result) {
-  QueryResult unique = result;
-  unique.instances.clear();
-  const auto add = [&](const boost::shared_ptr<const TPublishedInstance>& instance) {
-    // Paths that only differ in what a document has no place for are one path there.
-    const auto [first, isNew] = first_.emplace(LegalXmlText(ObjectPathText(instance->Reference())), instance);
-    if (isNew) {
-      unique.instances.push_back(instance);
-    } else if (!HasSameProperties(*first->second, *instance)) {
-      unique.leftOut.push_back(instance);
-    }
-  };
-  if (header.system) add(header.system);
-  for (const auto& instance : result.instances) add(instance);
-  return unique;
+UniquePaths::Path UniquePaths::Add(const TPublishedInstance& instance) {
+  // Paths that only differ in what a document has no place for are one path there.
+  const Digest path = With(boost::uuids::nil_uuid(), LegalXmlText(ObjectPathText(instance.Reference())));
+  const Digest properties = OfProperties(instance);
+  const auto [first, isNew] = first_.emplace(path, properties);
+  if (isNew) return Path::kNew;
+  return first->second == properties ? Path::kEqual : Path::kTaken;
 }
 
 std::string LeftOutText(const TPublishedInstance& instance) {

@@ -3,6 +3,9 @@
 #include <string>
 #include <unordered_map>
 
+#include <boost/functional/hash.hpp>
+#include <boost/uuid/uuid.hpp>
+
 #include "host/hxahost/result/query_result.h"
 
 namespace hxahost {
@@ -11,12 +14,20 @@ namespace hxahost {
 // instance of a path.
 class UniquePaths {
  public:
-  // The query with the machine's own instance first, and each instance whose path none had before, in their order. One
-  // that is equal to the first of its path is dropped; one that is not is among those left out.
-  QueryResult Of(const QueryHeader& header, const QueryResult& result);
+  enum class Path {
+    kNew,
+    kEqual,  // an instance that is equal has it
+    kTaken,  // another instance has it
+  };
+
+  // Whether an instance that was added before has the path, too.
+  Path Add(const NKVRHXA20::TPublishedInstance& instance);
 
  private:
-  std::unordered_map<std::string, boost::shared_ptr<const NKVRHXA20::TPublishedInstance>> first_;  // by path
+  using Digest = boost::uuids::uuid;
+
+  // The properties by the path: both may take more memory than all else, so that they are held as digests.
+  std::unordered_map<Digest, Digest, boost::hash<Digest>> first_;
 };
 
 // Says in one line that an instance is left out, and why.

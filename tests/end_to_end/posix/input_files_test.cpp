@@ -6,11 +6,13 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
 #include <sys/stat.h>
 
+#include "tests/support/large_log.h"
 #include "tests/support/machine_copy.h"
 #include "tests/support/raid_log_setting.h"
 
@@ -56,6 +58,30 @@ TEST(InputFiles, ARaidManagersLogThatIsNotAFileIsNamedAndTheRestIsShown) {
     EXPECT_EQ(result.exitStatus, 0) << trap.name << result.err;
     EXPECT_THAT(result.out, HasSubstr("RAID manager log not read")) << trap.name;
     EXPECT_THAT(result.out, HasSubstr("Disk")) << trap.name;
+  }
+}
+
+// The line of an output that says why the log was not read.
+std::string NotReadLine(const std::string& out) {
+  const std::size_t begin = out.find("RAID manager log not read");
+  return begin == out.npos ? "" : out.substr(begin, out.find('\n', begin) - begin);
+}
+
+TEST(InputFiles, ARaidManagersLogThatWasRefusedIsRefusedByItsReplayInTheSameWords) {
+  const RaidLogSetting setting("raid-manager\\");
+  for (const Trap& trap : kTraps) {
+    const MachineCopy machine;
+    const fs::path log = fs::path(machine.Directory()) / "raid-manager/KVR/Zentraxis Manager/RaidEvtA.log";
+    fs::remove(log);
+    trap.make(log);
+    const std::string bundle = machine.Directory() + "/r.bundle";
+    const ProgramResult live = RunWithinBounds({"health", "--directory", machine.Directory(), "--record", bundle});
+    const ProgramResult replayed = RunWithinBounds({"health", "--replay", bundle});
+    EXPECT_NE(NotReadLine(live.out), "") << trap.name << live.out;
+    EXPECT_EQ(NotReadLine(replayed.out), NotReadLine(live.out)) << trap.name;
+    const std::string again = machine.Directory() + "/again.bundle";
+    RunWithinBounds({"health", "--replay", bundle, "--record", again});
+    EXPECT_EQ(NotReadLine(RunWithinBounds({"health", "--replay", again}).out), NotReadLine(live.out)) << trap.name;
   }
 }
 

@@ -10,7 +10,6 @@
 
 #include "host/hxacore/value_reader.h"
 #include "host/hxacore/value_type.h"
-#include "host/hxahost/result/unique_paths.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 #include "host/hxahost/text/xml_text.h"
@@ -26,6 +25,12 @@ namespace {
 // maintained with the rest of Boost. A tree of the whole document would take many times the memory of the data, so it
 // contains one instance at a time; the text around the instances is fixed.
 using Tree = boost::property_tree::ptree;
+
+constexpr std::string_view kBeginQuery = "<DECLGROUP.WITHPATH>\n";
+
+// Stands for the elements of an array, which are written in its place.
+constexpr const char* kElements = "ELEMENTS";
+constexpr std::size_t kElementIndent = 4;
 
 // Names of elements contain dots, which must not be read as paths.
 Tree& Append(Tree& parent, const char* element) { return parent.push_back({element, Tree()})->second; }
@@ -122,10 +127,14 @@ void AppendValue(Tree& parent, const TCIMValue& value, const char* empty) {
   }
 }
 
+bool HasElements(const TCIMValue& value) {
+  return TCIMValueReader::Kind(value) == ValueKind::kArray && !TCIMValueReader::Elements(value).empty();
+}
+
 void AppendArray(Tree& parent, const TCIMValue& value) {
   if (TCIMValueReader::Kind(value) == ValueKind::kNone) return;
   Tree& array = Append(parent, "VALUE.ARRAY");
-  for (const TCIMValue& element : TCIMValueReader::Elements(value)) AppendValue(array, element, "VALUE.NULL");
+  if (HasElements(value)) Append(array, kElements);
 }
 
 void AppendProperty(Tree& instance, const PublishedProperty& property, const PropertyDeclaration& declared) {
@@ -159,11 +168,35 @@ Tree ObjectWithPath(const TPublishedInstance& instance) {
 }
 
 // Leaves out the XML declaration, which the library writes before each tree.
-void WriteTree(std::ostream& out, const Tree& tree) {
+std::string TreeText(const Tree& tree) {
   std::ostringstream document;
   boost::property_tree::write_xml(document, tree, boost::property_tree::xml_writer_make_settings<std::string>(' ', 1));
-  const std::string text = document.str();
-  WriteByNumber(out, std::string_view(text).substr(text.find('\n') + 1));
+  std::ostringstream text;
+  WriteByNumber(text, document.str().substr(document.str().find('\n') + 1));
+  return std::move(text).str();
+}
+
+// One element at a time: a log of a million lines is one array.
+void WriteElements(std::ostream& out, const TCIMValue& array) {
+  for (const TCIMValue& element : TCIMValueReader::Elements(array)) {
+    Tree tree;
+    AppendValue(tree, element, "VALUE.NULL");
+    out << std::string(kElementIndent, ' ') << TreeText(tree);
+  }
+}
+
+void WriteObject(std::ostream& out, const TPublishedInstance& instance) {
+  const std::string text = TreeText(ObjectWithPath(instance));
+  const std::string mark = std::string(kElementIndent, ' ') + '<' + kElements + "/>\n";
+  std::string_view rest = text;
+  ForEachExported(instance, [&](const PublishedProperty& property, const PropertyDeclaration&) {
+    const std::size_t place = rest.find(mark);
+    if (place == rest.npos || !HasElements(property.value)) return;
+    out << rest.substr(0, place);
+    WriteElements(out, property.value);
+    rest.remove_prefix(place + mark.size());
+  });
+  out << rest;
 }
 
 }  // namespace
@@ -174,13 +207,19 @@ void BeginCimXml(std::ostream& out, const QueryHeader& header) {
   out << "<CIM CIMVERSION=\"2.8\" DTDVERSION=\"2.4\">\n<DECLARATION>\n";
 }
 
+void WriteInstanceCimXml(std::ostream& out, const QueryHeader&, const TPublishedInstance& instance,
+                         const InstancePlace& place) {
+  if (place.instance == 0) out << kBeginQuery;
+  WriteObject(out, instance);
+}
+
 void WriteQueryCimXml(std::ostream& out, const QueryHeader&, const QueryResult& result) {
-  out << "<DECLGROUP.WITHPATH>\n";
-  for (const auto& instance : result.instances) WriteTree(out, ObjectWithPath(*instance));
-  for (const auto& instance : result.leftOut) {
+  if (result.written == 0) out << kBeginQuery;
+  for (const auto& instance : result.instances) WriteObject(out, *instance);
+  for (const std::string& leftOut : result.leftOut) {
     Tree document;
-    AppendComment(document, LeftOutText(*instance));
-    WriteTree(out, document);
+    AppendComment(document, leftOut);
+    out << TreeText(document);
   }
   out << "</DECLGROUP.WITHPATH>\n";
 }

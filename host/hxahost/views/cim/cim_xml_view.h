@@ -13,6 +13,8 @@
 namespace hxahost {
 
 void BeginCimXml(std::ostream& out, const QueryHeader& header);
+void WriteInstanceCimXml(std::ostream& out, const QueryHeader& header, const NKVRHXA20::TPublishedInstance& instance,
+                         const InstancePlace& place);
 void WriteQueryCimXml(std::ostream& out, const QueryHeader& header, const QueryResult& result);
 void EndCimXml(std::ostream& out, const QueryHeader& header);
 

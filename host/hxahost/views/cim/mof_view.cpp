@@ -8,7 +8,6 @@
 
 #include "host/hxacore/value_reader.h"
 #include "host/hxahost/result/object_path.h"
-#include "host/hxahost/result/unique_paths.h"
 #include "host/hxahost/schema/schema_view.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/mof_string.h"
@@ -112,7 +111,7 @@ void WriteQueryMof(std::ostream& out, const QueryHeader& header, const QueryResu
     WriteInstance(out, *instance, alias, aliases);
     if (isReferred) referred->second = alias;
   }
-  for (const auto& instance : result.leftOut) out << "\n// " << LeftOutText(*instance) << '\n';
+  for (const std::string& leftOut : result.leftOut) out << "\n// " << leftOut << '\n';
 }
 
 void EndMof(std::ostream&, const QueryHeader&) {}

@@ -79,19 +79,21 @@ void BeginCsv(std::ostream& out, const QueryHeader& header) {
   WriteCsvCells(out, {columns.begin(), columns.end()});
 }
 
-void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+void WriteInstanceCsv(std::ostream& out, const QueryHeader& header, const TPublishedInstance& instance,
+                      const InstancePlace&) {
   const std::vector<std::string_view> columns = Columns(header);
-  std::map<std::string_view, std::size_t> places;
-  for (std::size_t place = 0; place < columns.size(); ++place) places[columns[place]] = place;
-  for (const auto& instance : result.instances) {
-    std::vector<std::string> row(columns.size());
-    if (columns.front() == kClassColumn) row.front() = instance->Class().name;
-    for (const PublishedProperty& property : instance->Properties()) {
-      // One property is published with a letter in another case than declared.
-      row[places.at(FindProperty(instance->Class(), property.name)->name)] = ValueText(property.value);
-    }
-    WriteCsvCells(out, row);
+  std::vector<std::string> row(columns.size());
+  if (columns.front() == kClassColumn) row.front() = instance.Class().name;
+  for (const PublishedProperty& property : instance.Properties()) {
+    // One property is published with a letter in another case than declared.
+    const std::string_view name = FindProperty(instance.Class(), property.name)->name;
+    row[static_cast<std::size_t>(std::ranges::find(columns, name) - columns.begin())] = ValueText(property.value);
   }
+  WriteCsvCells(out, row);
+}
+
+void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
+  for (const auto& instance : result.instances) WriteInstanceCsv(out, header, *instance, {});
 }
 
 void EndCsv(std::ostream&, const QueryHeader&) {}

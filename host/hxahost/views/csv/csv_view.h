@@ -12,6 +12,8 @@
 namespace hxahost {
 
 void BeginCsv(std::ostream& out, const QueryHeader& header);
+void WriteInstanceCsv(std::ostream& out, const QueryHeader& header, const NKVRHXA20::TPublishedInstance& instance,
+                      const InstancePlace& place);
 void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResult& result);
 void EndCsv(std::ostream& out, const QueryHeader& header);
 

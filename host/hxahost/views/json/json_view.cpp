@@ -1,6 +1,8 @@
 #include "host/hxahost/views/json/json_view.h"
 
 #include <cmath>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,22 +34,66 @@ Json ValueJson(const TCIMValue& value) {
     case ValueKind::kReference: return ObjectPathText(TCIMValueReader::Reference(value));
     case ValueKind::kArray: break;
   }
-  Json elements = Json::array();
-  for (const TCIMValue& element : TCIMValueReader::Elements(value)) elements.push_back(ValueJson(element));
-  return elements;
+  return Json::array();
 }
 
-Json InstanceJson(const TPublishedInstance& instance) {
-  Json properties = Json::object();
-  for (const PublishedProperty& property : instance.Properties()) {
-    properties[std::string(property.name)] = ValueJson(property.value);
+// Writes an instance value by value: as one JSON value, a log of a million lines takes several times its memory.
+class InstanceText {
+ public:
+  // Each value on a line of its own, indented by so many columns; nothing: all on one line.
+  InstanceText(std::ostream& out, std::optional<std::size_t> indent)
+      : out_(out), indent_(indent), colon_(indent ? "\": " : "\":") {}
+
+  // All but the braces around it.
+  void Write(const TPublishedInstance& instance) {
+    Name("class", 1);
+    out_ << JsonText(instance.Class().name) << ',';
+    Name("path", 1);
+    out_ << JsonText(ObjectPathText(instance.Reference())) << ',';
+    Name("properties", 1);
+    out_ << '{';
+    std::string_view separator;
+    for (const PublishedProperty& property : instance.Properties()) {
+      out_ << separator;
+      Name(property.name, 2);
+      WriteValue(property.value, 2);
+      separator = ",";
+    }
+    if (!separator.empty()) EndLine(1);
+    out_ << '}';
   }
-  return {
-      {"class",      instance.Class().name               },
-      {"path",       ObjectPathText(instance.Reference())},
-      {"properties", std::move(properties)               }
-  };
-}
+
+  void EndLine(std::size_t depth) {
+    constexpr std::size_t kStep = 2;
+    if (indent_) out_ << '\n' << std::string(*indent_ + kStep * depth, ' ');
+  }
+
+ private:
+  void Name(std::string_view name, std::size_t depth) {
+    EndLine(depth);
+    out_ << '"' << name << colon_;
+  }
+
+  void WriteValue(const TCIMValue& value, std::size_t depth) {
+    if (TCIMValueReader::Kind(value) != ValueKind::kArray || TCIMValueReader::Elements(value).empty()) {
+      out_ << JsonText(ValueJson(value));
+      return;
+    }
+    char separator = '[';
+    for (const TCIMValue& element : TCIMValueReader::Elements(value)) {
+      out_ << separator;
+      EndLine(depth + 1);
+      WriteValue(element, depth + 1);
+      separator = ',';
+    }
+    EndLine(depth);
+    out_ << ']';
+  }
+
+  std::ostream& out_;
+  std::optional<std::size_t> indent_;
+  std::string_view colon_;
+};
 
 Json EntryJson(const LoggedEntry& entry) {
   return {
@@ -109,6 +155,21 @@ void WriteJsonArray(std::ostream& out, std::string_view name, const Items& items
   out << (items.empty() ? "]" : "\n      ]");
 }
 
+void BeginInstances(std::ostream& out, unsigned query) {
+  out << (query == 1 ? "\n    {\n" : ",\n    {\n") << "      \"instances\": [";
+}
+
+// What each line begins with.
+Json LineBegin(const QueryHeader& header) {
+  Json begin = {
+      {"machine", AsUtf8(header.machine)},
+      {"time",    header.time.ToString()}
+  };
+  if (header.isReplayed) begin["replayed"] = true;
+  if (header.isMasked) begin["masked"] = true;
+  return begin;
+}
+
 }  // namespace
 
 void BeginJson(std::ostream& out, const QueryHeader& header) {
@@ -119,10 +180,25 @@ void BeginJson(std::ostream& out, const QueryHeader& header) {
   out << "  \"queries\": [";
 }
 
+void WriteInstanceJson(std::ostream& out, const QueryHeader&, const TPublishedInstance& instance,
+                       const InstancePlace& place) {
+  constexpr std::size_t kIndent = 8;
+  if (place.instance == 0) BeginInstances(out, place.query);
+  out << (place.instance == 0 ? "\n" : ",\n") << std::string(kIndent, ' ') << '{';
+  InstanceText text(out, kIndent);
+  text.Write(instance);
+  text.EndLine(0);
+  out << '}';
+}
+
 void WriteQueryJson(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
-  out << (result.number == 1 ? "\n    {\n" : ",\n    {\n");
-  WriteJsonArray(out, "instances", result.instances, [](const auto& instance) { return InstanceJson(*instance); });
-  out << ",\n";
+  InstancePlace place{result.number, result.written};
+  for (const auto& instance : result.instances) {
+    WriteInstanceJson(out, header, *instance, place);
+    ++place.instance;
+  }
+  if (place.instance == 0) BeginInstances(out, place.query);
+  out << (place.instance == 0 ? "],\n" : "\n      ],\n");
   WriteJsonArray(out, "log", result.log, EntryJson);
   if (header.withRuns) {
     out << ",\n";
@@ -139,19 +215,23 @@ void EndJson(std::ostream& out, const QueryHeader&) { out << "\n  ]\n}\n"; }
 
 void BeginJsonLines(std::ostream&, const QueryHeader&) {}
 
+void WriteInstanceJsonLine(std::ostream& out, const QueryHeader& header, const TPublishedInstance& instance,
+                           const InstancePlace&) {
+  std::string begin = JsonText(LineBegin(header));
+  begin.back() = ',';  // in place of its closing brace
+  out << begin;
+  InstanceText(out, std::nullopt).Write(instance);
+  out << "}\n";
+}
+
 void WriteQueryJsonLines(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
-  Json begin = {
-      {"machine", AsUtf8(header.machine)},
-      {"time",    header.time.ToString()}
-  };
-  if (header.isReplayed) begin["replayed"] = true;
-  if (header.isMasked) begin["masked"] = true;
+  for (const auto& instance : result.instances) WriteInstanceJsonLine(out, header, *instance, {});
+  const Json begin = LineBegin(header);
   const auto write = [&](const Json& rest) {
     Json line = begin;
     line.update(rest);
     out << JsonText(line) << '\n';
   };
-  for (const auto& instance : result.instances) write(InstanceJson(*instance));
   if (!header.withRuns) return;
   for (const ToolRun& run : result.runs)
     write({

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/views/json/json_view.h"
 #include "host/hxahost/views/report/proof_data.h"
 #include "host/hxahost/views/report/report_data.h"
@@ -23,6 +24,16 @@ void WriteResultJson(std::ostream& out, const QueryHeader& header, const QueryRe
   EndJson(out, header);
 }
 
+// A log of which not all events are shown is no text that a browser shows either.
+QueryResult WithoutLongLog(const QueryResult& result) {
+  QueryResult shown = result;
+  if (result.events > 0) {
+    std::erase_if(shown.instances,
+                  [](const auto& instance) { return instance->Class().name == kManagerRawDataClass; });
+  }
+  return shown;
+}
+
 using Write = std::function<void(std::ostream& out)>;
 
 Write AsScriptData(const Write& write) {
@@ -37,8 +48,9 @@ Write AsScriptData(const Write& write) {
 
 void BeginHtml(std::ostream&, const QueryHeader&) {}
 
-void WriteQueryHtml(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
-  if (result.number != header.queryCount) return;
+void WriteQueryHtml(std::ostream& out, const QueryHeader& header, const QueryResult& all) {
+  if (all.number != header.queryCount) return;
+  const QueryResult result = WithoutLongLog(all);
   const Machine machine = BuildMachine(header, result);
   const auto writeTitle = [&](std::ostream& page) { WriteTitleHtml(page, header); };
   const TemplateSlot slots[] = {

@@ -10,6 +10,7 @@
 #include "host/hxacore/schema.h"
 #include "host/hxahost/machine/health.h"
 #include "host/hxahost/machine/incident_words.h"
+#include "host/hxahost/machine/kept_events.h"
 #include "host/hxahost/result/unread_lines.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/json_output.h"
@@ -235,6 +236,7 @@ void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryRe
   json["objects"] = ObjectsJson(machine);
   json["origins"] = OriginsJson(header);
   json["eventLevels"] = EventLevelsJson();
+  if (const std::string note = EventNote(result); !note.empty()) json["eventNote"] = note;
   json["findings"] = FindingsJson(machine.findings);
   json["unread"] = UnreadLinesJson(header, result);
   out << JsonText(json, 2);

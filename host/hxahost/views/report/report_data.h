@@ -16,6 +16,7 @@ namespace hxahost {
 // - the objects of the machine with their controllers, members and levels, and the title and lines of their boxes;
 // - what properties are made of, by class and property ("origins"), where there are words on it;
 // - what the severities of log records mean ("eventLevels");
+// - how many events are shown of how many ("eventNote"), where it is not all of them;
 // - the findings: "instance" is the place of the instance that a finding is about;
 // - the lines of the raw texts that no property shows ("unread"), null where not all classes were asked for.
 void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine);

@@ -9,10 +9,12 @@
 #include <fmt/core.h>
 
 #include "host/hxahost/machine/health.h"
+#include "host/hxahost/machine/kept_events.h"
 #include "host/hxahost/machine/machine.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/terminal/table.h"
+#include "host/hxahost/terminal/wrap.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/display_width.h"
 #include "host/hxahost/text/escaping.h"
@@ -69,6 +71,7 @@ void WriteVerdict(std::ostream& out, const QueryHeader& header, const Machine& m
 void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
   std::map<std::string_view, std::size_t> counts;
   for (const auto& instance : result.instances) ++counts[instance->Class().name];
+  if (result.events > 0) counts[kEventClass] = result.events;
   Table table;
   table.columns = {
       {"Class asked for", 60},
@@ -77,6 +80,12 @@ void WriteCounts(std::ostream& out, const QueryHeader& header, const QueryResult
   for (const std::string& name : header.classes) table.rows.push_back({name, std::to_string(counts[name])});
   out << '\n';
   WriteTable(out, header.layout, table);
+}
+
+void WriteEventNote(std::ostream& out, const Layout& layout, const QueryResult& result) {
+  const std::string note = EventNote(result);
+  if (note.empty()) return;
+  for (const std::string& line : WrapWords(note, layout.width)) out << line << '\n';
 }
 
 }  // namespace
@@ -95,6 +104,7 @@ void WriteQueryTables(std::ostream& out, const QueryHeader& header, const QueryR
   if (IsJudged(header)) WriteVerdict(out, header, machine);
   WriteControllerBlocks(out, header, result.instances, machine);
   WriteRecordSections(out, header, result.instances, machine);
+  WriteEventNote(out, header.layout, result);
   if (header.showAll) {
     WriteRawTextSummary(out, header.layout, result.instances);
     WriteCounts(out, header, result);

@@ -117,7 +117,8 @@ function eventSection(model) {
   const events = timedEvents(model);
   const aside = timelessLogs(model);
   if (events.length === 0 && aside.length === 0) return null;
-  const list = events.length === 0 ? [] : [make("div", { class: "timed" },
+  const note = report.data.eventNote ? [make("p", {}, report.data.eventNote)] : [];
+  const list = events.length === 0 ? [] : [make("div", { class: "timed" }, ...note,
     make("p", { class: "quiet" },
       "In the order of the clock that each log shows. The log of defunct drives names no time zone."),
     ...timeStrip(events), eventTable(events))];
