@@ -21,7 +21,7 @@ class TextFile {
   // Open if the system opens the path for reading and finds an ordinary file of at most so many bytes there.
   explicit TextFile(const std::string& nativePath, std::uint64_t largest = kLargestInput);
 
-  // What a file held when it was recorded; null, and not open, where there was none.
+  // A recorded file; null if there was none, and then not open.
   explicit TextFile(std::shared_ptr<const std::string> recorded);
 
   bool IsOpen() const { return file_ || recorded_; }
@@ -43,7 +43,7 @@ class TextFile {
 
   UniqueStream file_;
   std::string refusal_;
-  std::shared_ptr<const std::string> recorded_;  // read as a file is
-  std::size_t next_ = 0;                         // of its bytes
+  std::shared_ptr<const std::string> recorded_;  // read like a file
+  std::size_t next_ = 0;                         // the place of the next byte
   bool hasMetEnd_ = false;
 };

@@ -9,16 +9,16 @@
 // What the system of a machine answered when a collection was recorded on it.
 struct RecordedSystem {
   OsVersion version;
-  std::optional<std::string> raidLogDir;       // the registry's value; nothing: it has none
-  std::shared_ptr<const std::string> raidLog;  // the bytes of the RAID manager's log; null: it cannot be opened
-  std::string raidLogRefusal = {};             // why it is not opened although it is there; "" where it is not there, too
+  std::optional<std::string> raidLogDir;       // the registry's value; empty if it has none
+  std::shared_ptr<const std::string> raidLog;  // the bytes of the RAID manager's log; null if it cannot be opened
+  std::string raidLogRefusal = {};             // why it is not opened although it exists; otherwise ""
 };
 
-// Begins the log's entry on a RAID manager's log that is there and is not opened; ": ", the reason and a full stop follow
-// its path.
+// The beginning of the entry in the plug-in's log about a RAID manager's log that is not opened. The path, ": ", the
+// reason and a full stop follow.
 inline constexpr const char* kRaidLogNotRead = "RAID manager log not read: ";
 
-// From here on it answers in the place of the system, to all that this library asks; nothing: the system answers.
+// From now on these answers are used instead of the system's; if empty, the system answers.
 void AnswerAs(std::optional<RecordedSystem> recorded);
 
 // What answers in the place of the system; null where the system does.

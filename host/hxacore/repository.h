@@ -44,7 +44,8 @@ class HXACORE_API TRepository : public ICIMNamespace, public boost::enable_share
   // Begins a query of these classes: removes the instances of all of them that were published before.
   virtual void BeginQuery(const std::vector<boost::shared_ptr<ICIMClass>>& classes) = 0;
 
-  // Shows each instance to this when it is committed; false: it is not kept. Without it, all are kept.
+  // Called for each instance when it is committed; an instance is not kept if it returns false. By default all are
+  // kept.
   using TKeeps = std::function<bool(const boost::shared_ptr<const TPublishedInstance>& committed)>;
   virtual void OnCommit(TKeeps keeps) = 0;
 

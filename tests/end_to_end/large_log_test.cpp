@@ -1,4 +1,4 @@
-// A RAID manager's log with more events than people look at.
+// A RAID manager's log with more events than the tables and the report show.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,13 +22,12 @@ using testing::Not;
 constexpr const char* kEvent = "KVRSG_LogRecord_RAIDMgrEvent";
 constexpr const char* kNote = "The newest 5000 of 6000 events";
 
-// What a query of the sample machine shows whose log has so many events.
+// The output of a query of the sample machine with so many events in its log.
 std::string Shown(const std::string& format, int events) {
   const TemporaryFolder folder;
   const std::string bundle = WriteLargeLogBundle(folder, events);
-  const ProgramResult result =
-      RunHxahost({"query", "--format", format, "--replay", bundle, "--width", "200", "--local-time",
-                  "20261121093000.000000+060"});
+  const ProgramResult result = RunHxahost(
+      {"query", "--format", format, "--replay", bundle, "--width", "200", "--local-time", "20261121093000.000000+060"});
   EXPECT_EQ(result.exitStatus, 0) << result.err;
   return result.out;
 }
@@ -55,7 +54,7 @@ Published ReadReport(const std::string& page) {
       ordered_json::parse(page.substr(first, page.find("</script>", first) - first))["queries"][0]["instances"]);
 }
 
-TEST(LargeLog, AReportShowsTheNewestEventsAndSaysHowManyThereAre) {
+TEST(LargeLog, AReportShowsTheNewestEventsAndTheTotal) {
   const std::string page = Shown("html", 6000);
   const Published shown = ReadReport(page);
   ASSERT_EQ(shown.messages.size(), 5000U);
@@ -66,7 +65,7 @@ TEST(LargeLog, AReportShowsTheNewestEventsAndSaysHowManyThereAre) {
   EXPECT_EQ(std::ranges::count(shown.classes, "KVRSG_zxManagerRawData"), 0);
 }
 
-TEST(LargeLog, AReportShowsAllEventsWhereThereAreNotMore) {
+TEST(LargeLog, AReportShowsAllEventsOfAShortLog) {
   const std::string page = Shown("html", 5000);
   const Published shown = ReadReport(page);
   EXPECT_EQ(shown.messages.size(), 5000U);
@@ -74,14 +73,14 @@ TEST(LargeLog, AReportShowsAllEventsWhereThereAreNotMore) {
   EXPECT_EQ(std::ranges::count(shown.classes, "KVRSG_zxManagerRawData"), 1);
 }
 
-TEST(LargeLog, TablesShowTheNewestEventsAndSayHowManyThereAre) {
+TEST(LargeLog, TablesShowTheNewestEventsAndTheTotal) {
   const std::string tables = Shown("table", 6000);
   EXPECT_THAT(tables, HasSubstr(kNote));
   EXPECT_THAT(tables, HasSubstr("Event 1000 of"));
   EXPECT_THAT(tables, Not(HasSubstr("Event 999 of")));
 }
 
-TEST(LargeLog, ProgramsGetAllEventsInTheirPlace) {
+TEST(LargeLog, FormatsForProgramsContainAllEventsInTheirPlace) {
   const auto result = ordered_json::parse(Shown("json", 6000));
   const Published json = ReadInstances(result["queries"][0]["instances"]);
   ASSERT_EQ(json.messages.size(), 6000U);

@@ -56,7 +56,7 @@ TEST(BundleMask, LeavesTheWordsThatTheTextsAreReadBy) {
   EXPECT_THAT(masked.raidLog->bytes, testing::StartsWith("June 1\tINF\t"));
 }
 
-TEST(BundleMask, GivesTheSameTextTheSameMaskInAllPlaces) {
+TEST(BundleMask, UsesTheSameMaskForATextInAllPlaces) {
   const Bundle masked = MaskBundle(Secretive(), Seeded());
   const std::string& first = masked.runs[0].result.output;
   const std::string serial = first.substr(first.find("Serial number : ") + 16, 8);
@@ -217,7 +217,7 @@ TEST(BundleMask, FindsNamesWithUmlautsInEitherCase) {
   EXPECT_THAT(MaskBundle(bundle, Seeded()).runs[1].result.output, Not(HasSubstr("RENH")));
 }
 
-TEST(BundleMask, LeavesABundleWithNothingInItAsItIs) {
+TEST(BundleMask, LeavesAnEmptyBundleUnchanged) {
   Bundle empty;
   Bundle masked = MaskBundle(empty, Seeded());
   masked.isMasked = false;

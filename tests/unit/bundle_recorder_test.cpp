@@ -46,7 +46,7 @@ TEST(BundleRecorder, KeepsEveryAnswerOfTheServices) {
   EXPECT_EQ(WriteBundle(recorded), WriteBundle(SampleBundle()));
 }
 
-TEST(BundleRecorder, WritesTheSameBundleWithoutHoldingItInMemory) {
+TEST(BundleRecorder, WritesTheSameBundlePieceByPiece) {
   BundleReplay replay(SampleBundle());
   BundleRecorder recorder(18, "C:\\tools");
   const HostServices services = recorder.Wrap(replay.Services());

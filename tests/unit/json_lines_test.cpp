@@ -58,7 +58,7 @@ TEST(JsonLinesReader, LeavesALineThatIsCutOffWithThoseBeforeIt) {
   }
 }
 
-TEST(JsonLinesReader, HoldsAResultUpToALimitAndReadsTheNextOne) {
+TEST(JsonLinesReader, ReadsAResultUpToALimitAndContinuesWithTheNextOne) {
   const std::string line = Line("A", "1", "a");
   const std::string longLine = Line("B", "1", std::string(1000, 'x'));
   for (const std::string& large : {line + line + line, longLine, line + longLine.substr(0, 900)}) {
@@ -73,7 +73,7 @@ TEST(JsonLinesReader, HoldsAResultUpToALimitAndReadsTheNextOne) {
   EXPECT_FALSE(Collections(line + line, 2 * line.size()).front().isTooLarge);
 }
 
-TEST(JsonLinesReader, GivesTheInstancesTheRunsAndTheLog) {
+TEST(JsonLinesReader, ReadsTheInstancesTheRunsAndTheLog) {
   const std::string begin = R"({"machine":"A","time":"1","replayed":true,"class":)";
   const JsonResult result =
       ParseJsonLines({Line("A", "1", "p") + begin +

@@ -23,7 +23,7 @@ void PublishEvent(FilledRepository& repository, const std::string& record, const
                      "Severity", severity, "Message", message);
 }
 
-// What a query of 2026 holds of the repository.
+// The instances of the repository that a query in 2026 keeps.
 QueryResult Kept(const FilledRepository& repository, std::size_t newest) {
   QueryHeader header;
   header.time = TCIMDateTime(2026, 3, 6, 12, 0, 0, 0, 0);
@@ -44,7 +44,7 @@ std::vector<std::string> Names(const QueryResult& result) {
   return names;
 }
 
-TEST(KeptEvents, AreTheNewestInTheirPlaceAndTheTotalIsTold) {
+TEST(KeptEvents, ContainTheNewestInTheirPlaceAndTheTotal) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "before");
   for (int record = 1; record <= 6; ++record) PublishEvent(repository, std::to_string(record), "INF", "m", 2026);
@@ -56,7 +56,7 @@ TEST(KeptEvents, AreTheNewestInTheirPlaceAndTheTotalIsTold) {
             "The newest 2 of 6 events: \"hxahost query --class events --format jsonl\" writes all of them.");
 }
 
-TEST(KeptEvents, AreAllWhereTheyAreNotMore) {
+TEST(KeptEvents, AreAllEventsOfAShortLog) {
   FilledRepository repository;
   for (int record = 1; record <= 3; ++record) PublishEvent(repository, std::to_string(record), "INF", "m", 2026);
   const QueryResult result = Kept(repository, 3);
@@ -65,7 +65,7 @@ TEST(KeptEvents, AreAllWhereTheyAreNotMore) {
   EXPECT_EQ(EventNote(result), "");
 }
 
-TEST(KeptEvents, HaveThoseThatTheRulesRead) {
+TEST(KeptEvents, ContainThoseThatTheRulesRead) {
   FilledRepository repository;
   PublishEvent(repository, "1", "WRN", "the battery is low", 2026);
   PublishEvent(repository, "2", "INF", "the battery is fine", 2026);

@@ -73,7 +73,7 @@ TEST(RecordedSystem, HasTheLogUnderThePathThatItHadThere) {
   EXPECT_EQ(collector.ReadNextRecord(), RaidMgrRead::kEnd);
 }
 
-TEST(RecordedSystem, RefusesTheLogThatWasRefusedThereWithTheSameWords) {
+TEST(RecordedSystem, RefusesARefusedLogWithTheSameWords) {
   hxahost::Bundle bundle = SampleBundle();
   bundle.raidLog->bytes = "";
   bundle.raidLog->failure = hxahost::RecordedFailure{hxahost::FailureKind::kNotOpened, "it is no ordinary file"};

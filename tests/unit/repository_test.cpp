@@ -106,7 +106,7 @@ TEST_F(Repository, ShowsAsPublishedOnlyWhatTheQueryCommitted) {
   EXPECT_EQ(Enumerate(*repository, kDisk).size(), 1U);
 }
 
-TEST_F(Repository, ShowsEachInstanceWhenItIsCommittedAndKeepsThoseThatAreWanted) {
+TEST_F(Repository, ReportsCommittedInstancesAndKeepsThoseThatAreWanted) {
   std::vector<std::string> shown;
   repository->OnCommit([&shown](const boost::shared_ptr<const TPublishedInstance>& committed) {
     shown.emplace_back(committed->Class().name);

@@ -10,7 +10,7 @@ namespace {
 
 using namespace hxahost;
 
-TEST(ScratchFile, GivesBackEachPieceInAnyOrder) {
+TEST(ScratchFile, ReadsPiecesInAnyOrder) {
   const TemporaryFolder folder;
   ScratchFile file(folder.Path());
   const std::string large(100'000, '\n');
@@ -30,7 +30,7 @@ TEST(ScratchFile, LeavesNothing) {
   EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
 }
 
-TEST(ScratchFile, IsRefusedWhereThereIsNoFolder) {
+TEST(ScratchFile, NeedsAFolder) {
   const TemporaryFolder folder;
   EXPECT_THROW(ScratchFile(folder.Path() / "missing"), std::filesystem::filesystem_error);
 }

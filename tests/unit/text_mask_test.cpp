@@ -36,7 +36,7 @@ TEST(TextMask, KeepsLengthAndKindsOfCharacters) {
   EXPECT_NE(mask.Mask("NV3LE77Q2H"), "NV3LE77Q2H");
 }
 
-TEST(TextMask, GivesTheSameTextTheSameMaskInEitherCase) {
+TEST(TextMask, UsesTheSameMaskForATextInEitherCase) {
   TextMask mask(Seeded(1));
   const std::string upper = mask.Mask("DBSERVER");
   EXPECT_EQ(mask.Mask("DBSERVER"), upper);

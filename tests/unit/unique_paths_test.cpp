@@ -14,7 +14,7 @@ using testing::ElementsAre;
 
 using Path = UniquePaths::Path;
 
-// What becomes of the instances of the repository, one after the other.
+// The outcome for each instance of the repository, in their order.
 std::vector<Path> Added(const FilledRepository& repository, UniquePaths paths = {}) {
   std::vector<Path> added;
   for (const auto& instance : repository.Instances()) added.push_back(paths.Add(*instance));
@@ -43,7 +43,7 @@ TEST(UniquePaths, SeeADifferenceOfOneElementOrOfAPropertyThatIsNotThere) {
   EXPECT_THAT(Added(repository), ElementsAre(Path::kNew, Path::kTaken, Path::kTaken, Path::kTaken));
 }
 
-// XML shows both as the picture of the control character.
+// XML shows both as the symbol of the control character.
 TEST(UniquePaths, AreUniqueAsDocumentsShowThem) {
   FilledRepository repository;
   repository.Publish("KVRSG_zxDiskGroup", "CollectionID", "\x07");

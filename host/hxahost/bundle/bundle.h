@@ -24,8 +24,8 @@ enum class FailureKind {
   kNotEnded,
   kTooMuchOutput,
   kNotOpened,  // a file
-  kHost,       // any other failure of the host's own kind, which plug-ins expect
-  kOther,      // what no plug-in expects, such as no memory
+  kHost,       // any other exception of the host, which plug-ins expect
+  kOther,      // an exception that no plug-in expects, such as no memory
 };
 
 struct RecordedFailure {
@@ -51,11 +51,11 @@ NKVRHXA20::SpawnResult Repeat(const RecordedRun& run);
 // "zenx//arcconf.exe getconfig 1 al", unescaped.
 std::string CommandText(const RecordedRun& run);
 
-// The RAID manager's log, where it was there.
+// The RAID manager's log, if it existed.
 struct RecordedLog {
   std::string path;
   std::string bytes;
-  std::optional<RecordedFailure> failure;  // why it was not opened, or could not be captured although it was
+  std::optional<RecordedFailure> failure;  // why it was not opened, or not read to its end
 };
 
 // A reading of the clock, and how often it occurs in a row: several readings fall within one tick.

@@ -116,7 +116,7 @@ std::string BundleRecorder::Capture(const std::function<std::string(const std::s
     return bytes;
   } catch (...) {
     log.failure = CurrentFailure();
-    log_ = scratch_.Append(ReadWholeFile(path).bytes);  // the plug-in reads it all the same, as far as it can
+    log_ = scratch_.Append(ReadWholeFile(path).bytes);  // the plug-in reads it, too, as far as possible
     throw;
   }
 }
@@ -134,7 +134,7 @@ void BundleRecorder::Write(std::ostream& out) const {
       [this] { return scratch_.Read(log_); });
 }
 
-// A log that the plug-in does not open passes through no service: all that it says of it is this entry.
+// The plug-in reports a RAID manager's log that it does not open only with this entry.
 void BundleRecorder::ReadLogEntry(const std::string& text) {
   constexpr std::string_view kColon = ": ";
   const std::size_t path = std::string_view(kRaidLogNotRead).size();

@@ -15,7 +15,8 @@
 
 namespace hxahost {
 
-// Keeps everything that a collection receives: outputs and the log in a file, as they may take a lot of memory.
+// Keeps everything that a collection receives. Outputs and the log are in a file, because they may take a lot of
+// memory.
 class BundleRecorder {
  public:
   // Records what is passed to the plug-in about the system, which does not come through the services. The directory is
@@ -26,15 +27,15 @@ class BundleRecorder {
   // The services, with every answer recorded; this must outlive them.
   NKVRHXA20::HostServices Wrap(NKVRHXA20::HostServices services);
 
-  // A command that was not run any more, and what the plug-in received instead of an answer.
+  // Adds a command that was no longer run, with the message that the plug-in received.
   void AddNotAsked(const std::string& path, const std::vector<std::string>& arguments, const std::string& message);
 
   void AddQuery(double seconds) { bundle_.querySeconds.push_back(seconds); }
 
-  // All of it, in memory. Throws std::runtime_error where the disk had no room for it.
+  // The whole bundle, in memory. Throws std::runtime_error if the file could not be written.
   Bundle Recorded() const;
 
-  // Writes it as a bundle, with one output in memory at a time. Throws as Recorded.
+  // Writes the bundle, with one output in memory at a time. Throws like Recorded.
   void Write(std::ostream& out) const;
 
  private:
@@ -45,7 +46,7 @@ class BundleRecorder {
 
   Bundle bundle_;  // without outputs and the bytes of the log
   ScratchFile scratch_;
-  std::vector<ScratchFile::Piece> outputs_;  // of the runs, by their places
+  std::vector<ScratchFile::Piece> outputs_;  // in the order of the runs
   ScratchFile::Piece log_;
 };
 

@@ -18,7 +18,7 @@ class NotRecorded : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Answers as a machine did when a bundle was recorded on it.
+// Answers as the machine did on which the bundle was recorded.
 class BundleReplay {
  public:
   explicit BundleReplay(Bundle bundle);

@@ -46,7 +46,7 @@ std::optional<CollectionLock> TakeLock(const CollectionOptions& options, std::os
   return std::optional<CollectionLock>(std::in_place, "zenx", options.longestWait, err);
 }
 
-// Beside the bundle, where there is room for it; the system's folder where it is written to no file.
+// The folder of the bundle, which has room for it; the system's folder if the bundle is not written to a file.
 fs::path ScratchFolder(const fs::path& bundle) {
   std::error_code ignored;
   const bool isFile =
@@ -83,7 +83,7 @@ std::unique_ptr<BundleRecorder> Collection::MakeRecorder(const CollectionOptions
   return std::make_unique<BundleRecorder>(osType_, ToolDirectory(), ScratchFolder(options.record));
 }
 
-// Where the tools are run, or were when they were recorded.
+// The folder in which the tools run, or ran when they were recorded.
 std::string Collection::ToolDirectory() const {
   return replay_ ? replay_->Recorded().directory : Utf8FromPath(fs::current_path());
 }

@@ -29,12 +29,12 @@ class Collection {
   Collection(const Collection&) = delete;
   Collection& operator=(const Collection&) = delete;
 
-  // What holds for all queries of these classes.
+  // The header of all queries of these classes.
   QueryHeader Header(std::vector<std::string> classes) const;
 
-  // Has the plug-in publish the classes of the header. Queries are counted from 1. Each instance is shown to keeps, where
-  // that is not empty, as it is published; the result has those that it gives true for. What the plug-in throws passes
-  // on.
+  // Lets the plug-in publish the classes of the header. Queries are counted from 1. Calls keeps, if it is not empty,
+  // for each instance when it is published; the result contains the instances for which it returns true. Exceptions of
+  // the plug-in are passed on.
   QueryResult Query(const QueryHeader& header, unsigned number, NKVRHXA20::TRepository::TKeeps keeps);
 
   // Call it after the last query. Throws ProgramError if the log lacks entries.

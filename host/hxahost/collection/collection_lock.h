@@ -12,8 +12,8 @@ namespace hxahost {
 // controllers at once can block each other. A missing or read-only folder is used without a lock.
 class CollectionLock {
  public:
-  // Waits until no other program has it, and says so to err before it waits. Throws ProgramError when that takes
-  // longer.
+  // Waits until no other program has the lock, and writes a line to err before it waits. Throws ProgramError if that
+  // takes longer.
   CollectionLock(const std::filesystem::path& folder, std::chrono::seconds longestWait, std::ostream& err);
 
  private:

@@ -16,7 +16,7 @@ namespace hxahost {
 // More time than most collections take, and less than five minutes, the time between two jobs of a timer.
 inline constexpr std::chrono::seconds kUsualWait{240};
 
-// How to collect. An empty path was not given; the others are absolute, but for "-", a standard stream.
+// The options of a collection. An empty path was not given; others are absolute, except "-", a standard stream.
 struct CollectionOptions {
   std::filesystem::path plugin;     // empty: zenx.pi beside the program
   std::filesystem::path directory;  // the working directory of the tools

@@ -36,7 +36,7 @@ std::vector<fs::path> FilesIn(const fs::path& folder) {
   return files;
 }
 
-bool HoldsLines(const fs::path& file, std::uint64_t largest) {
+bool HasJsonLines(const fs::path& file, std::uint64_t largest) {
   if (!fs::is_regular_file(file)) return false;  // opening a pipe may block for ever
   std::ifstream stream(file, std::ios::binary);
   std::string line;
@@ -74,7 +74,7 @@ std::optional<FleetInput> FleetInputs::Next() {
   if (auto lines = NextLines()) return lines;
   if (next_ == files_.size()) return std::nullopt;
   const fs::path& file = files_[next_++];
-  if (!HoldsLines(file, largest_)) return FleetInput{Utf8FromPath(file), file, std::nullopt, largest_};
+  if (!HasJsonLines(file, largest_)) return FleetInput{Utf8FromPath(file), file, std::nullopt, largest_};
   lines_ = std::ifstream(file, std::ios::binary);
   reader_.emplace(lines_, largest_);
   return NextLines();

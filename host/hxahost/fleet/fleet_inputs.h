@@ -16,9 +16,9 @@ namespace hxahost {
 
 // The source of one collection.
 struct FleetInput {
-  std::string name;                      // for messages: the file, UTF-8
-  std::filesystem::path file;            // a JSON result or a bundle
-  std::optional<CollectionLines> lines;  // the lines of the collection, if the file contains JSON lines
+  std::string name;                       // for messages: the file, UTF-8
+  std::filesystem::path file;             // a JSON result or a bundle
+  std::optional<CollectionLines> lines;   // the lines of the collection, if the file contains JSON lines
   std::uint64_t largest = kLargestInput;  // bytes of the file that are read at most
 };
 

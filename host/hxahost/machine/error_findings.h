@@ -8,7 +8,7 @@ namespace hxahost {
 // batteries. Each value has a limit, at which its warning begins.
 Findings ErrorFindings(const QueryHeader& header, const InstanceList& instances);
 
-// Whether the RAID manager's event is about a battery, worse than an information, and recent.
+// Whether the RAID manager's event is about a battery, more severe than information, and recent.
 bool IsBatteryMessage(const QueryHeader& header, const NKVRHXA20::TPublishedInstance& event);
 
 }  // namespace hxahost

@@ -35,11 +35,10 @@ void KeptEvents::PutInto(QueryResult& result) {
 
 std::string EventNote(const QueryResult& result) {
   if (result.events == 0) return "";
-  const auto shown = std::ranges::count_if(
-      result.instances, [](const auto& instance) { return instance->Class().name == kEventClass; });
-  return fmt::format(
-      "The newest {} of {} events: \"hxahost query --class events --format jsonl\" writes all of them.", shown,
-      result.events);
+  const auto shown = std::ranges::count_if(result.instances,
+                                           [](const auto& instance) { return instance->Class().name == kEventClass; });
+  return fmt::format("The newest {} of {} events: \"hxahost query --class events --format jsonl\" writes all of them.",
+                     shown, result.events);
 }
 
 }  // namespace hxahost

@@ -8,19 +8,18 @@
 
 namespace hxahost {
 
-// How many events of the RAID manager's log people are shown.
+// The number of events of the RAID manager's log in the tables and the report.
 inline constexpr std::size_t kNewestEvents = 5000;
 
-// Of the events of the RAID manager's log, of which there may be millions, a query holds the newest, and those that the
-// rules of health read.
+// Keeps the newest events of the RAID manager's log, which may have millions, and those that the rules of health read.
 class KeptEvents {
  public:
   explicit KeptEvents(std::size_t newest) : newest_(newest) {}
 
-  // Takes an event. False for an instance of another class: the query holds it.
+  // Takes an event. Returns false for an instance of another class, which the query keeps.
   bool Take(const QueryHeader& header, const boost::shared_ptr<const NKVRHXA20::TPublishedInstance>& instance);
 
-  // Puts the events where they were published among the instances that the query holds. The next query begins.
+  // Inserts the events into the query, at their place in the order of publication, and begins the next query.
   void PutInto(QueryResult& result);
 
  private:
@@ -31,7 +30,7 @@ class KeptEvents {
   std::deque<boost::shared_ptr<const NKVRHXA20::TPublishedInstance>> held_;
 };
 
-// How many events are shown, of how many, and where all of them are; "" where all are shown.
+// A sentence with the number of events shown and of all events, and how to get all of them; "" if all are shown.
 std::string EventNote(const QueryResult& result);
 
 }  // namespace hxahost

@@ -14,14 +14,14 @@
 
 namespace hxahost {
 
-// Shows queries. A query is written as it comes, or as soon as it is done, so that only one is held at a time.
+// Writes queries, each as soon as it ends, so that only one is in memory at a time.
 struct QueryWriter {
   void (*Begin)(std::ostream& out, const QueryHeader& header);
   void (*Query)(std::ostream& out, const QueryHeader& header, const QueryResult& result);
   void (*End)(std::ostream& out, const QueryHeader& header);
-  bool hasUniquePaths = false;     // each path is shown once
-  bool showsNewestEvents = false;  // of the RAID manager's log; for people
-  // Writes an instance as soon as it is published, before Query writes the rest; none: Query writes all.
+  bool hasUniquePaths = false;     // each path occurs once
+  bool showsNewestEvents = false;  // and not all events of the RAID manager's log
+  // Writes an instance as soon as it is published; Query then writes the rest. If it is null, Query writes everything.
   void (*Instance)(std::ostream& out, const QueryHeader& header, const NKVRHXA20::TPublishedInstance& instance,
                    const InstancePlace& place) = nullptr;
 };

@@ -110,7 +110,7 @@ bool HasObject(const InstanceList& instances) {
   });
 }
 
-// What the display sees of each instance.
+// Passes each instance to the display.
 TRepository::TKeeps Watch(const QueryDisplay& display, std::ostream& out, const QueryHeader& header, unsigned number) {
   if (!display.instance) return {};
   return [&display, &out, &header, number](const auto& instance) {
@@ -118,16 +118,17 @@ TRepository::TKeeps Watch(const QueryDisplay& display, std::ostream& out, const 
   };
 }
 
-// Has each instance written as soon as it is published, if the format can do that; each path once where it wants that.
+// Writes each instance as soon as it is published, if the format can do so, and each path once if the format wants
+// that.
 class InstanceStream {
  public:
   InstanceStream(const QueryWriter& writer, std::ostream& err) : writer_(writer), err_(err) {}
 
-  bool Take(std::ostream& out, const QueryHeader& header,
-            const boost::shared_ptr<const TPublishedInstance>& instance, unsigned query) {
+  bool Take(std::ostream& out, const QueryHeader& header, const boost::shared_ptr<const TPublishedInstance>& instance,
+            unsigned query) {
     Begin(out, header, query);
     Add(out, header, instance, query);
-    return instance->Class().name != kEventClass;  // there may be millions of them, and nothing refers to one
+    return instance->Class().name != kEventClass;  // there may be millions, and nothing refers to them
   }
 
   void End(std::ostream& out, const QueryHeader& header, QueryResult& result) {
@@ -144,7 +145,8 @@ class InstanceStream {
   using Instance = boost::shared_ptr<const TPublishedInstance>;
 
   void Begin(std::ostream& out, const QueryHeader& header, unsigned query) {
-    if (!std::exchange(hasBegun_, true) && writer_.hasUniquePaths && header.system) Add(out, header, header.system, query);
+    if (!std::exchange(hasBegun_, true) && writer_.hasUniquePaths && header.system)
+      Add(out, header, header.system, query);
   }
 
   void Add(std::ostream& out, const QueryHeader& header, const Instance& instance, unsigned query) {
@@ -240,7 +242,7 @@ ExitStatus RunQueryCommand(const QueryOptions& options, std::ostream& out, std::
   QueryDisplay display{writer.Begin, writer.Query, writer.End};
   InstanceStream stream(writer, err);
   KeptEvents events(kNewestEvents);
-  const bool needsAll = options.showUnread;  // which lines no property shows, all instances tell together
+  const bool needsAll = options.showUnread;  // unread lines are found from all instances together
   if (writer.hasUniquePaths || (writer.Instance != nullptr && !needsAll)) {
     display.instance = std::bind_front(&InstanceStream::Take, &stream);
     display.query = std::bind_front(&InstanceStream::End, &stream);

@@ -14,12 +14,12 @@ struct QueryDisplay {
   std::function<void(std::ostream& out, const QueryHeader& header)> begin;
   std::function<void(std::ostream& out, const QueryHeader& header, QueryResult& result)> query;
   std::function<void(std::ostream& out, const QueryHeader& header)> end;
-  // Sees each instance as it is published, before the query as a whole; what it gives true for the query holds. None:
-  // the query holds them all.
+  // Called for each instance when it is published, before the query; the query contains the instances for which it
+  // returns true. If it is empty, the query contains all of them.
   std::function<bool(std::ostream& out, const QueryHeader& header,
                      const boost::shared_ptr<const NKVRHXA20::TPublishedInstance>& instance, unsigned query)>
       instance = {};
-  bool showsPart = false;  // what a replay gave that ended early; otherwise that is a failure
+  bool showsPart = false;  // a replay that ended early is shown; otherwise it is a failure
 };
 
 // The outcome of the queries of one program run.

@@ -115,7 +115,7 @@ Reading BestOf(const std::vector<Reading>& readings, const Sought& sought) {
   return both;
 }
 
-// Without a text that could say it, nothing is claimed.
+// Without a text that could contain the row, the proof claims nothing.
 void FindRow(Proof& proof, const std::vector<Place>& places) {
   if (places.empty()) return;
   proof.evidence = Evidence::kNoLine;

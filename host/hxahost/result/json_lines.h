@@ -15,15 +15,15 @@ namespace hxahost {
 // The lines of one collection.
 struct CollectionLines {
   std::string text;
-  std::size_t first = 1;         // the number of the first one, counted from 1
-  std::uint64_t largest = 0;     // how many bytes they may have together
-  bool isTooLarge = false;       // they have more, which are not in the text
+  std::size_t first = 1;      // the number of the first line, counted from 1
+  std::uint64_t largest = 0;  // the limit of their size, in bytes
+  bool isTooLarge = false;    // they are larger, and the text is empty
 };
 
 // Divides a stream into collections: consecutive lines of the same machine and time are one collection.
 class CollectionReader {
  public:
-  // Holds at most so many bytes of a collection.
+  // A collection may have at most so many bytes.
   explicit CollectionReader(std::istream& in, std::uint64_t largest = kLargestInput) : in_(in), largest_(largest) {}
 
   // Empty after the last one. An incomplete line belongs to the lines before it.
@@ -35,14 +35,15 @@ class CollectionReader {
 
   std::istream& in_;
   std::uint64_t largest_;
-  std::string line_;  // that was read and not given
+  std::string line_;  // read but not yet returned
   std::size_t number_ = 0;
 };
 
-// The next line without its end, or as much of it as is more than the largest; false after the last.
+// Reads the next line, without its end, and returns false after the last one. A line that is too large is cut one byte
+// after the limit.
 bool ReadLineUpTo(std::istream& in, std::uint64_t largest, std::string& line);
 
-// Whether it is such a line, not the beginning of another kind of file.
+// Whether the line is such a line and not the beginning of another kind of file.
 bool IsInstanceLine(std::string_view line);
 
 // Converts the lines of one collection to a result. Throws ProgramError (wrong arguments), which names the file and the

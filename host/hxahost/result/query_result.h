@@ -55,23 +55,24 @@ struct LoggedEntry {
 
 using InstanceList = std::vector<boost::shared_ptr<const NKVRHXA20::TPublishedInstance>>;
 
-// Which instance of which query: the query is counted from 1, the instance from 0.
+// The place of an instance: the query is counted from 1, the instance in it from 0.
 struct InstancePlace {
   unsigned query = 1;
   std::size_t instance = 0;
 };
 
-// What one query gave.
+// The outcome of one query.
 struct QueryResult {
   unsigned number = 1;  // counted from 1
   InstanceList instances;
   std::vector<LoggedEntry> log;  // since the previous query ended
   ToolRunList runs = {};         // since the previous query ended
   double seconds = 0;            // its duration
-  std::string notRecorded = {};  // what ended a replay: the bundle does not hold it; "" where it holds all
-  std::vector<std::string> leftOut = {};  // in words, by a format that has each path once: others have their paths
-  std::size_t written = 0;       // how many instances were written as they came; they are not in the list
-  std::size_t events = 0;        // of the RAID manager's log that were published, where the list has but some of them
+  std::string notRecorded = {};  // the missing request that ended a replay; "" if nothing was missing
+  std::vector<std::string> leftOut =
+      {};                   // messages on instances that a format leaves out, because their path was taken
+  std::size_t written = 0;  // instances that are already written and not in the list
+  std::size_t events = 0;   // events of the RAID manager's log that were published; 0 if the list has all of them
 };
 
 }  // namespace hxahost

@@ -16,7 +16,7 @@ namespace {
 
 using Digest = boost::uuids::uuid;
 
-// Of what was taken before, and of a text.
+// A digest of everything before and a text.
 Digest With(const Digest& before, const std::string& text) { return boost::uuids::name_generator_sha1(before)(text); }
 
 Digest With(const Digest& before, const TCIMValue& value) {
@@ -38,7 +38,7 @@ Digest OfProperties(const TPublishedInstance& instance) {
 }  // namespace
 
 UniquePaths::Path UniquePaths::Add(const TPublishedInstance& instance) {
-  // Paths that only differ in what a document has no place for are one path there.
+  // Paths that differ only in characters that a document cannot contain are the same path there.
   const Digest path = With(boost::uuids::nil_uuid(), LegalXmlText(ObjectPathText(instance.Reference())));
   const Digest properties = OfProperties(instance);
   const auto [first, isNew] = first_.emplace(path, properties);

@@ -10,23 +10,23 @@
 
 namespace hxahost {
 
-// The queries of one run of the program for formats in which each path is there once: CIM repositories hold one
+// The paths of the instances of one program run, for formats in which each path occurs once: a CIM repository holds one
 // instance of a path.
 class UniquePaths {
  public:
   enum class Path {
     kNew,
-    kEqual,  // an instance that is equal has it
+    kEqual,  // an equal instance has it
     kTaken,  // another instance has it
   };
 
-  // Whether an instance that was added before has the path, too.
+  // Adds an instance, and returns whether an earlier one has its path.
   Path Add(const NKVRHXA20::TPublishedInstance& instance);
 
  private:
   using Digest = boost::uuids::uuid;
 
-  // The properties by the path: both may take more memory than all else, so that they are held as digests.
+  // The properties by the path, as digests, because the texts may take more memory than everything else.
   std::unordered_map<Digest, Digest, boost::hash<Digest>> first_;
 };
 

@@ -8,7 +8,7 @@ namespace hxahost {
 
 ScratchFile::ScratchFile(const std::filesystem::path& folder) : stream_(OpenScratchFile(folder)) {
   if (stream_) return;
-  throw std::filesystem::filesystem_error("cannot hold a file for a while", folder,
+  throw std::filesystem::filesystem_error("cannot create a temporary file", folder,
                                           std::error_code(errno, std::generic_category()));
 }
 
@@ -23,10 +23,9 @@ ScratchFile::Piece ScratchFile::Append(std::string_view bytes) {
 
 std::string ScratchFile::Read(const Piece& piece) const {
   std::string bytes(piece.size, '\0');
-  const bool isRead = isWhole_ && std::fflush(stream_.get()) == 0 &&
-                      std::fsetpos(stream_.get(), &piece.begin) == 0 &&
+  const bool isRead = isWhole_ && std::fflush(stream_.get()) == 0 && std::fsetpos(stream_.get(), &piece.begin) == 0 &&
                       std::fread(bytes.data(), 1, bytes.size(), stream_.get()) == bytes.size();
-  if (!isRead) throw std::runtime_error("what was held in a file for a while cannot be read: is there room on the disk?");
+  if (!isRead) throw std::runtime_error("the temporary file cannot be written or read: is the disk full?");
   return bytes;
 }
 

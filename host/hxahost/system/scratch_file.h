@@ -10,14 +10,14 @@
 
 namespace hxahost {
 
-// Bytes that are not wanted in memory, in a file that nobody else can open and that is gone with the program, however
-// that ends.
+// A temporary file for bytes that would take too much memory. No other user can open it, and the system removes it when
+// the program ends, also if it is killed.
 class ScratchFile {
  public:
-  // Throws std::filesystem::filesystem_error where none can be made in the folder.
+  // Throws std::filesystem::filesystem_error if the file cannot be created in the folder.
   explicit ScratchFile(const std::filesystem::path& folder);
 
-  // Where bytes are.
+  // The place of bytes in the file.
   struct Piece {
     std::fpos_t begin = {};
     std::size_t size = 0;
@@ -25,7 +25,7 @@ class ScratchFile {
 
   Piece Append(std::string_view bytes);
 
-  // Throws std::runtime_error where not all that was appended could be written, or it cannot be read.
+  // Throws std::runtime_error if an earlier Append failed or the file cannot be read.
   std::string Read(const Piece& piece) const;
 
  private:
@@ -33,7 +33,7 @@ class ScratchFile {
   bool isWhole_ = true;
 };
 
-// The system's part; null where it cannot be made.
+// The system's part; null if the file cannot be created.
 UniqueStream OpenScratchFile(const std::filesystem::path& folder);
 
 }  // namespace hxahost

@@ -67,7 +67,7 @@ std::string NotReadLine(const std::string& out) {
   return begin == out.npos ? "" : out.substr(begin, out.find('\n', begin) - begin);
 }
 
-TEST(InputFiles, ARaidManagersLogThatWasRefusedIsRefusedByItsReplayInTheSameWords) {
+TEST(InputFiles, AReplayRefusesARefusedRaidManagersLogWithTheSameWords) {
   const RaidLogSetting setting("raid-manager\\");
   for (const Trap& trap : kTraps) {
     const MachineCopy machine;

@@ -6,7 +6,7 @@
 
 namespace hxahost {
 
-// "D": Windows deletes it with its handle; "T": it stays in memory where there is room; "N": utilities do not inherit
+// "D": Windows deletes the file when it is closed; "T": it stays in memory if possible; "N": utilities do not inherit
 // it.
 UniqueStream OpenScratchFile(const std::filesystem::path& folder) {
   const std::filesystem::path name = folder / ("hxahost-" + std::to_string(ProcessId()) + ".part");

@@ -28,7 +28,7 @@ using Tree = boost::property_tree::ptree;
 
 constexpr std::string_view kBeginQuery = "<DECLGROUP.WITHPATH>\n";
 
-// Stands for the elements of an array, which are written in its place.
+// A placeholder for the elements of an array.
 constexpr const char* kElements = "ELEMENTS";
 constexpr std::size_t kElementIndent = 4;
 

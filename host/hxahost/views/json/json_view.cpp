@@ -37,14 +37,14 @@ Json ValueJson(const TCIMValue& value) {
   return Json::array();
 }
 
-// Writes an instance value by value: as one JSON value, a log of a million lines takes several times its memory.
+// Writes an instance value by value: a log of a million lines would take several times its memory as one JSON value.
 class InstanceText {
  public:
-  // Each value on a line of its own, indented by so many columns; nothing: all on one line.
+  // Each value is on its own line, indented by so many columns; without an indent, all are on one line.
   InstanceText(std::ostream& out, std::optional<std::size_t> indent)
       : out_(out), indent_(indent), colon_(indent ? "\": " : "\":") {}
 
-  // All but the braces around it.
+  // Writes everything except the braces around it.
   void Write(const TPublishedInstance& instance) {
     Name("class", 1);
     out_ << JsonText(instance.Class().name) << ',';
@@ -159,7 +159,7 @@ void BeginInstances(std::ostream& out, unsigned query) {
   out << (query == 1 ? "\n    {\n" : ",\n    {\n") << "      \"instances\": [";
 }
 
-// What each line begins with.
+// The beginning of each line.
 Json LineBegin(const QueryHeader& header) {
   Json begin = {
       {"machine", AsUtf8(header.machine)},
@@ -218,7 +218,7 @@ void BeginJsonLines(std::ostream&, const QueryHeader&) {}
 void WriteInstanceJsonLine(std::ostream& out, const QueryHeader& header, const TPublishedInstance& instance,
                            const InstancePlace&) {
   std::string begin = JsonText(LineBegin(header));
-  begin.back() = ',';  // in place of its closing brace
+  begin.back() = ',';  // instead of its closing brace
   out << begin;
   InstanceText(out, std::nullopt).Write(instance);
   out << "}\n";

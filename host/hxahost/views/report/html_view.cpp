@@ -24,12 +24,11 @@ void WriteResultJson(std::ostream& out, const QueryHeader& header, const QueryRe
   EndJson(out, header);
 }
 
-// A log of which not all events are shown is no text that a browser shows either.
+// If not all events are shown, the text of their log is too large for a browser, too.
 QueryResult WithoutLongLog(const QueryResult& result) {
   QueryResult shown = result;
   if (result.events > 0) {
-    std::erase_if(shown.instances,
-                  [](const auto& instance) { return instance->Class().name == kManagerRawDataClass; });
+    std::erase_if(shown.instances, [](const auto& instance) { return instance->Class().name == kManagerRawDataClass; });
   }
   return shown;
 }

@@ -9,16 +9,16 @@
 
 namespace hxahost {
 
-// What the report needs beside the query's JSON, as JSON:
-// - the program, and the classes that were asked for;
+// The data of the report in addition to the query's JSON, as JSON:
+// - the program, and the queried classes;
 // - the tables with their columns;
 // - the levels with their symbols and words, the worst first;
 // - the objects of the machine with their controllers, members and levels, and the title and lines of their boxes;
-// - what properties are made of, by class and property ("origins"), where there are words on it;
-// - what the severities of log records mean ("eventLevels");
-// - how many events are shown of how many ("eventNote"), where it is not all of them;
+// - the origins of properties in words, by class and property ("origins"), if there are any;
+// - the levels of the severities of log records ("eventLevels");
+// - a sentence with the numbers of events ("eventNote"), if not all are shown;
 // - the findings: "instance" is the place of the instance that a finding is about;
-// - the lines of the raw texts that no property shows ("unread"), null where not all classes were asked for.
+// - the lines of the raw texts that no property shows ("unread"), null unless all classes were queried.
 void WriteReportData(std::ostream& out, const QueryHeader& header, const QueryResult& result, const Machine& machine);
 
 // The levels with their symbols and words, the worst first.
