@@ -18,7 +18,7 @@ function(policy_hash VARIABLE TEXT)
       string(APPEND text "${character}")
     endforeach()
   endforeach()
-  string(SUBSTRING "${text}" 0 43 text) # the last character stands for the byte that was added
+  string(SUBSTRING "${text}" 0 43 text) # the last character replaces the added byte
   set(${VARIABLE} "${text}=" PARENT_SCOPE)
 endfunction()
 

@@ -12,7 +12,7 @@ function lowContrasts(page, selector) {
     const luminance = (colour) => channels(colour).slice(0, 3).map((value) => value / 255)
       .map((value) => (value <= 0.04045 ? value / 12.92 : ((value + 0.055) / 1.055) ** 2.4))
       .reduce((sum, value, index) => sum + value * [0.2126, 0.7152, 0.0722][index], 0);
-    const behind = (element) => {
+    const groundOf = (element) => {
       for (let each = element; each; each = each.parentElement) {
         const colour = getComputedStyle(each).backgroundColor;
         if ((channels(colour)[3] ?? 1) > 0) return colour;
@@ -20,7 +20,7 @@ function lowContrasts(page, selector) {
       return "rgb(255, 255, 255)";
     };
     return elements.filter((element) => element.textContent.trim() !== "").map((element) => {
-      const colours = [getComputedStyle(element).color, behind(element)];
+      const colours = [getComputedStyle(element).color, groundOf(element)];
       const [dark, light] = colours.map(luminance).sort((one, other) => one - other);
       return { text: element.textContent.slice(0, 40), contrast: (light + 0.05) / (dark + 0.05) };
     }).filter(({ contrast }) => contrast < 4.5);

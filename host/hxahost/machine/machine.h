@@ -111,7 +111,7 @@ struct Controller {
   std::string number;
   std::string label;                  // the number; "3 (arcconf)" or "3 (tool not known)" if two share it
   std::string_view tool;              // that described it; "" if it is unknown
-  std::vector<ControllerUnit> units;  // one; none if it was not published; several if they cannot be told apart
+  std::vector<ControllerUnit> units;  // one; none if it was not published; several if they cannot be distinguished
   std::vector<LogicalDrive> logicalDrives;
   std::vector<DiskGroup> groups;
   std::vector<Device> devices;
