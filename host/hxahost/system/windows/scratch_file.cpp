@@ -1,16 +1,24 @@
 #include "host/hxahost/system/scratch_file.h"
 
+#include <cstdio>
+#include <random>
 #include <string>
 
-#include "host/hxahost/system/this_program.h"
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#include <sys/stat.h>
 
 namespace hxahost {
 
-// "D": Windows deletes the file when it is closed; "T": it stays in memory if possible; "N": utilities do not inherit
-// it.
+// Windows deletes a temporary file when it is closed. It stays in memory if possible, and utilities do not inherit it.
+// An existing file is never used: it may be a link that somebody else has created.
 UniqueStream OpenScratchFile(const std::filesystem::path& folder) {
-  const std::filesystem::path name = folder / ("hxahost-" + std::to_string(ProcessId()) + ".part");
-  return UniqueStream(_wfopen(name.c_str(), L"w+bTDN"));
+  constexpr int kTemporary = _O_TEMPORARY | _O_SHORT_LIVED | _O_NOINHERIT;
+  const std::filesystem::path name = folder / ("hxahost-" + std::to_string(std::random_device()()) + ".part");
+  const int file =
+      _wsopen(name.c_str(), _O_CREAT | _O_EXCL | _O_RDWR | _O_BINARY | kTemporary, _SH_DENYRW, _S_IREAD | _S_IWRITE);
+  return UniqueStream(file < 0 ? nullptr : _wfdopen(file, L"w+b"));
 }
 
 }  // namespace hxahost
