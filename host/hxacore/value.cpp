@@ -38,8 +38,8 @@ bool IsNumber(const TCIMValue& value) {
 }  // namespace
 
 TCIMValue::TCIMValue() = default;
-TCIMValue::TCIMValue(const std::string& text) : content_(text) {}
-TCIMValue::TCIMValue(const char* text) : content_(std::string(text)) {}
+TCIMValue::TCIMValue(const std::string& text) : content_(std::make_shared<const std::string>(text)) {}
+TCIMValue::TCIMValue(const char* text) : content_(std::make_shared<const std::string>(text)) {}
 TCIMValue::TCIMValue(unsigned short number) : content_(std::uint16_t{number}) {}
 TCIMValue::TCIMValue(unsigned int number) : content_(std::uint32_t{number}) {}
 TCIMValue::TCIMValue(const TCIMDateTime& time) : content_(time) {}
@@ -59,7 +59,7 @@ void TCIMValue::Set(const TCIMType& elementType, unsigned int, std::vector<TCIMV
 
 TCIMValue::operator std::string() const {
   switch (TCIMValueReader::Kind(*this)) {
-    case ValueKind::kString: return std::get<std::string>(content_);
+    case ValueKind::kString: return TCIMValueReader::Text(*this);
     case ValueKind::kUInt16:
     case ValueKind::kUInt32: return std::to_string(TCIMValueReader::Number(*this));
     case ValueKind::kDateTime: return TCIMValueReader::DateTime(*this);
@@ -80,7 +80,9 @@ TCIMValue::operator unsigned short() const {
 
 ValueKind TCIMValueReader::Kind(const TCIMValue& value) { return static_cast<ValueKind>(value.content_.index()); }
 
-const std::string& TCIMValueReader::Text(const TCIMValue& value) { return std::get<std::string>(value.content_); }
+const std::string& TCIMValueReader::Text(const TCIMValue& value) {
+  return *std::get<std::shared_ptr<const std::string>>(value.content_);
+}
 
 std::uint32_t TCIMValueReader::Number(const TCIMValue& value) {
   if (const auto* const narrow = std::get_if<std::uint16_t>(&value.content_)) return *narrow;
