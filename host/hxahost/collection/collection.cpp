@@ -2,7 +2,11 @@
 
 #include <chrono>
 #include <filesystem>
+#include <set>
+#include <string>
+#include <system_error>
 #include <utility>
+#include <vector>
 
 #include "host/hxacore/host_services.h"
 #include "host/hxacore/whole_file.h"
@@ -28,9 +32,32 @@ std::optional<BundleReplay> OpenReplay(const CollectionOptions& options) {
   return BundleReplay(ReadBundleFile(options.replay, options.inputLimit));
 }
 
+std::set<std::string> InstalledTools() {
+  std::set<std::string> installed;
+  std::error_code ignored;
+  for (const std::string_view tool : KnownTools()) {
+    if (fs::exists(fs::path("zenx") / (std::string(tool) + ".exe"), ignored)) installed.emplace(tool);
+  }
+  return installed;
+}
+
+// A tool that was installed when the collection began is not "not installed" if it disappears later.
+SpawnFunction NoticingLostTools(SpawnFunction spawn) {
+  return [spawn = std::move(spawn), installed = InstalledTools()](
+             const std::string& path, const std::vector<std::string>& arguments, int limitSeconds) {
+    try {
+      return spawn(path, arguments, limitSeconds);
+    } catch (const TSpawnException& failure) {
+      if (failure.Failure() != SpawnFailure::kNotInstalled || !installed.contains(ToolName(path))) throw;
+      throw TSpawnException(SpawnFailure::kNotStarted, failure.what(), failure.Seconds());
+    }
+  };
+}
+
 // Limits the size of files that are captured.
 HostServices ServicesUpTo(std::uint64_t largestFile) {
   HostServices services = RealServices();
+  services.spawn = NoticingLostTools(std::move(services.spawn));
   services.capture = [largestFile](const std::string& path) { return CaptureFile(path, largestFile); };
   return services;
 }

@@ -27,6 +27,18 @@ ProgramResult RunFromShell(const std::string& script, std::vector<std::string> a
 const std::vector<std::string> kFixed = {
     "query", "--format", "json", "--machine-name", "M", "--local-time", "20260305123015.250000+060"};
 
+TEST(WorkingDirectory, ToolsThatDisappearDuringTheCollectionAreUnknownAlsoInAReplay) {
+  const MachineCopy machine;
+  machine.RemoveTool("qcmdrun");
+  machine.SetTool("hrconf_64", "#!/bin/sh\nrm -f zenx/arcconf.exe\necho 'Controllers found: 0'\n");
+  const std::string bundle = (fs::path(machine.Directory()) / "m.bundle").string();
+  const ProgramResult result = RunHxahost({"health", "--directory", machine.Directory(), "--record", bundle});
+  EXPECT_EQ(result.exitStatus, 3);
+  EXPECT_THAT(result.out, HasSubstr("arcconf not started: \"zenx//arcconf.exe\" cannot be started"));
+  EXPECT_THAT(result.out, HasSubstr("qcmdrun is not installed"));
+  EXPECT_EQ(RunHxahost({"health", "--replay", bundle}).exitStatus, 3);
+}
+
 // The result for a machine in this folder, if nothing is wrong.
 std::string GoodResult(const MachineCopy& machine) {
   return RunFromShell("cd '" + machine.Directory() + "' && exec \"$0\" \"$@\"", kFixed).out;
