@@ -23,6 +23,17 @@ struct Contents {
   std::vector<boost::shared_ptr<const TPublishedInstance>> published;  // by the query, over all classes
   TInstance::TSystemKeys systemKeys;
   TRepository::TKeeps keeps;
+  std::size_t most = kMostInstances;
+
+  void Keep(const boost::shared_ptr<TInstance>& committed) {
+    if (keeps && !keeps(committed)) return;
+    if (published.size() == most) {
+      throw THXAException(
+          fmt::format("more than {} objects were published: a tool lists the same object too often", most));
+    }
+    instances[&committed->Class()].push_back(committed);
+    published.push_back(committed);
+  }
 };
 
 bool IsOfHost(const ClassDeclaration& declaration) {
@@ -47,11 +58,7 @@ class TClass final : public ICIMClass {
       throw THXAException(fmt::format("Only the host makes instances of \"{}\".", declaration_.name));
     }
     return boost::make_shared<TInstance>(declaration_, contents_->systemKeys,
-                                         [contents = contents_](const boost::shared_ptr<TInstance>& committed) {
-                                           if (contents->keeps && !contents->keeps(committed)) return;
-                                           contents->instances[&committed->Class()].push_back(committed);
-                                           contents->published.push_back(committed);
-                                         });
+                                         [contents = contents_](const auto& committed) { contents->Keep(committed); });
   }
 
   // Uses a copy of the list: the callback may commit further instances, which are not part of this enumeration.
@@ -67,7 +74,8 @@ class TClass final : public ICIMClass {
 
 class TRepositoryOfInstances final : public TRepository {
  public:
-  TRepositoryOfInstances(std::optional<std::uint16_t> osType, const std::string& machineName) {
+  TRepositoryOfInstances(std::optional<std::uint16_t> osType, const std::string& machineName, std::size_t most) {
+    contents_->most = most;
     contents_->systemKeys = std::make_shared<const TPropertyMap>(TPropertyMap{
         {"SystemCreationClassName", kComputerSystem},
         {"SystemName",              machineName    }
@@ -117,8 +125,9 @@ class TRepositoryOfInstances final : public TRepository {
 
 }  // namespace
 
-boost::shared_ptr<TRepository> TRepository::Make(std::optional<std::uint16_t> osType, const std::string& machineName) {
-  return boost::make_shared<TRepositoryOfInstances>(osType, machineName);
+boost::shared_ptr<TRepository> TRepository::Make(std::optional<std::uint16_t> osType, const std::string& machineName,
+                                                 std::size_t most) {
+  return boost::make_shared<TRepositoryOfInstances>(osType, machineName, most);
 }
 
 TRepository::~TRepository() = default;

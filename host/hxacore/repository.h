@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -31,6 +32,9 @@ class HXACORE_API TPublishedInstance {
   virtual TCIMReference Reference() const = 0;
 };
 
+// The number of instances of a query that a repository keeps: a machine with 32,768 disks has 300,000.
+inline constexpr std::size_t kMostInstances = 2'000'000;
+
 // The host's namespace: its classes and their published instances. Names of classes and properties are compared without
 // regard to case; an undeclared class or property throws THXAException. GetProperty returns an empty value for a
 // declared property that was never set.
@@ -38,7 +42,9 @@ class HXACORE_API TRepository : public ICIMNamespace, public boost::enable_share
  public:
   // osType: the "OSType" of the one "KVRSG_OperatingSystem" instance; empty: there is no such instance.
   // machineName: the name of the one "KVRSG_ComputerSystem" instance, and a part of the paths of its objects.
-  static boost::shared_ptr<TRepository> Make(std::optional<std::uint16_t> osType, const std::string& machineName = "");
+  // Committing more instances than the limit throws THXAException.
+  static boost::shared_ptr<TRepository> Make(std::optional<std::uint16_t> osType, const std::string& machineName = "",
+                                             std::size_t most = kMostInstances);
   ~TRepository() override;
 
   // Begins a query of these classes: removes the instances of all of them that were published before.

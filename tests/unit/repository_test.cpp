@@ -106,6 +106,18 @@ TEST_F(Repository, ShowsAsPublishedOnlyWhatTheQueryCommitted) {
   EXPECT_EQ(Enumerate(*repository, kDisk).size(), 1U);
 }
 
+TEST(RepositoryLimit, KeepsSoManyInstancesOfAQueryAndRefusesMore) {
+  const auto repository = TRepository::Make(18, "M", 2);
+  Publish(*repository, kDisk, "DeviceID", "0");
+  Publish(*repository, kDisk, "DeviceID", "1");
+  EXPECT_THAT([&] { Publish(*repository, kDisk, "DeviceID", "2"); },
+              ThrowsMessage<THXAException>(HasSubstr("more than 2 objects were published")));
+  EXPECT_EQ(repository->Published().size(), 2U);
+  repository->BeginQuery({repository->GetClass(kDisk, {})});
+  Publish(*repository, kDisk, "DeviceID", "3");
+  EXPECT_EQ(repository->Published().size(), 1U);
+}
+
 TEST_F(Repository, ReportsCommittedInstancesAndKeepsThoseThatAreWanted) {
   std::vector<std::string> shown;
   repository->OnCommit([&shown](const boost::shared_ptr<const TPublishedInstance>& committed) {
