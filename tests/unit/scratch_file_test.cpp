@@ -1,9 +1,11 @@
 #include "host/hxahost/system/scratch_file.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include "host/hxahost/system/exit_status.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -32,7 +34,9 @@ TEST(ScratchFile, LeavesNothing) {
 
 TEST(ScratchFile, NeedsAFolder) {
   const TemporaryFolder folder;
-  EXPECT_THROW(ScratchFile(folder.Path() / "missing"), std::filesystem::filesystem_error);
+  EXPECT_THAT([&] { ScratchFile(folder.Path() / "missing"); },
+              testing::ThrowsMessage<hxahost::ProgramError>(
+                  testing::AllOf(testing::HasSubstr("missing"), testing::HasSubstr("No such file or directory"))));
 }
 
 }  // namespace

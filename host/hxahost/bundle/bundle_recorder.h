@@ -20,7 +20,7 @@ namespace hxahost {
 class BundleRecorder {
  public:
   // Records what is passed to the plug-in about the system, which does not come through the services. The directory is
-  // UTF-8. The file is in the scratch folder. Throws std::filesystem::filesystem_error if it cannot be created.
+  // UTF-8. The file is in the scratch folder. Throws ProgramError if it cannot be created.
   BundleRecorder(std::optional<std::uint16_t> osType, std::string directory,
                  const std::filesystem::path& scratchFolder = std::filesystem::temp_directory_path());
 
@@ -32,7 +32,7 @@ class BundleRecorder {
 
   void AddQuery(double seconds) { bundle_.querySeconds.push_back(seconds); }
 
-  // The whole bundle, in memory. Throws std::runtime_error if the file could not be written.
+  // The whole bundle, in memory. Throws ProgramError if the file could not be written.
   Bundle Recorded() const;
 
   // Writes the bundle, with one output in memory at a time. Throws like Recorded.

@@ -14,8 +14,8 @@ namespace hxahost {
 // the program ends, also if it is killed.
 class ScratchFile {
  public:
-  // Throws std::filesystem::filesystem_error if the file cannot be created in the folder.
-  explicit ScratchFile(const std::filesystem::path& folder);
+  // Throws ProgramError if the file cannot be created in the folder.
+  explicit ScratchFile(std::filesystem::path folder);
 
   // The place of bytes in the file.
   struct Piece {
@@ -25,12 +25,13 @@ class ScratchFile {
 
   Piece Append(std::string_view bytes);
 
-  // Throws std::runtime_error if an earlier Append failed or the file cannot be read.
+  // Throws ProgramError if an earlier Append failed or the file cannot be read.
   std::string Read(const Piece& piece) const;
 
  private:
+  std::filesystem::path folder_;
   UniqueStream stream_;
-  bool isWhole_ = true;
+  int error_ = 0;  // of the first Append that failed
 };
 
 // The system's part; null if the file cannot be created.
