@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "host/hxacore/schema.h"
@@ -19,15 +20,36 @@ namespace {
 constexpr std::string_view kClassColumn = "class";
 
 // Properties with the same name in several classes share a column.
-std::vector<std::string_view> Columns(const QueryHeader& header) {
-  std::vector<std::string_view> columns;
-  if (header.classes.size() > 1) columns.push_back(kClassColumn);
-  for (const std::string& name : header.classes) {
-    for (const PropertyDeclaration& property : FindClass(name)->properties) {
-      if (std::ranges::find(columns, property.name) == columns.end()) columns.push_back(property.name);
+class Columns {
+ public:
+  explicit Columns(const std::vector<std::string>& classes) {
+    if (classes.size() > 1) Add(kClassColumn);
+    for (const std::string& name : classes) {
+      for (const PropertyDeclaration& property : FindClass(name)->properties) Add(property.name);
     }
   }
-  return columns;
+
+  const std::vector<std::string>& Titles() const { return titles_; }
+  bool HaveClass() const { return titles_.front() == kClassColumn; }
+
+  // One property is published with a letter in another case than declared.
+  std::size_t PlaceOf(const ClassDeclaration& declaration, std::string_view property) const {
+    return places_.at(FindProperty(declaration, property)->name);
+  }
+
+ private:
+  void Add(std::string_view title) {
+    if (places_.emplace(title, titles_.size()).second) titles_.emplace_back(title);
+  }
+
+  std::vector<std::string> titles_;
+  std::unordered_map<std::string_view, std::size_t> places_;
+};
+
+// Kept from instance to instance: there may be millions.
+const Columns& ColumnsOf(const QueryHeader& header) {
+  static std::map<std::vector<std::string>, Columns> made;
+  return made.try_emplace(header.classes, header.classes).first->second;
 }
 
 std::string ValueText(const TCIMValue& value) {
@@ -53,14 +75,43 @@ std::string SafeText(std::string_view text) {
   return safe;
 }
 
-std::string Cell(std::string_view text) {
+// Spreadsheets must not take a text for a formula.
+std::string_view FormulaMark(std::string_view safe) {
   constexpr std::string_view kBeginsFormula = "=+-@\t\r";
-  std::string cell = SafeText(text);
-  if (!cell.empty() && kBeginsFormula.find(cell.front()) != kBeginsFormula.npos) cell.insert(0, 1, '\'');
-  if (cell.find_first_of("\",\r\n") == cell.npos) return cell;
-  for (std::size_t quote = cell.find('"'); quote != cell.npos; quote = cell.find('"', quote + 2))
-    cell.insert(quote, 1, '"');
-  return '"' + cell + '"';
+  return !safe.empty() && kBeginsFormula.find(safe.front()) != kBeginsFormula.npos ? "'" : "";
+}
+
+void WriteWithDoubledQuotes(std::ostream& out, std::string_view text) {
+  for (std::size_t quote = text.find('"'); quote != text.npos; quote = text.find('"')) {
+    out << text.substr(0, quote + 1) << '"';
+    text.remove_prefix(quote + 1);
+  }
+  out << text;
+}
+
+void WriteCell(std::ostream& out, std::string_view text) {
+  const std::string cell = SafeText(text);
+  if (cell.find_first_of("\",\r\n") == cell.npos) {
+    out << FormulaMark(cell) << cell;
+    return;
+  }
+  out << '"' << FormulaMark(cell);
+  WriteWithDoubledQuotes(out, cell);
+  out << '"';
+}
+
+// Line by line: a log of a million lines is one value.
+void WriteValue(std::ostream& out, const TCIMValue& value) {
+  const bool isArray = TCIMValueReader::Kind(value) == ValueKind::kArray;
+  if (!isArray || TCIMValueReader::Elements(value).size() < 2) return WriteCell(out, ValueText(value));
+  std::string_view before = FormulaMark(SafeText(ValueText(TCIMValueReader::Elements(value).front())));
+  out << '"';
+  for (const TCIMValue& element : TCIMValueReader::Elements(value)) {
+    out << before;
+    WriteWithDoubledQuotes(out, SafeText(ValueText(element)));
+    before = "\n";
+  }
+  out << '"';
 }
 
 }  // namespace
@@ -68,28 +119,28 @@ std::string Cell(std::string_view text) {
 void WriteCsvCells(std::ostream& out, const std::vector<std::string>& texts) {
   std::string_view separator;
   for (const std::string& text : texts) {
-    out << separator << Cell(text);
+    out << separator;
+    WriteCell(out, text);
     separator = ",";
   }
   out << "\r\n";
 }
 
-void BeginCsv(std::ostream& out, const QueryHeader& header) {
-  const std::vector<std::string_view> columns = Columns(header);
-  WriteCsvCells(out, {columns.begin(), columns.end()});
-}
+void BeginCsv(std::ostream& out, const QueryHeader& header) { WriteCsvCells(out, ColumnsOf(header).Titles()); }
 
 void WriteInstanceCsv(std::ostream& out, const QueryHeader& header, const TPublishedInstance& instance,
                       const InstancePlace&) {
-  const std::vector<std::string_view> columns = Columns(header);
-  std::vector<std::string> row(columns.size());
-  if (columns.front() == kClassColumn) row.front() = instance.Class().name;
+  const Columns& columns = ColumnsOf(header);
+  std::vector<const TCIMValue*> row(columns.Titles().size());
   for (const PublishedProperty& property : instance.Properties()) {
-    // One property is published with a letter in another case than declared.
-    const std::string_view name = FindProperty(instance.Class(), property.name)->name;
-    row[static_cast<std::size_t>(std::ranges::find(columns, name) - columns.begin())] = ValueText(property.value);
+    row[columns.PlaceOf(instance.Class(), property.name)] = &property.value;
   }
-  WriteCsvCells(out, row);
+  for (std::size_t place = 0; place < row.size(); ++place) {
+    if (place > 0) out << ',';
+    if (place == 0 && columns.HaveClass()) WriteCell(out, instance.Class().name);
+    if (row[place] != nullptr) WriteValue(out, *row[place]);
+  }
+  out << "\r\n";
 }
 
 void WriteQueryCsv(std::ostream& out, const QueryHeader& header, const QueryResult& result) {
