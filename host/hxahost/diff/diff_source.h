@@ -9,7 +9,8 @@
 namespace hxahost {
 
 // Reads a result to be compared: the contents of a JSON file, or the result of a query that replays a bundle. Throws
-// ProgramError (wrong arguments) if the file is neither, or is larger than the largest.
+// ProgramError (wrong arguments) if the file is neither, or is larger than the largest, or if there is no room for
+// temporary files.
 JsonResult ReadResultOrBundle(const std::filesystem::path& file, std::uint64_t largest = kLargestInput);
 
 }  // namespace hxahost

@@ -4,6 +4,10 @@
 #include <array>
 #include <iterator>
 #include <string_view>
+#include <system_error>
+#include <utility>
+
+#include <fmt/core.h>
 
 #include "host/hxahost/diff/diff_source.h"
 #include "host/hxahost/system/exit_status.h"
@@ -23,64 +27,127 @@ bool IsResultName(const fs::path& file) {
   return std::ranges::count(kExtensions, Lower(Utf8FromPath(file.extension()))) > 0;
 }
 
-// A folder that cannot be read counts as empty.
-std::vector<fs::path> FilesIn(const fs::path& folder) {
-  std::vector<fs::path> files;
-  std::error_code failure;
-  fs::recursive_directory_iterator file(folder, fs::directory_options::skip_permission_denied, failure);
-  for (const fs::recursive_directory_iterator end; !failure && file != end; file.increment(failure)) {
-    std::error_code gone;
-    if (file->is_regular_file(gone) && IsResultName(file->path())) files.push_back(file->path());
-  }
-  std::ranges::sort(files);
-  return files;
+FleetInput InputOf(const fs::path& file, std::uint64_t largest) {
+  return {Utf8FromPath(file), file, std::nullopt, largest};
 }
 
-bool HasJsonLines(const fs::path& file, std::uint64_t largest) {
-  if (!fs::is_regular_file(file)) return false;  // opening a pipe may block for ever
-  std::ifstream stream(file, std::ios::binary);
-  std::string line;
-  return ReadLineUpTo(stream, largest, line) && line.size() <= largest && IsInstanceLine(line);
+// "sub cannot be listed (Permission denied)."
+FleetInput Failed(const fs::path& path, std::uint64_t largest, std::string_view what, const std::string& why) {
+  FleetInput input = InputOf(path, largest);
+  input.failure = fmt::format("{} cannot be {} ({}).", Printable(input.name), what, Printable(why));
+  return input;
+}
+
+// Finds the files in a folder and its subfolders. One folder at a time is open, however deep they are.
+class Search {
+ public:
+  Search(fs::path folder, std::uint64_t largest) : largest_(largest), folders_{std::move(folder)} {}
+
+  // The files, and what cannot be listed or examined, by path.
+  std::vector<FleetInput> Run() {
+    while (!folders_.empty()) {
+      const fs::path folder = std::move(folders_.back());
+      folders_.pop_back();
+      List(folder);
+    }
+    std::ranges::sort(found_, {}, &FleetInput::file);
+    return std::move(found_);
+  }
+
+ private:
+  void List(const fs::path& folder) {
+    std::error_code failure;
+    for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+      Take(*entry);
+    }
+    if (failure) found_.push_back(Failed(folder, largest_, "listed", failure.message()));
+  }
+
+  void Take(const fs::directory_entry& entry) {
+    const fs::path& path = entry.path();
+    std::error_code failure;
+    fs::file_status status = entry.symlink_status(failure);
+    if (fs::is_directory(status)) {
+      folders_.push_back(path);
+      return;
+    }
+    const bool isResult = IsResultName(path);
+    if (fs::is_symlink(status) && isResult) status = entry.status(failure);
+    if (status.type() == fs::file_type::none) {
+      found_.push_back(Failed(path, largest_, "examined", failure.message()));
+    } else if (isResult && fs::is_regular_file(status)) {
+      found_.push_back(InputOf(path, largest_));
+    }
+  }
+
+  std::uint64_t largest_;
+  std::vector<fs::path> folders_;  // not yet listed
+  std::vector<FleetInput> found_;
+};
+
+// Throws ProgramError if the path does not exist.
+std::vector<FleetInput> InputsAt(const fs::path& path, std::uint64_t largest) {
+  std::error_code failure;
+  const fs::file_status status = fs::status(path, failure);
+  switch (status.type()) {
+    case fs::file_type::not_found:
+      throw ProgramError(ExitStatus::kWrongArguments,
+                         Printable(Utf8FromPath(path)) + " is not there: name results, bundles or folders of them.");
+    case fs::file_type::none: return {Failed(path, largest, "examined", failure.message())};
+    case fs::file_type::directory: return Search(path, largest).Run();
+    default: return {InputOf(path, largest)};
+  }
 }
 
 }  // namespace
 
 FleetInputs::FleetInputs(const std::vector<fs::path>& paths, std::uint64_t largest) : largest_(largest) {
-  for (const fs::path& path : paths) {
-    if (!fs::exists(path)) {
-      throw ProgramError(ExitStatus::kWrongArguments,
-                         Printable(Utf8FromPath(path)) + " is not there: name results, bundles or folders of them.");
-    }
-    if (fs::is_directory(path)) {
-      std::ranges::move(FilesIn(path), std::back_inserter(files_));
-    } else {
-      files_.push_back(path);
-    }
+  for (const fs::path& path : paths) std::ranges::move(InputsAt(path, largest), std::back_inserter(files_));
+}
+
+// Opens the file if it contains JSON lines.
+bool FleetInputs::OpenLines(const fs::path& file) {
+  std::error_code failure;
+  if (!fs::is_regular_file(file, failure)) return false;  // opening a pipe may block for ever
+  lines_ = std::ifstream(file, std::ios::binary);
+  std::string line;
+  try {
+    const bool isRead = ReadLineUpTo(lines_, largest_, line);
+    if (!isRead || line.size() > largest_ || !IsInstanceLine(line)) return false;
+  } catch (const std::ios_base::failure&) {
+    return false;  // whoever reads it as a whole says why
   }
+  lines_.seekg(0);
+  return true;
 }
 
 std::optional<FleetInput> FleetInputs::NextLines() {
-  if (reader_) {
-    if (auto lines = reader_->Next()) {
-      const fs::path& file = files_[next_ - 1];
-      return FleetInput{Utf8FromPath(file), file, std::move(lines), largest_};
-    }
+  if (!reader_) return std::nullopt;
+  FleetInput input = files_[next_ - 1];
+  try {
+    input.lines = reader_->Next();
+    if (input.lines) return input;
+    reader_.reset();
+    return std::nullopt;
+  } catch (const std::ios_base::failure& failure) {
+    reader_.reset();
+    return Failed(input.file, largest_, "read to its end", failure.code().message());
   }
-  reader_.reset();
-  return std::nullopt;
 }
 
 std::optional<FleetInput> FleetInputs::Next() {
-  if (auto lines = NextLines()) return lines;
-  if (next_ == files_.size()) return std::nullopt;
-  const fs::path& file = files_[next_++];
-  if (!HasJsonLines(file, largest_)) return FleetInput{Utf8FromPath(file), file, std::nullopt, largest_};
-  lines_ = std::ifstream(file, std::ios::binary);
-  reader_.emplace(lines_, largest_);
-  return NextLines();
+  auto lines = NextLines();
+  while (!lines && next_ < files_.size()) {
+    const FleetInput& input = files_[next_++];
+    if (!input.failure.empty() || !OpenLines(input.file)) return input;
+    reader_.emplace(lines_, largest_);
+    lines = NextLines();
+  }
+  return lines;
 }
 
 JsonResult ReadFleetInput(const FleetInput& input) {
+  if (!input.failure.empty()) throw ProgramError(ExitStatus::kWrongArguments, input.failure);
   return input.lines ? ParseJsonLines(*input.lines, input.name) : ReadResultOrBundle(input.file, input.largest);
 }
 

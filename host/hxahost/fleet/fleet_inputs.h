@@ -20,10 +20,12 @@ struct FleetInput {
   std::filesystem::path file;             // a JSON result or a bundle
   std::optional<CollectionLines> lines;   // the lines of the collection, if the file contains JSON lines
   std::uint64_t largest = kLargestInput;  // bytes of the file that are read at most
+  std::string failure = {};               // why the file or folder cannot be read; "" if that is not known yet
 };
 
 // The collections in files and folders, in the order of the names. In a folder and its subfolders, only files that end
-// in .json, .jsonl or .bundle are read.
+// in .json, .jsonl or .bundle are read; links to folders are not followed. What cannot be listed or read is an input
+// with the failure.
 class FleetInputs {
  public:
   // Reads at most so many bytes of a file, and of each collection in a file of JSON lines. Throws ProgramError (wrong
@@ -36,12 +38,13 @@ class FleetInputs {
   std::size_t FileCount() const { return files_.size(); }
 
  private:
+  bool OpenLines(const std::filesystem::path& file);
   std::optional<FleetInput> NextLines();
 
   std::uint64_t largest_;
-  std::vector<std::filesystem::path> files_;
-  std::size_t next_ = 0;  // place of the next file
-  std::ifstream lines_;   // the file before it, while it has lines
+  std::vector<FleetInput> files_;  // without lines
+  std::size_t next_ = 0;           // place of the next file
+  std::ifstream lines_;            // the file before it, while it has lines
   std::optional<CollectionReader> reader_;
 };
 
