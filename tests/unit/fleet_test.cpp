@@ -77,6 +77,45 @@ TEST(Fleet, IsStaleFromTheFirstSecondPastTheDays) {
   EXPECT_FALSE(Fleet({10 * kDay, {}}).IsStale(machine)) << "nobody asked";
 }
 
+// A clock that runs ahead must not hide what the machine writes once it is right.
+TEST(Fleet, PrefersAnyResultToOneFromTheFuture) {
+  const FleetMachine future = MachineOf("A", 12, Severity::kCritical);
+  FleetMachine untimed = MachineOf("A", 0, Severity::kWarning);
+  untimed.seconds.reset();
+  for (const auto& [present, state] : {
+           std::pair(MachineOf("A", 9), Severity::kFine), {untimed, Severity::kWarning}
+  }) {
+    for (const auto& [first, second] : {std::pair(future, present), std::pair(present, future)}) {
+      Fleet fleet({10 * kDay, 7});
+      fleet.Add(first);
+      fleet.Add(second);
+      ASSERT_EQ(fleet.Machines().size(), 1U);
+      EXPECT_EQ(fleet.Machines().front()->state, state);
+    }
+  }
+}
+
+TEST(Fleet, IsStaleIfItsOnlyResultsAreFromTheFuture) {
+  Fleet fleet({10 * kDay, 7});
+  fleet.Add(MachineOf("A", 12));
+  FleetMachine machine = MachineOf("B", 11);
+  EXPECT_FALSE(fleet.IsStale(machine)) << "clocks and time zones differ";
+  ++*machine.seconds;
+  EXPECT_TRUE(fleet.IsStale(machine));
+  EXPECT_FALSE(Fleet({10 * kDay, {}}).IsStale(machine)) << "nobody asked";
+  EXPECT_EQ(WorstOf(fleet), Severity::kUnknown);
+  std::ostringstream out;
+  WriteFleetTable(out, {fleet});
+  EXPECT_THAT(out.str(), testing::ContainsRegex("  A +ok +future"));
+}
+
+TEST(Fleet, DoesNotTakeAPlaceOfTheFutureForAnOlderOne) {
+  Fleet fleet({10 * kDay, {}});
+  fleet.Add(WithDisk(MachineOf("A", 12), "S1", "C1 slot 1"));
+  fleet.Add(WithDisk(MachineOf("A", 9), "S1", "C1 slot 2"));
+  EXPECT_TRUE(fleet.MovedDisks().empty());
+}
+
 TEST(Fleet, IsUnknownIfMachinesAreStaleOrFilesDamaged) {
   Fleet fleet({10 * kDay, 7});
   EXPECT_EQ(WorstOf(fleet), Severity::kUnknown) << "no machine";
@@ -154,7 +193,8 @@ TEST(Fleet, FindsDisksThatMovedFromTheirLastPlace) {
 
 TEST(Fleet, ShowsAgesInTheLargestUnitWithAtLeastTwo) {
   EXPECT_EQ(AgeText(std::nullopt), "?");
-  EXPECT_EQ(AgeText(-5), "0 s");
+  EXPECT_EQ(AgeText(-86400), "0 s");
+  EXPECT_EQ(AgeText(-86401), "future");
   EXPECT_EQ(AgeText(1), "1 s");
   EXPECT_EQ(AgeText(119), "119 s");
   EXPECT_EQ(AgeText(120), "2 min");

@@ -27,8 +27,17 @@ void Fleet::Add(FleetMachine machine) {
   const auto [place, isNew] = machines_.try_emplace(machine.name, machine);
   if (isNew) return;
   FleetMachine& known = place->second;
-  if (machine.seconds > known.seconds) std::swap(known, machine);
-  if (machine.seconds != known.seconds) AddSightings(seenBefore_, machine);
+  if (IsNewer(machine, known)) std::swap(known, machine);
+  if (IsNewer(known, machine) && !IsFromTheFuture(machine)) AddSightings(seenBefore_, machine);
+}
+
+bool Fleet::IsFromTheFuture(const FleetMachine& machine) const {
+  return machine.seconds && *machine.seconds > options_.now + kClockTolerance;
+}
+
+bool Fleet::IsNewer(const FleetMachine& left, const FleetMachine& right) const {
+  if (IsFromTheFuture(left) != IsFromTheFuture(right)) return IsFromTheFuture(right);
+  return left.seconds > right.seconds;
 }
 
 std::vector<const FleetMachine*> Fleet::Machines() const {
@@ -117,7 +126,7 @@ std::optional<std::int64_t> Fleet::AgeOf(const FleetMachine& machine) const {
 bool Fleet::IsStale(const FleetMachine& machine) const {
   constexpr std::int64_t kDay = 24 * 60 * 60;
   const auto age = AgeOf(machine);
-  return options_.staleDays && (!age || *age > *options_.staleDays * kDay);
+  return options_.staleDays && (!age || IsFromTheFuture(machine) || *age > *options_.staleDays * kDay);
 }
 
 }  // namespace hxahost

@@ -59,6 +59,9 @@ struct MovedDisk {
   Sighting to;
 };
 
+// A result that is so many seconds younger than the fleet is from the future; below that, clocks and time zones differ.
+inline constexpr std::int64_t kClockTolerance = 24 * 60 * 60;
+
 struct FleetOptions {
   std::int64_t now = 0;  // in seconds since 1970
   std::optional<unsigned> staleDays;
@@ -68,7 +71,8 @@ class Fleet {
  public:
   explicit Fleet(const FleetOptions& options) : options_(options) {}
 
-  // The newest of several results of a machine counts; of those with the same time, the first.
+  // The newest of several results of a machine counts, one from the future only if there is no other; of those with the
+  // same time, the first.
   void Add(FleetMachine machine);
   void Add(DamagedFile file) { damaged_.push_back(std::move(file)); }
 
@@ -86,10 +90,14 @@ class Fleet {
 
   // Seconds since the collection from the machine; empty if the result contains no time.
   std::optional<std::int64_t> AgeOf(const FleetMachine& machine) const;
-  // Whether the result is older than permitted, or contains no time.
+  // Whether the result is older than permitted, is from the future, or contains no time.
   bool IsStale(const FleetMachine& machine) const;
 
  private:
+  bool IsFromTheFuture(const FleetMachine& machine) const;
+  // Whether the left result counts instead of the right one.
+  bool IsNewer(const FleetMachine& left, const FleetMachine& right) const;
+
   FleetOptions options_;
   std::map<std::string, FleetMachine> machines_;             // the newest of each, by name
   std::map<std::string, std::vector<Sighting>> seenBefore_;  // in results that are not the newest, by serial number

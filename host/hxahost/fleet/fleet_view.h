@@ -37,7 +37,7 @@ Severity WorstOf(const Fleet& fleet);
 // "200 machines: 3 critical, 1 stale; 1 damaged file"
 std::string VerdictText(const Fleet& fleet);
 
-// "3 d" for an age in seconds; "?" if it is not known.
+// "3 d" for an age in seconds; "future" if the result is from the future, "?" if the age is not known.
 std::string AgeText(const std::optional<std::int64_t>& seconds);
 
 }  // namespace hxahost

@@ -45,7 +45,8 @@ std::string AgeText(const std::optional<std::int64_t>& seconds) {
       {1,     "s"  },
   };
   if (!seconds) return "?";
-  const std::int64_t age = std::max<std::int64_t>(*seconds, 0);  // clocks differ
+  if (*seconds < -kClockTolerance) return "future";
+  const std::int64_t age = std::max<std::int64_t>(*seconds, 0);
   const auto* const unit = std::ranges::find_if(kUnits, [&](const Unit& each) { return age >= 2 * each.seconds; });
   return unit == std::end(kUnits) ? fmt::format("{} s", age) : fmt::format("{} {}", age / unit->seconds, unit->name);
 }

@@ -18,8 +18,11 @@ function machineCell(machine) {
 
 const kUnits = [[86400, "d"], [3600, "h"], [60, "min"], [1, "s"]];
 
+const kClockTolerance = 86400;  // as in fleet.h
+
 function ageText(seconds) {
   if (seconds === null) return "?";
+  if (seconds < -kClockTolerance) return "future";
   const age = Math.max(seconds, 0);
   const [length, unit] = kUnits.find(([each]) => age >= 2 * each) ?? kUnits.at(-1);
   return `${Math.floor(age / length)} ${unit}`;
