@@ -58,10 +58,30 @@ TEST(JsonLinesReader, LeavesALineThatIsCutOffWithThoseBeforeIt) {
   }
 }
 
+// Such as a file that was concatenated with itself.
+TEST(JsonLinesReader, BeginsAnewWhereTheFirstObjectIsRepeated) {
+  const std::string once = Line("A", "1", "a") + Line("A", "1", "b");
+  const auto collections = Collections(once + once);
+  ASSERT_EQ(collections.size(), 2U);
+  EXPECT_EQ(collections[0].text, once);
+  EXPECT_EQ(collections[1].text, once);
+  EXPECT_EQ(collections[1].first, 3U);
+  const std::string log = R"({"machine":"A","time":"1","class":"log","properties":{"level":3,"text":"t"}})"
+                          "\n";
+  EXPECT_EQ(Collections(log + log).size(), 1U) << "the log may repeat itself";
+  EXPECT_EQ(Collections(once + Line("A", "1", "b")).size(), 1U) << "only the first object counts";
+}
+
+TEST(JsonLinesReader, RefusesALineWithANul) {
+  const std::string line = Line("A", "1", "a");
+  EXPECT_THROW(ParseJsonLines({line.substr(0, line.size() - 1) + std::string("\0x\n", 3), 1}, "f"), ProgramError);
+}
+
 TEST(JsonLinesReader, ReadsAResultUpToALimitAndContinuesWithTheNextOne) {
   const std::string line = Line("A", "1", "a");
   const std::string longLine = Line("B", "1", std::string(1000, 'x'));
-  for (const std::string& large : {line + line + line, longLine, line + longLine.substr(0, 900)}) {
+  const std::string three = line + Line("A", "1", "b") + Line("A", "1", "c");
+  for (const std::string& large : {three, longLine, line + longLine.substr(0, 900)}) {
     const auto collections = Collections(large + "\n" + Line("C", "1", "c") + Line("C", "1", "d"), 2 * line.size());
     ASSERT_GE(collections.size(), 1U);
     const auto tooLarge = std::ranges::find(collections, true, &CollectionLines::isTooLarge);
@@ -69,8 +89,8 @@ TEST(JsonLinesReader, ReadsAResultUpToALimitAndContinuesWithTheNextOne) {
     EXPECT_EQ(tooLarge->text, "");
     EXPECT_THROW(ParseJsonLines(*tooLarge, "f.jsonl"), ProgramError);
   }
-  EXPECT_EQ(Collections(line + line + line + Line("C", "1", "c"), 2 * line.size()).back().text, Line("C", "1", "c"));
-  EXPECT_FALSE(Collections(line + line, 2 * line.size()).front().isTooLarge);
+  EXPECT_EQ(Collections(three + Line("C", "1", "c"), 2 * line.size()).back().text, Line("C", "1", "c"));
+  EXPECT_FALSE(Collections(line + Line("A", "1", "b"), 2 * line.size()).front().isTooLarge);
 }
 
 TEST(JsonLinesReader, ReadsTheInstancesTheRunsAndTheLog) {

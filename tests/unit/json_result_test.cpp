@@ -87,13 +87,14 @@ void ExpectRejections(std::span<const RejectedCase> cases) {
 
 TEST(JsonResult, RejectsATextThatIsNotAResultWithAReason) {
   const RejectedCase cases[] = {
-      {"nothing",           "",                                                "damaged"               },
-      {"no JSON",           "<html>",                                          "damaged"               },
-      {"no object",         "[1]",                                             "an object is missing"  },
-      {"another program's", "{}",                                              "\"format\" is missing" },
-      {"a later format",    R"({"format": 2})",                                "its format is 2, not 1"},
-      {"no query",          R"({"format": 1, "machine": "M", "queries": []})", "it has no query"       },
-      {"no machine",        R"({"format": 1, "queries": [{}]})",               "\"machine\" is missing"},
+      {"nothing",          "",                               "damaged"                 },
+      {"no JSON",          "<html>",                         "damaged"                 },
+      {"a NUL at its end", kWhole + std::string("\0garbage", 8),                         "it contains a NUL"},
+      {"no object",                  "[1]",                                        "an object is missing"                                           },
+      {"another program's",                  "{}",                                "\"format\" is missing"},
+      {"a later format",                  R"({"format": 2})",                                   "its format is 2, not 1"                                },
+      {"no query",                  R"({"format": 1, "machine": "M", "queries": []})",                                         "it has no query"},
+      {"no machine",                  R"({"format": 1, "queries": [{}]})",                                       "\"machine\" is missing"                                            },
   };
   ExpectRejections(cases);
 }

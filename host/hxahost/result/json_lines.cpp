@@ -15,10 +15,11 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+Json Parsed(std::string_view line) { return Json::parse(line, nullptr, false); }
+
 // The beginning of a line as the program writes it: it identifies the lines of a collection without parsing each line.
 // "" if the line is incomplete.
-std::string HeadOf(std::string_view line) {
-  const Json json = Json::parse(line, nullptr, false);
+std::string HeadOf(const Json& json) {
   if (!json.is_object() || !json.contains("machine") || !json.contains("time")) return "";
   return "{\"machine\":" + JsonText(json["machine"]) + ",\"time\":" + JsonText(json["time"]) + ",";
 }
@@ -38,15 +39,26 @@ std::optional<CollectionLines> CollectionReader::Next() {
   if (line_.empty() && !ReadLine()) return std::nullopt;
   CollectionLines lines{"", number_, largest_};
   AddTo(lines);
-  const std::string head = lines.isTooLarge ? "" : HeadOf(line_);
+  const Beginning beginning = BeginningOf(lines);
   while (ReadLine()) {
-    const bool isTooLong = line_.size() > largest_;
-    const bool isNext = !head.empty() && !isTooLong && !line_.starts_with(head);
-    const std::string other = isNext ? HeadOf(line_) : head;
-    if (isNext && !other.empty() && other != head) return lines;
+    if (BeginsAnother(beginning)) return lines;
     AddTo(lines);
   }
   return lines;
+}
+
+CollectionReader::Beginning CollectionReader::BeginningOf(const CollectionLines& lines) const {
+  if (lines.isTooLarge) return {};
+  const Json json = Parsed(line_);
+  return {HeadOf(json), json.contains("path") ? line_ : ""};
+}
+
+// Lines of the log and of runs have no path, and may be repeated.
+bool CollectionReader::BeginsAnother(const Beginning& beginning) const {
+  if (line_ == beginning.object) return true;
+  if (beginning.head.empty() || line_.size() > largest_ || line_.starts_with(beginning.head)) return false;
+  const std::string head = HeadOf(Parsed(line_));
+  return !head.empty() && head != beginning.head;
 }
 
 void CollectionReader::AddTo(CollectionLines& lines) const {
@@ -66,7 +78,9 @@ bool ReadLineUpTo(std::istream& in, std::uint64_t largest, std::string& line) {
 }
 
 bool IsInstanceLine(std::string_view line) {
-  return Trim(line).ends_with('}') && !HeadOf(line).empty() && Json::parse(line).contains("class");
+  if (!Trim(line).ends_with('}')) return false;
+  const Json json = Parsed(line);
+  return !HeadOf(json).empty() && json.contains("class");
 }
 
 JsonResult ParseJsonLines(const CollectionLines& lines, const std::string& name) {

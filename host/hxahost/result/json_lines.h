@@ -20,7 +20,8 @@ struct CollectionLines {
   bool isTooLarge = false;    // they are larger, and the text is empty
 };
 
-// Divides a stream into collections: consecutive lines of the same machine and time are one collection.
+// Divides a stream into collections: consecutive lines of the same machine and time are one collection. Where its first
+// object is repeated, the next one begins, as in a file that was concatenated with itself.
 class CollectionReader {
  public:
   // A collection may have at most so many bytes.
@@ -30,7 +31,15 @@ class CollectionReader {
   std::optional<CollectionLines> Next();
 
  private:
+  // What the lines of a collection are compared with.
+  struct Beginning {
+    std::string head;    // of all lines; "" if the first line is incomplete or too long
+    std::string object;  // the first line, if it is an object with a path
+  };
+
   bool ReadLine();
+  Beginning BeginningOf(const CollectionLines& lines) const;
+  bool BeginsAnother(const Beginning& beginning) const;
   void AddTo(CollectionLines& lines) const;
 
   std::istream& in_;

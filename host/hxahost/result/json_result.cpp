@@ -53,6 +53,13 @@ class Bounds {
   std::array<std::size_t, kDeepest + 2> keys_{};  // of the objects that are open, by depth
 };
 
+Json ParseWithinBounds(std::string_view text) {
+  if (text.find('\0') != text.npos) throw NoResult("it contains a NUL");  // where the parser would end
+  Json json = Json::parse(text, Bounds(), false);
+  if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
+  return json;
+}
+
 ResultInstance ReadInstance(const Json& json) {
   return {Member(json, "class", Json::value_t::string), Member(json, "path", Json::value_t::string),
           Member(json, "properties", Json::value_t::object)};
@@ -96,7 +103,6 @@ std::string ReadMachineName(const Json& json) {
 }
 
 JsonResult ReadWholeResult(const Json& json) {
-  if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
   const Json& format = Member(json, "format", Json::value_t::number_unsigned);
   if (format != 1) throw NoResult(fmt::format("its format is {}, not 1", format.dump()));
   const Json& queries = Member(json, "queries", Json::value_t::array);
@@ -131,15 +137,14 @@ JsonResult ReadJsonResult(const std::filesystem::path& file) {
 
 JsonResult ParseJsonResult(std::string_view text, const std::string& name) {
   try {
-    return ReadWholeResult(Json::parse(text, Bounds(), false));
+    return ReadWholeResult(ParseWithinBounds(text));
   } catch (const NoResult& reason) {
     RejectFile(name, fmt::format("is no result of \"hxahost query --format json\": {}.", Printable(reason.what())));
   }
 }
 
 void AddJsonLine(JsonResult& result, std::string_view line) {
-  const Json json = Json::parse(line, Bounds(), false);
-  if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
+  const Json json = ParseWithinBounds(line);
   result.machine = ReadMachineName(json);
   result.time = Member(json, "time", Json::value_t::string);
   result.isReplayed = json.contains("replayed");
