@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "host/hxahost/bundle/write_bundle.h"
@@ -21,12 +22,12 @@ using testing::Not;
 
 class FleetCommand : public testing::Test {
  protected:
-  // A bundle of a machine of tests/machines with another name.
-  void WriteMachine(const std::string& name, const std::string& answers) const {
+  // A bundle of a machine of tests/machines with another name, in a file of that name unless another is given.
+  void WriteMachine(const std::string& name, const std::string& answers, const std::string& file = "") const {
     hxahost::Bundle bundle =
         BundleOf(ReadMachineAnswers(FileText(SourceFile("tests/machines/" + answers + ".answers").string())));
     bundle.machine = name;
-    folder_.Write(name + ".bundle", WriteBundle(bundle));
+    folder_.Write((file.empty() ? name : file) + ".bundle", WriteBundle(bundle));
   }
 
   std::string Folder() const { return hxahost::Utf8FromPath(folder_.Path()); }
@@ -116,6 +117,49 @@ TEST_F(FleetCommand, WritesAPageThatLinksToTheNewestReportOfEachMachine) {
   EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB01.html"), HasSubstr("OK: no fault found"));
   EXPECT_THAT(Run({"--pages", File("pages"), Folder()}).err,
               HasSubstr("hxahost: --pages is for what --format html links to: give that, or leave it out."));
+}
+
+TEST_F(FleetCommand, WritesAPageForAMachineWithALongName) {
+  WriteMachine(std::string(240, 'm'), "arcconf-newer-healthy", "long");
+  WriteMachine("DB02", "arcconf-newer-failed-disk");
+  const ProgramResult result =
+      Run({"--format", "html", "--output", File("fleet.html"), "--pages", File("pages"), Folder()});
+  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  std::size_t pages = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.Path() / "pages")) {
+    const std::string name = hxahost::Utf8FromPath(entry.path().filename());
+    EXPECT_THAT(FileText(folder_.Path() / "fleet.html"), HasSubstr("href=\"pages/" + name + "\""));
+    ++pages;
+  }
+  EXPECT_EQ(pages, 2U);
+}
+
+TEST_F(FleetCommand, WritesAPageForAResultWhoseTimeIsInvalid) {
+  const std::string file = hxahost::Utf8FromPath(
+      folder_.Write("r.json", R"({"format":1,"machine":"DB01","time":"noon","queries":[{"instances":[],"log":[]}]})"));
+  const ProgramResult result = Run({"--format", "html", "--output", File("f.html"), "--pages", File("pages"), file});
+  EXPECT_EQ(result.exitStatus, 0) << result.err;
+  EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB01.html"), HasSubstr("<h1>RAID report: DB01</h1>"));
+}
+
+TEST_F(FleetCommand, SaysWhyTheFolderForPagesCannotBeCreated) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  folder_.Write("pages", "a file");
+  const ProgramResult result =
+      Run({"--format", "html", "--output", File("fleet.html"), "--pages", File("pages"), File("DB01.bundle")});
+  EXPECT_EQ(result.exitStatus, 2);
+  EXPECT_EQ(result.err, "hxahost: --pages " + File("pages") +
+                            " cannot be created (Not a directory): name a folder that you may write to.\n");
+}
+
+TEST_F(FleetCommand, CountsACollectionOnceThatAFileContainsTwice) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  const std::string lines = RunHxahost({"query", "--replay", File("DB01.bundle"), "--format", "jsonl", "--runs"}).out;
+  const std::string twice = hxahost::Utf8FromPath(folder_.Write("twice.lines", lines + lines));
+  EXPECT_EQ(Run({twice}).out, Run({File("DB01.bundle")}).out);
+  const ProgramResult page = Run({"--format", "html", "--output", File("f.html"), "--pages", File("pages"), twice});
+  EXPECT_EQ(page.exitStatus, 0) << page.err;
+  EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB01.html"), HasSubstr("OK: no fault found"));
 }
 
 TEST_F(FleetCommand, EndsWithStatus4WithoutMachines) {

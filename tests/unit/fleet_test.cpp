@@ -272,6 +272,16 @@ TEST(FleetPages, HaveNamesThatDifferOnEverySystem) {
   EXPECT_EQ(names.at("a:b"), "machine-a_b-2.html");
 }
 
+TEST(FleetPages, HaveNamesThatFileSystemsPermitHoweverLongTheMachinesAre) {
+  Fleet fleet({10 * kDay, {}});
+  const std::string longName(1000, 'm');
+  for (const char* const last : {"1", "2"}) fleet.Add(MachineOf(longName + last, 9));
+  const auto names = PageNames(fleet);
+  EXPECT_LT(names.at(longName + "1").size(), 150U);
+  EXPECT_LT(names.at(longName + "2").size(), 150U);
+  EXPECT_NE(names.at(longName + "1"), names.at(longName + "2"));
+}
+
 TEST(FleetPages, AreLinkedFromTheFolderOfThePage) {
   EXPECT_EQ(LinkBetween("out", "out/pages"), "pages");
   EXPECT_EQ(LinkBetween("out", "all pages"), "../all%20pages");

@@ -85,12 +85,12 @@ OutputFile::OutputFile(const fs::path& path, std::string option)
 
 void OutputFile::Finish() {
   stream_.flush();
-  const bool isWhole = stream_ && (file_ ? file_->Finish() : device_.close() != nullptr);
-  if (!isWhole) {
-    throw ProgramError(ExitStatus::kQueryFailed, option_ + " " + Printable(Utf8FromPath(path_)) +
-                                                     " could not be written: see whether there is room on the disk "
-                                                     "and whether another program has the file open.");
-  }
+  const bool hasRoom = stream_ && (file_ || device_.close() != nullptr);
+  if (hasRoom && (!file_ || file_->Finish())) return;
+  const char* const cause = hasRoom ? "whether its name is too long and whether another program has the file open"
+                                    : "whether there is room on the disk";
+  throw ProgramError(ExitStatus::kQueryFailed,
+                     option_ + " " + Printable(Utf8FromPath(path_)) + " could not be written: see " + cause + ".");
 }
 
 }  // namespace hxahost

@@ -1,5 +1,6 @@
 #include "host/hxahost/system/output_file.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -50,6 +51,21 @@ TEST(OutputFilePosix, KeepsModeAndOwnerOfTheReplacedFile) {
   EXPECT_EQ(replaced.st_size, 5);
   EXPECT_EQ(replaced.st_mode & 07777U, 0460U);
   EXPECT_EQ(replaced.st_uid, owner);
+}
+
+// A disk with room is not to blame for a name that no file can have.
+TEST(OutputFilePosix, SaysThatTheNameMayBeTooLong) {
+  const TemporaryFolder folder;
+  try {
+    OutputFile file(folder.Path() / std::string(250, 'n'));
+    file.Stream() << "text";
+    file.Finish();
+    FAIL() << "it was written";
+  } catch (const ProgramError& error) {
+    EXPECT_THAT(error.what(), testing::HasSubstr("too long"));
+    EXPECT_THAT(error.what(), testing::Not(testing::HasSubstr("room")));
+  }
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
 TEST(OutputFilePosix, IsNotSeenBeforeItIsFinished) {
