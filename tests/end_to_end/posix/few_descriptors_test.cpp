@@ -17,7 +17,7 @@ using testing::HasSubstr;
 using Texts = std::vector<std::string>;
 
 constexpr int kFewest = 3;
-constexpr int kEnough = 32;
+constexpr int kEnough = 16;
 
 // A machine with few objects, whose collection takes little time.
 class FewDescriptors : public testing::Test {
