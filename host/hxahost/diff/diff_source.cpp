@@ -23,14 +23,17 @@ namespace {
 
 constexpr int kLimitSeconds = 600;
 
+// The folder is "" if the system does not name it.
 [[noreturn]] void RejectTemporaryFolder(const std::string& bundle, const std::string& folder, const std::string& why) {
-  throw ProgramError(ExitStatus::kWrongArguments,
-                     fmt::format("{} was not replayed: the folder for temporary files, {}, cannot be used: {}.",
-                                 Printable(bundle), Printable(folder), Printable(why)));
+  throw ProgramError(
+      ExitStatus::kWrongArguments,
+      fmt::format("{} was not replayed: the folder for temporary files{} cannot be used ({}): set TMPDIR "
+                  "(on Windows TMP) to a folder with room.",
+                  Printable(bundle), folder.empty() ? "" : " " + Printable(folder), Printable(why)));
 }
 
 PrivateFolder FolderForResult(const std::string& bundle) {
-  std::string folder = "which TMPDIR (on Windows TMP) names";  // the system does not name it if it is missing
+  std::string folder;
   try {
     folder = Utf8FromPath(fs::temp_directory_path());
     return PrivateFolder();
@@ -55,7 +58,7 @@ std::string QueryThatReplays(const std::string& bundle, std::uint64_t largest) {
   }
   // A message that names the folder is about the output in it.
   if (result.output.find(Utf8FromPath(folder.Path().filename())) != result.output.npos) {
-    RejectTemporaryFolder(bundle, Utf8FromPath(folder.Path().parent_path()), "see whether there is room on the disk");
+    RejectTemporaryFolder(bundle, Utf8FromPath(folder.Path().parent_path()), "its result could not be written there");
   }
   throw ProgramError(ExitStatus::kWrongArguments,
                      Printable(bundle) + " cannot be replayed: " + Printable(result.output));
