@@ -198,9 +198,9 @@ TEST_F(Hxahost, BeginsToCountItsDeadlineWhenTheWaitIsOver) {
   fs::create_directory(folder_.Path() / "zenx");
   auto other = std::make_unique<hxahost::FolderLock>(folder_.Path() / "zenx");
   ASSERT_TRUE(other->Take());
-  RunningProgram waiting(HxahostPath(), {"status", "--deadline", "1", "--directory", Utf8FromPath(folder_.Path())});
+  RunningProgram waiting(HxahostPath(), {"status", "--deadline", "5", "--directory", Utf8FromPath(folder_.Path())});
   EXPECT_TRUE(waiting.SaysOnStandardError("waiting"));
-  std::this_thread::sleep_for(std::chrono::seconds(2));
+  std::this_thread::sleep_for(std::chrono::seconds(6));
   other.reset();
   EXPECT_THAT(waiting.Wait().out, AllOf(HasSubstr("not installed"), Not(HasSubstr("not asked"))));
 }
