@@ -128,7 +128,7 @@ class SlowMachine {
  public:
   SlowMachine() : folder_(fs::temp_directory_path() / "zenx-bench-slow") {
     fs::remove_all(folder_);
-    fs::create_directories(folder_);
+    fs::create_directories(folder_ / "zenx");
     fs::copy(SampleMachine() / "zenx", folder_ / "zenx" / "quick", fs::copy_options::recursive);
     for (const std::string tool : {"qcmdrun", "hrconf_64", "arcconf"}) {
       const fs::path script = folder_ / "zenx" / (tool + ".exe");
