@@ -102,27 +102,6 @@ std::vector<Command> CommandsOf(const std::string& program) {
   return commands;
 }
 
-// Compares the program with running only its tools, in alternating rounds.
-void MeasureCollection(Table& table, const std::string& program) {
-  const std::vector<Command> commands = CommandsOf(program);
-  std::vector<double> wall;
-  std::vector<double> busy;
-  for (int round = 0; round < kRounds; ++round) {
-    const Cost whole = CostOf({program, "query", "--format", "json"}, true);
-    Cost bare;
-    for (const Command& command : commands) {
-      const Cost cost = CostOf(command, false);
-      bare.wall += cost.wall;
-      bare.busy += cost.busy;
-    }
-    wall.push_back(whole.wall / bare.wall);
-    busy.push_back(whole.busy / bare.busy);
-  }
-  const std::string what = "sample machine / its " + std::to_string(commands.size()) + " tool runs alone: ";
-  table.AtMost(what + "clock", Median(wall), 1.25);
-  table.AtMost(what + "processors", Median(busy), 1.25);
-}
-
 // The sample machine with utilities that take 50 ms for each answer; the working directory while it exists.
 class SlowMachine {
  public:
@@ -378,7 +357,6 @@ int main() {
     const std::string program = (SampleMachine().parent_path() / "bin" / "hxahost").string();
     fs::current_path(SampleMachine());
     Table table;
-    MeasureCollection(table, program);
     MeasureSlowTools(table, program);
     MeasureTools(table);
     MeasureGrowth(table, program);
