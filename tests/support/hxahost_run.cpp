@@ -17,6 +17,11 @@ ProgramResult RunHxahost(const std::vector<std::string>& arguments) {
   return RunningProgram(HxahostPath(), arguments).Wait();
 }
 
+ProgramResult RunFromShell(const std::string& script, std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), {"-c", script, hxahost::Utf8FromPath(HxahostPath())});
+  return RunningProgram("/bin/bash", arguments).Wait();
+}
+
 fs::path SampleMachine() { return hxahost::ProgramFolder().parent_path() / "sample-machine"; }
 
 nlohmann::ordered_json QuerySampleMachine(std::vector<std::string> furtherArguments) {

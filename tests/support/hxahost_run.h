@@ -14,6 +14,9 @@ std::filesystem::path HxahostPath();
 // Runs it and waits for its end.
 ProgramResult RunHxahost(const std::vector<std::string>& arguments);
 
+// Runs a script of bash, in which "$0" is the program and "$@" are the arguments; for systems with bash.
+ProgramResult RunFromShell(const std::string& script, std::vector<std::string> arguments);
+
 // The sample machine of this build.
 std::filesystem::path SampleMachine();
 

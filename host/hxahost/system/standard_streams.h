@@ -2,8 +2,8 @@
 
 namespace hxahost {
 
-// While it exists, standard output passes bytes on unchanged and a console shows UTF-8. It is constructed before any file
-// is opened: no file gets the place of a stream that the parent closed, and writing to that stream fails.
+// While it exists, standard output passes bytes on unchanged and a console shows UTF-8. It is constructed before any
+// file is opened: no file gets the place of a stream that the parent closed, and writing to that stream fails.
 class StandardStreams {
  public:
   StandardStreams();

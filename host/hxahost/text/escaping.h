@@ -7,9 +7,9 @@
 // Converts text to a form that is safe on a terminal.
 namespace hxahost {
 
-// Finds the characters of a text that are unsafe to show, one after the other: control characters, invisible ones, those
-// that change the direction of the text around them, codes that are not characters, and more marks on one character than
-// any language needs.
+// Finds the characters of a text that are unsafe to show, one after the other: control characters, invisible ones,
+// those that change the direction of the text around them, codes that are not characters, and more marks on one
+// character than any language needs.
 class UnsafeCharacters {
  public:
   bool Has(char32_t next);

@@ -51,12 +51,11 @@ class FewDescriptors : public testing::Test {
  private:
   // A build with sanitizers examines the types of objects with a pipe, and takes an object for damaged if it cannot
   // open one.
-  ProgramResult RunWithDescriptors(int most, Texts arguments) const {
+  ProgramResult RunWithDescriptors(int most, const Texts& arguments) const {
     const std::string noTypes = folder_.Write("suppressions", "vptr:*\n").string();
     const std::string script =
         "export UBSAN_OPTIONS=suppressions=" + noTypes + "; ulimit -n " + std::to_string(most) + "; exec \"$0\" \"$@\"";
-    arguments.insert(arguments.begin(), {"-c", script, HxahostPath().string()});
-    return RunningProgram("/bin/bash", arguments).Wait();
+    return RunFromShell(script, arguments);
   }
 
   // Times differ, the number of lines does not.

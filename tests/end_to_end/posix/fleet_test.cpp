@@ -25,18 +25,15 @@ using Texts = std::vector<std::string>;
 class FleetOfPoorFiles : public testing::Test {
  protected:
   // The destructor of the folder may be unable to delete what the tests create.
-  ~FleetOfPoorFiles() override { RunFromShell("chmod -R u+rwx . ; rm -rf sub", {}); }
+  ~FleetOfPoorFiles() override { RunInFolder("chmod -R u+rwx . ; rm -rf sub", {}); }
 
-  // Runs a script in the folder: "$0" and "$@" are the program and its arguments.
-  ProgramResult RunFromShell(const std::string& script, Texts arguments) const {
-    arguments.insert(arguments.begin(),
-                     {"-c", "cd '" + folder_.Path().string() + "' && " + script, HxahostPath().string()});
-    return RunningProgram("/bin/bash", arguments).Wait();
+  ProgramResult RunInFolder(const std::string& script, const Texts& arguments) const {
+    return RunFromShell("cd '" + folder_.Path().string() + "' && " + script, arguments);
   }
 
   ProgramResult RunFleet(const std::string& script, Texts arguments) const {
     arguments.insert(arguments.begin(), {"fleet", "--local-time", "20261122093000.000000+060", "--width", "1000"});
-    return RunFromShell(script, arguments);
+    return RunInFolder(script, arguments);
   }
 
   // A result of a machine without controllers.

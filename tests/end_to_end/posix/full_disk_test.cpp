@@ -20,12 +20,6 @@ using hxahost::Utf8FromPath;
 using testing::HasSubstr;
 using Texts = std::vector<std::string>;
 
-// Runs the program from a shell that runs a script first: "$0" and "$@" are the program and its arguments.
-ProgramResult RunFromShell(const std::string& script, Texts arguments) {
-  arguments.insert(arguments.begin(), {"-c", script, HxahostPath().string()});
-  return RunningProgram("/bin/bash", arguments).Wait();
-}
-
 void ExpectOneLineAboutRoom(const ProgramResult& result, const char* command) {
   EXPECT_EQ(std::ranges::count(result.err, '\n'), 1) << command << ": " << result.err;
   EXPECT_THAT(result.err, testing::StartsWith("hxahost: ")) << command;

@@ -27,12 +27,6 @@ using Texts = std::vector<std::string>;
 
 constexpr int kOutOfTime = 124;  // the exit status of "timeout"
 
-// Runs a line of the shell, in which "$0" is the program and "$@" are the arguments.
-ProgramResult RunFromShell(const std::string& line, Texts arguments) {
-  arguments.insert(arguments.begin(), {"-c", line, HxahostPath().string()});
-  return RunningProgram("/bin/bash", arguments).Wait();
-}
-
 ProgramResult RunWithinBounds(const Texts& arguments) { return RunFromShell("timeout 60 \"$0\" \"$@\"", arguments); }
 
 // An entry that is not an ordinary file.
@@ -47,13 +41,17 @@ constexpr Trap kTraps[] = {
     {"a folder",                    [](const fs::path& path) { fs::create_directory(path); }           },
 };
 
+void ReplaceRaidLog(const MachineCopy& machine, const Trap& trap) {
+  const fs::path log = fs::path(machine.Directory()) / "raid-manager/KVR/Zentraxis Manager/RaidEvtA.log";
+  fs::remove(log);
+  trap.make(log);
+}
+
 TEST(InputFiles, ARaidManagersLogThatIsNotAFileIsNamedAndTheRestIsShown) {
   const RaidLogSetting setting("raid-manager\\");
   for (const Trap& trap : kTraps) {
     const MachineCopy machine;
-    const fs::path log = fs::path(machine.Directory()) / "raid-manager/KVR/Zentraxis Manager/RaidEvtA.log";
-    fs::remove(log);
-    trap.make(log);
+    ReplaceRaidLog(machine, trap);
     const ProgramResult result = RunWithinBounds({"status", "--directory", machine.Directory(), "--width", "200"});
     EXPECT_EQ(result.exitStatus, 0) << trap.name << result.err;
     EXPECT_THAT(result.out, HasSubstr("RAID manager log not read")) << trap.name;
@@ -71,9 +69,7 @@ TEST(InputFiles, AReplayRefusesARefusedRaidManagersLogWithTheSameWords) {
   const RaidLogSetting setting("raid-manager\\");
   for (const Trap& trap : kTraps) {
     const MachineCopy machine;
-    const fs::path log = fs::path(machine.Directory()) / "raid-manager/KVR/Zentraxis Manager/RaidEvtA.log";
-    fs::remove(log);
-    trap.make(log);
+    ReplaceRaidLog(machine, trap);
     const std::string bundle = machine.Directory() + "/r.bundle";
     const ProgramResult live = RunWithinBounds({"health", "--directory", machine.Directory(), "--record", bundle});
     const ProgramResult replayed = RunWithinBounds({"health", "--replay", bundle});

@@ -18,12 +18,6 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-// Runs the program from a shell that runs a script first: "$0" and "$@" are the program and its arguments.
-ProgramResult RunFromShell(const std::string& script, std::vector<std::string> arguments) {
-  arguments.insert(arguments.begin(), {"-c", script, HxahostPath().string()});
-  return RunningProgram("/bin/bash", arguments).Wait();
-}
-
 const std::vector<std::string> kFixed = {
     "query", "--format", "json", "--machine-name", "M", "--local-time", "20260305123015.250000+060"};
 
