@@ -42,6 +42,9 @@ constexpr CodeRange kInvisible[] = {
 // No language uses more marks on one character; more are drawn over the lines above and below.
 constexpr std::size_t kMostMarks = 4;
 
+// Nearly all characters: the tables are not searched for them.
+bool IsPrintableAscii(char32_t code) { return code >= ' ' && code <= '~'; }
+
 std::string Escaped(char32_t code) {
   if (code == '\t') return "\\t";
   if (code == '\r') return "\\r";
@@ -55,6 +58,10 @@ std::string Escaped(char32_t code) {
 }  // namespace
 
 bool UnsafeCharacters::Has(char32_t next) {
+  if (IsPrintableAscii(next)) {
+    marks_ = 0;
+    return false;
+  }
   marks_ = IsCombining(next) ? marks_ + 1 : 0;
   return marks_ > kMostMarks || IsIn(next, kUnsafe) || IsIn(next, kInvisible);
 }
@@ -72,6 +79,7 @@ std::string Printable(std::string_view bytes) { return EscapeControls(Trim(bytes
 
 std::size_t PrintableLength(std::string_view bytes) {
   if (bytes.empty()) return 0;
+  if (IsPrintableAscii(static_cast<unsigned char>(bytes.front()))) return 1;
   const Character character = NextCharacter(bytes);
   return IsIn(character.code, kUnsafe) ? 0 : character.length;
 }

@@ -41,15 +41,17 @@ void SetAttribute(Tree& element, const char* name, std::string_view value) {
 
 // Parsers convert a carriage return to a line feed. It and characters that are unsafe on a terminal are written by
 // their number, which the library does not do.
-void WriteByNumber(std::ostream& out, std::string_view xml) {
+std::string WithUnsafeByNumber(std::string_view xml) {
+  std::string text;
   UnsafeCharacters unsafe;
   ForEachCharacter(xml, [&](char32_t code, std::string_view character) {
     if (unsafe.Has(code) && code != '\n' && code != '\t') {
-      out << fmt::format("&#{};", static_cast<unsigned>(code));
+      text += fmt::format("&#{};", static_cast<unsigned>(code));
     } else {
-      out << character;
+      text += character;
     }
   });
+  return text;
 }
 
 ECIMType TypeOf(const TCIMValue& value) {
@@ -171,9 +173,7 @@ Tree ObjectWithPath(const TPublishedInstance& instance) {
 std::string TreeText(const Tree& tree) {
   std::ostringstream document;
   boost::property_tree::write_xml(document, tree, boost::property_tree::xml_writer_make_settings<std::string>(' ', 1));
-  std::ostringstream text;
-  WriteByNumber(text, document.str().substr(document.str().find('\n') + 1));
-  return std::move(text).str();
+  return WithUnsafeByNumber(document.str().substr(document.str().find('\n') + 1));
 }
 
 // One element at a time: a log of a million lines is one array.
