@@ -27,10 +27,14 @@ target_compile_options(planted_library PRIVATE -Wall -Wextra -Wpedantic -Wconver
 target_link_options(planted_library PRIVATE -static-libgcc -static-libstdc++)
 set_target_properties(planted_library PROPERTIES PREFIX "" OUTPUT_NAME planted SUFFIX .library)
 
+# The code of the tests is compiled without optimisation, in half the time; what they test is compiled as it is shipped.
+set(test_options -O0)
+
 # What all three levels use, compiled once.
 sources_of(test_support_sources tests/support)
 add_library(test_support OBJECT ${test_support_sources} tests/main.cpp)
 target_link_libraries(test_support PUBLIC zenx_objects hxahost_objects test_framework)
+target_compile_options(test_support PRIVATE ${test_options})
 set_source_files_properties(tests/support/source_folder.cpp PROPERTIES
                             COMPILE_DEFINITIONS ZENX_SOURCE_FOLDER="${CMAKE_SOURCE_DIR}")
 
@@ -39,6 +43,7 @@ foreach(level unit host end_to_end)
   sources_of(sources tests/${level})
   add_executable(${level}_tests ${sources})
   target_link_libraries(${level}_tests PRIVATE test_support zenx_objects hxahost_objects)
+  target_compile_options(${level}_tests PRIVATE ${test_options})
   if(MINGW AND ZENX_LLD)
     target_link_options(${level}_tests PRIVATE -fno-use-linker-plugin -wrapper ${CMAKE_SOURCE_DIR}/cmake/link_with_lld)
   endif()
