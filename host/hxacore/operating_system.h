@@ -31,7 +31,7 @@ std::filesystem::path PathOf(const std::string& text);
 
 std::string MachineName();
 
-// The local time with its offset from UTC.
+// The local time with its offset from UTC; UTC where the offset has more minutes than a CIM date and time can show.
 TCIMDateTime LocalTime();
 
 }  // namespace NKVRHXA20

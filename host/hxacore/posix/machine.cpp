@@ -10,6 +10,13 @@
 
 namespace NKVRHXA20 {
 
+namespace {
+
+// In minutes, in a CIM date and time. The variable TZ can say more.
+constexpr long kLargestOffset = 999;
+
+}  // namespace
+
 std::string MachineName() {
   std::array<char, 256> name{};
   if (gethostname(name.data(), name.size() - 1) != 0) throw THXAException("The machine's name cannot be read.");
@@ -23,6 +30,7 @@ TCIMDateTime LocalTime() {
   const std::time_t time = std::chrono::system_clock::to_time_t(seconds);
   tm local{};
   localtime_r(&time, &local);
+  if (std::abs(local.tm_gmtoff / 60) > kLargestOffset) gmtime_r(&time, &local);
   return {static_cast<std::uint16_t>(local.tm_year + 1900), static_cast<std::uint16_t>(local.tm_mon + 1),
           static_cast<std::uint32_t>(local.tm_mday),        static_cast<std::uint16_t>(local.tm_hour),
           static_cast<std::uint16_t>(local.tm_min),         static_cast<std::uint16_t>(local.tm_sec),
