@@ -51,7 +51,8 @@ TEST_F(BundleCommand, ListsOneLineForEachItem) {
   EXPECT_EQ(out.str(),
             " ITEM     BYTES   SECONDS  COMMAND (OUTCOME)\n"
             "    1        81     0.125  zenx//arcconf.exe getconfig 1 al (cut off: its last line is \"no line end\")\n"
-            "    2         0     0.125  zenx//arcconf.exe getlogs 1 (empty: it wrote nothing)\n"
+            "    2         0     0.125  zenx//arcconf.exe getlogs 1 "
+            "(failed: it wrote nothing, and it was ended by the system: signal 11)\n"
             "    3         0   300.500  zenx//qcmdrun.exe (timed out: it did not answer within 300 s)\n"
             "    4        26         -  C:\\ZXM\\RaidEvtA.log (ok)\n");
 }

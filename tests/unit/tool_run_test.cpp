@@ -107,6 +107,20 @@ TEST(ToolRun, CallsACompleteAnswerOfAProgramThatASignalEndedFailed) {
   EXPECT_EQ(run.failure, "it was ended by the system: signal 11");
 }
 
+// On Windows, a missing library ends a program like this.
+TEST(ToolRun, SaysHowAProgramEndedThatWroteNothing) {
+  SpawnResult result(std::string(""));
+  result.exitStatus = 0;
+  EXPECT_EQ(OutcomeWord(RecordResult(result).outcome), "empty");
+  EXPECT_EQ(RecordResult(result).failure, "it wrote nothing");
+  result.exitStatus = 3221225781;
+  EXPECT_EQ(OutcomeWord(RecordResult(result).outcome), "failed");
+  EXPECT_EQ(RecordResult(result).failure, "it wrote nothing, and its exit status is 3221225781");
+  result.ending = "signal 11";
+  EXPECT_EQ(OutcomeWord(RecordResult(result).outcome), "failed");
+  EXPECT_EQ(RecordResult(result).failure, "it wrote nothing, and it was ended by the system: signal 11");
+}
+
 TEST(ToolRun, LeavesARefusalARefusalForAnyExitStatus) {
   SpawnResult result(std::string("Controllers found: 0\r\n"));
   result.exitStatus = 1;

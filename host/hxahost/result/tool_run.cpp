@@ -35,18 +35,24 @@ Outcome OutcomeOf(SpawnFailure failure) {
   return Outcome::kCutOff;
 }
 
-// The exit status decides even if the answer looks complete.
+// What is wrong with the way in which a program ended; "" if nothing is.
+std::string BadEnding(const SpawnResult& result) {
+  if (result.ending == kUnknownEnding) return "how it ended is not known";
+  if (!result.ending.empty()) return "it was ended by the system: " + Printable(result.ending);
+  if (result.exitStatus.value_or(0) != 0) return "its exit status is " + std::to_string(*result.exitStatus);
+  return "";
+}
+
+// The exit status decides even if the answer looks complete, and says why there is none.
 void ReadAnswerOf(const SpawnResult& result, ToolRun& run) {
   run.seconds = result.seconds;
   run.exitStatus = result.exitStatus;
   run.bytes = result.output.size();
   ReadAnswer answer = ReadToolAnswer(ToolName(run.path), run.arguments, result.output);
-  if (answer.outcome == Outcome::kOk && !result.ending.empty()) {
-    answer = {Outcome::kFailed, result.ending == kUnknownEnding
-                                    ? "how it ended is not known"
-                                    : "it was ended by the system: " + Printable(result.ending)};
-  } else if (answer.outcome == Outcome::kOk && result.exitStatus.value_or(0) != 0) {
-    answer = {Outcome::kFailed, "its exit status is " + std::to_string(*result.exitStatus)};
+  const std::string ending = BadEnding(result);
+  if (!ending.empty() && answer.outcome == Outcome::kOk) answer = {Outcome::kFailed, ending};
+  if (!ending.empty() && answer.outcome == Outcome::kEmpty) {
+    answer = {Outcome::kFailed, answer.reason + ", and " + ending};
   }
   run.outcome = answer.outcome;
   run.failure = std::move(answer.reason);
