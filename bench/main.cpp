@@ -203,13 +203,10 @@ std::vector<Question> Questions(const std::string& program) {
   return questions;
 }
 
-// The cheapest of several runs; fewer runs if each is long.
-Cost CheapestOf(const Command& command, int disks) {
-  const bool isChecked = command[1] == "query";
+// The cheapest of several runs.
+Cost CheapestOf(const Command& command, bool isChecked, int runs) {
   Cost best = CostOf(command, isChecked);
-  for (int more = disks < std::ranges::max(kSizes) ? 4 : 1; more > 0; --more) {
-    best.busy = std::min(best.busy, CostOf(command, isChecked).busy);
-  }
+  while (--runs > 0) best.busy = std::min(best.busy, CostOf(command, isChecked).busy);
   return best;
 }
 
@@ -219,8 +216,9 @@ void MeasureGrowth(Table& table, const std::string& program) {
   double peak = 0;
   for (const int disks : {0, kSizes[0], kSizes[1], kSizes[2]}) {
     const Machine machine(disks);
+    const int runs = disks < std::ranges::max(kSizes) ? 5 : 2;
     for (Question& question : questions) {
-      const Cost cost = CheapestOf(question.command, disks);
+      const Cost cost = CheapestOf(question.command, question.command[1] == "query", runs);
       if (disks == 0) question.start = cost.busy;
       if (disks > 0) question.seconds.push_back(cost.busy - question.start);
       peak = std::max(peak, cost.peakMiB);
@@ -285,13 +283,7 @@ void MeasureMasking(Table& table, const std::string& program) {
     }
     const std::string bundle = (folder / "m.bundle").string();
     OutputOf({program, "query", "--class", kLogRecord, "--record", bundle});
-    const std::string masked = (folder / "masked.bundle").string();
-    std::vector<double> runs;
-    for (int round = 0; round < 3; ++round) {
-      fs::remove(masked);
-      runs.push_back(CostOf({program, "bundle", "mask", bundle, masked}, true).busy);
-    }
-    seconds.push_back(Median(runs));
+    seconds.push_back(CheapestOf({program, "bundle", "mask", bundle, "/dev/null"}, true, 3).busy);
   }
   fs::remove_all(folder);
   table.AtMost("masking: twice the text: processors", (seconds[2] - seconds[0]) / (seconds[1] - seconds[0]),
@@ -336,7 +328,7 @@ void MeasureFleet(Table& table, const std::string& program) {
     std::vector<Cost> costs;
     for (const int times : {1, 2, 4}) {
       const FleetFolder folder(result, times * kFleet);
-      costs.push_back(CostOf({program, "fleet", "--format", format, folder.Path()}, true));
+      costs.push_back(CheapestOf({program, "fleet", "--format", format, folder.Path()}, true, 3));
     }
     for (std::size_t place = 1; place < costs.size(); ++place) {
       const int times = 1 << place;
