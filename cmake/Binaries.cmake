@@ -16,9 +16,9 @@ function(sources_of VARIABLE)
   set(${VARIABLE} ${sources} PARENT_SCOPE)
 endfunction()
 
-# What most files include of libraries, compiled once for each of the large targets by the preset asan. What is shipped is
-# built without: GCC 12 takes headers that were compiled before for the program's own when it optimises, and then warns of
-# copies that the library does not make.
+# What most files include of libraries, compiled once for each of the large targets where little is optimised: by the
+# preset asan and for docs/how-to.md. What is shipped is built without: GCC 12 takes headers that were compiled before for
+# the program's own when it optimises, and then warns of copies that the library does not make.
 set(common_headers <algorithm> <boost/shared_ptr.hpp> <chrono> <cstdint> <filesystem> <functional> <map> <memory>
                    <optional> <ostream> <set> <span> <sstream> <stdexcept> <string> <string_view> <utility> <variant>
                    <vector>)
