@@ -152,8 +152,8 @@ TEST(Options, ShowHelpWithDefaultsAndExamples) {
     EXPECT_THAT(help.text, HasSubstr("Exit status:"));
   }
   const std::string help = Parse("query --help").text;
-  for (const char* const said : {"--repeat N", "(default: 1)", "--format FORMAT",
-                                 "--os-type N|none", "--no-progress"}) {
+  for (const char* const said :
+       {"--repeat N", "(default: 1)", "--format FORMAT", "--os-type N|none", "--no-progress"}) {
     EXPECT_THAT(help, HasSubstr(said));
   }
 }
@@ -294,8 +294,8 @@ TEST(Options, RejectWrongOnesInOneLineWithAdvice) {
       {"repeat half",               {"query", "--repeat", "1.5"},                           "from 1 on"               },
       {"repeat blank",              {"query", "--repeat", " 1"},                            "from 1 on"               },
       {"repeat too often",          {"query", "--repeat", "4294967296"},                    "from 1 on"               },
-      {"format unknown",            {"query", "--format", "xml"},                           "give table, json"           },
-      {"format in capitals",        {"query", "--format", "JSON"},                          "give table, json"           },
+      {"format unknown",            {"query", "--format", "xml"},                           "give table, json"        },
+      {"format in capitals",        {"query", "--format", "JSON"},                          "give table, json"        },
       {"OS type too high",          {"query", "--os-type", "65536"},                        "0 to 65535, or none"     },
       {"OS type less",              {"query", "--os-type=-1"},                              "0 to 65535, or none"     },
       {"OS type word",              {"query", "--os-type", "windows"},                      "0 to 65535, or none"     },

@@ -107,8 +107,13 @@ std::size_t CountAnswers(const ToolRunList& runs) {
 
 Finding OfCollection(std::string_view word, std::string text) {
   const HealthRule& rule = RuleFor(kAnswers, word);
-  return {SeverityOf(rule.level),         std::string(kToolRun), std::string(kCollection), "the collection",
-          std::string(kAnswers.property), std::move(text),       rule.meaning};
+  return {SeverityOf(rule.level),
+          std::string(kToolRun),
+          std::string(kCollection),
+          "the collection",
+          std::string(kAnswers.property),
+          std::move(text),
+          rule.meaning};
 }
 
 // Whether every run was of a program that does not exist.

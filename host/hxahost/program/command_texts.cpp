@@ -29,24 +29,24 @@ constexpr Example kStatus[] = {
 };
 
 constexpr Example kQuery[] = {
-    {"hxahost query",                                     "run the tools in ./zenx"},
-    {"hxahost query --directory C:\\tools",               "run the tools in C:\\tools\\zenx"           },
-    {"hxahost query --class drives,disks",                "only the logical drives and the disks"      },
-    {"hxahost query --format json --output machine.json", "everything, for a program"                  },
-    {"hxahost query --format csv --class disks",          "the disks, for a spreadsheet"               },
-    {"hxahost query --format html --output report.html",  "everything, for a browser and for paper"    },
-    {"hxahost query --log log.txt",                       "with a log of every command"                },
-    {"hxahost query --record machine.bundle --mask",      "everything without names, for support" },
-    {"hxahost query --replay machine.bundle",             "the same result on any machine"      },
+    {"hxahost query",                                     "run the tools in ./zenx"                },
+    {"hxahost query --directory C:\\tools",               "run the tools in C:\\tools\\zenx"       },
+    {"hxahost query --class drives,disks",                "only the logical drives and the disks"  },
+    {"hxahost query --format json --output machine.json", "everything, for a program"              },
+    {"hxahost query --format csv --class disks",          "the disks, for a spreadsheet"           },
+    {"hxahost query --format html --output report.html",  "everything, for a browser and for paper"},
+    {"hxahost query --log log.txt",                       "with a log of every command"            },
+    {"hxahost query --record machine.bundle --mask",      "everything without names, for support"  },
+    {"hxahost query --replay machine.bundle",             "the same result on any machine"         },
 };
 
 constexpr Example kHealth[] = {
-    {"hxahost health",                                            "what is wrong and what to do"},
-    {"hxahost health --directory C:\\tools",                      "with the tools in C:\\tools\\zenx"          },
-    {"hxahost health --verbose",                                  "with the findings of each incident"         },
-    {"hxahost health --format nagios",                            "for Nagios and compatible programs"         },
-    {"hxahost health --format prometheus --output DIR/zenx.prom", "for the node exporter's text files" },
-    {"hxahost health --rules",                                    "what each word of the utilities means"      },
+    {"hxahost health",                                            "what is wrong and what to do"         },
+    {"hxahost health --directory C:\\tools",                      "with the tools in C:\\tools\\zenx"    },
+    {"hxahost health --verbose",                                  "with the findings of each incident"   },
+    {"hxahost health --format nagios",                            "for Nagios and compatible programs"   },
+    {"hxahost health --format prometheus --output DIR/zenx.prom", "for the node exporter's text files"   },
+    {"hxahost health --rules",                                    "what each word of the utilities means"},
 };
 
 constexpr Example kExplain[] = {
@@ -61,16 +61,16 @@ constexpr Example kDiff[] = {
 };
 
 constexpr Example kFleet[] = {
-    {"hxahost fleet results",                                         "the machines of a folder, worst first"     },
-    {"hxahost fleet --stale 7 results",                               "also machines silent for a week" },
-    {"hxahost fleet --format html -o fleet.html --pages DIR results", "an HTML page, and each machine's report"   },
-    {"hxahost fleet --format jsonl results",                          "objects for a database, one per line"      },
-    {"hxahost fleet --format prometheus -o DIR/fleet.prom results",   "for the node exporter's text files"},
+    {"hxahost fleet results",                                         "the machines of a folder, worst first"  },
+    {"hxahost fleet --stale 7 results",                               "also machines silent for a week"        },
+    {"hxahost fleet --format html -o fleet.html --pages DIR results", "an HTML page, and each machine's report"},
+    {"hxahost fleet --format jsonl results",                          "objects for a database, one per line"   },
+    {"hxahost fleet --format prometheus -o DIR/fleet.prom results",   "for the node exporter's text files"     },
 };
 
 constexpr Example kBundle[] = {
     {"hxahost query --record machine.bundle",            "collect, and keep all answers"          },
-    {"hxahost query --replay machine.bundle",            "the same result on any machine"  },
+    {"hxahost query --replay machine.bundle",            "the same result on any machine"         },
     {"hxahost bundle list machine.bundle",               "the commands in it"                     },
     {"hxahost bundle show machine.bundle 3",             "the output of the third command"        },
     {"hxahost bundle mask machine.bundle shared.bundle", "a copy without names and serial numbers"},
@@ -95,28 +95,28 @@ constexpr Example kHelp[] = {
 constexpr CommandText kTexts[] = {
     {"",        "Tells which RAID disk to replace, and shows the tool output that proves it", kProgram,
      "0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded, 4 nothing was found, "
-     "5 another program collects."                                                                                 },
+     "5 another program collects."                                                                        },
     {"status",  "Show on one screen what is wrong and what to do",                            kStatus,
      "0 shown, whatever is wrong (for an exit status use hxahost health), 1 the collection failed, 2 wrong arguments, "
-     "3 the plug-in could not be loaded, 4 no controller was found, 5 another program collects."                   },
+     "3 the plug-in could not be loaded, 4 no controller was found, 5 another program collects."          },
     {"query",   "Run the controller utilities and show all instances",                        kQuery,
      "0 done, 1 the query failed, 2 wrong arguments, 3 the plug-in could not be loaded, 4 no controller was found, "
-     "5 another program collects."                                                                                 },
+     "5 another program collects."                                                                        },
     {"health",  "Show what is wrong, worst first, and what to do",                            kHealth,
      "0 nothing is wrong, 1 warning, 2 critical, 3 unknown. The worst finding decides: critical over warning over "
-     "unknown. Every failure of the command itself is 3, too."                                                     },
-    {"explain", "Show the tool output that each value comes from",       kExplain,
+     "unknown. Every failure of the command itself is 3, too."                                            },
+    {"explain", "Show the tool output that each value comes from",                            kExplain,
      "0 done, 1 the query failed, 2 wrong arguments, or no object or several objects match, 3 the plug-in could not be "
-     "loaded, 5 another program collects."                                                                         },
+     "loaded, 5 another program collects."                                                                },
     {"diff",    "Show the differences between two results",                                   kDiff,
-     "0 nothing differs except times of collection, 1 something differs, 2 the comparison failed."                 },
+     "0 nothing differs except times of collection, 1 something differs, 2 the comparison failed."        },
     {"fleet",   "Show the results of many machines together",                                 kFleet,
      "0 done, whatever is wrong with machines or files, 1 the output could not be written, 2 wrong arguments, 4 no "
-     "machine was found."                                                                                          },
-    {"bundle",  "List, show and mask bundles of query --record",           kBundle,  ""         },
-    {"classes", "List the classes that the plug-in publishes",                                kClasses, ""         },
-    {"schema",  "Show these classes with their properties",                                   kSchema,  ""         },
-    {"help",    "Show the help of the program or of a command",                               kHelp,    ""         },
+     "machine was found."                                                                                 },
+    {"bundle",  "List, show and mask bundles of query --record",                              kBundle,  ""},
+    {"classes", "List the classes that the plug-in publishes",                                kClasses, ""},
+    {"schema",  "Show these classes with their properties",                                   kSchema,  ""},
+    {"help",    "Show the help of the program or of a command",                               kHelp,    ""},
 };
 
 }  // namespace
