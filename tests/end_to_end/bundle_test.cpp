@@ -2,7 +2,7 @@
 //
 // tests/golden/one-controller.bundle makes sure that bundles of this form stay readable, and is replayed on both
 // systems. It contains the recording of the Windows build for one of the sample machine's controllers. To renew it, run
-// RecordsTheBundleThatIsKept on Windows with ZENX_RENEW_GOLDEN=1 in the environment.
+// RecordsTheBundleThatIsKept on Windows with ZENX_RENEW_BUNDLE=1 in the environment.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -161,7 +161,7 @@ TEST_F(Bundles, RecordsTheBundleThatIsKept) {
   // Paths as on any Windows machine.
   now.directory = "C:\\sample-machine";
   std::ranges::replace(now.raidLog->path, '/', '\\');
-  if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) {
+  if (std::getenv("ZENX_RENEW_BUNDLE") != nullptr) {
     WriteFileText(Golden("one-controller.bundle"), hxahost::WriteBundle(now));
   }
   const hxahost::Bundle kept = hxahost::ReadBundleFile(Golden("one-controller.bundle"));

@@ -3,13 +3,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/hxahost/bundle/bundle_file.h"
 #include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/text/utf8.h"
 #include "tests/support/hxahost_run.h"
+#include "tests/support/machine_copy.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -23,16 +26,27 @@ ProgramResult Explain(std::vector<std::string> words) {
   return RunHxahost(words);
 }
 
+constexpr std::string_view kState = "State                              : Failed";
+constexpr std::string_view kScsiId = "Reported Channel,Device            : 0,8";
+
+// The number of the line with the text in arcconf's answer on its first controller.
+std::string LineOf(std::string_view text) {
+  const std::string answer = MachineCopy().Answer("arcconf/1/getconfig-al");
+  const auto end = answer.begin() + static_cast<std::ptrdiff_t>(answer.find(text));
+  return std::to_string(std::count(answer.begin(), end, '\n') + 1);
+}
+
 TEST(Explain, ShowsTheLineOfEachValueOrItsOrigin) {
   const ProgramResult result = Explain({"enclosure", "0,", "slot", "8"});
   EXPECT_EQ(result.exitStatus, 0) << result.err;
-  EXPECT_THAT(result.out, AllOf(HasSubstr("enclosure 0, slot 8: Hard drive at channel 0, ID 8 of controller "),
-                                HasSubstr("\n\nzenx//arcconf.exe getconfig 1 al\n  Property "),
-                                HasSubstr("\n  State             Failed                            236\n"),
-                                HasSubstr("\n  ScsiId            8                                 239\n"),
-                                HasSubstr("\n\nComposed, counted or fixed\n"),
-                                HasSubstr("\n  OtherIdentifyingInfo: Hard drive, Channel:0|SCSI ID:8\n"
-                                          "      DeviceType; fixed text, Channel and ScsiId\n")));
+  EXPECT_THAT(result.out,
+              AllOf(HasSubstr("enclosure 0, slot 8: Hard drive at channel 0, ID 8 of controller "),
+                    HasSubstr("\n\nzenx//arcconf.exe getconfig 1 al\n  Property "),
+                    HasSubstr("\n  State             Failed                            " + LineOf(kState) + "\n"),
+                    HasSubstr("\n  ScsiId            8                                 " + LineOf(kScsiId) + "\n"),
+                    HasSubstr("\n\nComposed, counted or fixed\n"),
+                    HasSubstr("\n  OtherIdentifyingInfo: Hard drive, Channel:0|SCSI ID:8\n"
+                              "      DeviceType; fixed text, Channel and ScsiId\n")));
 }
 
 // Expects the first words of the answer, or the one line of an error.
@@ -75,8 +89,7 @@ std::string BundleOfAChange(const TemporaryFolder& folder) {
   for (RecordedRun& run : bundle.runs) {
     if (run.path == "zenx//arcconf.exe" && run.arguments == arguments) last = &run;
   }
-  const std::string state = "State                              : Failed";
-  last->result.output.replace(last->result.output.find(state), state.size(), "State : Missing");
+  last->result.output.replace(last->result.output.find(kState), kState.size(), "State : Missing");
   return Utf8FromPath(folder.Write("changed.bundle", WriteBundle(bundle)));
 }
 
@@ -85,8 +98,9 @@ TEST(Explain, ShowsValuesThatTheToolLaterAnsweredDifferently) {
   const ProgramResult result =
       RunHxahost({"explain", "--replay", BundleOfAChange(folder), "NV3LE77Q2H", "--width", "80"});
   EXPECT_EQ(result.exitStatus, 0) << result.err;
-  EXPECT_THAT(result.out, AllOf(HasSubstr("  Line  but it says\n"), HasSubstr("  236   State : Failed\n"),
-                                HasSubstr("\n  State             Missing ")));
+  EXPECT_THAT(result.out,
+              AllOf(HasSubstr("  Line  but it says\n"), HasSubstr("  " + LineOf(kState) + "   State : Failed\n"),
+                    HasSubstr("\n  State             Missing ")));
 }
 
 }  // namespace

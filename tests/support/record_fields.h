@@ -54,6 +54,8 @@ constexpr bool ListsAllBeside() {
     static constexpr NamedField<Record> kAll[] = {                                               \
         BOOST_PP_SEQ_FOR_EACH(ZENX_NAMED_FIELD, Record, BOOST_PP_VARIADIC_TO_SEQ(__VA_ARGS__))}; \
   };
+#define ZENX_LISTS_ALL_BESIDE(...) \
+  static_assert(ListsAllBeside<__VA_ARGS__>(), "add the new text of the record to its ZENX_FIELDS");
 
 ZENX_FIELDS(ZenxController, ControllerNum, DeviceID, OtherIdentifyingInfo, ControllerName, ControllerType, SerialNum,
             PartNum, ControllerSlotInfo, ControllerFRU, VPD, ControllerStatus, ChannelDescription, ScsiChannelDescr,
@@ -64,36 +66,36 @@ ZENX_FIELDS(ZenxController, ControllerNum, DeviceID, OtherIdentifyingInfo, Contr
             LastCmdStatus, LogicalDriveSizeInStripes, NumberOfRemainingStripes, ECVersion, ControllerTemp,
             ControllerBatteryStatus, ControllerBatteryOverTemp, ControllerBatteryCapacity, ControllerBatteryFRU,
             BatteryTimeRemaining, DeviceDriverVersion, FirmwareVersion, BootBlockVersion, BiosVersion, SlotDeviceId)
-static_assert(ListsAllBeside<ZenxController, bool, std::vector<std::string>[9], std::shared_ptr<void>[2]>());
+ZENX_LISTS_ALL_BESIDE(ZenxController, bool, std::vector<std::string>[9], std::shared_ptr<void>[2])
 
 ZENX_FIELDS(ZenxLogicalDevice, ControllerNum, LogicalDriveNum, LogicalDriveName, LogicalDriveStatus, RaidLevel, Size,
             StripeUnitSize, StripeOrder, AccessBlocked, NumOfChunks, NumOfSegments, PartOfArray, PartOfMergeGroup,
             WriteCacheStatus, WriteCacheSetting, ReadCacheStatus, Partitioned, DriveList, DefunctSegments,
             AdditionalInformation, Raid5EEStatus, DefunctStripes)
-static_assert(ListsAllBeside<ZenxLogicalDevice, std::vector<std::string>>());
+ZENX_LISTS_ALL_BESIDE(ZenxLogicalDevice, std::vector<std::string>)
 
 ZENX_FIELDS(ZenxPhysicalDevice, ControllerNum, Channel, ScsiId, DeviceNumber, DeviceType, Type, State, DeviceCode,
             DeviceSerialNum, Firmware, Vendor, Model, Size, TransferSpeed, ReportedChannel, WorldWideName, WriteCache,
             Enclosure, EnclosureId, ReportedESD, ReportedLocation, Supported, PFA, FRU, Temperature, DeviceIdSuffix)
-static_assert(ListsAllBeside<ZenxPhysicalDevice>());
+ZENX_LISTS_ALL_BESIDE(ZenxPhysicalDevice)
 
 ZENX_FIELDS(ArrayStripeOrder, ControllerNum, CollectionID, Array, StripeOrder)
-static_assert(ListsAllBeside<ArrayStripeOrder, std::vector<std::string>>());
+ZENX_LISTS_ALL_BESIDE(ArrayStripeOrder, std::vector<std::string>)
 
 ZENX_FIELDS(ZenxEventDddData, Controller, Date, Time, Channel, ID, Reason, Descrip, RecordID)
-static_assert(ListsAllBeside<ZenxEventDddData, NKVRHXA20::TCIMDateTime>());
+ZENX_LISTS_ALL_BESIDE(ZenxEventDddData, NKVRHXA20::TCIMDateTime)
 
 ZENX_FIELDS(ZenxEventSoftData, Controller, LogTitle, RecordID)
-static_assert(ListsAllBeside<ZenxEventSoftData, std::vector<std::uint32_t>, NKVRHXA20::TCIMDateTime>());
+ZENX_LISTS_ALL_BESIDE(ZenxEventSoftData, std::vector<std::uint32_t>, NKVRHXA20::TCIMDateTime)
 
 ZENX_FIELDS(ZenxEventHardData, Controller, LogTitle, RecordID)
-static_assert(ListsAllBeside<ZenxEventHardData, std::vector<std::uint32_t>, NKVRHXA20::TCIMDateTime>());
+ZENX_LISTS_ALL_BESIDE(ZenxEventHardData, std::vector<std::uint32_t>, NKVRHXA20::TCIMDateTime)
 
 ZENX_FIELDS(ZenxBstData, ControllerNum, LogicalDrive, NumBadStripes)
-static_assert(ListsAllBeside<ZenxBstData>());
+ZENX_LISTS_ALL_BESIDE(ZenxBstData)
 
 ZENX_FIELDS(ZenxEventData, ControllerNum, Channel, ScsiId, NumParityErrors, NumSoftErrors, NumHardErrors, PFA, Misc)
-static_assert(ListsAllBeside<ZenxEventData, NKVRHXA20::TCIMDateTime>());
+ZENX_LISTS_ALL_BESIDE(ZenxEventData, NKVRHXA20::TCIMDateTime)
 
 ZENX_FIELDS(ZenxSubStatData, ControllerNum, Channel, ScsiId, InstanceID, Params, Req_Off, Max_Txer_P, Cur_Txer_p)
-static_assert(ListsAllBeside<ZenxSubStatData, NKVRHXA20::TCIMDateTime>());
+ZENX_LISTS_ALL_BESIDE(ZenxSubStatData, NKVRHXA20::TCIMDateTime)

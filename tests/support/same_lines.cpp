@@ -54,5 +54,5 @@ testing::AssertionResult SameText(const std::string& expected, const std::string
 testing::AssertionResult IsGolden(const std::string& name, const std::string& text) {
   const std::filesystem::path file = SourceFile("tests/golden") / name;
   if (std::getenv("ZENX_RENEW_GOLDEN") != nullptr) WriteFileText(file, text);
-  return SameText(FileText(file), text);
+  return SameText(FileText(file), text) << "\nZENX_RENEW_GOLDEN=1 renews tests/golden/" << name;
 }
