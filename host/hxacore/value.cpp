@@ -38,8 +38,8 @@ bool IsNumber(const TCIMValue& value) {
 }  // namespace
 
 TCIMValue::TCIMValue() = default;
-TCIMValue::TCIMValue(const std::string& text) : content_(std::make_shared<const std::string>(text)) {}
-TCIMValue::TCIMValue(const char* text) : content_(std::make_shared<const std::string>(text)) {}
+TCIMValue::TCIMValue(const std::string& text) : content_(std::string(text)) {}
+TCIMValue::TCIMValue(const char* text) : content_(std::string(text)) {}
 TCIMValue::TCIMValue(unsigned short number) : content_(std::uint16_t{number}) {}
 TCIMValue::TCIMValue(unsigned int number) : content_(std::uint32_t{number}) {}
 TCIMValue::TCIMValue(const TCIMDateTime& time) : content_(time) {}
@@ -47,9 +47,17 @@ TCIMValue::TCIMValue(const TCIMReference& reference) : content_(std::make_shared
 TCIMValue::TCIMValue(const TCIMType& elementType, unsigned int count, std::vector<TCIMValue> elements) {
   Set(elementType, count, std::move(elements));
 }
-TCIMValue::TCIMValue(const TCIMValue& other) = default;
+TCIMValue::TCIMValue(const TCIMValue& other) { *this = other; }
 TCIMValue::TCIMValue(TCIMValue&& other) noexcept = default;
-TCIMValue& TCIMValue::operator=(const TCIMValue& other) = default;
+// GCC's standard library destroys a variant wrongly whose copy throws: a text is copied first, and then moved.
+TCIMValue& TCIMValue::operator=(const TCIMValue& other) {
+  if (const auto* const text = std::get_if<std::string>(&other.content_)) {
+    content_ = std::string(*text);
+  } else {
+    content_ = other.content_;
+  }
+  return *this;
+}
 TCIMValue& TCIMValue::operator=(TCIMValue&& other) noexcept = default;
 TCIMValue::~TCIMValue() = default;
 
@@ -80,9 +88,7 @@ TCIMValue::operator unsigned short() const {
 
 ValueKind TCIMValueReader::Kind(const TCIMValue& value) { return static_cast<ValueKind>(value.content_.index()); }
 
-const std::string& TCIMValueReader::Text(const TCIMValue& value) {
-  return *std::get<std::shared_ptr<const std::string>>(value.content_);
-}
+const std::string& TCIMValueReader::Text(const TCIMValue& value) { return std::get<std::string>(value.content_); }
 
 std::uint32_t TCIMValueReader::Number(const TCIMValue& value) {
   if (const auto* const narrow = std::get_if<std::uint16_t>(&value.content_)) return *narrow;

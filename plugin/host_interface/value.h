@@ -72,10 +72,8 @@ class HXACORE_API TCIMValue {
   friend class TCIMValueReader;
 
   struct TArray;
-  // Copies of the alternatives do not throw: a variant whose copy throws is destroyed wrongly by GCC's standard
-  // library.
-  using TContent = std::variant<std::monostate, std::shared_ptr<const std::string>, std::uint16_t, std::uint32_t,
-                                TCIMDateTime, std::shared_ptr<const TCIMReference>, std::shared_ptr<const TArray>>;
+  using TContent = std::variant<std::monostate, std::string, std::uint16_t, std::uint32_t, TCIMDateTime,
+                                std::shared_ptr<const TCIMReference>, std::shared_ptr<const TArray>>;
   TContent content_;
 };
 
