@@ -27,7 +27,7 @@ target_compile_options(planted_library PRIVATE -Wall -Wextra -Wpedantic -Wconver
 target_link_options(planted_library PRIVATE -static-libgcc -static-libstdc++)
 set_target_properties(planted_library PROPERTIES PREFIX "" OUTPUT_NAME planted SUFFIX .library)
 
-# The code of the tests is compiled without optimisation, in half the time; what they test is compiled as it is shipped.
+# The code of the tests is compiled without optimisation, in half the time; the product as its preset says.
 set(test_options -O0)
 
 # What all three levels use, compiled once.
