@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/hxahost/machine/machine.h"
-#include "host/hxahost/proof/tool_texts.h"
+#include "host/hxahost/machine/tool_texts.h"
 
 // The lines of the tools' texts that describe each object.
 namespace hxahost {

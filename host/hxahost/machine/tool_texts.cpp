@@ -1,4 +1,4 @@
-#include "host/hxahost/proof/tool_texts.h"
+#include "host/hxahost/machine/tool_texts.h"
 
 #include <algorithm>
 #include <cstdlib>
