@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 #include "tests/support/filled_repository.h"
@@ -41,6 +42,21 @@ TEST(UniquePaths, SeeADifferenceOfOneElementOrOfAPropertyThatIsNotThere) {
   repository.Publish("KVRSG_zxRawData", "Command", "1", "RawResults", Texts({"ab"}));
   repository.Publish("KVRSG_zxRawData", "Command", "1");
   EXPECT_THAT(Added(repository), ElementsAre(Path::kNew, Path::kTaken, Path::kTaken, Path::kTaken));
+}
+
+TEST(UniquePaths, KnowEachOfManyPaths) {
+  UniquePaths paths;
+  const auto add = [&paths](int number, const char* name) {
+    FilledRepository repository;
+    repository.Publish("KVRSG_zxDiskGroup", "CollectionID", std::to_string(number), "Array", name);
+    return paths.Add(*repository.Instances().front());
+  };
+  constexpr int kPaths = 5000;
+  for (int number = 0; number < kPaths; ++number) ASSERT_EQ(add(number, "A"), Path::kNew) << number;
+  for (int number = 0; number < kPaths; ++number) {
+    ASSERT_EQ(add(number, "A"), Path::kEqual) << number;
+    ASSERT_EQ(add(number, "B"), Path::kTaken) << number;
+  }
 }
 
 // XML shows both as the symbol of the control character.

@@ -1,5 +1,7 @@
 #include "host/hxahost/result/unique_paths.h"
 
+#include <algorithm>
+
 #include <boost/uuid/name_generator_sha1.hpp>
 #include <boost/uuid/nil_generator.hpp>
 
@@ -15,6 +17,11 @@ namespace hxahost {
 namespace {
 
 using Digest = boost::uuids::uuid;
+
+// The newest paths are sorted in when there are more of them than so many and this share of the others: rarely enough
+// to cost little time.
+constexpr std::size_t kFewest = 1000;
+constexpr std::size_t kShare = 16;
 
 // A digest of everything before and a text.
 Digest With(const Digest& before, const std::string& text) { return boost::uuids::name_generator_sha1(before)(text); }
@@ -41,9 +48,24 @@ UniquePaths::Path UniquePaths::Add(const TPublishedInstance& instance) {
   // Paths that differ only in characters that a document cannot contain are the same path there.
   const Digest path = With(boost::uuids::nil_uuid(), LegalXmlText(ObjectPathText(instance.Reference())));
   const Digest properties = OfProperties(instance);
-  const auto [first, isNew] = first_.emplace(path, properties);
-  if (isNew) return Path::kNew;
-  return first->second == properties ? Path::kEqual : Path::kTaken;
+  const std::optional<Digest> first = Remember(path, properties);
+  if (!first) return Path::kNew;
+  return *first == properties ? Path::kEqual : Path::kTaken;
+}
+
+std::optional<Digest> UniquePaths::Remember(const Digest& path, const Digest& properties) {
+  const auto old = std::ranges::lower_bound(sorted_, path, {}, &Entry::first);
+  if (old != sorted_.end() && old->first == path) return old->second;
+  const auto [first, isNew] = newest_.emplace(path, properties);
+  if (!isNew) return first->second;
+  if (newest_.size() > kFewest + sorted_.size() / kShare) SortIn();
+  return std::nullopt;
+}
+
+void UniquePaths::SortIn() {
+  const auto added = sorted_.insert(sorted_.end(), newest_.begin(), newest_.end());
+  std::ranges::inplace_merge(sorted_, added);
+  newest_.clear();
 }
 
 std::string LeftOutText(const TPublishedInstance& instance) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <deque>
+#include <map>
+#include <optional>
 #include <string>
-#include <unordered_map>
+#include <utility>
 
-#include <boost/functional/hash.hpp>
 #include <boost/uuid/uuid.hpp>
 
 #include "host/hxahost/result/query_result.h"
@@ -26,8 +28,16 @@ class UniquePaths {
  private:
   using Digest = boost::uuids::uuid;
 
-  // The properties by the path, as digests, because the texts may take more memory than everything else.
-  std::unordered_map<Digest, Digest, boost::hash<Digest>> first_;
+  using Entry = std::pair<Digest, Digest>;
+
+  // The properties of an earlier instance with this path. If there is none, the path gets these.
+  std::optional<Digest> Remember(const Digest& path, const Digest& properties);
+  void SortIn();
+
+  // The properties by the path, as digests, because the texts may take more memory than everything else. There may be
+  // millions: most of them are in a sorted deque, which takes half the memory of a map.
+  std::deque<Entry> sorted_;
+  std::map<Digest, Digest> newest_;
 };
 
 // Says in one line that an instance is left out, and why.
