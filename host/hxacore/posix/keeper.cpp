@@ -120,7 +120,8 @@ void Keep(const KeptProgram& program) {
   TakeFiles(program.output, program.host);
   std::signal(SIGCHLD, [](int) {});  // blocked except in WaitForChange
   const pid_t keeper = getpid();
-  pid_t process = fork();
+  // The child uses this process's memory until its program replaces it: a copy takes long if the host is large.
+  pid_t process = vfork();
   if (process == 0) BecomeProgram(program, keeper);
   Report(process > 0 ? KeeperReport{KeeperReport::kStarted, process} : KeeperReport{KeeperReport::kNotStarted, errno});
   for (const int file : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) close(file);
