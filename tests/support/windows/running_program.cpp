@@ -13,6 +13,9 @@ HANDLE OpenForChild(const std::filesystem::path& file) {
                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
+// On a busy machine, a process of Wine sometimes ends before its program begins: that is an internal error there.
+constexpr int kMostTries = 3;
+
 // Tests pass no quotes and no backslash at the end of an argument.
 std::wstring CommandLine(const std::filesystem::path& program, const std::vector<std::string>& arguments) {
   std::wstring line = L"\"" + program.wstring() + L"\"";
@@ -67,12 +70,15 @@ std::intptr_t StartProcess(const std::filesystem::path& program, const std::vect
   PROCESS_INFORMATION process{};
   std::wstring line = CommandLine(program, arguments);
   const DWORD flags = console == Console::kOwn ? CREATE_NEW_CONSOLE : 0;
-  const BOOL isStarted =
-      CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, flags, nullptr, nullptr, &startup, &process);
-  const DWORD error = GetLastError();
+  DWORD error = ERROR_INTERNAL_ERROR;
+  for (int tries = 0; error == ERROR_INTERNAL_ERROR && tries < kMostTries; ++tries) {
+    const BOOL isStarted = CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, flags, nullptr, nullptr,
+                                          &startup, &process);
+    error = isStarted ? ERROR_SUCCESS : GetLastError();
+  }
   CloseHandle(startup.hStdOutput);
   CloseHandle(startup.hStdError);
-  if (!isStarted) {
+  if (error != ERROR_SUCCESS) {
     throw std::runtime_error("cannot start " + program.string() + ": error " + std::to_string(error));
   }
   CloseHandle(process.hThread);
