@@ -56,7 +56,8 @@ void Progress::Run() {
   while (!changed_.wait_for(lock, std::chrono::seconds(1), [this] { return isOver_; })) {
     if (what_.empty()) continue;
     const auto running = std::chrono::steady_clock::now() - since_;
-    Draw(fmt::format("{} {} s", what_, std::chrono::duration_cast<std::chrono::seconds>(running).count()));
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(running).count();
+    if (seconds > 0) Draw(fmt::format("{} {} s", what_, seconds));
   }
 }
 
