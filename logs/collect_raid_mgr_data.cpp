@@ -1,6 +1,8 @@
 #include "logs/collect_raid_mgr_data.h"
 
-#include <exception>
+#include <algorithm>
+#include <cstddef>
+#include <stdexcept>
 
 #include "collect/line_scanner.h"
 #include "logs/raid_mgr_event_time.h"
@@ -19,6 +21,9 @@ namespace {
 
 constexpr const char* kSubFolder = "KVR\\Zentraxis Manager\\";
 constexpr const char* kFileName = "RaidEvtA.log";
+
+// A log of a hundred megabytes has a million lines. Each takes some 70 bytes more than its text, also if it is empty.
+constexpr std::ptrdiff_t kMostLines = 10'000'000;
 
 }  // namespace
 
@@ -90,6 +95,7 @@ bool CollectRaidMgrData::OpenRaidMgrLog() {
 void CollectRaidMgrData::Capture(const std::string& nativePath) {
   try {
     const std::string text = TOSSpecific::CaptureFile(nativePath);
+    if (std::ranges::count(text, '\r') > kMostLines) throw std::runtime_error("it has more than 10,000,000 lines");
     if (!text.empty()) rawData_.push_back(std::make_shared<ZenxRawData>(path_, "", 0, "", text));
   } catch (const std::exception& failure) {
     Log(host_, kLogWarning,

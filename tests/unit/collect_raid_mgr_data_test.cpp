@@ -131,6 +131,20 @@ TEST(CollectRaidMgrData, ALogThatCannotBeCapturedIsLoggedAndStillRead) {
   EXPECT_EQ(collector.ReadNextRecord(), RaidMgrRead::kRecord);
 }
 
+TEST(CollectRaidMgrData, ALogOfTooManyLinesIsNoRawDataAndStillRead) {
+  ScriptedServices services;
+  const RaidLogMachine machine(services, kLine);
+  services.files.begin()->second = std::string(10'000'001, '\r');
+  RecordingLog log;
+  unsigned counter = 0;
+  CollectRaidMgrData collector(&log, counter);
+  EXPECT_TRUE(collector.GetRawData().empty());
+  EXPECT_EQ(log.entries.back(),
+            (LogEntry{2, machine.LogPath() + " is not among the raw data, as it could not be captured: " +
+                             "it has more than 10,000,000 lines"}));
+  EXPECT_EQ(collector.ReadNextRecord(), RaidMgrRead::kRecord);
+}
+
 TEST(CollectRaidMgrData, ReadsOneEventALine) {
   Collected found(std::string(kLine) + "2007/03/05 11:02:03 PST\tWRN\t\n");
   EXPECT_EQ(found.collector.ReadNextRecord(), RaidMgrRead::kRecord);

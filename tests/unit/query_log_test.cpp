@@ -38,6 +38,20 @@ TEST(QueryLog, GivesEachQueryTheEntriesSinceTheOneBefore) {
   EXPECT_NO_THROW(log.Finish());
 }
 
+// A RAID manager's log of other lines leads to an entry for each.
+TEST(QueryLog, KeepsAHundredEqualEntriesInARow) {
+  QueryLog log({});
+  for (int count = 0; count < 1000; ++count) log.Add(1, "again");
+  log.Add(2, "again");
+  log.Add(1, "again");
+  const auto entries = log.Take();
+  ASSERT_EQ(entries.size(), 102U);
+  EXPECT_EQ(entries[98].count, 1U);
+  EXPECT_EQ(entries[99].count, 901U);
+  EXPECT_EQ(entries[100].count, 1U);
+  EXPECT_EQ(entries[101].count, 1U);
+}
+
 TEST(QueryLog, RefusesAFileThatCannotBeWritten) {
   const TemporaryFolder folder;
   try {

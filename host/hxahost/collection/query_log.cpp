@@ -11,6 +11,13 @@
 
 namespace hxahost {
 
+namespace {
+
+// A RAID manager's log may lead to millions of equal entries, one for each invalid line.
+constexpr std::size_t kMostInARow = 100;
+
+}  // namespace
+
 QueryLog::QueryLog(const std::filesystem::path& file) : name_(Printable(Utf8FromPath(file))) {
   if (file.empty()) return;
   file_.open(file, std::ios::binary);
@@ -18,7 +25,13 @@ QueryLog::QueryLog(const std::filesystem::path& file) : name_(Printable(Utf8From
 }
 
 void QueryLog::Add(int level, const std::string& text) {
-  entries_.push_back({level, text});
+  const bool isEqual = !entries_.empty() && entries_.back().level == level && entries_.back().text == text;
+  inARow_ = isEqual ? inARow_ + 1 : 1;
+  if (inARow_ > kMostInARow) {
+    ++entries_.back().count;
+  } else {
+    entries_.push_back({level, text});
+  }
   if (file_.is_open()) file_ << level << '\t' << EscapeControls(text) << '\n' << std::flush;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -18,7 +19,7 @@ class QueryLog {
 
   void Add(int level, const std::string& text);
 
-  // The entries since the last call.
+  // The entries since the last call; the last of 100 equal ones in a row counts those after it.
   std::vector<LoggedEntry> Take();
 
   // Throws ProgramError if the file lacks entries.
@@ -28,6 +29,7 @@ class QueryLog {
   std::ofstream file_;
   std::string name_;
   std::vector<LoggedEntry> entries_;
+  std::size_t inARow_ = 0;  // equal entries at the end
 };
 
 }  // namespace hxahost

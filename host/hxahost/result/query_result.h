@@ -51,6 +51,7 @@ inline bool IsAskedFor(const QueryHeader& header, std::string_view className) {
 struct LoggedEntry {
   int level = 0;
   std::string text;
+  std::size_t count = 1;  // with equal entries that followed and were not kept
 };
 
 using InstanceList = std::vector<boost::shared_ptr<const NKVRHXA20::TPublishedInstance>>;

@@ -96,10 +96,12 @@ class InstanceText {
 };
 
 Json EntryJson(const LoggedEntry& entry) {
-  return {
+  Json json = {
       {"level", entry.level       },
       {"text",  AsUtf8(entry.text)}
   };
+  if (entry.count > 1) json["count"] = entry.count;
+  return json;
 }
 
 Json RunJson(const ToolRun& run) {
