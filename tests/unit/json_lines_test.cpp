@@ -113,6 +113,15 @@ TEST(JsonLinesReader, ReadsTheInstancesTheRunsAndTheLog) {
   EXPECT_EQ(result.log[0].text, "t");
 }
 
+// Functions that process a value call themselves for each level, and the stack is finite.
+TEST(JsonLinesReader, RecognisesNoLineThatIsNestedTooDeep) {
+  constexpr std::size_t kDeep = 200'000;
+  const std::string nested = std::string(kDeep, '[') + std::string(kDeep, ']');
+  const std::string line = R"({"machine":)" + nested + R"(,"time":"1","class":"a"})";
+  EXPECT_FALSE(IsInstanceLine(line));
+  EXPECT_EQ(Collections(line + "\n" + line + "\n").size(), 1U);
+}
+
 TEST(JsonLinesReader, RecognisesItsLines) {
   EXPECT_TRUE(IsInstanceLine(Line("A", "1", "p")));
   EXPECT_FALSE(IsInstanceLine("{"));

@@ -15,7 +15,14 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json Parsed(std::string_view line) { return Json::parse(line, nullptr, false); }
+// Null for an invalid line.
+Json Parsed(std::string_view line) {
+  try {
+    return ParseWithinBounds(line);
+  } catch (const NoResult&) {
+    return nullptr;
+  }
+}
 
 // The beginning of a line as the program writes it: it identifies the lines of a collection without parsing each line.
 // "" if the line is incomplete.

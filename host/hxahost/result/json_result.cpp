@@ -1,13 +1,15 @@
 #include "host/hxahost/result/json_result.h"
 
-#include <array>
+#include <cstdint>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include <fmt/core.h>
 
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/input_file.h"
+#include "host/hxahost/system/machine_name.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 #include "platform/ordinary_file.h"
@@ -20,7 +22,7 @@ using Json = nlohmann::ordered_json;
 
 // A result is nested seven deep. Functions that process a value call themselves for each level, and the stack is
 // finite.
-constexpr int kDeepest = 32;
+constexpr std::size_t kDeepest = 32;
 
 const Json& Member(const Json& object, const char* name) {
   if (!object.is_object()) throw NoResult("an object is missing");
@@ -38,27 +40,40 @@ const Json& Member(const Json& object, const char* name, Json::value_t type) {
 // An object compares a new key with all before it. No class has nearly as many properties.
 constexpr std::size_t kMostKeys = 1000;
 
-// Checks a text while it is parsed.
-class Bounds {
+// Checks a text before its values are made.
+class Bounds : public nlohmann::json_sax<Json> {
  public:
-  bool operator()(int depth, Json::parse_event_t event, const Json&) {
-    if (depth > kDeepest) throw NoResult("it is nested too deep");
-    std::size_t& keys = keys_.at(static_cast<std::size_t>(depth));
-    if (event == Json::parse_event_t::object_start) keys_.at(static_cast<std::size_t>(depth) + 1) = 0;
-    if (event == Json::parse_event_t::key && ++keys > kMostKeys) throw NoResult("an object has more than 1000 keys");
+  bool null() override { return true; }
+  bool boolean(bool) override { return true; }
+  bool number_integer(std::int64_t) override { return true; }
+  bool number_unsigned(std::uint64_t) override { return true; }
+  bool number_float(double, const std::string&) override { return true; }
+  bool string(std::string&) override { return true; }
+  bool binary(Json::binary_t&) override { return true; }
+  bool start_object(std::size_t) override { return Open(); }
+  bool end_object() override { return Close(); }
+  bool start_array(std::size_t) override { return Open(); }
+  bool end_array() override { return Close(); }
+  bool key(std::string&) override {
+    if (++keys_.back() > kMostKeys) throw NoResult("an object has more than 1000 keys");
+    return true;
+  }
+  bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception&) override { return false; }
+
+ private:
+  bool Open() {
+    if (keys_.size() == kDeepest) throw NoResult("it is nested too deep");
+    keys_.push_back(0);
     return true;
   }
 
- private:
-  std::array<std::size_t, kDeepest + 2> keys_{};  // of the objects that are open, by depth
-};
+  bool Close() {
+    keys_.pop_back();
+    return true;
+  }
 
-Json ParseWithinBounds(std::string_view text) {
-  if (text.find('\0') != text.npos) throw NoResult("it contains a NUL");  // where the parser would end
-  Json json = Json::parse(text, Bounds(), false);
-  if (json.is_discarded()) throw NoResult("it is damaged, or no JSON at all");
-  return json;
-}
+  std::vector<std::size_t> keys_;  // of the objects and lists that are open
+};
 
 ResultInstance ReadInstance(const Json& json) {
   return {Member(json, "class", Json::value_t::string), Member(json, "path", Json::value_t::string),
@@ -94,11 +109,11 @@ bool AddItems(Items& items, const Json& query, const char* name, Read read) {
   return true;
 }
 
-// Some formats repeat the name on each line: a long one multiplies the size of the output.
 std::string ReadMachineName(const Json& json) {
-  constexpr std::size_t kLongest = 1000;
   std::string name = Member(json, "machine", Json::value_t::string);
-  if (name.size() > kLongest) throw NoResult(fmt::format("the machine's name has more than {} bytes", kLongest));
+  if (name.size() > kLongestMachineName) {
+    throw NoResult(fmt::format("the machine's name has more than {} bytes", kLongestMachineName));
+  }
   return name;
 }
 
@@ -130,6 +145,14 @@ JsonResult ReadWholeResult(const Json& json) {
 }
 
 }  // namespace
+
+// Twice, as the parser that calls back while it makes values looks through a whole list for each object in it.
+Json ParseWithinBounds(std::string_view text) {
+  if (text.find('\0') != text.npos) throw NoResult("it contains a NUL");  // where the parser would end
+  Bounds bounds;
+  if (!Json::sax_parse(text, &bounds)) throw NoResult("it is damaged, or no JSON at all");
+  return Json::parse(text);
+}
 
 JsonResult ReadJsonResult(const std::filesystem::path& file) {
   return ParseJsonResult(ReadInputFile(file, "a file", kLargestInput), Utf8FromPath(file));

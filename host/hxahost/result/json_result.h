@@ -46,6 +46,10 @@ class NoResult : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// Parses JSON of unknown origin. Throws NoResult if it is damaged, or so deep or large that processing it would be a
+// risk.
+nlohmann::ordered_json ParseWithinBounds(std::string_view text);
+
 // Adds one line of "hxahost query --format jsonl". Throws NoResult for an invalid line.
 void AddJsonLine(JsonResult& result, std::string_view line);
 
