@@ -117,6 +117,19 @@ TEST(Health, RaisesNoFalseAlarm) {
   }
 }
 
+TEST(Health, OfADeviceOfUnknownTypeIsUnknownWithoutItsState) {
+  for (const char* const type : {"Solid State Disk", ""}) {
+    HealthyMachine machine;
+    machine.SetOf("C2 CH0 I00:Controller: Device #4", "DeviceType", type);
+    const Findings findings = BuildMachine(machine.Header(), machine.Result()).findings;
+    ASSERT_EQ(findings.size(), 1U) << type;
+    EXPECT_EQ(findings.front().severity, Severity::kUnknown);
+    EXPECT_EQ(findings.front().property, "State");
+    machine.SetOf("C2 CH0 I00:Controller: Device #4", "State", "Online");
+    EXPECT_THAT(FindingsOf(machine), IsEmpty()) << type;
+  }
+}
+
 TEST(Health, FindsAControllerThatItsDrivesNameButThatIsNotThere) {
   HealthyMachine machine;
   std::erase_if(machine.devices, [](const HealthyMachine::Device& device) {

@@ -1,6 +1,7 @@
 #include "host/hxahost/machine/cause.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <numeric>
 #include <optional>
@@ -21,6 +22,9 @@ namespace hxahost {
 namespace {
 
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+// Findings about a controller that have no cause in common with its others.
+constexpr Effect kKinds[] = {Effect::kHeat, Effect::kBattery, Effect::kUnread};
 
 // What a finding is about: a logical drive or device of a controller, or the controller as a whole.
 struct Subject {
@@ -228,7 +232,7 @@ class Sorting {
     if (subject.drive != kNone || subject.device != kNone) {
       return {subject.controller, joints_[subject.controller].Head(subject), ""};
     }
-    const bool isKind = finding.meaning.effect == Effect::kHeat || finding.meaning.effect == Effect::kBattery;
+    const bool isKind = std::ranges::find(kKinds, finding.meaning.effect) != std::end(kKinds);
     return {subject.controller, kNone, isKind ? std::to_string(static_cast<int>(finding.meaning.effect)) : ""};
   }
 

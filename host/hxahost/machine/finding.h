@@ -47,6 +47,7 @@ enum class Effect {
   kErrors,     // counted on a disk
   kCounted,    // by a controller: the failure of an object that reports it itself
   kController,
+  kUnread,  // an object, or some objects of a controller
   kHeat,
   kBattery,
 };

@@ -12,6 +12,7 @@
 #include "host/hxahost/machine/error_findings.h"
 #include "host/hxahost/machine/silent_controllers.h"
 #include "host/hxahost/machine/tool_findings.h"
+#include "host/hxahost/machine/unread_objects.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/schema/class_names.h"
 
@@ -117,6 +118,14 @@ std::set<std::size_t> FailedSpares(const Machine& machine) {
   return places;
 }
 
+// "Hard disk" of one utility is "Hard drive" of the others.
+constexpr std::string_view kHardDisk = "Hard d";
+
+bool IsKnownType(std::string_view type) {
+  constexpr std::string_view kTypes[] = {kHardDisk, "Tape", "Enclosure", "Processor", "Unknown"};
+  return std::ranges::any_of(kTypes, [type](std::string_view each) { return type.find(each) != type.npos; });
+}
+
 class Examination {
  public:
   Examination(Machine& machine, const InstanceList& instances)
@@ -170,8 +179,8 @@ class Examination {
   bool Holds(Where where, std::size_t place) const {
     switch (where) {
       case Where::kAnywhere: return true;
-      // "Hard disk" of one utility is "Hard drive" of the others.
-      case Where::kOnHardDisk: return RawText(*instances_[place], "DeviceType").find("Hard d") != std::string::npos;
+      case Where::kOnHardDisk: return RawText(*instances_[place], "DeviceType").find(kHardDisk) != std::string::npos;
+      case Where::kOnUnknownType: return !IsKnownType(RawText(*instances_[place], "DeviceType"));
       case Where::kWithChannelLine: return !RawText(*instances_[place], "ChannelDescription").empty();
       case Where::kOnUnguardedArray: return unguarded_.contains(place);
       case Where::kOnFailedSpares: return failedSpares_.contains(place);
@@ -200,6 +209,7 @@ void Judge(Machine& machine, const QueryHeader& header, const QueryResult& resul
   Findings& findings = machine.findings;
   machine.absentTools = OptionalTools(header.expectations, result.runs);
   if (IsAskedFor(header, kControllerClass)) findings = ControllerFindings(machine, result);
+  std::ranges::move(UnreadObjects(machine, header, result.instances), std::back_inserter(findings));
   Examination examination(machine, result.instances);
   for (const WatchedValue* const value : WatchedValues()) examination.Examine(*value, findings);
   Findings aboutTools = ToolFindings(machine, header, result);

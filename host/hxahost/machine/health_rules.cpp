@@ -20,6 +20,7 @@ constexpr auto kCritical = Level::kCritical;
 
 constexpr auto kAnywhere = Where::kAnywhere;
 constexpr auto kOnHardDisk = Where::kOnHardDisk;
+constexpr auto kOnUnknownType = Where::kOnUnknownType;
 constexpr auto kWithChannelLine = Where::kWithChannelLine;
 constexpr auto kOnUnguardedArray = Where::kOnUnguardedArray;
 constexpr auto kOnFailedSpares = Where::kOnFailedSpares;
@@ -80,6 +81,8 @@ constexpr Meaning kVeryHot = {"the controller is too hot", "check the cooling no
 constexpr Meaning kBatteryHot = {"the battery is too hot", "check the cooling", Effect::kBattery};
 constexpr Meaning kWeakBattery = {"cached data is lost when the power fails", "replace the battery", Effect::kBattery};
 constexpr Meaning kNoState = {"the utility printed no state"};
+constexpr Meaning kUnknownType = {"its type is not known, so its state was not read", "run the utility by hand",
+                                  Effect::kUnread};
 constexpr Meaning kNoCount = {"the utility printed no count"};
 constexpr Meaning kReportedNone = {"it reported no controllers", "run the utility by hand"};
 constexpr Meaning kMaybeWrong = {"its report may be incomplete", "run the utility by hand"};
@@ -94,6 +97,8 @@ constexpr Meaning kNotRun = {"its controllers are not shown",
                              "put the utility into the folder zenx and make sure that it may be run"};
 constexpr Meaning kTooFew = {"fewer controllers were published than answered",
                              "list the answers with hxahost query --runs"};
+constexpr Meaning kUnread = {"what was not read may have failed",
+                             "run the utility by hand and send a bundle; see hxahost query --unread", Effect::kUnread};
 constexpr Meaning kNothingKnown = {"nothing is known about this machine", "check the folder zenx"};
 constexpr Meaning kCollectionEnded = {"the rest of the collection is missing", "see the log with hxahost query"};
 constexpr Meaning kLegacyEnded = {"this controller and those after it are not shown", "run qcmdrun by hand"};
@@ -178,6 +183,7 @@ constexpr HealthRule kRules[] = {
     {&kDiskState,        "failed hot spare",        "",    kNewer,   kWarning,  kSpareFailed,       kAnywhere        },
     {&kDiskState,        "unconfigured bad",        "",    kAll,     kWarning,  kUnusedDiskBad,     kAnywhere        },
     {&kDiskState,        "",                        "",    kAll,     kUnknown,  kNoState,           kOnHardDisk      },
+    {&kDiskState,        "",                        "",    kAll,     kUnknown,  kUnknownType,       kOnUnknownType   },
 
     {&kPfa,              "no",                      "",    kAll,     kFine,     kNothing,           kAnywhere        },
     {&kPfa,              "0",                       "",    kAll,     kFine,     kNothing,           kAnywhere        },
@@ -243,6 +249,8 @@ constexpr HealthRule kRules[] = {
     {&kAnswers,          "not recorded",            "",    kAll,     kUnknown,  kReplayEnded,       kAnywhere        },
     {&kAnswers,          "no tool is installed",    "",    kAll,     kUnknown,  kNothingKnown,      kAnywhere        },
     {&kAnswers,          "no tool was run",         "",    kAll,     kUnknown,  kNothingKnown,      kAnywhere        },
+
+    {&kListed,           "not published",           "",    kAll,     kUnknown,  kUnread,            kAnywhere        },
 
     {&kBaselinePresence, "missing",                 "",    kAll,     kCritical, kGone,              kAnywhere        },
     {&kBaselinePresence, "not known",               "",    kAll,     kUnknown,  kNotSeen,           kAnywhere        },

@@ -35,6 +35,8 @@ inline constexpr WatchedValue kPresence = {kLeftOut, "ControllerNum", WholeText}
 inline constexpr WatchedValue kOutcome = {kToolRun, "outcome", WholeText};
 // The number of controllers that answered, compared with the number published.
 inline constexpr WatchedValue kAnswers = {kToolRun, "controllers", WholeText};
+// The number of logical drives and devices that a controller's answer lists, compared with the number published.
+inline constexpr WatchedValue kListed = {kToolRun, "objects", WholeText};
 // The state of an object that was there at the baseline.
 inline constexpr WatchedValue kBaselinePresence = {kBaseline, "presence", WholeText};
 // The number of objects, compared with the number expected.
@@ -46,6 +48,7 @@ inline constexpr WatchedValue kLogText = {kLog, "text", LogHead};
 enum class Where {
   kAnywhere,
   kOnHardDisk,        // not on tapes, enclosures, processors: some of them have no state
+  kOnUnknownType,     // on devices of a type that the plug-in does not know: it reads no state of most of them
   kWithChannelLine,   // on controllers of utilities that print a status with the description of the channel
   kOnUnguardedArray,  // on disks of a logical drive that is itself a finding
   kOnFailedSpares,    // on controllers without any other failure

@@ -58,9 +58,10 @@ struct Headline {
 };
 
 constexpr Headline kHeadlines[] = {
-    {Effect::kHeat,       "is too hot: {}"},
-    {Effect::kBattery,    "battery: {}"   },
-    {Effect::kController, "has failed"    },
+    {Effect::kHeat,       "is too hot: {}"      },
+    {Effect::kBattery,    "battery: {}"         },
+    {Effect::kController, "has failed"          },
+    {Effect::kUnread,     "was read in part: {}"},
 };
 
 // The battery is the only part of a controller that is replaced separately.
@@ -102,6 +103,7 @@ struct Part {
 constexpr Part kParts[] = {
     {Effect::kHeat,    " temperature"},
     {Effect::kBattery, " battery"    },
+    {Effect::kUnread,  " unread"     },
 };
 
 // The identifier of the first logical drive or device, else of the object that reports it. Values and severities are

@@ -181,6 +181,7 @@ constexpr DiskHeadline kDiskHeadlines[] = {
     {Effect::kErrors,      "NumParityErrors", "reports parity errors: {}"        },
     {Effect::kErrors,      "Cur_Txer_p",      "transfers slower than it can"     },
     {Effect::kRebuilding,  "",                "is being rebuilt"                 },
+    {Effect::kUnread,      "",                "is of a type that is not known"   },
     {Effect::kOther,       "",                "has a state that is not known: {}"},
 };
 

@@ -100,7 +100,7 @@ class BlockFinder {
   std::optional<std::size_t> heading_;
 };
 
-// "zenx//arcconf.exe getconfig 1 al"; empty if another program ran.
+// "zenx//arcconf.exe getconfig 1 al", without the lines; empty if another program ran.
 std::optional<ToolText> ReadText(std::size_t place, const TPublishedInstance& instance) {
   const std::string command = RawText(instance, "Command");
   const std::vector<std::string_view> words = Split(command, " ");
@@ -113,8 +113,11 @@ std::optional<ToolText> ReadText(std::size_t place, const TPublishedInstance& in
   text.command = words[1];
   text.controller = words[2];
   text.option = words[3];
-  text.lines = RawElements(instance, "RawResults");
   return text;
+}
+
+void ReadLines(ToolText& text, const InstanceList& instances) {
+  text.lines = RawElements(*instances[text.instance], "RawResults");
 }
 
 bool DescribesController(const ToolText& text) {
@@ -141,18 +144,27 @@ void NumberOn(std::vector<ToolText>& texts) {
 std::vector<ToolText> ReadToolTexts(const InstanceList& instances) {
   std::vector<ToolText> texts;
   for (std::size_t place = 0; place < instances.size(); ++place) {
-    if (instances[place]->Class().name == kManagerRawDataClass) {
-      texts.emplace_back();
-      texts.back().instance = place;
-      texts.back().lines = RawElements(*instances[place], "RawResults");
-    }
+    if (instances[place]->Class().name == kManagerRawDataClass) texts.emplace_back().instance = place;
     if (instances[place]->Class().name != kRawDataClass) continue;
     if (auto text = ReadText(place, *instances[place])) texts.push_back(*std::move(text));
   }
+  for (ToolText& text : texts) ReadLines(text, instances);
   NumberOn(texts);
   for (ToolText& text : texts) {
     if (Answers(text, kGetConfig)) BlockFinder(text).Find();
   }
+  return texts;
+}
+
+std::vector<ToolText> ReadConfigurations(const InstanceList& instances) {
+  std::vector<ToolText> texts;
+  for (std::size_t place = 0; place < instances.size(); ++place) {
+    if (instances[place]->Class().name != kRawDataClass) continue;
+    auto text = ReadText(place, *instances[place]);
+    if (text && Answers(*text, kGetConfig)) texts.push_back(*std::move(text));
+  }
+  for (ToolText& text : texts) ReadLines(text, instances);
+  NumberOn(texts);
   return texts;
 }
 

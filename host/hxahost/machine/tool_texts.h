@@ -39,6 +39,9 @@ struct ToolText {
 // In the order of publication.
 std::vector<ToolText> ReadToolTexts(const InstanceList& instances);
 
+// The answers to getconfig alone, not divided: the logs, which may be long, are not copied.
+std::vector<ToolText> ReadConfigurations(const InstanceList& instances);
+
 // Whether the text answers the command.
 bool Answers(const ToolText& text, const ToolCommand& command);
 

@@ -1,5 +1,6 @@
 #include <set>
 #include <string>
+#include <vector>
 
 #include <fmt/core.h>
 
@@ -46,6 +47,7 @@ std::string_view WhereOf(Where where) {
   switch (where) {
     case Where::kAnywhere: return "";
     case Where::kOnHardDisk: return " of a hard disk";
+    case Where::kOnUnknownType: return " of a device of unknown type";
     case Where::kWithChannelLine: return " beside a description of the channel";
     case Where::kOnFailedSpares: return " where hot spares alone have failed";
     case Where::kOnUnguardedArray: return " in a logical drive that is not guarded";
@@ -54,6 +56,10 @@ std::string_view WhereOf(Where where) {
     case Where::kOnState: break;
   }
   return " to any command but getlogs";
+}
+
+void WriteLines(std::ostream& out, const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) out << line << '\n';
 }
 
 void WriteFindings(std::ostream& out, const Machine& machine, const Incident& incident, const Layout& layout) {
@@ -74,16 +80,19 @@ void WriteHealthText(std::ostream& out, const HealthReport& report) {
   const Machine& machine = report.machine;
   const Layout& layout = report.header.layout;
   const Severity worst = WorstOf(machine.findings);
+  // One line however long: monitoring programs show the first one.
   out << Painted(Upper(SeverityWord(worst)), LevelOf(worst), layout) << ": " << Summary(report) << '\n';
-  if (report.header.isReplayed) out << SourceNote(report.header) << '\n';
+  if (report.header.isReplayed) WriteLines(out, WrapWords(SourceNote(report.header), layout.width));
   for (const Incident& incident : machine.incidents) {
     out << '\n';
-    for (const std::string& line : IncidentLines(incident, layout)) out << line << '\n';
+    WriteLines(out, IncidentLines(incident, layout));
     if (report.isVerbose) WriteFindings(out, machine, incident, layout);
   }
   const std::size_t count = machine.findings.size();
   if (report.isVerbose || count == 0) return;
-  out << fmt::format("\n{} finding{} in all: hxahost health --verbose\n", count, count == 1 ? "" : "s");
+  out << '\n';
+  WriteLines(out, WrapWords(fmt::format("{} finding{} in all: hxahost health --verbose", count, count == 1 ? "" : "s"),
+                            layout.width));
 }
 
 void WriteHealthRules(std::ostream& out) {
