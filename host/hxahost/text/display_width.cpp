@@ -34,18 +34,22 @@ std::size_t DisplayWidth(std::string_view utf8) {
   return width;
 }
 
-std::string CutToWidth(std::string_view utf8, std::size_t columns) {
-  if (DisplayWidth(utf8) <= columns) return std::string(utf8);
-  if (columns == 0) return {};
+std::size_t LengthOfWidth(std::string_view utf8, std::size_t columns) {
   std::size_t length = 0;
-  std::size_t width = 1;  // the ellipsis
-  while (true) {
+  std::size_t width = 0;
+  while (length < utf8.size()) {
     const Character character = NextCharacter(utf8.substr(length));
     width += Columns(character.code);
     if (width > columns) break;
     length += character.length;
   }
-  return std::string(utf8.substr(0, length)) + "\u2026";
+  return length;
+}
+
+std::string CutToWidth(std::string_view utf8, std::size_t columns) {
+  if (DisplayWidth(utf8) <= columns) return std::string(utf8);
+  if (columns == 0) return {};
+  return std::string(utf8.substr(0, LengthOfWidth(utf8, columns - 1))) + "\u2026";
 }
 
 }  // namespace hxahost

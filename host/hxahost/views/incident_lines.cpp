@@ -30,13 +30,17 @@ std::string Tally(const Incidents& incidents) {
   return fmt::format("{}", fmt::join(counts, ", "));
 }
 
+std::vector<std::string> WrappedBehind(const std::string& head, std::string_view text, const Layout& layout) {
+  std::vector<std::string> lines = WrapWords(text, layout.width - kIncidentIndent);
+  for (std::string& line : lines) line.insert(0, &line == &lines.front() ? head : std::string(kIncidentIndent, ' '));
+  return lines;
+}
+
 std::vector<std::string> IncidentLines(const Incident& incident, const Layout& layout) {
-  const std::size_t width = layout.width - kIncidentIndent;
-  std::vector<std::string> lines = {SeverityHead(IncidentWord(incident), incident.severity, layout) +
-                                    CutToWidth(incident.headline, width)};
-  for (const std::string& line : WrapWords(incident.action, width)) {
-    lines.push_back(std::string(kIncidentIndent, ' ') + line);
-  }
+  const std::string indent(kIncidentIndent, ' ');
+  std::vector<std::string> lines = WrappedBehind(indent, incident.action, layout);
+  lines.insert(lines.begin(), SeverityHead(IncidentWord(incident), incident.severity, layout) +
+                                  CutToWidth(incident.headline, layout.width - kIncidentIndent));
   return lines;
 }
 

@@ -23,6 +23,9 @@ std::string SeverityHead(std::string_view word, Severity severity, const Layout&
 // "4 critical, 1 warning"; "" if nothing is wrong.
 std::string Tally(const Incidents& incidents);
 
+// The text behind the head, which is as wide as the indent; further lines are indented.
+std::vector<std::string> WrappedBehind(const std::string& head, std::string_view text, const Layout& layout);
+
 // The headline after its severity, and below it, indented, the action.
 std::vector<std::string> IncidentLines(const Incident& incident, const Layout& layout);
 

@@ -29,16 +29,18 @@ constexpr std::size_t kScreen = 24;
 constexpr std::size_t kFewest = 2;  // lines of an incident: its headline and its action
 
 // "CRITICAL SAMPLE at 2026-11-21 09:30:00 +01:00: 4 critical, 1 warning"
-std::string Verdict(const HealthReport& report) {
+Lines Verdict(const HealthReport& report) {
   const Machine& machine = report.machine;
   const Severity worst = WorstOf(machine.findings);
   const std::string tally = Tally(machine.incidents);
   const bool isNothing = worst == Severity::kFine && machine.controllers.empty();
-  return fmt::format("{}{} at {}: {}", SeverityHead(Upper(SeverityWord(worst)), worst, report.header.layout),
-                     Printable(report.header.machine), ReadableTime(report.header.time.ToString()),
-                     isNothing       ? "no controller found"
-                     : tally.empty() ? "no fault found"
-                                     : tally);
+  const std::string text =
+      fmt::format("{} at {}: {}", Printable(report.header.machine), ReadableTime(report.header.time.ToString()),
+                  isNothing       ? "no controller found"
+                  : tally.empty() ? "no fault found"
+                                  : tally);
+  const Layout& layout = report.header.layout;
+  return WrappedBehind(SeverityHead(Upper(SeverityWord(worst)), worst, layout), text, layout);
 }
 
 // How many lines of each incident are shown: all if they fit; otherwise its headline and the first line of its action,
@@ -160,10 +162,12 @@ void WriteStatusText(std::ostream& out, const HealthReport& report) {
     end = WrapWords(fmt::format("{}: {}", SourceOf(report.header), answers), layout.width);
   }
   const bool isFine = machine.incidents.empty();
-  if (!isFine) end.push_back(Hint(machine));
+  if (!isFine) std::ranges::move(WrapWords(Hint(machine), layout.width), std::back_inserter(end));
+  const Lines verdict = Verdict(report);
   const std::size_t blank = isFine ? 0 : 2;
-  const std::size_t fixed = 1 + blank + (controllers.rows.empty() ? 0 : controllers.rows.size() + 1) + end.size();
-  out << Verdict(report) << '\n';
+  const std::size_t fixed =
+      verdict.size() + blank + (controllers.rows.empty() ? 0 : controllers.rows.size() + 1) + end.size();
+  Write(out, verdict);
   if (!isFine) out << '\n';
   Write(out, AllIncidents(report, kScreen - std::min(fixed, kScreen - kFewest)));
   if (!isFine) out << '\n';
