@@ -6,6 +6,8 @@
 #include <limits>
 #include <string>
 
+#include "host/hxahost/text/escaping.h"
+
 namespace {
 
 using namespace hxahost;
@@ -28,6 +30,21 @@ TEST(BundleEncoding, IsReadable) {
   EXPECT_EQ(EscapeBytes("K\xc3\xa4se \xe4"), "K\xc3\xa4se \\xe4");
   EXPECT_EQ(EscapeBytes("\xe2\x80\xae"), "\\xe2\\x80\\xae");  // changes the direction of the text after it
   EXPECT_EQ(Quote("a\"b"), "\"a\\\"b\"");
+}
+
+TEST(BundleEncoding, EscapesInvisibleCharactersAndReadsThemUnescapedAsOlderProgramsWroteThem) {
+  std::string marks = "e";
+  for (int mark = 0; mark < 200; ++mark) marks += "\u0301";
+  for (const std::string text :
+       {"\U000e0100", "\u034f", "\u115f", "\u1160", "\u3164", "\uffa0", "\u2800", "\U0001d173", marks.c_str()}) {
+    const std::string escaped = EscapeBytes(text);
+    EXPECT_EQ(EscapeControls(escaped), escaped);
+    EXPECT_NE(escaped, text);
+    EXPECT_EQ(UnescapeBytes(escaped), text);
+    EXPECT_EQ(UnescapeBytes(text), text);
+    EXPECT_EQ(Unquote('"' + text + '"'), text);
+  }
+  EXPECT_EQ(EscapeBytes("e\u0301\u0301\u0301\u0301\u0301\u0301"), "e\u0301\u0301\u0301\u0301\\xcc\\x81\\xcc\\x81");
 }
 
 TEST(BundleEncoding, RefusesTextsThatItDoesNotWrite) {

@@ -62,6 +62,18 @@ TEST(ReadBundle, ReturnsEverythingThatWasWritten) {
   EXPECT_EQ(bundle.raidLog->bytes, SampleBundle().raidLog->bytes);
 }
 
+TEST(ReadBundle, RefusesSecondsThatNoRunTakesAndEndlessNames) {
+  const std::string good = WriteBundle(SampleBundle());
+  for (const std::string seconds : {"-4.9", "-0", "1e308", "inf", "nan"}) {
+    EXPECT_THAT(Refusal(Closed(Changed(good, "seconds: 0.125", "seconds: " + seconds))), HasSubstr("\"seconds\""));
+    EXPECT_THAT(Refusal(Closed(Changed(good, "query-seconds: 1.25", "query-seconds: " + seconds))),
+                HasSubstr("\"query-seconds\""));
+  }
+  EXPECT_EQ(Refusal(Closed(Changed(good, "DBSERVER", std::string(1000, 'x')))), "");
+  EXPECT_EQ(Refusal(Closed(Changed(good, "DBSERVER", std::string(1001, 'x')))),
+            "is damaged: line 4 has a name of more than 1000 bytes");
+}
+
 TEST(ReadBundle, BringsBackOutputsOfAllBytes) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);

@@ -4,11 +4,13 @@
 #include <array>
 #include <charconv>
 #include <iterator>
+#include <utility>
 
 #include <fmt/core.h>
 #include <boost/crc.hpp>
 
 #include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 
@@ -34,15 +36,22 @@ std::string EscapedByte(char byte) {
   return fmt::format("\\x{:02x}", static_cast<unsigned char>(byte));
 }
 
-std::string EscapeAll(std::string_view bytes, bool isQuoted) {
+// Bundles of older programs contain some invisible characters, and long runs of marks, unescaped.
+enum class Writer { kThisProgram, kOlderProgram };
+
+std::string EscapeAll(std::string_view bytes, bool isQuoted, Writer writer = Writer::kThisProgram) {
   std::string text;
-  while (!bytes.empty()) {
-    const bool isMark = bytes.front() == '\\' || (isQuoted && bytes.front() == '"');
-    const std::size_t length = isMark ? 0 : PrintableLength(bytes);
-    if (length == 0) text += EscapedByte(bytes.front());
-    text += bytes.substr(0, length);
-    bytes.remove_prefix(std::max<std::size_t>(length, 1));
-  }
+  UnsafeCharacters unsafe;
+  ForEachCharacter(bytes, [&](char32_t code, std::string_view character) {
+    const bool isUnsafe = unsafe.Has(code);
+    const bool isMark = code == '\\' || (isQuoted && code == '"');
+    const bool isKept = writer == Writer::kThisProgram ? !isUnsafe : PrintableLength(character) > 0;
+    if (isKept && !isMark) {
+      text += character;
+    } else {
+      for (const char byte : character) text += EscapedByte(byte);
+    }
+  });
   return text;
 }
 
@@ -63,7 +72,8 @@ std::optional<char> TakeEscape(std::string_view& text) {
   return static_cast<char>(byte);
 }
 
-// The bytes of a text, if EscapeBytes writes them as this text: a bundle is written again exactly as it was read.
+// The bytes of a text, if a program writes them as this text: a bundle of this program is written again exactly as it
+// was read.
 std::optional<std::string> UnescapeAll(std::string_view text, bool isQuoted) {
   std::string bytes;
   std::string_view rest = text;
@@ -80,8 +90,9 @@ std::optional<std::string> UnescapeAll(std::string_view text, bool isQuoted) {
     if (!byte) return std::nullopt;
     bytes += *byte;
   }
-  if (EscapeAll(bytes, isQuoted) != text) return std::nullopt;
-  return bytes;
+  const bool isWritten =
+      EscapeAll(bytes, isQuoted) == text || EscapeAll(bytes, isQuoted, Writer::kOlderProgram) == text;
+  return isWritten ? std::optional<std::string>(std::move(bytes)) : std::nullopt;
 }
 
 }  // namespace

@@ -8,10 +8,10 @@
 // Converts bytes to lines of readable text, and back to the same bytes.
 namespace hxahost {
 
-// Printable UTF-8 unchanged; \\ for a backslash, \r, \t and \n, and \xHH for each other byte.
+// UTF-8 that is safe to show unchanged; \\ for a backslash, \r, \t and \n, and \xHH for each other byte.
 std::string EscapeBytes(std::string_view bytes);
 
-// Returns nothing if EscapeBytes cannot have written the text.
+// Returns nothing if neither EscapeBytes nor that of an older program can have written the text.
 std::optional<std::string> UnescapeBytes(std::string_view text);
 
 // The same between quotation marks, which are \" inside.

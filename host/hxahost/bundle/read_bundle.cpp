@@ -9,6 +9,7 @@
 
 #include "host/hxahost/bundle/bundle_encoding.h"
 #include "host/hxahost/bundle/bundle_format.h"
+#include "host/hxahost/system/machine_name.h"
 
 using namespace NKVRHXA20;
 
@@ -36,10 +37,11 @@ std::optional<Number> ReadWhole(std::string_view text) {
 }
 
 std::optional<double> ReadSeconds(std::string_view text) {
+  constexpr double kMost = 1e9;  // 30 years
   double seconds = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-  if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(seconds)) return std::nullopt;
-  return seconds;
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return !std::signbit(seconds) && seconds <= kMost ? std::optional<double>(seconds) : std::nullopt;
 }
 
 // Reads the lines of a bundle, one after the other. Every line ends in a line feed.
@@ -195,12 +197,20 @@ void ReadStart(BundleLines& lines) {
   lines.Take();
 }
 
+std::string ReadMachineName(BundleLines& lines) {
+  std::string name = lines.Value("machine", Unquote);
+  if (name.size() > kLongestMachineName) {
+    lines.Reject(fmt::format("has a name of more than {} bytes", kLongestMachineName));
+  }
+  return name;
+}
+
 // Returns the number of items that must follow.
 std::size_t ReadHeader(BundleLines& lines, Bundle& bundle) {
   ReadStart(lines);
   bundle.program = lines.Value("program", Unquote);
   bundle.isMasked = lines.Value("masked", ReadYesNo);
-  bundle.machine = lines.Value("machine", Unquote);
+  bundle.machine = ReadMachineName(lines);
   bundle.directory = lines.Value("directory", Unquote);
   bundle.osType = lines.Value("os-type", OrNone(ReadWhole<std::uint16_t>));
   bundle.osVersion = lines.Value("os-version", ReadVersion);

@@ -27,14 +27,18 @@ constexpr CodeRange kUnsafe[] = {
     {0xe0000, 0xe007f}, // invisible copies of ASCII
 };
 
-// Invisible characters, too; bundles contain them unescaped, as their format is older.
+// Invisible characters, too; bundles of older programs contain them unescaped.
 constexpr CodeRange kInvisible[] = {
     {0x34f,   0x34f  },
     {0x115f,  0x1160 },
     {0x17b4,  0x17b5 },
+    {0x180b,  0x180f },
     {0x2800,  0x2800 },
     {0x3164,  0x3164 },
+    {0xfe00,  0xfe0f },
     {0xffa0,  0xffa0 },
+    {0xfff0,  0xfff8 },
+    {0x1bca0, 0x1bca3},
     {0x1d173, 0x1d17a},
     {0xe0080, 0xe0fff},
 };

@@ -24,7 +24,8 @@ std::string EscapeControls(std::string_view bytes);
 // The same for people, without the white space at both ends.
 std::string Printable(std::string_view bytes);
 
-// The length in bytes of the first character, if it is valid UTF-8 and bundles contain it unescaped; otherwise 0.
+// The length in bytes of the first character, if it is valid UTF-8 and a bundle of any version may contain it
+// unescaped; otherwise 0.
 std::size_t PrintableLength(std::string_view bytes);
 
 }  // namespace hxahost

@@ -1,9 +1,8 @@
 // Shows the text of tools. It becomes text nodes only; characters that are invisible or change the direction of the
 // text are shown as escapes, as in the tables of the terminal.
 
-const kUnsafeCharacters = new RegExp("[\\u0000-\\u0008\\u000b\\u000c\\u000e-\\u001f\\u007f-\\u009f\\u00ad\\u061c" +
-  "\\u034f\\u115f\\u1160\\u17b4\\u17b5\\u180e\\u200b-\\u200f\\u2028-\\u202e\\u2060-\\u206f\\u2800\\u3164\\ufeff\\uffa0" +
-  "\\ufff9-\\ufffb\\u{1d173}-\\u{1d17a}\\u{e0000}-\\u{e0fff}]", "gu");
+const kUnsafeCharacters = new RegExp("[\\u0000-\\u0008\\u000b\\u000c\\u000e-\\u001f\\u007f-\\u009f\\u2028-\\u202e\\u2800" +
+  "\\ufff9-\\ufffb\\ufffe\\uffff\\p{Default_Ignorable_Code_Point}]", "gu");
 // No language uses more marks on one character; more are drawn over the lines above and below.
 const kFurtherMarks = new RegExp("(?<=\\p{Mn}{4})\\p{Mn}", "gu");
 
