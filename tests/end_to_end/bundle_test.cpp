@@ -317,7 +317,7 @@ TEST_F(Bundles, ThatAreDamagedNewerOrForeignAreRefusedInOneLine) {
       {"foreign",   {"query", "--replay", Utf8FromPath(Golden("sample-machine.json"))},        2, "is no bundle"    },
       {"missing",   {"query", "--replay", Name("missing")},                                    2, "cannot be read"  },
       {"no folder", {"query", "--record", Name("no/m.bundle")},                                2, "--record "       },
-      {"twice",     {"query", "--record", Name("m"), "--output", Name("m")},                   2, "is named twice"  },
+      {"twice",     {"query", "--record", Name("m"), "--output", Name("m")},                   2, "are one file"    },
   };
   for (const Case& each : cases) {
     const ProgramResult result = RunHxahost(each.arguments);

@@ -104,6 +104,19 @@ TEST_F(FleetCommand, TakesItsOwnLinesAgain) {
   EXPECT_EQ(Run({file}).out, Run({File("DB01.bundle"), File("DB02.bundle")}).out);
 }
 
+// As a job does that writes every night into the folder that it reads.
+TEST_F(FleetCommand, DoesNotReadTheOutputThatItReplaces) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  for (const char* const format : {"jsonl", "json"}) {
+    const std::string output = File(std::string("all.") + format);
+    ASSERT_EQ(Run({"--format", format, "--output", output, Folder()}).exitStatus, 0);
+    const std::string first = FileText(output);
+    EXPECT_EQ(Run({"--format", format, "--output", output, Folder()}).exitStatus, 0);
+    EXPECT_TRUE(FileText(output) == first) << format;
+    std::filesystem::remove(output);
+  }
+}
+
 TEST_F(FleetCommand, WritesAPageThatLinksToTheNewestReportOfEachMachine) {
   WriteMachine("DB01", "arcconf-newer-healthy");
   WriteMachine("DB02", "arcconf-newer-failed-disk");
@@ -117,6 +130,15 @@ TEST_F(FleetCommand, WritesAPageThatLinksToTheNewestReportOfEachMachine) {
   EXPECT_THAT(FileText(folder_.Path() / "pages" / "machine-DB01.html"), HasSubstr("OK: no fault found"));
   EXPECT_THAT(Run({"--pages", File("pages"), Folder()}).err,
               HasSubstr("hxahost: --pages is for what --format html links to: give that, or leave it out."));
+}
+
+TEST_F(FleetCommand, RefusesAPageInThePlaceOfAReport) {
+  WriteMachine("DB01", "arcconf-newer-healthy");
+  const std::string page = File("machine-DB01.html");
+  const ProgramResult result = Run({"--format", "html", "--pages", Folder(), "--output", page, Folder()});
+  EXPECT_EQ(result.exitStatus, 2);
+  EXPECT_THAT(result.err, HasSubstr("are one file"));
+  EXPECT_FALSE(std::filesystem::exists(page));
 }
 
 TEST_F(FleetCommand, WritesAPageForAMachineWithALongName) {

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "host/hxahost/bundle/bundle_file.h"
+#include "host/hxahost/bundle/read_bundle.h"
 #include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/system/exit_status.h"
 #include "tests/support/file_text.h"
@@ -87,12 +88,20 @@ TEST_F(BundleCommand, RefusesAnItemThatIsNotThere) {
 
 TEST_F(BundleCommand, MasksABundleIntoAnother) {
   options_.output = folder_.Path() / "masked";
-  MaskBundleFile(options_);
+  std::ostringstream out;
+  MaskBundleFile(options_, out);
+  EXPECT_EQ(out.str(), "");
   const Bundle masked = ReadBundleFile(folder_.Path() / "masked");
   EXPECT_TRUE(masked.isMasked);
   EXPECT_EQ(masked.machine.size(), 8U);
   EXPECT_NE(masked.machine, "DBSERVER");
   EXPECT_THAT(masked.runs[0].result.output, Not(HasSubstr("AB12CD34")));
+}
+
+TEST_F(BundleCommand, MasksABundleOnStandardOutput) {
+  std::ostringstream out;
+  MaskBundleFile(options_, out);
+  EXPECT_TRUE(ReadBundle(out.str()).isMasked);
 }
 
 TEST_F(BundleCommand, RefusesAnIncompleteBundleInOneLine) {
@@ -103,7 +112,7 @@ TEST_F(BundleCommand, RefusesAnIncompleteBundleInOneLine) {
     EXPECT_THAT(Error([&] { ListBundle(options_, out); }), HasSubstr(name));
     EXPECT_THAT(Error([&] { Shown(); }), Not(HasSubstr("\n")));
     options_.output = folder_.Path() / "out";
-    EXPECT_NE(Error([&] { MaskBundleFile(options_); }), "");
+    EXPECT_NE(Error([&] { MaskBundleFile(options_, out); }), "");
     EXPECT_FALSE(std::filesystem::exists(folder_.Path() / "out"));
   }
   for (const std::filesystem::path& missing : {folder_.Path() / "missing", folder_.Path()}) {

@@ -97,6 +97,7 @@ TEST(Options, SelectTheOperationOnABundle) {
   EXPECT_EQ(mask.bundle.file, "f");
   EXPECT_EQ(mask.bundle.output, "g");
   EXPECT_EQ(mask.bundle.mask, MaskScope::kNames);
+  EXPECT_EQ(Parse("bundle mask f -").bundle.output, "") << "standard output";
   EXPECT_EQ(Parse("bundle mask f g --all").bundle.mask, MaskScope::kAll);
 }
 
@@ -289,6 +290,7 @@ TEST(Options, RejectWrongOnesInOneLineWithAdvice) {
       {"input limit with a unit",   {"diff", "a", "b", "--input-limit", "5M"},              "from 1 to 65536"         },
       {"bundle in place of status", {"status", "--record", "-"},                            "give it to hxahost query"},
       {"repeat zero",               {"query", "--repeat", "0"},                             "from 1 on"               },
+      {"machine's name too long",   {"query", "--machine-name", std::string(1001, 'M')},    "1001 bytes"              },
       {"repeat less",               {"query", "--repeat=-1"},                               "from 1 on"               },
       {"repeat word",               {"query", "--repeat", "twice"},                         "from 1 on"               },
       {"repeat half",               {"query", "--repeat", "1.5"},                           "from 1 on"               },
@@ -310,6 +312,8 @@ TEST(Options, RejectWrongOnesInOneLineWithAdvice) {
       {"empty machine name",        {"query", "--machine-name", ""},                        "--machine-name"          },
       {"empty time",                {"query", "--local-time", ""},                          "--local-time"            },
       {"mask without a bundle",     {"query", "--mask"},                                    "--record"                },
+      {"log on a stream",           {"query", "--log", "-"},                                "--log"                   },
+      {"baseline on a stream",      {"health", "--save-baseline", "-"},                     "--save-baseline"         },
       {"mask of some",              {"query", "--record", "f", "--mask=some"},              "--mask=all"              },
       {"replay and directory",      {"query", "--replay", "f", "--directory", "d"},         "leave one of them"       },
       {"empty bundle",              {"query", "--record", ""},                              "--record"                },

@@ -101,8 +101,12 @@ std::vector<FleetInput> InputsAt(const fs::path& path, std::uint64_t largest) {
 
 }  // namespace
 
-FleetInputs::FleetInputs(const std::vector<fs::path>& paths, std::uint64_t largest) : largest_(largest) {
+FleetInputs::FleetInputs(const std::vector<fs::path>& paths, std::uint64_t largest, const fs::path& output)
+    : largest_(largest) {
   for (const fs::path& path : paths) std::ranges::move(InputsAt(path, largest), std::back_inserter(files_));
+  std::error_code error;
+  if (!fs::exists(output, error)) return;
+  std::erase_if(files_, [&](const FleetInput& input) { return fs::equivalent(input.file, output, error); });
 }
 
 // Opens the file if it contains JSON lines.

@@ -11,6 +11,7 @@
 #include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/result/tool_run.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/output_file.h"
 #include "host/hxahost/system/terminal.h"
 #include "host/hxahost/text/escaping.h"
@@ -107,6 +108,8 @@ void ListBundle(const BundleOptions& options, std::ostream& out) {
 }
 
 void ShowBundle(const BundleOptions& options, std::ostream& out) {
+  const NamedFile read{"", options.file};
+  CheckOutput({"--output", options.output}, {read});
   const Bundle bundle = ReadBundleFile(options.file, options.inputLimit);
   CheckItems(bundle, options);
   if (options.isRaw && options.output.empty() && StandardOutputIsTerminal()) {
@@ -121,11 +124,14 @@ void ShowBundle(const BundleOptions& options, std::ostream& out) {
   if (file) file->Finish();
 }
 
-void MaskBundleFile(const BundleOptions& options) {
+void MaskBundleFile(const BundleOptions& options, std::ostream& out) {
+  const NamedFile read{"IN", options.file};
+  CheckOutput({"OUT", options.output}, {read});
   Bundle bundle = ReadBundleFile(options.file, options.inputLimit);
-  OutputFile file(options.output, "OUT");
-  WriteBundle(file.Stream(), MaskBundle(std::move(bundle), SystemRandom(), options.mask));
-  file.Finish();
+  std::optional<OutputFile> file;
+  if (!options.output.empty()) file.emplace(options.output, "OUT");
+  WriteBundle(file ? file->Stream() : out, MaskBundle(std::move(bundle), SystemRandom(), options.mask));
+  if (file) file->Finish();
 }
 
 }  // namespace hxahost

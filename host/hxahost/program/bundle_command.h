@@ -13,7 +13,7 @@ void ListBundle(const BundleOptions& options, std::ostream& out);
 // Writes the part before the items, or the bytes of some items: as lines for people, or unchanged.
 void ShowBundle(const BundleOptions& options, std::ostream& out);
 
-// Writes the bundle with its secrets masked to the output that the options name.
-void MaskBundleFile(const BundleOptions& options);
+// Writes the bundle with its secrets masked to the output that the options name, or to out.
+void MaskBundleFile(const BundleOptions& options, std::ostream& out);
 
 }  // namespace hxahost

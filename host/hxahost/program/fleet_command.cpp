@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/fleet/fleet_pages.h"
@@ -11,6 +12,7 @@
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
 #include "host/hxahost/result/property_values.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/terminal.h"
 #include "host/hxahost/terminal/progress.h"
 #include "host/hxahost/terminal/terminal_layout.h"
@@ -27,7 +29,7 @@ std::int64_t Now(const QueryOptions& options) {
 
 std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, std::ostream& out, std::ostream& err,
                  Fleet& fleet) {
-  FleetInputs inputs(options.paths, options.shown.collection.inputLimit);
+  FleetInputs inputs(options.paths, options.shown.collection.inputLimit, options.shown.output);
   const auto progress = options.shown.collection.showProgress && StandardErrorIsTerminal()
                             ? std::make_unique<Progress>(err, ProgressWidth())
                             : nullptr;
@@ -37,10 +39,26 @@ std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, 
   return ReadFleet(inputs, options.shown.limits, writer.rows, out, fleet, begin);
 }
 
+void CheckFiles(const FleetCommandOptions& options) {
+  std::vector<NamedFile> inputs;
+  for (const std::filesystem::path& path : options.paths) inputs.push_back({"", path});
+  const NamedFile output{"--output", options.shown.output};
+  CheckOutput(output, inputs);
+  CheckOutput({"--pages", options.pages}, {output});
+}
+
+// The page that links to the reports must not take the place of one.
+void CheckPages(const FleetCommandOptions& options, const Fleet& fleet) {
+  std::vector<NamedFile> pages;
+  for (const auto& [machine, name] : PageNames(fleet)) pages.push_back({"--pages", options.pages / name});
+  CheckOutput({"--output", options.shown.output}, pages);
+}
+
 // Returns the links to the reports.
 std::map<std::string, std::string> WriteReports(const FleetCommandOptions& options, const Fleet& fleet) {
   if (options.pages.empty()) return {};
-  FleetInputs inputs(options.paths, options.shown.collection.inputLimit);
+  CheckPages(options, fleet);
+  FleetInputs inputs(options.paths, options.shown.collection.inputLimit, options.shown.output);
   WritePages(inputs, options.shown.limits, fleet, options.pages);
   const std::filesystem::path& page = options.shown.output;
   const std::string folder = LinkBetween(page.empty() ? "." : page.parent_path(), options.pages);
@@ -53,6 +71,7 @@ std::map<std::string, std::string> WriteReports(const FleetCommandOptions& optio
 
 ExitStatus RunFleetCommand(const FleetCommandOptions& options, std::ostream& out, std::ostream& err) {
   const auto& writer = WriterOf<FleetWriter>("fleet", options.shown.format);
+  CheckFiles(options);
   QueryOutput output(options.shown, out);
   Fleet fleet({Now(options.shown), options.staleDays});
   if (writer.Begin != nullptr) writer.Begin(output.Stream());

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string_view>
 
+#include <fmt/core.h>
 #include <CLI/CLI.hpp>
 
 #include "host/hxahost/program/command_texts.h"
@@ -16,6 +17,7 @@
 #include "host/hxahost/program/unexpected_arguments.h"
 #include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/input_file.h"
+#include "host/hxahost/system/machine_name.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -93,14 +95,17 @@ CLI::Option* AddPath(CLI::App& command, const std::string& name, const std::stri
   return command.add_option_function<std::string>(name, read, description)->type_name(type);
 }
 
-// "-" is standard output, as without the option.
+// "-" is standard output: an empty path.
+CLI::Option* AddOutputPath(CLI::App& command, const std::string& name, const std::string& type,
+                           std::filesystem::path& path, const std::string& description) {
+  const auto read = [&path](const std::string& text) { path = text == kStandardStream ? "" : PathFromUtf8(text); };
+  return command.add_option_function<std::string>(name, read, description)->type_name(type);
+}
+
 void AddOutput(CLI::App& command, std::filesystem::path& path) {
-  const auto read = [&path](const std::string& text) { path = text == "-" ? "" : PathFromUtf8(text); };
-  command
-      .add_option_function<std::string>(
-          "-o,--output", read,
-          "Write to this file; it is replaced only when the output is complete (default, and -: standard output)")
-      ->type_name("FILE");
+  AddOutputPath(
+      command, "-o,--output", "FILE", path,
+      "Write to this file; it is replaced only when the output is complete (default, and -: standard output)");
 }
 
 // The limits for the utilities.
@@ -328,7 +333,7 @@ void AddBundle(CLI::App& bundle, TypedOptions& typed) {
   AddOutput(*show, read.output);
   CLI::App* const mask = bundle.add_subcommand("mask", "Mask names and serial numbers in a copy");
   AddPath(*mask, "IN", "TEXT", read.file, "The bundle")->required();
-  AddPath(*mask, "OUT", "TEXT", read.output, "The masked copy")->required();
+  AddOutputPath(*mask, "OUT", "TEXT", read.output, "The masked copy (-: standard output)")->required();
   mask->add_flag("--all", typed.masksAll, "Mask FRU part numbers, too");
   for (CLI::App* const command : {list, show, mask}) AddInputLimit(*command, typed);
 }
@@ -369,6 +374,11 @@ void CheckBundles(const std::string& command, const CollectionOptions& options) 
   }
 }
 
+// Standard output has the result.
+void CheckIsNoStream(const std::string& option, const std::filesystem::path& path) {
+  if (path == kStandardStream) Reject(option, std::string(kStandardStream), "name a file.");
+}
+
 constexpr unsigned kMostSeconds = 86400;
 
 std::chrono::seconds ReadWait(const TypedOptions& typed) {
@@ -407,13 +417,19 @@ QueryOptions ReadShown(const CLI::App& command, const TypedOptions& typed) {
   return options;
 }
 
+std::string ReadMachineName(const std::string& name) {
+  if (name.size() <= kLongestMachineName) return name;
+  throw ProgramError(ExitStatus::kWrongArguments,
+                     fmt::format("--machine-name has {} bytes: give at most {}.", name.size(), kLongestMachineName));
+}
+
 QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   QueryOptions options = ReadShown(query, typed);
   options.repeat = ReadRepeat(typed.repeat);
   CollectionOptions& collection = options.collection;
   collection.osType = ReadOsType(typed.osType);
   collection.hasOsType = query.get_option("--os-type")->count() > 0;
-  if (!typed.machineName.empty()) collection.machineName = typed.machineName;
+  if (!typed.machineName.empty()) collection.machineName = ReadMachineName(typed.machineName);
   collection.mask = ReadMask(typed.mask);
   collection.inputLimit = ReadInputLimit(typed.inputLimit);
   collection.limits = ReadRunLimits(typed);
@@ -422,6 +438,8 @@ QueryOptions ReadCollecting(const CLI::App& query, const TypedOptions& typed) {
   options.expectations.disks = ReadNumber("--expect-disks", typed.expectedDisks);
   CheckTools(options.expectations.tools);
   CheckBundles(query.get_name(), collection);
+  CheckIsNoStream("--log", collection.log);
+  CheckIsNoStream("--save-baseline", options.saveBaseline);
   return options;
 }
 

@@ -39,7 +39,7 @@ int Run(const CommandLine& commandLine, std::ostream& out, std::ostream& err) {
       break;
     case Command::kBundleList: ListBundle(commandLine.bundle, out); break;
     case Command::kBundleShow: ShowBundle(commandLine.bundle, out); break;
-    case Command::kBundleMask: MaskBundleFile(commandLine.bundle); break;
+    case Command::kBundleMask: MaskBundleFile(commandLine.bundle, out); break;
     case Command::kFleet: status = static_cast<int>(RunFleetCommand(commandLine.fleet, out, err)); break;
     case Command::kDiff: status = RunDiffCommand(commandLine.diff, out); break;
   }

@@ -24,6 +24,7 @@
 #include "host/hxahost/schema/class_names.h"
 #include "host/hxahost/schema/class_words.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/input_file.h"
 #include "host/hxahost/terminal/terminal_layout.h"
 #include "host/hxahost/text/escaping.h"
@@ -45,9 +46,20 @@ std::vector<std::string> DeclaredNames(const std::vector<std::string>& asked) {
   return names;
 }
 
-[[noreturn]] void RejectSharedFile(const std::string& option, const fs::path& file) {
-  throw ProgramError(ExitStatus::kWrongArguments, option + " " + Printable(Utf8FromPath(file)) +
-                                                      " is named twice: give each output a file of its own.");
+// A result may replace the baseline that it was compared with.
+void CheckFiles(const QueryOptions& options) {
+  const CollectionOptions& collection = options.collection;
+  const NamedFile replay{"--replay", collection.replay};
+  const NamedFile plugin{"--plugin", collection.plugin};
+  const NamedFile baseline{"--baseline", options.baseline};
+  const NamedFile output{"--output", options.output};
+  const NamedFile log{"--log", collection.log};
+  const NamedFile record{"--record", collection.record};
+  const NamedFile saved{"--save-baseline", options.saveBaseline};
+  CheckOutput(output, {replay, plugin, baseline});
+  CheckOutput(log, {replay, plugin, baseline, output});
+  CheckOutput(record, {replay, plugin, baseline, output, log});
+  CheckOutput(saved, {replay, plugin, output, log, record});
 }
 
 std::shared_ptr<const JsonResult> ReadBaseline(const fs::path& file) {
@@ -83,21 +95,9 @@ QueryHeader HeaderOf(const Collection& collection, const QueryOptions& options) 
 QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
   QueryOptions options = typed;
   CollectionOptions& collection = options.collection;
-  fs::path& log = collection.log;
-  fs::path& record = collection.record;
-  for (fs::path* const path : {&collection.plugin, &log, &record, &collection.replay, &options.output,
-                               &options.baseline, &options.saveBaseline}) {
+  for (fs::path* const path : {&collection.plugin, &collection.log, &collection.record, &collection.replay,
+                               &options.output, &options.baseline, &options.saveBaseline}) {
     if (!path->empty() && *path != kStandardStream) *path = fs::absolute(*path);
-  }
-  if (!log.empty() && log == options.output) {
-    throw ProgramError(ExitStatus::kWrongArguments, "--log and --output name one file: name two.");
-  }
-  if (!record.empty() && (record == options.output || record == log)) {
-    RejectSharedFile("--record", typed.collection.record);
-  }
-  const fs::path& save = options.saveBaseline;
-  if (!save.empty() && (save == options.output || save == log || save == record)) {
-    RejectSharedFile("--save-baseline", typed.saveBaseline);
   }
   return options;
 }
@@ -180,6 +180,7 @@ class InstanceStream {
 
 Collected RunQueries(const QueryOptions& typed, const QueryDisplay& display, std::ostream& out, std::ostream& err) {
   CheckWorkingDirectory();
+  CheckFiles(typed);
   QueryOptions options = WithAbsolutePaths(typed);
   for (const std::string& line : MissingDependencies(DeclaredNames(options.classes))) {
     err << "hxahost: " << line << std::endl;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/this_program.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -16,13 +17,6 @@ namespace fs = std::filesystem;
 namespace hxahost {
 
 namespace {
-
-// A link stays as it is: the file that it points to is replaced.
-fs::path WithoutLinks(const fs::path& path) {
-  std::error_code error;
-  const fs::path resolved = fs::weakly_canonical(path, error);
-  return error ? path : resolved;
-}
 
 constexpr std::string_view kPart = ".part";
 
@@ -63,17 +57,18 @@ fs::path NameMeanwhile(const fs::path& path) {
   return name;
 }
 
+std::string InBrackets(const std::string& reason) { return reason.empty() ? "" : " (" + Printable(reason) + ")"; }
+
 }  // namespace
 
 void RejectOutput(const std::string& option, const fs::path& path, const std::string& reason) {
-  const std::string inBrackets = reason.empty() ? "" : " (" + Printable(reason) + ")";
   throw ProgramError(ExitStatus::kWrongArguments,
-                     option + " " + Printable(Utf8FromPath(path)) + " cannot be written" + inBrackets +
+                     option + " " + Printable(Utf8FromPath(path)) + " cannot be written" + InBrackets(reason) +
                          ": name a file in a folder that is there and that you may write to.");
 }
 
 OutputFile::OutputFile(const fs::path& path, std::string option)
-    : option_(std::move(option)), path_(WithoutLinks(path)), stream_(nullptr) {
+    : option_(std::move(option)), path_(PlaceOf(path)), stream_(nullptr) {
   if (IsDevice(path_)) {
     if (device_.open(path_, std::ios::out | std::ios::binary) != nullptr) stream_.rdbuf(&device_);
   } else {
@@ -87,10 +82,11 @@ void OutputFile::Finish() {
   stream_.flush();
   const bool hasRoom = stream_ && (file_ || device_.close() != nullptr);
   if (hasRoom && (!file_ || file_->Finish())) return;
-  const char* const cause = hasRoom ? "whether its name is too long and whether another program has the file open"
-                                    : "whether there is room on the disk";
-  throw ProgramError(ExitStatus::kQueryFailed,
-                     option_ + " " + Printable(Utf8FromPath(path_)) + " could not be written: see " + cause + ".");
+  const char* const cause =
+      hasRoom ? "another program has made a folder of that name or has the file open" : "there is room on the disk";
+  throw ProgramError(ExitStatus::kQueryFailed, option_ + " " + Printable(Utf8FromPath(path_)) +
+                                                   " could not be written" + InBrackets(file_ ? file_->Failure() : "") +
+                                                   ": see whether " + cause + ".");
 }
 
 }  // namespace hxahost

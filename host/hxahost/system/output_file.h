@@ -15,8 +15,9 @@ namespace hxahost {
 [[noreturn]] void RejectOutput(const std::string& option, const std::filesystem::path& path, const std::string& reason);
 
 // A file that is complete or does not exist: it is written beside the file that it replaces at the end, whose owner and
-// rights it gets, and is deleted if the program ends before. On file systems that give unfinished files a name, files
-// that killed programs left are removed. A device, a pipe or another special file is written directly.
+// rights it gets, and is deleted if the program ends before. A link stays: the file that it leads to is written. On
+// file systems that give unfinished files a name, files that killed programs left are removed. A device, a pipe or
+// another special file is written directly.
 class OutputFile {
  public:
   // Opens it. Throws ProgramError, which names the option, if it cannot be written there.

@@ -20,7 +20,7 @@ class UnfinishedFile {
   // The buffer to write to; null: it cannot be written in that folder.
   std::streambuf* Buffer() const { return buffer_.get(); }
 
-  // Why there is no buffer, in the system's words; "" if it reports no reason.
+  // Why there is no buffer, or why it did not replace the target, in the system's words; "" if it reports no reason.
   const std::string& Failure() const { return failure_; }
 
   // Replaces the target. Returns false if it could not be written completely, or the target cannot be replaced.

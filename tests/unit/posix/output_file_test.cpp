@@ -53,19 +53,43 @@ TEST(OutputFilePosix, KeepsModeAndOwnerOfTheReplacedFile) {
   EXPECT_EQ(replaced.st_uid, owner);
 }
 
-// A disk with room is not to blame for a name that no file can have.
-TEST(OutputFilePosix, SaysThatTheNameMayBeTooLong) {
+// A long collection would be in vain.
+TEST(OutputFilePosix, RefusesANameThatIsTooLongBeforeAnythingIsWritten) {
   const TemporaryFolder folder;
   try {
-    OutputFile file(folder.Path() / std::string(250, 'n'));
-    file.Stream() << "text";
+    const OutputFile file(folder.Path() / std::string(250, 'n'));
+    FAIL() << "it was taken";
+  } catch (const ProgramError& error) {
+    EXPECT_EQ(error.Status(), ExitStatus::kWrongArguments);
+    EXPECT_THAT(error.what(), testing::HasSubstr("(File name too long)"));
+  }
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
+}
+
+// A disk with room is not to blame.
+TEST(OutputFilePosix, SaysWhyItCannotReplaceAFolder) {
+  const TemporaryFolder folder;
+  OutputFile file(folder.Path() / "name");
+  file.Stream() << "text";
+  folder.Write("name/file", "");
+  try {
     file.Finish();
     FAIL() << "it was written";
   } catch (const ProgramError& error) {
-    EXPECT_THAT(error.what(), testing::HasSubstr("too long"));
+    EXPECT_THAT(error.what(), testing::HasSubstr("(Is a directory)"));
     EXPECT_THAT(error.what(), testing::Not(testing::HasSubstr("room")));
   }
-  EXPECT_TRUE(fs::is_empty(folder.Path()));
+}
+
+TEST(OutputFilePosix, WritesThroughALinkToAFileThatIsNotThereYet) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder.Path() / "folder");
+  fs::create_symlink("folder/file", folder.Path() / "link");
+  OutputFile file(folder.Path() / "link");
+  file.Stream() << "text";
+  file.Finish();
+  EXPECT_TRUE(fs::is_symlink(folder.Path() / "link"));
+  EXPECT_EQ(FileText(folder.Path() / "folder" / "file"), "text");
 }
 
 TEST(OutputFilePosix, IsNotSeenBeforeItIsFinished) {

@@ -39,13 +39,18 @@ class FileBuffer : public std::filebuf {
 }  // namespace
 
 UnfinishedFile::UnfinishedFile(fs::path name, const fs::path& target) : name_(std::move(name)), target_(target) {
+  // It may be of a killed program with the same number, a link of somebody else, or too long for a name.
+  if (unlink(name_.c_str()) != 0 && errno != ENOENT) {
+    failure_ = std::generic_category().message(errno);
+    return;
+  }
   const fs::path folder = name_.has_parent_path() ? name_.parent_path() : fs::path(".");
   int file = open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kReadAndWrite);
   isNamed_ = file < 0;
-  if (isNamed_) file = open(name_.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, kReadAndWrite);
+  if (isNamed_) file = open(name_.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kReadAndWrite);
   auto buffer = std::make_unique<FileBuffer>(file);
   if (!buffer->is_open()) {
-    failure_ = std::generic_category().message(errno);
+    failure_ = (file < 0 ? "" : "/proc: ") + std::generic_category().message(errno);
     return;
   }
   CopyRights(target_, OpenName(file));
@@ -62,12 +67,13 @@ bool UnfinishedFile::Finish() {
   if (buffer.close() == nullptr) return false;
   std::error_code error;
   if (!isNamed_) {
-    fs::remove(name_, error);  // of a killed program with the same number
     isNamed_ = linkat(AT_FDCWD, OpenName(buffer.File()).c_str(), AT_FDCWD, name_.c_str(), AT_SYMLINK_FOLLOW) == 0;
+    if (!isNamed_) failure_ = std::generic_category().message(errno);
     if (!isNamed_) return false;
   }
   fs::rename(name_, target_, error);
   isNamed_ = static_cast<bool>(error);
+  if (error) failure_ = error.message();
   return !error;
 }
 

@@ -84,6 +84,7 @@ bool UnfinishedFile::Finish() {
   std::error_code error;
   fs::rename(name_, target_, error);
   isNamed_ = static_cast<bool>(error);
+  if (error) failure_ = error.message();
   return !error;
 }
 

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace hxahost {
+
+// Where a path leads: absolute and through all links, also through one to a file that is not there yet. A link that the
+// system does not follow stays.
+std::filesystem::path PlaceOf(const std::filesystem::path& path);
+
+// Whether two paths lead to one file, which need not be there.
+bool LeadToOneFile(const std::filesystem::path& one, const std::filesystem::path& other);
+
+// A file on the command line, as typed: "--output result.json".
+struct NamedFile {
+  std::string option;  // "" for an argument
+  std::filesystem::path path;
+};
+
+// Throws ProgramError (wrong arguments) if an output is one of the inputs or of the other outputs, as one of them would
+// be lost. Empty paths were not given.
+void CheckOutput(const NamedFile& output, const std::vector<NamedFile>& others);
+
+// The system's part: whether a folder has one file for both names.
+bool AreOneName(const std::filesystem::path& one, const std::filesystem::path& other);
+
+}  // namespace hxahost
