@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "host/hxahost/bundle/folded_text.h"
 #include "host/hxahost/bundle/write_bundle.h"
 #include "tests/support/sample_bundle.h"
 
@@ -88,7 +89,15 @@ Bundle Planted() {
       "   Logical drive name : Trundlewick\n                        Vault\n                        of: Ombersley\n"
       "   RAID level : 5\n   Array name : Snorbitz\n   Enclosure ID : 5000F0A1\n"
       "   Device is a Hard disk\n   Serial number : QZ73X9\n   World-wide name : 50:00:C5:00:1A:2B:3C:4D\n"
-      "   Device ID : TALVERA T36LW10 S96H8B01234\n";
+      "   Device ID : TALVERA T36LW10 S96H8B01234\n"
+      "   Logical drive name : Kn\xc3\xa4"
+      "ckebrot\n   Logical drive name : \u041f\u043b\u0443\u0433\u043e\u0432\u0438\u043a\n"
+      "   Logical drive name : Cellar 10.1.2.3 Grumbold\n   Logical drive name : Smyrnov & Zonk\n"
+      "   Logical drive name : Schlo\u00dfgarten\n   Transfer Speed : Serial ATA 3.0 Gb/s\n"
+      "   Unit Serial number : QUIBSER77A\n * Controller Serial Number : WOMBAT9921\n < Serial number : ANGLED77\n"
+      "   Vendor : NORDVIK  Serial number : DOUBLET77  World-wide name : TWOFOLD88\n"
+      "   Device is a Hard drive\n   Device ID : TALVERA T36LW10 S96H8D55667\n"
+      "   Device is a Tape\n   Device ID : TALVERA T36LW10 S96H8D55668\n   Device ID : ORBITEK DAT72LP         A119\n";
   bundle.runs[1].result.output =
       "<deadDrive serialNumber='KRUMPET1' /><deadDrive serialNumber = \"brindlesop\" />\n"
       "<event text=\"GRIMHOLT asks Trundlewick, 81730946 and 5000c5001a2b3c4e\" />\n"
@@ -98,6 +107,16 @@ Bundle Planted() {
       "<event text='from 2001:DB8:0:0:0:8A2E:370:7334' SerialNumber=\"Nurdleby\" />\n"
       "phy 00:1b:21:AA:BB:CC and 00-1b-21-aa-bb-cd, 0x5000C5001A2B3C4F, 001B.21aa.bbce\n"
       "naa.600508B1001C79A1600508B1001C79A2\n"
+      "[00005] Kn\xc3\x84"
+      "CKEBROT at 40 \xb0"
+      "C, kn\xe4"
+      "ckebrot, \xabKN\xc4"
+      "CKEBROT\xbb\n"
+      "[00006] \u041f\u041b\u0423\u0413\u041e\u0412\u0418\u041a, CELLAR 10.1.2.3 GRUMBOLD, SCHLOSSGARTEN\n"
+      "<event text=\"Smyrnov &amp; Zonk, SMYRNOV &#38; ZONK: //vexmoor.example/x, GRIMHOLT@fen_brook\" />\n"
+      "[00007] j\u00fcrgen@ex\u00e4mple.de, 5000-C500-1A2B-3C4D, MAC 001B21AABBCD, MAC address=001b21aabbce\n"
+      "[00008] eui.00253858910A1B2C, naa.3000C5001A2B3C4D, ::21b:21ff:feaa:bbcd, unit of quibser77a\n"
+      "[00009] 0005:17:54:33 dump 001B21AABBC7 ::12, 1000-2000-3000-4000: 12345678ABCDEF01\n"
       "   Firmware : 4.2.10.1\n   Device driver version : 4.2.10.2\n[00003] BIOS 4.2.10.3/4.2.10.4, not 1.4.2.10.5\n";
   bundle.runs[2].failure->message =
       "\"D:/Wexlogs/x\": c:\\QUIBBLEDIR\\jo zandrik is gone, wrote GRIMHOLT to krumpet1 (172.16.5.4)";
@@ -156,6 +175,30 @@ TEST(BundleMask, LeavesNoNameNumberOrAddressOfAnyFieldAnywhere) {
       "example",
       "jo z",
       "of: omb",
+      "ckebrot",
+      "\u043f\u043b\u0443\u0433\u043e\u0432\u0438\u043a",
+      "cellar",
+      "grumbold",
+      "smyrnov",
+      "zonk",
+      "schlossgarten",
+      "schlo\u00dfgarten",
+      "quibser77a",
+      "wombat9921",
+      "angled77",
+      "doublet77",
+      "twofold88",
+      "8d55667",
+      "8d55668",
+      "brook",
+      "rgen@",
+      "mple.de",
+      "5000-c500-1a2b-3c4d",
+      "001b21aabbcd",
+      "001b21aabbce",
+      "00253858910a1b2c",
+      "3000c5001a2b3c4d",
+      "::21b:21ff:feaa:bbcd",
   };
   for (const char* const word : words) {
     EXPECT_THAT(before, HasSubstr(word));
@@ -191,7 +234,9 @@ TEST(BundleMask, LeavesModelsStatesAndFixedLines) {
        {"Device ID : TALVERA T36LW10 S96H", "   RAID level : 5\n", "<deadDrive serialNumber='", "| 0x07 | Removed by ",
         "[00001] 0000:00:00:00 Boot of ", "zenx//arcconf.exe", "RaidEvtA.log", "Firmware : 4.2.10.1\n",
         "version : 4.2.10.2\n", "BIOS 4.2.10.3/4.2.10.4, not 1.4.2.10.5\n", "Version 5.2.0.15611 asked ",
-        "2007/03/06 08:00:01 PST INF "}) {
+        "2007/03/06 08:00:01 PST INF ", "Speed : Serial ATA 3.0 Gb/s\n", "DAT72LP         A119\n",
+        "[00009] 0005:17:54:33 dump 001B21AABBC7 ::12, 1000-2000-3000-4000: 12345678ABCDEF01\n",
+        "   Vendor : NORDVIK  Serial number : "}) {
     EXPECT_THAT(text, HasSubstr(kept));
   }
 }
@@ -215,6 +260,28 @@ TEST(BundleMask, FindsNamesWithUmlautsInEitherCase) {
   bundle.runs[0].result.output = "   Logical drive name : B\xc3\xa4renh\xc3\xb6hle\n";
   bundle.runs[1].result.output = "[1] lost: B\xc3\x84RENH\xc3\x96HLE\n";
   EXPECT_THAT(MaskBundle(bundle, Seeded()).runs[1].result.output, Not(HasSubstr("RENH")));
+}
+
+// The machine's domain is also found without it, but numbers of an address are not names.
+TEST(BundleMask, MasksADomainButNoPartsOfAnAddress) {
+  Bundle bundle = SampleBundle();
+  bundle.machine = "grim_holt.vexmoor";
+  bundle.runs[1].result.output = "[1] zed@GRIM_HOLT of VEXMOOR\n";
+  EXPECT_THAT(MaskBundle(bundle, Seeded()).runs[1].result.output,
+              testing::AllOf(Not(HasSubstr("GRIM")), Not(HasSubstr("HOLT")), Not(HasSubstr("VEXMOOR"))));
+  bundle.machine = "10.20.1.3";
+  bundle.runs[1].result.output = "Firmware : 20.1.3\n";
+  EXPECT_EQ(MaskBundle(bundle, Seeded()).runs[1].result.output, bundle.runs[1].result.output);
+}
+
+TEST(BundleMask, UsesOneMaskForANameInEitherEncoding) {
+  Bundle bundle = SampleBundle();
+  bundle.runs[0].result.output = "   Logical drive name : Kn\u00e4ckebrot\n";
+  bundle.runs[1].result.output =
+      "   Logical drive name : Kn\xe4"
+      "ckebrot\n";
+  const Bundle masked = MaskBundle(bundle, Seeded());
+  EXPECT_EQ(masked.runs[0].result.output, AsUtf8(masked.runs[1].result.output));
 }
 
 TEST(BundleMask, LeavesAnEmptyBundleUnchanged) {

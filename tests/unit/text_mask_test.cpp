@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include "host/hxahost/bundle/folded_text.h"
 #include "host/hxahost/text/utf8.h"
 
 namespace {

@@ -1,12 +1,14 @@
 #include "host/hxahost/bundle/bundle_mask.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstddef>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "host/hxahost/bundle/addresses.h"
+#include "host/hxahost/bundle/folded_text.h"
 #include "host/hxahost/bundle/secrets.h"
 #include "host/hxahost/bundle/tool_words.h"
 
@@ -14,6 +16,7 @@ namespace hxahost {
 
 namespace {
 
+bool IsLetter(char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; }
 bool IsSlash(char character) { return character == '/' || character == '\\'; }
 
 std::string_view WithoutLastSlashes(std::string_view folder) {
@@ -32,15 +35,10 @@ void ForEachPart(std::string_view path, const Call& call) {
   }
 }
 
-// Secrets at their places and addresses by their form, in the order of the text. They may overlap.
-std::vector<Span> SecretSpans(std::string_view text, const SecretPlaces& places) {
-  std::vector<Span> spans = FindAddresses(text);
-  spans.insert(spans.end(), places.secrets.begin(), places.secrets.end());
-  std::ranges::sort(spans, {}, &Span::begin);
-  return spans;
-}
-
 std::size_t EndOf(const Span& span) { return span.begin + span.length; }
+
+// The length of what remains of the span at the place.
+std::size_t LengthFrom(std::size_t place, const Span& span) { return span.begin <= place ? EndOf(span) - place : 0; }
 
 // The first of the remaining spans that ends after the place.
 template <class Iterator>
@@ -67,43 +65,56 @@ class Masking {
     });
   }
 
-  // A name with a domain also occurs without it.
+  // A name with a domain also occurs without it, and the domain without the name. Numbers alone are an address.
   void LearnMachine(std::string_view machine) {
     Learn(machine);
-    Learn(machine.substr(0, machine.find('.')));
+    if (std::ranges::none_of(machine, IsLetter)) return;
+    for (std::size_t dot = machine.find('.'); dot != machine.npos; dot = machine.find('.')) {
+      Learn(machine.substr(0, dot));
+      machine.remove_prefix(dot + 1);
+      Learn(machine);
+    }
   }
 
   void SortSecrets() { secrets_.Sort(); }
 
   // Masks each part of a path separately, so that longer paths begin with the same masked folder.
-  void MaskWhole(std::string& secret) {
-    const std::string original = secret;
-    ForEachPart(original, [&](const Span& part) {
-      secret.replace(part.begin, part.length, mask_.Mask(original.substr(part.begin, part.length)));
+  std::string Masked(std::string_view secret) {
+    std::string masked(secret);
+    ForEachPart(secret, [&](const Span& part) {
+      masked.replace(part.begin, part.length, mask_.Mask(secret.substr(part.begin, part.length)));
     });
+    return masked;
   }
 
+  void MaskWhole(std::string& secret) { secret = Masked(secret); }
+
   void MaskText(std::string& text, const SecretPlaces& places) {
-    const std::string original = text;
-    const std::string folded = FoldCase(text);
-    const std::vector<Span> spans = SecretSpans(original, places);
-    auto next = spans.begin();
+    const std::vector<Span> addresses = FindAddresses(text);
+    auto value = places.secrets.begin();
+    auto address = addresses.begin();
     auto prose = places.prose.begin();
-    for (std::size_t place = 0; place < original.size();) {
-      next = SkipBefore(next, spans.end(), place);
+    std::string masked;
+    while (masked.size() < text.size()) {
+      const std::size_t place = masked.size();
+      value = SkipBefore(value, places.secrets.end(), place);
+      address = SkipBefore(address, addresses.end(), place);
       prose = SkipBefore(prose, places.prose.end(), place);
-      const std::size_t nextBegin = next == spans.end() ? original.size() : next->begin;
       const bool isProse = prose != places.prose.end() && prose->begin <= place;
-      const std::size_t length = nextBegin <= place
-                                     ? EndOf(*next) - place
-                                     : std::min(secrets_.LengthAt(original, folded, place, isProse), nextBegin - place);
-      if (length > 0) {
-        std::string secret = original.substr(place, length);
-        MaskWhole(secret);
-        text.replace(place, length, secret);
+      const Span rest = {text.size(), 0};
+      const Span& next = value == places.secrets.end() ? rest : *value;
+      std::size_t length = LengthFrom(place, next);
+      if (length == 0) {
+        length = LengthFrom(place, address == addresses.end() ? rest : *address);
+        length = std::min(LengthWithNames(text, place, length, isProse), next.begin - place);
       }
-      place += std::max<std::size_t>(length, 1);
+      if (length == 0) {
+        masked += text[place];
+      } else {
+        masked += Masked(std::string_view(text).substr(place, length));
+      }
     }
+    text = std::move(masked);
   }
 
   void MaskToolText(std::string& text) { MaskText(text, FindInToolText(text, scope_)); }
@@ -119,6 +130,13 @@ class Masking {
   }
 
  private:
+  // The length of what is masked at the place: an address of that length, and the names that begin in it.
+  std::size_t LengthWithNames(std::string_view text, std::size_t place, std::size_t length, bool isProse) const {
+    std::size_t end = place + secrets_.LengthAt(text, place, isProse);
+    while (end < place + length) end += std::max<std::size_t>(secrets_.LengthAt(text, end, isProse), 1);
+    return end - place;
+  }
+
   Secrets secrets_;
   TextMask mask_;
   MaskScope scope_;

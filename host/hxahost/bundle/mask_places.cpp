@@ -2,40 +2,48 @@
 
 #include <algorithm>
 
-#include "host/hxahost/bundle/text_mask.h"
+#include "host/hxahost/bundle/folded_text.h"
 
 namespace hxahost {
 
 namespace {
 
+enum class LabelPlace {
+  kAnywhere,  // in a line with a colon after it, as parsers find it
+  kAtFirst,   // before the first colon: it is also a part of values ("Serial ATA")
+};
+
 struct MaskedLabel {
-  std::string_view label;     // the line begins with it, after blanks
-  std::size_t from = 0;       // characters after the colon that are left
-  std::size_t shortest = 1;   // shorter values are left
-  std::string_view ofDevice;  // only of devices whose type contains this
+  std::string_view label;
+  LabelPlace place = LabelPlace::kAnywhere;
+  std::size_t from = 0;      // characters after the colon that are left
+  std::size_t shortest = 1;  // shorter values are left
   MaskScope scope = MaskScope::kNames;
 };
 
+constexpr auto kAnywhere = LabelPlace::kAnywhere;
+constexpr auto kAtFirst = LabelPlace::kAtFirst;
 constexpr auto kNames = MaskScope::kNames;
 constexpr auto kAll = MaskScope::kAll;
 
+constexpr std::string_view kIdentifier = "Device ID";
+
 // Values that name an object permanently, or that people chose. Not masked: vendors, models, sizes, states, versions
 // ("EC Version#" too), part numbers of whole controllers, slots, channels, and the letters of arrays, which the tool
-// assigns. In the identifier of a hard disk the serial number follows model and firmware; its first character is the
-// last one of the firmware, and is not masked. Other devices have no serial number there.
+// assigns. In the identifier of a device the serial number follows model and firmware; its first character is the last
+// one of the firmware, and is not masked.
 constexpr MaskedLabel kLabels[] = {
-    {"Controller Serial Number", 0,  1, "",          kNames},
-    {"Serial",                   0,  1, "",          kNames}, // number
-    {"World-wide name",          0,  1, "",          kNames},
-    {"FRU",                      0,  1, "",          kAll  }, // and part number
-    {"Controller FRU",           0,  1, "",          kAll  },
-    {"Battery FRU",              0,  1, "",          kAll  },
-    {"VPD Assigned",             0,  1, "",          kNames},
-    {"Controller name",          0,  1, "",          kNames},
-    {"Logical drive name",       0,  1, "",          kNames},
-    {"Array name",               0,  1, "",          kNames},
-    {"Enclosure ID",             0,  5, "",          kNames}, // "0" is a place, "5000F0A0001B4000" a permanent name
-    {"Device ID",                21, 1, "Hard disk", kNames}, // " TALVERA T36LW10 S96H8B01234"
+    {"Controller Serial Number", kAnywhere, 0,  1, kNames},
+    {"Serial number",            kAnywhere, 0,  1, kNames},
+    {"Serial",                   kAtFirst,  0,  1, kNames},
+    {"World-wide name",          kAnywhere, 0,  1, kNames},
+    {"FRU",                      kAtFirst,  0,  1, kAll  }, // of devices, "Controller FRU", "Battery FRU"
+    {"VPD Assigned",             kAnywhere, 0,  1, kNames},
+    {"Controller name",          kAnywhere, 0,  1, kNames},
+    {"Logical drive name",       kAnywhere, 0,  1, kNames},
+    {"Array name",               kAnywhere, 0,  1, kNames},
+    {"Enclosure ID",             kAnywhere, 0,  5, kNames}, // "0" is a place, "5000F0A0001B4000" a permanent name
+    {kIdentifier,                kAnywhere, 21, 1, kNames}, // " TALVERA T36LW10 S96H8B01234"
 };
 
 // Values that tools print if there is none.
@@ -43,6 +51,7 @@ constexpr std::string_view kNoValues[] = {"None", "N/A", "Not Available", "Not A
 
 constexpr std::string_view kSpaceInLine = " \t\r";
 constexpr std::string_view kDeviceType = "Device is a";
+constexpr std::string_view kTape = "Tape";
 constexpr char kLogEntry = '[';  // "[00004] 0005:17:54:33 SAS phy 8: device timeout, reset 1 of 3"
 
 // Calls back with each line, without its line feed, and where it begins.
@@ -62,34 +71,71 @@ Span TrimmedSpan(std::string_view text, std::size_t begin, std::size_t end) {
   return {begin, end - begin};
 }
 
-// A value to be masked, and the place of its label in the line.
-struct LabelledValue {
-  Span value;
-  std::size_t label = 0;
+// A label in a line, and the colon after it.
+struct Label {
+  const MaskedLabel* row = nullptr;
+  std::size_t begin = 0;
+  std::size_t colon = 0;
 };
 
-// The value of a line to be masked, by its label; its length is 0 if the line has none.
-LabelledValue ValueToMask(std::string_view line, std::string_view deviceType, MaskScope scope) {
-  const std::size_t first = line.find_first_not_of(kSpaceInLine);
-  const std::size_t colon = line.find(':');
-  if (first == line.npos || colon == line.npos) return {};
-  const std::string_view label = line.substr(first, std::max(colon, first) - first);
+// The labels of a line that have a colon, in their order; one for each colon.
+std::vector<Label> LabelsOf(std::string_view line, MaskScope scope) {
+  const std::size_t firstColon = line.find(':');
+  std::vector<Label> found;
+  if (firstColon == line.npos) return found;
   for (const MaskedLabel& row : kLabels) {
-    if (row.scope > scope || !label.starts_with(row.label) || deviceType.find(row.ofDevice) == deviceType.npos)
-      continue;
-    const Span value = TrimmedSpan(line, std::min(colon + 1 + row.from, line.size()), line.size());
-    const bool isNone = std::ranges::count(kNoValues, line.substr(value.begin, value.length)) > 0;
-    return value.length < row.shortest || isNone ? LabelledValue{} : LabelledValue{value, first};
+    if (row.scope > scope) continue;
+    const std::string_view searched = row.place == kAtFirst ? line.substr(0, firstColon) : line;
+    for (std::size_t begin = searched.find(row.label); begin != line.npos;
+         begin = searched.find(row.label, begin + row.label.size())) {
+      found.push_back({&row, begin, 0});
+    }
   }
-  return {};
+  std::ranges::stable_sort(found, {}, &Label::begin);
+  std::vector<Label> labels;
+  std::size_t colon = firstColon;
+  for (Label& label : found) {
+    if (colon < label.begin) colon = line.find(':', label.begin);
+    if (colon == line.npos) break;
+    label.colon = colon;
+    if (labels.empty() || labels.back().colon != colon) labels.push_back(label);
+  }
+  return labels;
 }
 
-// A value may be wrapped: its continuation line begins after the label's column and has no label of its own, unless it
-// is below the value.
+// A value to be masked, and the place of the first text in its line.
+struct LabelledValue {
+  Span value;
+  std::size_t first = 0;
+};
+
+// A tape's identifier ends with its firmware alone: there are blanks before it.
+bool IsOfTape(std::string_view identifier, std::string_view deviceType) {
+  constexpr std::size_t kFirmwareEnd = 20;
+  return deviceType.find(kTape) != deviceType.npos && identifier.substr(0, kFirmwareEnd + 1).ends_with(' ');
+}
+
+// The values of a line to be masked, by their labels. Each ends where the next label begins.
+std::vector<LabelledValue> ValuesToMask(std::string_view line, std::string_view deviceType, MaskScope scope) {
+  const std::vector<Label> labels = LabelsOf(line, scope);
+  std::vector<LabelledValue> values;
+  for (std::size_t index = 0; index < labels.size(); ++index) {
+    const auto& [row, begin, colon] = labels[index];
+    const std::size_t end = index + 1 < labels.size() ? labels[index + 1].begin : line.size();
+    if (row->label == kIdentifier && IsOfTape(line.substr(colon + 1), deviceType)) continue;
+    const Span value = TrimmedSpan(line, std::min(colon + 1 + row->from, end), end);
+    const bool isNone = std::ranges::count(kNoValues, line.substr(value.begin, value.length)) > 0;
+    if (value.length >= row->shortest && !isNone) values.push_back({value, line.find_first_not_of(kSpaceInLine)});
+  }
+  return values;
+}
+
+// A value may be wrapped: its continuation line begins after the column of the line's label and has no label of its
+// own, unless it is below the value.
 Span WrappedValue(std::string_view line, const LabelledValue& before) {
   const Span value = TrimmedSpan(line, 0, line.size());
   const bool isBelowValue = value.begin >= before.value.begin;
-  const bool isAfterLabel = value.begin > before.label && line.find(':') == line.npos;
+  const bool isAfterLabel = value.begin > before.first && line.find(':') == line.npos;
   return before.value.length > 0 && (isBelowValue || isAfterLabel) ? value : Span{};
 }
 
@@ -100,6 +146,12 @@ bool NamesSerial(std::string_view before) {
   constexpr std::string_view kName = "serialnumber";
   while (!before.empty() && IsBlankOrEquals(before.back())) before.remove_suffix(1);
   return before.size() >= kName.size() && FoldCase(before.substr(before.size() - kName.size())) == kName;
+}
+
+// "<event text="..." />": its values are quoted. A label in "< Serial number : NV3" is found all the same.
+bool IsElement(std::string_view line) {
+  const std::size_t first = line.find_first_not_of(kSpaceInLine);
+  return first != line.npos && line[first] == '<' && line.find('=') < line.find(':');
 }
 
 // "<deadDrive serialNumber="NV3LE77Q2H" failureReason='device not responding' />": every quoted text is prose.
@@ -127,11 +179,14 @@ SecretPlaces FindInToolText(std::string_view text, MaskScope scope) {
     const char start = first == line.npos ? ' ' : line[first];
     if (start == kLogEntry) places.prose.push_back({begin, line.size()});
     if (start == '<' || start == 's' || start == kLogEntry) AddAttributes(line, begin, places);
-    const LabelledValue labelled = ValueToMask(line, deviceType, scope);
-    const Span value = labelled.value.length > 0 ? labelled.value : WrappedValue(line, before);
-    if (value.length > 0 && start != '<') places.secrets.push_back({begin + value.begin, value.length});
-    if (labelled.value.length > 0 || value.length == 0) before = labelled;
+    const std::vector<LabelledValue> values =
+        IsElement(line) ? std::vector<LabelledValue>() : ValuesToMask(line, deviceType, scope);
+    for (const auto& [value, place] : values) places.secrets.push_back({begin + value.begin, value.length});
+    const Span wrapped = values.empty() && start != '<' ? WrappedValue(line, before) : Span{};
+    if (wrapped.length > 0) places.secrets.push_back({begin + wrapped.begin, wrapped.length});
+    if (wrapped.length == 0) before = values.empty() ? LabelledValue{} : values.back();
   });
+  std::ranges::sort(places.secrets, {}, &Span::begin);
   return places;
 }
 

@@ -18,7 +18,7 @@ struct Span {
 enum class MaskScope { kNames, kAll };
 
 struct SecretPlaces {
-  std::vector<Span> secrets;  // in their order, without overlaps
+  std::vector<Span> secrets;  // in their order
   std::vector<Span> prose;    // sentences, which may quote any secret; the other text is searched by its words
 };
 

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "host/hxahost/bundle/folded_text.h"
 
 // The secrets of a bundle, searched for in all of its texts.
 namespace hxahost {
@@ -17,9 +18,9 @@ class Secrets {
   // Call it after the last Add and before the first search.
   void Sort();
 
-  // The length of the longest secret at this place of the text; 0 if there is none. The folded text is that of
-  // FoldCase. In prose, a word that equals a name is masked, too.
-  std::size_t LengthAt(std::string_view text, std::string_view folded, std::size_t place, bool isProse) const;
+  // The length of the longest secret at this place of the text, in any letter case and either encoding; 0 if there is
+  // none. In prose, a word that equals a name is masked, too.
+  std::size_t LengthAt(std::string_view text, std::size_t place, bool isProse) const;
 
  private:
   // Where a secret is masked.
@@ -29,13 +30,16 @@ class Secrets {
     kInProse,      // it is a word of the tools, or a short number
   };
   struct Secret {
-    std::string folded;
+    std::u32string folded;
     Where where = Where::kAnywhere;
   };
 
-  static Where WhereCounts(std::string_view folded);
+  static Where WhereCounts(std::u32string_view folded);
+  void AddFolded(std::u32string_view folded);
+  std::size_t LengthAt(std::string_view text, std::size_t place, bool isProse, Reading reading) const;
 
   std::vector<Secret> secrets_;  // sorted after Sort
+  bool hasOtherThanAscii_ = false;
 };
 
 }  // namespace hxahost

@@ -3,33 +3,57 @@
 #include <algorithm>
 #include <random>
 
-#include "host/hxahost/text/utf8.h"
+#include "host/hxahost/bundle/folded_text.h"
 
 namespace hxahost {
 
 namespace {
 
-bool IsLower(char character) { return character >= 'a' && character <= 'z'; }
-bool IsUpper(char character) { return character >= 'A' && character <= 'Z'; }
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+constexpr char32_t kAsciiEnd = 0x80;
 
-char Lower(char character) { return IsUpper(character) ? static_cast<char>(character - 'A' + 'a') : character; }
-char Upper(char character) { return IsLower(character) ? static_cast<char>(character - 'a' + 'A') : character; }
+bool IsLower(char32_t code) { return code >= 'a' && code <= 'z'; }
+bool IsUpper(char32_t code) { return code >= 'A' && code <= 'Z'; }
+bool IsDigit(char32_t code) { return code >= '0' && code <= '9'; }
+
+char32_t Upper(char32_t code) { return IsLower(code) ? code - 'a' + 'A' : code; }
 
 // Without vowels a mask is never a word by which the tools' texts are read ("State", "BIOS", "PFA", "FRU").
-constexpr std::string_view kLetters = "bcdghjklmnpqrstvwxz";
-constexpr std::string_view kEveryLetter = "abcdefghijklmnopqrstuvwxyz";
-constexpr std::string_view kDigits = "0123456789";
+constexpr std::u32string_view kLetters = U"bcdghjklmnpqrstvwxz";
+constexpr std::u32string_view kEveryLetter = U"abcdefghijklmnopqrstuvwxyz";
+constexpr std::u32string_view kDigits = U"0123456789";
+
+// Letters beyond ASCII, by the number of their bytes in UTF-8; those of two bytes are in ISO 8859-1, too.
+struct FurtherLetters {
+  char32_t end;  // of the codes of so many bytes
+  char32_t first;
+  std::uint32_t count;
+};
+
+constexpr FurtherLetters kFurtherLetters[] = {
+    {0x800,    0xe0,    0x17  },
+    {0x10000,  0x4e00,  0x5000},
+    {0x110000, 0x20000, 0xa000},
+};
 
 // The next text with the same kinds of characters, like an odometer; the first after the last.
-void GoOn(std::string& text) {
+void GoOn(std::u32string& text) {
   for (auto character = text.rbegin(); character != text.rend(); ++character) {
-    const std::string_view kind = IsDigit(*character) ? kDigits : kEveryLetter;
+    const std::u32string_view kind = IsDigit(*character) ? kDigits : kEveryLetter;
     if (!IsDigit(*character) && !IsLower(*character)) continue;
     const std::size_t next = kind.find(*character) + 1;
     *character = kind[next % kind.size()];
     if (next < kind.size()) return;
   }
+}
+
+// The mask of a character in as many bytes as it has.
+std::string Written(char32_t mask, std::string_view bytes) {
+  const auto first = static_cast<unsigned char>(bytes.front());
+  if (bytes.size() == 1 && first >= kAsciiEnd && mask >= kAsciiEnd) return {static_cast<char>(mask)};
+  std::string written;
+  AppendUtf8(written, IsUpper(first) ? Upper(mask) : mask);
+  if (written.size() > bytes.size()) written.clear();
+  return written.append(bytes.size() - written.size(), 'x');
 }
 
 }  // namespace
@@ -42,56 +66,31 @@ RandomSource SystemRandom() {
   return [engine = std::mt19937(seed)]() mutable { return static_cast<std::uint32_t>(engine()); };
 }
 
-// The number of bytes and their places stay. In UTF-8 an upper case letter of ISO 8859-1 is 0xc3 and 0x80 to 0x9e.
-std::string FoldCase(std::string_view text) {
-  std::string folded(text);
-  const bool isUtf8 = AsUtf8(text) == text;
-  bool isSecondByte = false;
-  for (char& character : folded) {
-    const auto byte = static_cast<unsigned char>(character);
-    const unsigned code = isSecondByte ? byte + 0x40U : isUtf8 ? 0 : byte;
-    isSecondByte = isUtf8 && byte == 0xc3;
-    if (code >= 0xc0 && code <= 0xde && code != 0xd7) {
-      character = static_cast<char>(byte + 0x20);
+std::u32string TextMask::Draw(std::u32string_view folded) {
+  const auto oneOf = [this](std::u32string_view kind) { return kind[random_() % kind.size()]; };
+  std::u32string mask;
+  for (const char32_t code : folded) {
+    if (IsDigit(code) || IsLower(code)) {
+      mask += oneOf(IsDigit(code) ? kDigits : kLetters);
+    } else if (code < kAsciiEnd) {
+      mask += code;
     } else {
-      character = character == '\\' ? '/' : Lower(character);
-    }
-  }
-  return folded;
-}
-
-// Characters beyond ASCII become letters beyond ASCII of the same length: "e" with an accent in UTF-8 or ISO 8859-1.
-std::string TextMask::Draw(std::string_view folded) {
-  const bool isUtf8 = AsUtf8(folded) == folded;
-  std::string mask;
-  for (std::size_t index = 0; index < folded.size(); ++index) {
-    const char character = folded[index];
-    const auto byte = static_cast<unsigned char>(character);
-    const std::string_view kind = IsDigit(character) ? kDigits : kLetters;
-    if (IsDigit(character) || IsLower(character)) {
-      mask += kind[random_() % kind.size()];
-    } else if (byte < 0x80) {
-      mask += character;
-    } else if (!isUtf8) {
-      mask += static_cast<char>(0xe0 + random_() % 0x17);
-    } else if (byte < 0xc0) {
-      mask += static_cast<char>(0xa0 + random_() % 0x17);  // a middle or last byte that is valid after every first byte
-    } else {
-      mask += static_cast<char>(byte < 0xe0 ? 0xc3 : byte < 0xf0 ? 0xe5 : 0xf1);
+      const auto* const letters = std::ranges::upper_bound(kFurtherLetters, code, {}, &FurtherLetters::end);
+      mask += letters->first + random_() % letters->count;
     }
   }
   return mask;
 }
 
 // Short texts have few masks: if chance finds no free one, the next free one is taken.
-std::string TextMask::Choose(std::string_view folded) {
+std::u32string TextMask::Choose(std::u32string_view folded) {
   constexpr int kDraws = 100;
-  std::string mask;
+  std::u32string mask;
   for (int draw = 0; draw < kDraws; ++draw) {
     mask = Draw(folded);
     if (mask != folded && !given_.contains(mask)) return mask;
   }
-  const std::string first = mask;
+  const std::u32string first = mask;
   while (given_.contains(mask)) {
     GoOn(mask);
     if (mask == first) break;  // more texts than masks, as for texts whose characters all stay
@@ -100,16 +99,18 @@ std::string TextMask::Choose(std::string_view folded) {
 }
 
 std::string TextMask::Mask(std::string_view text) {
-  const std::string folded = FoldCase(text);
+  const std::u32string folded = FoldedCharacters(text);
   auto known = masks_.find(folded);
   if (known == masks_.end()) {
     known = masks_.emplace(folded, Choose(folded)).first;
     given_.insert(known->second);
   }
-  std::string mask = known->second;
-  for (std::size_t index = 0; index < text.size(); ++index) {
-    if (IsUpper(text[index])) mask[index] = Upper(mask[index]);
-    if (text[index] == '\\') mask[index] = '\\';
+  std::string mask;
+  for (const char32_t code : known->second) {
+    const auto [original, length] = FirstCharacter(text);
+    const std::string_view bytes = text.substr(0, length);
+    mask += code == Folded(original) && code < kAsciiEnd ? std::string(bytes) : Written(code, bytes);
+    text.remove_prefix(length);
   }
   return mask;
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <variant>
 
-#include "host/hxahost/bundle/text_mask.h"
+#include "host/hxahost/bundle/folded_text.h"
 #include "tools/known_tools.h"
 
 namespace hxahost {

@@ -21,7 +21,7 @@ bool IsUtf8(std::string_view text) {
 
 std::string FromLatin1(std::string_view bytes) {
   std::string text;
-  for (const char byte : bytes) Utf8::encode(static_cast<unsigned char>(byte), std::back_inserter(text));
+  for (const char byte : bytes) AppendUtf8(text, static_cast<unsigned char>(byte));
   return text;
 }
 
@@ -33,6 +33,8 @@ Character NextCharacter(std::string_view utf8) {
   if (!boost::locale::utf::is_valid_codepoint(code)) return {};
   return {code, static_cast<std::size_t>(next - utf8.data())};
 }
+
+void AppendUtf8(std::string& text, char32_t code) { Utf8::encode(code, std::back_inserter(text)); }
 
 std::string AsUtf8(std::string_view bytes) { return IsUtf8(bytes) ? std::string(bytes) : FromLatin1(bytes); }
 

@@ -21,6 +21,8 @@ struct Character {
 // every loop over characters advances.
 Character NextCharacter(std::string_view utf8);
 
+void AppendUtf8(std::string& text, char32_t code);
+
 // Calls back with the code and the bytes of each character.
 template <class Call>
 void ForEachCharacter(std::string_view utf8, const Call& call) {
