@@ -91,6 +91,20 @@ TEST_F(UnreadObjectsTest, AreFoundWhereTheirControllerIsNotPublished) {
   EXPECT_THAT(Found(), ElementsAre("controller 1: 1 of 2 devices not read"));
 }
 
+// Their lines are not published.
+TEST_F(UnreadObjectsTest, MayBeInAReportWithoutCarriageReturns) {
+  Publish("KVRSG_zxSCSIProtocolController", "1");
+  repository_.Publish("KVRSG_zxRawData", "Command", kArcconf, "RawResults", Texts({}));
+  EXPECT_THAT(Found(), ElementsAre("controller 1: its report has no carriage returns"));
+}
+
+TEST_F(UnreadObjectsTest, AreCountedOnLinesThatEndInALineFeedAlone) {
+  Publish("KVRSG_zxSCSIProtocolController", "1");
+  Publish("KVRSG_zxDiskDrive", "1");
+  Answer(kArcconf, {"Device #0\nState : Online\nDevice #1", "State : Failed"});
+  EXPECT_THAT(Found(), ElementsAre("controller 1: 1 of 2 devices not read"));
+}
+
 TEST_F(UnreadObjectsTest, AreNotSoughtInOtherAnswersAndClassesThatWereNotAskedFor) {
   Publish("KVRSG_zxSCSIProtocolController", "1");
   Answer("zenx//arcconf.exe getlogs 1 device", {"Device #0"});

@@ -24,7 +24,7 @@ namespace {
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
 // Findings about a controller that have no cause in common with its others.
-constexpr Effect kKinds[] = {Effect::kHeat, Effect::kBattery, Effect::kUnread};
+constexpr Effect kKinds[] = {Effect::kHeat, Effect::kBattery, Effect::kUnread, Effect::kUnchecked};
 
 // What a finding is about: a logical drive or device of a controller, or the controller as a whole.
 struct Subject {

@@ -47,7 +47,8 @@ enum class Effect {
   kErrors,     // counted on a disk
   kCounted,    // by a controller: the failure of an object that reports it itself
   kController,
-  kUnread,  // an object, or some objects of a controller
+  kUnread,     // an object, or some objects of a controller
+  kUnchecked,  // whether all objects of a controller were read
   kHeat,
   kBattery,
 };

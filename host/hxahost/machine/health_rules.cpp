@@ -99,6 +99,8 @@ constexpr Meaning kTooFew = {"fewer controllers were published than answered",
                              "list the answers with hxahost query --runs"};
 constexpr Meaning kUnread = {"what was not read may have failed",
                              "run the utility by hand and send a bundle; see hxahost query --unread", Effect::kUnread};
+constexpr Meaning kUnchecked = {"whether all of it was read cannot be checked",
+                                "run the utility by hand and send a bundle", Effect::kUnchecked};
 constexpr Meaning kNothingKnown = {"nothing is known about this machine", "check the folder zenx"};
 constexpr Meaning kCollectionEnded = {"the rest of the collection is missing", "see the log with hxahost query"};
 constexpr Meaning kLegacyEnded = {"this controller and those after it are not shown", "run qcmdrun by hand"};
@@ -251,6 +253,7 @@ constexpr HealthRule kRules[] = {
     {&kAnswers,          "no tool was run",         "",    kAll,     kUnknown,  kNothingKnown,      kAnywhere        },
 
     {&kListed,           "not published",           "",    kAll,     kUnknown,  kUnread,            kAnywhere        },
+    {&kListed,           "no carriage returns",     "",    kAll,     kUnknown,  kUnchecked,         kAnywhere        },
 
     {&kBaselinePresence, "missing",                 "",    kAll,     kCritical, kGone,              kAnywhere        },
     {&kBaselinePresence, "not known",               "",    kAll,     kUnknown,  kNotSeen,           kAnywhere        },

@@ -58,10 +58,11 @@ struct Headline {
 };
 
 constexpr Headline kHeadlines[] = {
-    {Effect::kHeat,       "is too hot: {}"      },
-    {Effect::kBattery,    "battery: {}"         },
-    {Effect::kController, "has failed"          },
-    {Effect::kUnread,     "was read in part: {}"},
+    {Effect::kHeat,       "is too hot: {}"       },
+    {Effect::kBattery,    "battery: {}"          },
+    {Effect::kController, "has failed"           },
+    {Effect::kUnread,     "was read in part: {}" },
+    {Effect::kUnchecked,  "may be incomplete: {}"},
 };
 
 // The battery is the only part of a controller that is replaced separately.
@@ -101,9 +102,10 @@ struct Part {
 
 // Parts of a controller that have incidents of their own.
 constexpr Part kParts[] = {
-    {Effect::kHeat,    " temperature"},
-    {Effect::kBattery, " battery"    },
-    {Effect::kUnread,  " unread"     },
+    {Effect::kHeat,      " temperature"},
+    {Effect::kBattery,   " battery"    },
+    {Effect::kUnread,    " unread"     },
+    {Effect::kUnchecked, " unchecked"  },
 };
 
 // The identifier of the first logical drive or device, else of the object that reports it. Values and severities are

@@ -3,6 +3,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <fmt/core.h>
@@ -38,8 +39,7 @@ std::size_t CountListed(const ToolText& text, const Kind& kind) {
   const std::string_view label = LabelsOf(*text.tool, kind.className, kind.property).front().label;
   std::size_t count = 0;
   bool isHeaded = false;
-  for (const std::string& line : text.lines) {
-    const std::string_view words = Trim(line);
+  const auto take = [&](std::string_view words) {
     if (words.starts_with(head)) {
       ++count;
       isHeaded = true;
@@ -47,6 +47,10 @@ std::size_t CountListed(const ToolText& text, const Kind& kind) {
       if (!isHeaded) ++count;
       isHeaded = false;
     }
+  };
+  // Published lines end where a carriage return was: one of them may have several lines.
+  for (const std::string& line : text.lines) {
+    for (const std::string_view each : Split(line, "\n")) take(Trim(each));
   }
   return count;
 }
@@ -80,14 +84,20 @@ void AddUnread(const Machine& machine, const std::vector<ToolText>& texts, const
   }
 }
 
-Finding AsFinding(const Controller& controller, const std::string& unread) {
-  const HealthRule& rule = RuleFor(kListed, "not published");
+// Text without carriage returns is not published as lines.
+void AddUnchecked(const std::vector<ToolText>& texts, Texts& unchecked) {
+  for (const ToolText& text : texts) {
+    if (text.lines.empty()) unchecked[text.controller] = "its report has no carriage returns";
+  }
+}
+
+Finding AsFinding(const Controller& controller, const HealthRule& rule, const std::string& text) {
   Finding finding{SeverityOf(rule.level),
                   std::string(kControllerClass),
                   "Zentraxis" + controller.number,
                   "controller " + controller.number,
                   std::string(kListed.property),
-                  unread,
+                  text,
                   rule.meaning};
   if (controller.units.empty()) return finding;
   const ControllerUnit& unit = controller.units.front();
@@ -97,22 +107,30 @@ Finding AsFinding(const Controller& controller, const std::string& unread) {
   return finding;
 }
 
+void AddFindings(const Machine& machine, std::string_view word, Texts texts, Findings& findings) {
+  for (const Controller& controller : machine.controllers) {
+    const auto found = texts.find(controller.number);
+    if (found == texts.end()) continue;
+    findings.push_back(AsFinding(controller, RuleFor(kListed, word), found->second));
+    texts.erase(found);
+  }
+}
+
 }  // namespace
 
 Findings UnreadObjects(const Machine& machine, const QueryHeader& header, const InstanceList& instances) {
   if (!IsAskedFor(header, kRawDataClass)) return {};
   const std::vector<ToolText> texts = ReadConfigurations(instances);
   Texts unread;
+  Texts unchecked;
   for (const Kind& kind : kKinds) {
-    if (IsAskedFor(header, kind.className)) AddUnread(machine, texts, kind, unread);
+    if (!IsAskedFor(header, kind.className)) continue;
+    AddUnread(machine, texts, kind, unread);
+    AddUnchecked(texts, unchecked);
   }
   Findings findings;
-  for (const Controller& controller : machine.controllers) {
-    const auto found = unread.find(controller.number);
-    if (found == unread.end()) continue;
-    findings.push_back(AsFinding(controller, found->second));
-    unread.erase(found);
-  }
+  AddFindings(machine, "not published", std::move(unread), findings);
+  AddFindings(machine, "no carriage returns", std::move(unchecked), findings);
   return findings;
 }
 
