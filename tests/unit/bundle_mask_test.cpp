@@ -116,6 +116,7 @@ Bundle Planted() {
       "<event text=\"Smyrnov &amp; Zonk, SMYRNOV &#38; ZONK: //vexmoor.example/x, GRIMHOLT@fen_brook\" />\n"
       "[00007] j\u00fcrgen@ex\u00e4mple.de, 5000-C500-1A2B-3C4D, MAC 001B21AABBCD, MAC address=001b21aabbce\n"
       "[00008] eui.00253858910A1B2C, naa.3000C5001A2B3C4D, ::21b:21ff:feaa:bbcd, unit of quibser77a\n"
+      "[00010] ::ffff:10.73.64.55, [64:ff9b::10.73.64.55]:443, 2001:db8:1:2:3:4:10.73.64.56\n"
       "[00009] 0005:17:54:33 dump 001B21AABBC7 ::12, 1000-2000-3000-4000: 12345678ABCDEF01\n"
       "   Firmware : 4.2.10.1\n   Device driver version : 4.2.10.2\n[00003] BIOS 4.2.10.3/4.2.10.4, not 1.4.2.10.5\n";
   bundle.runs[2].failure->message =
@@ -199,6 +200,10 @@ TEST(BundleMask, LeavesNoNameNumberOrAddressOfAnyFieldAnywhere) {
       "00253858910a1b2c",
       "3000c5001a2b3c4d",
       "::21b:21ff:feaa:bbcd",
+      "73.64.5",
+      "::ffff:",
+      "64:ff9b::",
+      "2001:db8:1",
   };
   for (const char* const word : words) {
     EXPECT_THAT(before, HasSubstr(word));

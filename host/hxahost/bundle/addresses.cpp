@@ -147,8 +147,8 @@ std::size_t Ip4Length(std::string_view text, std::size_t place) {
   return continues || IsAfterVersionWord(text, place) ? 0 : static_cast<std::size_t>(end - text.data()) - place;
 }
 
-// "fe80::21b:21ff:feaa:bbcc", "::21b:21ff:feaa:bbcc": eight groups of up to four hexadecimal digits, or at least two
-// groups with "::" for the others.
+// "fe80::21b:21ff:feaa:bbcc", "::ffff:10.20.30.40": eight groups of up to four hexadecimal digits, of which the last
+// two may be written as an IPv4 address, or at least two groups with "::" for the others.
 std::size_t Ip6Length(std::string_view text, std::size_t place) {
   constexpr std::size_t kGroups = 8;
   constexpr std::size_t kDigits = 4;
@@ -158,6 +158,11 @@ std::size_t Ip6Length(std::string_view text, std::size_t place) {
   bool isShort = text.substr(place).starts_with("::");
   for (std::size_t next = isShort ? place + 2 : place; HexDigits(text, next, kDigits) > 0 && groups <= kGroups;
        ++groups) {
+    if (const std::size_t ip4 = Ip4Length(text, next); ip4 > 0) {
+      end = next + ip4;
+      groups += 2;
+      break;
+    }
     end = next + HexDigits(text, next, kDigits);
     if (end - next > kDigits || !text.substr(end).starts_with(':')) {
       next = text.size();
