@@ -104,17 +104,19 @@ TEST_F(FleetCommand, TakesItsOwnLinesAgain) {
   EXPECT_EQ(Run({file}).out, Run({File("DB01.bundle"), File("DB02.bundle")}).out);
 }
 
-// As a job does that writes every night into the folder that it reads.
-TEST_F(FleetCommand, DoesNotReadTheOutputThatItReplaces) {
+// It might replace the result of a machine, and the next fleet would read it.
+TEST_F(FleetCommand, WritesNoResultIntoAFolderThatItReads) {
   WriteMachine("DB01", "arcconf-newer-healthy");
-  for (const char* const format : {"jsonl", "json"}) {
-    const std::string output = File(std::string("all.") + format);
-    ASSERT_EQ(Run({"--format", format, "--output", output, Folder()}).exitStatus, 0);
-    const std::string first = FileText(output);
-    EXPECT_EQ(Run({"--format", format, "--output", output, Folder()}).exitStatus, 0);
-    EXPECT_TRUE(FileText(output) == first) << format;
-    std::filesystem::remove(output);
+  std::filesystem::create_directory(folder_.Path() / "sub");
+  for (const char* const name : {"DB01.bundle", "all.jsonl", "sub/all.JSON"}) {
+    const std::string before = FileText(folder_.Path() / "DB01.bundle");
+    const ProgramResult result = Run({"--format", "json", "--output", File(name), Folder()});
+    EXPECT_EQ(result.exitStatus, 2) << name;
+    EXPECT_THAT(result.err, HasSubstr("where results are read: name a file in another folder."));
+    EXPECT_TRUE(FileText(folder_.Path() / "DB01.bundle") == before);
   }
+  EXPECT_EQ(Run({"--format", "csv", "--output", File("all.csv"), Folder()}).exitStatus, 0);
+  EXPECT_EQ(Run({"--format", "json", "--output", File("all.json"), File("sub")}).exitStatus, 4);
 }
 
 TEST_F(FleetCommand, WritesAPageThatLinksToTheNewestReportOfEachMachine) {

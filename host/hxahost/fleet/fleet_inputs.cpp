@@ -11,6 +11,7 @@
 
 #include "host/hxahost/diff/diff_source.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -101,12 +102,19 @@ std::vector<FleetInput> InputsAt(const fs::path& path, std::uint64_t largest) {
 
 }  // namespace
 
-FleetInputs::FleetInputs(const std::vector<fs::path>& paths, std::uint64_t largest, const fs::path& output)
-    : largest_(largest) {
+FleetInputs::FleetInputs(const std::vector<fs::path>& paths, std::uint64_t largest) : largest_(largest) {
   for (const fs::path& path : paths) std::ranges::move(InputsAt(path, largest), std::back_inserter(files_));
+}
+
+bool IsReadFrom(const fs::path& folder, const fs::path& file) {
+  if (!IsResultName(file)) return false;
   std::error_code error;
-  if (!fs::exists(output, error)) return;
-  std::erase_if(files_, [&](const FleetInput& input) { return fs::equivalent(input.file, output, error); });
+  fs::path above = PlaceOf(file);
+  while (above.has_relative_path()) {
+    above = above.parent_path();
+    if (fs::equivalent(above, folder, error)) return true;
+  }
+  return false;
 }
 
 // Opens the file if it contains JSON lines.

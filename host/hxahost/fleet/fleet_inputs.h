@@ -24,14 +24,13 @@ struct FleetInput {
 };
 
 // The collections in files and folders, in the order of the names. In a folder and its subfolders, only files that end
-// in .json, .jsonl or .bundle are read; links to folders are not followed. The output that a fleet replaces there is no
-// input. What cannot be listed or read is an input with the failure.
+// in .json, .jsonl or .bundle are read; links to folders are not followed. What cannot be listed or read is an input
+// with the failure.
 class FleetInputs {
  public:
-  // Reads at most so many bytes of a file, and of each collection in a file of JSON lines. The output may be "". Throws
-  // ProgramError (wrong arguments) for a path that does not exist.
-  FleetInputs(const std::vector<std::filesystem::path>& paths, std::uint64_t largest,
-              const std::filesystem::path& output);
+  // Reads at most so many bytes of a file, and of each collection in a file of JSON lines. Throws ProgramError (wrong
+  // arguments) for a path that does not exist.
+  FleetInputs(const std::vector<std::filesystem::path>& paths, std::uint64_t largest);
 
   // Empty after the last one.
   std::optional<FleetInput> Next();
@@ -48,6 +47,9 @@ class FleetInputs {
   std::ifstream lines_;            // the file before it, while it has lines
   std::optional<CollectionReader> reader_;
 };
+
+// Whether a file of this name, which need not be there, is read with the folder.
+bool IsReadFrom(const std::filesystem::path& folder, const std::filesystem::path& file);
 
 // Reads the result of the input. A bundle is replayed by a process of its own. Throws ProgramError if it does not
 // contain a result.

@@ -6,16 +6,21 @@
 #include <string>
 #include <vector>
 
+#include <fmt/core.h>
+
 #include "host/hxacore/host_services.h"
 #include "host/hxahost/fleet/fleet_pages.h"
 #include "host/hxahost/fleet/read_fleet.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_output.h"
 #include "host/hxahost/result/property_values.h"
+#include "host/hxahost/system/exit_status.h"
 #include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/terminal.h"
 #include "host/hxahost/terminal/progress.h"
 #include "host/hxahost/terminal/terminal_layout.h"
+#include "host/hxahost/text/escaping.h"
+#include "host/hxahost/text/utf8.h"
 
 namespace hxahost {
 
@@ -29,7 +34,7 @@ std::int64_t Now(const QueryOptions& options) {
 
 std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, std::ostream& out, std::ostream& err,
                  Fleet& fleet) {
-  FleetInputs inputs(options.paths, options.shown.collection.inputLimit, options.shown.output);
+  FleetInputs inputs(options.paths, options.shown.collection.inputLimit);
   const auto progress = options.shown.collection.showProgress && StandardErrorIsTerminal()
                             ? std::make_unique<Progress>(err, ProgressWidth())
                             : nullptr;
@@ -39,11 +44,20 @@ std::size_t Read(const FleetCommandOptions& options, const FleetWriter& writer, 
   return ReadFleet(inputs, options.shown.limits, writer.rows, out, fleet, begin);
 }
 
+// The next fleet would count it as a damaged file, and it might replace a result.
+void CheckIsNotRead(const std::filesystem::path& output, const std::filesystem::path& folder) {
+  if (output.empty() || !IsReadFrom(folder, output)) return;
+  throw ProgramError(ExitStatus::kWrongArguments,
+                     fmt::format("--output {} is in {}, where results are read: name a file in another folder.",
+                                 Printable(Utf8FromPath(output)), Printable(Utf8FromPath(folder))));
+}
+
 void CheckFiles(const FleetCommandOptions& options) {
   std::vector<NamedFile> inputs;
   for (const std::filesystem::path& path : options.paths) inputs.push_back({"", path});
   const NamedFile output{"--output", options.shown.output};
   CheckOutput(output, inputs);
+  for (const std::filesystem::path& path : options.paths) CheckIsNotRead(options.shown.output, path);
   CheckOutput({"--pages", options.pages}, {output});
 }
 
@@ -58,7 +72,7 @@ void CheckPages(const FleetCommandOptions& options, const Fleet& fleet) {
 std::map<std::string, std::string> WriteReports(const FleetCommandOptions& options, const Fleet& fleet) {
   if (options.pages.empty()) return {};
   CheckPages(options, fleet);
-  FleetInputs inputs(options.paths, options.shown.collection.inputLimit, options.shown.output);
+  FleetInputs inputs(options.paths, options.shown.collection.inputLimit);
   WritePages(inputs, options.shown.limits, fleet, options.pages);
   const std::filesystem::path& page = options.shown.output;
   const std::string folder = LinkBetween(page.empty() ? "." : page.parent_path(), options.pages);
