@@ -1,5 +1,9 @@
 #include "host/hxahost/text/ascii.h"
 
+#include <cstdint>
+#include <limits>
+#include <optional>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -28,6 +32,14 @@ TEST(Ascii, IsSplitAtASeparatorWithEmptyPieces) {
 TEST(Ascii, IsANumberIfItHasOnlyDigits) {
   EXPECT_TRUE(IsDigits("0190"));
   for (const char* const text : {"", "-1", "1 ", "0x1", "1.5"}) EXPECT_FALSE(IsDigits(text)) << text;
+}
+
+TEST(Ascii, CountsUpToTheGreatestNumber) {
+  constexpr auto kGreatest = std::numeric_limits<std::uint64_t>::max();
+  EXPECT_EQ(ReadCount("0042"), 42U);
+  EXPECT_EQ(ReadCount("18446744073709551615"), kGreatest);
+  EXPECT_EQ(ReadCount("18446744073709551616"), kGreatest);
+  for (const char* const text : {"", "-3", "+3", "ff", "3 ", "1.5"}) EXPECT_EQ(ReadCount(text), std::nullopt) << text;
 }
 
 }  // namespace

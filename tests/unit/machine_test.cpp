@@ -1,6 +1,8 @@
 #include "host/hxahost/machine/machine.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <sstream>
 #include <string>
 
@@ -85,7 +87,7 @@ TEST(Machine, AssignsCountsToTheLegacyUtilitysControllerIfTwoShareItsNumber) {
   repository.Publish(kDiskDrive, "ControllerNum", "3", "Channel", "0", "ScsiId", "1");
   repository.Publish(kDiskDrive, "ControllerNum", "3", "DeviceNumber", "4", "ReportedChannel", "0,1");
   repository.Publish("KVRSG_zxSCSIDeviceData", "ControllerNum", "3", "Channel", "0", "ScsiId", "1", "NumHardErrors",
-                     "4", "NumSoftErrors", "x");
+                     "4", "NumSoftErrors", "x", "NumParityErrors", "99999999999999999999");
   for (const char* const count : {"2", "0", "none"}) {
     repository.Publish("KVRSG_BadStripeData", "ControllerNum", "3", "LogicalDrive", "1", "NumBadStripes", count);
   }
@@ -96,6 +98,7 @@ TEST(Machine, AssignsCountsToTheLegacyUtilitysControllerIfTwoShareItsNumber) {
   ASSERT_TRUE(legacy.devices[0].errors);
   EXPECT_EQ(legacy.devices[0].errors->hard, 4U);
   EXPECT_EQ(legacy.devices[0].errors->soft, 0U);
+  EXPECT_EQ(legacy.devices[0].errors->parity, std::numeric_limits<std::uint64_t>::max());
   EXPECT_EQ(machine.controllers[1].logicalDrives[0].badStripes, 0U);
   EXPECT_FALSE(machine.controllers[1].devices[0].errors);
 }

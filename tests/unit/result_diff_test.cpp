@@ -88,6 +88,12 @@ TEST(ResultDiff, TakesACountThatFellForMoreThanACount) {
   EXPECT_EQ(Changes(Result({data("5")}), Result({data("")}))[0].substr(0, 8), "property");
 }
 
+TEST(ResultDiff, ComparesCountsHoweverLarge) {
+  const auto data = [](const char* errors) { return Instance("KVRSG_zxSCSIDeviceData", "s", "NumHardErrors", errors); };
+  EXPECT_EQ(Changes(Result({data("2147483647")}), Result({data("4294967296")}))[0].substr(0, 7), "counter");
+  EXPECT_EQ(Changes(Result({data("5")}), Result({data("99999999999999999999")}))[0].substr(0, 7), "counter");
+}
+
 TEST(ResultDiff, TreatsResultsAsEqualThatDifferOnlyInTimesOfCollection) {
   const auto data = [](const char* time) { return Instance("KVRSG_zxSCSIDeviceData", "s", "StatisticTime", time); };
   const ResultDiff diff = CompareResults(Result({data("1")}), Result({data("2")}));

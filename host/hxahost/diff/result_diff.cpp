@@ -1,13 +1,15 @@
 #include "host/hxahost/diff/result_diff.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cstdint>
+#include <cstdlib>
 #include <iterator>
 #include <map>
 #include <optional>
 #include <utility>
 
 #include "host/hxahost/diff/result_matching.h"
+#include "host/hxahost/text/ascii.h"
 
 namespace hxahost {
 
@@ -52,12 +54,8 @@ bool IsAmong(std::string_view name, const std::string_view (&names)[N]) {
   return std::ranges::find(names, name) != std::end(names);
 }
 
-std::optional<long> NumberOf(const Json& value) {
-  const std::string text = value.is_string() ? value.get<std::string>() : value.dump();
-  long number = 0;
-  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || stop != text.data() + text.size()) return std::nullopt;
-  return number;
+std::optional<std::uint64_t> NumberOf(const Json& value) {
+  return ReadCount(value.is_string() ? value.get<std::string>() : value.dump());
 }
 
 // A count that decreased has been reset, or belongs to another device.
@@ -114,10 +112,10 @@ Change ObjectChange(const ResultInstance& instance, ChangeGroup usual, ChangeKin
   return {ObjectGroup(instance, usual), kind, instance.className, instance.path, "", "", {}, {}};
 }
 
-using Lines = std::map<std::string, long>;  // how often each occurs
+using Lines = std::map<std::string, std::int64_t>;  // how often each occurs
 
 // Counts the lines of each command's text.
-void CountRawLines(std::map<std::string, Lines>& texts, const JsonResult& result, long times) {
+void CountRawLines(std::map<std::string, Lines>& texts, const JsonResult& result, std::int64_t times) {
   for (const ResultInstance& instance : result.instances) {
     if (!IsRawText(instance)) continue;
     Lines& lines = texts[ResultText(instance, "Command")];

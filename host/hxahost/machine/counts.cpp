@@ -1,29 +1,22 @@
 #include "host/hxahost/machine/counts.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/result/tool_names.h"
 #include "host/hxahost/schema/class_names.h"
+#include "host/hxahost/text/ascii.h"
 
 using NKVRHXA20::TPublishedInstance;
 
 namespace hxahost {
 
 namespace {
-
-std::optional<std::uint64_t> ReadCount(const std::string& text) {
-  std::uint64_t count = 0;
-  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), count);
-  return error == std::errc() && stop == text.data() + text.size() ? std::optional(count) : std::nullopt;
-}
 
 std::string KeyOf(std::string_view controller, std::string_view channel, std::string_view id) {
   return std::string(controller) + "/" + std::string(channel) + "," + std::string(id);

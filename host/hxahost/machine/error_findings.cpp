@@ -1,9 +1,8 @@
 #include "host/hxahost/machine/error_findings.h"
 
-#include <charconv>
 #include <chrono>
+#include <cstdint>
 #include <optional>
-#include <system_error>
 
 #include <fmt/core.h>
 
@@ -23,29 +22,26 @@ constexpr Meaning kHardErrors = {"it cannot read or write some sectors", "plan t
 constexpr Meaning kSoftErrors = {"it corrects many errors", "watch the disk, and plan to replace it", Effect::kErrors};
 constexpr Meaning kParityErrors = {"transfers to the disk fail", "check the cable, the terminator and the backplane",
                                    Effect::kErrors};
+constexpr Meaning kNoCount = {"its count of errors is not a number", "run the utility by hand"};
+constexpr Meaning kNoPeriod = {"its transfer period is not a number", "run the utility by hand"};
 constexpr Meaning kSlow = {"the disk transfers slower than it can", "check the cable and the backplane",
                            Effect::kErrors};
 constexpr Meaning kBatteryMessage = {"the log reports the battery of the cache", "check the battery", Effect::kBattery};
 
-std::optional<long> ReadCount(std::string_view text) {
-  long number = 0;
-  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() && stop == text.data() + text.size() ? std::optional(number) : std::nullopt;
-}
+bool Reaches(std::uint64_t count, unsigned limit) { return count >= limit && count > 0; }
 
-bool Reaches(std::optional<long> count, std::optional<unsigned> limit) {
-  return count && limit && *count >= static_cast<long>(*limit) && *count > 0;
-}
+// A text that a utility printed in place of a number.
+bool IsNoNumber(const std::string& text) { return !text.empty() && !ReadCount(text); }
 
-Finding OfInstance(const InstanceList& instances, std::size_t place, std::string_view property, std::string text,
+Finding OfInstance(const InstanceList& instances, std::size_t place, Severity severity, std::string_view property,
                    const Meaning& meaning) {
   const TPublishedInstance& instance = *instances[place];
-  return {Severity::kWarning,
+  return {severity,
           std::string(instance.Class().name),
           IdentifierOf(instance),
           NameOf(instance, ""),
           std::string(property),
-          std::move(text),
+          RawText(instance, property),
           meaning,
           place};
 }
@@ -64,19 +60,30 @@ constexpr Counter kCounters[] = {
 
 void AddCounters(const InstanceList& instances, std::size_t place, const Limits& limits, Findings& findings) {
   for (const Counter& counter : kCounters) {
+    const std::optional<unsigned> limit = limits.*counter.limit;
+    if (!limit) continue;
     const std::string text = RawText(*instances[place], counter.property);
-    if (!Reaches(ReadCount(text), limits.*counter.limit)) continue;
-    findings.push_back(OfInstance(instances, place, counter.property, text, counter.meaning));
+    if (IsNoNumber(text)) {
+      findings.push_back(OfInstance(instances, place, Severity::kUnknown, counter.property, kNoCount));
+    } else if (Reaches(ReadCount(text).value_or(0), *limit)) {
+      findings.push_back(OfInstance(instances, place, Severity::kWarning, counter.property, counter.meaning));
+    }
   }
 }
 
 // The values are periods: a longer one is slower.
 void AddTransfer(const InstanceList& instances, std::size_t place, const Limits& limits, Findings& findings) {
-  const std::string current = RawText(*instances[place], "Cur_Txer_p");
-  const auto shortest = ReadCount(RawText(*instances[place], "Max_Txer_P"));
-  const auto period = ReadCount(current);
-  if (!shortest || !period || !Reaches(*period - *shortest, limits.slowTransfer)) return;
-  findings.push_back(OfInstance(instances, place, "Cur_Txer_p", current, kSlow));
+  constexpr std::string_view kCurrent = "Cur_Txer_p";
+  constexpr std::string_view kShortest = "Max_Txer_P";
+  if (!limits.slowTransfer) return;
+  for (const std::string_view property : {kCurrent, kShortest}) {
+    if (!IsNoNumber(RawText(*instances[place], property))) continue;
+    findings.push_back(OfInstance(instances, place, Severity::kUnknown, property, kNoPeriod));
+  }
+  const auto current = ReadCount(RawText(*instances[place], kCurrent));
+  const auto shortest = ReadCount(RawText(*instances[place], kShortest));
+  if (!current || !shortest || *current < *shortest || !Reaches(*current - *shortest, *limits.slowTransfer)) return;
+  findings.push_back(OfInstance(instances, place, Severity::kWarning, kCurrent, kSlow));
 }
 
 // "2026-03-05 12:30:15 +01:00".
@@ -96,7 +103,7 @@ std::optional<std::chrono::sys_days> DayOf(const std::string& time) {
 bool IsRecent(const std::string& event, const std::string& now, std::optional<unsigned> days) {
   const auto then = DayOf(event);
   const auto today = DayOf(now);
-  return days && then && today && (*today - *then).count() <= static_cast<long>(*days);
+  return days && then && today && (*today - *then).count() <= std::int64_t{*days};
 }
 
 void AddBatteryMessage(const InstanceList& instances, std::size_t place, const QueryHeader& header,
@@ -104,7 +111,7 @@ void AddBatteryMessage(const InstanceList& instances, std::size_t place, const Q
   const TPublishedInstance& event = *instances[place];
   if (!IsBatteryMessage(header, event)) return;
   const std::string time = ShownText(event, "MessageTimestamp");
-  Finding finding = OfInstance(instances, place, "Message", RawText(event, "Message"), kBatteryMessage);
+  Finding finding = OfInstance(instances, place, Severity::kWarning, "Message", kBatteryMessage);
   finding.identifier = RawText(event, "RecordID");
   finding.name = "RAID manager, " + time.substr(0, time.find(' '));
   findings.push_back(std::move(finding));

@@ -173,16 +173,21 @@ struct DiskHeadline {
 
 // The first row whose effect the disk has is used.
 constexpr DiskHeadline kDiskHeadlines[] = {
-    {Effect::kDiskMissing, "",                "is missing"                       },
-    {Effect::kDiskFailed,  "",                "has failed"                       },
-    {Effect::kPredicted,   "",                "predicts its failure"             },
-    {Effect::kErrors,      "NumHardErrors",   "reports hard errors: {}"          },
-    {Effect::kErrors,      "NumSoftErrors",   "reports soft errors: {}"          },
-    {Effect::kErrors,      "NumParityErrors", "reports parity errors: {}"        },
-    {Effect::kErrors,      "Cur_Txer_p",      "transfers slower than it can"     },
-    {Effect::kRebuilding,  "",                "is being rebuilt"                 },
-    {Effect::kUnread,      "",                "is of a type that is not known"   },
-    {Effect::kOther,       "",                "has a state that is not known: {}"},
+    {Effect::kDiskMissing, "",                "is missing"                              },
+    {Effect::kDiskFailed,  "",                "has failed"                              },
+    {Effect::kPredicted,   "",                "predicts its failure"                    },
+    {Effect::kErrors,      "NumHardErrors",   "reports hard errors: {}"                 },
+    {Effect::kErrors,      "NumSoftErrors",   "reports soft errors: {}"                 },
+    {Effect::kErrors,      "NumParityErrors", "reports parity errors: {}"               },
+    {Effect::kErrors,      "Cur_Txer_p",      "transfers slower than it can"            },
+    {Effect::kRebuilding,  "",                "is being rebuilt"                        },
+    {Effect::kUnread,      "",                "is of a type that is not known"          },
+    {Effect::kOther,       "NumHardErrors",   "has an unreadable hard error count: {}"  },
+    {Effect::kOther,       "NumSoftErrors",   "has an unreadable soft error count: {}"  },
+    {Effect::kOther,       "NumParityErrors", "has an unreadable parity error count: {}"},
+    {Effect::kOther,       "Cur_Txer_p",      "has an unreadable transfer period: {}"   },
+    {Effect::kOther,       "Max_Txer_P",      "has an unreadable transfer period: {}"   },
+    {Effect::kOther,       "",                "has a state that is not known: {}"       },
 };
 
 // The finding that a headline is about; null if there is none.

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <system_error>
 
 #include "host/hxacore/ignore_case.h"
@@ -58,6 +59,13 @@ std::optional<double> LeadingNumber(std::string_view text) {
 }
 
 bool IsDigits(std::string_view text) { return !text.empty() && text.find_first_not_of("0123456789") == text.npos; }
+
+std::optional<std::uint64_t> ReadCount(std::string_view text) {
+  if (!IsDigits(text)) return std::nullopt;
+  std::uint64_t count = 0;
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), count);
+  return error == std::errc::result_out_of_range ? std::numeric_limits<std::uint64_t>::max() : count;
+}
 
 std::string WithSingleBlanks(std::string_view text) {
   std::string words;

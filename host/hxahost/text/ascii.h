@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,5 +39,8 @@ std::optional<double> LeadingNumber(std::string_view text);
 
 // Whether the text is a decimal number without a sign.
 bool IsDigits(std::string_view text);
+
+// A number without a sign; one beyond the range is the greatest.
+std::optional<std::uint64_t> ReadCount(std::string_view text);
 
 }  // namespace hxahost

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <set>
 #include <string>
 #include <string_view>
@@ -70,24 +69,28 @@ void AddUnit(const std::string& controller, const ControllerUnit& unit, Figures&
   }
 }
 
-// Sums for each controller: a label for each disk would be too many.
+// Sums for each controller: a label for each disk would be too many. Sums of the greatest counts are beyond integers.
 void AddCounts(const std::string& name, const Controller& controller, Figures& figures) {
-  std::uint64_t badStripes = 0;
-  for (const LogicalDrive& drive : controller.logicalDrives) badStripes += drive.badStripes.value_or(0);
-  if (!controller.logicalDrives.empty()) figures.Add(name + " bad stripes", static_cast<double>(badStripes));
-  ErrorCounts sum;
+  double badStripes = 0;
+  for (const LogicalDrive& drive : controller.logicalDrives) {
+    badStripes += static_cast<double>(drive.badStripes.value_or(0));
+  }
+  if (!controller.logicalDrives.empty()) figures.Add(name + " bad stripes", badStripes);
+  double hard = 0;
+  double soft = 0;
+  double parity = 0;
   bool isCounted = false;
   for (const Device& device : controller.devices) {
     if (!device.errors) continue;
     isCounted = true;
-    sum.hard += device.errors->hard;
-    sum.soft += device.errors->soft;
-    sum.parity += device.errors->parity;
+    hard += static_cast<double>(device.errors->hard);
+    soft += static_cast<double>(device.errors->soft);
+    parity += static_cast<double>(device.errors->parity);
   }
   if (!isCounted) return;
-  figures.Add(name + " hard errors", static_cast<double>(sum.hard), "c");
-  figures.Add(name + " soft errors", static_cast<double>(sum.soft), "c");
-  figures.Add(name + " parity errors", static_cast<double>(sum.parity), "c");
+  figures.Add(name + " hard errors", hard, "c");
+  figures.Add(name + " soft errors", soft, "c");
+  figures.Add(name + " parity errors", parity, "c");
 }
 
 std::string FurtherFigures(const HealthReport& report) {
