@@ -95,6 +95,7 @@ Bundle Planted() {
       "   Logical drive name : Cellar 10.1.2.3 Grumbold\n   Logical drive name : Smyrnov & Zonk\n"
       "   Logical drive name : Schlo\u00dfgarten\n   Transfer Speed : Serial ATA 3.0 Gb/s\n"
       "   Unit Serial number : QUIBSER77A\n * Controller Serial Number : WOMBAT9921\n < Serial number : ANGLED77\n"
+      "   CHASSIS SERIAL NUMBER : CAPITAL77\n   rack serial number = equally77\n"
       "   Vendor : NORDVIK  Serial number : DOUBLET77  World-wide name : TWOFOLD88\n"
       "   Device is a Hard drive\n   Device ID : TALVERA T36LW10 S96H8D55667\n"
       "   Device is a Tape\n   Device ID : TALVERA T36LW10 S96H8D55668\n   Device ID : ORBITEK DAT72LP         A119\n";
@@ -125,6 +126,7 @@ Bundle Planted() {
   bundle.raidLog->bytes =
       "day\tINF\tMUMBLEBY\tBrindlesop of PLIMSOL, s96h8b01234 without 8b01234\r\n"
       "2007/03/06 08:00:01 PST INF GRIMHOLT the agent of mumbleby: 5000f0a1 by ombersley@grimholt\r\n"
+      "day\tERR\tMUMBLEBY\tDrive 2 is lost, serial Number: LOGGED77\r\n"
       "day\tINF\tMUMBLEBY\tVersion 5.2.0.15611 asked 10.20.30.40, fe80::21b:21FF:feaa:bbcf: no answer\r\n";
   bundle.raidLog->failure =
       RecordedFailure{FailureKind::kHost, "\"D:\\WEXLOGS\\RaidEvtA.log\" is in use by jo zandrik"};
@@ -187,6 +189,9 @@ TEST(BundleMask, LeavesNoNameNumberOrAddressOfAnyFieldAnywhere) {
       "quibser77a",
       "wombat9921",
       "angled77",
+      "capital77",
+      "equally77",
+      "logged77",
       "doublet77",
       "twofold88",
       "8d55667",
@@ -241,7 +246,7 @@ TEST(BundleMask, LeavesModelsStatesAndFixedLines) {
         "version : 4.2.10.2\n", "BIOS 4.2.10.3/4.2.10.4, not 1.4.2.10.5\n", "Version 5.2.0.15611 asked ",
         "2007/03/06 08:00:01 PST INF ", "Speed : Serial ATA 3.0 Gb/s\n", "DAT72LP         A119\n",
         "[00009] 0005:17:54:33 dump 001B21AABBC7 ::12, 1000-2000-3000-4000: 12345678ABCDEF01\n",
-        "   Vendor : NORDVIK  Serial number : "}) {
+        "   Vendor : NORDVIK  Serial number : ", "   rack serial number = ", "Drive 2 is lost, serial Number: "}) {
     EXPECT_THAT(text, HasSubstr(kept));
   }
 }

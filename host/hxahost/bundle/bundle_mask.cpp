@@ -55,6 +55,7 @@ class Masking {
     for (const Span& span : places.secrets) secrets_.Add(text.substr(span.begin, span.length));
   }
   void LearnToolText(std::string_view text) { Learn(text, FindInToolText(text, scope_)); }
+  void LearnRaidLog(std::string_view text) { Learn(text, FindInRaidLog(text, scope_)); }
 
   // The folder and its parts, except parts that consist of words of the tools, because these occur everywhere.
   void LearnFolder(std::string_view folder) {
@@ -118,6 +119,7 @@ class Masking {
   }
 
   void MaskToolText(std::string& text) { MaskText(text, FindInToolText(text, scope_)); }
+  void MaskRaidLog(std::string& text) { MaskText(text, FindInRaidLog(text, scope_)); }
 
   // A sentence of the system or the host.
   void MaskProse(std::string& text) { MaskText(text, {{}, {{0, text.size()}}}); }
@@ -147,7 +149,7 @@ void LearnAll(const Bundle& bundle, Masking& masking) {
   masking.LearnFolder(bundle.directory);
   if (bundle.raidLogDir) masking.LearnFolder(*bundle.raidLogDir);
   for (const RecordedRun& run : bundle.runs) masking.LearnToolText(run.result.output);
-  if (bundle.raidLog) masking.Learn(bundle.raidLog->bytes, FindInRaidLog(bundle.raidLog->bytes));
+  if (bundle.raidLog) masking.LearnRaidLog(bundle.raidLog->bytes);
   masking.SortSecrets();
 }
 
@@ -169,7 +171,7 @@ Bundle MaskBundle(Bundle bundle, RandomSource random, MaskScope scope) {
   for (RecordedRun& run : bundle.runs) MaskRun(run, masking);
   if (!bundle.raidLog) return bundle;
   RecordedLog& log = *bundle.raidLog;
-  masking.MaskText(log.bytes, FindInRaidLog(log.bytes));
+  masking.MaskRaidLog(log.bytes);
   masking.MaskPath(log.path, folder.value_or(""));
   if (log.failure) masking.MaskProse(log.failure->message);
   return bundle;

@@ -26,7 +26,7 @@ struct SecretPlaces {
 // in its logs.
 SecretPlaces FindInToolText(std::string_view text, MaskScope scope);
 
-// In the RAID manager's log: the column with the machine's name. Its messages are prose.
-SecretPlaces FindInRaidLog(std::string_view text);
+// In the RAID manager's log: the column with the machine's name, and the values of the labels. Its messages are prose.
+SecretPlaces FindInRaidLog(std::string_view text, MaskScope scope);
 
 }  // namespace hxahost
