@@ -4,6 +4,7 @@
 #include <chrono>
 #include <memory>
 #include <string_view>
+#include <system_error>
 
 #include <fmt/core.h>
 #include <CLI/CLI.hpp>
@@ -95,10 +96,14 @@ CLI::Option* AddPath(CLI::App& command, const std::string& name, const std::stri
   return command.add_option_function<std::string>(name, read, description)->type_name(type);
 }
 
-// "-" is standard output: an empty path.
+// "-" is standard output, and so is its file, which would be replaced otherwise: an empty path.
 CLI::Option* AddOutputPath(CLI::App& command, const std::string& name, const std::string& type,
                            std::filesystem::path& path, const std::string& description) {
-  const auto read = [&path](const std::string& text) { path = text == kStandardStream ? "" : PathFromUtf8(text); };
+  const auto read = [&path](const std::string& text) {
+    std::error_code notThere;
+    path = PathFromUtf8(text);
+    if (path == kStandardStream || std::filesystem::equivalent(path, "/dev/stdout", notThere)) path.clear();
+  };
   return command.add_option_function<std::string>(name, read, description)->type_name(type);
 }
 
