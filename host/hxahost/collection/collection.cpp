@@ -14,6 +14,7 @@
 #include "host/hxahost/bundle/bundle_mask.h"
 #include "host/hxahost/bundle/write_bundle.h"
 #include "host/hxahost/collection/writable_tools.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/input_file.h"
 #include "host/hxahost/system/terminal.h"
 #include "host/hxahost/system/this_program.h"
@@ -75,9 +76,7 @@ std::optional<CollectionLock> TakeLock(const CollectionOptions& options, std::os
 
 // The folder of the bundle, which has room for it; the system's folder if the bundle is not written to a file.
 fs::path ScratchFolder(const fs::path& bundle) {
-  std::error_code ignored;
-  const bool isFile =
-      bundle != kStandardStream && (!fs::exists(bundle, ignored) || fs::is_regular_file(bundle, ignored));
+  const bool isFile = bundle != kStandardStream && !IsDevice(bundle);
   return isFile ? bundle.parent_path() : fs::temp_directory_path();
 }
 

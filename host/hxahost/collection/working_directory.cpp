@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
 
@@ -21,7 +22,7 @@ void CheckWorkingDirectory() {
 
 void EnterDirectory(const fs::path& directory) {
   std::error_code error;
-  if (!directory.empty()) fs::current_path(directory, error);
+  if (!directory.empty()) fs::current_path(AbsolutePath(directory), error);
   if (error) {
     throw ProgramError(ExitStatus::kWrongArguments,
                        "--directory " + Printable(Utf8FromPath(directory)) +

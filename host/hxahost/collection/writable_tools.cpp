@@ -6,6 +6,7 @@
 
 #include <fmt/core.h>
 
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/file_rights.h"
 #include "host/hxahost/text/escaping.h"
 #include "host/hxahost/text/utf8.h"
@@ -27,8 +28,8 @@ std::vector<fs::path> EntriesBelow(const fs::path& top) {
   while (!folders.empty() && found.size() <= kMostFiles) {
     const fs::path folder = folders.back();
     folders.pop_back();
+    if (!seen.insert(PlaceOf(folder)).second) continue;
     std::error_code failure;
-    if (!seen.insert(fs::canonical(folder, failure)).second) continue;
     for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
       found.push_back(entry->path());
       std::error_code unknown;

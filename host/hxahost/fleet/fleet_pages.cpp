@@ -15,6 +15,7 @@
 #include "host/hxahost/fleet/read_fleet.h"
 #include "host/hxahost/result/property_values.h"
 #include "host/hxahost/system/exit_status.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/output_file.h"
 #include "host/hxahost/text/ascii.h"
 #include "host/hxahost/text/escaping.h"
@@ -119,7 +120,7 @@ void WritePages(FleetInputs& inputs, const Limits& limits, const Fleet& fleet, c
 }
 
 std::string LinkBetween(const fs::path& from, const fs::path& to) {
-  const auto whole = [](const fs::path& path) { return fs::absolute(path.empty() ? "." : path).lexically_normal(); };
+  const auto whole = [](const fs::path& path) { return AbsolutePath(path.empty() ? "." : path).lexically_normal(); };
   const fs::path path = whole(to).lexically_proximate(whole(from));
   const std::u8string generic = path.generic_u8string();
   std::string link;

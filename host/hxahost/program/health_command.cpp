@@ -11,6 +11,7 @@
 #include "host/hxahost/machine/kept_events.h"
 #include "host/hxahost/program/formats.h"
 #include "host/hxahost/program/query_command.h"
+#include "host/hxahost/system/file_place.h"
 #include "host/hxahost/system/no_memory.h"
 #include "host/hxahost/system/output_file.h"
 #include "host/hxahost/views/json/json_view.h"
@@ -29,7 +30,7 @@ struct Verdict {
 class Baseline {
  public:
   explicit Baseline(const std::filesystem::path& path) {
-    if (!path.empty()) file_.emplace(std::filesystem::absolute(path), "--save-baseline");
+    if (!path.empty()) file_.emplace(AbsolutePath(path), "--save-baseline");
   }
 
   void Add(const QueryHeader& header, const NKVRHXA20::TPublishedInstance& instance) {

@@ -97,7 +97,7 @@ QueryOptions WithAbsolutePaths(const QueryOptions& typed) {
   CollectionOptions& collection = options.collection;
   for (fs::path* const path : {&collection.plugin, &collection.log, &collection.record, &collection.replay,
                                &options.output, &options.baseline, &options.saveBaseline}) {
-    if (!path->empty() && *path != kStandardStream) *path = fs::absolute(*path);
+    if (!path->empty() && *path != kStandardStream) *path = AbsolutePath(*path);
   }
   return options;
 }

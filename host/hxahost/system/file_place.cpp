@@ -13,34 +13,16 @@ namespace hxahost {
 
 namespace {
 
-// Links may lead round in a circle.
-constexpr int kMostLinks = 40;
-
 std::string Text(const NamedFile& file) {
   return (file.option.empty() ? "" : file.option + " ") + Printable(Utf8FromPath(file.path));
 }
 
 // A standard stream, a device or a pipe may be named more than once.
 bool IsFile(const NamedFile& file) {
-  std::error_code error;
-  return !file.path.empty() && file.path != kStandardStream && !fs::is_other(file.path, error);
+  return !file.path.empty() && file.path != kStandardStream && !IsDevice(file.path);
 }
 
 }  // namespace
-
-fs::path PlaceOf(const fs::path& path) {
-  std::error_code error;
-  fs::path place = fs::absolute(path, error);
-  for (int links = 0; !error && links < kMostLinks; ++links) {
-    const fs::path resolved = fs::weakly_canonical(place, error);
-    if (error) break;
-    place = resolved;
-    const fs::path target = fs::read_symlink(place, error);
-    if (error) return place;  // no link
-    place = place.parent_path() / target;
-  }
-  return path;
-}
 
 bool LeadToOneFile(const fs::path& one, const fs::path& other) {
   std::error_code error;

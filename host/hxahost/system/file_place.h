@@ -6,9 +6,16 @@
 
 namespace hxahost {
 
-// Where a path leads: absolute and through all links, also through one to a file that is not there yet. A link that the
-// system does not follow stays.
+// The path from the root. The standard library for Windows takes a network share for a folder of the current drive, and
+// a device for a file; this function does not. Unchanged if the system knows no such path.
+std::filesystem::path AbsolutePath(const std::filesystem::path& path);
+
+// Where a path leads: absolute and, on POSIX systems, through all links, also through one to a file that is not there
+// yet. A link that the system does not follow stays.
 std::filesystem::path PlaceOf(const std::filesystem::path& path);
+
+// Whether what is there is written directly and can be named twice: a device or a pipe.
+bool IsDevice(const std::filesystem::path& path);
 
 // Whether two paths lead to one file, which need not be there.
 bool LeadToOneFile(const std::filesystem::path& one, const std::filesystem::path& other);

@@ -45,12 +45,6 @@ void RemoveAbandoned(const fs::path& path) {
   }
 }
 
-bool IsDevice(const fs::path& path) {
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  return fs::exists(status) && !fs::is_regular_file(status);
-}
-
 fs::path NameMeanwhile(const fs::path& path) {
   fs::path name = path;
   name += "." + std::to_string(ProcessId()) + std::string(kPart);
@@ -69,7 +63,9 @@ void RejectOutput(const std::string& option, const fs::path& path, const std::st
 
 OutputFile::OutputFile(const fs::path& path, std::string option)
     : option_(std::move(option)), path_(PlaceOf(path)), stream_(nullptr) {
-  if (IsDevice(path_)) {
+  if (!path_.has_root_directory()) RejectOutput(option_, path, "");  // on Windows, a blank is no name
+  std::error_code error;
+  if (IsDevice(path_) || fs::is_directory(path_, error)) {
     if (device_.open(path_, std::ios::out | std::ios::binary) != nullptr) stream_.rdbuf(&device_);
   } else {
     stream_.rdbuf(file_.emplace(NameMeanwhile(path_), path_).Buffer());

@@ -33,6 +33,7 @@ TEST(FilePlacePosix, OfACircleOfLinksIsTheLinkItself) {
 }
 
 TEST(FilePlacePosix, OfADeviceMayBeNamedTwice) {
+  EXPECT_TRUE(IsDevice("/dev/null"));
   const NamedFile output{"--output", "/dev/null"};
   EXPECT_NO_THROW(CheckOutput({"--record", "/dev/null"}, {output}));
 }

@@ -7,6 +7,7 @@
 #include <aclapi.h>
 
 #include "host/hxahost/system/windows/access_list.h"
+#include "host/hxahost/system/windows/path_prefix.h"
 
 namespace fs = std::filesystem;
 
@@ -36,8 +37,7 @@ bool IsLink(const fs::path& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
 
-// The path after all links; empty if the system does not report it. It returns "\\?\C:\tools" or
-// "\\?\UNC\server\share".
+// The path after all links; empty if the system does not report it.
 fs::path FinalPath(const fs::path& path) {
   constexpr DWORD kAllShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const HANDLE file =
@@ -46,9 +46,7 @@ fs::path FinalPath(const fs::path& path) {
   std::wstring name(32768, L'\0');  // no path is longer
   name.resize(GetFinalPathNameByHandleW(file, name.data(), static_cast<DWORD>(name.size()), FILE_NAME_NORMALIZED));
   CloseHandle(file);
-  if (name.starts_with(L"\\\\?\\UNC\\")) return L"\\\\" + name.substr(8);
-  if (name.starts_with(L"\\\\?\\")) return name.substr(4);
-  return name;
+  return WithoutPrefix(name);
 }
 
 }  // namespace
