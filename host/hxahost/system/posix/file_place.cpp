@@ -21,8 +21,7 @@ fs::path AbsolutePath(const fs::path& path) {
 
 fs::path PlaceOf(const fs::path& path) {
   std::error_code error;
-  const fs::path absolute = AbsolutePath(path);
-  fs::path place = absolute;
+  fs::path place = AbsolutePath(path);
   for (int links = 0; links < kMostLinks; ++links) {
     const fs::path resolved = fs::weakly_canonical(place, error);
     if (error) break;
@@ -31,7 +30,7 @@ fs::path PlaceOf(const fs::path& path) {
     if (error) return place;  // no link
     place = place.parent_path() / target;
   }
-  return absolute;
+  return AbsolutePath(path);
 }
 
 bool IsDevice(const fs::path& path) {
